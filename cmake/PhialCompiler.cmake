@@ -1,0 +1,33 @@
+# Compiler settings shared by all targets of this project; consumers of the installed package inherit none of them.
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "" FORCE)
+endif()
+
+find_program(PHIAL_CCACHE ccache)
+if(PHIAL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    # The base folder makes paths relative, so that every checkout shares the cache.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=time_macros
+        ${PHIAL_CCACHE})
+endif()
+
+add_library(phial_compiler INTERFACE)
+target_compile_options(phial_compiler INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
+    -Werror -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+if(PHIAL_SANITIZE)
+    target_compile_options(phial_compiler INTERFACE
+        -fsanitize=${PHIAL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(phial_compiler INTERFACE -fsanitize=${PHIAL_SANITIZE})
+endif()
+if(PHIAL_FUZZ)
+    target_compile_options(phial_compiler INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+# Gives a target of this project its compiler settings.
+function(phial_settings target)
+    target_compile_features(${target} PUBLIC cxx_std_20)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:phial_compiler>)
+endfunction()

@@ -1,0 +1,1 @@
+# Installs libraries, headers and the CMake package that find_package(Phial) reads.
