@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+
+namespace phial
+{
+
+/// A colour: 0x00BBGGRR, or 0x800000nn for slot nn of the desktop's colours, which stays symbolic until it is
+/// painted.
+struct Colour {
+    std::uint32_t value = 0;
+
+    constexpr Colour() = default;
+    constexpr explicit Colour(std::uint32_t packed) : value(packed) {}
+
+    constexpr bool isSystem() const { return (value & 0x80000000U) != 0; }
+    constexpr std::uint8_t red() const { return static_cast<std::uint8_t>(value & 0xFFU); }
+    constexpr std::uint8_t green() const { return static_cast<std::uint8_t>((value >> 8U) & 0xFFU); }
+    constexpr std::uint8_t blue() const { return static_cast<std::uint8_t>((value >> 16U) & 0xFFU); }
+
+    friend constexpr bool operator==(Colour, Colour) = default;
+};
+
+/// Colour slots of the desktop that the system uses.
+namespace SystemColour
+{
+inline constexpr Colour ScrollBar{0x80000000U};
+inline constexpr Colour Desktop{0x80000001U};
+inline constexpr Colour Window{0x80000005U};
+inline constexpr Colour WindowText{0x80000008U};
+inline constexpr Colour Highlight{0x8000000DU};
+inline constexpr Colour HighlightText{0x8000000EU};
+inline constexpr Colour ButtonFace{0x8000000FU};
+inline constexpr Colour ButtonShadow{0x80000010U};
+inline constexpr Colour GrayText{0x80000011U};
+inline constexpr Colour ButtonText{0x80000012U};
+} // namespace SystemColour
+
+/// Red, green and blue, each 0 to 255; values outside are clamped.
+constexpr Colour RGB(int red, int green, int blue)
+{
+    const auto clamp = [](int part) {
+        return static_cast<std::uint32_t>(part < 0 ? 0 : part > 255 ? 255 : part);
+    };
+    return Colour{clamp(red) | (clamp(green) << 8U) | (clamp(blue) << 16U)};
+}
+
+/// The classic table of 16 colours; raises 5 for an index outside 0 to 15.
+Colour QBColor(int index);
+
+/// What a system slot stands for when no desktop is asked (headless, tests); a plain colour gives itself.
+Colour defaultColour(Colour colour);
+
+} // namespace phial

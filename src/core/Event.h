@@ -1,0 +1,111 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace phial
+{
+
+/// Holds a handler connected to an event; ends the connection when it goes. Movable; safe after the event's
+/// end.
+class [[nodiscard]] Connection
+{
+public:
+    Connection() = default;
+    explicit Connection(std::function<void()> disconnect) : disconnect_(std::move(disconnect)) {}
+    Connection(Connection&& other) noexcept : disconnect_(std::exchange(other.disconnect_, nullptr)) {}
+    Connection& operator=(Connection&& other) noexcept
+    {
+        if (this != &other) {
+            disconnect();
+            disconnect_ = std::exchange(other.disconnect_, nullptr);
+        }
+        return *this;
+    }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection() { disconnect(); }
+
+    void disconnect()
+    {
+        if (auto end = std::exchange(disconnect_, nullptr)) {
+            end();
+        }
+    }
+
+private:
+    std::function<void()> disconnect_;
+};
+
+/// An event: handlers run in the order in which they were connected.
+///
+/// An emission survives whatever its handlers do: a handler that is disconnected meanwhile does not run any
+/// more, one connected meanwhile runs from the next emission on, and the emitter may be destroyed. A
+/// handler's exception ends the emission and passes to the emitter's caller.
+template <typename... Args>
+class Event
+{
+public:
+    using Handler = std::function<void(Args...)>;
+
+    Event() = default;
+    Event(const Event&) = delete;
+    Event& operator=(const Event&) = delete;
+
+    [[nodiscard]] Connection connect(Handler handler)
+    {
+        auto slot = std::make_shared<Slot>(Slot{std::move(handler)});
+        slots_->push_back(slot);
+        return Connection([slots = std::weak_ptr<Slots>(slots_), slot] {
+            slot->connected = false;
+            if (auto list = slots.lock()) {
+                std::erase(*list, slot);
+            }
+        });
+    }
+
+    void emit(Args... args) const
+    {
+        if (slots_->empty()) {
+            return;
+        }
+        const Slots current = *slots_;
+        for (const auto& slot : current) {
+            if (slot->connected) {
+                slot->handler(args...);
+            }
+        }
+    }
+
+    bool hasHandlers() const { return !slots_->empty(); }
+
+private:
+    struct Slot {
+        Handler handler;
+        bool connected = true;
+    };
+    using Slots = std::vector<std::shared_ptr<Slot>>;
+
+    std::shared_ptr<Slots> slots_ = std::make_shared<Slots>();
+};
+
+/// Connections kept together, for the owner of many handlers.
+class Connections
+{
+public:
+    Connections& operator+=(Connection connection)
+    {
+        list_.push_back(std::move(connection));
+        return *this;
+    }
+    void clear() { list_.clear(); }
+
+private:
+    std::vector<Connection> list_;
+};
+
+} // namespace phial
