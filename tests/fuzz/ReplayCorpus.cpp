@@ -39,7 +39,8 @@ Bytes contentOf(const fs::path& file)
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
-// An exception that leaves the target is a finding, as it is under libFuzzer; the input's name is printed first.
+// An exception that leaves the target is a finding, as it is under libFuzzer; the input's name is printed
+// first.
 void replay(const fs::path& file)
 {
     const Bytes content = contentOf(file);
