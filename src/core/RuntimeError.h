@@ -16,6 +16,8 @@ enum class ErrorNumber : std::int32_t {
     DivisionByZero = 11,
     TypeMismatch = 13,
     FileNotFound = 53,
+    InputPastEnd = 62,
+    FileAccess = 75,
     ObjectNotSet = 91,
     NoSuchMember = 438,
 };

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <memory>
+
+namespace phial
+{
+
+class Clock;
+class CoreCursors;
+class CoreDialogs;
+class CoreDisplay;
+class CoreFolders;
+class CoreFormDocument;
+class CoreMachine;
+class CoreNetClient;
+class CoreSoundFacet;
+class CoreTextBoxOps;
+class CoreWindowOps;
+class Environment;
+class EventPump;
+class FileSystem;
+class InterCom;
+class RandomSource;
+class RecordFiles;
+class SettingsStore;
+class Shell;
+
+/// The outside as one bundle: what a program or a test hands to its session. Each entry may be left out; the
+/// comment tells what stands in for it.
+struct Platform {
+    /// Left out: asking for it raises 91.
+    std::shared_ptr<CoreDialogs> dialogs;
+    std::shared_ptr<CoreFolders> folders;
+    std::shared_ptr<CoreMachine> machine;
+
+    /// Left out: nothing is found, nothing happens, False is answered; the pointer is at 0, 0.
+    std::shared_ptr<CoreWindowOps> windows;
+    std::shared_ptr<CoreDisplay> display;
+    std::shared_ptr<CoreCursors> cursors;
+    std::shared_ptr<CoreSoundFacet> sound;
+    std::shared_ptr<CoreTextBoxOps> textBoxes;
+    std::shared_ptr<Shell> shell;
+    /// Left out: settings live in memory, for the session.
+    std::shared_ptr<SettingsStore> settings;
+
+    /// Left out: those of the process and of the standard library. The pump then runs timers and posted tasks
+    /// on `clock`.
+    std::shared_ptr<Clock> clock;
+    std::shared_ptr<EventPump> pump;
+    std::shared_ptr<Environment> environment;
+    std::shared_ptr<RandomSource> random;
+    std::shared_ptr<FileSystem> files;
+
+    /// Left out: records are neither read nor written (5).
+    std::shared_ptr<RecordFiles> records;
+
+    /// Makers of what is new each time. Left out: making one raises 91; the messenger alone is then one that
+    /// reaches nobody.
+    std::function<std::shared_ptr<CoreNetClient>()> newNetClient;
+    std::function<std::shared_ptr<CoreFormDocument>()> newFormDocument;
+    std::function<std::shared_ptr<InterCom>()> newInterCom;
+
+    /// Takes the error with which a handler ended at its dispatch. Left out: it is written to standard error.
+    std::function<void(const std::exception&)> reportError;
+};
+
+/// The bundle with everything filled in that has something to stand in for it.
+Platform withDefaults(Platform platform);
+
+} // namespace phial
