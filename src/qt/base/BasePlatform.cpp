@@ -1,0 +1,30 @@
+#include "qt/base/BasePlatform.h"
+
+#include "qt/base/LocalInterCom.h"
+#include "qt/base/QtClock.h"
+#include "qt/base/QtEnvironment.h"
+#include "qt/base/QtEventPump.h"
+#include "qt/base/QtFolders.h"
+#include "qt/base/QtMachine.h"
+#include "qt/base/QtRandom.h"
+#include "qt/base/QtSettingsStore.h"
+
+namespace phial::qt
+{
+
+Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard)
+{
+    Platform platform;
+    platform.clock = std::make_shared<QtClock>();
+    platform.pump = std::make_shared<QtEventPump>(guard);
+    platform.environment = std::make_shared<QtEnvironment>();
+    platform.random = std::make_shared<QtRandom>();
+    platform.folders = std::make_shared<QtFolders>();
+    platform.machine = std::make_shared<QtMachine>();
+    platform.settings = std::make_shared<QtSettingsStore>();
+    platform.newInterCom = [] { return std::make_shared<LocalInterCom>(); };
+    platform.reportError = [guard](const std::exception& error) { guard->report(error); };
+    return platform;
+}
+
+} // namespace phial::qt

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "core/Platform.h"
+#include "qt/base/DispatchGuard.h"
+
+#include <memory>
+
+namespace phial::qt
+{
+
+/// The part of the outside that needs no display: clock, event loop, environment, random numbers, folders,
+/// machine, settings, messages between programs. Errors of handlers go to the guard. Needs an application
+/// object while events run.
+Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard);
+
+} // namespace phial::qt

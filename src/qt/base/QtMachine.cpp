@@ -1,0 +1,45 @@
+#include "qt/base/QtMachine.h"
+
+#include "qt/base/QtText.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QOperatingSystemVersion>
+#include <QSysInfo>
+#include <QUuid>
+
+namespace phial::qt
+{
+
+String QtMachine::UserName() const
+{
+    for (const char* variable : {"USERNAME", "USER", "LOGNAME"}) {
+        const QString name = qEnvironmentVariable(variable);
+        if (!name.isEmpty()) {
+            return fromQt(name);
+        }
+    }
+    return fromQt(QFileInfo(QDir::homePath()).owner());
+}
+
+String QtMachine::ComputerName() const
+{
+    return fromQt(QSysInfo::machineHostName().section(QLatin1Char('.'), 0, 0));
+}
+
+String QtMachine::OSVersion() const
+{
+#ifdef Q_OS_WIN
+    const auto version = QOperatingSystemVersion::current();
+    return fromQt(QStringLiteral("%1.%2").arg(version.majorVersion()).arg(version.minorVersion()));
+#else
+    return u"6.1";
+#endif
+}
+
+String QtMachine::NewUniqueID(std::int32_t /*pKind*/, std::int32_t /*pOptions*/)
+{
+    return fromQt(QUuid::createUuid().toString(QUuid::WithoutBraces));
+}
+
+} // namespace phial::qt

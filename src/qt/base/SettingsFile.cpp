@@ -1,0 +1,122 @@
+#include "qt/base/SettingsFile.h"
+
+#include "qt/base/QtText.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <chrono>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr qint64 MaxFileSize = 16 * 1024 * 1024;
+constexpr int MaxDamagedFiles = 1000;
+constexpr std::chrono::milliseconds LockPatience{500};
+constexpr auto FileInSuiteFolder = "qv-phial/settings.ini";
+
+// Every line of a sound file is ended, so the last byte tells a file that was cut within a line.
+bool isCutShort(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() == 0) {
+        return false;
+    }
+    return !file.seek(file.size() - 1) || file.read(1) != QByteArrayLiteral("\n");
+}
+
+bool parses(const QString& path)
+{
+    const QSettings settings(path, QSettings::IniFormat);
+    settings.allKeys(); // sections are parsed when first asked for
+    return settings.status() != QSettings::FormatError;
+}
+
+bool isDamaged(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.isReadable() &&
+           (file.size() > MaxFileSize || isCutShort(path) || !parses(path));
+}
+
+void moveAside(const QString& path)
+{
+    for (int number = 1; number <= MaxDamagedFiles; ++number) {
+        if (QFile::rename(path, QStringLiteral("%1.damaged-%2").arg(path).arg(number))) {
+            return;
+        }
+    }
+}
+
+// Looks a second time under the lock that the settings class takes as well: two programs starting at once
+// must not move the file aside that the other one has just begun.
+void moveAsideIfDamaged(const QString& path)
+{
+    if (!isDamaged(path)) {
+        return;
+    }
+    QLockFile lock(path + QStringLiteral(".lock"));
+    const bool locked = lock.tryLock(static_cast<int>(LockPatience.count()));
+    if (locked && isDamaged(path)) {
+        moveAside(path);
+    }
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(const QString& path)
+{
+    moveAsideIfDamaged(path);
+    settings_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
+}
+
+SettingsFile::~SettingsFile() = default;
+
+std::optional<Variant> SettingsFile::read(StringView path) const
+{
+    const QVariant entry = settings_->value(toQt(settingKey(path)));
+    if (entry.typeId() != QMetaType::QString) {
+        return std::nullopt;
+    }
+    return decodeSetting(fromQt(entry.toString()));
+}
+
+void SettingsFile::write(StringView path, const Variant& value)
+{
+    const String key = settingKey(path);
+    const String line = encodeSetting(value);
+    if (!key.empty() && line.size() <= MaxSettingLength && read(path) != value) {
+        settings_->setValue(toQt(key), toQt(line));
+    }
+}
+
+void SettingsFile::flush()
+{
+    settings_->sync();
+}
+
+QString userSettingsPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u'/' +
+           QLatin1String(FileInSuiteFolder);
+}
+
+QString machineSettingsPath()
+{
+    const QStringList places = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
+#ifdef Q_OS_WIN
+    const QString machine = places.value(1); // behind the user's, before those beside the program
+#else
+    const QString machine = places.constLast(); // the desktops' own come before the general one
+#endif
+    return machine + u'/' + QLatin1String(FileInSuiteFolder);
+}
+
+} // namespace phial::qt
