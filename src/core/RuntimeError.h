@@ -22,7 +22,7 @@ enum class ErrorNumber : std::int32_t {
     NoSuchMember = 438,
 };
 
-/// The plain English description of an error number; "Application-defined or object-defined error" for a
+/// The plain English description of an error number; "Unknown error" for a
 /// number outside the table.
 StringView errorDescription(std::int32_t number);
 
