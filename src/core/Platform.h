@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/String.h"
+
 #include <exception>
 #include <functional>
 #include <memory>
@@ -61,6 +63,9 @@ struct Platform {
     std::function<std::shared_ptr<CoreNetClient>()> newNetClient;
     std::function<std::shared_ptr<CoreFormDocument>()> newFormDocument;
     std::function<std::shared_ptr<InterCom>()> newInterCom;
+
+    /// The program's title, as its windows bear it.
+    String programTitle = u"Phial";
 
     /// Takes the error with which a handler ended at its dispatch. Left out: it is written to standard error.
     std::function<void(const std::exception&)> reportError;
