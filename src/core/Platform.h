@@ -28,6 +28,7 @@ class RandomSource;
 class RecordFiles;
 class SettingsStore;
 class Shell;
+class VisualHost;
 
 /// The outside as one bundle: what a program or a test hands to its session. Each entry may be left out; the
 /// comment tells what stands in for it.
@@ -36,6 +37,7 @@ struct Platform {
     std::shared_ptr<CoreDialogs> dialogs;
     std::shared_ptr<CoreFolders> folders;
     std::shared_ptr<CoreMachine> machine;
+    std::shared_ptr<VisualHost> visual;
 
     /// Left out: nothing is found, nothing happens, False is answered; the pointer is at 0, 0.
     std::shared_ptr<CoreWindowOps> windows;

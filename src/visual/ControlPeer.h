@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+
+namespace phial
+{
+
+/// Which side of a control's model has changed.
+enum class ControlAspect : std::int32_t {
+    Geometry,
+    Visibility,
+    Enabled,
+    ZOrder,
+    Focus, ///< the control has taken the focus
+    Pointer,
+    ToolTip,
+    Accessibility, ///< names, roles or rectangles of parts
+    Children,
+    Text,
+    Selection,
+    Style, ///< font, colours, alignment, border, flags
+    Items,
+    Range,
+    Value,
+    Picture, ///< the painted image; reported once until it is fetched
+};
+
+/// The adapter's side of a control: its widget. It reads the model whenever the model says that something has
+/// changed; it never raises events by itself but calls the model's input functions.
+class ControlPeer
+{
+public:
+    virtual ~ControlPeer() = default;
+    virtual void modelChanged(ControlAspect aspect) = 0;
+};
+
+/// Which side of a form's model has changed.
+enum class FormAspect : std::int32_t {
+    Caption,
+    Geometry,
+    WindowState,
+    Visibility,
+    Enabled,
+    Style, ///< back colour, border, icon, pointer, opacity, shape
+    Children,
+    Menu,
+    Focus,
+    ZOrder,
+};
+
+/// The adapter's side of an open form: its window. Its destruction closes the window.
+class FormPeer
+{
+public:
+    virtual ~FormPeer() = default;
+    virtual void modelChanged(FormAspect aspect) = 0;
+};
+
+} // namespace phial

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "core/String.h"
+
+#include <cstdint>
+
+namespace phial
+{
+
+/// Pointer buttons, as bits.
+enum class PointerButton : std::int32_t { None = 0, Left = 1, Right = 2, Middle = 4 };
+
+/// Modifier keys, as bits of `Shift`.
+namespace ShiftMask
+{
+inline constexpr std::int32_t Shift = 1;
+inline constexpr std::int32_t Control = 2;
+inline constexpr std::int32_t Alt = 4;
+} // namespace ShiftMask
+
+/// A press, a move or a release of the pointer. X and Y are pixels from the control's or form's corner,
+/// whatever its scale mode. During a move Button holds the buttons that are down.
+struct PointerEvent {
+    PointerButton Button = PointerButton::Left;
+    std::int32_t Shift = 0;
+    double X = 0;
+    double Y = 0;
+};
+
+/// Codes of keys that are not known by their character. Letters have the code of their capital, digits that
+/// of their sign.
+enum class Key : std::int32_t {
+    None = 0,
+    Backspace = 8,
+    Tab = 9,
+    Return = 13,
+    Escape = 27,
+    Space = 32,
+    PageUp = 33,
+    PageDown = 34,
+    End = 35,
+    Home = 36,
+    Left = 37,
+    Up = 38,
+    Right = 39,
+    Down = 40,
+    Insert = 45,
+    Delete = 46,
+    F1 = 112,
+    F12 = 123,
+};
+
+/// A key going down or up. A handler that sets KeyCode to 0 keeps the key from going further.
+struct KeyEvent {
+    std::int32_t KeyCode = 0;
+    std::int32_t Shift = 0;
+
+    bool is(Key key) const { return KeyCode == static_cast<std::int32_t>(key); }
+};
+
+/// A character typed (Backspace 8, Tab 9, Return 13, Escape 27 among them). A handler may change it; 0 drops
+/// it.
+struct KeyPressEvent {
+    char16_t KeyAscii = 0;
+};
+
+/// The cursor's shape over a form or control. Values outside the named ones show the default.
+enum class MousePointer : std::int32_t {
+    Default = 0,
+    Arrow = 1,
+    Cross = 2,
+    Text = 3,
+    SizeAll = 5,
+    Hourglass = 11,
+    Forbidden = 12,
+    Custom = 99, ///< the picture in MouseIcon
+};
+
+/// What an accessible part is, for screen readers.
+enum class PartRole : std::int32_t { StaticText, Graphic, Button, Cell, Grouping, Editable };
+
+} // namespace phial

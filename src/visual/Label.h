@@ -1,0 +1,75 @@
+#pragma once
+
+#include "visual/Font.h"
+#include "visual/PaintSurface.h"
+#include "visual/UserControl.h"
+
+namespace phial
+{
+
+enum class Alignment : std::int32_t { Left = 0, Right = 1, Centre = 2 };
+enum class BackStyle : std::int32_t { Transparent = 0, Opaque = 1 };
+
+/// Shows a text, with the markup of Markup.h, from its top. A click where nothing is painted counts too.
+class Label final : public UserControl
+{
+public:
+    Label();
+
+    String Caption() const { return caption_; }
+    void Caption(String value);
+    FontPtr Font() const { return font_; }
+    /// Shares the font object; null raises 91.
+    void Font(FontPtr value);
+    Colour ForeColor() const { return foreColor_; }
+    void ForeColor(Colour value);
+    Colour BackColor() const { return backColor_; }
+    void BackColor(Colour value);
+    phial::BackStyle BackStyle() const { return backStyle_; }
+    void BackStyle(phial::BackStyle value);
+    phial::Alignment Alignment() const { return alignment_; }
+    void Alignment(phial::Alignment value);
+    /// The label takes the size of its text; with WordWrap the width stays and the height follows.
+    bool AutoSize() const { return autoSize_; }
+    void AutoSize(bool value);
+    bool WordWrap() const { return wordWrap_; }
+    void WordWrap(bool value);
+
+    Event<> Click;
+    Event<> DblClick;
+    Event<const PointerEvent&> MouseDown;
+    Event<const PointerEvent&> MouseMove;
+    Event<const PointerEvent&> MouseUp;
+
+    StringView typeName() const override { return u"Label"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    PartRole role() const override { return PartRole::StaticText; }
+    String accessibleText() const override;
+    void paint() override;
+    void resized() override;
+    void pointerDown(const PointerEvent& event) override { MouseDown.emit(event); }
+    void pointerMove(const PointerEvent& event) override { MouseMove.emit(event); }
+    void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
+    void click() override { Click.emit(); }
+    void doubleClick() override { DblClick.emit(); }
+
+private:
+    void refresh();
+    void fitToText();
+
+    ControlFrame frame_;
+    PaintSurface surface_;
+    String caption_;
+    FontPtr font_;
+    Connection fontChanged_;
+    Colour foreColor_ = SystemColour::WindowText;
+    Colour backColor_ = SystemColour::ButtonFace;
+    phial::BackStyle backStyle_ = phial::BackStyle::Transparent;
+    phial::Alignment alignment_ = phial::Alignment::Left;
+    bool autoSize_ = false;
+    bool wordWrap_ = true;
+};
+
+} // namespace phial

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "visual/Container.h"
+#include "visual/DrawDevice.h"
+
+namespace phial
+{
+
+class UserControl;
+
+/// The persistent image of a painted control and the device that draws in it. The image is made at the first
+/// use, in the size of the control and at the screen's pixel ratio; it is remade, and the control painted
+/// again, when either changes. What is drawn stays until the next Cls.
+class PaintSurface final : private DrawTarget
+{
+public:
+    explicit PaintSurface(UserControl& control);
+
+    /// Draws in pixels unless the control sets another unit.
+    DrawDevice& device() { return device_; }
+    const DrawDevice& device() const { return device_; }
+
+    /// For an adapter: the painted picture at that ratio, made or remade if needed. Never null.
+    PicturePtr image(double pixelRatio);
+
+    /// The control's size in pixels.
+    PixelSize size() const;
+    /// Forgets the image, so that the control is painted anew when it is next needed.
+    void invalidate();
+    /// Called by the frame's owner when the size may have changed.
+    void resized();
+
+    /// The background that Cls leaves; the mask colour makes it see-through.
+    Colour BackColor() const { return device_.BackColor(); }
+    void BackColor(Colour value);
+    /// Background see-through as a whole, whatever BackColor says.
+    bool transparent() const { return transparent_; }
+    void transparent(bool value);
+    /// Marks the control as shaped by the holes of a picture, usually Image(): a click on a hole goes to what
+    /// lies below. Null: the control is its rectangle.
+    PicturePtr MaskPicture() const { return mask_; }
+    void MaskPicture(PicturePtr value);
+    /// Whether a point (in pixels) is the control's own and not let through.
+    bool hits(PixelPoint point) const;
+
+    /// Controls within this one; made at first use, in pixels.
+    Container& children();
+    Container* childrenIfAny() { return children_.get(); }
+
+private:
+    std::shared_ptr<DrawBackend> openBackend() override;
+    void drawn() override;
+    void remake(double pixelRatio);
+
+    UserControl& control_;
+    DrawDevice device_;
+    std::shared_ptr<DrawBackend> backend_;
+    PixelSize madeFor_;
+    double ratio_ = 0; ///< 0: not known yet
+    bool painting_ = false;
+    bool painted_ = false;
+    bool reported_ = false;
+    bool transparent_ = false;
+    PicturePtr mask_;
+    std::unique_ptr<Container> children_;
+};
+
+} // namespace phial

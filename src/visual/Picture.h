@@ -1,0 +1,63 @@
+#pragma once
+
+#include "core/Object.h"
+#include "visual/Geometry.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace phial
+{
+
+/// A picture in memory: rows of premultiplied ARGB pixels (0xAARRGGBB), top row first, without padding. An
+/// adapter wraps the memory without copying. A picture has a size in logical pixels and a pixel ratio: at
+/// ratio 2 it holds two by two pixels for each logical one.
+class Picture final : public Object
+{
+public:
+    /// A see-through picture of that logical size; physical edges are rounded up and at least 1. Raises 5 for
+    /// a size that is negative or holds more than MaximumPixels.
+    explicit Picture(PixelSize size, double pixelRatio = 1);
+
+    /// No picture holds more pixels than this.
+    static constexpr std::size_t MaximumPixels = 64U * 1024U * 1024U;
+
+    /// In logical pixels.
+    double Width() const { return size_.width; }
+    double Height() const { return size_.height; }
+    PixelSize size() const { return size_; }
+    double pixelRatio() const { return ratio_; }
+
+    /// In pixels held.
+    std::size_t columns() const { return columns_; }
+    std::size_t rows() const { return rows_; }
+    std::span<const std::uint32_t> pixels() const { return pixels_; }
+    std::span<std::uint32_t> pixels() { return pixels_; }
+    /// The pixel held at that column and row; raises 9 outside.
+    std::uint32_t at(std::size_t column, std::size_t row) const;
+
+    /// Whether the picture lets through what lies below at that logical point; outside it always does.
+    bool isSeeThrough(PixelPoint point) const;
+
+    std::shared_ptr<Picture> copy() const { return std::make_shared<Picture>(*this); }
+
+    StringView typeName() const override { return u"Picture"; }
+    MemberTable members() const override;
+
+private:
+    PixelSize size_;
+    double ratio_;
+    std::size_t columns_;
+    std::size_t rows_;
+    std::vector<std::uint32_t> pixels_;
+};
+
+using PicturePtr = std::shared_ptr<Picture>;
+
+/// The picture of a file (path as the system writes it); raises 53 for a missing file and 481 for one that is
+/// no picture.
+PicturePtr LoadPicture(const String& path);
+
+} // namespace phial

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "visual/PaintSurface.h"
+#include "visual/UserControl.h"
+
+namespace phial
+{
+
+/// A field to draw in, which keeps what is drawn, and a holder for other controls. Where its image is
+/// see-through and MaskPicture marks it as shaped, a click goes to what lies below.
+class PictureBox final : public UserControl
+{
+public:
+    PictureBox();
+
+    /// What is drawn in; its unit is that of the controls within, too.
+    DrawDevice& device() { return surface_.device(); }
+    ScaleUnit ScaleMode() const { return surface_.device().ScaleMode(); }
+    void ScaleMode(ScaleUnit value);
+    /// True: what is drawn stays, and Paint is not raised. False: Paint is raised whenever the image is made.
+    bool AutoRedraw() const { return autoRedraw_; }
+    void AutoRedraw(bool value) { autoRedraw_ = value; }
+    Colour BackColor() const { return surface_.BackColor(); }
+    /// Clears what was drawn.
+    void BackColor(Colour value);
+    bool transparent() const { return surface_.transparent(); }
+    void transparent(bool value);
+    /// The picture below what is drawn, from the corner; null for none. Clears what was drawn.
+    PicturePtr Picture() const { return picture_; }
+    void Picture(PicturePtr value);
+    /// The box takes the size of its picture.
+    bool AutoSize() const { return autoSize_; }
+    void AutoSize(bool value);
+    /// A thin line around, within the edges.
+    bool border() const { return border_; }
+    void border(bool value);
+    /// The picture as drawn.
+    PicturePtr Image() { return surface_.device().Image(); }
+    void MaskPicture(PicturePtr value) { surface_.MaskPicture(std::move(value)); }
+    PicturePtr MaskPicture() const { return surface_.MaskPicture(); }
+    /// Clears what was drawn, down to BackColor and Picture.
+    void Cls();
+    /// Raises Paint (AutoRedraw off) after clearing.
+    void Refresh();
+
+    Event<> Click;
+    Event<> DblClick;
+    Event<const PointerEvent&> MouseDown;
+    Event<const PointerEvent&> MouseMove;
+    Event<const PointerEvent&> MouseUp;
+    Event<> GotFocus;
+    Event<> LostFocus;
+    Event<KeyEvent&> KeyDown;
+    Event<KeyPressEvent&> KeyPress;
+    Event<KeyEvent&> KeyUp;
+    Event<> Paint;
+    Event<> Resize;
+    /// A control of the program, and the place in pixels.
+    Event<Control&, double, double> DragDrop;
+    Event<const String&> TextDropped;
+
+    StringView typeName() const override { return u"PictureBox"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    Container* container() override { return &surface_.children(); }
+    void paint() override;
+    void resized() override;
+    void pointerDown(const PointerEvent& event) override { MouseDown.emit(event); }
+    void pointerMove(const PointerEvent& event) override { MouseMove.emit(event); }
+    void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
+    void click() override { Click.emit(); }
+    void doubleClick() override { DblClick.emit(); }
+    void keyDown(KeyEvent& event) override { KeyDown.emit(event); }
+    void keyPress(KeyPressEvent& event) override { KeyPress.emit(event); }
+    void keyUp(KeyEvent& event) override { KeyUp.emit(event); }
+    void gotFocus() override { GotFocus.emit(); }
+    void lostFocus() override { LostFocus.emit(); }
+    void dragDrop(Control& source, double x, double y) override { DragDrop.emit(source, x, y); }
+    void textDropped(const String& text) override { TextDropped.emit(text); }
+
+private:
+    void clear();
+    void fitToPicture();
+
+    ControlFrame frame_;
+    PaintSurface surface_;
+    PicturePtr picture_;
+    bool autoRedraw_ = true;
+    bool autoSize_ = false;
+    bool border_ = false;
+};
+
+} // namespace phial

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "visual/Control.h"
+#include "visual/PropertyBag.h"
+
+#include <memory>
+#include <vector>
+
+namespace phial
+{
+
+class PaintSurface;
+
+/// A part of a painted control that can be named: for screen readers, and reached by the arrow keys when it
+/// has an action.
+struct NamedPart {
+    PixelRectangle area; ///< in the control
+    PartRole role = PartRole::StaticText;
+    String name;
+    String action; ///< what activatePart does, such as "Press"; empty for nothing
+    bool checked = false;
+};
+
+/// A control that paints itself: interface of all `ctl_…` controls and of what is only shown. One widget of
+/// an adapter hosts them all, on forms and in foreign windows.
+///
+/// Life: constructed; `initProperties` (freshly placed) or `readProperties`; `shown`; any of the rest;
+/// `hidden`; `ended`. `resized` runs whenever the frame's size changes.
+class UserControl : public Control
+{
+public:
+    virtual PaintSurface& surface() = 0;
+    UserControl* painted() final { return this; }
+
+    /// Defaults of a freshly placed control.
+    virtual void initProperties() {}
+    virtual void readProperties(const PropertyBag&) {}
+    virtual void writeProperties(PropertyBag&) {}
+    virtual void shown() {}
+    virtual void hidden() {}
+    virtual void ended() {}
+    /// Paints the whole control on surface().device(). Called by the surface when its image has to be remade;
+    /// controls call it themselves, too.
+    virtual void paint() = 0;
+
+    /// The parts that can be named, in reading order. Empty: the control itself is the only part.
+    virtual std::vector<NamedPart> parts() const { return {}; }
+    /// Does the part's action, as a click would.
+    virtual void activatePart(std::size_t /*part*/) {}
+    /// The role of the control as a whole.
+    virtual PartRole role() const { return PartRole::Graphic; }
+
+    /// A property was changed by its writer: the property's name. Raised through `propertyChanged`.
+    Event<const String&> PropertyChanged;
+};
+
+/// Makes a freshly placed painted control.
+template <typename Class, typename... Args>
+std::shared_ptr<Class> makeControl(Args&&... args)
+{
+    auto control = std::make_shared<Class>(std::forward<Args>(args)...);
+    if (UserControl* painted = static_cast<Control&>(*control).painted()) {
+        painted->initProperties();
+    }
+    return control;
+}
+
+} // namespace phial

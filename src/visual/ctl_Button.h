@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/Colour.h"
+#include "visual/Control.h"
+#include "visual/Font.h"
+
+namespace phial
+{
+
+/// A push button; the toolkit's own widget, themed.
+class ctl_Button final : public Control
+{
+public:
+    ctl_Button();
+
+    String Caption() const { return caption_; }
+    void Caption(String value);
+    /// Shown before the caption; null for none.
+    PicturePtr Picture() const { return picture_; }
+    void Picture(PicturePtr value);
+    FontPtr Font() const { return font_; }
+    /// Shares the font object; null raises 91.
+    void Font(FontPtr value);
+    /// Stands out as the one to press.
+    bool Accent() const { return accent_; }
+    void Accent(bool value);
+
+    Event<> CLICK;
+    Event<> GotFocus;
+    Event<> LostFocus;
+
+    StringView typeName() const override { return u"ctl_Button"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    String accessibleText() const override { return caption_; }
+    void click() override { CLICK.emit(); }
+    void gotFocus() override { GotFocus.emit(); }
+    void lostFocus() override { LostFocus.emit(); }
+
+private:
+    void listenToFont();
+
+    ControlFrame frame_;
+    String caption_;
+    PicturePtr picture_;
+    FontPtr font_;
+    Connection fontChanged_;
+    bool accent_ = false;
+};
+
+} // namespace phial

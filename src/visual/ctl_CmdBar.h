@@ -1,0 +1,30 @@
+#pragma once
+
+#include "visual/CommandBar.h"
+
+namespace phial
+{
+
+/// The bar of a dialog's commands.
+class ctl_CmdBar final : public CommandBar
+{
+public:
+    ctl_CmdBar();
+
+    std::shared_ptr<CommandBarButtons> BUTTONS() const override { return buttons_; }
+    void REFRESH() override;
+
+    /// The bar's Index and the button's key text.
+    Event<std::int32_t, const String&> BUTTON;
+
+    StringView typeName() const override { return u"ctl_CmdBar"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    void inputButton(std::int32_t button) override;
+
+private:
+    ControlFrame frame_;
+    std::shared_ptr<CommandBarButtons> buttons_;
+};
+
+} // namespace phial

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "visual/Font.h"
+#include "visual/PaintSurface.h"
+#include "visual/UserControl.h"
+
+namespace phial
+{
+
+/// A frame around other controls, with a caption in its upper edge. Places within are twips.
+class ctl_Frame final : public UserControl
+{
+public:
+    ctl_Frame();
+
+    /// Persisted under "CAPTION".
+    String Caption() const { return caption_; }
+    void Caption(String value);
+    FontPtr Font() const { return font_; }
+    /// Shares the font object; null raises 91.
+    void Font(FontPtr value);
+    /// Persisted under "FORECOLOR" and "BACKCOLOR".
+    Colour ForeColor() const { return foreColor_; }
+    void ForeColor(Colour value);
+    Colour BackColor() const { return surface_.BackColor(); }
+    void BackColor(Colour value);
+
+    StringView typeName() const override { return u"ctl_Frame"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    Container* container() override { return &surface_.children(); }
+    PartRole role() const override { return PartRole::Grouping; }
+    String accessibleText() const override;
+    void readProperties(const PropertyBag& bag) override;
+    void writeProperties(PropertyBag& bag) override;
+    void paint() override;
+    void resized() override { surface_.resized(); }
+
+private:
+    ControlFrame frame_;
+    PaintSurface surface_;
+    String caption_;
+    FontPtr font_;
+    Connection fontChanged_;
+    Colour foreColor_ = SystemColour::WindowText;
+};
+
+} // namespace phial

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "visual/Font.h"
+#include "visual/PaintSurface.h"
+#include "visual/UserControl.h"
+
+namespace phial
+{
+
+/// The styled label: a text with the markup of Markup.h that can stand flat or raised.
+///
+/// `Alignment` counts like the alignment of terms: 0, 1, 2 left, centre, right in the middle of the height;
+/// 4, 5, 6 the same at the top; 8, 9, 10 at the bottom; any other value like 4. Width and Height are in the
+/// container's unit. With AutoSize the text is wrapped at Width and the height follows.
+class ctl_Label final : public UserControl
+{
+public:
+    ctl_Label();
+
+    /// Persisted under "text".
+    String Caption() const { return caption_; }
+    void Caption(String value);
+    FontPtr Font() const { return font_; }
+    /// Shares the font object; null raises 91.
+    void Font(FontPtr value);
+    Colour ForeColor() const { return foreColor_; }
+    void ForeColor(Colour value);
+    std::int32_t Alignment() const { return alignment_; }
+    void Alignment(std::int32_t value);
+    bool AutoSize() const { return autoSize_; }
+    void AutoSize(bool value);
+    /// Raised: the text carries a light edge and a shadow. Flat wins over raised.
+    bool Raised() const { return raised_; }
+    void Raised(bool value);
+    bool Flat() const { return flat_; }
+    void Flat(bool value);
+
+    Event<> Click;
+    Event<> DblClick;
+    Event<const PointerEvent&> MouseDown;
+    Event<const PointerEvent&> MouseMove;
+    Event<const PointerEvent&> MouseUp;
+
+    StringView typeName() const override { return u"ctl_Label"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    PartRole role() const override { return PartRole::StaticText; }
+    String accessibleText() const override;
+    void readProperties(const PropertyBag& bag) override;
+    void writeProperties(PropertyBag& bag) override;
+    void paint() override;
+    void resized() override;
+    void pointerDown(const PointerEvent& event) override { MouseDown.emit(event); }
+    void pointerMove(const PointerEvent& event) override { MouseMove.emit(event); }
+    void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
+    void click() override { Click.emit(); }
+    void doubleClick() override { DblClick.emit(); }
+
+private:
+    void refresh();
+    void fitToText();
+    void listenToFont();
+
+    ControlFrame frame_;
+    PaintSurface surface_;
+    String caption_;
+    FontPtr font_;
+    Connection fontChanged_;
+    Colour foreColor_ = SystemColour::WindowText;
+    std::int32_t alignment_ = 0;
+    bool autoSize_ = false;
+    bool raised_ = false;
+    bool flat_ = true;
+};
+
+} // namespace phial

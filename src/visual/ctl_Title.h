@@ -1,0 +1,63 @@
+#pragma once
+
+#include "visual/Font.h"
+#include "visual/PaintSurface.h"
+#include "visual/UserControl.h"
+
+namespace phial
+{
+
+/// The head of a dialog: icon, title and a sign to close it with, on the theme's frame colour.
+class ctl_Title final : public UserControl
+{
+public:
+    ctl_Title();
+
+    /// Persisted under "TITLE".
+    String Title() const { return title_; }
+    void Title(String value);
+    PicturePtr Icon() const { return icon_; }
+    void Icon(PicturePtr value);
+    /// Whether the sign to close with is there; it is at first. Persisted under "CLOSABLE".
+    bool Closable() const { return closable_; }
+    void Closable(bool value);
+    FontPtr Font() const { return font_; }
+    /// Shares the font object; null raises 91.
+    void Font(FontPtr value);
+
+    /// The close sign was pressed.
+    Event<> CLOSE;
+
+    StringView typeName() const override { return u"ctl_Title"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    PartRole role() const override { return PartRole::Grouping; }
+    String accessibleText() const override { return title_; }
+    std::vector<NamedPart> parts() const override;
+    void activatePart(std::size_t part) override;
+    void readProperties(const PropertyBag& bag) override;
+    void writeProperties(PropertyBag& bag) override;
+    void paint() override;
+    void resized() override { surface_.resized(); }
+    void pointerDown(const PointerEvent& event) override;
+    void pointerMove(const PointerEvent& event) override;
+    void pointerUp(const PointerEvent& event) override;
+    void pointerLeave() override;
+
+private:
+    PixelRectangle closeArea() const;
+    void hover(bool value);
+
+    ControlFrame frame_;
+    PaintSurface surface_;
+    String title_;
+    PicturePtr icon_;
+    bool closable_ = true;
+    FontPtr font_;
+    Connection fontChanged_;
+    bool hovered_ = false;
+    bool pressed_ = false;
+};
+
+} // namespace phial
