@@ -1,0 +1,65 @@
+#pragma once
+
+#include "core/String.h"
+
+#include <cstdint>
+
+namespace phial
+{
+
+class DrawDevice;
+
+/// Alignment of a term to its anchor point. Any other value behaves like TopLeftPlain.
+enum class TEXTALIGN : std::int32_t {
+    MiddleLeft = 0, ///< the anchor is left of the term, at half its height
+    MiddleCentre = 1,
+    MiddleRight = 2,
+    TopLeftPlain = 3,
+    TopLeft = 4, ///< the anchor is the upper left corner
+    TopCentre = 5,
+    TopRight = 6,
+    BottomLeft = 8, ///< the anchor is the lower left corner
+    BottomCentre = 9,
+    BottomRight = 10,
+};
+
+/// Draws a term: a formula in the one-line notation, such as `SO4^2-` or `2H2 + O2 -> 2H2O`. What becomes a
+/// subscript or a superscript is decided from the text:
+///
+///     digits behind a symbol or ")"   lowered      H2O, Ca(OH)2
+///     a sign that nothing follows     raised       Na+, Fe3+
+///     ^ and µ                         raise and lower what follows, from the last place in the line
+///     #                               ends raising and lowering
+///     (a)/(b)                         a fraction, numerator and denominator left-aligned
+///     -> <- ~~ * =^                   arrows, approximation sign, middle dot, sign for correspondence
+///     §                               all that follows is red
+///     |                               strikes through what follows it
+///     2 H2O                           a number and a blank at the start make the term bold
+///
+/// The term is walked twice: once to measure, once to draw at the aligned place. A fraction has no width
+/// while measuring, so a term with one stands off a centred or right anchor by the fraction's width. Font
+/// size, colour, bold and CurrentY are restored; CurrentX stays behind the term. Time and memory grow with
+/// the length of the term, however deep its brackets are. Arrows and signs ask the device for the fonts
+/// Symbol, Marlett and Wingdings.
+///
+/// @param pDevice    where to draw; all places are in its scale
+/// @param pText      the term; no text is refused
+/// @param pX, pY     the anchor point; -1 stands for the device's current position
+/// @param pAlign     see TEXTALIGN
+/// @param pCalcOnly  ends the call at once: nothing drawn, width 0, all out values -1
+/// @param pCaret     caret index: 0 before the first character, k behind character k, -1 for no caret. A
+/// place inside
+///                   a two-character sign or a fraction has no caret.
+/// @param rCaretX    X of the caret; -1 when it is not drawn
+/// @param rPrevIndex index before the caret; -1 when the caret is not drawn (and before the first character)
+/// @param rNextIndex index behind the caret; -1 when the caret is not drawn
+/// @return the width in the measuring walk, rounded to a whole number
+std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX, std::int32_t pY,
+                      TEXTALIGN pAlign, bool pCalcOnly, std::int32_t pCaret, std::int32_t& rCaretX,
+                      std::int32_t& rPrevIndex, std::int32_t& rNextIndex);
+
+/// The same without a caret.
+std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX = -1, std::int32_t pY = -1,
+                      TEXTALIGN pAlign = TEXTALIGN::MiddleLeft);
+
+} // namespace phial

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "term/TermDraw.h"
+#include "visual/Font.h"
+#include "visual/PaintSurface.h"
+#include "visual/UserControl.h"
+
+namespace phial
+{
+
+/// A label that shows one term. Only the term covers what lies behind it: the rest of the control is
+/// see-through, and a click there goes to what lies below.
+///
+/// Every writer stores its value, tells the change and calls REDRAW. Persisted: "TERM" (default "H2O"),
+/// "TEXTALIGN" (0), "AUTOSIZE" (False), "TEXTCOLOR" (0), and the font under "TEXTFONT" (Tahoma 8 when none is
+/// stored).
+class ctl_TermLabel final : public UserControl
+{
+public:
+    ctl_TermLabel();
+
+    /// Unique in the installation; empty before UserControl_Initialize.
+    String CTRLID() const { return id_; }
+    /// The control takes the width of its term and the height of a line.
+    bool AUTOSIZE() const { return autoSize_; }
+    void AUTOSIZE(bool value);
+    String Term() const { return term_; }
+    void Term(String value);
+    phial::TEXTALIGN TEXTALIGN() const { return align_; }
+    void TEXTALIGN(phial::TEXTALIGN value);
+    /// Made at first use; a change of its attributes shows at once.
+    FontPtr TEXTFONT();
+    void TEXTFONT(FontPtr value);
+    Colour TEXTCOLOR() const { return textColour_; }
+    void TEXTCOLOR(Colour value);
+
+    void UserControl_Initialize();
+    /// Draws the term anew; nothing that fails while drawing is told.
+    void REDRAW();
+
+    Event<> CLICK;
+
+    StringView typeName() const override { return u"ctl_TermLabel"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    PartRole role() const override { return PartRole::StaticText; }
+    String accessibleText() const override { return term_; }
+    void initProperties() override;
+    void readProperties(const PropertyBag& bag) override;
+    void writeProperties(PropertyBag& bag) override;
+    void shown() override { REDRAW(); }
+    void resized() override { surface_.resized(); }
+    void paint() override { REDRAW(); }
+    void click() override { CLICK.emit(); }
+
+private:
+    void changed(StringView property);
+    Colour maskColour() const;
+    void fitToTerm(std::int32_t width);
+
+    ControlFrame frame_;
+    PaintSurface surface_;
+    String id_;
+    String term_ = u"H2O";
+    phial::TEXTALIGN align_ = phial::TEXTALIGN::MiddleLeft;
+    bool autoSize_ = false;
+    Colour textColour_;
+    FontPtr font_;
+    Connection fontChanged_;
+};
+
+} // namespace phial
