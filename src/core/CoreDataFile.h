@@ -3,11 +3,8 @@
 #include "core/CoreDataStream.h"
 #include "core/String.h"
 
-#include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <memory>
-#include <optional>
 
 namespace phial
 {
@@ -15,12 +12,12 @@ namespace phial
 /// What a data file is opened for.
 enum class DataFileMode : std::int32_t { Read = 1, Write = 2 };
 
-/// A data file: lines of text, or a record's values. The first call after opening decides which of the two.
+/// A data file: lines of text, or a record's values. The first call after opening decides which of the two; a
+/// later call of the other kind, one for the other mode, and one on a file that is not open raise 5.
 ///
-/// Text is UTF-8, with or without its mark, with line ends CR LF or LF. A file written as text replaces the
-/// target in one step when it is closed, and so does a record; until then, and when the object goes without
-/// having been closed, the old file stays. Records need the platform's `RecordFiles`; without them their
-/// calls raise 5.
+/// Text is UTF-8, with or without its mark, with line ends CR LF or LF. A file open for writing replaces the
+/// target in one step when it is closed; until then, and when the object goes without having been closed, the
+/// old file stays. Values need the platform's `RecordFiles`; without them their calls raise 5.
 class CoreDataFile : public CoreDataStream
 {
 public:
@@ -29,20 +26,20 @@ public:
     CoreDataFile(const CoreDataFile&) = delete;
     CoreDataFile& operator=(const CoreDataFile&) = delete;
 
-    /// Opens a file, closing the one open before. To read, it must exist (53). The two flags are always true,
-    /// the object is always null. A password concerns records only.
+    /// Opens a file of the open session; one that is open is closed first. To be read it must exist (53). The
+    /// two flags are always true, the object is always null. The password concerns values only.
     void Open(StringView pPath, DataFileMode pMode, StringView pPassword = {}, bool pExclusive = true,
               bool pBinary = true, const void* pMore = nullptr);
 
-    /// Ends the work on the file; a file open for writing is written now and raises 75 when that fails.
+    /// Ends the work on the file; a file open for writing is written now, which raises 75 when it fails.
     /// Nothing happens when none is open.
     void Close();
 
-    /// Whether all lines are read.
+    /// Whether all lines are read. A line end at the end of the file begins no further line.
     bool AtEnd();
     /// The next line without its end; raises 62 behind the last one.
     String ReadLine();
-    /// Appends text to a file open for writing.
+    /// Appends text as it stands.
     void WriteText(StringView pText);
 
     void writeValue(const Variant& value) override;
@@ -50,7 +47,10 @@ public:
 
 private:
     struct OpenFile;
-    OpenFile& open(DataFileMode mode);
+    struct Lines;
+    OpenFile& opened(DataFileMode mode);
+    Lines& lines();
+    CoreDataStream& values(DataFileMode mode);
 
     std::unique_ptr<OpenFile> file_;
 };

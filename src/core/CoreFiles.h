@@ -39,8 +39,9 @@ public:
     /// file name and is left out. Raises 75 when it cannot be made.
     void CreateFolder(StringView pPath, bool pIsFile = false);
 
-    /// Deletes a file, or, when `pFolder`, an empty folder. Gives whether it is gone by this call.
-    bool Delete(StringView pPath, bool pFolder = false);
+    /// Deletes a file; one that is write-protected only with `pProtectedToo`. Gives whether this call has
+    /// removed it.
+    bool Delete(StringView pPath, bool pProtectedToo = false);
 
     /// The whole text of a file: UTF-8, with or without its mark. The empty name of a character set and the
     /// number 0 say so. Raises 53 when there is none, 75 when it cannot be read.

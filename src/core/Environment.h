@@ -11,7 +11,8 @@ class Environment
 public:
     virtual ~Environment() = default;
 
-    /// A variable's value; the empty text when it is not set. Folders come as the system writes paths.
+    /// A variable's value; the empty text when it is not set. A value that is one absolute path comes as the
+    /// system writes paths.
     virtual String variable(StringView name) const = 0;
 };
 

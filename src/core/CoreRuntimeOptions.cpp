@@ -1,0 +1,24 @@
+#include "core/CoreRuntimeOptions.h"
+
+namespace phial
+{
+
+void CoreRuntimeOptions::SetOption(StringView pName, const Variant& pValue)
+{
+    const String name = upperCase(pName);
+    options_.insert_or_assign(name, pValue);
+    OPTIONSET.emit(name, pValue);
+}
+
+Variant CoreRuntimeOptions::Option(StringView pName) const
+{
+    const auto option = options_.find(upperCase(pName));
+    return option == options_.end() ? Variant() : option->second;
+}
+
+void CoreRuntimeOptions::Shutdown()
+{
+    SHUTDOWN.emit();
+}
+
+} // namespace phial

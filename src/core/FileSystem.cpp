@@ -1,0 +1,131 @@
+#include "core/FileSystem.h"
+
+#include "core/NativePath.h"
+#include "core/RuntimeError.h"
+
+#include <fstream>
+#include <iterator>
+
+#if __has_include(<unistd.h>)
+#include <fcntl.h>
+#include <unistd.h>
+#define PHIAL_HAS_FSYNC 1
+#endif
+
+namespace phial
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void raiseAccess(StringView what, const fs::path& path)
+{
+    throw RuntimeError(ErrorNumber::FileAccess, String(what) + u": " + systemPath(path));
+}
+
+[[noreturn]] void raiseFor(const std::error_code& error, StringView what, const fs::path& path)
+{
+    if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory) {
+        throw RuntimeError(ErrorNumber::FileNotFound, String(what) + u": " + systemPath(path));
+    }
+    raiseAccess(what, path);
+}
+
+void raiseOn(const std::error_code& error, StringView what, const fs::path& path)
+{
+    if (error) {
+        raiseFor(error, what, path);
+    }
+}
+
+/// Brings what the system holds in memory for a file or folder to the disk.
+void synchronise([[maybe_unused]] const fs::path& path)
+{
+#ifdef PHIAL_HAS_FSYNC
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) {
+        raiseAccess(u"cannot flush", path);
+    }
+    const bool flushed = ::fsync(descriptor) == 0;
+    ::close(descriptor);
+    if (!flushed) {
+        raiseAccess(u"cannot flush", path);
+    }
+#endif
+}
+
+} // namespace
+
+std::string NativeFileSystem::read(const fs::path& file)
+{
+    std::error_code error;
+    if (!fs::is_regular_file(file, error)) {
+        throw RuntimeError(ErrorNumber::FileNotFound, u"file not found: " + systemPath(file));
+    }
+    std::ifstream stream(file, std::ios::binary);
+    std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    if (!stream.is_open() || stream.bad()) {
+        raiseAccess(u"cannot read", file);
+    }
+    return bytes;
+}
+
+void NativeFileSystem::write(const fs::path& file, std::string_view bytes)
+{
+    if (file.empty()) {
+        throw RuntimeError(ErrorNumber::FileNotFound);
+    }
+    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    stream.close();
+    if (!stream) {
+        raiseAccess(u"cannot write", file);
+    }
+}
+
+void NativeFileSystem::flush(const fs::path& file)
+{
+    synchronise(file);
+}
+
+void NativeFileSystem::flushFolder(const fs::path& folder)
+{
+    synchronise(folder);
+}
+
+void NativeFileSystem::rename(const fs::path& from, const fs::path& to)
+{
+    std::error_code error;
+    fs::rename(from, to, error);
+    raiseOn(error, u"cannot rename", from);
+}
+
+void NativeFileSystem::remove(const fs::path& file)
+{
+    std::error_code error;
+    if (fs::is_directory(fs::symlink_status(file, error))) {
+        raiseAccess(u"not a file", file);
+    }
+    const bool removed = fs::remove(file, error);
+    raiseOn(error, u"cannot delete", file);
+    if (!removed) {
+        throw RuntimeError(ErrorNumber::FileNotFound, u"file not found: " + systemPath(file));
+    }
+}
+
+void NativeFileSystem::createFolder(const fs::path& folder)
+{
+    if (folder.empty()) {
+        throw RuntimeError(ErrorNumber::FileNotFound);
+    }
+    std::error_code error;
+    fs::create_directory(folder, error);
+    raiseOn(error, u"cannot create", folder);
+    if (!fs::is_directory(folder, error)) {
+        raiseAccess(u"not a folder", folder);
+    }
+}
+
+} // namespace phial

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "core/CoreDisplay.h"
+
+namespace phial::headless
+{
+
+/// A display of 1024 by 768 pixels with small fonts, and a pointer that a test moves.
+class FakeDisplay : public CoreDisplay
+{
+public:
+    void moveCursor(std::int32_t x, std::int32_t y)
+    {
+        cursorX_ = x;
+        cursorY_ = y;
+    }
+    void resize(std::int32_t width, std::int32_t height)
+    {
+        width_ = width;
+        height_ = height;
+    }
+    /// No value is a display without a desktop.
+    void TextHeight(std::optional<std::int32_t> value) { textHeight_ = value; }
+
+    std::int32_t CursorX() const override { return cursorX_; }
+    std::int32_t CursorY() const override { return cursorY_; }
+    std::int32_t Width() const override { return width_; }
+    std::int32_t Height() const override { return height_; }
+    std::optional<std::int32_t> TextHeight() const override { return textHeight_; }
+
+private:
+    std::int32_t cursorX_ = 0;
+    std::int32_t cursorY_ = 0;
+    std::int32_t width_ = 1024;
+    std::int32_t height_ = 768;
+    std::optional<std::int32_t> textHeight_ = 16;
+};
+
+} // namespace phial::headless

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/MemorySettingsStore.h"
+
+#include <vector>
+
+namespace phial::headless
+{
+
+/// Settings in memory that remember which paths were written, each time.
+class RecordingSettings : public SettingsStore
+{
+public:
+    std::optional<Variant> read(SettingsHive hive, StringView path) const override
+    {
+        return store_.read(hive, path);
+    }
+    void write(SettingsHive hive, StringView path, const Variant& value) override
+    {
+        written_.emplace_back(path);
+        store_.write(hive, path, value);
+    }
+
+    /// Puts a value there as an earlier run would have left it; it does not count as written.
+    void prepare(SettingsHive hive, StringView path, const Variant& value)
+    {
+        store_.write(hive, path, value);
+    }
+
+    const std::vector<String>& written() const { return written_; }
+    void forgetWritten() { written_.clear(); }
+
+private:
+    MemorySettingsStore store_;
+    std::vector<String> written_;
+};
+
+} // namespace phial::headless

@@ -1,0 +1,61 @@
+#include "headless/ScriptedNetClient.h"
+
+#include "core/RuntimeError.h"
+
+#include <utility>
+
+namespace phial::headless
+{
+
+ScriptedNetClient::ScriptedNetClient(std::shared_ptr<ScriptedNetwork> network,
+                                     std::shared_ptr<EventPump> pump)
+    : network_(std::move(network)), pump_(std::move(pump))
+{
+}
+
+bool ScriptedNetClient::receive(const String& text)
+{
+    bool handled = false;
+    if (receiving_) {
+        RECEIVED.emit(CoreNetMessage(text, u"127.0.0.1", 0), handled);
+    }
+    return handled;
+}
+
+void ScriptedNetClient::OpenPort(std::int32_t pPort)
+{
+    if (network_->refusePorts_) {
+        throw RuntimeError(ErrorNumber::InvalidArgument, u"the port is taken");
+    }
+    network_->openedPorts_.push_back(pPort);
+}
+
+void ScriptedNetClient::Close()
+{
+    ++network_->closed_;
+}
+
+String ScriptedNetClient::Request(StringView pMessage, StringView pIP, std::int32_t pPort,
+                                  const CoreParameters* /*pParameters*/, bool pWait,
+                                  StringView pTimeoutAnswer)
+{
+    const String message(pMessage);
+    network_->requests_.push_back(
+        {message, String(pIP), pPort, options_.ConnectTimeout, options_.ResponseTimeout});
+    const auto answer = network_->answers_ ? network_->answers_(message) : std::nullopt;
+    if (!pWait) {
+        return {};
+    }
+    if (!answer) {
+        pump_->pumpFor(options_.ResponseTimeout);
+        return String(pTimeoutAnswer);
+    }
+    return *answer;
+}
+
+void ScriptedNetClient::ShowMonitor()
+{
+    ++network_->monitorsShown_;
+}
+
+} // namespace phial::headless
