@@ -50,8 +50,14 @@ private:
         Variant value;
     };
 
-    std::size_t slot(std::int32_t position) const;
+    /// Answers the index with the name at a position from 0.
+    auto nameAt() const
+    {
+        return [this](std::size_t position) -> StringView { return entries_[position].name; };
+    }
+    const Entry& entry(std::int32_t position) const;
     std::size_t find(StringView name) const;
+    String joined(StringView separator) const;
 
     std::vector<Entry> entries_;
     NameIndex index_;

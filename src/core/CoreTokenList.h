@@ -40,6 +40,11 @@ public:
     }
 
 private:
+    /// Answers the index with the name at a position from 0.
+    auto nameAt() const
+    {
+        return [this](std::size_t position) -> StringView { return tokens_[position + 1].Name(); };
+    }
     CoreToken& add(StringView name, CoreValueList values);
 
     // Slot 0 is the scratch token, there as soon as anything is.

@@ -23,7 +23,7 @@ public:
     std::int32_t Count() const { return count_; }
 
 private:
-    const Variant* find(std::int32_t index) const;
+    const Variant& at(std::int32_t index) const;
 
     Variant first_;
     std::vector<Variant> further_;

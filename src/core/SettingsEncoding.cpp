@@ -1,5 +1,7 @@
 #include "core/SettingsEncoding.h"
 
+#include "core/EscapedText.h"
+
 #include <charconv>
 #include <string>
 #include <utility>
@@ -15,90 +17,9 @@ constexpr StringView NumberTag = u"number:";
 constexpr StringView BooleanTag = u"boolean:";
 constexpr StringView ListTag = u"list:";
 
-constexpr char16_t EscapeSign = u'%';
 constexpr char16_t ItemSign = u'|';
-constexpr std::size_t EscapeDigits = 4;
-
-bool isHighHalf(char16_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-bool isLowHalf(char16_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
-void appendEscaped(String& out, char16_t unit)
-{
-    constexpr StringView Digits = u"0123456789ABCDEF";
-    out += EscapeSign;
-    for (int shift = 12; shift >= 0; shift -= 4) {
-        out += Digits[(unit >> static_cast<unsigned>(shift)) & 0xFU];
-    }
-}
-
-// Escapes what a line of UTF-8 cannot carry or what has a meaning here: control characters, lone surrogate
-// halves, the two signs of this form and any of `alsoThese`.
-void appendText(String& out, StringView text, StringView alsoThese = {})
-{
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const char16_t unit = text[at];
-        if (isHighHalf(unit) && at + 1 < text.size() && isLowHalf(text[at + 1])) {
-            out += text.substr(at++, 2);
-        } else if (unit < u' ' || unit == 0x7F || unit == EscapeSign || unit == ItemSign ||
-                   isHighHalf(unit) || isLowHalf(unit) || alsoThese.find(unit) != StringView::npos) {
-            appendEscaped(out, unit);
-        } else {
-            out += unit;
-        }
-    }
-}
-
-std::optional<unsigned> hexDigit(char16_t unit)
-{
-    if (unit >= u'0' && unit <= u'9') {
-        return static_cast<unsigned>(unit - u'0');
-    }
-    if (unit >= u'A' && unit <= u'F') {
-        return static_cast<unsigned>(unit - u'A') + 10U;
-    }
-    return std::nullopt;
-}
-
-std::optional<char16_t> escapedUnit(StringView digits)
-{
-    if (digits.size() != EscapeDigits) {
-        return std::nullopt;
-    }
-    unsigned unit = 0;
-    for (const char16_t sign : digits) {
-        const auto digit = hexDigit(sign);
-        if (!digit) {
-            return std::nullopt;
-        }
-        unit = unit * 16U + *digit;
-    }
-    return static_cast<char16_t>(unit);
-}
-
-std::optional<String> decodeText(StringView encoded)
-{
-    String text;
-    text.reserve(encoded.size());
-    for (std::size_t at = 0; at < encoded.size(); ++at) {
-        if (encoded[at] != EscapeSign) {
-            text += encoded[at];
-            continue;
-        }
-        const auto unit = escapedUnit(encoded.substr(at + 1, EscapeDigits));
-        if (!unit) {
-            return std::nullopt;
-        }
-        text += *unit;
-        at += EscapeDigits;
-    }
-    return text;
-}
+constexpr StringView AlsoEscaped = u"|";
+constexpr StringView AlsoEscapedInKeys = u"|/";
 
 std::optional<Variant> decodeNumber(StringView encoded)
 {
@@ -133,7 +54,7 @@ std::optional<Variant> decodeList(StringView encoded)
         encoded.remove_prefix(1);
         const StringView item = encoded.substr(0, encoded.find(ItemSign));
         encoded.remove_prefix(item.size());
-        auto text = decodeText(item);
+        auto text = unescapedText(item);
         if (!text) {
             return std::nullopt;
         }
@@ -156,7 +77,7 @@ String listLine(const Variant::Array& items)
     String line(ListTag);
     for (const Variant& item : items) {
         line += ItemSign;
-        appendText(line, item.text());
+        line += escapedText(item.text(), AlsoEscaped);
     }
     return line;
 }
@@ -180,7 +101,7 @@ String encodeSetting(const Variant& value)
         break;
     }
     String line(TextTag);
-    appendText(line, value.text());
+    line += escapedText(value.text(), AlsoEscaped);
     return line;
 }
 
@@ -190,7 +111,7 @@ std::optional<Variant> decodeSetting(StringView line)
         return std::nullopt;
     }
     if (line.starts_with(TextTag)) {
-        auto text = decodeText(line.substr(TextTag.size()));
+        auto text = unescapedText(line.substr(TextTag.size()));
         return text ? std::optional<Variant>(Variant(*std::move(text))) : std::nullopt;
     }
     if (line.starts_with(NumberTag)) {
@@ -215,7 +136,7 @@ String settingKey(StringView path)
         if (!key.empty()) {
             key += u'/';
         }
-        appendText(key, lowerCase(part), u"/");
+        key += escapedText(lowerCase(part), AlsoEscapedInKeys);
     }
     return key;
 }

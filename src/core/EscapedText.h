@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/String.h"
+
+#include <optional>
+
+namespace phial
+{
+
+/// A text made fit for one line of well-formed Unicode: control characters (below U+0020, U+007F to U+009F),
+/// the separators U+2028 and U+2029, lone surrogate halves, `%`, and each of `alsoThese` become `%` and the
+/// unit's four hexadecimal digits.
+String escapedText(StringView text, StringView alsoThese = {});
+
+/// The text out of its escaped form; no value when a `%` lacks its four digits.
+std::optional<String> unescapedText(StringView escaped);
+
+} // namespace phial
