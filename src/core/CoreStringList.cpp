@@ -1,6 +1,8 @@
 #include "core/CoreStringList.h"
 
+#include "core/RandomSource.h"
 #include "core/RuntimeError.h"
+#include "core/SessionState.h"
 
 #include <algorithm>
 #include <utility>
@@ -72,6 +74,16 @@ void CoreStringList::Sort()
     std::stable_sort(entries_.begin(), entries_.end(), [](const String& left, const String& right) {
         return compareIgnoringCase(left, right) < 0;
     });
+}
+
+String CoreStringList::RandomItem() const
+{
+    if (entries_.empty()) {
+        return {};
+    }
+    const double random = SessionState::current().platform().random->next();
+    const auto drawn = static_cast<std::size_t>(random * static_cast<double>(entries_.size()));
+    return entries_[std::min(drawn, entries_.size() - 1)];
 }
 
 String CoreStringList::First() const
