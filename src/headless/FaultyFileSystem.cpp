@@ -2,7 +2,6 @@
 
 #include "core/RuntimeError.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace phial::headless
@@ -18,15 +17,9 @@ void FaultyFileSystem::failChanges()
     }
 }
 
-void FaultyFileSystem::protect(std::filesystem::path folder)
-{
-    protected_ = std::move(folder);
-}
-
 void FaultyFileSystem::repair()
 {
     failing_.clear();
-    protected_.clear();
     stepsLeft_.reset();
     bytesLeft_.reset();
 }
@@ -40,15 +33,6 @@ void FaultyFileSystem::begin(FileStep step)
     }
 }
 
-void FaultyFileSystem::change(FileStep step, const std::filesystem::path& path)
-{
-    begin(step);
-    const auto [protectedEnd, pathEnd] = std::ranges::mismatch(protected_, path);
-    if (!protected_.empty() && protectedEnd == protected_.end()) {
-        throw RuntimeError(ErrorNumber::FileAccess, u"injected fault: protected folder");
-    }
-}
-
 std::string FaultyFileSystem::read(const std::filesystem::path& file)
 {
     begin(FileStep::Read);
@@ -57,7 +41,7 @@ std::string FaultyFileSystem::read(const std::filesystem::path& file)
 
 void FaultyFileSystem::write(const std::filesystem::path& file, std::string_view bytes)
 {
-    change(FileStep::Write, file);
+    begin(FileStep::Write);
     if (bytesLeft_ && bytes.size() > *bytesLeft_) {
         behind_->write(file, bytes.substr(0, std::exchange(*bytesLeft_, 0)));
         throw RuntimeError(ErrorNumber::FileAccess, u"injected fault: disk full");
@@ -70,31 +54,31 @@ void FaultyFileSystem::write(const std::filesystem::path& file, std::string_view
 
 void FaultyFileSystem::flush(const std::filesystem::path& file)
 {
-    change(FileStep::Flush, file);
+    begin(FileStep::Flush);
     behind_->flush(file);
 }
 
 void FaultyFileSystem::flushFolder(const std::filesystem::path& folder)
 {
-    change(FileStep::FlushFolder, folder);
+    begin(FileStep::FlushFolder);
     behind_->flushFolder(folder);
 }
 
 void FaultyFileSystem::rename(const std::filesystem::path& from, const std::filesystem::path& to)
 {
-    change(FileStep::Rename, to);
+    begin(FileStep::Rename);
     behind_->rename(from, to);
 }
 
 void FaultyFileSystem::remove(const std::filesystem::path& file)
 {
-    change(FileStep::Remove, file);
+    begin(FileStep::Remove);
     behind_->remove(file);
 }
 
 void FaultyFileSystem::createFolder(const std::filesystem::path& folder)
 {
-    change(FileStep::CreateFolder, folder);
+    begin(FileStep::CreateFolder);
     behind_->createFolder(folder);
 }
 

@@ -4,11 +4,11 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QFileInfo>
 #include <QLockFile>
 #include <QSettings>
 #include <QStandardPaths>
 
-#include <algorithm>
 #include <chrono>
 
 namespace phial::qt
@@ -22,32 +22,28 @@ constexpr int MaxDamagedFiles = 1000;
 constexpr std::chrono::milliseconds LockPatience{500};
 constexpr auto FileInSuiteFolder = "qv-phial/settings.ini";
 
-// The toolkit overlooks lines that mean nothing to it, and would drop them at the next writing.
-bool isEntry(QByteArrayView line)
+// Every line of a sound file is ended, so the last byte tells a file that was cut within a line.
+bool isCutShort(const QString& path)
 {
-    const QByteArrayView text = line.trimmed();
-    return text.isEmpty() || text.startsWith(';') || text.contains('=') ||
-           (text.startsWith('[') && text.endsWith(']'));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() == 0) {
+        return false;
+    }
+    return !file.seek(file.size() - 1) || file.read(1) != QByteArrayLiteral("\n");
 }
 
-// Every line of a sound file is ended, so the last byte tells a file that was cut within a line.
-bool isSound(const QByteArray& content)
+bool parses(const QString& path)
 {
-    if (content.isEmpty()) {
-        return true;
-    }
-    const QList<QByteArray> lines = content.split('\n');
-    return content.endsWith('\n') && !content.contains('\0') &&
-           std::all_of(lines.begin(), lines.end(), isEntry);
+    const QSettings settings(path, QSettings::IniFormat);
+    settings.allKeys(); // sections are parsed when first asked for
+    return settings.status() != QSettings::FormatError;
 }
 
 bool isDamaged(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    return file.size() > MaxFileSize || !isSound(file.readAll());
+    const QFileInfo file(path);
+    return file.isFile() && file.isReadable() &&
+           (file.size() > MaxFileSize || isCutShort(path) || !parses(path));
 }
 
 void moveAside(const QString& path)

@@ -1,0 +1,133 @@
+#include "core/CoreDataFile.h"
+
+#include "core/RuntimeError.h"
+#include "support/HeadlessSession.h"
+
+#include <gmock/gmock.h>
+
+namespace phial
+{
+namespace
+{
+
+using ::testing::ElementsAre;
+
+class CoreDataFileTest : public test::HeadlessSession
+{
+protected:
+    std::vector<String> linesOf(std::string_view bytes)
+    {
+        folder.write("lines.dat", bytes);
+        CoreDataFile file;
+        file.Open(folder.path() + u"lines.dat", DataFileMode::Read);
+        std::vector<String> lines;
+        while (!file.AtEnd()) {
+            lines.push_back(file.ReadLine());
+        }
+        return lines;
+    }
+};
+
+TEST_F(CoreDataFileTest, LinesEndInLineFeedWithOrWithoutCarriageReturn)
+{
+    EXPECT_THAT(linesOf("H\r\nWasserstoff\n\n1"), ElementsAre(u"H", u"Wasserstoff", u"", u"1"));
+}
+
+TEST_F(CoreDataFileTest, ALineEndAtTheEndBeginsNoLine)
+{
+    EXPECT_THAT(linesOf("H\n"), ElementsAre(u"H"));
+    EXPECT_THAT(linesOf("\n"), ElementsAre(u""));
+    EXPECT_THAT(linesOf(""), ElementsAre());
+}
+
+TEST_F(CoreDataFileTest, TheMarkIsNoPartOfTheFirstLine)
+{
+    EXPECT_THAT(linesOf("\xEF\xBB\xBF"
+                        "Cäsium"),
+                ElementsAre(u"Cäsium"));
+    EXPECT_THAT(linesOf("\xEF\xBB\xBF"), ElementsAre());
+}
+
+TEST_F(CoreDataFileTest, ReadingBehindTheLastLineRaises)
+{
+    folder.write("a.txt", "x");
+    CoreDataFile file;
+    file.Open(folder.path() + u"a.txt", DataFileMode::Read);
+    file.ReadLine();
+    EXPECT_THROW(file.ReadLine(), RuntimeError);
+}
+
+TEST_F(CoreDataFileTest, AMissingFileRaisesOnOpening)
+{
+    CoreDataFile file;
+    EXPECT_THROW(file.Open(folder.path() + u"missing.txt", DataFileMode::Read), RuntimeError);
+    EXPECT_THROW(file.AtEnd(), RuntimeError);
+}
+
+TEST_F(CoreDataFileTest, TextReplacesTheFileWhenItIsClosed)
+{
+    folder.write("a.txt", "old");
+    CoreDataFile file;
+    file.Open(folder.path() + u"a.txt", DataFileMode::Write);
+    file.WriteText(u"Säu");
+    file.WriteText(u"re\r\n");
+    EXPECT_EQ(folder.read("a.txt"), "old");
+    file.Close();
+    EXPECT_EQ(folder.read("a.txt"), "Säure\r\n");
+    file.Close();
+}
+
+TEST_F(CoreDataFileTest, WithoutClosingTheOldFileStays)
+{
+    folder.write("a.txt", "old");
+    {
+        CoreDataFile file;
+        file.Open(folder.path() + u"a.txt", DataFileMode::Write);
+        file.WriteText(u"new");
+    }
+    EXPECT_EQ(folder.read("a.txt"), "old");
+}
+
+TEST_F(CoreDataFileTest, ValuesComeBackInOrderWithTheirTypes)
+{
+    const String path = folder.path() + u"a.rec";
+    CoreDataFile file;
+    file.Open(path, DataFileMode::Write);
+    file.Write(u"2.0", std::int32_t{7}, true, 1.5);
+    file.writeValue(Moment{45000.25});
+    file.Close();
+
+    String version;
+    std::int32_t count = 0;
+    bool flag = false;
+    double points = 0;
+    file.Open(path, DataFileMode::Read);
+    file.Read(version, count, flag, points);
+    EXPECT_EQ(version, u"2.0");
+    EXPECT_EQ(count, 7);
+    EXPECT_TRUE(flag);
+    EXPECT_EQ(points, 1.5);
+    EXPECT_EQ(file.ReadValue(), Variant(Moment{45000.25}));
+    EXPECT_THROW(file.ReadValue(), RuntimeError);
+}
+
+TEST_F(CoreDataFileTest, TheFirstCallDecidesBetweenTextAndValues)
+{
+    CoreDataFile file;
+    file.Open(folder.path() + u"a.txt", DataFileMode::Write);
+    file.WriteText(u"text");
+    EXPECT_THROW(file.Write(u"value"), RuntimeError);
+    EXPECT_THROW(file.ReadLine(), RuntimeError);
+}
+
+TEST(CoreDataFile, ValuesNeedAFormat)
+{
+    const test::TemporaryFolder folder;
+    const SessionState session{Platform()};
+    CoreDataFile file;
+    file.Open(folder.path() + u"a.rec", DataFileMode::Write);
+    EXPECT_THROW(file.Write(u"2.0"), RuntimeError);
+}
+
+} // namespace
+} // namespace phial
