@@ -1,0 +1,362 @@
+#include "core/CoreValuePacker.h"
+
+#include "core/DATA.h"
+#include "core/DataOwner.h"
+#include "core/tmp_Data.h"
+#include "support/Raises.h"
+
+#include <bit>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <memory>
+#include <random>
+
+namespace phial
+{
+namespace
+{
+
+Variant roundTrip(const Variant& value)
+{
+    Variant result = u"untouched";
+    CoreValuePacker::Unpack(CoreValuePacker::Pack({value}), {result});
+    return result;
+}
+
+String packedText(StringView text)
+{
+    return CoreValuePacker::Pack({Variant(text)});
+}
+
+TEST(CoreValuePackerTest, WorkedExamples)
+{
+    EXPECT_EQ(CoreValuePacker::Pack({}), u"QV1;0;");
+    EXPECT_EQ(CoreValuePacker::Pack({u"Hallo", 42, 2.5}), u"QV1;3;T5=Hallo;I2=42;D3=2.5;");
+    EXPECT_EQ(CoreValuePacker::Pack({true, false, Variant(), ObjectPtr()}), u"QV1;4;B2=-1;B1=0;E0=;N0=;");
+    EXPECT_EQ(CoreValuePacker::Pack({Moment{45292.75}}), u"QV1;1;M8=45292.75;");
+    EXPECT_EQ(CoreValuePacker::Pack({Variant::Array{1, u"a"}}), u"QV1;1;A12=2;I1=1;T1=a;;");
+    EXPECT_EQ(packedText(u"50 % {a|b}"), u"QV1;1;T22=50 %0025 %007Ba%007Cb};");
+    EXPECT_EQ(CoreValuePacker::Pack({std::numeric_limits<double>::infinity()}),
+              u"QV1;1;D17=#7FF0000000000000;");
+}
+
+TEST(CoreValuePackerTest, ValuesFillTheTargetsInOrder)
+{
+    Variant name;
+    Variant points;
+    CoreValuePacker::Unpack(CoreValuePacker::Pack({u"Anna", 12.0}), {name, points});
+    EXPECT_EQ(name, Variant(u"Anna"));
+    EXPECT_EQ(points, Variant(12.0));
+}
+
+TEST(CoreValuePackerTest, KindsComeBack)
+{
+    for (const Variant& value : {Variant(), Variant(true), Variant(1), Variant(1.0), Variant(Moment{1}),
+                                 Variant(u"1"), Variant(Variant::Array{}), Variant(ObjectPtr())}) {
+        EXPECT_EQ(roundTrip(value).kind(), value.kind());
+    }
+}
+
+TEST(CoreValuePackerTest, DifficultTextsComeBack)
+{
+    const String withNul(u"a\0b", 3);
+    const String halves = {0xDC00, u'a', 0xD800};
+    for (const String& text :
+         {String(), withNul, halves, String(u"\u00E4\u00F6\u00FC\u00DF \u201EZitat\u201C \"q\""),
+          String(u"a\r\nb\tc"), String(u"a|b::c;d=e"), String(u"{NEXT_ITEM}"), String(u"%007C%"),
+          String(u"\U0001F9EA\u202E\uFEFF\uFFFF")}) {
+        EXPECT_EQ(roundTrip(text), Variant(text));
+    }
+}
+
+TEST(CoreValuePackerTest, LongTextsComeBack)
+{
+    const String long1(1'000'000, u'|');
+    EXPECT_EQ(roundTrip(long1), Variant(long1));
+}
+
+TEST(CoreValuePackerTest, ThePackedTextFitsIntoOtherTexts)
+{
+    String every;
+    for (int unit = 0; unit <= 0xFFFF; ++unit) {
+        every += static_cast<char16_t>(unit);
+    }
+    const String packed = packedText(every);
+    EXPECT_EQ(packed.find_first_of(u"{|:\r\n\u2028\u2029"), String::npos);
+    EXPECT_EQ(packed.find(u'\0'), String::npos);
+    EXPECT_EQ(roundTrip(every), Variant(every));
+}
+
+TEST(CoreValuePackerTest, PackedTextsAreValuesToo)
+{
+    String text = u"|";
+    for (int depth = 0; depth < 5; ++depth) {
+        text = packedText(text);
+    }
+    for (int depth = 0; depth < 5; ++depth) {
+        text = CoreValuePacker::unpackAll(text).front().text();
+    }
+    EXPECT_EQ(text, u"|");
+}
+
+TEST(CoreValuePackerTest, DoublesComeBackToTheLastBit)
+{
+    using Limits = std::numeric_limits<double>;
+    std::mt19937_64 random(7);
+    std::vector<double> numbers = {0.0,
+                                   -0.0,
+                                   0.1,
+                                   Limits::max(),
+                                   Limits::min(),
+                                   Limits::denorm_min(),
+                                   Limits::infinity(),
+                                   -Limits::infinity(),
+                                   Limits::quiet_NaN(),
+                                   std::bit_cast<double>(0xFFF8000000000123U)};
+    for (int i = 0; i < 20000; ++i) {
+        numbers.push_back(std::bit_cast<double>(random()));
+    }
+    for (const double number : numbers) {
+        const auto bits = std::bit_cast<std::uint64_t>(number);
+        ASSERT_EQ(std::bit_cast<std::uint64_t>(roundTrip(number).toReal()), bits);
+        ASSERT_EQ(std::bit_cast<std::uint64_t>(roundTrip(Moment{number}).toMoment().days), bits);
+    }
+}
+
+TEST(CoreValuePackerTest, WholeNumbersComeBack)
+{
+    for (const std::int32_t number :
+         {0, -1, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()}) {
+        EXPECT_EQ(roundTrip(number), Variant(number));
+    }
+}
+
+/// Makes values of every kind, nested, from one seed.
+class RandomValues
+{
+public:
+    explicit RandomValues(unsigned seed) : random_(seed) {}
+
+    Variant value(int depth = 0)
+    {
+        switch (number(depth < 4 ? 7 : 6)) {
+        case 0:
+            return {};
+        case 1:
+            return Variant(number(2) == 1);
+        case 2:
+            return static_cast<std::int32_t>(random_());
+        case 3:
+            return std::ldexp(static_cast<double>(random_()), static_cast<int>(number(200)) - 100);
+        case 4:
+            return Moment{static_cast<double>(number(100000)) / 7};
+        case 5:
+            return text();
+        case 6:
+            return ObjectPtr();
+        default:
+            return array(depth);
+        }
+    }
+
+private:
+    unsigned number(unsigned greatest)
+    {
+        return std::uniform_int_distribution<unsigned>(0, greatest)(random_);
+    }
+
+    Variant text()
+    {
+        String text;
+        for (unsigned length = number(30); length > 0; --length) {
+            text +=
+                number(1) == 0 ? static_cast<char16_t>(number(0x7F)) : static_cast<char16_t>(number(0xFFFF));
+        }
+        return text;
+    }
+
+    Variant array(int depth)
+    {
+        Variant::Array items;
+        for (unsigned count = number(5); count > 0; --count) {
+            items.push_back(value(depth + 1));
+        }
+        return items;
+    }
+
+    std::mt19937 random_;
+};
+
+TEST(CoreValuePackerTest, EveryListComesBack)
+{
+    RandomValues random(2024);
+    for (int round = 0; round < 2000; ++round) {
+        std::vector<Variant> values;
+        for (int i = 0; i < round % 8; ++i) {
+            values.push_back(random.value());
+        }
+        const String packed = CoreValuePacker::Pack(values);
+        ASSERT_EQ(CoreValuePacker::unpackAll(packed), values);
+        ASSERT_EQ(CoreValuePacker::Pack(CoreValuePacker::unpackAll(packed)), packed);
+    }
+}
+
+Variant nested(int depth)
+{
+    Variant value = u"innermost";
+    for (int i = 0; i < depth; ++i) {
+        value = Variant::Array{value};
+    }
+    return value;
+}
+
+TEST(CoreValuePackerTest, ArraysNestToTheLimit)
+{
+    const Variant deepest = nested(CoreValuePacker::MaxNesting);
+    EXPECT_EQ(roundTrip(deepest), deepest);
+    EXPECT_RAISES(CoreValuePacker::Pack({nested(CoreValuePacker::MaxNesting + 1)}), InvalidArgument);
+}
+
+TEST(CoreValuePackerTest, DeeperTextsAreRefused)
+{
+    String text = u"0;";
+    for (int depth = 0; depth < 10000; ++depth) {
+        const std::string length = std::to_string(text.size());
+        text = u"1;A" + String(length.begin(), length.end()) + u"=" + text + u";";
+        if (depth % 1000 == 999) {
+            EXPECT_RAISES(CoreValuePacker::unpackAll(u"QV1;" + text), InvalidArgument);
+        }
+    }
+}
+
+TEST(CoreValuePackerTest, EveryTruncationIsDamage)
+{
+    const String whole =
+        CoreValuePacker::Pack({u"Hallo %", 42, 2.5, Variant::Array{1, u"a"}, true, Moment{1}});
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_RAISES(CoreValuePacker::unpackAll(whole.substr(0, length)), InvalidArgument);
+    }
+}
+
+TEST(CoreValuePackerTest, DamagedTextsAreRefused)
+{
+    for (const StringView text : {u"",
+                                  u"QV2;0;",
+                                  u"QV1;",
+                                  u"QV1;-1;",
+                                  u"QV1;0;x",
+                                  u"QV1;1;T5=abc;",
+                                  u"QV1;1;T1=abc;",
+                                  u"QV1;1;T=;",
+                                  u"QV1;4294967295;",
+                                  u"QV1;99999999999999999999;",
+                                  u"QV1;1;T4294967295=a;",
+                                  u"QV1;1;T1=%;",
+                                  u"QV1;1;T5=%00G0;",
+                                  u"QV1;1;I1=a;",
+                                  u"QV1;1;I10=2147483648;",
+                                  u"QV1;1;I0=;",
+                                  u"QV1;1;B1=1;",
+                                  u"QV1;1;D3=inf;",
+                                  u"QV1;1;D3=nan;",
+                                  u"QV1;1;D5=1e999;",
+                                  u"QV1;1;D4= 2.5;",
+                                  u"QV1;1;D2=#0;",
+                                  u"QV1;1;D17=#7FF000000000000G;",
+                                  u"QV1;1;E1=a;",
+                                  u"QV1;1;N1=a;",
+                                  u"QV1;1;A2=1;;",
+                                  u"QV1;1;R6=1;E0=;;"}) {
+        EXPECT_RAISES(CoreValuePacker::unpackAll(text), InvalidArgument) << toUtf8(text);
+    }
+}
+
+TEST(CoreValuePackerTest, UnknownKindsAreRefused)
+{
+    EXPECT_RAISES(CoreValuePacker::unpackAll(u"QV1;1;X1=a;"), TypeMismatch);
+}
+
+TEST(CoreValuePackerTest, AnotherNumberOfValuesLeavesTheTargets)
+{
+    Variant first = 1;
+    Variant second = 2;
+    EXPECT_RAISES(CoreValuePacker::Unpack(CoreValuePacker::Pack({u"a"}), {first, second}), InvalidArgument);
+    EXPECT_RAISES(CoreValuePacker::Unpack(CoreValuePacker::Pack({u"a", u"b", u"c"}), {first, second}),
+                  InvalidArgument);
+    EXPECT_EQ(first, Variant(1));
+    EXPECT_EQ(second, Variant(2));
+}
+
+/// A record with one field.
+class Score : public Object, public tmp_Data, private DataOwner
+{
+public:
+    explicit Score(String name = {}, String classTag = u"Test.Score") : name_(std::move(name))
+    {
+        data_.get()->ClassTag(std::move(classTag));
+    }
+
+    StringView typeName() const override { return u"Score"; }
+    MemberTable members() const override { return {}; }
+    std::shared_ptr<phial::DATA> DATA() override { return data_.get(); }
+    const String& name() const { return name_; }
+
+private:
+    bool DataCopy(tmp_Data&) override { return false; }
+    String DataPACK() override { return CoreValuePacker::Pack({name_}); }
+    void DataUnpack(StringView pText) override
+    {
+        Variant name;
+        CoreValuePacker::Unpack(pText, {name});
+        name_ = name.text();
+    }
+    void DataStore(CoreDataStream&) override {}
+    void DataRead(CoreDataStream&) override {}
+    std::shared_ptr<tmp_Data> DataSpawn() override { return std::make_shared<Score>(); }
+
+    String name_;
+    DataHolder data_{*this};
+};
+
+/// An object that is no record.
+class Something : public Object
+{
+public:
+    StringView typeName() const override { return u"Something"; }
+    MemberTable members() const override { return {}; }
+};
+
+TEST(CoreValuePackerTest, ARecordFillsTheRecordInItsTarget)
+{
+    const String packed = CoreValuePacker::Pack({u"before", ObjectPtr(std::make_shared<Score>(u"Anna|Ben"))});
+    const auto score = std::make_shared<Score>();
+    Variant first;
+    Variant second = ObjectPtr(score);
+    CoreValuePacker::Unpack(packed, {first, second});
+    EXPECT_EQ(first, Variant(u"before"));
+    EXPECT_EQ(second, Variant(ObjectPtr(score)));
+    EXPECT_EQ(score->name(), u"Anna|Ben");
+}
+
+TEST(CoreValuePackerTest, ARecordNeedsATargetOfItsClass)
+{
+    const String packed = CoreValuePacker::Pack({u"before", ObjectPtr(std::make_shared<Score>(u"Anna"))});
+    const auto other = std::make_shared<Score>(u"Ben", u"Test.Other");
+    for (const Variant& target : {Variant(), Variant(ObjectPtr()), Variant(ObjectPtr(other))}) {
+        Variant first = 1;
+        Variant second = target;
+        EXPECT_RAISES(CoreValuePacker::Unpack(packed, {first, second}), TypeMismatch);
+        EXPECT_EQ(first, Variant(1));
+    }
+    EXPECT_EQ(other->name(), u"Ben");
+    EXPECT_RAISES(CoreValuePacker::unpackAll(packed), TypeMismatch);
+}
+
+TEST(CoreValuePackerTest, OtherObjectsHaveNoTextForm)
+{
+    EXPECT_RAISES(CoreValuePacker::Pack({ObjectPtr(std::make_shared<Something>())}), TypeMismatch);
+}
+
+} // namespace
+} // namespace phial
