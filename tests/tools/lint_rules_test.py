@@ -1,0 +1,93 @@
+"""The rules of tools/lint, on small made-up trees."""
+import pathlib
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
+
+from linting import files, includes, sources, words  # noqa: E402
+
+
+class MadeUpTree(files.Tree):
+    """A tree whose files are given as a dictionary from path to text."""
+
+    def __init__(self, texts):
+        self.texts = {pathlib.PurePosixPath(name): text for name, text in texts.items()}
+        self.paths = sorted(self.texts)
+
+    def text(self, path):
+        return self.texts[path]
+
+
+CORE = {"src/core/Text.h": "#pragma once\n"}
+TERM = {"src/term/Term.h": "#pragma once\n"}
+
+
+class Includes(unittest.TestCase):
+    def problems(self, path, text):
+        return includes.check(MadeUpTree({**CORE, **TERM, path: text}))
+
+    def test_what_lies_below_may_be_included(self):
+        self.assertEqual(self.problems("src/chem/Mass.h", '#pragma once\n#include "core/Text.h"\n'), [])
+
+    def test_what_lies_above_may_not(self):
+        self.assertEqual(self.problems("src/core/Mass.cpp", '#include "term/Term.h"\n'),
+                         ['src/core/Mass.cpp:1: "term/Term.h" is not below src/core'])
+
+    def test_a_source_may_include_a_neighbouring_subsystem(self):
+        self.assertEqual(self.problems("src/chem/Mass.cpp", '#include "term/Term.h"\n'), [])
+
+    def test_a_header_may_not(self):
+        self.assertEqual(self.problems("src/chem/Mass.h", '#pragma once\n#include "term/Term.h"\n'),
+                         ['src/chem/Mass.h:2: "term/Term.h" is not below src/chem'])
+
+    def test_the_adapter_without_a_display_knows_nothing_of_the_one_with_it(self):
+        tree = {"src/qt/desktop/Window.h": "#pragma once\n", "src/qt/base/Clock.cpp": '#include "qt/desktop/Window.h"\n'}
+        self.assertEqual(includes.check(MadeUpTree(tree)),
+                         ['src/qt/base/Clock.cpp:1: "qt/desktop/Window.h" is not below src/qt/base'])
+
+    def test_an_include_is_written_from_the_root_of_the_sources(self):
+        self.assertEqual(self.problems("src/core/Mass.cpp", '#include "Text.h"\n'),
+                         ['src/core/Mass.cpp:1: "Text.h" is written from the folder src/: "core/Text.h"'])
+
+    def test_qt_stays_in_the_adapter_and_in_the_start_of_programs(self):
+        for path in ("src/qt/base/Clock.cpp", "hosts/app/main.cpp", "tests/qt/ClockTest.cpp"):
+            self.assertEqual(self.problems(path, "#include <QString>\n"), [], path)
+        for path in ("src/core/Mass.cpp", "src/headless/Clock.cpp", "hosts/app/Window.cpp", "tests/core/MassTest.cpp"):
+            self.assertEqual(len(self.problems(path, "#include <QString>\n")), 1, path)
+
+    def test_a_header_without_a_guard_is_found(self):
+        self.assertEqual(self.problems("src/core/Mass.h", "int mass();\n"),
+                         ["src/core/Mass.h:1: a header begins with #pragma once"])
+
+
+class Sources(unittest.TestCase):
+    def test_a_listed_source_is_fine_from_any_folder_above(self):
+        tree = {"src/CMakeLists.txt": "target_sources(phial PRIVATE core/Text.cpp)", "src/core/Text.cpp": ""}
+        self.assertEqual(sources.check(MadeUpTree(tree)), [])
+
+    def test_a_source_that_nobody_builds_is_found(self):
+        tree = {"src/core/CMakeLists.txt": "target_sources(phial PRIVATE LongText.cpp)", "src/core/Text.cpp": ""}
+        self.assertEqual(sources.check(MadeUpTree(tree)), ["src/core/Text.cpp:1: no CMakeLists.txt names this file"])
+
+    def test_a_fuzz_target_without_inputs_is_found(self):
+        tree = {"tests/fuzz/CMakeLists.txt": "phial_fuzz(terms)\nphial_fuzz(masses)\n",
+                "tests/fuzz/terms.cpp": "", "tests/fuzz/masses.cpp": "", "tests/fuzz/corpus/terms/water": "H2O"}
+        self.assertEqual(sources.check(MadeUpTree(tree)), [
+            "tests/fuzz/CMakeLists.txt:1: fuzz target masses has no files in tests/fuzz/corpus/masses"])
+
+
+class Words(unittest.TestCase):
+    def problems(self, line):
+        return words.check(MadeUpTree({"docs/notes.md": line}))
+
+    def test_ordinary_words_that_look_alike_are_fine(self):
+        self.assertEqual(self.problems("A specific part of the work in build/work, specified twice in parts 2 and 3."), [])
+
+    def test_references_to_what_a_reader_cannot_open_are_found(self):
+        for line in ("see Part" + " 2.3", "as the sp" + "ec says", "in /wor" + "k/main", "TO" + "DO: later"):
+            self.assertEqual(len(self.problems(line)), 1, line)
+
+
+if __name__ == "__main__":
+    unittest.main()
