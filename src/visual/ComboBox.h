@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Colour.h"
 #include "visual/Control.h"
 #include "visual/Font.h"
 #include "visual/ListItems.h"
@@ -36,6 +37,8 @@ public:
     FontPtr Font() const { return font_; }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
+    Colour BackColor() const { return backColor_; }
+    void BackColor(Colour value);
 
     Event<> Change;
     Event<> Click;
@@ -61,6 +64,7 @@ private:
     String text_;
     FontPtr font_;
     Connection fontChanged_;
+    Colour backColor_ = SystemColour::Window;
 };
 
 } // namespace phial

@@ -58,7 +58,7 @@ public:
         if (elements_.empty()) {
             throw RuntimeError(ErrorNumber::IndexOutOfBounds);
         }
-        const Class& original = *elements_.begin()->second.control;
+        Class& original = *elements_.begin()->second.control;
         auto copy = makeControl<Class>();
         copyControl(original, *copy);
         copy->Visible(false);

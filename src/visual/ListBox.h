@@ -33,6 +33,8 @@ public:
     FontPtr Font() const { return font_; }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
+    Colour BackColor() const { return backColor_; }
+    void BackColor(Colour value);
 
     Event<> Click;
     Event<> DblClick;
@@ -58,6 +60,7 @@ private:
     ListItems items_;
     FontPtr font_;
     Connection fontChanged_;
+    Colour backColor_ = SystemColour::Window;
 };
 
 } // namespace phial

@@ -1,0 +1,153 @@
+#include "visual/Label.h"
+
+#include "visual/Change.h"
+#include "visual/FrameMembers.h"
+#include "visual/Markup.h"
+#include "visual/VisualHost.h"
+
+#include <cmath>
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr auto Table = joinMembers(
+    FrameMembers, std::to_array<Member>({
+                      members::property<Label, String, &Label::Caption, &Label::Caption>(u"Caption"),
+                      members::property<Label, FontPtr, &Label::Font, &Label::Font>(u"Font"),
+                      members::property<Label, Colour, &Label::ForeColor, &Label::ForeColor>(u"ForeColor"),
+                      members::property<Label, Colour, &Label::BackColor, &Label::BackColor>(u"BackColor"),
+                      members::property<Label, BackStyle, &Label::BackStyle, &Label::BackStyle>(u"BackStyle"),
+                      members::property<Label, Alignment, &Label::Alignment, &Label::Alignment>(u"Alignment"),
+                      members::property<Label, bool, &Label::AutoSize, &Label::AutoSize>(u"AutoSize"),
+                      members::property<Label, bool, &Label::WordWrap, &Label::WordWrap>(u"WordWrap"),
+                  }));
+
+TextSide sideOf(Alignment alignment)
+{
+    switch (alignment) {
+    case Alignment::Right:
+        return TextSide::Far;
+    case Alignment::Centre:
+        return TextSide::Middle;
+    case Alignment::Left:
+        break;
+    }
+    return TextSide::Near;
+}
+
+} // namespace
+
+Label::Label() : frame_(*this), surface_(*this), font_(std::make_shared<phial::Font>())
+{
+    surface_.transparent(true);
+    fontChanged_ = font_->changed.connect([this] { refresh(); });
+}
+
+MemberTable Label::members() const
+{
+    return Table;
+}
+
+void Label::refresh()
+{
+    fitToText();
+    surface_.invalidate();
+}
+
+void Label::fitToText()
+{
+    if (!autoSize_) {
+        return;
+    }
+    const PixelRectangle place = frame_.pixelRectangle();
+    const auto wrap = wordWrap_ ? std::optional(place.width) : std::nullopt;
+    const PixelSize text = MarkupLayout(caption_, font_->spec(), visualHost().metrics(), wrap).size();
+    frame_.pixelRectangle(
+        {place.left, place.top, wordWrap_ ? place.width : std::ceil(text.width), std::ceil(text.height)});
+}
+
+void Label::Caption(String value)
+{
+    if (change(caption_, std::move(value))) {
+        refresh();
+        frame_.report(ControlAspect::Accessibility);
+        PropertyChanged.emit(u"Caption");
+    }
+}
+
+void Label::Font(FontPtr value)
+{
+    shareFont(font_, fontChanged_, std::move(value), [this] { refresh(); });
+}
+
+void Label::ForeColor(Colour value)
+{
+    if (change(foreColor_, value)) {
+        surface_.invalidate();
+    }
+}
+
+void Label::BackColor(Colour value)
+{
+    if (change(backColor_, value)) {
+        surface_.BackColor(value);
+        surface_.invalidate();
+    }
+}
+
+void Label::BackStyle(phial::BackStyle value)
+{
+    if (change(backStyle_, value)) {
+        surface_.BackColor(backColor_);
+        surface_.transparent(value == phial::BackStyle::Transparent);
+        surface_.invalidate();
+    }
+}
+
+void Label::Alignment(phial::Alignment value)
+{
+    if (change(alignment_, value)) {
+        surface_.invalidate();
+    }
+}
+
+void Label::AutoSize(bool value)
+{
+    if (change(autoSize_, value)) {
+        refresh();
+    }
+}
+
+void Label::WordWrap(bool value)
+{
+    if (change(wordWrap_, value)) {
+        refresh();
+    }
+}
+
+String Label::accessibleText() const
+{
+    return plainMarkup(caption_);
+}
+
+void Label::resized()
+{
+    surface_.resized();
+    fitToText();
+}
+
+void Label::paint()
+{
+    DrawDevice& device = surface_.device();
+    device.Cls();
+    device.ForeColor(foreColor_);
+    const PixelSize size = surface_.size();
+    const auto wrap = wordWrap_ ? std::optional(size.width) : std::nullopt;
+    MarkupLayout(caption_, font_->spec(), visualHost().metrics(), wrap)
+        .draw(device, {0, 0, size.width, size.height}, sideOf(alignment_), TextSide::Near);
+}
+
+} // namespace phial

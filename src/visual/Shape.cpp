@@ -1,0 +1,156 @@
+#include "visual/Shape.h"
+
+#include "visual/Change.h"
+#include "visual/FrameMembers.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr double Pi = 3.14159265358979;
+constexpr double LargestRadius = 12; // of rounded corners, in pixels
+
+constexpr auto Table = joinMembers(
+    FrameMembers,
+    std::to_array<Member>({
+        members::property<Shape, ShapeKind, &Shape::Kind, &Shape::Kind>(u"Shape"),
+        members::property<Shape, Colour, &Shape::BorderColor, &Shape::BorderColor>(u"BorderColor"),
+        members::property<Shape, std::int32_t, &Shape::BorderWidth, &Shape::BorderWidth>(u"BorderWidth"),
+        members::property<Shape, Colour, &Shape::FillColor, &Shape::FillColor>(u"FillColor"),
+        members::property<Shape, FillStyle, &Shape::FillStyle, &Shape::FillStyle>(u"FillStyle"),
+    }));
+
+/// The largest square in the middle of an area.
+PixelRectangle squareIn(const PixelRectangle& area)
+{
+    const double side = std::min(area.width, area.height);
+    return {area.left + (area.width - side) / 2, area.top + (area.height - side) / 2, side, side};
+}
+
+void paintOval(DrawDevice& device, const PixelRectangle& area, Colour border)
+{
+    const double radiusX = (area.width - 1) / 2;
+    const double radiusY = (area.height - 1) / 2;
+    if (radiusX <= 0 || radiusY <= 0) {
+        return;
+    }
+    device.Circle(area.left + radiusX, area.top + radiusY, std::max(radiusX, radiusY), border, std::nullopt,
+                  radiusY / radiusX);
+}
+
+/// The outline of a rounded box as points, corner by corner.
+std::vector<PixelPoint> roundedOutline(const PixelRectangle& area)
+{
+    const double right = area.right() - 1;
+    const double bottom = area.bottom() - 1;
+    const double radius = std::min({LargestRadius, area.width / 2, area.height / 2});
+    const PixelPoint centres[] = {{right - radius, area.top + radius},
+                                  {area.left + radius, area.top + radius},
+                                  {area.left + radius, bottom - radius},
+                                  {right - radius, bottom - radius}};
+    constexpr int Points = 8;
+    std::vector<PixelPoint> outline;
+    for (int corner = 0; corner < 4; ++corner) {
+        for (int i = 0; i <= Points; ++i) {
+            const double angle = (corner + static_cast<double>(i) / Points) * Pi / 2;
+            outline.push_back(
+                {centres[corner].x + radius * std::cos(angle), centres[corner].y - radius * std::sin(angle)});
+        }
+    }
+    return outline;
+}
+
+} // namespace
+
+Shape::Shape() : frame_(*this), surface_(*this)
+{
+    surface_.transparent(true);
+}
+
+MemberTable Shape::members() const
+{
+    return Table;
+}
+
+void Shape::Kind(ShapeKind value)
+{
+    if (change(kind_, value)) {
+        surface_.invalidate();
+    }
+}
+
+void Shape::BorderColor(Colour value)
+{
+    if (change(borderColor_, value)) {
+        surface_.invalidate();
+    }
+}
+
+void Shape::BorderWidth(std::int32_t value)
+{
+    if (value < 0) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+    if (change(borderWidth_, value)) {
+        surface_.invalidate();
+    }
+}
+
+void Shape::FillColor(Colour value)
+{
+    if (change(fillColor_, value)) {
+        surface_.invalidate();
+    }
+}
+
+void Shape::FillStyle(phial::FillStyle value)
+{
+    if (change(fillStyle_, value)) {
+        surface_.invalidate();
+    }
+}
+
+void Shape::paint()
+{
+    DrawDevice& device = surface_.device();
+    device.Cls();
+    const bool outlined = borderWidth_ > 0;
+    device.DrawWidth(std::max(1, borderWidth_));
+    device.FillColor(fillColor_);
+    device.FillStyle(fillStyle_);
+    const Colour border = outlined ? borderColor_ : fillColor_;
+    if (!outlined && fillStyle_ == phial::FillStyle::Transparent) {
+        return;
+    }
+    const PixelSize size = surface_.size();
+    const double inset = outlined ? borderWidth_ / 2 : 0;
+    const PixelRectangle whole{inset, inset, size.width - 2 * inset, size.height - 2 * inset};
+    const PixelRectangle area =
+        kind_ == ShapeKind::Square || kind_ == ShapeKind::Circle ? squareIn(whole) : whole;
+    switch (kind_) {
+    case ShapeKind::Oval:
+    case ShapeKind::Circle:
+        paintOval(device, area, border);
+        break;
+    case ShapeKind::RoundedRectangle:
+        device.ForeColor(border);
+        device.Polygon(roundedOutline(area));
+        break;
+    case ShapeKind::Rectangle:
+    case ShapeKind::Square:
+        if (fillStyle_ == phial::FillStyle::Solid) {
+            device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, fillColor_,
+                        LineShape::Filled);
+        }
+        device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, border, LineShape::Box);
+        break;
+    }
+}
+
+} // namespace phial

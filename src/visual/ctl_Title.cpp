@@ -1,0 +1,176 @@
+#include "visual/ctl_Title.h"
+
+#include "core/CoreTheme.h"
+#include "core/Locale.h"
+#include "core/SessionState.h"
+#include "visual/Change.h"
+#include "visual/FrameMembers.h"
+
+#include <algorithm>
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr double Margin = 10;    // left and right, in pixels
+constexpr double IconSize = 24;  // greatest edge of the icon
+constexpr double CrossSize = 10; // edge of the sign to close with
+
+constexpr auto Table = joinMembers(
+    FrameMembers,
+    std::to_array<Member>({
+        members::property<ctl_Title, String, &ctl_Title::Title, &ctl_Title::Title>(u"Title"),
+        members::property<ctl_Title, PicturePtr, &ctl_Title::Icon, &ctl_Title::Icon>(u"Icon"),
+        members::property<ctl_Title, bool, &ctl_Title::Closable, &ctl_Title::Closable>(u"Closable"),
+        members::property<ctl_Title, FontPtr, &ctl_Title::Font, &ctl_Title::Font>(u"Font"),
+    }));
+
+} // namespace
+
+ctl_Title::ctl_Title()
+    : frame_(*this), surface_(*this),
+      font_(std::make_shared<phial::Font>(FontSpec{.name = u"Tahoma", .size = 11, .bold = true}))
+{
+    frame_.canFocus(true);
+    fontChanged_ = font_->changed.connect([this] { surface_.invalidate(); });
+}
+
+MemberTable ctl_Title::members() const
+{
+    return Table;
+}
+
+void ctl_Title::Title(String value)
+{
+    if (change(title_, std::move(value))) {
+        surface_.invalidate();
+        frame_.report(ControlAspect::Accessibility);
+        PropertyChanged.emit(u"Title");
+    }
+}
+
+void ctl_Title::Icon(PicturePtr value)
+{
+    if (change(icon_, std::move(value))) {
+        surface_.invalidate();
+    }
+}
+
+void ctl_Title::Closable(bool value)
+{
+    if (change(closable_, value)) {
+        surface_.invalidate();
+        frame_.report(ControlAspect::Accessibility);
+        PropertyChanged.emit(u"Closable");
+    }
+}
+
+void ctl_Title::Font(FontPtr value)
+{
+    shareFont(font_, fontChanged_, std::move(value), [this] { surface_.invalidate(); });
+}
+
+PixelRectangle ctl_Title::closeArea() const
+{
+    const PixelSize size = surface_.size();
+    return {std::max(0.0, size.width - size.height), 0, size.height, size.height};
+}
+
+std::vector<NamedPart> ctl_Title::parts() const
+{
+    if (!closable_) {
+        return {};
+    }
+    return {{.area = closeArea(),
+             .role = PartRole::Button,
+             .name = currentLocale().language == LanguageEnglish ? u"Close" : u"Schließen",
+             .action = u"Press"}};
+}
+
+void ctl_Title::activatePart(std::size_t part)
+{
+    if (closable_ && part == 0) {
+        CLOSE.emit();
+    }
+}
+
+void ctl_Title::hover(bool value)
+{
+    if (change(hovered_, value)) {
+        surface_.invalidate();
+    }
+}
+
+void ctl_Title::pointerDown(const PointerEvent& event)
+{
+    pressed_ = closable_ && event.Button == PointerButton::Left && closeArea().contains({event.X, event.Y});
+}
+
+void ctl_Title::pointerMove(const PointerEvent& event)
+{
+    hover(closable_ && closeArea().contains({event.X, event.Y}));
+}
+
+void ctl_Title::pointerUp(const PointerEvent& event)
+{
+    const bool closing = std::exchange(pressed_, false) && closeArea().contains({event.X, event.Y});
+    if (closing) {
+        CLOSE.emit();
+    }
+}
+
+void ctl_Title::pointerLeave()
+{
+    hover(false);
+}
+
+void ctl_Title::readProperties(const PropertyBag& bag)
+{
+    title_ = bag.ReadProperty(u"TITLE", u"").toText();
+    closable_ = bag.ReadProperty(u"CLOSABLE", true).toBoolean();
+    surface_.invalidate();
+}
+
+void ctl_Title::writeProperties(PropertyBag& bag)
+{
+    bag.WriteProperty(u"TITLE", title_, u"");
+    bag.WriteProperty(u"CLOSABLE", closable_, true);
+}
+
+void ctl_Title::paint()
+{
+    DrawDevice& device = surface_.device();
+    const CoreTheme& theme = coreTheme();
+    const PixelSize size = surface_.size();
+    surface_.BackColor(theme.Colour(ThemeSlot::Frame));
+    device.Cls();
+    double left = Margin;
+    if (icon_) {
+        const double edge = std::min(IconSize, size.height);
+        device.PaintPicture(icon_, left, (size.height - edge) / 2, edge, edge);
+        left += edge + Margin;
+    }
+    device.font(font_->spec());
+    device.ForeColor(theme.Colour(ThemeSlot::FrameText));
+    device.CurrentX(left);
+    device.CurrentY((size.height - device.TextHeight(title_)) / 2);
+    device.Print(title_);
+    if (!closable_) {
+        return;
+    }
+    const PixelRectangle close = closeArea();
+    if (hovered_) {
+        device.Line(close.left, close.top, close.right() - 1, close.bottom() - 1,
+                    theme.Colour(ThemeSlot::Accent), LineShape::Filled);
+    }
+    const double x = close.left + (close.width - CrossSize) / 2;
+    const double y = close.top + (close.height - CrossSize) / 2;
+    device.DrawWidth(2);
+    device.Line(x, y, x + CrossSize, y + CrossSize);
+    device.Line(x, y + CrossSize - 1, x + CrossSize, y - 1);
+    device.DrawWidth(1);
+}
+
+} // namespace phial
