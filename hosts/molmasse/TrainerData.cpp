@@ -1,0 +1,78 @@
+#include "molmasse/TrainerData.h"
+
+#include "app/cls_App.h"
+#include "app/cls_AppURL.h"
+#include "app/sys_Global.h"
+#include "core/CoreFiles.h"
+#include "core/CoreRoot.h"
+#include "core/Format.h"
+#include "core/NumberText.h"
+
+namespace molmasse
+{
+
+using phial::String;
+
+namespace
+{
+
+std::shared_ptr<phial::cls_DataElements> readElements(const String& file)
+{
+    auto elements = std::make_shared<phial::cls_DataElements>();
+    phial::ignoringErrors([&] { elements->IMPORT2(file); });
+    return elements->COUNT() > 0 ? elements : nullptr;
+}
+
+TaskList readTasks(const String& file)
+{
+    TaskList tasks;
+    phial::ignoringErrors([&] { tasks = readTaskList(phial::coreRoot().CoreFiles().ReadText(file)); });
+    return tasks;
+}
+
+} // namespace
+
+TrainerData loadTrainerData()
+{
+    TrainerData data;
+    const auto& folders = phial::QVAPP()->URL();
+    if (folders->ROOT().empty()) {
+        data.missing = Missing::Installation;
+        return data;
+    }
+    data.file = folders->DATASHARED() + u"elements2.dat";
+    data.elements = readElements(data.file);
+    if (!data.elements) {
+        data.missing = Missing::Elements;
+        return data;
+    }
+    data.file = folders->DATAAPP() + u"formeln.txt";
+    data.tasks = readTasks(data.file);
+    data.missing = data.tasks.levels.empty() ? Missing::Tasks : Missing::Nothing;
+    return data;
+}
+
+String massText(double mass)
+{
+    return phial::formatPattern(mass, u"0.0");
+}
+
+String atomsCounted(phial::cls_DataElements& elements, const String& formula)
+{
+    const phial::CoreTokenList counts = elements.ELEMENTSCOUNT(formula);
+    String text;
+    for (std::int32_t i = 1; i <= counts.Count(); ++i) {
+        const auto& token = counts.Item(i);
+        const String symbol(token.Name());
+        if (!text.empty()) {
+            text += u"<br>";
+        }
+        text += phial::plainText(token.Values().Item(1).toReal(), u',') + u" \u00D7 " + symbol;
+        if (elements.EXISTS(symbol)) {
+            text += u" (" + massText(elements.ITEM(symbol, false)->MOL()) + u" g/mol)";
+        }
+    }
+    return text;
+}
+
+} // namespace molmasse

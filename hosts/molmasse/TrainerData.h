@@ -1,0 +1,33 @@
+#pragma once
+
+#include "chem/cls_DataElements.h"
+#include "molmasse/TaskList.h"
+
+#include <memory>
+
+namespace molmasse
+{
+
+/// What keeps the trainer from starting.
+enum class Missing { Nothing, Installation, Elements, Tasks };
+
+/// What the trainer works with, read from the installation tree.
+struct TrainerData {
+    Missing missing = Missing::Nothing;
+    /// The file that is missing or holds nothing useful; "" for Missing::Installation.
+    phial::String file;
+    std::shared_ptr<phial::cls_DataElements> elements;
+    TaskList tasks;
+};
+
+/// Reads the element table and the tasks. The root must have been started; nothing is raised.
+TrainerData loadTrainerData();
+
+/// The atoms of a formula as a pupil would write them down, with the table's molar masses in g/mol, one line
+/// an element: "2 × H (1,0)".
+phial::String atomsCounted(phial::cls_DataElements& elements, const phial::String& formula);
+
+/// A mass as the trainer shows it: one decimal, with the user's decimal sign.
+phial::String massText(double mass);
+
+} // namespace molmasse

@@ -1,0 +1,466 @@
+#include "molmasse/frm_Molmasse.h"
+
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+#include "core/NumberText.h"
+#include "core/RandomSource.h"
+#include "core/SessionState.h"
+#include "molmasse/MolmasseLayout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace molmasse
+{
+
+using phial::LNG;
+using phial::RGB;
+using phial::String;
+using phial::StringView;
+using phial::Variant;
+
+namespace
+{
+
+constexpr phial::Colour Blue = RGB(0, 106, 181);
+constexpr phial::Colour DarkBlue = RGB(0, 64, 118);
+constexpr phial::Colour Paper = RGB(246, 249, 252);
+constexpr phial::Colour White = RGB(255, 255, 255);
+constexpr phial::Colour Line = RGB(196, 212, 226);
+constexpr phial::Colour Ink = RGB(28, 40, 54);
+constexpr phial::Colour Quiet = RGB(84, 100, 118);
+constexpr phial::Colour Good = RGB(0, 112, 60);
+constexpr phial::Colour Bad = RGB(176, 32, 32);
+
+constexpr std::int32_t MiddleLeft = 0;
+constexpr std::int32_t MiddleCentre = 1;
+constexpr std::int32_t MiddleRight = 2;
+
+String number(int value)
+{
+    return phial::plainText(static_cast<std::int32_t>(value));
+}
+
+String translate(StringView german, StringView english, const Variant::Array& values = {})
+{
+    return LNG()->TRANSLATE(german, english, values);
+}
+
+int randomBelow(int bound)
+{
+    const double share = phial::SessionState::current().platform().random->next();
+    return std::min(bound - 1, static_cast<int>(share * bound));
+}
+
+} // namespace
+
+frm_Molmasse::frm_Molmasse(TrainerData data)
+    : data_(std::move(data)), form_(std::make_shared<phial::Form>(u"frm_Molmasse")),
+      levels_(*form_, u"but_Level"), pad_(*form_, u"but_Key")
+{
+    build();
+    TRANSLATE();
+    show(data_.missing == Missing::Nothing ? Page::Start : Page::Missing);
+}
+
+void frm_Molmasse::Show()
+{
+    form_->Show();
+}
+
+void frm_Molmasse::build()
+{
+    form_->ScaleMode(phial::ScaleUnit::Pixels);
+    form_->BorderStyle(phial::BorderStyle::FixedSingle);
+    form_->innerSize({layout::Width, layout::Height});
+    form_->centred(true);
+    form_->KeyPreview(true);
+    form_->BackColor(Paper);
+    phial::applyLayout(*form_, layout::Frame);
+    for (const auto& item : layout::Frame) {
+        form_->control<phial::Control>(item.name)->container()->ScaleMode(phial::ScaleUnit::Pixels);
+    }
+    // The formula stands in a panel of a page, whose unit is set as soon as it is there.
+    for (const auto& item : layout::Contents) {
+        phial::applyLayout(*form_, {&item, 1});
+        if (phial::Container* inner = form_->control<phial::Control>(item.name, item.index)->container()) {
+            inner->ScaleMode(phial::ScaleUnit::Pixels);
+        }
+    }
+    buildLevels();
+    buildPad();
+    style();
+    connect();
+}
+
+void frm_Molmasse::buildLevels()
+{
+    levels_.adopt();
+    const auto first = levels_(0);
+    const double left = first->Left();
+    for (std::size_t i = 0; i < data_.tasks.levels.size(); ++i) {
+        const auto index = static_cast<std::int32_t>(i);
+        const auto button = levels_.has(index) ? levels_(index) : levels_.load(index);
+        button->Left(left + static_cast<double>(i) * (first->Width() + 21));
+        button->Visible(true);
+    }
+    first->Visible(!data_.tasks.levels.empty());
+}
+
+void frm_Molmasse::buildPad()
+{
+    pad_.adopt();
+    const auto first = pad_(0);
+    const double left = first->Left();
+    const double top = first->Top();
+    for (int i = 0; i < static_cast<int>(std::size(layout::PadKeys)); ++i) {
+        const auto key = pad_.has(i) ? pad_(i) : pad_.load(i);
+        key->Move(left + i % layout::PadColumns * layout::PadStep,
+                  top + i / layout::PadColumns * layout::PadStep);
+        key->Caption(String(layout::PadKeys[i]));
+        // Physical digits serve the keyboard, so the pad stays out of the Tab key's way.
+        key->frame().TabStop(false);
+        key->Visible(true);
+    }
+    pad_(static_cast<int>(std::size(layout::PadKeys)) - 1)
+        ->frame()
+        .AccessibleName(translate(u"Letztes Zeichen löschen", u"Delete last character"));
+}
+
+void frm_Molmasse::setFont(StringView control, double size, bool bold, std::int32_t index)
+{
+    const auto object = form_->find(control, index);
+    phial::setMember(*object, u"Font",
+                     phial::ObjectPtr(std::make_shared<phial::Font>(
+                         phial::FontSpec{.name = u"Tahoma", .size = size, .bold = bold})));
+}
+
+void frm_Molmasse::style()
+{
+    const auto header = get<phial::ctl_Gradient>(u"bar_Header");
+    header->Color1(Blue);
+    header->Color2(DarkBlue);
+    header->Angle(0);
+    for (const auto* page : {u"pan_Start", u"pan_Task", u"pan_Summary", u"pan_Missing"}) {
+        get<phial::ctl_Pannel>(page)->BackColor(Paper);
+        get<phial::ctl_Pannel>(page)->BorderColor(Paper);
+    }
+    for (const auto* bar : {u"pan_ProgressBack", u"pan_ResultBack"}) {
+        get<phial::ctl_Pannel>(bar)->BackColor(Line);
+        get<phial::ctl_Pannel>(bar)->BorderColor(Line);
+    }
+    for (const auto* bar : {u"pan_ProgressDone", u"pan_ResultDone"}) {
+        get<phial::ctl_Pannel>(bar)->BackColor(Blue);
+        get<phial::ctl_Pannel>(bar)->BorderColor(Blue);
+    }
+    get<phial::ctl_Pannel>(u"pan_Formula")->BackColor(White);
+    get<phial::ctl_Pannel>(u"pan_Formula")->BorderColor(Line);
+
+    struct LabelStyle {
+        StringView name;
+        double size;
+        bool bold;
+        std::int32_t align;
+        phial::Colour colour;
+    };
+    for (const LabelStyle& row :
+         std::initializer_list<LabelStyle>{{u"lab_Title", 18, true, MiddleLeft, White},
+                                           {u"lab_Points", 14, false, MiddleRight, White},
+                                           {u"lab_Question", 22, true, MiddleLeft, Ink},
+                                           {u"lab_Intro", 13, false, 4, Ink},
+                                           {u"lab_Tolerance", 11, false, 4, Quiet},
+                                           {u"lab_Progress", 12, false, MiddleLeft, Quiet},
+                                           {u"lab_Name", 13, false, MiddleCentre, Quiet},
+                                           {u"lab_Unit", 18, false, MiddleLeft, Ink},
+                                           {u"lab_Feedback", 14, true, MiddleLeft, Ink},
+                                           {u"lab_Hint", 12, false, 4, Ink},
+                                           {u"lab_Praise", 24, true, MiddleCentre, Ink},
+                                           {u"lab_Result", 18, false, MiddleCentre, Ink},
+                                           {u"lab_Solved", 13, false, MiddleCentre, Quiet},
+                                           {u"lab_MissingTitle", 22, true, MiddleLeft, Ink},
+                                           {u"lab_Missing", 13, false, 4, Ink}}) {
+        const auto label = get<phial::ctl_Label>(row.name);
+        label->ForeColor(row.colour);
+        label->Alignment(row.align);
+        setFont(row.name, row.size, row.bold);
+    }
+    const auto term = get<phial::ctl_TermLabel>(u"trm_Formula");
+    term->TEXTALIGN(phial::TEXTALIGN::MiddleCentre);
+    term->TEXTFONT()->assign({.name = u"Tahoma", .size = 38});
+    term->TEXTCOLOR(Ink);
+    setFont(u"txt_Answer", 24);
+    get<phial::TextBox>(u"txt_Answer")->MaxLength(12);
+    get<phial::TextBox>(u"txt_Answer")->Alignment(phial::Alignment::Right);
+    for (const auto* button : {u"but_Check", u"but_Again", u"but_Quit", u"but_Leave"}) {
+        setFont(button, 15, true);
+    }
+    for (const auto* button : {u"but_Hint", u"but_Stop"}) {
+        setFont(button, 12);
+    }
+    levels_.each([this](phial::ctl_Button&, std::int32_t index) { setFont(u"but_Level", 16, true, index); });
+    pad_.each([this](phial::ctl_Button&, std::int32_t index) { setFont(u"but_Key", 18, false, index); });
+    for (const auto* button : {u"but_Check", u"but_Again", u"but_Leave"}) {
+        get<phial::ctl_Button>(button)->Accent(true);
+    }
+}
+
+void frm_Molmasse::connect()
+{
+    const auto press = [this](StringView button, auto action) {
+        connections_ += get<phial::ctl_Button>(button)->CLICK.connect(action);
+    };
+    press(u"but_Check", [this] { verdict_ && round_->decided() ? goOn() : check(); });
+    press(u"but_Hint", [this] { giveHint(); });
+    press(u"but_Again", [this] { show(Page::Start); });
+    for (const auto* button : {u"but_Stop", u"but_Quit", u"but_Leave"}) {
+        press(button, [this] { form_->Unload(); });
+    }
+    levels_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
+        return button.CLICK.connect([this, index] { startRound(static_cast<std::size_t>(index)); });
+    });
+    pad_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
+        return button.CLICK.connect([this, index] { pressPad(layout::PadKeys[index]); });
+    });
+    connections_ += form_->KeyDown.connect([this](phial::KeyEvent& event) { keyDown(event); });
+}
+
+void frm_Molmasse::TRANSLATE()
+{
+    form_->Caption(translate(u"Molmassen-Trainer", u"Molar mass trainer"));
+    for (const auto& item : layout::Contents) {
+        if (!item.text.empty()) {
+            phial::setMember(*form_->find(item.name, item.index), u"Caption",
+                             LNG()->TRANSLATEAUTO(item.text));
+        }
+    }
+    levels_.each([this](phial::ctl_Button& button, std::int32_t index) {
+        if (static_cast<std::size_t>(index) < data_.tasks.levels.size()) {
+            const Level& level = data_.tasks.levels[static_cast<std::size_t>(index)];
+            button.Caption(translate(level.germanTitle, level.englishTitle));
+        }
+    });
+    get<phial::TextBox>(u"txt_Answer")
+        ->frame()
+        .AccessibleName(translate(u"Molare Masse in g/mol", u"Molar mass in g/mol"));
+    caption(u"lab_Missing", missingText());
+}
+
+void frm_Molmasse::caption(StringView label, String text) const
+{
+    get<phial::ctl_Label>(label)->Caption(std::move(text));
+}
+
+String frm_Molmasse::missingText() const
+{
+    switch (data_.missing) {
+    case Missing::Installation:
+        return translate(
+            u"Die Installation von QV Phial wurde nicht gefunden. Bitte installiere QV Phial neu oder "
+            u"starte das Programm aus seinem Ordner.",
+            u"The installation of QV Phial was not found. Please install QV Phial again or start the "
+            u"program from its own folder.");
+    case Missing::Elements:
+        return translate(
+            u"Die Datei mit den Elementen fehlt oder ist leer:<br>{1}<br>Bitte installiere QV Phial neu.",
+            u"The file of the elements is missing or empty:<br>{1}<br>Please install QV Phial again.",
+            {data_.file});
+    case Missing::Tasks:
+        return translate(u"Die Datei mit den Formeln fehlt oder enthält keine Aufgabe:<br>{1}",
+                         u"The file of the formulas is missing or holds no task:<br>{1}", {data_.file});
+    case Missing::Nothing:
+        break;
+    }
+    return {};
+}
+
+void frm_Molmasse::show(Page page)
+{
+    page_ = page;
+    get<phial::ctl_Pannel>(u"pan_Start")->Visible(page == Page::Start);
+    get<phial::ctl_Pannel>(u"pan_Task")->Visible(page == Page::Task);
+    get<phial::ctl_Pannel>(u"pan_Summary")->Visible(page == Page::Summary);
+    get<phial::ctl_Pannel>(u"pan_Missing")->Visible(page == Page::Missing);
+    phial::ControlPtr first;
+    switch (page) {
+    case Page::Start:
+        caption(u"lab_Points", {});
+        first = levels_(0);
+        break;
+    case Page::Task:
+        first = get<phial::TextBox>(u"txt_Answer");
+        break;
+    case Page::Summary:
+        first = get<phial::ctl_Button>(u"but_Again");
+        break;
+    case Page::Missing:
+        first = get<phial::ctl_Button>(u"but_Leave");
+        break;
+    }
+    form_->DefaultControl(page == Page::Task ? get<phial::ctl_Button>(u"but_Check") : nullptr);
+    if (first->Enabled() && first->Visible()) {
+        first->SetFocus();
+    }
+}
+
+void frm_Molmasse::startRound(std::size_t level)
+{
+    level_ = level;
+    round_.emplace(
+        data_.tasks.levels[level], [this](const String& formula) { return data_.elements->MOL(formula); },
+        randomBelow);
+    showTask();
+    show(Page::Task);
+}
+
+void frm_Molmasse::showTask()
+{
+    const Task& task = round_->task();
+    verdict_.reset();
+    hintShown_ = false;
+    get<phial::ctl_TermLabel>(u"trm_Formula")->Term(task.formula);
+    caption(u"lab_Name", translate(task.germanName, task.englishName));
+    caption(u"lab_Feedback", {});
+    caption(u"lab_Hint", {});
+    get<phial::ctl_Button>(u"but_Check")->Caption(translate(u"Prüfen", u"Check"));
+    get<phial::ctl_Button>(u"but_Hint")->Enabled(true);
+    const auto answer = get<phial::TextBox>(u"txt_Answer");
+    answer->Text({});
+    answer->Locked(false);
+    showProgress();
+}
+
+void frm_Molmasse::showProgress()
+{
+    caption(u"lab_Progress", translate(u"Aufgabe {1} von {2}", u"Task {1} of {2}",
+                                       {number(round_->position()), number(round_->count())}));
+    caption(u"lab_Points", translate(u"{1} Punkte", u"{1} points", {number(round_->points())}));
+    const int done = round_->position() - (round_->decided() ? 0 : 1);
+    const double full = get<phial::ctl_Pannel>(u"pan_ProgressBack")->Width();
+    const auto bar = get<phial::ctl_Pannel>(u"pan_ProgressDone");
+    bar->Width(full * done / round_->count());
+    bar->Visible(done > 0);
+}
+
+void frm_Molmasse::check()
+{
+    const auto answer = get<phial::TextBox>(u"txt_Answer");
+    const Verdict verdict = round_->check(answer->Text());
+    verdict_ = verdict;
+    showVerdict(verdict);
+    showProgress();
+    answer->Locked(round_->decided());
+    if (round_->decided()) {
+        get<phial::ctl_Button>(u"but_Check")
+            ->Caption(round_->finished() ? translate(u"Ergebnis", u"Result") : translate(u"Weiter", u"Next"));
+        get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
+    } else {
+        answer->SelStart(0);
+        answer->SelLength(static_cast<std::int32_t>(answer->Text().size()));
+    }
+    answer->SetFocus();
+}
+
+void frm_Molmasse::showVerdict(Verdict verdict)
+{
+    const auto feedback = get<phial::ctl_Label>(u"lab_Feedback");
+    const Variant solution = massText(round_->solution());
+    switch (verdict) {
+    case Verdict::Right:
+        feedback->ForeColor(Good);
+        feedback->Caption(translate(u"Richtig! {1} g/mol, {2} Punkte für dich.",
+                                    u"Right! {1} g/mol, {2} points for you.",
+                                    {solution, number(round_->lastPoints())}));
+        break;
+    case Verdict::Wrong:
+        feedback->ForeColor(Bad);
+        feedback->Caption(round_->triesLeft() == 1 ? translate(u"Leider nicht. Du hast noch einen Versuch.",
+                                                               u"Not quite. You have one try left.")
+                                                   : translate(u"Leider nicht. Du hast noch {1} Versuche.",
+                                                               u"Not quite. You have {1} tries left.",
+                                                               {number(round_->triesLeft())}));
+        break;
+    case Verdict::Missed:
+        feedback->ForeColor(Bad);
+        feedback->Caption(
+            translate(u"Schade. Richtig wären {1} g/mol.", u"A pity. {1} g/mol would be right.", {solution}));
+        giveHint();
+        break;
+    case Verdict::NoNumber:
+        feedback->ForeColor(Bad);
+        feedback->Caption(translate(u"Bitte gib eine Zahl ein, zum Beispiel 18,0.",
+                                    u"Please type a number, for example 18.0."));
+        break;
+    }
+}
+
+void frm_Molmasse::giveHint()
+{
+    if (page_ != Page::Task || hintShown_) {
+        return;
+    }
+    hintShown_ = true;
+    if (!round_->decided()) {
+        round_->takeHint();
+    }
+    caption(u"lab_Hint", atomsCounted(*data_.elements, round_->task().formula));
+    get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
+    get<phial::TextBox>(u"txt_Answer")->SetFocus();
+}
+
+void frm_Molmasse::goOn()
+{
+    if (round_->next()) {
+        showTask();
+        get<phial::TextBox>(u"txt_Answer")->SetFocus();
+    } else {
+        showSummary();
+    }
+}
+
+void frm_Molmasse::pressPad(StringView key)
+{
+    const auto answer = get<phial::TextBox>(u"txt_Answer");
+    if (answer->Locked()) {
+        return;
+    }
+    if (key == layout::PadKeys[std::size(layout::PadKeys) - 1]) {
+        if (answer->SelLength() == 0 && answer->SelStart() > 0) {
+            answer->SelStart(answer->SelStart() - 1);
+            answer->SelLength(1);
+        }
+        answer->SelText({});
+    } else if (static_cast<std::int32_t>(answer->Text().size()) - answer->SelLength() < answer->MaxLength()) {
+        answer->SelText(key);
+    }
+    answer->SetFocus();
+}
+
+void frm_Molmasse::showSummary()
+{
+    const double share = static_cast<double>(round_->points()) / round_->maximum();
+    caption(u"lab_Praise", share >= 0.9 ? translate(u"Ausgezeichnet!", u"Excellent!")
+                           : share >= 0.6
+                               ? translate(u"Gut gemacht!", u"Well done!")
+                               : translate(u"Übung macht den Meister!", u"Practice makes perfect!"));
+    caption(u"lab_Result", translate(u"{1} von {2} Punkten", u"{1} of {2} points",
+                                     {number(round_->points()), number(round_->maximum())}));
+    caption(u"lab_Solved", translate(u"{1} von {2} Formeln gelöst", u"{1} of {2} formulas solved",
+                                     {number(round_->solved()), number(round_->count())}));
+    const auto bar = get<phial::ctl_Pannel>(u"pan_ResultDone");
+    bar->Width(get<phial::ctl_Pannel>(u"pan_ResultBack")->Width() * share);
+    bar->Visible(round_->points() > 0);
+    show(Page::Summary);
+}
+
+void frm_Molmasse::keyDown(phial::KeyEvent& event)
+{
+    if (event.is(phial::Key::F1)) {
+        giveHint();
+        event.KeyCode = 0;
+    } else if (event.is(phial::Key::Escape)) {
+        event.KeyCode = 0;
+        form_->Unload();
+    }
+}
+
+} // namespace molmasse
