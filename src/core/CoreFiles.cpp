@@ -98,6 +98,12 @@ bool CoreFiles::WriteText(StringView pPath, StringView pText, StringView /*pChar
            ignoringErrors([&] { replaceFile(*fileSystem_, native(pPath), bytes); });
 }
 
+bool CoreFiles::WriteScratch(StringView pPath, StringView pText)
+{
+    return !endsInSeparator(pPath) &&
+           ignoringErrors([&] { fileSystem_->write(native(pPath), toUtf8(pText)); });
+}
+
 void CoreFiles::Copy(StringView pFrom, StringView pTo)
 {
     replaceFile(*fileSystem_, native(pTo), fileSystem_->read(native(pFrom)));

@@ -51,6 +51,10 @@ public:
     /// `pMark` puts the UTF-8 mark in front. Gives whether it was written.
     bool WriteText(StringView pPath, StringView pText, StringView pCharset = {}, bool pMark = false);
 
+    /// Writes a text to a file at once and in place, without bringing it to the disk: for what need not
+    /// outlive the next moment, such as a probe. Gives whether it was written.
+    bool WriteScratch(StringView pPath, StringView pText);
+
     /// Copies a file, replacing the target as `WriteText` does. Raises 53 or 75.
     void Copy(StringView pFrom, StringView pTo);
 

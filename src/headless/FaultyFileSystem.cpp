@@ -2,6 +2,7 @@
 
 #include "core/RuntimeError.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace phial::headless
@@ -17,9 +18,15 @@ void FaultyFileSystem::failChanges()
     }
 }
 
+void FaultyFileSystem::protect(std::filesystem::path folder)
+{
+    protected_ = std::move(folder);
+}
+
 void FaultyFileSystem::repair()
 {
     failing_.clear();
+    protected_.clear();
     stepsLeft_.reset();
     bytesLeft_.reset();
 }
@@ -33,6 +40,15 @@ void FaultyFileSystem::begin(FileStep step)
     }
 }
 
+void FaultyFileSystem::change(FileStep step, const std::filesystem::path& path)
+{
+    begin(step);
+    const auto [protectedEnd, pathEnd] = std::ranges::mismatch(protected_, path);
+    if (!protected_.empty() && protectedEnd == protected_.end()) {
+        throw RuntimeError(ErrorNumber::FileAccess, u"injected fault: protected folder");
+    }
+}
+
 std::string FaultyFileSystem::read(const std::filesystem::path& file)
 {
     begin(FileStep::Read);
@@ -41,7 +57,7 @@ std::string FaultyFileSystem::read(const std::filesystem::path& file)
 
 void FaultyFileSystem::write(const std::filesystem::path& file, std::string_view bytes)
 {
-    begin(FileStep::Write);
+    change(FileStep::Write, file);
     if (bytesLeft_ && bytes.size() > *bytesLeft_) {
         behind_->write(file, bytes.substr(0, std::exchange(*bytesLeft_, 0)));
         throw RuntimeError(ErrorNumber::FileAccess, u"injected fault: disk full");
@@ -54,31 +70,31 @@ void FaultyFileSystem::write(const std::filesystem::path& file, std::string_view
 
 void FaultyFileSystem::flush(const std::filesystem::path& file)
 {
-    begin(FileStep::Flush);
+    change(FileStep::Flush, file);
     behind_->flush(file);
 }
 
 void FaultyFileSystem::flushFolder(const std::filesystem::path& folder)
 {
-    begin(FileStep::FlushFolder);
+    change(FileStep::FlushFolder, folder);
     behind_->flushFolder(folder);
 }
 
 void FaultyFileSystem::rename(const std::filesystem::path& from, const std::filesystem::path& to)
 {
-    begin(FileStep::Rename);
+    change(FileStep::Rename, to);
     behind_->rename(from, to);
 }
 
 void FaultyFileSystem::remove(const std::filesystem::path& file)
 {
-    begin(FileStep::Remove);
+    change(FileStep::Remove, file);
     behind_->remove(file);
 }
 
 void FaultyFileSystem::createFolder(const std::filesystem::path& folder)
 {
-    begin(FileStep::CreateFolder);
+    change(FileStep::CreateFolder, folder);
     behind_->createFolder(folder);
 }
 

@@ -24,6 +24,8 @@ public:
     void fail(FileStep step) { failing_.insert(step); }
     /// Every changing step fails from now on, as on a medium that is read-only.
     void failChanges();
+    /// Every changing step in that folder and below fails from now on, as in a folder that others own.
+    void protect(std::filesystem::path folder);
     /// So many further steps of any kind succeed, all later ones fail, as if the program had ended there.
     void failAfter(int steps) { stepsLeft_ = steps; }
     /// So many further bytes can be written; a longer write leaves what fits and fails, as on a full disk.
@@ -44,9 +46,11 @@ public:
 
 private:
     void begin(FileStep step);
+    void change(FileStep step, const std::filesystem::path& path);
 
     std::shared_ptr<FileSystem> behind_;
     std::set<FileStep> failing_;
+    std::filesystem::path protected_;
     std::optional<int> stepsLeft_;
     std::optional<std::size_t> bytesLeft_;
     int steps_ = 0;

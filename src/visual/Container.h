@@ -40,6 +40,8 @@ public:
     void owner(Control* value) { owner_ = value; }
 
 private:
+    std::vector<ControlPtr>::iterator find(const Control& control);
+
     ScaleUnit unit_;
     Report report_;
     Control* owner_ = nullptr;

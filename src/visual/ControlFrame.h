@@ -18,6 +18,9 @@ class Control;
 class ControlParent;
 class Form;
 
+/// A handle that no form or control has had yet.
+WindowHandle newWindowHandle();
+
 /// What every control has in common: its name, its place in a container, whether it is seen and reached, and
 /// the link to its widget. A control holds one; for a painted control it is the extender that the host sees.
 ///
@@ -74,7 +77,12 @@ public:
     /// Takes the focus: the one that had it hears LostFocus, this one GotFocus, before the call returns.
     /// Raises 5 for a control that cannot be reached or stands on no form.
     void SetFocus();
-    bool hasFocus() const;
+    bool hasFocus() const { return focused_; }
+    /// For the form, and for the adapter in a foreign window: the control has got or lost the focus, and
+    /// hears so.
+    void focusChanged(bool focused);
+    /// The same without telling the control.
+    void forgetFocus() { focused_ = false; }
 
     String ToolTipText() const { return toolTip_; }
     void ToolTipText(String value);
@@ -108,12 +116,12 @@ public:
     /// The place of the control's corner on its form, in pixels.
     PixelPoint originOnForm() const;
 
-    /// Begins a drag of the control itself (by drag and drop); the target hears DragDrop.
+    /// Begins a drag out of the control by drag and drop; a control on which it ends hears dragDrop.
     void Drag();
 
     Control& control() const { return control_; }
 
-    /// The adapter's link; held weakly by nobody else, null while there is no widget.
+    /// The adapter's link; null while there is no widget.
     ControlPeer* peer() const { return peer_; }
     void peer(ControlPeer* value) { peer_ = value; }
     /// Tells the peer, if there is one.
@@ -123,7 +131,9 @@ private:
     friend class Container;
     double fromTwips(double twips) const;
     double toTwips(double value) const;
+    /// `twips` is in twips.
     void place(const PixelRectangle& twips);
+    void leaveFocusIfUnreachable();
 
     Control& control_;
     String name_;
@@ -138,6 +148,7 @@ private:
     std::int32_t tabIndex_ = 0;
     bool tabStop_ = false;
     bool canFocus_ = false;
+    bool focused_ = false;
     String toolTip_;
     phial::MousePointer pointer_ = phial::MousePointer::Default;
     PicturePtr pointerIcon_;

@@ -23,6 +23,7 @@ enum class ControlAspect : std::int32_t {
     Range,
     Value,
     Picture, ///< the painted image; reported once until it is fetched
+    Drag,    ///< a drag out of the control is to begin, with its dragText where it gives one
 };
 
 /// The adapter's side of a control: its widget. It reads the model whenever the model says that something has
@@ -48,7 +49,8 @@ enum class FormAspect : std::int32_t {
     ZOrder,
 };
 
-/// The adapter's side of an open form: its window. Its destruction closes the window.
+/// The adapter's side of an open form: its window. Its destruction closes the window, and can happen within
+/// one of the window's own calls into the model.
 class FormPeer
 {
 public:

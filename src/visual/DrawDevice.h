@@ -56,7 +56,8 @@ struct CircleAngles {
 ///
 /// Places and sizes are in scale units (ScaleMode); sizes of fonts are points, DrawWidth is pixels. `Line`,
 /// `Circle`, `PSet` and `Print` move the current point. Colours drawn in the mask colour cut holes, see
-/// MaskColor. A fresh device has the font Tahoma 8, black on white, FillStyle transparent, DrawWidth 1,
+/// MaskColor. Where a statement below raises, a device that swallows errors leaves it without effect instead.
+/// A fresh device has the font Tahoma 8, black on white, FillStyle transparent, DrawWidth 1,
 /// DrawMode CopyPen and pixels as its unit.
 class DrawDevice
 {
@@ -77,15 +78,15 @@ public:
     /// Points; a size that is not above 0 raises 5.
     void FontSize(double value);
     bool FontBold() const { return font_.bold; }
-    void FontBold(bool value);
+    void FontBold(bool value) { changeFont(font_.bold, value); }
     bool FontItalic() const { return font_.italic; }
-    void FontItalic(bool value);
+    void FontItalic(bool value) { changeFont(font_.italic, value); }
     bool FontUnderline() const { return font_.underline; }
-    void FontUnderline(bool value);
+    void FontUnderline(bool value) { changeFont(font_.underline, value); }
     bool FontStrikethru() const { return font_.strikethrough; }
-    void FontStrikethru(bool value);
+    void FontStrikethru(bool value) { changeFont(font_.strikethrough, value); }
     const FontSpec& font() const { return font_; }
-    void font(const FontSpec& value);
+    void font(const FontSpec& value) { changeFont(font_, value); }
 
     // Colours and pens.
     Colour ForeColor() const { return foreColor_; }
@@ -106,9 +107,13 @@ public:
     std::optional<Colour> MaskColor() const { return maskColor_; }
     void MaskColor(std::optional<Colour> value) { maskColor_ = value; }
 
+    /// The background is see-through whatever BackColor says: Cls leaves holes. False at first.
+    bool transparent() const { return transparent_; }
+    void transparent(bool value) { transparent_ = value; }
+
     // Units.
     ScaleUnit ScaleMode() const { return unit_; }
-    /// Sets the unit and the current point to (0, 0). Raises 5 for a unit outside the named ones.
+    /// The current point stays where it is. Raises 5 for a unit outside the named ones.
     void ScaleMode(ScaleUnit value);
     double ScaleWidth();
     double ScaleHeight();
@@ -141,8 +146,8 @@ public:
     void Polygon(std::span<const PixelPoint> points);
     /// The colour at a place; none outside and where the surface is see-through.
     std::optional<Colour> Point(double x, double y);
-    /// Bands of colour over the box from (x1, y1) to (x2, y2), both corners included; see DrawBackend.
-    void Gradient(double x1, double y1, double x2, double y2, Colour from, Colour to, double angle,
+    /// Bands of colour over a rectangle; see DrawBackend.
+    void Gradient(double left, double top, double width, double height, Colour from, Colour to, double angle,
                   int steps);
 
     // Pictures.
@@ -167,16 +172,23 @@ private:
     template <typename Statement>
     void draw(Statement&& statement);
     DrawBackend& backend();
+    /// The back end for a statement that leaves something behind.
+    DrawBackend& canvas();
     const FontFace& face();
     void printOneLine(StringView line);
+    void startNextLine();
     Ink ink(Colour colour) const;
     std::optional<Fill> fill() const;
     Stroke stroke(Colour colour) const;
     RasterMode rasterMode() const;
     double toPixels(double value) const { return value / unitsPerPixel_; }
     double fromPixels(double value) const { return value * unitsPerPixel_; }
+    PixelPoint pixel(double x, double y) const { return {toPixels(x), toPixels(y)}; }
     PixelRectangle box(double x1, double y1, double x2, double y2) const;
-    void fontChanged() { face_ = nullptr; }
+    void paintArc(Arc arc, Colour colour, std::optional<CircleAngles> angles);
+    /// Sets a field of the font; the face is looked up again when it is needed.
+    template <typename Value>
+    void changeFont(Value& field, const Value& value);
 
     struct CachedFace {
         FontSpec spec;
@@ -199,10 +211,20 @@ private:
     double drawWidth_ = 1;
     phial::DrawMode drawMode_ = phial::DrawMode::CopyPen;
     std::optional<Colour> maskColor_;
+    bool transparent_ = false;
 
     ScaleUnit unit_ = ScaleUnit::Pixels;
     double unitsPerPixel_ = 1;
     PixelPoint current_; ///< in scale units
 };
+
+template <typename Value>
+void DrawDevice::changeFont(Value& field, const Value& value)
+{
+    if (!(field == value)) {
+        field = value;
+        face_ = nullptr;
+    }
+}
 
 } // namespace phial

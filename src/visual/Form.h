@@ -3,6 +3,7 @@
 #include "core/Colour.h"
 #include "visual/Container.h"
 #include "visual/Menu.h"
+#include "visual/Timer.h"
 #include "visual/UserControl.h"
 
 #include <memory>
@@ -27,7 +28,8 @@ struct Translucency {
 };
 
 /// A window's model. The window exists while the form is shown; the form outlives it, and its results are
-/// read after it has closed. A `frm_…` class holds one.
+/// read after it has closed. A `frm_…` class holds one and discards it in its destructor: a loaded form stays
+/// in Forms.
 ///
 /// Left, Top, Width and Height are twips and those of the whole window; ScaleWidth and ScaleHeight measure
 /// its inside in the scale unit. Setters take effect, and raise their events, at once.
@@ -121,6 +123,8 @@ public:
         }
         return found;
     }
+    /// The controls as one object.
+    ObjectPtr Controls() const;
     /// The menu bar's entries stand below this one. Empty: no bar.
     Menu& menu() { return *menu_; }
 
@@ -128,14 +132,16 @@ public:
     /// Raises Load once, before the first Show; nothing when the form is loaded.
     void load();
     bool isLoaded() const { return loaded_; }
-    /// Loads, opens the window and raises Activate. Modal: returns when the form has been hidden or unloaded.
-    /// A form that is shown already just comes to the front (modal: raises 400).
+    /// Loads, opens the window and raises Resize and Activate. Modal: returns when the form has been hidden
+    /// or unloaded. A form that is shown already just comes to the front (modal: raises 400).
     void Show(FormShow how = FormShow::Modeless);
     /// Closes the window and keeps everything; a modal Show returns.
     void Hide();
     /// Raises QueryUnload and Unload, either of which can refuse; then the window closes and the form is no
     /// longer loaded. Gives whether it was unloaded. What was set in the controls stays readable.
     bool Unload();
+    /// Unloads without asking; for the destructor of whoever holds the form.
+    void discard();
     /// Whether its window is open.
     bool Visible() const { return peer_ != nullptr; }
     /// Whether a modal Show is running.
@@ -209,11 +215,20 @@ public:
     MemberTable members() const override;
 
 private:
+    template <typename Value>
+    void change(Value& field, Value value, FormAspect aspect);
+    /// Gives whether the size differs.
+    bool place(double left, double top, double width, double height);
     void place(const ControlPtr& control, phial::Container& into);
+    void removeControl(Control& control);
     void report(FormAspect aspect) const;
+    void openWindow(FormShow how);
+    void runModal(const std::shared_ptr<Form>& opener);
     void closeWindow();
-    void endModal();
-    void tellControls(bool shown);
+    void tellShown(bool shown);
+    void finishUnload();
+    void focusFirst();
+    bool pressDefault(const KeyEvent& event);
 
     String name_;
     String tag_;
@@ -246,6 +261,7 @@ private:
     bool aborting_ = false;
     bool modal_ = false;
     bool isActive_ = false;
+    bool activateTold_ = false;   ///< Activate has been raised, and no Deactivate since
     std::int32_t ownDialogs_ = 0; ///< modal forms opened from this one
     std::unique_ptr<FormPeer> peer_;
     Connection menuChanged_;

@@ -34,6 +34,7 @@ private:
     void loaded(const std::shared_ptr<Form>& form);
     void unloaded(const Form& form);
     void activated(const std::shared_ptr<Form>& form) { active_ = form; }
+    void deactivated(const Form& form);
     void modalBegun(const std::shared_ptr<Form>& form);
     void modalEnded(const Form& form);
 

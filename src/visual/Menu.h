@@ -15,6 +15,9 @@ class Menu final : public Object, public std::enable_shared_from_this<Menu>
 {
 public:
     explicit Menu(String name = {}, String caption = {}, std::int32_t index = -1);
+    ~Menu() override;
+    Menu(const Menu&) = delete;
+    Menu& operator=(const Menu&) = delete;
 
     String NAME() const { return name_; }
     void NAME(String value) { name_ = std::move(value); }
@@ -46,10 +49,11 @@ public:
     /// Raises 9 when there is none.
     std::shared_ptr<Menu> entry(StringView name, std::int32_t index = -1) const;
 
-    /// The user has chosen the entry: raises Click here with this entry's Index, and at the array's others'
-    /// common listeners through `chosen` of the menu above.
+    /// The user has chosen the entry: raises Click here, then Chosen at each menu above. An entry that is
+    /// disabled or hidden does nothing.
     void inputClick();
 
+    /// With the entry's Index.
     Event<std::int32_t> Click;
     /// An entry below, at any depth, was chosen.
     Event<Menu&> Chosen;
@@ -60,6 +64,7 @@ public:
     MemberTable members() const override;
 
 private:
+    std::shared_ptr<Menu> find(StringView name, std::int32_t index) const;
     void report();
 
     String name_;

@@ -25,7 +25,7 @@ public:
 
     /// The control's size in pixels.
     PixelSize size() const;
-    /// Forgets the image, so that the control is painted anew when it is next needed.
+    /// The control is painted anew when its image is next needed.
     void invalidate();
     /// Called by the frame's owner when the size may have changed.
     void resized();
@@ -34,8 +34,12 @@ public:
     Colour BackColor() const { return device_.BackColor(); }
     void BackColor(Colour value);
     /// Background see-through as a whole, whatever BackColor says.
-    bool transparent() const { return transparent_; }
+    bool transparent() const { return device_.transparent(); }
     void transparent(bool value);
+    /// What is drawn survives when the image is remade: `paint` lays the background, and what was there comes
+    /// upon it. False at first: `paint` alone makes the image.
+    bool retains() const { return retains_; }
+    void retains(bool value) { retains_ = value; }
     /// Marks the control as shaped by the holes of a picture, usually Image(): a click on a hole goes to what
     /// lies below. Null: the control is its rectangle.
     PicturePtr MaskPicture() const { return mask_; }
@@ -51,6 +55,7 @@ private:
     std::shared_ptr<DrawBackend> openBackend() override;
     void drawn() override;
     void remake(double pixelRatio);
+    void paintControl();
 
     UserControl& control_;
     DrawDevice device_;
@@ -60,7 +65,7 @@ private:
     bool painting_ = false;
     bool painted_ = false;
     bool reported_ = false;
-    bool transparent_ = false;
+    bool retains_ = false;
     PicturePtr mask_;
     std::unique_ptr<Container> children_;
 };

@@ -49,8 +49,8 @@ InterComReceiver::InterComReceiver(StringView name, std::shared_ptr<DispatchGuar
     const QString address = interComAddress(name);
     server_->setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(server_.get(), &QLocalServer::newConnection, server_.get(), [this] { accept(); });
-    // A program that crashed leaves its socket behind: nobody listens there, but the name is taken.
-    if (!server_->listen(address) && !someoneListens(address)) {
+    // A program that crashed leaves its socket behind: the name is taken, but nobody listens there.
+    if (!someoneListens(address)) {
         QLocalServer::removeServer(address);
         server_->listen(address);
     }

@@ -4,11 +4,11 @@
 
 #include <QByteArray>
 #include <QFile>
-#include <QFileInfo>
 #include <QLockFile>
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <chrono>
 
 namespace phial::qt
@@ -22,28 +22,32 @@ constexpr int MaxDamagedFiles = 1000;
 constexpr std::chrono::milliseconds LockPatience{500};
 constexpr auto FileInSuiteFolder = "qv-phial/settings.ini";
 
-// Every line of a sound file is ended, so the last byte tells a file that was cut within a line.
-bool isCutShort(const QString& path)
+// The toolkit overlooks lines that mean nothing to it, and would drop them at the next writing.
+bool isEntry(QByteArrayView line)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() == 0) {
-        return false;
-    }
-    return !file.seek(file.size() - 1) || file.read(1) != QByteArrayLiteral("\n");
+    const QByteArrayView text = line.trimmed();
+    return text.isEmpty() || text.startsWith(';') || text.contains('=') ||
+           (text.startsWith('[') && text.endsWith(']'));
 }
 
-bool parses(const QString& path)
+// Every line of a sound file is ended, so the last byte tells a file that was cut within a line.
+bool isSound(const QByteArray& content)
 {
-    const QSettings settings(path, QSettings::IniFormat);
-    settings.allKeys(); // sections are parsed when first asked for
-    return settings.status() != QSettings::FormatError;
+    if (content.isEmpty()) {
+        return true;
+    }
+    const QList<QByteArray> lines = content.split('\n');
+    return content.endsWith('\n') && !content.contains('\0') &&
+           std::all_of(lines.begin(), lines.end(), isEntry);
 }
 
 bool isDamaged(const QString& path)
 {
-    const QFileInfo file(path);
-    return file.isFile() && file.isReadable() &&
-           (file.size() > MaxFileSize || isCutShort(path) || !parses(path));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    return file.size() > MaxFileSize || !isSound(file.readAll());
 }
 
 void moveAside(const QString& path)

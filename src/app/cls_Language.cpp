@@ -1,0 +1,151 @@
+#include "app/cls_Language.h"
+
+#include "app/Settings.h"
+#include "core/CoreRegistry.h"
+#include "core/CoreRoot.h"
+#include "core/CoreText.h"
+#include "core/Environment.h"
+#include "core/Locale.h"
+#include "core/SessionState.h"
+#include "visual/Form.h"
+#include "visual/VisualHost.h"
+
+#include <vector>
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr StringView SettingName = u"Language";
+constexpr StringView StoredGerman = u"DE";
+constexpr StringView StoredEnglish = u"EN";
+
+/// The text that stands for a choice in the settings.
+StringView stored(enm_LanguageC choice)
+{
+    switch (choice) {
+    case ID_Language_German:
+        return StoredGerman;
+    case ID_Language_English:
+        return StoredEnglish;
+    case ID_Language_System:
+        break;
+    }
+    return {};
+}
+
+/// The user's language as the desktop names it in the environment: German is "de", alone or with a country.
+bool systemSpeaksGerman()
+{
+    const Environment& environment = *SessionState::current().platform().environment;
+    for (const StringView name : {u"LC_ALL", u"LC_MESSAGES", u"LANG"}) {
+        const String value = environment.variable(name);
+        if (!value.empty()) {
+            return equalsIgnoringCase(value.substr(0, value.find_first_of(u"_.@-")), u"de");
+        }
+    }
+    return false;
+}
+
+/// Asks each open form to translate itself. The list is copied, since a form may open or close others.
+void translateOpenForms()
+{
+    const Forms& forms = visualHost().forms();
+    std::vector<std::shared_ptr<Form>> open;
+    for (std::size_t index = 0; index < forms.Count(); ++index) {
+        open.push_back(forms.Item(index));
+    }
+    for (const auto& form : open) {
+        ignoringErrors([&] { callMember(*form, u"TRANSLATE"); });
+    }
+}
+
+} // namespace
+
+cls_Language::cls_Language()
+{
+    const String choice = coreRoot().CoreRegistry().CoreRegistryRead().ReadString(
+        SettingsHive::CurrentUser, settings::path(SettingName), {}, settings::TextLimit);
+    if (choice.empty()) {
+        detect();
+    } else if (choice == StoredGerman) {
+        current_ = ID_Language_German;
+    } else if (choice == StoredEnglish) {
+        current_ = ID_Language_English;
+    }
+    apply();
+}
+
+void cls_Language::CURRENT(enm_LanguageC value)
+{
+    if (value == current_) {
+        return;
+    }
+    current_ = value;
+    if (current_ == ID_Language_System) {
+        detect();
+    } else {
+        effective_ = current_;
+    }
+    apply();
+    ignoringErrors(translateOpenForms);
+}
+
+/// The system's language comes from the desktop, reduced to German or not German.
+void cls_Language::detect()
+{
+    effective_ = systemSpeaksGerman() ? ID_Language_German : ID_Language_English;
+    apply();
+}
+
+void cls_Language::apply()
+{
+    if (current_ != ID_Language_System) {
+        effective_ = current_;
+    }
+    CoreRoot& core = coreRoot();
+    core.CoreLocale().SetLanguage(effective_ == ID_Language_English ? LanguageEnglish : LanguageGerman);
+    core.CoreRegistry().CoreRegistryWrite().WriteString(SettingsHive::CurrentUser,
+                                                        settings::path(SettingName), stored(current_));
+}
+
+String cls_Language::TRANSLATE(StringView pGerman, StringView pEnglisch, const Variant::Array& pVars) const
+{
+    String text(effective_ == ID_Language_German ? pGerman : pEnglisch);
+    std::int32_t number = 0;
+    for (const Variant& value : pVars) {
+        ++number;
+        text = CoreText::Replace(text, u"{" + Variant(number).toText() + u"}", value.toText());
+    }
+    return text;
+}
+
+String cls_Language::TRANSLATEAUTO(StringView pX) const
+{
+    constexpr StringView Separator = u"|";
+    if (pX.find(Separator) == StringView::npos) {
+        return String(pX);
+    }
+    return effective_ == ID_Language_German ? CoreStringOps::Before(pX, Separator)
+                                            : CoreStringOps::After(pX, Separator);
+}
+
+String cls_Language::DATEFORMAT() const
+{
+    return TRANSLATE(u"dd.mm.yyyy", u"dd-mm-yyyy");
+}
+
+String cls_Language::DATETIMEFORMAT() const
+{
+    return DATEFORMAT() + u" HH:MM";
+}
+
+String cls_Language::FILEADD(StringView pFile) const
+{
+    return CorePathText::WithoutExtension(pFile) + u"-" + TRANSLATE(u"de", u"en") + u"." +
+           CorePathText::Extension(pFile);
+}
+
+} // namespace phial

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/Variant.h"
+#include "visual/Picture.h"
+
+#include <cstdint>
+
+/// The avatar store: an image list on the shared form `frm_Resource`. Its entries count from 1; an entry's
+/// key is the lower-case name of its file without extension. Where an entry is meant, an index or a key is
+/// given.
+namespace phial
+{
+
+/// Empties the store.
+void AvatarImagesClear();
+
+/// Fills the store anew with the GIF files of the folder URL.RESOURCEAVATARS. They are listed only; a picture
+/// is decoded when it is first asked for. Of two files whose names differ only in case the first counts.
+void AvatarImagesLoad();
+
+/// The picture of an entry; a neutral picture when there is no such entry or its file is no picture.
+PicturePtr AvatarImageGet(const Variant& pIndexOrKey);
+
+/// Key and index of an entry; raise 9 when there is no such entry.
+String AvatarImageKey(const Variant& pIndexOrKey);
+std::int32_t AvatarImageIndex(const Variant& pIndexOrKey);
+
+} // namespace phial

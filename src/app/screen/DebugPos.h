@@ -1,0 +1,12 @@
+#pragma once
+
+#include "core/String.h"
+
+namespace phial
+{
+
+/// Leaves a trace in the user's setting "DebugPos" before a step that might not return, so that the value
+/// tells afterwards how far a run got. Nothing in the system reads it.
+void DebugPos(StringView pText);
+
+} // namespace phial

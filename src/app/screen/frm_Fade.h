@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/Event.h"
+
+#include <memory>
+
+namespace phial
+{
+
+class Form;
+
+/// The cover behind a program that another one has embedded: a form without controls that fills the screen
+/// and lets a little of the desktop through. Made and kept by the session.
+class frm_Fade
+{
+public:
+    frm_Fade();
+
+    void Show();
+    void Unload();
+
+    Form& form() { return *form_; }
+
+private:
+    void load();
+
+    std::shared_ptr<Form> form_;
+    Connection onLoad_;
+};
+
+} // namespace phial

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "visual/FontSpec.h"
+
+#include <QFont>
+#include <QStringList>
+
+#include <vector>
+
+namespace phial::qt
+{
+
+/// The table from the names by which the system asks for fonts to families that are installed.
+///
+/// Fonts of the names Tahoma, Symbol, Marlett and Wingdings that the computer holds as files but does not
+/// offer to programs are registered for this one when they are first asked for. Needs a graphical application
+/// object.
+class FontCatalogue
+{
+public:
+    /// The family for a name and a weight: the name itself where it is installed, else the first installed
+    /// substitute, else the program's general family.
+    QString family(StringView name, bool bold);
+    /// Whether the name can be had without a substitute of another look.
+    bool has(StringView name);
+
+    /// A toolkit font of that look, for the toolkit's own widgets: in points, so that it follows their zoom.
+    QFont font(const FontSpec& spec);
+
+private:
+    bool isInstalled(const QString& family);
+    void registerFile(const QString& family);
+
+    QStringList families_;
+    QStringList registered_;
+    bool listed_ = false;
+};
+
+/// The one of this program.
+FontCatalogue& fontCatalogue();
+
+} // namespace phial::qt

@@ -1,0 +1,342 @@
+#include "qt/desktop/PainterBackend.h"
+
+#include "qt/desktop/DesktopColours.h"
+#include "qt/desktop/PictureImage.h"
+#include "qt/desktop/QtFontFace.h"
+
+#include <QPainterPath>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr double DegreesPerRadian = 180 / std::numbers::pi;
+constexpr double WidestSquareLine = 1.5; // wider pens have round ends
+
+QPen penOf(const Stroke& stroke, double ratio)
+{
+    const bool round = stroke.width > WidestSquareLine;
+    return {toQColor(stroke.ink.colour), stroke.width * ratio, Qt::SolidLine,
+            round ? Qt::RoundCap : Qt::FlatCap, round ? Qt::RoundJoin : Qt::MiterJoin};
+}
+
+// Angles run counter-clockwise from 3 o'clock on both sides.
+QPainterPath pathOf(const Arc& arc, QPointF centre, double ratio)
+{
+    const QRectF box(centre.x() - arc.radiusX * ratio, centre.y() - arc.radiusY * ratio,
+                     2 * arc.radiusX * ratio, 2 * arc.radiusY * ratio);
+    const double start = arc.start * DegreesPerRadian;
+    const double sweep = arc.sweep * DegreesPerRadian;
+    QPainterPath path;
+    switch (arc.shape) {
+    case Arc::Shape::Whole:
+        path.addEllipse(box);
+        break;
+    case Arc::Shape::Open:
+        path.arcMoveTo(box, start);
+        path.arcTo(box, start, sweep);
+        break;
+    case Arc::Shape::Pie:
+        path.moveTo(centre);
+        path.arcTo(box, start, sweep);
+        path.closeSubpath();
+        break;
+    }
+    return path;
+}
+
+QColor mixed(const QColor& from, const QColor& to, double share)
+{
+    const auto part = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
+    return {part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue())};
+}
+
+} // namespace
+
+PainterBackend::PainterBackend(PixelSize size, double ratio, std::shared_ptr<TextMetrics> metrics)
+    : size_(size), ratio_(ratio), metrics_(std::move(metrics))
+{
+}
+
+void PainterBackend::begin(QPaintDevice& device)
+{
+    painter_.begin(&device);
+    painter_.setRenderHint(QPainter::TextAntialiasing);
+}
+
+QRect PainterBackend::snapped(const PixelRectangle& area) const
+{
+    if (area.isEmpty()) {
+        return {};
+    }
+    const auto device = [this](double value) { return static_cast<int>(std::lround(value * ratio_)); };
+    const QPoint corner(device(area.left), device(area.top));
+    const QSize size(std::max(1, device(area.right()) - corner.x()),
+                     std::max(1, device(area.bottom()) - corner.y()));
+    return {corner, size};
+}
+
+void PainterBackend::clip(std::optional<PixelRectangle> area)
+{
+    clip_ = area ? std::optional<QRect>(snapped(*area)) : std::nullopt;
+    if (clip_) {
+        painter_.setClipRect(*clip_);
+    } else {
+        painter_.setClipping(false);
+    }
+}
+
+// Smooth shapes are painted; holes and bitwise ink take the same shape without smoothing.
+void PainterBackend::apply(const Ink& ink, RasterMode mode, const QRectF& bounds, const Drawing& drawing)
+{
+    if (!ink.cut && mode == RasterMode::Paint) {
+        painter_.setRenderHint(QPainter::Antialiasing, true);
+        drawing(painter_);
+        return;
+    }
+    const Combine how = ink.cut ? Combine::Cut : mode == RasterMode::And ? Combine::And : Combine::Xor;
+    combine(how, bounds.toAlignedRect().adjusted(-1, -1, 1, 1), drawing);
+}
+
+void PainterBackend::fillShape(const QPainterPath& path, const Fill& fill)
+{
+    apply(fill.ink, fill.mode, path.boundingRect(),
+          [&](QPainter& painter) { painter.fillPath(path, toQColor(fill.ink.colour)); });
+}
+
+void PainterBackend::strokeShape(const QPainterPath& path, const Stroke& stroke)
+{
+    const double margin = stroke.width * ratio_;
+    apply(stroke.ink, stroke.mode, path.boundingRect().adjusted(-margin, -margin, margin, margin),
+          [&](QPainter& painter) { painter.strokePath(path, penOf(stroke, ratio_)); });
+}
+
+void PainterBackend::fillBox(const QRect& box, const Ink& ink, RasterMode mode)
+{
+    if (box.isEmpty()) {
+        return;
+    }
+    apply(ink, mode, box, [&](QPainter& painter) { painter.fillRect(box, toQColor(ink.colour)); });
+}
+
+void PainterBackend::clear(Ink ink)
+{
+    const QRect all = snapped({0, 0, size_.width, size_.height});
+    painter_.setCompositionMode(QPainter::CompositionMode_Source);
+    painter_.fillRect(all, ink.cut ? QColor(Qt::transparent) : toQColor(ink.colour));
+    painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+void PainterBackend::rectangle(const PixelRectangle& area, std::optional<Fill> fill,
+                               std::optional<Stroke> outline)
+{
+    const QRect box = snapped(area);
+    if (fill) {
+        fillBox(box, fill->ink, fill->mode);
+    }
+    if (!outline) {
+        return;
+    }
+    const int pen = std::max(1, static_cast<int>(std::lround(outline->width * ratio_)));
+    const QRect inner = box.adjusted(pen, pen, -pen, -pen);
+    if (!inner.isValid()) {
+        fillBox(box, outline->ink, outline->mode);
+        return;
+    }
+    const QRect edges[] = {
+        {box.left(), box.top(), box.width(), pen},
+        {box.left(), inner.bottom() + 1, box.width(), pen},
+        {box.left(), inner.top(), pen, inner.height()},
+        {inner.right() + 1, inner.top(), pen, inner.height()},
+    };
+    for (const QRect& edge : edges) {
+        fillBox(edge, outline->ink, outline->mode);
+    }
+}
+
+void PainterBackend::line(PixelPoint from, PixelPoint to, const Stroke& stroke)
+{
+    if (from == to) {
+        return;
+    }
+    const bool straight = from.x == to.x || from.y == to.y;
+    if (straight && stroke.width <= WidestSquareLine) {
+        straightLine(from, to, stroke);
+    } else {
+        slantedLine(from, to, stroke);
+    }
+}
+
+void PainterBackend::straightLine(PixelPoint from, PixelPoint to, const Stroke& stroke)
+{
+    // From the first pixel up to but without the last one, in either direction.
+    const auto span = [](double first, double last) {
+        return first <= last ? std::pair(first, last - first) : std::pair(last + 1, first - last);
+    };
+    PixelRectangle area{from.x, from.y, 1, 1};
+    if (from.y == to.y) {
+        std::tie(area.left, area.width) = span(from.x, to.x);
+    } else {
+        std::tie(area.top, area.height) = span(from.y, to.y);
+    }
+    fillBox(snapped(area), stroke.ink, stroke.mode);
+}
+
+// A thin line is moved back by half a pixel, so that it covers its first pixel and leaves out its last one. A
+// wide one has round ends on both.
+void PainterBackend::slantedLine(PixelPoint from, PixelPoint to, const Stroke& stroke)
+{
+    QPointF start = middle(from);
+    QPointF end = middle(to);
+    if (stroke.width <= WidestSquareLine) {
+        const QPointF way = end - start;
+        const QPointF half = way * (0.5 * ratio_ / std::max(std::abs(way.x()), std::abs(way.y())));
+        start -= half;
+        end -= half;
+    }
+    QPainterPath path(start);
+    path.lineTo(end);
+    strokeShape(path, stroke);
+}
+
+void PainterBackend::arc(const Arc& arc, std::optional<Fill> fill, std::optional<Stroke> outline)
+{
+    const QPainterPath path = pathOf(arc, middle(arc.centre), ratio_);
+    if (fill && arc.shape != Arc::Shape::Open) {
+        fillShape(path, *fill);
+    }
+    if (outline) {
+        strokeShape(path, *outline);
+    }
+}
+
+void PainterBackend::polygon(std::span<const PixelPoint> points, std::optional<Fill> fill,
+                             std::optional<Stroke> outline)
+{
+    if (points.size() < 2) {
+        return;
+    }
+    QPainterPath path(middle(points.front()));
+    for (const PixelPoint& point : points.subspan(1)) {
+        path.lineTo(middle(point));
+    }
+    path.closeSubpath();
+    if (fill) {
+        fillShape(path, *fill);
+    }
+    if (outline) {
+        strokeShape(path, *outline);
+    }
+}
+
+void PainterBackend::text(PixelPoint topLeft, StringView text, const FontFace& face, Ink ink)
+{
+    const auto& known =
+        static_cast<const QtFontFace&>(face); // faces of our own metrics only, see TextMetrics
+    const QPointF baseLine(topLeft.x * ratio_, std::round((topLeft.y + known.ascent()) * ratio_));
+    const Drawing drawing = [&](QPainter& painter) {
+        painter.setPen(toQColor(ink.colour));
+        drawLine(painter, baseLine, text, known);
+    };
+    if (!ink.cut) {
+        drawing(painter_);
+        return;
+    }
+    // Slanted letters reach out of their boxes.
+    const double reach = known.height() * ratio_;
+    const QRectF box(topLeft.x * ratio_, topLeft.y * ratio_, known.width(text) * ratio_, reach);
+    combine(Combine::Cut, box.adjusted(-reach, -reach, reach, reach).toAlignedRect(), drawing);
+}
+
+void PainterBackend::drawLine(QPainter& painter, QPointF baseLine, StringView text, const QtFontFace& face)
+{
+    if (QtFontFace::needsShaping(text)) {
+        QTextLayout layout;
+        face.layOut(layout, text, ratio_);
+        layout.draw(&painter, baseLine - QPointF(0, layout.lineAt(0).ascent()));
+    } else {
+        for (const GlyphPiece& piece : face.pieces(text)) {
+            scaledPlaces_.assign(piece.places.begin(), piece.places.end());
+            for (QPointF& place : scaledPlaces_) {
+                place *= ratio_;
+            }
+            run_.setRawFont(face.rawFont(piece.font, ratio_));
+            run_.setRawData(piece.glyphs.data(), scaledPlaces_.data(), static_cast<int>(piece.glyphs.size()));
+            painter.drawGlyphRun(baseLine, run_);
+        }
+    }
+    if (face.spec().underline || face.spec().strikethrough) {
+        drawTextLines(painter, baseLine, face.width(text) * ratio_, face);
+    }
+}
+
+void PainterBackend::drawTextLines(QPainter& painter, QPointF baseLine, double width, const QtFontFace& face)
+{
+    const auto draw = [&](double below) {
+        const double thickness = std::max(1.0, std::round(face.lineThickness() * ratio_));
+        const QRectF box(baseLine.x(), std::round(baseLine.y() + below * ratio_), width, thickness);
+        painter.fillRect(box.toRect(), painter.pen().color());
+    };
+    if (face.spec().underline) {
+        draw(face.underlinePosition());
+    }
+    if (face.spec().strikethrough) {
+        draw(face.strikeOutPosition());
+    }
+}
+
+void PainterBackend::image(const Picture& picture, const PixelRectangle& source, const PixelRectangle& target,
+                           RasterMode mode)
+{
+    const QRect box = snapped(target);
+    const QRectF part(source.left * picture.pixelRatio(), source.top * picture.pixelRatio(),
+                      source.width * picture.pixelRatio(), source.height * picture.pixelRatio());
+    const bool own = this->picture().get() == &picture;
+    const QImage image = own ? imageOf(picture).copy() : imageOf(picture);
+    const auto draw = [&](QPainter& painter) { painter.drawImage(QRectF(box), image, part); };
+    if (mode == RasterMode::Paint) {
+        painter_.setRenderHint(QPainter::SmoothPixmapTransform, true);
+        draw(painter_);
+    } else {
+        combine(mode == RasterMode::And ? Combine::And : Combine::Xor, box, draw);
+    }
+}
+
+void PainterBackend::gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps)
+{
+    const QRect box = snapped(area);
+    if (box.isEmpty()) {
+        return;
+    }
+    const int bands = std::max(1, steps);
+    const double turn = angle / DegreesPerRadian;
+    const QPointF along(std::cos(turn), std::sin(turn));
+    const QPointF across(-along.y(), along.x());
+    const double reach = (std::abs(along.x()) * box.width() + std::abs(along.y()) * box.height()) / 2;
+    const double side = box.width() + box.height();
+    const QPointF middle = QRectF(box).center();
+
+    painter_.save();
+    painter_.setClipRect(box, clip_ ? Qt::IntersectClip : Qt::ReplaceClip);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    painter_.setPen(Qt::NoPen);
+    for (int band = 0; band < bands; ++band) {
+        const double share = bands == 1 ? 0 : static_cast<double>(band) / (bands - 1);
+        const QPointF near = middle + along * (reach * (2.0 * band / bands - 1));
+        const QPointF far =
+            middle + along * (band + 1 == bands ? side : reach * (2.0 * (band + 1) / bands - 1));
+        painter_.setBrush(mixed(toQColor(from), toQColor(to), share));
+        painter_.drawPolygon(QPolygonF(
+            {near - across * side, near + across * side, far + across * side, far - across * side}));
+    }
+    painter_.restore();
+}
+
+} // namespace phial::qt

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "visual/DrawBackend.h"
+
+#include <QGlyphRun>
+#include <QPainter>
+#include <QRect>
+
+#include <functional>
+#include <vector>
+
+namespace phial::qt
+{
+
+class QtFontFace;
+
+/// The drawing primitives on the toolkit's painter, for pictures and for the printer.
+///
+/// The painter works in the device's own pixels. Edges of boxes and of straight lines are rounded to them, so
+/// they are crisp at every ratio; everything else is smooth. What cannot be painted, holes and bitwise ink,
+/// goes through `combine`.
+class PainterBackend : public DrawBackend
+{
+public:
+    PixelSize size() const override { return size_; }
+    TextMetrics& metrics() override { return *metrics_; }
+
+    void clear(Ink ink) override;
+    void rectangle(const PixelRectangle& area, std::optional<Fill> fill,
+                   std::optional<Stroke> outline) override;
+    void line(PixelPoint from, PixelPoint to, const Stroke& stroke) override;
+    void arc(const Arc& arc, std::optional<Fill> fill, std::optional<Stroke> outline) override;
+    void polygon(std::span<const PixelPoint> points, std::optional<Fill> fill,
+                 std::optional<Stroke> outline) override;
+    void text(PixelPoint topLeft, StringView text, const FontFace& face, Ink ink) override;
+    void image(const Picture& picture, const PixelRectangle& source, const PixelRectangle& target,
+               RasterMode mode) override;
+    void gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps) override;
+    void clip(std::optional<PixelRectangle> area) override;
+
+protected:
+    /// How drawn pixels change the surface when they are not simply painted.
+    enum class Combine { And, Xor, Cut };
+    using Drawing = std::function<void(QPainter&)>;
+
+    /// `device` holds `ratio` pixels for a logical one in each direction.
+    PainterBackend(PixelSize size, double ratio, std::shared_ptr<TextMetrics> metrics);
+
+    void begin(QPaintDevice& device);
+    QPainter& painter() { return painter_; }
+    double ratio() const { return ratio_; }
+    const std::optional<QRect>& clipping() const { return clip_; }
+    /// The area in device pixels, with rounded edges and at least one pixel wide and high unless it is empty.
+    QRect snapped(const PixelRectangle& area) const;
+
+    /// Lets what `drawing` draws inside of `bounds` change the surface. A device without pixels ignores it.
+    virtual void combine(Combine how, const QRect& bounds, const Drawing& drawing) = 0;
+
+private:
+    void fillShape(const QPainterPath& path, const Fill& fill);
+    void strokeShape(const QPainterPath& path, const Stroke& stroke);
+    void fillBox(const QRect& box, const Ink& ink, RasterMode mode);
+    void apply(const Ink& ink, RasterMode mode, const QRectF& bounds, const Drawing& drawing);
+    void straightLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
+    void slantedLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
+    void drawLine(QPainter& painter, QPointF baseLine, StringView text, const QtFontFace& face);
+    void drawTextLines(QPainter& painter, QPointF baseLine, double width, const QtFontFace& face);
+    QPointF middle(PixelPoint point) const { return {(point.x + 0.5) * ratio_, (point.y + 0.5) * ratio_}; }
+
+    PixelSize size_;
+    double ratio_;
+    std::shared_ptr<TextMetrics> metrics_;
+    QPainter painter_;
+    std::optional<QRect> clip_;
+    QGlyphRun run_;
+    std::vector<QPointF> scaledPlaces_;
+};
+
+} // namespace phial::qt

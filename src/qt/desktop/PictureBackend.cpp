@@ -1,0 +1,100 @@
+#include "qt/desktop/PictureBackend.h"
+
+#include "qt/desktop/DesktopColours.h"
+
+#include <cmath>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr std::uint32_t AlphaMask = 0xFF000000U;
+constexpr std::uint32_t ColourMask = 0x00FFFFFFU;
+constexpr unsigned HalfCovered = 128;
+
+QImage writableImageOf(Picture& picture)
+{
+    return {reinterpret_cast<uchar*>(picture.pixels().data()), static_cast<int>(picture.columns()),
+            static_cast<int>(picture.rows()),
+            static_cast<qsizetype>(picture.columns()) * static_cast<qsizetype>(sizeof(std::uint32_t)),
+            QImage::Format_ARGB32_Premultiplied};
+}
+
+} // namespace
+
+PictureBackend::PictureBackend(PicturePtr picture, std::shared_ptr<TextMetrics> metrics)
+    : PainterBackend(picture->size(), picture->pixelRatio(), std::move(metrics)),
+      picture_(std::move(picture)), image_(writableImageOf(*picture_))
+{
+    begin(image_);
+}
+
+PictureBackend::~PictureBackend()
+{
+    painter().end();
+}
+
+std::optional<Colour> PictureBackend::pixel(PixelPoint point) const
+{
+    const double x = std::floor((point.x + 0.5) * ratio());
+    const double y = std::floor((point.y + 0.5) * ratio());
+    if (!(x >= 0 && y >= 0 && x < static_cast<double>(picture_->columns()) &&
+          y < static_cast<double>(picture_->rows()))) {
+        return std::nullopt;
+    }
+    const QRgb held = picture_->at(static_cast<std::size_t>(x), static_cast<std::size_t>(y));
+    if (qAlpha(held) == 0) {
+        return std::nullopt;
+    }
+    return fromQColor(QColor(qUnpremultiply(held)));
+}
+
+QRect PictureBackend::visible(const QRect& bounds) const
+{
+    const QRect inside = bounds.intersected(image_.rect());
+    return clipping() ? inside.intersected(*clipping()) : inside;
+}
+
+// The drawing goes to a layer of its own, which tells the pixels that are meant. See-through pixels stay so
+// when bits are combined; bits of a colour stay below its alpha.
+void PictureBackend::combine(Combine how, const QRect& bounds, const Drawing& drawing)
+{
+    const QRect area = visible(bounds);
+    if (area.isEmpty()) {
+        return;
+    }
+    QImage layer(area.size(), QImage::Format_ARGB32_Premultiplied);
+    layer.fill(Qt::transparent);
+    QPainter layerPainter(&layer);
+    layerPainter.translate(-area.topLeft());
+    drawing(layerPainter);
+    layerPainter.end();
+
+    const std::span<std::uint32_t> pixels = picture_->pixels();
+    for (int row = 0; row < area.height(); ++row) {
+        const auto* drawn = reinterpret_cast<const QRgb*>(layer.constScanLine(row));
+        std::uint32_t* held = pixels.data() +
+                              static_cast<std::size_t>(area.top() + row) * picture_->columns() +
+                              static_cast<std::size_t>(area.left());
+        for (int column = 0; column < area.width(); ++column, ++drawn, ++held) {
+            if (static_cast<unsigned>(qAlpha(*drawn)) < HalfCovered) {
+                continue;
+            }
+            switch (how) {
+            case Combine::Cut:
+                *held = 0;
+                break;
+            case Combine::And:
+                *held &= *drawn | AlphaMask;
+                break;
+            case Combine::Xor:
+                *held ^= (*held & AlphaMask) == AlphaMask ? *drawn & ColourMask : 0;
+                break;
+            }
+        }
+    }
+}
+
+} // namespace phial::qt

@@ -1,0 +1,52 @@
+#include "qt/desktop/PictureImage.h"
+
+#include <QPixmap>
+
+#include <algorithm>
+#include <cstring>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr auto Format = QImage::Format_ARGB32_Premultiplied;
+
+} // namespace
+
+QImage imageOf(const Picture& picture)
+{
+    const auto columns = static_cast<int>(picture.columns());
+    return {reinterpret_cast<const uchar*>(picture.pixels().data()), columns,
+            static_cast<int>(picture.rows()),
+            static_cast<qsizetype>(columns) * static_cast<qsizetype>(sizeof(std::uint32_t)), Format};
+}
+
+QImage imageCopy(const Picture& picture)
+{
+    QImage image = imageOf(picture).copy();
+    image.setDevicePixelRatio(picture.pixelRatio());
+    return image;
+}
+
+PicturePtr pictureOf(const QImage& image, double pixelRatio)
+{
+    const QImage source = image.convertToFormat(Format);
+    auto picture = std::make_shared<Picture>(
+        PixelSize{source.width() / pixelRatio, source.height() / pixelRatio}, pixelRatio);
+    const std::size_t columns = std::min(picture->columns(), static_cast<std::size_t>(source.width()));
+    const std::size_t rows = std::min(picture->rows(), static_cast<std::size_t>(source.height()));
+    for (std::size_t row = 0; row < rows; ++row) {
+        std::memcpy(picture->pixels().data() + row * picture->columns(),
+                    source.constScanLine(static_cast<int>(row)), columns * sizeof(std::uint32_t));
+    }
+    return picture;
+}
+
+QIcon iconOf(const PicturePtr& picture)
+{
+    return picture ? QIcon(QPixmap::fromImage(imageCopy(*picture))) : QIcon();
+}
+
+} // namespace phial::qt

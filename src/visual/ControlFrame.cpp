@@ -1,0 +1,234 @@
+#include "visual/ControlFrame.h"
+
+#include "core/RuntimeError.h"
+#include "visual/Form.h"
+
+namespace phial
+{
+
+WindowHandle newWindowHandle()
+{
+    static std::int32_t last = 0;
+    return static_cast<WindowHandle>(++last);
+}
+
+ControlFrame::ControlFrame(Control& control) : control_(control), handle_(newWindowHandle()) {}
+
+double ControlFrame::fromTwips(double twips) const
+{
+    return twips / (container_ ? container_->twipsPerUnit() : TwipsPerPixel);
+}
+
+double ControlFrame::toTwips(double value) const
+{
+    return value * (container_ ? container_->twipsPerUnit() : TwipsPerPixel);
+}
+
+void ControlFrame::Move(double left, double top, double width, double height)
+{
+    if (!(width >= 0 && height >= 0)) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+    place({toTwips(left), toTwips(top), toTwips(width), toTwips(height)});
+}
+
+PixelRectangle ControlFrame::pixelRectangle() const
+{
+    return {left_ / TwipsPerPixel, top_ / TwipsPerPixel, width_ / TwipsPerPixel, height_ / TwipsPerPixel};
+}
+
+void ControlFrame::pixelRectangle(const PixelRectangle& value)
+{
+    place({value.left * TwipsPerPixel, value.top * TwipsPerPixel, value.width * TwipsPerPixel,
+           value.height * TwipsPerPixel});
+}
+
+void ControlFrame::place(const PixelRectangle& twips)
+{
+    const bool sizeDiffers = twips.width != width_ || twips.height != height_;
+    if (!sizeDiffers && twips.left == left_ && twips.top == top_) {
+        return;
+    }
+    left_ = twips.left;
+    top_ = twips.top;
+    width_ = twips.width;
+    height_ = twips.height;
+    report(ControlAspect::Geometry);
+    if (sizeDiffers) {
+        control_.resized();
+    }
+}
+
+void ControlFrame::Visible(bool value)
+{
+    if (visible_ == value) {
+        return;
+    }
+    visible_ = value;
+    control_.visibilityChanged();
+    report(ControlAspect::Visibility);
+    leaveFocusIfUnreachable();
+}
+
+void ControlFrame::Enabled(bool value)
+{
+    if (enabled_ == value) {
+        return;
+    }
+    enabled_ = value;
+    report(ControlAspect::Enabled);
+    leaveFocusIfUnreachable();
+}
+
+void ControlFrame::leaveFocusIfUnreachable()
+{
+    const auto parentForm = form();
+    if (!parentForm) {
+        return;
+    }
+    const ControlPtr active = parentForm->ActiveControl();
+    if (active && !active->frame().isReachable()) {
+        parentForm->focus(nullptr);
+    }
+}
+
+bool ControlFrame::isReachable() const
+{
+    for (const ControlFrame* frame = this; frame;) {
+        if (!frame->visible_ || !frame->enabled_) {
+            return false;
+        }
+        const Control* holder = frame->container_ ? frame->container_->owner() : nullptr;
+        frame = holder ? &holder->frame() : nullptr;
+    }
+    return true;
+}
+
+void ControlFrame::SetFocus()
+{
+    if (const auto parentForm = form()) {
+        parentForm->focus(control_.shared_from_this());
+    } else if (peer_ && canFocus_ && isReachable()) {
+        report(ControlAspect::Focus);
+    } else {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+}
+
+void ControlFrame::focusChanged(bool focused)
+{
+    if (focused_ == focused) {
+        return;
+    }
+    focused_ = focused;
+    if (focused) {
+        report(ControlAspect::Focus);
+        control_.gotFocus();
+    } else {
+        control_.lostFocus();
+    }
+}
+
+void ControlFrame::ToolTipText(String value)
+{
+    if (toolTip_ != value) {
+        toolTip_ = std::move(value);
+        report(ControlAspect::ToolTip);
+    }
+}
+
+void ControlFrame::MousePointer(phial::MousePointer value)
+{
+    if (pointer_ != value) {
+        pointer_ = value;
+        report(ControlAspect::Pointer);
+    }
+}
+
+void ControlFrame::MouseIcon(PicturePtr value)
+{
+    pointerIcon_ = std::move(value);
+    report(ControlAspect::Pointer);
+}
+
+void ControlFrame::AccessibleName(String value)
+{
+    if (accessibleName_ != value) {
+        accessibleName_ = std::move(value);
+        report(ControlAspect::Accessibility);
+    }
+}
+
+void ControlFrame::HelpText(String value)
+{
+    if (helpText_ != value) {
+        helpText_ = std::move(value);
+        report(ControlAspect::Accessibility);
+    }
+}
+
+void ControlFrame::ZOrder(std::int32_t position)
+{
+    if (!container_) {
+        return;
+    }
+    if (position == 0) {
+        container_->toFront(control_);
+    } else {
+        container_->toBack(control_);
+    }
+}
+
+ObjectPtr ControlFrame::ContainerObject() const
+{
+    if (!container_) {
+        return nullptr;
+    }
+    if (Control* holder = container_->owner()) {
+        return holder->shared_from_this();
+    }
+    return Parent();
+}
+
+void ControlFrame::container(Container& value)
+{
+    if (container_ == &value) {
+        return;
+    }
+    const ControlPtr self = control_.shared_from_this();
+    if (container_) {
+        container_->remove(control_);
+    }
+    value.add(self);
+}
+
+std::shared_ptr<Form> ControlFrame::form() const
+{
+    return std::dynamic_pointer_cast<Form>(Parent());
+}
+
+PixelPoint ControlFrame::originOnForm() const
+{
+    PixelPoint origin;
+    for (const ControlFrame* frame = this; frame;) {
+        origin.x += frame->left_ / TwipsPerPixel;
+        origin.y += frame->top_ / TwipsPerPixel;
+        const Control* holder = frame->container_ ? frame->container_->owner() : nullptr;
+        frame = holder ? &holder->frame() : nullptr;
+    }
+    return origin;
+}
+
+void ControlFrame::Drag()
+{
+    report(ControlAspect::Drag);
+}
+
+void ControlFrame::report(ControlAspect aspect) const
+{
+    if (peer_) {
+        peer_->modelChanged(aspect);
+    }
+}
+
+} // namespace phial

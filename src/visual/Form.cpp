@@ -1,0 +1,414 @@
+#include "visual/Form.h"
+
+#include "core/Members.h"
+#include "core/RuntimeError.h"
+#include "visual/Controls.h"
+#include "visual/VisualHost.h"
+
+#include <algorithm>
+
+namespace phial
+{
+
+Form::Form(String name)
+    : name_(std::move(name)),
+      container_(ScaleUnit::Twips,
+                 [this](ControlAspect aspect) {
+                     report(aspect == ControlAspect::ZOrder ? FormAspect::ZOrder : FormAspect::Children);
+                 }),
+      handle_(newWindowHandle())
+{
+    menuChanged_ = menu_->changed.connect([this] { report(FormAspect::Menu); });
+}
+
+Form::~Form() = default;
+
+template <typename Value>
+void Form::change(Value& field, Value value, FormAspect aspect)
+{
+    if (field != value) {
+        field = std::move(value);
+        report(aspect);
+    }
+}
+
+void Form::Caption(String value)
+{
+    change(caption_, std::move(value), FormAspect::Caption);
+}
+
+void Form::BackColor(Colour value)
+{
+    change(backColor_, value, FormAspect::Style);
+}
+
+void Form::Picture(PicturePtr value)
+{
+    change(picture_, std::move(value), FormAspect::Style);
+}
+
+void Form::Icon(PicturePtr value)
+{
+    change(icon_, std::move(value), FormAspect::Style);
+}
+
+void Form::BorderStyle(phial::BorderStyle value)
+{
+    change(border_, value, FormAspect::Style);
+}
+
+void Form::MousePointer(phial::MousePointer value)
+{
+    change(pointer_, value, FormAspect::Style);
+}
+
+void Form::translucency(phial::Translucency value)
+{
+    translucency_ = std::move(value);
+    report(FormAspect::Style);
+}
+
+void Form::Enabled(bool value)
+{
+    change(enabled_, value, FormAspect::Enabled);
+}
+
+void Form::WindowState(phial::WindowState value)
+{
+    change(state_, value, FormAspect::WindowState);
+}
+
+void Form::Move(double left, double top, double width, double height)
+{
+    if (!(width >= 0 && height >= 0)) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+    if (place(left, top, width, height)) {
+        report(FormAspect::Geometry);
+        Resize.emit();
+    } else {
+        report(FormAspect::Geometry);
+    }
+}
+
+bool Form::place(double left, double top, double width, double height)
+{
+    const bool resized = width != width_ || height != height_;
+    left_ = left;
+    top_ = top;
+    width_ = width;
+    height_ = height;
+    return resized;
+}
+
+double Form::ScaleWidth() const
+{
+    return innerSize().width * TwipsPerPixel / container_.twipsPerUnit();
+}
+
+double Form::ScaleHeight() const
+{
+    return innerSize().height * TwipsPerPixel / container_.twipsPerUnit();
+}
+
+PixelSize Form::innerSize() const
+{
+    return {std::max(0.0, width_ / TwipsPerPixel - decoration_.width),
+            std::max(0.0, height_ / TwipsPerPixel - decoration_.height)};
+}
+
+void Form::innerSize(PixelSize value)
+{
+    Move(left_, top_, (value.width + decoration_.width) * TwipsPerPixel,
+         (value.height + decoration_.height) * TwipsPerPixel);
+}
+
+void Form::decoration(PixelSize value)
+{
+    const PixelSize inner = innerSize();
+    decoration_ = value;
+    place(left_, top_, (inner.width + value.width) * TwipsPerPixel,
+          (inner.height + value.height) * TwipsPerPixel);
+}
+
+void Form::place(const ControlPtr& control, phial::Container& into)
+{
+    into.add(control);
+    control->frame().Parent(shared_from_this());
+    objects_.push_back(control);
+    if (UserControl* painted = control->painted(); painted && Visible() && control->frame().Visible()) {
+        painted->shown();
+    }
+}
+
+void Form::remove(const Object& object)
+{
+    const auto found =
+        std::ranges::find_if(objects_, [&](const auto& entry) { return entry.get() == &object; });
+    if (found == objects_.end()) {
+        return;
+    }
+    const ObjectPtr removed = *found;
+    objects_.erase(found);
+    if (auto* control = dynamic_cast<Control*>(removed.get())) {
+        removeControl(*control);
+    }
+}
+
+void Form::removeControl(Control& control)
+{
+    if (active_.lock().get() == &control) {
+        focus(nullptr);
+    }
+    if (phial::Container* holder = control.frame().container()) {
+        holder->remove(control);
+    }
+    if (UserControl* painted = control.painted()) {
+        painted->ended();
+    }
+    control.frame().Parent(nullptr);
+}
+
+void Form::addComponent(ObjectPtr component)
+{
+    if (!component) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
+    objects_.push_back(std::move(component));
+}
+
+ObjectPtr Form::controlAt(std::size_t index) const
+{
+    if (index >= objects_.size()) {
+        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+    }
+    return objects_[index];
+}
+
+ObjectPtr Form::find(StringView name, std::int32_t index) const
+{
+    for (const ObjectPtr& object : objects_) {
+        const auto named = tryGet(*object, u"NAME");
+        if (named && equalsIgnoringCase(named->toText(), name) &&
+            tryGet(*object, u"Index").value_or(Variant(-1)).toWhole() == index) {
+            return object;
+        }
+    }
+    return nullptr;
+}
+
+ObjectPtr Form::Controls() const
+{
+    return std::make_shared<phial::Controls>(
+        std::static_pointer_cast<const ControlParent>(shared_from_this()));
+}
+
+void Form::load()
+{
+    if (loaded_) {
+        return;
+    }
+    loaded_ = true;
+    aborting_ = false;
+    visualHost().forms().loaded(shared_from_this());
+    Load.emit();
+}
+
+void Form::Show(FormShow how)
+{
+    const auto self = shared_from_this();
+    if (how == FormShow::Modal && Visible()) {
+        throw RuntimeError(400, u"Form already displayed; can't show modally");
+    }
+    load();
+    if (!loaded_) {
+        return; // a handler of Load has unloaded it
+    }
+    if (Visible()) {
+        ZOrder(0);
+        SetFocus();
+        return;
+    }
+    const auto opener = visualHost().forms().ActiveForm();
+    modal_ = how == FormShow::Modal;
+    if (modal_ && opener) {
+        ++opener->ownDialogs_;
+    }
+    openWindow(how);
+    if (how == FormShow::Modal) {
+        runModal(opener);
+    }
+}
+
+void Form::openWindow(FormShow how)
+{
+    VisualHost& host = visualHost();
+    if (how == FormShow::Modal) {
+        host.forms().modalBegun(shared_from_this());
+    }
+    if (centred_) {
+        const PixelSize screen = host.screenSize();
+        place((screen.width * TwipsPerPixel - width_) / 2, (screen.height * TwipsPerPixel - height_) / 2,
+              width_, height_);
+    }
+    peer_ = host.openWindow(*this, how == FormShow::Modal);
+    Resize.emit();
+    tellShown(true);
+    inputActivate();
+    focusFirst();
+}
+
+void Form::runModal(const std::shared_ptr<Form>& opener)
+{
+    const auto endsDialog = [](Form* form) { --form->ownDialogs_; };
+    const std::unique_ptr<Form, decltype(endsDialog)> dialog(opener.get(), endsDialog);
+    if (modal_) {
+        visualHost().runModal(*this);
+    }
+    if (opener && opener->Visible()) {
+        opener->inputActivate();
+    }
+}
+
+void Form::focusFirst()
+{
+    if (!Visible()) {
+        return;
+    }
+    ControlPtr first = active_.lock();
+    if (!first || !first->frame().isReachable()) {
+        const auto order = tabOrder();
+        first = order.empty() ? nullptr : order.front();
+    }
+    active_.reset();
+    focus(first);
+}
+
+void Form::tellShown(bool shown)
+{
+    const auto objects = objects_; // a handler may add or remove
+    for (const ObjectPtr& object : objects) {
+        auto* control = dynamic_cast<Control*>(object.get());
+        UserControl* painted = control ? control->painted() : nullptr;
+        if (painted && control->frame().Visible()) {
+            shown ? painted->shown() : painted->hidden();
+        }
+    }
+}
+
+void Form::Hide()
+{
+    const auto self = shared_from_this();
+    closeWindow();
+}
+
+void Form::closeWindow()
+{
+    if (!peer_) {
+        return;
+    }
+    if (const auto active = active_.lock()) {
+        active->frame().forgetFocus();
+    }
+    tellShown(false);
+    peer_.reset();
+    isActive_ = activateTold_ = false;
+    modal_ = false;
+    visualHost().forms().deactivated(*this);
+    visualHost().forms().modalEnded(*this);
+}
+
+bool Form::Unload()
+{
+    if (!loaded_ || closing_) {
+        return !loaded_;
+    }
+    const auto self = shared_from_this();
+    closing_ = true;
+    bool refused = false;
+    QueryUnload.emit(refused);
+    if (!refused) {
+        Unloading.emit(refused);
+    }
+    if (!refused) {
+        finishUnload();
+    }
+    closing_ = false;
+    return !refused;
+}
+
+void Form::discard()
+{
+    if (loaded_) {
+        const auto self = shared_from_this();
+        closing_ = true;
+        finishUnload();
+        closing_ = false;
+    }
+}
+
+void Form::finishUnload()
+{
+    closeWindow();
+    loaded_ = false;
+    visualHost().forms().unloaded(*this);
+    for (const ObjectPtr& object : objects_) {
+        if (auto* timer = dynamic_cast<Timer*>(object.get())) {
+            timer->Enabled(false);
+        }
+    }
+    Unloaded.emit();
+}
+
+void Form::SetFocus()
+{
+    report(FormAspect::Focus);
+    inputActivate();
+}
+
+void Form::ZOrder(std::int32_t position)
+{
+    if (position == 0) {
+        report(FormAspect::ZOrder);
+    }
+}
+
+void Form::report(FormAspect aspect) const
+{
+    if (peer_) {
+        peer_->modelChanged(aspect);
+    }
+}
+
+MemberTable Form::members() const
+{
+    using members::property;
+    using members::readOnly;
+    static constexpr auto Table = std::to_array<Member>({
+        property<Form, String, &Form::NAME, &Form::NAME>(u"NAME"),
+        property<Form, String, &Form::Tag, &Form::Tag>(u"Tag"),
+        property<Form, String, &Form::Caption, &Form::Caption>(u"Caption"),
+        property<Form, double, &Form::Left, &Form::Left>(u"Left"),
+        property<Form, double, &Form::Top, &Form::Top>(u"Top"),
+        property<Form, double, &Form::Width, &Form::Width>(u"Width"),
+        property<Form, double, &Form::Height, &Form::Height>(u"Height"),
+        property<Form, ScaleUnit, &Form::ScaleMode, &Form::ScaleMode>(u"ScaleMode"),
+        readOnly<Form, double, &Form::ScaleWidth>(u"ScaleWidth"),
+        readOnly<Form, double, &Form::ScaleHeight>(u"ScaleHeight"),
+        property<Form, Colour, &Form::BackColor, &Form::BackColor>(u"BackColor"),
+        property<Form, PicturePtr, &Form::Picture, &Form::Picture>(u"Picture"),
+        property<Form, PicturePtr, &Form::Icon, &Form::Icon>(u"Icon"),
+        property<Form, phial::BorderStyle, &Form::BorderStyle, &Form::BorderStyle>(u"BorderStyle"),
+        property<Form, phial::WindowState, &Form::WindowState, &Form::WindowState>(u"WindowState"),
+        property<Form, phial::MousePointer, &Form::MousePointer, &Form::MousePointer>(u"MousePointer"),
+        property<Form, bool, &Form::Enabled, &Form::Enabled>(u"Enabled"),
+        property<Form, bool, &Form::KeyPreview, &Form::KeyPreview>(u"KeyPreview"),
+        readOnly<Form, bool, &Form::Visible>(u"Visible"),
+        readOnly<Form, WindowHandle, &Form::hWnd>(u"hWnd"),
+        readOnly<Form, ObjectPtr, &Form::Controls>(u"Controls"),
+        members::operation<Form, &Form::Hide>(u"Hide"),
+    });
+    return Table;
+}
+
+} // namespace phial

@@ -1,0 +1,156 @@
+#include "core/RuntimeError.h"
+#include "visual/Form.h"
+#include "visual/VisualHost.h"
+#include "visual/ctl_Button.h"
+
+#include <algorithm>
+
+/// The part of a form that deals with what the user does: activation, focus, keys.
+namespace phial
+{
+
+void Form::inputActivate()
+{
+    if (isActive_ || !Visible()) {
+        return;
+    }
+    const auto self = shared_from_this();
+    Forms& forms = visualHost().forms();
+    if (const auto previous = forms.ActiveForm(); previous && previous != self) {
+        previous->inputDeactivate();
+    }
+    isActive_ = true;
+    forms.activated(self);
+    if (!activateTold_) {
+        activateTold_ = true;
+        Activate.emit();
+    }
+}
+
+void Form::inputDeactivate()
+{
+    if (!isActive_) {
+        return;
+    }
+    const auto self = shared_from_this();
+    isActive_ = false;
+    visualHost().forms().deactivated(*this);
+    if (activateTold_ && !closing_ && !aborting_ && ownDialogs_ == 0) {
+        activateTold_ = false;
+        Deactivate.emit();
+    }
+}
+
+void Form::inputGeometry(double left, double top, double width, double height)
+{
+    if (place(left, top, width, height)) {
+        Resize.emit();
+    }
+}
+
+void Form::inputWindowState(phial::WindowState value)
+{
+    state_ = value;
+}
+
+std::vector<ControlPtr> Form::tabOrder() const
+{
+    std::vector<ControlPtr> order;
+    for (const ObjectPtr& object : objects_) {
+        auto control = std::dynamic_pointer_cast<Control>(object);
+        if (control && control->frame().TabStop() && control->frame().isReachable()) {
+            order.push_back(std::move(control));
+        }
+    }
+    std::ranges::stable_sort(order, {},
+                             [](const ControlPtr& control) { return control->frame().TabIndex(); });
+    return order;
+}
+
+void Form::focus(const ControlPtr& control)
+{
+    if (control && !(control->frame().canFocus() && control->frame().isReachable())) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+    inputFocus(control);
+}
+
+void Form::inputFocus(const ControlPtr& control)
+{
+    const ControlPtr previous = active_.lock();
+    if (previous == control && (!control || control->frame().hasFocus())) {
+        return;
+    }
+    active_ = control;
+    if (!Visible()) {
+        return; // told when the form is shown
+    }
+    if (previous) {
+        previous->frame().focusChanged(false);
+    }
+    if (control && active_.lock() == control) { // a handler may have moved the focus on
+        control->frame().focusChanged(true);
+    }
+}
+
+bool Form::inputKeyDown(KeyEvent& event)
+{
+    const auto self = shared_from_this();
+    if (keyPreview_) {
+        KeyDown.emit(event);
+    }
+    const ControlPtr active = active_.lock();
+    if (active && event.KeyCode != 0 && active->frame().Enabled()) {
+        active->keyDown(event);
+    }
+    return event.KeyCode != 0 && !pressDefault(event);
+}
+
+bool Form::pressDefault(const KeyEvent& event)
+{
+    const bool isReturn = event.is(Key::Return);
+    if (event.Shift != 0 || (!isReturn && !event.is(Key::Escape))) {
+        return false;
+    }
+    const ControlPtr active = active_.lock();
+    if (active && active->wantsKey(isReturn ? Key::Return : Key::Escape)) {
+        return false;
+    }
+    ControlPtr pressed = isReturn ? default_.lock() : cancel_.lock();
+    if (isReturn && std::dynamic_pointer_cast<ctl_Button>(active)) {
+        pressed = active; // a button that has the focus takes Return itself
+    }
+    if (!pressed || !pressed->frame().Enabled()) {
+        return false;
+    }
+    pressed->click();
+    return true;
+}
+
+bool Form::inputKeyPress(KeyPressEvent& event)
+{
+    const auto self = shared_from_this();
+    if (keyPreview_) {
+        KeyPress.emit(event);
+    }
+    const ControlPtr active = active_.lock();
+    if (active && event.KeyAscii != 0 && active->frame().Enabled()) {
+        active->keyPress(event);
+    }
+    return event.KeyAscii != 0;
+}
+
+bool Form::inputKeyUp(KeyEvent& event)
+{
+    const auto self = shared_from_this();
+    if (keyPreview_) {
+        KeyUp.emit(event);
+    }
+    const ControlPtr active = active_.lock();
+    if (active && event.KeyCode != 0 && active->frame().Enabled()) {
+        active->keyUp(event);
+    }
+    return event.KeyCode != 0;
+}
+
+} // namespace phial

@@ -1,0 +1,169 @@
+#include "visual/Menu.h"
+
+#include "core/Members.h"
+#include "core/RuntimeError.h"
+
+#include <algorithm>
+
+namespace phial
+{
+
+Menu::Menu(String name, String caption, std::int32_t index)
+    : name_(std::move(name)), index_(index), caption_(std::move(caption))
+{
+}
+
+void Menu::Caption(String value)
+{
+    if (caption_ != value) {
+        caption_ = std::move(value);
+        report();
+    }
+}
+
+void Menu::Enabled(bool value)
+{
+    if (enabled_ != value) {
+        enabled_ = value;
+        report();
+    }
+}
+
+void Menu::Visible(bool value)
+{
+    if (visible_ != value) {
+        visible_ = value;
+        report();
+    }
+}
+
+void Menu::Checked(bool value)
+{
+    if (checked_ != value) {
+        checked_ = value;
+        report();
+    }
+}
+
+std::shared_ptr<Menu> Menu::add(const std::shared_ptr<Menu>& entry)
+{
+    if (!entry) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
+    entry->above_ = this;
+    entries_.push_back(entry);
+    report();
+    return entry;
+}
+
+std::shared_ptr<Menu> Menu::add(String name, String caption, std::int32_t index)
+{
+    return add(std::make_shared<Menu>(std::move(name), std::move(caption), index));
+}
+
+void Menu::remove(const Menu& entry)
+{
+    const auto found = std::ranges::find_if(entries_, [&](const auto& one) { return one.get() == &entry; });
+    if (found == entries_.end()) {
+        return;
+    }
+    const auto removed = *found; // outlives the report
+    entries_.erase(found);
+    removed->above_ = nullptr;
+    report();
+}
+
+Menu::~Menu()
+{
+    for (const auto& entry : entries_) {
+        entry->above_ = nullptr;
+    }
+}
+
+std::shared_ptr<Menu> Menu::find(StringView name, std::int32_t index) const
+{
+    const auto found = std::ranges::find_if(entries_, [&](const auto& entry) {
+        return entry->index_ == index && equalsIgnoringCase(entry->name_, name);
+    });
+    return found == entries_.end() ? nullptr : *found;
+}
+
+std::shared_ptr<Menu> Menu::entry(StringView name, std::int32_t index) const
+{
+    auto found = find(name, index);
+    if (!found) {
+        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+    }
+    return found;
+}
+
+std::shared_ptr<Menu> Menu::load(StringView name, std::int32_t index)
+{
+    if (find(name, index)) {
+        throw RuntimeError(360, u"Object already loaded");
+    }
+    std::shared_ptr<Menu> original;
+    auto behind = entries_.end();
+    for (auto entry = entries_.begin(); entry != entries_.end(); ++entry) {
+        if (!equalsIgnoringCase((*entry)->name_, name)) {
+            continue;
+        }
+        behind = entry + 1;
+        if (!original || (*entry)->index_ < original->index_) {
+            original = *entry;
+        }
+    }
+    if (!original) {
+        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+    }
+    auto copy = std::make_shared<Menu>(original->name_, original->caption_, index);
+    copy->tag_ = original->tag_;
+    copy->enabled_ = original->enabled_;
+    copy->checked_ = original->checked_;
+    copy->visible_ = false;
+    copy->above_ = this;
+    entries_.insert(behind, copy);
+    report();
+    return copy;
+}
+
+void Menu::unload(StringView name, std::int32_t index)
+{
+    remove(*entry(name, index));
+}
+
+void Menu::inputClick()
+{
+    if (!enabled_ || !visible_) {
+        return;
+    }
+    const auto self = shared_from_this(); // a handler may take the entry away
+    Click.emit(index_);
+    for (Menu* menu = above_; menu; menu = menu->above_) {
+        menu->Chosen.emit(*this);
+    }
+}
+
+void Menu::report()
+{
+    for (Menu* menu = this; menu; menu = menu->above_) {
+        menu->changed.emit();
+    }
+}
+
+MemberTable Menu::members() const
+{
+    using members::property;
+    static constexpr auto Table = std::to_array<Member>({
+        property<Menu, String, &Menu::NAME, &Menu::NAME>(u"NAME"),
+        members::readOnly<Menu, std::int32_t, &Menu::Index>(u"Index"),
+        property<Menu, String, &Menu::Tag, &Menu::Tag>(u"Tag"),
+        property<Menu, String, &Menu::Caption, &Menu::Caption>(u"Caption"),
+        property<Menu, bool, &Menu::Enabled, &Menu::Enabled>(u"Enabled"),
+        property<Menu, bool, &Menu::Visible, &Menu::Visible>(u"Visible"),
+        property<Menu, bool, &Menu::Checked, &Menu::Checked>(u"Checked"),
+    });
+    return Table;
+}
+
+} // namespace phial

@@ -1,0 +1,128 @@
+#include "visual/PaintSurface.h"
+
+#include "visual/UserControl.h"
+#include "visual/VisualHost.h"
+
+namespace phial
+{
+
+PaintSurface::PaintSurface(UserControl& control) : control_(control), device_(*this) {}
+
+PixelSize PaintSurface::size() const
+{
+    const PixelRectangle place = control_.frame().pixelRectangle();
+    return {place.width, place.height};
+}
+
+PicturePtr PaintSurface::image(double pixelRatio)
+{
+    if (!backend_ || ratio_ != pixelRatio || madeFor_ != size()) {
+        remake(pixelRatio);
+    }
+    if (!painted_ && !painting_) {
+        paintControl();
+    }
+    reported_ = false;
+    return backend_->picture();
+}
+
+void PaintSurface::paintControl()
+{
+    painting_ = true;
+    painted_ = true;
+    try {
+        control_.paint();
+    } catch (...) {
+        painting_ = false;
+        throw;
+    }
+    painting_ = false;
+}
+
+void PaintSurface::remake(double pixelRatio)
+{
+    const PicturePtr before = retains_ && painted_ ? backend_->picture() : nullptr;
+    ratio_ = pixelRatio;
+    madeFor_ = size();
+    painted_ = false;
+    device_.detach();
+    backend_ = visualHost().createSurface(madeFor_, ratio_);
+    if (retains_) {
+        paintControl();
+    }
+    if (before) {
+        const PixelRectangle area{0, 0, before->Width(), before->Height()};
+        backend_->image(*before, area, area, RasterMode::Paint);
+    }
+}
+
+void PaintSurface::invalidate()
+{
+    painted_ = false;
+    drawn();
+}
+
+void PaintSurface::resized()
+{
+    device_.detach(); // asks openBackend again, which sees the new size
+    if (retains_) {
+        drawn();
+    } else {
+        invalidate();
+    }
+}
+
+void PaintSurface::BackColor(Colour value)
+{
+    device_.BackColor(value);
+    invalidate();
+}
+
+void PaintSurface::transparent(bool value)
+{
+    device_.transparent(value);
+    invalidate();
+}
+
+void PaintSurface::MaskPicture(PicturePtr value)
+{
+    mask_ = std::move(value);
+    drawn();
+}
+
+bool PaintSurface::hits(PixelPoint point) const
+{
+    const PixelSize extent = size();
+    if (!PixelRectangle{0, 0, extent.width, extent.height}.contains(point)) {
+        return false;
+    }
+    return !mask_ || !mask_->isSeeThrough(point);
+}
+
+Container& PaintSurface::children()
+{
+    if (!children_) {
+        children_ = std::make_unique<Container>(
+            ScaleUnit::Pixels, [this](ControlAspect aspect) { control_.frame().report(aspect); });
+        children_->owner(&control_);
+    }
+    return *children_;
+}
+
+std::shared_ptr<DrawBackend> PaintSurface::openBackend()
+{
+    if (!backend_ || madeFor_ != size()) {
+        remake(ratio_ > 0 ? ratio_ : visualHost().pixelRatio());
+    }
+    return backend_;
+}
+
+void PaintSurface::drawn()
+{
+    if (!painting_ && !reported_) {
+        reported_ = true;
+        control_.frame().report(ControlAspect::Picture);
+    }
+}
+
+} // namespace phial
