@@ -100,15 +100,8 @@ bool CoreFiles::WriteText(StringView pPath, StringView pText, StringView /*pChar
 
 bool CoreFiles::WriteScratch(StringView pPath, StringView pText)
 {
-    if (endsInSeparator(pPath)) {
-        return false;
-    }
-    const fs::path file = native(pPath);
-    const bool written = ignoringErrors([&] { fileSystem_->write(file, toUtf8(pText)); });
-    if (!written) {
-        ignoringErrors([&] { fileSystem_->remove(file); });
-    }
-    return written;
+    return !endsInSeparator(pPath) &&
+           ignoringErrors([&] { fileSystem_->write(native(pPath), toUtf8(pText)); });
 }
 
 void CoreFiles::Copy(StringView pFrom, StringView pTo)

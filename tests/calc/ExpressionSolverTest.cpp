@@ -1,7 +1,7 @@
 #include "calc/ExpressionSolver.h"
 
-#include "core/RandomSource.h"
 #include "core/RuntimeError.h"
+#include "headless/FixedRandom.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -11,19 +11,12 @@ namespace phial::test
 namespace
 {
 
-/// Gives 0.25, 0.5, 0.75, 0 and so on.
-class QuarterSteps : public RandomSource
+std::shared_ptr<RandomSource> quarterSteps()
 {
-public:
-    double next() override
-    {
-        last_ = last_ < 0.75 ? last_ + 0.25 : 0;
-        return last_;
-    }
-
-private:
-    double last_ = 0;
-};
+    auto random = std::make_shared<headless::FixedRandom>();
+    random->numbers({0.25, 0.5, 0.75});
+    return random;
+}
 
 Locale englishNumbers()
 {
@@ -77,14 +70,14 @@ TEST(ExpressionSolver, RaisedVariableErrorLeavesResultAlone)
 
 TEST(ExpressionSolver, RandomNumberIsScaled)
 {
-    ExpressionSolver solver(std::make_shared<QuarterSteps>());
+    ExpressionSolver solver(quarterSteps());
     EXPECT_EQ(solved(solver, u"rnd(6)"), 1.5);
     EXPECT_EQ(solved(solver, u"rnd(10)+RND(100)"), 5 + 75);
 }
 
 TEST(ExpressionSolver, FailedBracketDrawsNoFurtherRandomNumbers)
 {
-    ExpressionSolver solver(std::make_shared<QuarterSteps>());
+    ExpressionSolver solver(quarterSteps());
     EXPECT_EQ(solved(solver, u"(log(0)+rnd(1))+rnd(4)"), 1);
 }
 

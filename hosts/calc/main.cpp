@@ -1,0 +1,21 @@
+#include "calc/CalculatorLine.h"
+#include "core/Platform.h"
+
+#include <cstdio>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+int main(int argumentCount, char** arguments)
+{
+    try {
+        const std::vector<std::string> texts(arguments + 1, arguments + argumentCount);
+        const auto random = phial::withDefaults({}).random;
+        phial::calcline::CalculatorLine calculator(std::cin, std::cout, std::cerr, random);
+        return static_cast<int>(calculator.run(texts));
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "phial-calc: %s\n", error.what());
+        return static_cast<int>(phial::calcline::CalculatorLine::ExitStatus::TermFailed);
+    }
+}
