@@ -24,7 +24,7 @@ private:
     std::vector<std::shared_ptr<const FontFace>> faces_;
 };
 
-/// The specification behind a face of FixedTextMetrics.
+/// The traits behind a face of FixedTextMetrics.
 const FontSpec& fontOfFace(const FontFace& face);
 
 } // namespace phial::headless

@@ -144,7 +144,7 @@ void ctl_TermLabel::readProperties(const PropertyBag& bag)
     const Variant font = bag.ReadProperty(u"TEXTFONT");
     font_ = nullptr;
     if (!font.isEmpty()) {
-        TEXTFONT()->assign(members::fromVariant<FontPtr>(font)->spec());
+        TEXTFONT()->assign(members::fromVariant<FontPtr>(font)->traits());
     }
     REDRAW();
 }
@@ -170,7 +170,7 @@ void ctl_TermLabel::REDRAW()
     const Colour mask = maskColour();
     surface_.BackColor(mask);
     device.MaskColor(mask);
-    device.font(TEXTFONT()->spec());
+    device.font(TEXTFONT()->traits());
     device.Cls();
     device.ForeColor(textColour_);
     std::int32_t width = 0;

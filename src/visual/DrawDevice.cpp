@@ -95,7 +95,7 @@ const FontFace& DrawDevice::face()
         return *face_;
     }
     for (const auto& cached : faces_) {
-        if (cached.face && cached.spec == font_) {
+        if (cached.face && cached.traits == font_) {
             face_ = cached.face.get();
             return *face_;
         }

@@ -191,7 +191,7 @@ private:
     void changeFont(Value& field, const Value& value);
 
     struct CachedFace {
-        FontSpec spec;
+        FontSpec traits;
         std::shared_ptr<const FontFace> face;
     };
 

@@ -6,7 +6,7 @@
 namespace phial
 {
 
-Font::Font(FontSpec spec) : spec_(std::move(spec)) {}
+Font::Font(FontSpec traits) : spec_(std::move(traits)) {}
 
 template <typename Value>
 void Font::change(Value& field, Value value)
@@ -62,9 +62,9 @@ void Font::Weight(std::int32_t value)
     Bold(value >= BoldFrom);
 }
 
-void Font::assign(const FontSpec& spec)
+void Font::assign(const FontSpec& traits)
 {
-    change(spec_, spec);
+    change(spec_, traits);
 }
 
 MemberTable Font::members() const

@@ -13,7 +13,7 @@ namespace phial
 class Font final : public Object
 {
 public:
-    explicit Font(FontSpec spec = {});
+    explicit Font(FontSpec traits = {});
 
     String Name() const { return spec_.name; }
     void Name(String value);
@@ -34,9 +34,9 @@ public:
     std::int32_t Weight() const { return spec_.bold ? 700 : 400; }
     void Weight(std::int32_t value);
 
-    const FontSpec& spec() const { return spec_; }
+    const FontSpec& traits() const { return spec_; }
     /// Takes over all attributes at once; one `changed`.
-    void assign(const FontSpec& spec);
+    void assign(const FontSpec& traits);
     /// A font of its own with the same attributes.
     std::shared_ptr<Font> clone() const { return std::make_shared<Font>(spec_); }
 

@@ -64,7 +64,7 @@ void Label::fitToText()
     }
     const PixelRectangle place = frame_.pixelRectangle();
     const auto wrap = wordWrap_ ? std::optional(place.width) : std::nullopt;
-    const PixelSize text = MarkupLayout(caption_, font_->spec(), visualHost().metrics(), wrap).size();
+    const PixelSize text = MarkupLayout(caption_, font_->traits(), visualHost().metrics(), wrap).size();
     frame_.pixelRectangle(
         {place.left, place.top, wordWrap_ ? place.width : std::ceil(text.width), std::ceil(text.height)});
 }
@@ -146,7 +146,7 @@ void Label::paint()
     device.ForeColor(foreColor_);
     const PixelSize size = surface_.size();
     const auto wrap = wordWrap_ ? std::optional(size.width) : std::nullopt;
-    MarkupLayout(caption_, font_->spec(), visualHost().metrics(), wrap)
+    MarkupLayout(caption_, font_->traits(), visualHost().metrics(), wrap)
         .draw(device, {0, 0, size.width, size.height}, sideOf(alignment_), TextSide::Near);
 }
 

@@ -61,7 +61,7 @@ void RichTextBox::Text(String value)
 
 String RichTextBox::TextRTF() const
 {
-    return toRichText(text_, font_->spec());
+    return toRichText(text_, font_->traits());
 }
 
 void RichTextBox::TextRTF(StringView value)

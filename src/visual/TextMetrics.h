@@ -30,7 +30,7 @@ class TextMetrics
 public:
     virtual ~TextMetrics() = default;
 
-    /// The face for a font; the same object again for an equal specification. Never null: an unknown name
+    /// The face for a font; the same object again for equal traits. Never null: an unknown name
     /// gives a substitute.
     virtual std::shared_ptr<const FontFace> face(const FontSpec& font) = 0;
     /// Whether the name can be had without a substitute of another look.

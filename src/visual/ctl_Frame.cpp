@@ -97,7 +97,7 @@ void ctl_Frame::paint()
     DrawDevice& device = surface_.device();
     device.Cls();
     const PixelSize size = surface_.size();
-    const MarkupLayout caption(caption_, font_->spec(), visualHost().metrics());
+    const MarkupLayout caption(caption_, font_->traits(), visualHost().metrics());
     const double lineTop = caption_.empty() ? 0 : caption.size().height / 2;
     device.Line(0, lineTop, size.width - 1, size.height - 1, SystemColour::ButtonShadow, LineShape::Box);
     if (caption_.empty()) {

@@ -74,7 +74,8 @@ void ctl_Label::fitToText()
         return;
     }
     const PixelRectangle place = frame_.pixelRectangle();
-    const PixelSize text = MarkupLayout(caption_, font_->spec(), visualHost().metrics(), place.width).size();
+    const PixelSize text =
+        MarkupLayout(caption_, font_->traits(), visualHost().metrics(), place.width).size();
     frame_.pixelRectangle({place.left, place.top, place.width, std::ceil(text.height)});
 }
 
@@ -160,7 +161,7 @@ void ctl_Label::paint()
     device.Cls();
     const PixelSize size = surface_.size();
     const TextPlace place = placeOf(alignment_);
-    const MarkupLayout text(caption_, font_->spec(), visualHost().metrics(), size.width);
+    const MarkupLayout text(caption_, font_->traits(), visualHost().metrics(), size.width);
     if (raised_ && !flat_) {
         device.ForeColor(SystemColour::Window);
         text.draw(device, {-1, -1, size.width, size.height}, place.horizontal, place.vertical);

@@ -113,7 +113,7 @@ void ctl_Pannel::paint()
     if (!caption_.empty()) {
         const PixelRectangle inside{Margin, Margin, size.width - 2 * Margin, size.height - 2 * Margin};
         device.ForeColor(foreColor_);
-        MarkupLayout(caption_, font_->spec(), visualHost().metrics(), inside.width)
+        MarkupLayout(caption_, font_->traits(), visualHost().metrics(), inside.width)
             .draw(device, inside, TextSide::Middle, TextSide::Middle);
     }
     device.Line(0, 0, size.width - 1, size.height - 1, borderColor_, LineShape::Box);

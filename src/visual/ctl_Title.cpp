@@ -152,7 +152,7 @@ void ctl_Title::paint()
         device.PaintPicture(icon_, left, (size.height - edge) / 2, edge, edge);
         left += edge + Margin;
     }
-    device.font(font_->spec());
+    device.font(font_->traits());
     device.ForeColor(theme.Colour(ThemeSlot::FrameText));
     device.CurrentX(left);
     device.CurrentY((size.height - device.TextHeight(title_)) / 2);

@@ -103,14 +103,14 @@ QString FontCatalogue::family(StringView name, bool bold)
     return installed ? asked : QLatin1String(GeneralFamily);
 }
 
-QFont FontCatalogue::font(const FontSpec& spec)
+QFont FontCatalogue::font(const FontSpec& traits)
 {
-    QFont font(family(spec.name, spec.bold));
-    font.setPointSizeF(spec.size);
-    font.setBold(spec.bold);
-    font.setItalic(spec.italic);
-    font.setUnderline(spec.underline);
-    font.setStrikeOut(spec.strikethrough);
+    QFont font(family(traits.name, traits.bold));
+    font.setPointSizeF(traits.size);
+    font.setBold(traits.bold);
+    font.setItalic(traits.italic);
+    font.setUnderline(traits.underline);
+    font.setStrikeOut(traits.strikethrough);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

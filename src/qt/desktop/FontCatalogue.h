@@ -25,7 +25,7 @@ public:
     bool has(StringView name);
 
     /// A toolkit font of that look, for the toolkit's own widgets: in points, so that it follows their zoom.
-    QFont font(const FontSpec& spec);
+    QFont font(const FontSpec& traits);
 
 private:
     bool isInstalled(const QString& family);

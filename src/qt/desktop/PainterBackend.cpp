@@ -272,7 +272,7 @@ void PainterBackend::drawLine(QPainter& painter, QPointF baseLine, StringView te
             painter.drawGlyphRun(baseLine, run_);
         }
     }
-    if (face.spec().underline || face.spec().strikethrough) {
+    if (face.traits().underline || face.traits().strikethrough) {
         drawTextLines(painter, baseLine, face.width(text) * ratio_, face);
     }
 }
@@ -284,10 +284,10 @@ void PainterBackend::drawTextLines(QPainter& painter, QPointF baseLine, double w
         const QRectF box(baseLine.x(), std::round(baseLine.y() + below * ratio_), width, thickness);
         painter.fillRect(box.toRect(), painter.pen().color());
     };
-    if (face.spec().underline) {
+    if (face.traits().underline) {
         draw(face.underlinePosition());
     }
-    if (face.spec().strikethrough) {
+    if (face.traits().strikethrough) {
         draw(face.strikeOutPosition());
     }
 }

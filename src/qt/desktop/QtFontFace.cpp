@@ -39,10 +39,10 @@ int readSigned(const QByteArray& table, qsizetype place)
     return static_cast<std::int16_t>((high << 8U) | low);
 }
 
-QFont toolkitFont(const FontSpec& spec, double ratio)
+QFont toolkitFont(const FontSpec& traits, double ratio)
 {
-    QFont font = fontCatalogue().font(spec);
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(spec.pixelSize() * ratio))));
+    QFont font = fontCatalogue().font(traits);
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(traits.pixelSize() * ratio))));
     font.setUnderline(false);
     font.setStrikeOut(false);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
@@ -66,8 +66,8 @@ void layOutLine(QTextLayout& layout)
 
 } // namespace
 
-QtFontFace::QtFontFace(const FontSpec& spec)
-    : spec_(spec), font_(toolkitFont(spec, 1)), symbols_(isSymbolFont(spec.name))
+QtFontFace::QtFontFace(const FontSpec& traits)
+    : spec_(traits), font_(toolkitFont(traits, 1)), symbols_(isSymbolFont(traits.name))
 {
     fonts_.push_back(sized(QRawFont::fromFont(font_), spec_.pixelSize()));
     readMetrics();

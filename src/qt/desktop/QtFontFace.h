@@ -31,13 +31,13 @@ struct GlyphPiece {
 class QtFontFace final : public FontFace
 {
 public:
-    explicit QtFontFace(const FontSpec& spec);
+    explicit QtFontFace(const FontSpec& traits);
 
     double width(StringView text) const override;
     double height() const override { return ascent_ + descent_; }
     double ascent() const override { return ascent_; }
 
-    const FontSpec& spec() const { return spec_; }
+    const FontSpec& traits() const { return spec_; }
 
     /// Whether the text's glyphs depend on their neighbours; `pieces` is not for such a text but `layOut`.
     static bool needsShaping(StringView text);

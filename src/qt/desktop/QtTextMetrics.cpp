@@ -10,7 +10,7 @@ namespace phial::qt
 std::shared_ptr<const FontFace> QtTextMetrics::face(const FontSpec& font)
 {
     const auto known =
-        std::find_if(faces_.begin(), faces_.end(), [&](const auto& face) { return face->spec() == font; });
+        std::find_if(faces_.begin(), faces_.end(), [&](const auto& face) { return face->traits() == font; });
     if (known != faces_.end()) {
         faces_.splice(faces_.begin(), faces_, known);
         return faces_.front();
