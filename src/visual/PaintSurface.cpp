@@ -37,6 +37,7 @@ void PaintSurface::paintControl()
         throw;
     }
     painting_ = false;
+    painted_ = true; // whatever a setter within the painting has asked for is done
 }
 
 void PaintSurface::remake(double pixelRatio)
@@ -59,6 +60,7 @@ void PaintSurface::remake(double pixelRatio)
 void PaintSurface::invalidate()
 {
     painted_ = false;
+    device_.detach(); // asks openBackend again, which lays the background first where it is kept
     drawn();
 }
 
@@ -74,14 +76,18 @@ void PaintSurface::resized()
 
 void PaintSurface::BackColor(Colour value)
 {
-    device_.BackColor(value);
-    invalidate();
+    if (device_.BackColor() != value) {
+        device_.BackColor(value);
+        invalidate();
+    }
 }
 
 void PaintSurface::transparent(bool value)
 {
-    device_.transparent(value);
-    invalidate();
+    if (device_.transparent() != value) {
+        device_.transparent(value);
+        invalidate();
+    }
 }
 
 void PaintSurface::MaskPicture(PicturePtr value)
@@ -113,6 +119,9 @@ std::shared_ptr<DrawBackend> PaintSurface::openBackend()
 {
     if (!backend_ || madeFor_ != size()) {
         remake(ratio_ > 0 ? ratio_ : visualHost().pixelRatio());
+    }
+    if (retains_ && !painted_ && !painting_) {
+        paintControl();
     }
     return backend_;
 }

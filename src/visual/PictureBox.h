@@ -19,7 +19,7 @@ public:
     void ScaleMode(ScaleUnit value);
     /// True: what is drawn stays, and Paint is not raised. False: Paint is raised whenever the image is made.
     bool AutoRedraw() const { return autoRedraw_; }
-    void AutoRedraw(bool value) { autoRedraw_ = value; }
+    void AutoRedraw(bool value);
     Colour BackColor() const { return surface_.BackColor(); }
     /// Clears what was drawn.
     void BackColor(Colour value);
@@ -40,7 +40,7 @@ public:
     PicturePtr MaskPicture() const { return surface_.MaskPicture(); }
     /// Clears what was drawn, down to BackColor and Picture.
     void Cls();
-    /// Raises Paint (AutoRedraw off) after clearing.
+    /// AutoRedraw off: Paint is raised anew, on a clear field.
     void Refresh();
 
     Event<> Click;
@@ -80,7 +80,7 @@ public:
     void textDropped(const String& text) override { TextDropped.emit(text); }
 
 private:
-    void clear();
+    void layBackground();
     void fitToPicture();
 
     ControlFrame frame_;

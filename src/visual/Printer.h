@@ -12,7 +12,7 @@ class Printer final : private DrawTarget
 public:
     Printer();
 
-    /// The page; its unit is twips at first. NewPage and EndDoc are its.
+    /// The page; its unit is twips at first.
     DrawDevice& device() { return device_; }
     PageOrientation Orientation() const { return orientation_; }
     /// Before anything is drawn; later raises 396.
@@ -20,7 +20,9 @@ public:
     /// The job's name.
     String Title() const { return title_; }
     void Title(String value) { title_ = std::move(value); }
-    /// Ends the document; the next drawing begins another one.
+    /// Ends the page and begins the next.
+    void NewPage() { device_.NewPage(); }
+    /// Ends the document; the next drawing begins another one. Nothing happens when none is begun.
     void EndDoc();
 
 private:

@@ -1,0 +1,277 @@
+#include "visual/Markup.h"
+
+#include <algorithm>
+#include <array>
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr double SmallSize = 0.75;   // of raised and lowered text, by the font's size
+constexpr double LoweredShare = 0.3; // of the line's height, from the line's top
+
+enum class Tag : std::int32_t { LineEnd, Bold, Italic, Lowered, Raised };
+
+struct TagName {
+    StringView name;
+    Tag tag;
+};
+
+constexpr auto TagNames = std::to_array<TagName>({
+    {u"br", Tag::LineEnd},
+    {u"br/", Tag::LineEnd},
+    {u"b", Tag::Bold},
+    {u"i", Tag::Italic},
+    {u"sub", Tag::Lowered},
+    {u"sup", Tag::Raised},
+});
+
+/// Reads markup into runs: a run goes on as long as its look does.
+class MarkupReader
+{
+public:
+    explicit MarkupReader(StringView text) : rest_(text) {}
+
+    std::vector<MarkupRun> read()
+    {
+        while (!rest_.empty()) {
+            readOne();
+        }
+        endRun(false);
+        return std::move(runs_);
+    }
+
+private:
+    void readOne()
+    {
+        const char16_t unit = rest_.front();
+        if (unit == u'<' && readTag()) {
+            return;
+        }
+        rest_.remove_prefix(1);
+        if (unit == u'\r' || unit == u'\n') {
+            if (unit == u'\r' && rest_.starts_with(u'\n')) {
+                rest_.remove_prefix(1);
+            }
+            endRun(true);
+        } else {
+            text_ += unit;
+        }
+    }
+
+    /// False: what follows is no tag.
+    bool readTag()
+    {
+        constexpr std::size_t LongestTag = 6; // "</sub>"
+        const auto end = rest_.substr(0, LongestTag).find(u'>');
+        if (end == StringView::npos) {
+            return false;
+        }
+        StringView name = rest_.substr(1, end - 1);
+        const bool closing = name.starts_with(u'/');
+        name.remove_prefix(closing ? 1 : 0);
+        const auto known = std::ranges::find_if(
+            TagNames, [name](const TagName& entry) { return equalsIgnoringCase(entry.name, name); });
+        if (known == TagNames.end()) {
+            return false;
+        }
+        rest_.remove_prefix(end + 1);
+        if (known->tag == Tag::LineEnd) {
+            endRun(true);
+        } else {
+            endRun(false);
+            closing ? close(known->tag) : open_.push_back(known->tag);
+        }
+        return true;
+    }
+
+    void close(Tag tag)
+    {
+        const auto last = std::ranges::find(open_.rbegin(), open_.rend(), tag);
+        if (last != open_.rend()) {
+            open_.erase(std::next(last).base());
+        }
+    }
+
+    void endRun(bool lineEnd)
+    {
+        if (text_.empty() && !lineEnd) {
+            return;
+        }
+        MarkupRun run{std::exchange(text_, {}), false, false, 0, lineEnd};
+        for (const Tag tag : open_) {
+            run.bold = run.bold || tag == Tag::Bold;
+            run.italic = run.italic || tag == Tag::Italic;
+            run.level = tag == Tag::Lowered ? -1 : tag == Tag::Raised ? 1 : run.level;
+        }
+        runs_.push_back(std::move(run));
+    }
+
+    StringView rest_;
+    std::vector<Tag> open_;
+    String text_;
+    std::vector<MarkupRun> runs_;
+};
+
+FontSpec fontOf(const MarkupRun& run, const FontSpec& base)
+{
+    FontSpec font = base;
+    font.bold = font.bold || run.bold;
+    font.italic = font.italic || run.italic;
+    font.size = run.level == 0 ? font.size : font.size * SmallSize;
+    return font;
+}
+
+} // namespace
+
+std::vector<MarkupRun> parseMarkup(StringView text)
+{
+    return MarkupReader(text).read();
+}
+
+String plainMarkup(StringView text)
+{
+    String plain;
+    for (const MarkupRun& run : parseMarkup(text)) {
+        plain += run.text;
+        if (run.lineEnd) {
+            plain += u'\n';
+        }
+    }
+    return plain;
+}
+
+/// Sets runs in lines, word by word. A word is what stands between blanks, whatever its looks, and carries
+/// the blanks behind it.
+class MarkupLayout::Setter
+{
+public:
+    Setter(MarkupLayout& layout, TextMetrics& metrics, std::optional<double> wrapWidth)
+        : layout_(layout), metrics_(metrics), wrapWidth_(wrapWidth)
+    {
+    }
+
+    void add(const MarkupRun& run)
+    {
+        look_ = {{}, fontOf(run, layout_.font_), 0, 0, 0};
+        look_.y = run.level < 0 ? layout_.lineHeight_ * LoweredShare : 0;
+        face_ = metrics_.face(look_.font);
+        for (StringView rest = run.text; !rest.empty();) {
+            const bool blank = rest.front() == u' ';
+            const auto end = blank ? rest.find_first_not_of(u' ') : rest.find(u' ');
+            addChunk(rest.substr(0, end), blank);
+            rest.remove_prefix(std::min(end, rest.size()));
+        }
+        if (run.lineEnd) {
+            endLine();
+        }
+    }
+
+    void finish()
+    {
+        endLine();
+        for (const Line& line : layout_.lines_) {
+            layout_.size_.width = std::max(layout_.size_.width, line.width);
+        }
+        layout_.size_.height = layout_.lineHeight_ * static_cast<double>(layout_.lines_.size());
+    }
+
+private:
+    void addChunk(StringView text, bool blank)
+    {
+        if (!blank && blankWidth_ > 0) {
+            placeWord();
+        }
+        Piece piece = look_;
+        piece.text = text;
+        piece.width = face_->width(text);
+        (blank ? blankWidth_ : wordWidth_) += piece.width;
+        word_.push_back(std::move(piece));
+    }
+
+    void placeWord()
+    {
+        if (wrapWidth_ && !line_.pieces.empty() && end_ + wordWidth_ > *wrapWidth_) {
+            breakLine();
+        }
+        for (Piece& piece : word_) {
+            piece.x = end_;
+            end_ += piece.width;
+            append(std::move(piece));
+        }
+        line_.width = end_ - blankWidth_;
+        word_.clear();
+        wordWidth_ = blankWidth_ = 0;
+    }
+
+    void append(Piece piece)
+    {
+        if (!line_.pieces.empty()) {
+            Piece& last = line_.pieces.back();
+            if (last.font == piece.font && last.y == piece.y) {
+                last.text += piece.text;
+                last.width += piece.width;
+                return;
+            }
+        }
+        line_.pieces.push_back(std::move(piece));
+    }
+
+    void endLine()
+    {
+        placeWord();
+        breakLine();
+    }
+
+    void breakLine()
+    {
+        layout_.lines_.push_back(std::exchange(line_, {}));
+        end_ = 0;
+    }
+
+    MarkupLayout& layout_;
+    TextMetrics& metrics_;
+    std::optional<double> wrapWidth_;
+    Piece look_; ///< of the run at hand
+    std::shared_ptr<const FontFace> face_;
+    std::vector<Piece> word_;
+    double wordWidth_ = 0;
+    double blankWidth_ = 0; ///< of the blanks behind the word
+    Line line_;
+    double end_ = 0;
+};
+
+MarkupLayout::MarkupLayout(StringView text, const FontSpec& font, TextMetrics& metrics,
+                           std::optional<double> wrapWidth)
+    : font_(font), lineHeight_(metrics.face(font)->height())
+{
+    Setter setter(*this, metrics, wrapWidth);
+    for (const MarkupRun& run : parseMarkup(text)) {
+        setter.add(run);
+    }
+    setter.finish();
+}
+
+void MarkupLayout::draw(DrawDevice& device, const PixelRectangle& box, TextSide horizontal,
+                        TextSide vertical) const
+{
+    const auto offset = [](double room, TextSide side) {
+        return side == TextSide::Near ? 0 : side == TextSide::Middle ? room / 2 : room;
+    };
+    double top = box.top + offset(box.height - size_.height, vertical);
+    for (const Line& line : lines_) {
+        const double left = box.left + offset(box.width - line.width, horizontal);
+        for (const Piece& piece : line.pieces) {
+            device.font(piece.font);
+            device.CurrentX(left + piece.x);
+            device.CurrentY(top + piece.y);
+            device.Print(piece.text);
+        }
+        top += lineHeight_;
+    }
+    device.font(font_);
+}
+
+} // namespace phial
