@@ -100,8 +100,15 @@ bool CoreFiles::WriteText(StringView pPath, StringView pText, StringView /*pChar
 
 bool CoreFiles::WriteScratch(StringView pPath, StringView pText)
 {
-    return !endsInSeparator(pPath) &&
-           ignoringErrors([&] { fileSystem_->write(native(pPath), toUtf8(pText)); });
+    if (endsInSeparator(pPath)) {
+        return false;
+    }
+    const fs::path file = native(pPath);
+    const bool written = ignoringErrors([&] { fileSystem_->write(file, toUtf8(pText)); });
+    if (!written) {
+        ignoringErrors([&] { fileSystem_->remove(file); });
+    }
+    return written;
 }
 
 void CoreFiles::Copy(StringView pFrom, StringView pTo)

@@ -52,7 +52,7 @@ public:
     bool WriteText(StringView pPath, StringView pText, StringView pCharset = {}, bool pMark = false);
 
     /// Writes a text to a file at once and in place, without bringing it to the disk: for what need not
-    /// outlive the next moment, such as a probe. Gives whether it was written.
+    /// outlive the next moment, such as a probe. Gives whether it was written; if not, no part of it stays.
     bool WriteScratch(StringView pPath, StringView pText);
 
     /// Copies a file, replacing the target as `WriteText` does. Raises 53 or 75.

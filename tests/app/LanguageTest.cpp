@@ -1,0 +1,122 @@
+#include "app/AppTest.h"
+#include "app/cls_Language.h"
+#include "core/Locale.h"
+
+namespace phial
+{
+
+namespace
+{
+
+class Language : public AppTest
+{
+};
+
+TEST_F(Language, FollowsTheSystemWhenNothingIsStored)
+{
+    variable(u"LANG", u"de_AT.UTF-8");
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_German);
+    variable(u"LANG", u"fr_FR.UTF-8");
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English);
+    EXPECT_EQ(cls_Language().CURRENT(), ID_Language_System);
+}
+
+TEST_F(Language, AsksTheVariablesInTheirOrder)
+{
+    variable(u"LANG", u"en_GB.UTF-8");
+    variable(u"LC_MESSAGES", u"de");
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_German);
+    variable(u"LC_ALL", u"C");
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English);
+}
+
+TEST_F(Language, TakesNoOtherLanguageThatBeginsAlikeForGerman)
+{
+    variable(u"LANG", u"den_CA");
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English);
+}
+
+TEST_F(Language, ReadsTheStoredChoice)
+{
+    prepareUserSetting(u"Language", u"DE");
+    EXPECT_EQ(cls_Language().CURRENT(), ID_Language_German);
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_German);
+    prepareUserSetting(u"Language", u"EN");
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English);
+}
+
+TEST_F(Language, SpeaksEnglishWithoutDetectionForAnUnknownStoredChoice)
+{
+    variable(u"LANG", u"de_DE");
+    prepareUserSetting(u"Language", u"FR");
+    const cls_Language language;
+    EXPECT_EQ(language.CURRENT(), ID_Language_System);
+    EXPECT_EQ(language.EFFECTIVE(), ID_Language_System);
+    EXPECT_EQ(language.TRANSLATE(u"Hallo", u"Hello"), u"Hello");
+    EXPECT_EQ(userSetting(u"Language"), Variant(u""));
+}
+
+TEST_F(Language, StoresAChoiceAndTellsTheCore)
+{
+    cls_Language language;
+    language.CURRENT(ID_Language_German);
+    EXPECT_EQ(userSetting(u"Language"), Variant(u"DE"));
+    EXPECT_EQ(currentLocale().language, LanguageGerman);
+    language.CURRENT(ID_Language_English);
+    EXPECT_EQ(userSetting(u"Language"), Variant(u"EN"));
+    EXPECT_EQ(currentLocale().language, LanguageEnglish);
+    variable(u"LANG", u"de_DE");
+    language.CURRENT(ID_Language_System);
+    EXPECT_EQ(userSetting(u"Language"), Variant(u""));
+    EXPECT_EQ(language.EFFECTIVE(), ID_Language_German);
+}
+
+TEST_F(Language, ReplacesNumberedPlaceholdersOnTheRunningText)
+{
+    cls_Language language;
+    language.CURRENT(ID_Language_German);
+    EXPECT_EQ(language.TRANSLATE(u"{1} von {2}", u"{1} of {2}", {3, 10}), u"3 von 10");
+    EXPECT_EQ(language.TRANSLATE(u"{1}", u"", {u"<{2}>", u"x"}), u"<x>");
+    EXPECT_EQ(language.TRANSLATE(u"{1}{1}", u"", {u"a"}), u"aa");
+}
+
+TEST_F(Language, KeepsPlaceholdersWithoutValues)
+{
+    cls_Language language;
+    language.CURRENT(ID_Language_English);
+    EXPECT_EQ(language.TRANSLATE(u"{1} Punkte", u"{1} points"), u"{1} points");
+}
+
+TEST_F(Language, TakesItsPartOfADividedText)
+{
+    cls_Language language;
+    language.CURRENT(ID_Language_German);
+    EXPECT_EQ(language.TRANSLATEAUTO(u"Hallo|Hello"), u"Hallo");
+    EXPECT_EQ(language.TRANSLATEAUTO(u"Hallo"), u"Hallo");
+    language.CURRENT(ID_Language_English);
+    EXPECT_EQ(language.TRANSLATEAUTO(u"Hallo|Hello|Salut"), u"Hello|Salut");
+}
+
+TEST_F(Language, GivesTheDatePatternsOfTheLanguage)
+{
+    cls_Language language;
+    language.CURRENT(ID_Language_German);
+    EXPECT_EQ(language.DATEFORMAT(), u"dd.mm.yyyy");
+    EXPECT_EQ(language.DATETIMEFORMAT(), u"dd.mm.yyyy HH:MM");
+    language.CURRENT(ID_Language_English);
+    EXPECT_EQ(language.DATEFORMAT(), u"dd-mm-yyyy");
+    EXPECT_EQ(language.DATETIMEFORMAT(), u"dd-mm-yyyy HH:MM");
+}
+
+TEST_F(Language, MarksAFileName)
+{
+    cls_Language language;
+    language.CURRENT(ID_Language_German);
+    EXPECT_EQ(language.FILEADD(u"sfx\\a.wav"), u"sfx\\a-de.wav");
+    language.CURRENT(ID_Language_English);
+    EXPECT_EQ(language.FILEADD(u"sfx\\a.wav"), u"sfx\\a-en.wav");
+}
+
+} // namespace
+
+} // namespace phial

@@ -1,0 +1,101 @@
+#include "app/AppTest.h"
+#include "app/InstallationTree.h"
+#include "app/cls_Language.h"
+
+namespace phial
+{
+
+namespace
+{
+
+class SessionLife : public AppTest
+{
+protected:
+    /// Ends the fixture's session and opens one for a program in that folder.
+    void openFor(StringView programFolder)
+    {
+        session.reset();
+        session.emplace(outside.platform(), programFolder);
+    }
+};
+
+TEST_F(SessionLife, RaisesWhenNoneIsOpen)
+{
+    session.reset();
+    EXPECT_THROW(QVAPP(), RuntimeError);
+    EXPECT_THROW(LNG(), RuntimeError);
+    EXPECT_THROW(Session::current(), RuntimeError);
+}
+
+TEST_F(SessionLife, AllowsOneAtATime)
+{
+    EXPECT_THROW(Session(outside.platform()), RuntimeError);
+    EXPECT_EQ(&Session::current(), &*session);
+}
+
+TEST_F(SessionLife, StartsAfresh)
+{
+    ident(u"Molmasse");
+    const auto language = LNG();
+    session.reset();
+    session.emplace(outside.platform());
+    EXPECT_EQ(QVAPP()->CONFIG()->IDENT(), u"");
+    EXPECT_NE(LNG(), language);
+}
+
+TEST_F(SessionLife, MakesASharedFormOnceAndOnlyWhenAsked)
+{
+    struct HiddenForm {
+    };
+    EXPECT_EQ(session->existingSharedForm<HiddenForm>(), nullptr);
+    const auto form = session->sharedForm<HiddenForm>();
+    EXPECT_EQ(session->sharedForm<HiddenForm>(), form);
+    EXPECT_EQ(session->existingSharedForm<HiddenForm>(), form);
+}
+
+TEST_F(SessionLife, BeginsInTheFolderOfTheProcessWithoutATree)
+{
+    const String before = currentFolder();
+    openFor(makeFolder(u"bin\\"));
+    EXPECT_EQ(currentFolder(), before);
+}
+
+TEST_F(SessionLife, BeginsInTheTreeOfABuildFolder)
+{
+    const String tree = makeTree(u"build\\tree\\");
+    openFor(makeFolder(u"build\\bin\\"));
+    EXPECT_EQ(currentFolder(), tree);
+}
+
+TEST_F(SessionLife, BeginsInTheTreeOfAnInstalledPrefix)
+{
+    const String tree = makeTree(u"usr\\share\\phial\\");
+    openFor(makeFolder(u"usr\\bin\\"));
+    EXPECT_EQ(currentFolder(), tree);
+}
+
+TEST_F(SessionLife, BeginsInTheProgramsOwnFolderWhenThatIsATree)
+{
+    const String tree = makeTree(u"program\\");
+    openFor(tree);
+    EXPECT_EQ(currentFolder(), tree);
+}
+
+TEST_F(SessionLife, LetsTheFolderSearchFindTheTreeNearTheProgram)
+{
+    const String tree = makeTree(u"usr\\share\\phial\\");
+    openFor(makeFolder(u"usr\\bin\\"));
+    QVAPP()->INIT(u"");
+    EXPECT_EQ(QVAPP()->URL()->ROOT(), tree);
+}
+
+TEST_F(SessionLife, LeavesTheFolderOfTheProcessAlone)
+{
+    const auto before = std::filesystem::current_path();
+    start();
+    EXPECT_EQ(std::filesystem::current_path(), before);
+}
+
+} // namespace
+
+} // namespace phial
