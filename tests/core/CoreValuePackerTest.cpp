@@ -339,6 +339,12 @@ TEST(CoreValuePackerTest, ARecordFillsTheRecordInItsTarget)
     EXPECT_EQ(score->name(), u"Anna|Ben");
 }
 
+TEST(CoreValuePackerTest, ARecordIsItsClassAndItsText)
+{
+    EXPECT_EQ(CoreValuePacker::Pack({ObjectPtr(std::make_shared<Score>(u"Anna"))}),
+              u"QV1;1;R36=2;T10=Test.Score;T14=QV1;1;T4=Anna;;;");
+}
+
 TEST(CoreValuePackerTest, ARecordNeedsATargetOfItsClass)
 {
     const String packed = CoreValuePacker::Pack({u"before", ObjectPtr(std::make_shared<Score>(u"Anna"))});
