@@ -27,7 +27,7 @@ namespace fs = std::filesystem;
 
 [[noreturn]] void raiseFor(const std::error_code& error, StringView what, const fs::path& path)
 {
-    if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory) {
+    if (error == std::errc::no_such_file_or_directory) {
         throw RuntimeError(ErrorNumber::FileNotFound, String(what) + u": " + systemPath(path));
     }
     raiseAccess(what, path);
@@ -81,7 +81,10 @@ void NativeFileSystem::write(const fs::path& file, std::string_view bytes)
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     stream.close();
     if (!stream) {
-        raiseAccess(u"cannot write", file);
+        std::error_code error;
+        const bool hasFolder = fs::is_directory(file.parent_path(), error);
+        raiseFor(hasFolder ? error : make_error_code(std::errc::no_such_file_or_directory), u"cannot write",
+                 file);
     }
 }
 

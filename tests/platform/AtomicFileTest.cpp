@@ -2,8 +2,8 @@
 
 #include "core/NativePath.h"
 #include "core/Process.h"
-#include "core/RuntimeError.h"
 #include "headless/FaultyFileSystem.h"
+#include "support/Raises.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -53,7 +53,7 @@ TEST_F(AtomicFile, AFailedWriteTakesItsTemporaryFileAway)
 {
     folder.write("list.dat", "old");
     files.freeBytes(2);
-    EXPECT_THROW(replaceFile(files, target, "longer than that"), RuntimeError);
+    EXPECT_RAISES(replaceFile(files, target, "longer than that"), FileAccess);
     EXPECT_THAT(folder.names(), ElementsAre("list.dat"));
     EXPECT_EQ(folder.read("list.dat"), "old");
 }
@@ -62,7 +62,7 @@ TEST_F(AtomicFile, AFailedRenameKeepsTheOldFile)
 {
     folder.write("list.dat", "old");
     files.fail(FileStep::Rename);
-    EXPECT_THROW(replaceFile(files, target, "new"), RuntimeError);
+    EXPECT_RAISES(replaceFile(files, target, "new"), FileAccess);
     EXPECT_THAT(folder.names(), ElementsAre("list.dat"));
     EXPECT_EQ(folder.read("list.dat"), "old");
 }
@@ -91,8 +91,8 @@ TEST_F(AtomicFile, ALinkIsFollowedAndStays)
 
 TEST_F(AtomicFile, AFileWithoutAPlaceRaises)
 {
-    EXPECT_THROW(replaceFile(files, {}, "new"), RuntimeError);
-    EXPECT_THROW(replaceFile(files, folder.native() / "missing/list.dat", "new"), RuntimeError);
+    EXPECT_RAISES(replaceFile(files, {}, "new"), FileNotFound);
+    EXPECT_RAISES(replaceFile(files, folder.native() / "missing/list.dat", "new"), FileNotFound);
 }
 
 TEST_F(AtomicFile, DamagedFilesAreKeptUnderFreeNames)

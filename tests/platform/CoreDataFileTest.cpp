@@ -1,7 +1,7 @@
 #include "core/CoreDataFile.h"
 
-#include "core/RuntimeError.h"
 #include "support/HeadlessSession.h"
+#include "support/Raises.h"
 
 #include <gmock/gmock.h>
 
@@ -54,14 +54,14 @@ TEST_F(CoreDataFileTest, ReadingBehindTheLastLineRaises)
     CoreDataFile file;
     file.Open(folder.path() + u"a.txt", DataFileMode::Read);
     file.ReadLine();
-    EXPECT_THROW(file.ReadLine(), RuntimeError);
+    EXPECT_RAISES(file.ReadLine(), InputPastEnd);
 }
 
 TEST_F(CoreDataFileTest, AMissingFileRaisesOnOpening)
 {
     CoreDataFile file;
-    EXPECT_THROW(file.Open(folder.path() + u"missing.txt", DataFileMode::Read), RuntimeError);
-    EXPECT_THROW(file.AtEnd(), RuntimeError);
+    EXPECT_RAISES(file.Open(folder.path() + u"missing.txt", DataFileMode::Read), FileNotFound);
+    EXPECT_RAISES(file.AtEnd(), InvalidArgument);
 }
 
 TEST_F(CoreDataFileTest, TextReplacesTheFileWhenItIsClosed)
@@ -108,7 +108,7 @@ TEST_F(CoreDataFileTest, ValuesComeBackInOrderWithTheirTypes)
     EXPECT_TRUE(flag);
     EXPECT_EQ(points, 1.5);
     EXPECT_EQ(file.ReadValue(), Variant(Moment{45000.25}));
-    EXPECT_THROW(file.ReadValue(), RuntimeError);
+    EXPECT_RAISES(file.ReadValue(), InputPastEnd);
 }
 
 TEST_F(CoreDataFileTest, TheFirstCallDecidesBetweenTextAndValues)
@@ -116,8 +116,8 @@ TEST_F(CoreDataFileTest, TheFirstCallDecidesBetweenTextAndValues)
     CoreDataFile file;
     file.Open(folder.path() + u"a.txt", DataFileMode::Write);
     file.WriteText(u"text");
-    EXPECT_THROW(file.Write(u"value"), RuntimeError);
-    EXPECT_THROW(file.ReadLine(), RuntimeError);
+    EXPECT_RAISES(file.Write(u"value"), InvalidArgument);
+    EXPECT_RAISES(file.ReadLine(), InvalidArgument);
 }
 
 TEST(CoreDataFile, ValuesNeedAFormat)
@@ -126,7 +126,7 @@ TEST(CoreDataFile, ValuesNeedAFormat)
     const SessionState session{Platform()};
     CoreDataFile file;
     file.Open(folder.path() + u"a.rec", DataFileMode::Write);
-    EXPECT_THROW(file.Write(u"2.0"), RuntimeError);
+    EXPECT_RAISES(file.Write(u"2.0"), InvalidArgument);
 }
 
 } // namespace

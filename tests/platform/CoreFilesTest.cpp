@@ -2,9 +2,9 @@
 
 #include "core/CoreStringList.h"
 #include "core/FolderListing.h"
-#include "core/RuntimeError.h"
 #include "support/HeadlessSession.h"
 #include "support/LimitedDisk.h"
+#include "support/Raises.h"
 #include "support/Texts.h"
 
 #include <chrono>
@@ -70,8 +70,8 @@ TEST_F(CoreFilesTest, AFolderThatDiffersInCaseIsNotMadeTwice)
 TEST_F(CoreFilesTest, AFolderThatCannotBeMadeRaises)
 {
     folder.write("file", "x");
-    EXPECT_THROW(files.CreateFolder(path + u"file\\below"), RuntimeError);
-    EXPECT_THROW(files.CreateFolder(u"E:\\Data"), RuntimeError);
+    EXPECT_RAISES(files.CreateFolder(path + u"file\\below"), FileAccess);
+    EXPECT_RAISES(files.CreateFolder(u"E:\\Data"), FileAccess);
 }
 
 TEST_F(CoreFilesTest, TextComesBackAsWritten)
@@ -92,12 +92,8 @@ TEST_F(CoreFilesTest, TheMarkIsWrittenOnDemandAndNotReadBack)
 
 TEST_F(CoreFilesTest, AMissingFileRaisesFileNotFound)
 {
-    try {
-        files.ReadText(path + u"missing.txt");
-        FAIL() << "nothing was raised";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.Number(), 53);
-    }
+    EXPECT_RAISES(files.ReadText(path + u"missing.txt"), FileNotFound);
+    EXPECT_RAISES(files.ReadText(path), FileNotFound);
 }
 
 TEST_F(CoreFilesTest, WritingWhereNothingIsAnswersFalse)
@@ -129,7 +125,7 @@ TEST_F(CoreFilesTest, AReadOnlyFolderRefusesEveryChange)
     }
     EXPECT_FALSE(files.WriteText(path + u"a.txt", u"new"));
     EXPECT_FALSE(files.Delete(path + u"a.txt"));
-    EXPECT_THROW(files.CreateFolder(path + u"below"), RuntimeError);
+    EXPECT_RAISES(files.CreateFolder(path + u"below"), FileAccess);
     EXPECT_EQ(files.ReadText(path + u"a.txt"), u"old");
     EXPECT_THAT(folder.names(), ElementsAre("a.txt"));
 }
@@ -159,12 +155,12 @@ TEST_F(CoreFilesTest, CopyReplacesTheTargetInOneStep)
     folder.write("a.txt", "new");
     folder.write("b.txt", "old");
     outside.files().fail(FileStep::Rename);
-    EXPECT_THROW(files.Copy(path + u"a.txt", path + u"b.txt"), RuntimeError);
+    EXPECT_RAISES(files.Copy(path + u"a.txt", path + u"b.txt"), FileAccess);
     EXPECT_EQ(folder.read("b.txt"), "old");
     outside.files().repair();
     files.Copy(path + u"a.txt", path + u"b.txt");
     EXPECT_EQ(folder.read("b.txt"), "new");
-    EXPECT_THROW(files.Copy(path + u"missing.txt", path + u"b.txt"), RuntimeError);
+    EXPECT_RAISES(files.Copy(path + u"missing.txt", path + u"b.txt"), FileNotFound);
 }
 
 TEST_F(CoreFilesTest, TheStampDiffersAfterAChange)

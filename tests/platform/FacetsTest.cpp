@@ -4,8 +4,8 @@
 #include "core/CoreRuntimeOptions.h"
 #include "core/CoreSoundFacet.h"
 #include "core/CoreSystem.h"
-#include "core/RuntimeError.h"
 #include "support/HeadlessSession.h"
+#include "support/Raises.h"
 
 #include <gmock/gmock.h>
 
@@ -96,7 +96,7 @@ TEST_F(Facets, TheThemeHoldsColoursAndTheirTexts)
 TEST_F(Facets, ATextThatIsNoColourRaises)
 {
     for (const StringView text : {u"", u"38FF38", u"#38FF3", u"#38FF3G", u"#38FF380"}) {
-        EXPECT_THROW(coreTheme().SetColour(ThemeSlot::Frame, text), RuntimeError);
+        EXPECT_RAISES(coreTheme().SetColour(ThemeSlot::Frame, text), InvalidArgument);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "core/SessionState.h"
 #include "headless/HeadlessPlatform.h"
 #include "support/HeadlessSession.h"
+#include "support/Raises.h"
 
 #include <gmock/gmock.h>
 
@@ -51,7 +52,7 @@ TEST_F(ScriptedDialogsTest, ABoxExpectedInVainFails)
 TEST(ScriptedDialogs, WithoutAHandlerFailuresAreRaised)
 {
     ScriptedDialogs dialogs;
-    EXPECT_THROW(dialogs.Done(u"x"), RuntimeError);
+    EXPECT_RAISES(dialogs.Done(u"x"), InvalidArgument);
 }
 
 TEST(HeadlessPlatform, AHandlersErrorIsReportedAndTheLoopGoesOn)
@@ -76,8 +77,8 @@ TEST(FixedRandom, RepeatsItsNumbers)
     EXPECT_EQ(random.next(), 0);
     EXPECT_EQ(random.next(), 0.25);
     EXPECT_EQ(random.next(), 0);
-    EXPECT_THROW(random.numbers({1.0}), RuntimeError);
-    EXPECT_THROW(random.numbers({}), RuntimeError);
+    EXPECT_RAISES(random.numbers({1.0}), InvalidArgument);
+    EXPECT_RAISES(random.numbers({}), InvalidArgument);
 }
 
 class ScriptedNetClientTest : public test::HeadlessSession
@@ -111,7 +112,7 @@ TEST_F(ScriptedNetClientTest, ATakenPortRaises)
 {
     client->OpenPort(10051);
     outside.network().refusePorts(true);
-    EXPECT_THROW(client->OpenPort(10052), RuntimeError);
+    EXPECT_RAISES(client->OpenPort(10052), InvalidArgument);
     EXPECT_THAT(outside.network().openedPorts(), ElementsAre(10051));
 }
 
@@ -145,8 +146,8 @@ TEST_F(FakeFormsTest, AFormIsLoadedFilledAndPrinted)
     EXPECT_TRUE(document->Print(1));
     ASSERT_THAT(outside.forms().printed(), SizeIs(1));
     EXPECT_THAT(outside.forms().printed().front().texts, ElementsAre(u"Ada", u"{DATUM}"));
-    EXPECT_THROW(document->Fields(1).Item(3), RuntimeError);
-    EXPECT_THROW(document->Fields(2), RuntimeError);
+    EXPECT_RAISES(document->Fields(1).Item(3), IndexOutOfBounds);
+    EXPECT_RAISES(document->Fields(2), IndexOutOfBounds);
 }
 
 TEST_F(FakeFormsTest, ACancelledPrintPrintsNothing)

@@ -1,8 +1,8 @@
 #include "core/NativePath.h"
 
 #include "core/CurrentFolder.h"
-#include "core/RuntimeError.h"
 #include "support/HeadlessSession.h"
+#include "support/Raises.h"
 
 namespace phial
 {
@@ -81,7 +81,7 @@ TEST(NativePath, TheWayBackWritesBackslashes)
 
 TEST(NativePath, WithoutASessionTheCurrentFolderIsUnknown)
 {
-    EXPECT_THROW(nativePath(u"a.txt"), RuntimeError);
+    EXPECT_RAISES(nativePath(u"a.txt"), ObjectNotSet);
 }
 
 using CurrentFolderTest = test::HeadlessSession;
@@ -113,8 +113,8 @@ TEST_F(CurrentFolderTest, ChangesAgainstThePresentFolderAndTakesTheRealCase)
 TEST_F(CurrentFolderTest, StaysWhenTheFolderIsMissing)
 {
     const String before = session.currentFolder().path();
-    EXPECT_THROW(session.currentFolder().change(folder.path() + u"missing"), RuntimeError);
-    EXPECT_THROW(session.currentFolder().change(u""), RuntimeError);
+    EXPECT_RAISES(session.currentFolder().change(folder.path() + u"missing"), FileNotFound);
+    EXPECT_RAISES(session.currentFolder().change(u""), InvalidArgument);
     EXPECT_EQ(session.currentFolder().path(), before);
 }
 
@@ -123,7 +123,7 @@ TEST_F(CurrentFolderTest, NoDriveIsNoChangeAndAMissingOneRaises)
     const String before = session.currentFolder().path();
     session.currentFolder().changeDrive(u"");
     EXPECT_EQ(session.currentFolder().path(), before);
-    EXPECT_THROW(session.currentFolder().changeDrive(u"E:"), RuntimeError);
+    EXPECT_RAISES(session.currentFolder().changeDrive(u"E:"), FileNotFound);
 }
 
 } // namespace

@@ -9,8 +9,8 @@
 #include "core/InterCom.h"
 #include "core/NativePath.h"
 #include "core/RandomSource.h"
-#include "core/RuntimeError.h"
 #include "core/SessionState.h"
+#include "support/Raises.h"
 
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -29,11 +29,11 @@ protected:
 
 TEST_F(PlatformDefaults, WhatNothingCanStandInForRaises)
 {
-    EXPECT_THROW(coreRoot().CoreDialogs(), RuntimeError);
-    EXPECT_THROW(coreRoot().CoreSystem().CoreFolders(), RuntimeError);
-    EXPECT_THROW(coreRoot().CoreSystem().CoreMachine(), RuntimeError);
-    EXPECT_THROW(session.platform().newNetClient(), RuntimeError);
-    EXPECT_THROW(session.platform().newFormDocument(), RuntimeError);
+    EXPECT_RAISES(coreRoot().CoreDialogs(), ObjectNotSet);
+    EXPECT_RAISES(coreRoot().CoreSystem().CoreFolders(), ObjectNotSet);
+    EXPECT_RAISES(coreRoot().CoreSystem().CoreMachine(), ObjectNotSet);
+    EXPECT_RAISES(session.platform().newNetClient(), ObjectNotSet);
+    EXPECT_RAISES(session.platform().newFormDocument(), ObjectNotSet);
 }
 
 TEST_F(PlatformDefaults, TheRestDoesNoHarm)

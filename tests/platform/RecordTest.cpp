@@ -1,8 +1,8 @@
 #include "core/CoreDatabase.h"
 #include "core/DATA.h"
-#include "core/RuntimeError.h"
 #include "core/tmp_Data.h"
 #include "core/tmp_Database.h"
+#include "support/Raises.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -116,12 +116,7 @@ TEST(Data, OutlivesItsOwnerAndRaisesThen)
         header->ID(u"key");
     }
     EXPECT_EQ(header->ID(), Variant(u"key"));
-    try {
-        header->Pack();
-        FAIL() << "nothing was raised";
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.Number(), 91);
-    }
+    EXPECT_RAISES(header->Pack(), ObjectNotSet);
 }
 
 TEST(Data, AReplacedHeaderLosesItsOwnerAndTheNewOneGainsIt)
@@ -130,9 +125,9 @@ TEST(Data, AReplacedHeaderLosesItsOwnerAndTheNewOneGainsIt)
     note.text(u"H2O");
     const auto old = note.DATA();
     note.DATA(std::make_shared<phial::DATA>());
-    EXPECT_THROW(old->Pack(), RuntimeError);
+    EXPECT_RAISES(old->Pack(), ObjectNotSet);
     EXPECT_EQ(note.DATA()->Pack(), u"<H2O>");
-    EXPECT_THROW(note.DATA(nullptr), RuntimeError);
+    EXPECT_RAISES(note.DATA(nullptr), ObjectNotSet);
 }
 
 TEST(Data, AHeaderTakenOverStaysWithItsNewRecord)
@@ -172,16 +167,9 @@ TEST_F(Database, FindsByPositionAndBySearch)
 
 TEST_F(Database, AnItemThatIsNotThereRaisesIndexOutOfBounds)
 {
-    for (const auto& find : {std::function<void()>([&] { database().Item(0, true); }),
-                             std::function<void()>([&] { database().Item(4, true); }),
-                             std::function<void()>([&] { database().Item(u"N", false); })}) {
-        try {
-            find();
-            FAIL() << "nothing was raised";
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.Number(), 9);
-        }
-    }
+    EXPECT_RAISES(database().Item(0, true), IndexOutOfBounds);
+    EXPECT_RAISES(database().Item(4, true), IndexOutOfBounds);
+    EXPECT_RAISES(database().Item(u"N", false), IndexOutOfBounds);
 }
 
 TEST_F(Database, RemoveAnswersWhetherThereWasSuchAnItem)
@@ -199,7 +187,7 @@ TEST_F(Database, ImportWithoutIdLeavesTheItemsOwn)
     note->DATA()->ID(u"own");
     database().Import(note);
     EXPECT_EQ(database().Item(4, true)->DATA()->ID(), Variant(u"own"));
-    EXPECT_THROW(database().Import(nullptr), RuntimeError);
+    EXPECT_RAISES(database().Import(nullptr), ObjectNotSet);
 }
 
 TEST_F(Database, ClearEmptiesTheList)
@@ -212,7 +200,7 @@ TEST_F(Database, AReplacedEngineLosesItsOwner)
 {
     const auto old = notes.DATABASE();
     notes.DATABASE(std::make_shared<CoreDatabase>());
-    EXPECT_THROW(old->Count(), RuntimeError);
+    EXPECT_RAISES(old->Count(), ObjectNotSet);
     EXPECT_EQ(database().Count(), 3);
 }
 

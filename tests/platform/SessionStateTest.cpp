@@ -1,9 +1,8 @@
 #include "core/SessionState.h"
 
 #include "core/Clock.h"
-#include "core/NativePath.h"
-#include "core/RuntimeError.h"
 #include "support/HeadlessSession.h"
+#include "support/Raises.h"
 
 #include <gtest/gtest.h>
 #include <optional>
@@ -13,27 +12,17 @@ namespace phial
 namespace
 {
 
-int raisedNumber(const std::function<void()>& action)
-{
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
 TEST(SessionState, WithoutASessionTheRootIsNotSet)
 {
     EXPECT_FALSE(SessionState::isOpen());
-    EXPECT_EQ(raisedNumber([] { coreRoot(); }), 91);
-    EXPECT_EQ(raisedNumber([] { coreTheme(); }), 91);
+    EXPECT_RAISES(coreRoot(), ObjectNotSet);
+    EXPECT_RAISES(coreTheme(), ObjectNotSet);
 }
 
 TEST(SessionState, OneIsOpenAtATime)
 {
     const SessionState session{Platform()};
-    EXPECT_EQ(raisedNumber([] { const SessionState second{Platform()}; }), 5);
+    EXPECT_RAISES(SessionState(Platform()), InvalidArgument);
     EXPECT_EQ(&SessionState::current(), &session);
 }
 
