@@ -1,6 +1,5 @@
 #include "app/Session.h"
 
-#include "app/InstallationTree.h"
 #include "app/cls_App.h"
 #include "app/cls_Language.h"
 #include "core/RuntimeError.h"
@@ -20,7 +19,7 @@ Session* openSession = nullptr;
 Session::Session(Platform platform, StringView programFolder) : state_(std::move(platform))
 {
     if (!programFolder.empty()) {
-        goToTreeNear(programFolder);
+        state_.currentFolder().change(programFolder);
     }
     openSession = this;
 }
@@ -62,13 +61,6 @@ const std::shared_ptr<cls_Language>& Session::language()
         language_ = std::make_shared<cls_Language>();
     }
     return language_;
-}
-
-void Session::goToTreeNear(StringView programFolder)
-{
-    if (const auto tree = installationTree::nearProgram(programFolder)) {
-        state_.currentFolder().change(*tree);
-    }
 }
 
 } // namespace phial

@@ -1,6 +1,6 @@
 #include "app/AppTest.h"
-#include "app/InstallationTree.h"
 #include "app/cls_Language.h"
+#include "support/Raises.h"
 
 namespace phial
 {
@@ -22,14 +22,14 @@ protected:
 TEST_F(SessionLife, RaisesWhenNoneIsOpen)
 {
     session.reset();
-    EXPECT_THROW(QVAPP(), RuntimeError);
-    EXPECT_THROW(LNG(), RuntimeError);
-    EXPECT_THROW(Session::current(), RuntimeError);
+    EXPECT_RAISES(QVAPP(), ObjectNotSet);
+    EXPECT_RAISES(LNG(), ObjectNotSet);
+    EXPECT_RAISES(Session::current(), ObjectNotSet);
 }
 
 TEST_F(SessionLife, AllowsOneAtATime)
 {
-    EXPECT_THROW(Session(outside.platform()), RuntimeError);
+    EXPECT_RAISES(Session(outside.platform()), InvalidArgument);
     EXPECT_EQ(&Session::current(), &*session);
 }
 
@@ -53,38 +53,28 @@ TEST_F(SessionLife, MakesASharedFormOnceAndOnlyWhenAsked)
     EXPECT_EQ(session->existingSharedForm<HiddenForm>(), form);
 }
 
-TEST_F(SessionLife, BeginsInTheFolderOfTheProcessWithoutATree)
+TEST_F(SessionLife, BeginsInTheFolderOfTheProcess)
 {
-    const String before = currentFolder();
-    openFor(makeFolder(u"bin\\"));
-    EXPECT_EQ(currentFolder(), before);
+    EXPECT_EQ(nativePath(currentFolder()), std::filesystem::current_path());
 }
 
-TEST_F(SessionLife, BeginsInTheTreeOfABuildFolder)
+TEST_F(SessionLife, BeginsInTheProgramsFolderWhenThatIsTold)
 {
-    const String tree = makeTree(u"build\\tree\\");
-    openFor(makeFolder(u"build\\bin\\"));
-    EXPECT_EQ(currentFolder(), tree);
+    const String programFolder = makeFolder(u"bin\\");
+    openFor(programFolder);
+    EXPECT_EQ(currentFolder(), programFolder);
 }
 
-TEST_F(SessionLife, BeginsInTheTreeOfAnInstalledPrefix)
+TEST_F(SessionLife, RefusesAProgramFolderThatIsNotThere)
+{
+    session.reset();
+    EXPECT_RAISES(session.emplace(outside.platform(), path(u"nowhere\\")), FileNotFound);
+}
+
+TEST_F(SessionLife, LetsTheFolderSearchFindTheTreeInWhichTheProgramLies)
 {
     const String tree = makeTree(u"usr\\share\\phial\\");
-    openFor(makeFolder(u"usr\\bin\\"));
-    EXPECT_EQ(currentFolder(), tree);
-}
-
-TEST_F(SessionLife, BeginsInTheProgramsOwnFolderWhenThatIsATree)
-{
-    const String tree = makeTree(u"program\\");
-    openFor(tree);
-    EXPECT_EQ(currentFolder(), tree);
-}
-
-TEST_F(SessionLife, LetsTheFolderSearchFindTheTreeNearTheProgram)
-{
-    const String tree = makeTree(u"usr\\share\\phial\\");
-    openFor(makeFolder(u"usr\\bin\\"));
+    openFor(makeFolder(u"usr\\share\\phial\\apps\\Molmasse\\"));
     QVAPP()->INIT(u"");
     EXPECT_EQ(QVAPP()->URL()->ROOT(), tree);
 }
