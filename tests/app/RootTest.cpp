@@ -19,7 +19,6 @@ protected:
     {
         watch = coreRoot().CoreRuntimeOptions().SHUTDOWN.connect([this] { ++shutdowns; });
     }
-    ~Root() override { watch.disconnect(); }
 
     int shutdowns = 0;
     Connection watch;
