@@ -53,7 +53,7 @@ TEST(CalculatorLine, AssignmentsCountForTheTermsThatFollow)
 TEST(CalculatorLine, ReadsInputWhenThereIsNoTerm)
 {
     const Outcome run = runWith({"A=2"}, "A*3\n\nB=0.5\r\nA*B\r\n   \n2-\xC3\xA4"
-                                     "1");
+                                         "1");
     EXPECT_EQ(run.output, "6\n1\n1\n");
     EXPECT_EQ(run.status, ExitStatus::Success);
 }
