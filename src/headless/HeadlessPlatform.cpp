@@ -20,6 +20,7 @@ HeadlessPlatform::HeadlessPlatform(String root, FailureHandler onFailure)
         onFailure(failure);
     };
     pump_ = std::make_shared<StandardEventPump>(clock_, reportError_);
+    visual_ = std::make_shared<HeadlessVisualHost>(pump_, display_, onFailure_);
 }
 
 Platform HeadlessPlatform::platform() const
@@ -28,6 +29,7 @@ Platform HeadlessPlatform::platform() const
     platform.dialogs = dialogs_;
     platform.folders = folders_;
     platform.machine = machine_;
+    platform.visual = visual_;
     platform.windows = windows_;
     platform.display = display_;
     platform.cursors = cursors_;

@@ -9,6 +9,7 @@
 #include "headless/FakeMachine.h"
 #include "headless/FaultyFileSystem.h"
 #include "headless/FixedRandom.h"
+#include "headless/HeadlessVisualHost.h"
 #include "headless/MapEnvironment.h"
 #include "headless/MemoryRecordFiles.h"
 #include "headless/RecordingCursors.h"
@@ -65,6 +66,7 @@ public:
     RecordingInterCom& interCom() { return *interCom_; }
     ScriptedNetwork& network() { return *network_; }
     FakeForms& forms() { return *forms_; }
+    HeadlessVisualHost& visual() { return *visual_; }
 
 private:
     FailureHandler onFailure_;
@@ -88,6 +90,7 @@ private:
     std::shared_ptr<FakeForms> forms_ = std::make_shared<FakeForms>();
     std::function<void(const std::exception&)> reportError_;
     std::shared_ptr<StandardEventPump> pump_;
+    std::shared_ptr<HeadlessVisualHost> visual_;
 };
 
 } // namespace phial::headless

@@ -2,6 +2,7 @@
 
 #include "core/Members.h"
 #include "core/RuntimeError.h"
+#include "core/SessionState.h"
 #include "visual/Controls.h"
 #include "visual/VisualHost.h"
 
@@ -339,7 +340,9 @@ bool Form::Unload()
 
 void Form::discard()
 {
-    if (loaded_) {
+    if (!SessionState::isOpen()) {
+        hostEnds();
+    } else if (loaded_) {
         const auto self = shared_from_this();
         closing_ = true;
         finishUnload();
@@ -358,6 +361,12 @@ void Form::finishUnload()
         }
     }
     Unloaded.emit();
+}
+
+void Form::hostEnds()
+{
+    peer_.reset();
+    loaded_ = modal_ = isActive_ = activateTold_ = false;
 }
 
 void Form::SetFocus()

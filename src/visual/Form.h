@@ -140,7 +140,7 @@ public:
     /// Raises QueryUnload and Unload, either of which can refuse; then the window closes and the form is no
     /// longer loaded. Gives whether it was unloaded. What was set in the controls stays readable.
     bool Unload();
-    /// Unloads without asking; for the destructor of whoever holds the form.
+    /// Unloads without asking; for the destructor of whoever holds the form. Safe behind the session's end.
     void discard();
     /// Whether its window is open.
     bool Visible() const { return peer_ != nullptr; }
@@ -215,6 +215,7 @@ public:
     MemberTable members() const override;
 
 private:
+    friend class Forms;
     template <typename Value>
     void change(Value& field, Value value, FormAspect aspect);
     /// Gives whether the size differs.
@@ -227,6 +228,8 @@ private:
     void closeWindow();
     void tellShown(bool shown);
     void finishUnload();
+    /// Drops the window and all that ties the form to the host, without any event.
+    void hostEnds();
     void focusFirst();
     bool pressDefault(const KeyEvent& event);
 

@@ -4,6 +4,7 @@
 #include "visual/Form.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace phial
 {
@@ -39,6 +40,16 @@ void Forms::unloadAll()
     const auto loaded = loaded_;
     for (auto form = loaded.rbegin(); form != loaded.rend(); ++form) {
         (*form)->Unload();
+    }
+}
+
+void Forms::closeAll()
+{
+    const auto loaded = std::exchange(loaded_, {});
+    modal_.clear();
+    active_.reset();
+    for (auto form = loaded.rbegin(); form != loaded.rend(); ++form) {
+        (*form)->hostEnds();
     }
 }
 

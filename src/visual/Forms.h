@@ -28,6 +28,8 @@ public:
 
     /// Unloads all, the innermost modal one first and the earliest loaded last. A form that refuses stays.
     void unloadAll();
+    /// Closes all without asking and without any event; for the end of the host.
+    void closeAll();
 
 private:
     friend class Form;

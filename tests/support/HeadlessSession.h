@@ -10,14 +10,18 @@ namespace phial::test
 {
 
 /// A fresh session for each test, on a scripted outside whose special folders lie below a temporary one. A
-/// box that the test did not expect, one that it expected in vain, and an error that ends at a dispatch fail
-/// the test.
+/// box or modal form that the test did not expect, one that it expected in vain, and an error that ends at a
+/// dispatch fail the test.
 class HeadlessSession : public ::testing::Test
 {
 public:
     static void fail(const String& description) { ADD_FAILURE() << toUtf8(description); }
 
-    ~HeadlessSession() override { outside.dialogs().checkDone(); }
+    ~HeadlessSession() override
+    {
+        outside.dialogs().checkDone();
+        outside.visual().checkDone();
+    }
 
 protected:
     TemporaryFolder folder;

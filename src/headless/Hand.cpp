@@ -1,0 +1,159 @@
+#include "headless/Hand.h"
+
+#include "core/RuntimeError.h"
+#include "headless/TextTyping.h"
+#include "visual/CommandBar.h"
+#include "visual/Form.h"
+#include "visual/PaintSurface.h"
+#include "visual/ctl_Button.h"
+
+#include <algorithm>
+
+namespace phial::headless
+{
+
+namespace
+{
+
+/// Characters that are keys of their own in KeyPress.
+char16_t characterOf(Key key)
+{
+    switch (key) {
+    case Key::Backspace:
+    case Key::Tab:
+    case Key::Return:
+    case Key::Escape:
+        return static_cast<char16_t>(key);
+    default:
+        return 0;
+    }
+}
+
+/// The control at a place of its container (in pixels), from the front; null when there is none.
+ControlPtr controlAt(const Container& container, PixelPoint place)
+{
+    const auto& controls = container.controls();
+    for (auto candidate = controls.rbegin(); candidate != controls.rend(); ++candidate) {
+        const PixelRectangle area = (*candidate)->frame().pixelRectangle();
+        if (!(*candidate)->Visible() || !area.contains(place)) {
+            continue;
+        }
+        UserControl* painted = (*candidate)->painted();
+        if (!painted || painted->surface().hits({place.x - area.left, place.y - area.top})) {
+            return *candidate;
+        }
+    }
+    return nullptr;
+}
+
+void press(Control& control, double x, double y)
+{
+    const auto self = control.shared_from_this();
+    if (!control.frame().isReachable()) {
+        return;
+    }
+    if (control.frame().canFocus() && control.frame().form()) {
+        control.frame().form()->focus(self);
+    }
+    const PointerEvent event{PointerButton::Left, 0, x, y};
+    control.pointerDown(event);
+    control.pointerUp(event);
+    control.click();
+}
+
+void moveFocus(Form& form, bool backward)
+{
+    const auto order = form.tabOrder();
+    if (order.empty()) {
+        return;
+    }
+    const auto active = std::ranges::find(order, form.ActiveControl());
+    const auto count = static_cast<std::ptrdiff_t>(order.size());
+    const std::ptrdiff_t at = active == order.end() ? (backward ? 0 : -1) : active - order.begin();
+    form.focus(order[static_cast<std::size_t>((at + (backward ? count - 1 : 1)) % count)]);
+}
+
+} // namespace
+
+void click(Control& control)
+{
+    const PixelRectangle area = control.frame().pixelRectangle();
+    press(control, area.width / 2, area.height / 2);
+}
+
+void click(Control& control, double x, double y)
+{
+    const Container* container = control.frame().container();
+    UserControl* painted = control.painted();
+    if (!container || !painted || painted->surface().hits({x, y})) {
+        press(control, x, y);
+        return;
+    }
+    const PixelRectangle area = control.frame().pixelRectangle();
+    const PixelPoint place{area.left + x, area.top + y};
+    if (const ControlPtr below = controlAt(*container, place)) {
+        const PixelRectangle hit = below->frame().pixelRectangle();
+        press(*below, place.x - hit.left, place.y - hit.top);
+    }
+}
+
+void doubleClick(Control& control)
+{
+    const auto self = control.shared_from_this();
+    click(control);
+    if (control.frame().isReachable()) {
+        control.doubleClick();
+    }
+}
+
+void clickButton(Control& bar, StringView key)
+{
+    auto& commands = dynamic_cast<CommandBar&>(bar);
+    for (std::int32_t index = 1; index <= commands.BUTTONS()->Count(); ++index) {
+        if (equalsIgnoringCase(commands.BUTTONS()->Item(index)->Key(), key)) {
+            commands.inputButton(index);
+            return;
+        }
+    }
+    throw RuntimeError(ErrorNumber::NoSuchMember);
+}
+
+void strike(Form& form, const KeyStroke& stroke)
+{
+    const auto self = form.shared_from_this();
+    const bool isCharacter = stroke.character != 0;
+    KeyEvent down{isCharacter ? upperCase(stroke.character) : static_cast<std::int32_t>(stroke.key),
+                  stroke.Shift};
+    const ControlPtr active = form.ActiveControl();
+    if (form.inputKeyDown(down)) {
+        const bool commanding = (stroke.Shift & (ShiftMask::Control | ShiftMask::Alt)) != 0;
+        const char16_t plain = isCharacter ? stroke.character : characterOf(stroke.key);
+        const bool shifted = (stroke.Shift & ShiftMask::Shift) != 0;
+        KeyPressEvent typed{shifted && isCharacter ? upperCase(plain) : plain};
+        const bool typing = typed.KeyAscii != 0 && !commanding;
+        if (!typing || form.inputKeyPress(typed)) {
+            if (stroke.key == Key::Tab) {
+                moveFocus(form, shifted);
+            } else if (active) {
+                typeInto(*active, stroke, typed.KeyAscii);
+            }
+        }
+    }
+    KeyEvent up{isCharacter ? upperCase(stroke.character) : static_cast<std::int32_t>(stroke.key),
+                stroke.Shift};
+    form.inputKeyUp(up);
+}
+
+void type(Form& form, StringView notation)
+{
+    for (const KeyStroke& stroke : parseKeyNotation(notation)) {
+        strike(form, stroke);
+    }
+}
+
+void tab(Form& form, bool backward)
+{
+    strike(form, {0, Key::Tab, backward ? ShiftMask::Shift : 0});
+}
+
+} // namespace phial::headless

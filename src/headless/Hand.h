@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/String.h"
+#include "visual/KeyNotation.h"
+
+namespace phial
+{
+class Control;
+class Form;
+} // namespace phial
+
+namespace phial::headless
+{
+
+/// The user's hand: what it does goes to the models as an adapter would bring it. Nothing happens to a
+/// control that cannot be reached.
+
+/// Presses and lets go on a place of the control (in pixels, its middle without one). What cannot be hit
+/// there, since the control is see-through at that place, goes to what lies below in the same container.
+void click(Control& control);
+void click(Control& control, double x, double y);
+void doubleClick(Control& control);
+/// Presses a command bar's button by its key.
+void clickButton(Control& bar, StringView key);
+
+/// One key for the form's control that has the focus.
+void strike(Form& form, const KeyStroke& stroke);
+/// Keys in the notation of keyboard emulation, at once.
+void type(Form& form, StringView notation);
+/// The Tab key, or with Shift.
+void tab(Form& form, bool backward = false);
+
+} // namespace phial::headless
