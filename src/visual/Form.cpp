@@ -389,6 +389,28 @@ void Form::report(FormAspect aspect) const
     }
 }
 
+namespace
+{
+
+/// Operations by name; what they are given is not looked at.
+Variant show(Object& form, std::span<const Variant> /*arguments*/)
+{
+    static_cast<Form&>(form).Show();
+    return {};
+}
+
+Variant translate(Object& form, std::span<const Variant> /*arguments*/)
+{
+    const Event<>& handlers = static_cast<Form&>(form).TRANSLATE;
+    if (!handlers.hasHandlers()) {
+        throw RuntimeError(ErrorNumber::NoSuchMember);
+    }
+    handlers.emit();
+    return {};
+}
+
+} // namespace
+
 MemberTable Form::members() const
 {
     using members::property;
@@ -415,7 +437,9 @@ MemberTable Form::members() const
         readOnly<Form, bool, &Form::Visible>(u"Visible"),
         readOnly<Form, WindowHandle, &Form::hWnd>(u"hWnd"),
         readOnly<Form, ObjectPtr, &Form::Controls>(u"Controls"),
+        Member{u"Show", nullptr, nullptr, show},
         members::operation<Form, &Form::Hide>(u"Hide"),
+        Member{u"TRANSLATE", nullptr, nullptr, translate},
     });
     return Table;
 }

@@ -167,6 +167,9 @@ public:
     /// The control's SetFocus.
     void focus(const ControlPtr& control);
 
+    /// The language has changed: the handler puts the form's texts in the one in force. By name, as the
+    /// member TRANSLATE, it is an operation that a form without handler does not have (438).
+    Event<> TRANSLATE;
     Event<> Load;
     Event<> Activate;
     Event<> Deactivate;
