@@ -14,6 +14,11 @@ frm_Fade::frm_Fade() : form_(std::make_shared<Form>(u"frm_Fade"))
     onLoad_ = form_->Load.connect([this] { load(); });
 }
 
+frm_Fade::~frm_Fade()
+{
+    form_->discard();
+}
+
 void frm_Fade::Show()
 {
     form_->Show();

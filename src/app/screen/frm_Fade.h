@@ -15,6 +15,9 @@ class frm_Fade
 {
 public:
     frm_Fade();
+    ~frm_Fade();
+    frm_Fade(const frm_Fade&) = delete;
+    frm_Fade& operator=(const frm_Fade&) = delete;
 
     void Show();
     void Unload();

@@ -13,6 +13,11 @@ namespace phial
 class frm_Resource
 {
 public:
+    frm_Resource() = default;
+    ~frm_Resource() { form_->discard(); }
+    frm_Resource(const frm_Resource&) = delete;
+    frm_Resource& operator=(const frm_Resource&) = delete;
+
     Form& form() { return *form_; }
 
     /// The control, timer or image list of that name. When it is not there yet it is made, and `prepare` is
