@@ -1,5 +1,6 @@
 #include "app/AppTest.h"
 #include "app/cls_AppURL.h"
+#include "support/LimitedDisk.h"
 
 namespace phial
 {
@@ -98,7 +99,11 @@ TEST_F(AppUrlFolders, LeavesNoProbeFileBehind)
 TEST_F(AppUrlFolders, FallsBackToTheUsersDocumentsWhenTheSharedFolderIsReadOnly)
 {
     makeFolder(u"public\\Documents\\QV Phial\\Highscores\\Molmasse\\");
-    outside.files().protect(folder.native() / "public");
+    const std::filesystem::path place = folder.native() / "public";
+    const auto disk = test::LimitedDisk::readOnly(place / "Documents/QV Phial/Highscores/Molmasse");
+    if (!disk.isInForce()) {
+        outside.files().protect(place);
+    }
     url.INIT();
     EXPECT_EQ(url.DATAHIGHSCORES(), documents + u"Highscores\\Molmasse\\");
     EXPECT_EQ(url.CONFIGUSER(), documents + u"Config\\Molmasse\\");
@@ -112,7 +117,14 @@ TEST_F(AppUrlFolders, FallsBackToTheUsersDocumentsWhenTheSharedFolderIsReadOnly)
 
 TEST_F(AppUrlFolders, FallsBackWhenTheDiskIsFull)
 {
-    outside.files().freeBytes(3);
+    constexpr std::size_t Room = 4096;
+    makeFolder(u"public\\");
+    const auto disk = test::LimitedDisk::withRoom(folder.native() / "public", Room);
+    if (disk.isInForce()) {
+        folder.write("public/filler", std::string(Room, '.'));
+    } else {
+        outside.files().freeBytes(3);
+    }
     url.INIT();
     EXPECT_EQ(url.DATAHIGHSCORES(), documents + u"Highscores\\Molmasse\\");
     EXPECT_FALSE(fileExists(shared + u"Highscores\\Molmasse\\test.dat"));
