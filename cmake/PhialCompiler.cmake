@@ -22,10 +22,6 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     # GCC 12 with optimisation takes a literal joined with a temporary string for overlapping copies.
     target_compile_options(phial_compiler INTERFACE -Wno-restrict)
 endif()
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # GCC 12 at -O3 sees overlapping copies inside std::u16string that cannot happen (GCC bug 105329).
-    target_compile_options(phial_compiler INTERFACE -Wno-restrict)
-endif()
 if(PHIAL_SANITIZE)
     target_compile_options(phial_compiler INTERFACE
         -fsanitize=${PHIAL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
