@@ -15,8 +15,6 @@ endif()
 add_library(phial_compiler INTERFACE)
 target_compile_options(phial_compiler INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
-    # GCC 12 takes putting a literal in front of a text for overlapping memory.
-    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
     -Werror -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # GCC 12 with optimisation takes a literal joined with a temporary string for overlapping copies.
