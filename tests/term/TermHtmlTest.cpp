@@ -1,5 +1,4 @@
 #include "app/cls_AppTools.h"
-
 #include "term/TermPicture.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,147 @@
+#include "support/HeadlessSession.h"
+#include "term/ctl_TermLabel.h"
+#include "visual/Form.h"
+
+#include <gtest/gtest.h>
+
+namespace phial::test
+{
+namespace
+{
+
+class TermLabelTest : public HeadlessSession
+{
+protected:
+    TermLabelTest()
+    {
+        form->ScaleMode(ScaleUnit::Pixels);
+        label->Move(10, 20, 100, 40);
+        label->TEXTFONT()->Size(20);
+    }
+
+    /// The lines of the last drawing.
+    std::string drawn() { return outside.visual().drawing(*label); }
+
+    std::shared_ptr<Form> form = std::make_shared<Form>(u"frm_Test");
+    std::shared_ptr<ctl_TermLabel> label = form->add<ctl_TermLabel>(u"trm_Test");
+};
+
+TEST_F(TermLabelTest, AFreshLabelShowsWaterInTahomaEight)
+{
+    const auto fresh = form->add<ctl_TermLabel>(u"trm_Fresh");
+    EXPECT_EQ(fresh->Term(), u"H2O");
+    EXPECT_EQ(fresh->TEXTFONT()->Name(), u"Tahoma");
+    EXPECT_EQ(fresh->TEXTFONT()->Size(), 8);
+    EXPECT_EQ(fresh->TEXTALIGN(), TEXTALIGN::MiddleLeft);
+    EXPECT_FALSE(fresh->AUTOSIZE());
+}
+
+TEST_F(TermLabelTest, EveryLabelHasAnIdOfItsOwn)
+{
+    EXPECT_FALSE(label->CTRLID().empty());
+    EXPECT_NE(label->CTRLID(), form->add<ctl_TermLabel>(u"trm_Other")->CTRLID());
+}
+
+TEST_F(TermLabelTest, TheAnchorFollowsTheAlignment)
+{
+    label->Term(u"AB");
+    EXPECT_NE(drawn().find("text 0,8 \"A\""), std::string::npos);
+    label->TEXTALIGN(TEXTALIGN::MiddleCentre);
+    EXPECT_NE(drawn().find("text 40,8 \"A\""), std::string::npos);
+    label->TEXTALIGN(TEXTALIGN::BottomRight);
+    EXPECT_NE(drawn().find("text 80,15 \"A\""), std::string::npos);
+    label->TEXTALIGN(TEXTALIGN::TopLeft);
+    EXPECT_NE(drawn().find("text 0,0 \"A\""), std::string::npos);
+}
+
+TEST_F(TermLabelTest, OnlyTheTermCoversWhatLiesBehind)
+{
+    EXPECT_NE(drawn().find("clear cut"), std::string::npos);
+    EXPECT_TRUE(label->surface().MaskPicture());
+    EXPECT_FALSE(label->surface().hits({90, 35}));
+}
+
+TEST_F(TermLabelTest, AGreyTermIsNotTakenForTheMask)
+{
+    label->TEXTCOLOR(QBColor(8));
+    EXPECT_NE(drawn().find("\"H\" Tahoma 20 #808080"), std::string::npos);
+}
+
+TEST_F(TermLabelTest, AutoSizeTakesTheWidthOfTheTermAndTheHeightOfALine)
+{
+    label->AUTOSIZE(true);
+    EXPECT_EQ(label->Width(), 29);
+    EXPECT_EQ(label->Height(), 25);
+    label->Term(u"H2SO4");
+    EXPECT_EQ(label->Width(), 48);
+    EXPECT_EQ(label->Left(), 10);
+    EXPECT_EQ(label->Top(), 20);
+}
+
+TEST_F(TermLabelTest, AutoSizeSpeaksTheHostsTwips)
+{
+    form->ScaleMode(ScaleUnit::Twips);
+    label->AUTOSIZE(true);
+    EXPECT_EQ(label->Width(), 29 * 15);
+    EXPECT_EQ(label->Height(), 25 * 15);
+}
+
+TEST_F(TermLabelTest, EveryWriterTellsItsProperty)
+{
+    std::vector<String> told;
+    const auto connection =
+        label->PropertyChanged.connect([&told](const String& name) { told.push_back(name); });
+    label->Term(u"O2");
+    label->TEXTALIGN(TEXTALIGN::TopLeft);
+    label->TEXTCOLOR(RGB(1, 2, 3));
+    label->AUTOSIZE(true);
+    label->TEXTFONT()->Bold(true);
+    EXPECT_EQ(told, (std::vector<String>{u"Term", u"TEXTALIGN", u"TEXTCOLOR", u"AUTOSIZE", u"TEXTFONT"}));
+}
+
+TEST_F(TermLabelTest, PropertiesComeBackFromTheirBag)
+{
+    label->Term(u"SO4^2-");
+    label->TEXTALIGN(TEXTALIGN::BottomCentre);
+    label->TEXTCOLOR(RGB(1, 2, 3));
+    label->TEXTFONT()->Bold(true);
+    PropertyBag bag;
+    label->writeProperties(bag);
+    EXPECT_EQ(bag.ReadProperty(u"TERM").toText(), u"SO4^2-");
+
+    const auto other = form->add<ctl_TermLabel>(u"trm_Other");
+    other->readProperties(bag);
+    EXPECT_EQ(other->Term(), u"SO4^2-");
+    EXPECT_EQ(other->TEXTALIGN(), TEXTALIGN::BottomCentre);
+    EXPECT_EQ(other->TEXTCOLOR(), RGB(1, 2, 3));
+    EXPECT_TRUE(other->TEXTFONT()->Bold());
+    EXPECT_NE(other->TEXTFONT(), label->TEXTFONT());
+}
+
+TEST_F(TermLabelTest, AnEmptyBagGivesTheDefaults)
+{
+    label->Term(u"O2");
+    label->readProperties(PropertyBag());
+    EXPECT_EQ(label->Term(), u"H2O");
+    EXPECT_EQ(label->TEXTFONT()->Size(), 8);
+}
+
+TEST_F(TermLabelTest, IsReachedByTheNamesOfItsMembers)
+{
+    setMember(*label, u"term", u"O2");
+    EXPECT_EQ(getMember(*label, u"TERM").toText(), u"O2");
+    EXPECT_EQ(getMember(*label, u"ctrlid").toText(), label->CTRLID());
+    callMember(*label, u"redraw");
+    EXPECT_EQ(label->accessibleText(), u"O2");
+}
+
+TEST_F(TermLabelTest, AClickIsTold)
+{
+    int clicks = 0;
+    const auto connection = label->CLICK.connect([&clicks] { ++clicks; });
+    label->click();
+    EXPECT_EQ(clicks, 1);
+}
+
+} // namespace
+} // namespace phial::test
