@@ -44,7 +44,7 @@ public:
     /// The user has edited the text or moved the selection.
     void inputText(const String& text, std::int32_t selStart, std::int32_t selLength);
 
-    StringView typeName() const override { return u"RichTextBox"; }
+    StringView typeName() const override { return u"RichTextbox"; }
     MemberTable members() const override;
     ControlFrame& frame() override { return frame_; }
     bool wantsKey(Key key) const override { return key == Key::Return; }

@@ -71,6 +71,7 @@ std::vector<PixelPoint> roundedOutline(const PixelRectangle& area)
 Shape::Shape() : frame_(*this), surface_(*this)
 {
     surface_.transparent(true);
+    surface_.MaskPicture(std::make_shared<Picture>(PixelSize{})); // a hole all over: every click goes through
 }
 
 MemberTable Shape::members() const

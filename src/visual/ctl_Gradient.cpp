@@ -71,7 +71,7 @@ void ctl_Gradient::writeProperties(PropertyBag& bag)
 void ctl_Gradient::paint()
 {
     const PixelSize size = surface_.size();
-    surface_.device().Gradient(0, 0, size.width - 1, size.height - 1, from_, to_, angle_, Steps);
+    surface_.device().Gradient(0, 0, size.width, size.height, from_, to_, angle_, Steps);
 }
 
 } // namespace phial

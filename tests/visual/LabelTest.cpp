@@ -1,0 +1,132 @@
+#include "core/Variant.h"
+#include "visual/FormTest.h"
+#include "visual/ctl_Label.h"
+
+namespace phial::test
+{
+
+namespace
+{
+
+class LabelTest : public FormTest
+{
+protected:
+    std::string drawn(Control& control) { return outside.visual().drawing(control); }
+
+    std::shared_ptr<Label> label = form->add<Label>(u"lab_Test");
+    std::shared_ptr<ctl_Label> styled = form->add<ctl_Label>(u"lab_Styled");
+};
+
+TEST_F(LabelTest, IsSeeThroughAndShowsItsMarkup)
+{
+    label->Move(0, 0, 1500, 300);
+    label->Caption(u"H<sub>2</sub>O");
+    EXPECT_EQ(drawn(*label), "clear cut\n"
+                             "text 0,0 \"H\" Tahoma 8 #000000\n"
+                             "text 4,3 \"2\" Tahoma 6 #000000\n"
+                             "text 7,0 \"O\" Tahoma 8 #000000\n");
+}
+
+TEST_F(LabelTest, OpaqueLabelHasItsBackground)
+{
+    label->Move(0, 0, 300, 150);
+    label->BackColor(QBColor(15));
+    label->BackStyle(BackStyle::Opaque);
+    label->Alignment(Alignment::Right);
+    label->Caption(u"ab");
+    EXPECT_EQ(drawn(*label), "clear #FFFFFF\n"
+                             "text 12,0 \"ab\" Tahoma 8 #000000\n");
+}
+
+TEST_F(LabelTest, AutoSizeFollowsTheTextWithinTheSetter)
+{
+    label->WordWrap(false);
+    label->AutoSize(true);
+    label->Caption(u"abc");
+    EXPECT_EQ(label->Width(), 12 * 15);
+    EXPECT_EQ(label->Height(), 10 * 15);
+    label->Font()->Size(16);
+    EXPECT_EQ(label->Width(), 24 * 15);
+}
+
+TEST_F(LabelTest, WithWordWrapTheHeightFollowsTheWidth)
+{
+    label->AutoSize(true);
+    label->Width(28 * 15);
+    label->Caption(u"aaa bbb ccc");
+    EXPECT_EQ(label->Height(), 20 * 15);
+    label->Width(12 * 15);
+    EXPECT_EQ(label->Height(), 30 * 15);
+}
+
+TEST_F(LabelTest, FontIsSharedByReference)
+{
+    const auto font = std::make_shared<Font>();
+    label->Font(font);
+    styled->Font(font);
+    styled->Move(0, 0, 300, 150);
+    styled->Alignment(4);
+    styled->Caption(u"a");
+    drawn(*styled);
+    font->Bold(true);
+    EXPECT_THAT(drawn(*styled), ::testing::HasSubstr("Tahoma 8 bold"));
+    EXPECT_RAISES(label->Font(nullptr), ObjectNotSet);
+}
+
+TEST_F(LabelTest, StyledLabelIsAlignedInBothDirections)
+{
+    styled->Move(0, 0, 300, 300);
+    styled->Caption(u"ab");
+    styled->Alignment(0);
+    EXPECT_EQ(drawn(*styled), "clear cut\ntext 0,5 \"ab\" Tahoma 8 #000000\n");
+    styled->Alignment(5);
+    EXPECT_THAT(drawn(*styled), ::testing::HasSubstr("text 6,0 "));
+    styled->Alignment(10);
+    EXPECT_THAT(drawn(*styled), ::testing::HasSubstr("text 12,10 "));
+    styled->Alignment(7);
+    EXPECT_THAT(drawn(*styled), ::testing::EndsWith("text 0,0 \"ab\" Tahoma 8 #000000\n"));
+}
+
+TEST_F(LabelTest, RaisedLabelStandsOffAndFlatWins)
+{
+    styled->Move(0, 0, 300, 300);
+    styled->Caption(u"1");
+    styled->Alignment(4);
+    styled->Flat(false);
+    const std::string plain = drawn(*styled);
+    styled->Raised(true);
+    EXPECT_NE(drawn(*styled), plain + plain);
+    EXPECT_THAT(drawn(*styled), ::testing::HasSubstr("text -1,-1 "));
+    styled->Flat(true);
+    EXPECT_THAT(drawn(*styled), ::testing::EndsWith(plain));
+}
+
+TEST_F(LabelTest, StyledLabelPersistsItsText)
+{
+    styled->Caption(u"Gut!<br>Weiter");
+    PropertyBag bag;
+    styled->writeProperties(bag);
+    EXPECT_EQ(bag.ReadProperty(u"TEXT").toText(), u"Gut!<br>Weiter");
+    const auto other = makeControl<ctl_Label>();
+    other->readProperties(bag);
+    EXPECT_EQ(other->Caption(), styled->Caption());
+}
+
+TEST_F(LabelTest, ScreenReaderHearsThePlainText)
+{
+    label->Caption(u"<b>H<sub>2</sub>O</b>");
+    EXPECT_EQ(label->accessibleText(), u"H2O");
+    EXPECT_EQ(label->role(), PartRole::StaticText);
+}
+
+TEST_F(LabelTest, ClicksBecomeEvents)
+{
+    logs(styled->Click, "click");
+    logs(styled->DblClick, "double");
+    headless::doubleClick(*styled);
+    EXPECT_THAT(log, ElementsAre("click", "double"));
+}
+
+} // namespace
+
+} // namespace phial::test

@@ -1,0 +1,202 @@
+#include "visual/PaintSurface.h"
+
+#include "visual/FormTest.h"
+#include "visual/PictureBox.h"
+#include "visual/Shape.h"
+
+namespace phial::test
+{
+
+namespace
+{
+
+/// A widget that notes what the model reports.
+class NotingPeer final : public ControlPeer
+{
+public:
+    explicit NotingPeer(Control& control) : control_(control) { control.frame().peer(this); }
+    ~NotingPeer() override { control_.frame().peer(nullptr); }
+    NotingPeer(const NotingPeer&) = delete;
+    NotingPeer& operator=(const NotingPeer&) = delete;
+
+    void modelChanged(ControlAspect aspect) override { heard.push_back(aspect); }
+    long heardOf(ControlAspect aspect) const { return std::ranges::count(heard, aspect); }
+
+    std::vector<ControlAspect> heard;
+
+private:
+    Control& control_;
+};
+
+class PaintedControls : public FormTest
+{
+protected:
+    void SetUp() override { box->Move(0, 0, 300, 150); } // 20 by 10 pixels
+
+    std::string drawn(Control& control) { return outside.visual().drawing(control); }
+
+    std::shared_ptr<PictureBox> box = form->add<PictureBox>(u"pic_Test");
+};
+
+TEST_F(PaintedControls, ImageHasTheSizeOfTheControl)
+{
+    const PicturePtr image = box->surface().image(1);
+    EXPECT_EQ(image->size(), (PixelSize{20, 10}));
+    EXPECT_EQ(box->surface().image(1), image) << "made once";
+    box->Width(600);
+    EXPECT_EQ(box->surface().image(1)->Width(), 40);
+}
+
+TEST_F(PaintedControls, ImageIsRemadeAtAnotherPixelRatio)
+{
+    const PicturePtr image = box->surface().image(1);
+    EXPECT_NE(box->surface().image(1.5), image);
+}
+
+TEST_F(PaintedControls, WhatIsDrawnIsReportedOnceUntilItIsFetched)
+{
+    NotingPeer peer(*box);
+    box->surface().image(1);
+    box->device().PSet(1, 1);
+    box->device().PSet(2, 2);
+    EXPECT_EQ(peer.heardOf(ControlAspect::Picture), 1);
+    box->surface().image(1);
+    box->device().PSet(3, 3);
+    EXPECT_EQ(peer.heardOf(ControlAspect::Picture), 2);
+}
+
+TEST_F(PaintedControls, DrawingSurvivesWhenTheImageIsRemade)
+{
+    box->device().Line(2, 2, 5, 5, QBColor(12), LineShape::Filled);
+    box->Width(600);
+    EXPECT_EQ(box->device().Point(3, 3), QBColor(12));
+    box->surface().image(2);
+    EXPECT_EQ(box->device().Point(3, 3), QBColor(12));
+}
+
+TEST_F(PaintedControls, NewBackgroundClearsAndWhatIsDrawnThenStays)
+{
+    box->device().PSet(1, 1, QBColor(12));
+    box->BackColor(QBColor(9));
+    box->device().PSet(2, 2, QBColor(10));
+    box->surface().image(1);
+    EXPECT_EQ(box->device().Point(1, 1), QBColor(9));
+    EXPECT_EQ(box->device().Point(2, 2), QBColor(10));
+}
+
+TEST_F(PaintedControls, WithoutAutoRedrawTheControlPaintsAnew)
+{
+    box->AutoRedraw(false);
+    connections += box->Paint.connect([this] {
+        log.emplace_back("paint");
+        box->device().Line(0, 0, 5, 5, QBColor(12));
+    });
+    box->surface().image(1);
+    box->surface().image(1);
+    EXPECT_THAT(log, ElementsAre("paint"));
+    box->Refresh();
+    EXPECT_EQ(drawn(*box), "clear #F0F0F0\nline 0,0 - 5,5 #FF0000\n"
+                           "clear #F0F0F0\nline 0,0 - 5,5 #FF0000\n");
+    EXPECT_EQ(log.size(), 2U);
+}
+
+TEST_F(PaintedControls, PictureLiesBelowWhatIsDrawn)
+{
+    box->Picture(std::make_shared<Picture>(PixelSize{4, 4}));
+    box->border(true);
+    EXPECT_EQ(drawn(*box), "clear #F0F0F0\n"
+                           "image 4x4 from 0,0 4x4 to 0,0 4x4\n"
+                           "box 0,0 20x10 line #A0A0A0\n");
+}
+
+TEST_F(PaintedControls, AutoSizeTakesTheSizeOfThePicture)
+{
+    logs(box->Resize, "resize");
+    box->AutoSize(true);
+    box->Picture(std::make_shared<Picture>(PixelSize{32, 16}));
+    EXPECT_EQ(box->Width(), 480);
+    EXPECT_EQ(box->Height(), 240);
+    EXPECT_THAT(log, ElementsAre("resize"));
+}
+
+TEST_F(PaintedControls, AClickOnAHoleOfTheMaskGoesToWhatLiesBelow)
+{
+    const auto above = form->add<PictureBox>(u"pic_Above");
+    above->Move(0, 0, 300, 150);
+    above->device().MaskColor(QBColor(13));
+    above->device().BackColor(QBColor(13));
+    above->Cls();
+    above->device().Line(0, 0, 4, 9, QBColor(12), LineShape::Filled);
+    above->MaskPicture(above->Image());
+    logs(above->Click, "above");
+    logs(box->Click, "below");
+    headless::click(*above, 2, 2);
+    headless::click(*above, 10, 2);
+    EXPECT_THAT(log, ElementsAre("above", "below"));
+}
+
+TEST_F(PaintedControls, AClickGoesThroughAPlainFigure)
+{
+    const auto marker = form->add<Shape>(u"shp_Avatar");
+    marker->Move(0, 0, 300, 150);
+    logs(box->Click, "below");
+    headless::click(*marker, 3, 3);
+    EXPECT_THAT(log, ElementsAre("below"));
+}
+
+TEST_F(PaintedControls, WithoutAMaskAClickCountsEverywhereInside)
+{
+    box->transparent(true);
+    EXPECT_TRUE(box->surface().hits({19, 9}));
+    EXPECT_FALSE(box->surface().hits({20, 9}));
+}
+
+TEST_F(PaintedControls, UnitOfTheFieldIsThatOfTheControlsWithin)
+{
+    box->ScaleMode(ScaleUnit::Twips);
+    const auto inner = form->add<Label>(u"lab_Inner", box->container());
+    inner->Move(30, 30, 150, 75);
+    EXPECT_EQ(inner->frame().pixelRectangle(), (PixelRectangle{2, 2, 10, 5}));
+    EXPECT_EQ(box->device().ScaleWidth(), 300);
+}
+
+TEST_F(PaintedControls, PointerAndKeysBecomeEvents)
+{
+    connections += box->MouseDown.connect([this](const PointerEvent& event) {
+        log.push_back("down " + std::to_string(static_cast<int>(event.X)));
+    });
+    logs(box->Click, "click");
+    logs(box->DblClick, "double");
+    headless::doubleClick(*box);
+    EXPECT_THAT(log, ElementsAre("down 10", "click", "double"));
+    box->Enabled(false);
+    headless::click(*box);
+    EXPECT_EQ(log.size(), 3U);
+}
+
+TEST_F(PaintedControls, DropsBecomeEvents)
+{
+    const auto source = form->add<Label>(u"lab_Source");
+    connections += box->DragDrop.connect([this](Control& dropped, double x, double y) {
+        log.push_back(toUtf8(dropped.NAME()) + " " + std::to_string(static_cast<int>(x + y)));
+    });
+    connections += box->TextDropped.connect([this](const String& text) { log.push_back(toUtf8(text)); });
+    box->dragDrop(*source, 3, 4);
+    box->textDropped(u"H2O");
+    EXPECT_THAT(log, ElementsAre("lab_Source 7", "H2O"));
+}
+
+TEST_F(PaintedControls, PeerHearsEachChangeOfTheFrameOnce)
+{
+    NotingPeer peer(*box);
+    box->Left(15);
+    box->Left(15);
+    box->Visible(false);
+    box->frame().ToolTipText(u"Hilfe");
+    EXPECT_THAT(peer.heard,
+                ElementsAre(ControlAspect::Geometry, ControlAspect::Visibility, ControlAspect::ToolTip));
+}
+
+} // namespace
+
+} // namespace phial::test
