@@ -63,6 +63,11 @@ frm_Molmasse::frm_Molmasse(TrainerData data)
     show(data_.missing == Missing::Nothing ? Page::Start : Page::Missing);
 }
 
+frm_Molmasse::~frm_Molmasse()
+{
+    form_->discard();
+}
+
 void frm_Molmasse::Show()
 {
     form_->Show();

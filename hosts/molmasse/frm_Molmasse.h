@@ -21,6 +21,9 @@ class frm_Molmasse
 {
 public:
     explicit frm_Molmasse(TrainerData data);
+    ~frm_Molmasse();
+    frm_Molmasse(const frm_Molmasse&) = delete;
+    frm_Molmasse& operator=(const frm_Molmasse&) = delete;
 
     phial::Form& form() { return *form_; }
     void Show();

@@ -1,0 +1,307 @@
+#include "app/cls_Language.h"
+#include "molmasse/TrainerTest.h"
+
+#include <gmock/gmock.h>
+
+namespace molmasse
+{
+namespace
+{
+
+using phial::String;
+using phial::StringView;
+
+constexpr StringView DeleteSign = u"\u232B";
+
+bool contains(const String& text, StringView part)
+{
+    return text.find(part) != String::npos;
+}
+
+TEST_F(TrainerTest, BeginsWithTheChoiceOfTheLevel)
+{
+    openInstalled();
+
+    EXPECT_EQ(form().Caption(), u"Molmassen-Trainer");
+    EXPECT_TRUE(isSeen(u"pan_Start"));
+    EXPECT_FALSE(isSeen(u"pan_Task"));
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Level", 0)->Caption(), u"Leicht");
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Level", 1)->Caption(), u"Mittel");
+    EXPECT_EQ(form().find(u"but_Level", 2), nullptr);
+    EXPECT_EQ(focused(), u"but_Level");
+}
+
+TEST_F(TrainerTest, AWholeRoundGoesByKeysAlone)
+{
+    openInstalled();
+
+    type(u"{enter}");
+    EXPECT_EQ(seen(u"lab_Progress"), u"Aufgabe 1 von 2");
+    EXPECT_EQ(formula(), u"H2O");
+    EXPECT_EQ(seen(u"lab_Name"), u"Wasser");
+    EXPECT_EQ(focused(), u"txt_Answer");
+
+    type(u"18,0{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0 g/mol, 10 Punkte für dich.");
+    EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
+    EXPECT_EQ(buttonText(u"but_Check"), u"Weiter");
+
+    type(u"{enter}");
+    EXPECT_EQ(formula(), u"NaCl");
+    EXPECT_EQ(answer(), u"");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"");
+
+    type(u"58.4{enter}");
+    EXPECT_EQ(buttonText(u"but_Check"), u"Ergebnis");
+
+    type(u"{enter}");
+    EXPECT_EQ(seen(u"lab_Praise"), u"Ausgezeichnet!");
+    EXPECT_EQ(seen(u"lab_Result"), u"20 von 20 Punkten");
+    EXPECT_EQ(seen(u"lab_Solved"), u"2 von 2 Formeln gelöst");
+    EXPECT_EQ(focused(), u"but_Again");
+
+    type(u"{enter}");
+    EXPECT_TRUE(isSeen(u"pan_Start"));
+    EXPECT_EQ(seen(u"lab_Points"), u"");
+
+    type(u"{esc}");
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(TrainerTest, AWholeRoundGoesByTouchAlone)
+{
+    openInstalled();
+
+    touch(u"but_Level", 0);
+    touchPad(u"1");
+    touchPad(u"9");
+    touchPad(DeleteSign);
+    touchPad(u"8,0");
+    EXPECT_EQ(answer(), u"18,0");
+    touch(u"but_Check");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"Richtig!"));
+    touch(u"but_Check");
+
+    touchPad(u"58,4");
+    touch(u"but_Check");
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Result"), u"20 von 20 Punkten");
+
+    touch(u"but_Again");
+    touch(u"but_Level", 1);
+    EXPECT_EQ(formula(), u"HCl");
+    touch(u"but_Stop");
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(TrainerTest, TheSecondLevelIsReachedByTab)
+{
+    openInstalled();
+
+    type(u"{tab}{enter}");
+
+    EXPECT_EQ(formula(), u"HCl");
+    EXPECT_EQ(seen(u"lab_Name"), u"");
+}
+
+TEST_F(TrainerTest, AWrongAnswerMayBeMended)
+{
+    openInstalled();
+    type(u"{enter}17{enter}");
+
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Leider nicht. Du hast noch 2 Versuche.");
+    EXPECT_EQ(buttonText(u"but_Check"), u"Prüfen");
+
+    // The wrong answer is selected, so that typing replaces it.
+    type(u"16{enter}");
+    EXPECT_EQ(answer(), u"16");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Leider nicht. Du hast noch einen Versuch.");
+
+    type(u"18{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0 g/mol, 4 Punkte für dich.");
+}
+
+TEST_F(TrainerTest, TheThirdWrongAnswerTellsTheSolutionAndTheHint)
+{
+    openInstalled();
+    type(u"{enter}1{enter}2{enter}3{enter}");
+
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Schade. Richtig wären 18,0 g/mol.");
+    EXPECT_TRUE(contains(seen(u"lab_Hint"), u"2 \u00D7 H (1,0 g/mol)"));
+    EXPECT_EQ(seen(u"lab_Points"), u"0 Punkte");
+
+    // What is decided is not edited any more.
+    type(u"18");
+    EXPECT_EQ(answer(), u"3");
+    type(u"{enter}");
+    EXPECT_EQ(formula(), u"NaCl");
+    EXPECT_EQ(seen(u"lab_Hint"), u"");
+}
+
+TEST_F(TrainerTest, WhatIsNoNumberIsTurnedDownWithoutLosingATry)
+{
+    openInstalled();
+    type(u"{enter}viel{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Bitte gib eine Zahl ein, zum Beispiel 18,0.");
+
+    type(u"{del}{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Bitte gib eine Zahl ein, zum Beispiel 18,0.");
+
+    type(u"18{enter}");
+    EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
+}
+
+TEST_F(TrainerTest, F1ShowsTheAtomsCountedAndCostsThreePoints)
+{
+    openInstalled();
+    type(u"{enter}{f1}");
+
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1,0 g/mol)<br>1 \u00D7 O (16,0 g/mol)");
+    EXPECT_EQ(focused(), u"txt_Answer");
+
+    type(u"18{enter}");
+    EXPECT_EQ(seen(u"lab_Points"), u"7 Punkte");
+}
+
+TEST_F(TrainerTest, TheHintButtonDoesAsF1)
+{
+    openInstalled();
+    touch(u"but_Level", 0);
+    touch(u"but_Hint");
+
+    EXPECT_TRUE(contains(seen(u"lab_Hint"), u"\u00D7 O"));
+    EXPECT_FALSE(isSeen(u"but_Hint"));
+    touchPad(u"18");
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Points"), u"7 Punkte");
+}
+
+TEST_F(TrainerTest, F1DoesNothingOutsideATask)
+{
+    openInstalled();
+
+    type(u"{f1}");
+
+    EXPECT_TRUE(isSeen(u"pan_Start"));
+    EXPECT_TRUE(isOpen());
+}
+
+TEST_F(TrainerTest, ThePadHonoursSelectionAndGreatestLength)
+{
+    openInstalled();
+    touch(u"but_Level", 0);
+    touchPad(u"1234567890123");
+    EXPECT_EQ(answer(), u"123456789012");
+
+    touch(u"but_Check");
+    touchPad(u"7");
+    EXPECT_EQ(answer(), u"7");
+    touchPad(DeleteSign);
+    touchPad(DeleteSign);
+    EXPECT_EQ(answer(), u"");
+}
+
+TEST_F(TrainerTest, TheBarOfProgressGrowsWithTheTasks)
+{
+    openInstalled();
+    touch(u"but_Level", 0);
+    EXPECT_FALSE(isSeen(u"pan_ProgressDone"));
+
+    type(u"18{enter}");
+
+    const double full = form().control<phial::ctl_Pannel>(u"pan_ProgressBack")->Width();
+    EXPECT_TRUE(isSeen(u"pan_ProgressDone"));
+    EXPECT_DOUBLE_EQ(form().control<phial::ctl_Pannel>(u"pan_ProgressDone")->Width(), full / 2);
+}
+
+TEST_F(TrainerTest, TheWindowGoesWithItsForm)
+{
+    openInstalled();
+    const auto window = form().shared_from_this();
+
+    trainer.reset();
+
+    EXPECT_FALSE(window->Visible());
+    EXPECT_FALSE(window->isLoaded());
+}
+
+TEST_F(TrainerTest, ThePraiseFollowsThePoints)
+{
+    openInstalled();
+    touch(u"but_Level", 1);
+    type(u"1{enter}2{enter}3{enter}{enter}");
+
+    EXPECT_EQ(seen(u"lab_Praise"), u"Übung macht den Meister!");
+    EXPECT_EQ(seen(u"lab_Result"), u"0 von 10 Punkten");
+    EXPECT_FALSE(isSeen(u"pan_ResultDone"));
+    touch(u"but_Quit");
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(TrainerTest, SpeaksEnglishWithTheDecimalSignOfTheUser)
+{
+    install();
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    open();
+
+    EXPECT_EQ(form().Caption(), u"Molar mass trainer");
+    type(u"{enter}18.0{enter}");
+    EXPECT_EQ(seen(u"lab_Name"), u"water");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18,0 g/mol, 10 points for you.");
+    EXPECT_EQ(buttonText(u"but_Check"), u"Next");
+}
+
+TEST_F(TrainerTest, TellsThatTheInstallationIsMissing)
+{
+    // The search is made twice, and each one tells that it found nothing.
+    outside.dialogs().expect(phial::headless::Box::Error);
+    outside.dialogs().expect(phial::headless::Box::Error);
+    open();
+
+    EXPECT_TRUE(isSeen(u"pan_Missing"));
+    EXPECT_TRUE(contains(seen(u"lab_Missing"), u"Die Installation von QV Phial wurde nicht gefunden."));
+    type(u"{enter}");
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(TrainerTest, NamesAMissingElementFile)
+{
+    install({});
+    open();
+
+    EXPECT_TRUE(contains(seen(u"lab_Missing"), u"Die Datei mit den Elementen fehlt"));
+    EXPECT_TRUE(contains(seen(u"lab_Missing"), path(u"installed\\resources\\data\\elements2.dat")));
+    touch(u"but_Leave");
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(TrainerTest, NamesAMissingTaskFile)
+{
+    install(Elements, {});
+    open();
+
+    EXPECT_TRUE(contains(seen(u"lab_Missing"), u"Die Datei mit den Formeln fehlt"));
+    EXPECT_TRUE(contains(seen(u"lab_Missing"), u"formeln.txt"));
+}
+
+TEST_F(TrainerTest, ATaskFileWithoutTasksCountsAsMissing)
+{
+    install(Elements, "\x01\xff\x02 nothing of use [\n]\n|||\n");
+    open();
+
+    EXPECT_TRUE(isSeen(u"pan_Missing"));
+}
+
+TEST_F(TrainerTest, ADamagedTaskFileServesWithWhatIsWhole)
+{
+    install(Elements, "\xff\xfe junk\n[leicht\nH2O | Wasser\n||\nwasser\n[mittel] Mittel\n");
+    open();
+
+    EXPECT_TRUE(isSeen(u"pan_Start"));
+    type(u"{enter}");
+    EXPECT_EQ(formula(), u"H2O");
+    EXPECT_EQ(seen(u"lab_Progress"), u"Aufgabe 1 von 1");
+}
+
+} // namespace
+} // namespace molmasse

@@ -1,0 +1,122 @@
+#pragma once
+
+#include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
+#include "app/sys_Global.h"
+#include "headless/Hand.h"
+#include "molmasse/frm_Molmasse.h"
+#include "support/AppSession.h"
+#include "visual/Form.h"
+
+#include <memory>
+#include <string_view>
+
+namespace molmasse
+{
+
+/// The trainer's window with a pupil before it: an installation with two levels of two and one formulas,
+/// drawn in the order of the file, in German.
+class TrainerTest : public phial::test::AppSession
+{
+protected:
+    static constexpr std::string_view Elements = "H\nWasserstoff\n1.008\n1\n1\n"
+                                                 "O\nSauerstoff\n15.999\n2\n16\n"
+                                                 "Na\nNatrium\n22.98976928\n3\n1\n"
+                                                 "Cl\nChlor\n35.45\n3\n17\n";
+    static constexpr std::string_view Tasks = "[leicht] Leicht | Easy\nH2O | Wasser | water\n"
+                                              "NaCl | Natriumchlorid | sodium chloride\n"
+                                              "[mittel] Mittel | Medium\nHCl\n";
+
+    TrainerTest()
+    {
+        outside.environment().set(u"LANG", u"de_DE.UTF-8");
+        outside.random().numbers({0.0});
+    }
+    void TearDown() override
+    {
+        trainer.reset();
+        AppSession::TearDown();
+    }
+
+    /// What the installation holds; a test puts other files there, or none.
+    void install(std::string_view elements = Elements, std::string_view tasks = Tasks)
+    {
+        makeTree(u"installed\\");
+        writeUnlessEmpty("installed/Resources/data/elements2.dat", elements);
+        writeUnlessEmpty("installed/apps/Molmasse/data/formeln.txt", tasks);
+    }
+
+    void open()
+    {
+        phial::QVAPP()->CONFIG()->IDENT(u"Molmasse");
+        outside.settings().prepare(phial::SettingsHive::LocalMachine, u"Software\\QV Brunnhof\\Phial\\Path",
+                                   path(u"installed\\"));
+        phial::ignoringErrors([] { phial::QVAPP()->INIT({}); });
+        trainer = std::make_unique<frm_Molmasse>(loadTrainerData());
+        trainer->Show();
+    }
+    void openInstalled()
+    {
+        install();
+        open();
+    }
+
+    phial::Form& form() { return trainer->form(); }
+    bool isOpen() { return form().Visible(); }
+
+    // The pupil's hand.
+    void type(phial::StringView keys) { phial::headless::type(form(), keys); }
+    void touch(phial::StringView button, std::int32_t index = -1)
+    {
+        phial::headless::click(*form().control<phial::ctl_Button>(button, index));
+    }
+    /// Presses the pad's key with that sign.
+    void touchPad(phial::StringView signs)
+    {
+        for (const char16_t sign : signs) {
+            touch(u"but_Key", padIndex(sign));
+        }
+    }
+
+    // What the pupil sees.
+    phial::String seen(phial::StringView label)
+    {
+        const auto found = form().control<phial::ctl_Label>(label);
+        return found->frame().isReachable() ? found->Caption() : phial::String(u"(hidden)");
+    }
+    phial::String formula() { return form().control<phial::ctl_TermLabel>(u"trm_Formula")->Term(); }
+    phial::String answer() { return form().control<phial::TextBox>(u"txt_Answer")->Text(); }
+    phial::String buttonText(phial::StringView button)
+    {
+        return form().control<phial::ctl_Button>(button)->Caption();
+    }
+    bool isSeen(phial::StringView control)
+    {
+        return form().control<phial::Control>(control)->frame().isReachable();
+    }
+    phial::String focused()
+    {
+        const auto active = form().ActiveControl();
+        return active ? active->NAME() : phial::String();
+    }
+
+    std::unique_ptr<frm_Molmasse> trainer;
+
+private:
+    void writeUnlessEmpty(const char* file, std::string_view content)
+    {
+        if (!content.empty()) {
+            folder.write(file, content);
+        }
+    }
+    std::int32_t padIndex(char16_t sign)
+    {
+        for (std::int32_t i = 0;; ++i) {
+            if (form().control<phial::ctl_Button>(u"but_Key", i)->Caption() == phial::StringView(&sign, 1)) {
+                return i;
+            }
+        }
+    }
+};
+
+} // namespace molmasse
