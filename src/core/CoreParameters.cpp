@@ -74,7 +74,10 @@ bool CoreParameters::Exists(StringView pName) const
 Variant CoreParameters::Get(StringView pName, Variant pDefault) const
 {
     const std::size_t found = find(pName);
-    return found != NameIndex::npos ? entries_[found].value : std::move(pDefault);
+    if (found != NameIndex::npos) {
+        return entries_[found].value;
+    }
+    return pDefault;
 }
 
 void CoreParameters::Set(StringView pName, Variant pValue)
