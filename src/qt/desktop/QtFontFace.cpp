@@ -67,9 +67,9 @@ void layOutLine(QTextLayout& layout)
 } // namespace
 
 QtFontFace::QtFontFace(const FontSpec& traits)
-    : spec_(traits), font_(toolkitFont(traits, 1)), symbols_(isSymbolFont(traits.name))
+    : traits_(traits), font_(toolkitFont(traits, 1)), symbols_(isSymbolFont(traits.name))
 {
-    fonts_.push_back(sized(QRawFont::fromFont(font_), spec_.pixelSize()));
+    fonts_.push_back(sized(QRawFont::fromFont(font_), traits_.pixelSize()));
     readMetrics();
 }
 
@@ -81,7 +81,7 @@ void QtFontFace::readMetrics()
     constexpr qsizetype DescentPlace = 6;
     const QRawFont& font = fonts_.front();
     const QByteArray table = font.fontTable("hhea");
-    const double unit = font.unitsPerEm() > 0 ? spec_.pixelSize() / font.unitsPerEm() : 0;
+    const double unit = font.unitsPerEm() > 0 ? traits_.pixelSize() / font.unitsPerEm() : 0;
     if (table.size() >= DescentPlace + 2 && unit > 0) {
         ascent_ = std::round(readSigned(table, AscentPlace) * unit);
         descent_ = std::round(-readSigned(table, DescentPlace) * unit);
@@ -104,7 +104,7 @@ bool QtFontFace::needsShaping(StringView text)
 
 void QtFontFace::layOut(QTextLayout& layout, StringView text, double ratio) const
 {
-    layout.setFont(toolkitFont(spec_, ratio));
+    layout.setFont(toolkitFont(traits_, ratio));
     layout.setText(toQt(text));
     layOutLine(layout);
 }
@@ -155,7 +155,7 @@ const QRawFont& QtFontFace::rawFont(std::size_t font, double ratio) const
         scaled = std::prev(scaled_.end());
     }
     while (scaled->fonts.size() <= font) {
-        scaled->fonts.push_back(sized(fonts_[scaled->fonts.size()], spec_.pixelSize() * ratio));
+        scaled->fonts.push_back(sized(fonts_[scaled->fonts.size()], traits_.pixelSize() * ratio));
     }
     return scaled->fonts[font];
 }
@@ -183,7 +183,7 @@ QtFontFace::Glyph QtFontFace::find(char16_t sign) const
 QtFontFace::Glyph QtFontFace::findSymbol(char16_t code) const
 {
     Glyph glyph;
-    const char16_t sign = symbolSign(spec_.name, code);
+    const char16_t sign = symbolSign(traits_.name, code);
     if (code < DirectSigns && take(0, static_cast<char16_t>(PrivateCodes + code), glyph)) {
         return glyph;
     }
@@ -221,9 +221,9 @@ QtFontFace::Glyph QtFontFace::findElsewhere(char16_t sign) const
     layOutLine(layout);
     const QList<QGlyphRun> runs = layout.glyphRuns();
     if (!runs.isEmpty()) {
-        const QRawFont font = sized(runs.front().rawFont(), spec_.pixelSize());
+        const QRawFont font = sized(runs.front().rawFont(), traits_.pixelSize());
         if (!take(fontNumber(font), sign, glyph)) {
-            glyph.advance = spec_.pixelSize() / 2;
+            glyph.advance = traits_.pixelSize() / 2;
         }
     }
     return glyph;

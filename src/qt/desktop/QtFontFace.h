@@ -37,7 +37,7 @@ public:
     double height() const override { return ascent_ + descent_; }
     double ascent() const override { return ascent_; }
 
-    const FontSpec& traits() const { return spec_; }
+    const FontSpec& traits() const { return traits_; }
 
     /// Whether the text's glyphs depend on their neighbours; `pieces` is not for such a text but `layOut`.
     static bool needsShaping(StringView text);
@@ -76,7 +76,7 @@ private:
     Glyph findElsewhere(char16_t sign) const;
     std::size_t fontNumber(const QRawFont& font) const;
 
-    FontSpec spec_;
+    FontSpec traits_;
     QFont font_;
     bool symbols_;
     double ascent_ = 0;

@@ -1,0 +1,40 @@
+#include "qt/desktop/ButtonPeer.h"
+
+#include "qt/base/QtText.h"
+#include "qt/desktop/FontCatalogue.h"
+#include "qt/desktop/PictureImage.h"
+#include "qt/desktop/Theme.h"
+
+#include <QPushButton>
+
+namespace phial::qt
+{
+
+QWidget* ButtonPeer::make(std::shared_ptr<ctl_Button> model, QWidget& holder)
+{
+    auto* button = new QPushButton(&holder);
+    new ButtonPeer(std::move(model), *button); // belongs to the button
+    return button;
+}
+
+ButtonPeer::ButtonPeer(std::shared_ptr<ctl_Button> model, QPushButton& button)
+    : NativePeer(model, button), model_(std::move(model)), button_(button)
+{
+    connect(&button_, &QPushButton::clicked, this, [this] { input([this] { model_->click(); }); });
+    watch(button_);
+    begin();
+}
+
+void ButtonPeer::show(ControlAspect aspect)
+{
+    if (aspect == ControlAspect::Text) {
+        button_.setText(toQt(model_->Caption()));
+    } else if (aspect == ControlAspect::Picture) {
+        button_.setIcon(iconOf(model_->Picture()));
+    } else if (aspect == ControlAspect::Style) {
+        button_.setFont(fontCatalogue().font(model_->Font()->traits()));
+        markAccent(button_, model_->Accent());
+    }
+}
+
+} // namespace phial::qt

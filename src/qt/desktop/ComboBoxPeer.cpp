@@ -1,0 +1,75 @@
+#include "qt/desktop/ComboBoxPeer.h"
+
+#include "qt/base/QtText.h"
+#include "qt/desktop/FontCatalogue.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+namespace phial::qt
+{
+
+QWidget* ComboBoxPeer::make(std::shared_ptr<ComboBox> model, QWidget& holder)
+{
+    auto* box = new QComboBox(&holder);
+    new ComboBoxPeer(std::move(model), *box); // belongs to the box
+    return box;
+}
+
+ComboBoxPeer::ComboBoxPeer(std::shared_ptr<ComboBox> model, QComboBox& box)
+    : NativePeer(model, box), model_(std::move(model)), box_(box)
+{
+    box_.setInsertPolicy(QComboBox::NoInsert);
+    connect(&box_, &QComboBox::activated, this,
+            [this](int row) { input([&] { model_->inputChoice(row); }); });
+    watch(box_);
+    begin();
+}
+
+void ComboBoxPeer::show(ControlAspect aspect)
+{
+    if (aspect == ControlAspect::Style) {
+        showStyle();
+    } else if (aspect == ControlAspect::Items) {
+        showItems();
+    }
+    if (aspect == ControlAspect::Items || aspect == ControlAspect::Selection ||
+        aspect == ControlAspect::Text) {
+        showChoice();
+    }
+}
+
+void ComboBoxPeer::showStyle()
+{
+    box_.setFont(fontCatalogue().font(model_->Font()->traits()));
+    const bool editable = model_->Style() == ComboStyle::Editable;
+    if (editable == box_.isEditable()) {
+        return;
+    }
+    box_.setEditable(editable);
+    if (QLineEdit* line = box_.lineEdit()) {
+        line->setCompleter(nullptr); // what is typed stays as typed
+        connect(line, &QLineEdit::textEdited, this,
+                [this](const QString& text) { input([&] { model_->inputText(fromQt(text)); }); });
+        watch(*line);
+    }
+    showChoice();
+}
+
+void ComboBoxPeer::showItems()
+{
+    box_.clear();
+    for (std::int32_t line = 0; line < model_->ListCount(); ++line) {
+        box_.addItem(toQt(model_->List(line)));
+    }
+}
+
+void ComboBoxPeer::showChoice()
+{
+    box_.setCurrentIndex(model_->ListIndex());
+    if (box_.isEditable() && fromQt(box_.currentText()) != model_->Text()) {
+        box_.setEditText(toQt(model_->Text()));
+    }
+}
+
+} // namespace phial::qt

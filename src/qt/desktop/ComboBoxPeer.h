@@ -1,0 +1,28 @@
+#pragma once
+
+#include "qt/desktop/NativePeer.h"
+#include "visual/ComboBox.h"
+
+class QComboBox;
+
+namespace phial::qt
+{
+
+/// A combo box as the toolkit's own.
+class ComboBoxPeer final : public NativePeer
+{
+public:
+    static QWidget* make(std::shared_ptr<ComboBox> model, QWidget& holder);
+
+private:
+    ComboBoxPeer(std::shared_ptr<ComboBox> model, QComboBox& box);
+    void show(ControlAspect aspect) override;
+    void showStyle();
+    void showItems();
+    void showChoice();
+
+    std::shared_ptr<ComboBox> model_;
+    QComboBox& box_;
+};
+
+} // namespace phial::qt

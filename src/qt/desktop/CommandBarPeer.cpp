@@ -1,0 +1,113 @@
+#include "qt/desktop/CommandBarPeer.h"
+
+#include "qt/base/QtText.h"
+#include "qt/desktop/PictureImage.h"
+#include "qt/desktop/Theme.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr int Margin = 6;
+constexpr int Spacing = 8;
+
+void showButton(QPushButton& widget, const CommandBarButton& button)
+{
+    widget.setText(toQt(button.Caption()));
+    widget.setIcon(iconOf(button.Picture()));
+    widget.setToolTip(toQt(button.ToolTipText()));
+    widget.setEnabled(button.Enabled());
+    widget.setVisible(button.Visible());
+}
+
+} // namespace
+
+QWidget* CommandBarPeer::make(std::shared_ptr<CommandBar> model, QWidget& holder)
+{
+    auto* bar = new QWidget(&holder);
+    bar->setAttribute(Qt::WA_StyledBackground);
+    markBar(*bar);
+    new CommandBarPeer(std::move(model), *bar); // belongs to the bar
+    return bar;
+}
+
+CommandBarPeer::CommandBarPeer(std::shared_ptr<CommandBar> model, QWidget& bar)
+    : NativePeer(model, bar), model_(std::move(model)), bar_(bar), row_(new QHBoxLayout(&bar))
+{
+    row_->setContentsMargins(Margin, Margin, Margin, Margin);
+    row_->setSpacing(Spacing);
+    row_->addStretch();
+    begin();
+}
+
+void CommandBarPeer::show(ControlAspect aspect)
+{
+    if (aspect != ControlAspect::Items) {
+        return;
+    }
+    if (buttons_.size() != static_cast<std::size_t>(model_->BUTTONS()->Count())) {
+        makeButtons();
+    }
+    for (std::size_t at = 0; at < buttons_.size(); ++at) {
+        showButton(*buttons_[at], *model_->BUTTONS()->Item(static_cast<std::int32_t>(at) + 1));
+    }
+}
+
+void CommandBarPeer::makeButtons()
+{
+    for (QPushButton* button : buttons_) {
+        button->hide();
+        button->deleteLater(); // one of them may be the one that was pressed
+    }
+    buttons_.clear();
+    for (std::int32_t number = 1; number <= model_->BUTTONS()->Count(); ++number) {
+        auto* button = new QPushButton(&bar_);
+        button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
+        connect(button, &QPushButton::clicked, this,
+                [this, number] { input([&] { model_->inputButton(number); }); });
+        watch(*button);
+        row_->addWidget(button);
+        buttons_.push_back(button);
+    }
+    bar_.setFocusProxy(buttons_.empty() ? nullptr : buttons_.front());
+}
+
+bool CommandBarPeer::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Left || key == Qt::Key_Right) {
+            moveFocus(watched, key == Qt::Key_Left ? -1 : 1);
+            return true;
+        }
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            static_cast<QPushButton*>(watched)->click();
+            return true;
+        }
+    }
+    return NativePeer::eventFilter(watched, event);
+}
+
+void CommandBarPeer::moveFocus(const QObject* from, int step)
+{
+    const auto count = static_cast<int>(buttons_.size());
+    int at = 0;
+    while (at < count && buttons_[static_cast<std::size_t>(at)] != from) {
+        ++at;
+    }
+    for (at += step; at >= 0 && at < count; at += step) {
+        QPushButton* button = buttons_[static_cast<std::size_t>(at)];
+        if (button->isEnabled() && button->isVisible()) {
+            button->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+} // namespace phial::qt

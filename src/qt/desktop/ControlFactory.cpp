@@ -1,0 +1,48 @@
+#include "qt/desktop/ControlFactory.h"
+
+#include "qt/desktop/ButtonPeer.h"
+#include "qt/desktop/ComboBoxPeer.h"
+#include "qt/desktop/CommandBarPeer.h"
+#include "qt/desktop/ControlWidget.h"
+#include "qt/desktop/ListBoxPeer.h"
+#include "qt/desktop/RichTextBoxPeer.h"
+#include "qt/desktop/ScrollBarPeer.h"
+#include "qt/desktop/TextBoxPeer.h"
+
+namespace phial::qt
+{
+
+namespace
+{
+
+template <typename Model, typename Peer>
+QWidget* makeIf(const ControlPtr& control, QWidget& holder)
+{
+    auto model = std::dynamic_pointer_cast<Model>(control);
+    return model ? Peer::make(std::move(model), holder) : nullptr;
+}
+
+using Maker = QWidget* (*)(const ControlPtr&, QWidget&);
+
+constexpr Maker NativeMakers[] = {
+    makeIf<TextBox, TextBoxPeer>,         makeIf<ctl_Button, ButtonPeer>, makeIf<CommandBar, CommandBarPeer>,
+    makeIf<ScrollBar, ScrollBarPeer>,     makeIf<ListBox, ListBoxPeer>,   makeIf<ComboBox, ComboBoxPeer>,
+    makeIf<RichTextBox, RichTextBoxPeer>,
+};
+
+} // namespace
+
+QWidget* makeControlWidget(const ControlPtr& control, QWidget& holder)
+{
+    if (auto painted = std::dynamic_pointer_cast<UserControl>(control)) {
+        return new ControlWidget(std::move(painted), &holder, ControlWidget::Placement::ByControl);
+    }
+    for (const Maker make : NativeMakers) {
+        if (QWidget* widget = make(control, holder)) {
+            return widget;
+        }
+    }
+    return nullptr; // a control without a look of its own
+}
+
+} // namespace phial::qt

@@ -1,0 +1,377 @@
+#include "qt/desktop/ControlWidget.h"
+
+#include "qt/base/QtText.h"
+#include "qt/desktop/ContainerWidgets.h"
+#include "qt/desktop/ControlWidgetAccessible.h"
+#include "qt/desktop/Dispatch.h"
+#include "qt/desktop/ForeignParent.h"
+#include "qt/desktop/FormKeys.h"
+#include "qt/desktop/InputCodes.h"
+#include "qt/desktop/PartNavigation.h"
+#include "qt/desktop/PictureImage.h"
+#include "qt/desktop/PixelRatio.h"
+#include "qt/desktop/WidgetAspects.h"
+#include "qt/desktop/WindowHandles.h"
+#include "visual/PaintSurface.h"
+
+#include <QApplication>
+#include <QDrag>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPalette>
+
+namespace phial::qt
+{
+
+/// The model's link to the widget, which goes when either does.
+class ControlWidget::Peer final : public ControlPeer
+{
+public:
+    explicit Peer(ControlWidget& widget) : widget_(widget), frame_(widget.control_->frame())
+    {
+        frame_.peer(this);
+    }
+    ~Peer() override
+    {
+        if (frame_.peer() == this) {
+            frame_.peer(nullptr);
+        }
+    }
+    Peer(const Peer&) = delete;
+    Peer& operator=(const Peer&) = delete;
+
+    bool isLinked() const { return frame_.peer() == this; }
+    void modelChanged(ControlAspect aspect) override { widget_.modelChanged(aspect); }
+
+private:
+    ControlWidget& widget_;
+    ControlFrame& frame_;
+};
+
+ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* parent, Placement placement)
+    : QWidget(parent), control_(std::move(control)), placement_(placement)
+{
+    installPartAccessibility();
+    setMouseTracking(true);
+    setAcceptDrops(true);
+    peer_ = std::make_unique<Peer>(*this);
+    registerWindow(control_->hWnd(), *this);
+    if (Container* inner = control_->container()) {
+        children_ = std::make_unique<ContainerWidgets>(*inner, *this);
+    }
+    if (!isForeign()) {
+        applyFrame(*this, *control_);
+        return;
+    }
+    setFocusPolicy(control_->frame().canFocus() ? Qt::StrongFocus : Qt::NoFocus);
+    connect(this, &QObject::objectNameChanged, this,
+            [this](const QString& name) { control_->frame().NAME(fromQt(name)); });
+    findParent();
+}
+
+ControlWidget::~ControlWidget()
+{
+    if (isForeign() && peer_->isLinked()) {
+        dispatch([&] { control_->ended(); });
+    }
+}
+
+QSize ControlWidget::sizeHint() const
+{
+    const PixelSize size = control_->surface().size();
+    return QSizeF(size.width, size.height).toSize();
+}
+
+void ControlWidget::findParent()
+{
+    control_->frame().Parent(ForeignParent::of(*window()));
+}
+
+void ControlWidget::modelChanged(ControlAspect aspect)
+{
+    switch (aspect) {
+    case ControlAspect::Picture:
+        update();
+        break;
+    case ControlAspect::Children:
+    case ControlAspect::ZOrder:
+        if (children_) {
+            children_->synchronise();
+        }
+        break;
+    case ControlAspect::Drag:
+        beginDrag();
+        break;
+    case ControlAspect::Geometry:
+        if (isForeign()) {
+            if (!following_) {
+                updateGeometry();
+            }
+            break;
+        }
+        [[fallthrough]];
+    default:
+        applyFrameAspect(*this, *control_, aspect);
+        break;
+    }
+    if (aspect == ControlAspect::Accessibility) {
+        forgetParts(*this);
+    }
+}
+
+bool ControlWidget::event(QEvent* event)
+{
+    if (!peer_->isLinked()) {
+        event->ignore(); // the control has left its window; this widget ends when its events are over
+        return false;
+    }
+    if (event->type() == QEvent::ParentChange && isForeign()) {
+        findParent();
+    }
+    return QWidget::event(event);
+}
+
+void ControlWidget::paintEvent(QPaintEvent* /*event*/)
+{
+    dispatch([&] {
+        QPainter painter(this);
+        const PicturePtr picture = control_->surface().image(paintRatio(painter));
+        QImage image = imageOf(*picture);
+        image.setDevicePixelRatio(picture->pixelRatio());
+        painter.drawImage(QPointF(0, 0), image);
+        if (hasFocus()) {
+            paintPartFocus(painter, *control_, currentPart_, palette().color(QPalette::Highlight));
+        }
+    });
+}
+
+void ControlWidget::resizeEvent(QResizeEvent* /*event*/)
+{
+    if (!isForeign()) {
+        return;
+    }
+    following_ = true;
+    dispatch([&] {
+        control_->frame().pixelRectangle({double(x()), double(y()), double(width()), double(height())});
+    });
+    following_ = false;
+}
+
+void ControlWidget::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (isForeign()) {
+        findParent();
+        dispatch([&] { control_->shown(); });
+    }
+}
+
+void ControlWidget::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    if (isForeign()) {
+        dispatch([&] { control_->hidden(); });
+    }
+}
+
+// What a press at this place is for, when the control itself lets it through: the next widget below among its
+// siblings, or what holds them.
+QWidget* ControlWidget::widgetBelow(QPoint place) const
+{
+    QWidget* holder = parentWidget();
+    if (!holder || isWindow()) {
+        return nullptr;
+    }
+    const QPoint inHolder = mapTo(holder, place);
+    bool below = false;
+    const QObjectList& siblings = holder->children();
+    for (auto sibling = siblings.rbegin(); sibling != siblings.rend(); ++sibling) {
+        auto* widget = qobject_cast<QWidget*>(*sibling);
+        if (widget == this) {
+            below = true;
+        } else if (below && widget && widget->isVisible() && widget->geometry().contains(inHolder)) {
+            QWidget* inner = widget->childAt(widget->mapFrom(holder, inHolder));
+            return inner ? inner : widget;
+        }
+    }
+    return holder;
+}
+
+// Gives whether the event was for something below. A press takes its moves and its release along.
+bool ControlWidget::passOn(QMouseEvent& event)
+{
+    QWidget* target = passedTo_;
+    if (!target && !pressed_ && !control_->surface().hits({event.position().x(), event.position().y()})) {
+        target = widgetBelow(event.position().toPoint());
+        if (target && event.type() != QEvent::MouseMove) {
+            passedTo_ = target;
+        }
+    }
+    if (!target) {
+        return false;
+    }
+    if (event.type() == QEvent::MouseButtonRelease) {
+        passedTo_.clear();
+    }
+    const QPointF place = target->mapFromGlobal(event.globalPosition());
+    QMouseEvent passed(event.type(), place, event.globalPosition(), event.button(), event.buttons(),
+                       event.modifiers());
+    QApplication::sendEvent(target, &passed);
+    return true;
+}
+
+void ControlWidget::press(const QMouseEvent& event, bool second)
+{
+    pressed_ = true;
+    secondPress_ = second;
+    dispatch([&] { control_->pointerDown(pointerEvent(event)); });
+}
+
+// Each press counts as a click, the second one of a double click as well, so that no tap of a quick hand is
+// lost.
+void ControlWidget::release(const QMouseEvent& event)
+{
+    if (!pressed_) {
+        return; // the press went elsewhere
+    }
+    const bool click = event.button() == Qt::LeftButton &&
+                       control_->surface().hits({event.position().x(), event.position().y()});
+    const bool second = secondPress_;
+    pressed_ = event.buttons() != Qt::NoButton;
+    const auto control = control_; // a handler may close the window
+    const QPointer<ControlWidget> self(this);
+    const auto isLive = [&] { return self && peer_->isLinked(); };
+    dispatch([&] {
+        control->pointerUp(pointerEvent(event));
+        if (click && isLive()) {
+            control->click();
+        }
+        if (click && second && isLive()) {
+            control->doubleClick();
+        }
+    });
+}
+
+void ControlWidget::mousePressEvent(QMouseEvent* event)
+{
+    if (!passOn(*event)) {
+        press(*event, false);
+    }
+}
+
+void ControlWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (!passOn(*event)) {
+        press(*event, true);
+    }
+}
+
+void ControlWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!passOn(*event)) {
+        release(*event);
+    }
+}
+
+void ControlWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!passOn(*event)) {
+        dispatch([&] { control_->pointerMove(pointerEvent(*event)); });
+    }
+}
+
+void ControlWidget::leaveEvent(QEvent* /*event*/)
+{
+    dispatch([&] { control_->pointerLeave(); });
+}
+
+void ControlWidget::keyPressEvent(QKeyEvent* event)
+{
+    const QPointer<ControlWidget> self(this);
+    dispatch([&] {
+        const bool consumed = !keyPressed(*control_, *event);
+        if (self && !consumed && !moveToPart(event->key()) && !activateKey(*event)) {
+            event->ignore();
+        }
+    });
+}
+
+void ControlWidget::keyReleaseEvent(QKeyEvent* event)
+{
+    dispatch([&] { keyReleased(*control_, *event); });
+}
+
+void ControlWidget::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    dispatch([&] { focusEntered(*control_); });
+    update();
+}
+
+void ControlWidget::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    if (isForeign()) {
+        dispatch([&] { control_->frame().focusChanged(false); });
+    }
+    update();
+}
+
+bool ControlWidget::moveToPart(int key)
+{
+    const auto next = nextPart(control_->parts(), currentPart_, key);
+    if (!next) {
+        return false;
+    }
+    currentPart_ = next;
+    announcePart(*this, *next);
+    update();
+    return true;
+}
+
+bool ControlWidget::activateKey(const QKeyEvent& event)
+{
+    const bool isPress =
+        event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const std::vector<NamedPart> parts = control_->parts();
+    if (!isPress || !currentPart_ || *currentPart_ >= parts.size()) {
+        return false;
+    }
+    control_->activatePart(*currentPart_);
+    return true;
+}
+
+void ControlWidget::beginDrag()
+{
+    const std::optional<String> text = control_->dragText();
+    auto* content = new QMimeData;
+    if (text) {
+        content->setText(toQt(*text));
+    }
+    auto* drag = new QDrag(this); // the toolkit ends both
+    drag->setMimeData(content);
+    pressed_ = false;
+    drag->exec(Qt::CopyAction);
+}
+
+void ControlWidget::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (qobject_cast<ControlWidget*>(event->source()) || event->mimeData()->hasText()) {
+        event->acceptProposedAction();
+    }
+}
+
+void ControlWidget::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    dispatch([&] {
+        if (auto* source = qobject_cast<ControlWidget*>(event->source())) {
+            control_->dragDrop(source->control(), event->position().x(), event->position().y());
+        } else {
+            control_->textDropped(fromQt(event->mimeData()->text()));
+        }
+    });
+}
+
+} // namespace phial::qt

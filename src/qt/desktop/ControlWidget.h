@@ -1,0 +1,96 @@
+#pragma once
+
+#include "visual/UserControl.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace phial::qt
+{
+
+class ContainerWidgets;
+
+/// The one widget that hosts a painted control, on the system's forms and in windows of plain Qt.
+///
+/// In a window of its own kind a program places it like any other widget and names it by its object name;
+/// controls that look for a sibling by name find the other control widgets of the window. The session must be
+/// open:
+///
+///     auto label = phial::makeControl<phial::ctl_TermLabel>();
+///     label->Term(u"H2SO4");
+///     auto* widget = new phial::qt::ControlWidget(label);
+///     widget->setObjectName("lab_Term");
+///     layout->addWidget(widget);
+///
+/// The picture is painted at the screen's pixel ratio. A press where the control lets through what lies below
+/// goes there. The named parts of the control are shown to screen readers; the arrow keys go through those
+/// with an action, and the space bar does it.
+class ControlWidget final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Who decides on place and size: the window's layout, which the control follows, or the control, which
+    /// stands on a form.
+    enum class Placement { ByLayout, ByControl };
+
+    explicit ControlWidget(std::shared_ptr<UserControl> control, QWidget* parent = nullptr,
+                           Placement placement = Placement::ByLayout);
+    ~ControlWidget() override;
+
+    UserControl& control() const { return *control_; }
+
+    /// The control's own size.
+    QSize sizeHint() const override;
+
+    /// The part that the arrow keys have reached; none until they are used.
+    std::optional<std::size_t> currentPart() const { return currentPart_; }
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    class Peer;
+
+    void modelChanged(ControlAspect aspect);
+    void findParent();
+    bool isForeign() const { return placement_ == Placement::ByLayout; }
+    QWidget* widgetBelow(QPoint place) const;
+    bool passOn(QMouseEvent& event);
+    void press(const QMouseEvent& event, bool second);
+    void release(const QMouseEvent& event);
+    bool moveToPart(int key);
+    bool activateKey(const QKeyEvent& event);
+    void beginDrag();
+
+    std::shared_ptr<UserControl> control_;
+    Placement placement_;
+    std::unique_ptr<Peer> peer_;
+    std::unique_ptr<ContainerWidgets> children_;
+    QPointer<QWidget> passedTo_; ///< has the press that began on a hole of this one
+    std::optional<std::size_t> currentPart_;
+    bool pressed_ = false;
+    bool secondPress_ = false;
+    bool following_ = false; ///< the control's size is being set to the widget's
+};
+
+} // namespace phial::qt

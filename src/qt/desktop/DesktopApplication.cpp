@@ -1,0 +1,84 @@
+#include "qt/desktop/DesktopApplication.h"
+
+#include "qt/base/BasePlatform.h"
+#include "qt/base/QtText.h"
+#include "qt/desktop/DesktopDialogs.h"
+#include "qt/desktop/DesktopServices.h"
+#include "qt/desktop/Dispatch.h"
+#include "qt/desktop/QtVisualHost.h"
+
+#include <QApplication>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+void preferX11()
+{
+    const bool isWayland = qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String("wayland") ||
+                           qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (isWayland && qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    }
+}
+
+std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
+{
+    preferX11();
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+// Words with blanks get their quotes back, which the shell has taken.
+QString quoted(const QString& word)
+{
+    return word.contains(QLatin1Char(' ')) && !word.contains(QLatin1Char('"')) ? u'"' + word + u'"' : word;
+}
+
+} // namespace
+
+DesktopApplication::DesktopApplication(int& argc, char** argv, StringView title)
+    : title_(title), application_(makeApplication(argc, argv))
+{
+    QApplication::setApplicationDisplayName(toQt(title));
+}
+
+DesktopApplication::~DesktopApplication()
+{
+    dispatchGuard()->setReporter([](const String& text) { qWarning("%s", toUtf8(text).c_str()); });
+}
+
+Platform DesktopApplication::platform() const
+{
+    Platform platform = basePlatform(dispatchGuard());
+    const auto dialogs = std::make_shared<DesktopDialogs>();
+    dispatchGuard()->setReporter([dialogs](const String& text) { dialogs->Error(text, {}); });
+    platform.dialogs = dialogs;
+    platform.display = std::make_shared<DesktopDisplay>();
+    platform.windows = std::make_shared<DesktopWindowOps>();
+    platform.cursors = std::make_shared<DesktopCursors>();
+    platform.textBoxes = std::make_shared<DesktopTextBoxes>();
+    platform.shell = std::make_shared<DesktopShell>();
+    platform.visual = std::make_shared<QtVisualHost>();
+    platform.programTitle = title_;
+    return platform;
+}
+
+String DesktopApplication::commandLine() const
+{
+    QStringList words;
+    const QStringList arguments = QApplication::arguments().mid(1);
+    for (const QString& word : arguments) {
+        words += quoted(word);
+    }
+    return fromQt(words.join(QLatin1Char(' ')));
+}
+
+int DesktopApplication::run() const
+{
+    return QApplication::exec();
+}
+
+} // namespace phial::qt

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/Platform.h"
+
+#include <memory>
+
+class QApplication;
+
+namespace phial::qt
+{
+
+/// The program on a desktop: made first in `main`, before the session, and ended last.
+///
+///     int main(int argc, char** argv)
+///     {
+///         const phial::qt::DesktopApplication application(argc, argv, u"Molmasse");
+///         const phial::Session session(application.platform());
+///         …
+///         return application.run();
+///     }
+///
+/// Where the desktop is Wayland, which tells programs neither where their windows are nor where the pointer
+/// is, its X11 side is taken if there is one. A platform that the environment names stays.
+class DesktopApplication
+{
+public:
+    /// `title` names the program in its windows and boxes.
+    DesktopApplication(int& argc, char** argv, StringView title);
+    ~DesktopApplication();
+    DesktopApplication(const DesktopApplication&) = delete;
+    DesktopApplication& operator=(const DesktopApplication&) = delete;
+
+    /// The whole outside, for one session.
+    Platform platform() const;
+
+    /// What followed the program's name on its command line, as one text.
+    String commandLine() const;
+
+    /// Runs events until the last window has closed; gives the program's result.
+    int run() const;
+
+private:
+    String title_;
+    std::unique_ptr<QApplication> application_;
+};
+
+} // namespace phial::qt

@@ -1,0 +1,204 @@
+#include "qt/desktop/DesktopDialogs.h"
+
+#include "core/NativePath.h"
+#include "core/ProgramTitle.h"
+#include "core/SessionState.h"
+#include "qt/base/QtText.h"
+#include "qt/desktop/SystemBox.h"
+#include "qt/desktop/Theme.h"
+#include "qt/desktop/Toast.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr int German = 7;
+constexpr QSize TextBoxSize(560, 420);
+constexpr int InputWidth = 360;
+constexpr int IconSize = 48;
+
+struct ButtonText {
+    const char16_t* german;
+    const char16_t* english;
+};
+
+constexpr ButtonText Ok{u"OK", u"OK"};
+constexpr ButtonText Yes{u"Ja", u"Yes"};
+constexpr ButtonText No{u"Nein", u"No"};
+constexpr ButtonText Cancel{u"Abbrechen", u"Cancel"};
+constexpr ButtonText Close{u"Schließen", u"Close"};
+
+QString inLanguage(const ButtonText& text)
+{
+    const bool german = !SessionState::isOpen() || SessionState::current().locale().language == German;
+    return toQt(german ? text.german : text.english);
+}
+
+QString titleOr(StringView title)
+{
+    return toQt(title.empty() ? programTitle() : String(title));
+}
+
+QPushButton* addButton(QMessageBox& box, const ButtonText& text, QMessageBox::ButtonRole role)
+{
+    QPushButton* button = box.addButton(inLanguage(text), role);
+    button->setMinimumHeight(button->sizeHint().height() + 8);
+    return button;
+}
+
+void prepare(QMessageBox& box, StringView text, StringView title)
+{
+    box.setWindowTitle(titleOr(title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(toQt(text));
+}
+
+void showMessage(QMessageBox& box)
+{
+    QPushButton* ok = addButton(box, Ok, QMessageBox::AcceptRole);
+    markAccent(*ok, true);
+    const SystemBox open;
+    box.exec();
+}
+
+QPushButton* closingButton(QDialog& dialog, const ButtonText& text, void (QDialog::*end)())
+{
+    auto* button = new QPushButton(inLanguage(text), &dialog);
+    button->setMinimumHeight(button->sizeHint().height() + 8);
+    QObject::connect(button, &QPushButton::clicked, &dialog, end);
+    return button;
+}
+
+} // namespace
+
+void DesktopDialogs::Info(StringView pText, StringView pTitle, StringView pIcon)
+{
+    QMessageBox box(QApplication::activeWindow());
+    prepare(box, pText, pTitle);
+    const QPixmap icon(pIcon.empty() ? QString() : toQt(nativePath(pIcon).u16string()));
+    if (icon.isNull()) {
+        box.setIcon(QMessageBox::Information);
+    } else {
+        box.setIconPixmap(icon.scaled(IconSize, IconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    }
+    showMessage(box);
+}
+
+void DesktopDialogs::Error(StringView pText, StringView pTitle)
+{
+    QMessageBox box(QApplication::activeWindow());
+    prepare(box, pText, pTitle);
+    box.setIcon(QMessageBox::Critical);
+    showMessage(box);
+}
+
+DialogAnswer DesktopDialogs::YesNo(StringView pText, StringView pTitle)
+{
+    QMessageBox box(QApplication::activeWindow());
+    prepare(box, pText, pTitle);
+    box.setIcon(QMessageBox::Question);
+    QPushButton* yes = addButton(box, Yes, QMessageBox::YesRole);
+    QPushButton* no = addButton(box, No, QMessageBox::NoRole);
+    box.setDefaultButton(yes);
+    box.setEscapeButton(no);
+    const SystemBox open;
+    box.exec();
+    return box.clickedButton() == yes ? DialogAnswer::Yes : DialogAnswer::No;
+}
+
+void DesktopDialogs::Text(StringView pText, StringView pTitle)
+{
+    QDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(titleOr(pTitle));
+    dialog.resize(TextBoxSize);
+    auto* layout = new QVBoxLayout(&dialog);
+    auto* text = new QPlainTextEdit(toQt(pText), &dialog);
+    text->setReadOnly(true);
+    layout->addWidget(text);
+    layout->addWidget(closingButton(dialog, Close, &QDialog::accept), 0, Qt::AlignRight);
+    const SystemBox open;
+    dialog.exec();
+}
+
+String DesktopDialogs::SaveFile(StringView pFolder, StringView pTitle, StringView pFilter)
+{
+    QFileDialog dialog(QApplication::activeWindow(), titleOr(pTitle));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (!pFolder.empty()) {
+        dialog.setDirectory(toQt(nativePath(pFolder).u16string()));
+    }
+    const QString filter = toQt(toolkitFilter(pFilter));
+    dialog.setNameFilter(filter);
+    const qsizetype dot = filter.indexOf(QLatin1String("*."));
+    if (dot >= 0) {
+        dialog.setDefaultSuffix(
+            filter.mid(dot + 2).section(QLatin1Char(')'), 0, 0).section(QLatin1Char(' '), 0, 0));
+    }
+    const SystemBox open;
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return {};
+    }
+    return systemPath(dialog.selectedFiles().constFirst().toStdU16String());
+}
+
+void DesktopDialogs::Done(StringView pText)
+{
+    const SystemBox open;
+    showToast(toQt(pText));
+}
+
+String DesktopDialogs::Input(StringView pPrompt, StringView pTitle, StringView pDefault)
+{
+    QDialog dialog(QApplication::activeWindow());
+    dialog.setWindowTitle(titleOr(pTitle));
+    dialog.setMinimumWidth(InputWidth);
+    auto* layout = new QVBoxLayout(&dialog);
+    auto* prompt = new QLabel(toQt(pPrompt), &dialog);
+    prompt->setTextFormat(Qt::PlainText);
+    prompt->setWordWrap(true);
+    auto* line = new QLineEdit(toQt(pDefault), &dialog);
+    line->setMinimumHeight(line->sizeHint().height() + 8);
+    line->selectAll();
+    prompt->setBuddy(line);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    QPushButton* ok = closingButton(dialog, Ok, &QDialog::accept);
+    ok->setDefault(true);
+    markAccent(*ok, true);
+    buttons->addWidget(ok);
+    buttons->addWidget(closingButton(dialog, Cancel, &QDialog::reject));
+    layout->addWidget(prompt);
+    layout->addWidget(line);
+    layout->addLayout(buttons);
+    const SystemBox open;
+    return dialog.exec() == QDialog::Accepted ? fromQt(line->text()) : String();
+}
+
+String toolkitFilter(StringView pairs)
+{
+    const std::vector<StringView> parts = split(pairs, u"|");
+    String filter;
+    for (std::size_t at = 0; at + 1 < parts.size(); at += 2) {
+        if (!filter.empty()) {
+            filter += u";;";
+        }
+        filter += String(parts[at]) + u" (" + replaced(parts[at + 1], u";", u" ") + u")";
+    }
+    return filter;
+}
+
+} // namespace phial::qt

@@ -1,0 +1,174 @@
+#include "qt/desktop/DesktopServices.h"
+
+#include "core/NativePath.h"
+#include "core/RuntimeError.h"
+#include "core/SessionState.h"
+#include "qt/base/Processes.h"
+#include "qt/base/QtText.h"
+#include "qt/desktop/FontCatalogue.h"
+#include "qt/desktop/PictureImage.h"
+#include "qt/desktop/WindowHandles.h"
+#include "visual/Form.h"
+#include "visual/TextBox.h"
+#include "visual/VisualHost.h"
+
+#include <QCursor>
+#include <QDesktopServices>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QImageReader>
+#include <QScreen>
+#include <QUrl>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr double StandardDotsPerInch = 96;
+
+QRect placeOnScreen(WindowHandle handle)
+{
+    const QWidget* widget = widgetOf(handle);
+    if (!widget) {
+        return {};
+    }
+    return widget->isWindow() ? widget->frameGeometry()
+                              : QRect(widget->mapToGlobal(QPoint()), widget->size());
+}
+
+std::shared_ptr<Form> formOf(WindowHandle handle)
+{
+    const Forms& forms = visualHost().forms();
+    for (std::size_t at = 0; at < forms.Count(); ++at) {
+        if (forms.Item(at)->hWnd() == handle) {
+            return forms.Item(at);
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+std::int32_t DesktopDisplay::CursorX() const
+{
+    return QCursor::pos().x();
+}
+std::int32_t DesktopDisplay::CursorY() const
+{
+    return QCursor::pos().y();
+}
+
+std::int32_t DesktopDisplay::Width() const
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->size().width() : 0;
+}
+
+std::int32_t DesktopDisplay::Height() const
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->size().height() : 0;
+}
+
+std::optional<std::int32_t> DesktopDisplay::TextHeight() const
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen) {
+        return std::nullopt;
+    }
+    const double height = QFontMetricsF(fontCatalogue().font(FontSpec())).height();
+    return static_cast<std::int32_t>(
+        std::lround(height * StandardDotsPerInch / screen->logicalDotsPerInch()));
+}
+
+std::int32_t DesktopWindowOps::ScreenTop(WindowHandle pWindow) const
+{
+    return placeOnScreen(pWindow).y();
+}
+std::int32_t DesktopWindowOps::ScreenLeft(WindowHandle pWindow) const
+{
+    return placeOnScreen(pWindow).x();
+}
+
+std::int32_t DesktopWindowOps::ScreenBottom(WindowHandle pWindow) const
+{
+    const QRect place = placeOnScreen(pWindow);
+    return place.y() + place.height();
+}
+
+std::int32_t DesktopWindowOps::ScreenRight(WindowHandle pWindow) const
+{
+    const QRect place = placeOnScreen(pWindow);
+    return place.x() + place.width();
+}
+
+void DesktopWindowOps::SetTranslucent(WindowHandle pWindow, std::int32_t pOpacity, TranslucentMode pMode,
+                                      Colour pColourKey)
+{
+    const std::shared_ptr<Form> form = formOf(pWindow);
+    if (!form) {
+        return;
+    }
+    Translucency translucency = form->translucency();
+    switch (pMode) {
+    case TranslucentMode::ColourKey:
+        translucency.colourKey = pColourKey;
+        break;
+    case TranslucentMode::Opacity:
+        translucency.opacity = std::clamp(pOpacity, 0, 255);
+        break;
+    }
+    form->translucency(std::move(translucency));
+}
+
+std::shared_ptr<Picture> DesktopCursors::Load(StringView pPath, std::int32_t pSize, bool pShared, bool pQuiet)
+{
+    const String key = lowerCase(pPath) + u"|" + fromQt(QString::number(pSize));
+    if (const auto known = shared_.find(key); pShared && known != shared_.end()) {
+        return known->second;
+    }
+    QImage image(toQt(nativePath(pPath).u16string()));
+    if (image.isNull()) {
+        if (!pQuiet) {
+            throw RuntimeError(ErrorNumber::FileNotFound);
+        }
+        return nullptr;
+    }
+    if (pSize > 0) {
+        image = image.scaled(pSize, pSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+    auto picture = pictureOf(image);
+    if (pShared) {
+        shared_[key] = picture;
+    }
+    return picture;
+}
+
+void DesktopTextBoxes::Prepare(TextBox& pTextBox)
+{
+    pTextBox.SetFocus();
+    pTextBox.SelStart(0);
+    pTextBox.SelLength(static_cast<std::int32_t>(pTextBox.Text().size()));
+}
+
+bool DesktopShell::open(WindowHandle /*window*/, StringView address)
+{
+    const std::filesystem::path file = nativePath(address);
+    const bool isFile = !file.empty() && std::filesystem::exists(file);
+    const QUrl url =
+        isFile ? QUrl::fromLocalFile(toQt(file.u16string())) : QUrl::fromUserInput(toQt(address));
+    return url.isValid() && QDesktopServices::openUrl(url);
+}
+
+bool DesktopShell::start(StringView program, std::span<const String> arguments)
+{
+    return startProcess(program, arguments);
+}
+
+} // namespace phial::qt

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "core/CoreCursors.h"
+#include "core/CoreDisplay.h"
+#include "core/CoreTextBoxOps.h"
+#include "core/CoreWindowOps.h"
+#include "core/Shell.h"
+
+#include <map>
+
+/// The smaller services of the desktop; each does what its interface says.
+namespace phial::qt
+{
+
+class DesktopDisplay final : public CoreDisplay
+{
+public:
+    std::int32_t CursorX() const override;
+    std::int32_t CursorY() const override;
+    std::int32_t Width() const override;
+    std::int32_t Height() const override;
+    /// Of the system's standard font, brought back to 96 dots to an inch: a desktop's own zoom makes no
+    /// difference, a larger font does.
+    std::optional<std::int32_t> TextHeight() const override;
+};
+
+class DesktopWindowOps final : public CoreWindowOps
+{
+public:
+    std::int32_t ScreenTop(WindowHandle pWindow) const override;
+    std::int32_t ScreenLeft(WindowHandle pWindow) const override;
+    std::int32_t ScreenBottom(WindowHandle pWindow) const override;
+    std::int32_t ScreenRight(WindowHandle pWindow) const override;
+    /// For handles of loaded forms, shown or not.
+    void SetTranslucent(WindowHandle pWindow, std::int32_t pOpacity, TranslucentMode pMode,
+                        Colour pColourKey) override;
+    /// Nothing: the desktops give no way to it.
+    void TaskbarVisible(bool) override {}
+};
+
+class DesktopCursors final : public CoreCursors
+{
+public:
+    std::shared_ptr<Picture> Load(StringView pPath, std::int32_t pSize, bool pShared, bool pQuiet) override;
+
+private:
+    std::map<String, std::shared_ptr<Picture>> shared_;
+};
+
+class DesktopTextBoxes final : public CoreTextBoxOps
+{
+public:
+    void Prepare(TextBox& pTextBox) override;
+};
+
+class DesktopShell final : public Shell
+{
+public:
+    bool open(WindowHandle window, StringView address) override;
+    bool start(StringView program, std::span<const String> arguments) override;
+};
+
+} // namespace phial::qt

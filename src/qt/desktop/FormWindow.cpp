@@ -1,0 +1,326 @@
+#include "qt/desktop/FormWindow.h"
+
+#include "qt/base/QtText.h"
+#include "qt/desktop/Cursors.h"
+#include "qt/desktop/Dispatch.h"
+#include "qt/desktop/FormArea.h"
+#include "qt/desktop/InputCodes.h"
+#include "qt/desktop/MenuBar.h"
+#include "qt/desktop/PictureImage.h"
+#include "qt/desktop/SystemBox.h"
+#include "qt/desktop/WindowHandles.h"
+#include "qt/desktop/WindowShape.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include <algorithm>
+#include <cmath>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr double SolidOpacity = 255;
+
+Qt::WindowFlags flagsFor(const Form& form)
+{
+    switch (form.BorderStyle()) {
+    case BorderStyle::None:
+        return Qt::Window | Qt::FramelessWindowHint;
+    case BorderStyle::FixedDialog:
+        return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+    case BorderStyle::FixedSingle:
+        return Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+               Qt::WindowMinimizeButtonHint;
+    case BorderStyle::Sizable:
+        break;
+    }
+    return Qt::Window;
+}
+
+int toPixels(double twips)
+{
+    return static_cast<int>(std::lround(twips / TwipsPerPixel));
+}
+
+QSize innerSize(const Form& form)
+{
+    const PixelSize size = form.innerSize();
+    return {static_cast<int>(std::lround(size.width)), static_cast<int>(std::lround(size.height))};
+}
+
+} // namespace
+
+FormWindow::FormWindow(const std::shared_ptr<Form>& form, QWidget* owner)
+    : QWidget(owner, flagsFor(*form)), form_(form), menuBar_(new QMenuBar(this)),
+      area_(new FormArea(form, *this))
+{
+    registerWindow(form_->hWnd(), *this);
+    controls_ = std::make_unique<ContainerWidgets>(form_->container(), *area_);
+}
+
+FormWindow::~FormWindow() = default;
+
+void FormWindow::open()
+{
+    open_ = true;
+    showAll();
+    showState(); // puts it on the screen
+    tellGeometry();
+}
+
+void FormWindow::leave()
+{
+    open_ = false;
+    for (std::size_t at = 0; at < form_->controlCount(); ++at) {
+        if (auto* control = dynamic_cast<Control*>(form_->controlAt(at).get())) {
+            control->frame().peer(nullptr);
+        }
+    }
+    hide();
+    deleteLater();
+}
+
+void FormWindow::showAll()
+{
+    const QScopedValueRollback<bool> showing(showing_, true);
+    setWindowTitle(toQt(form_->Caption()));
+    setEnabled(form_->Enabled());
+    showMenu(*menuBar_, form_->menu());
+    showStyle();
+    showGeometry();
+}
+
+void FormWindow::modelChanged(FormAspect aspect)
+{
+    const QScopedValueRollback<bool> showing(showing_, true);
+    switch (aspect) {
+    case FormAspect::Caption:
+        setWindowTitle(toQt(form_->Caption()));
+        break;
+    case FormAspect::Geometry:
+        showGeometry();
+        break;
+    case FormAspect::WindowState:
+    case FormAspect::Visibility:
+        showState();
+        break;
+    case FormAspect::Enabled:
+        setEnabled(form_->Enabled());
+        break;
+    case FormAspect::Style:
+        showStyle();
+        break;
+    case FormAspect::Children:
+        controls_->synchronise();
+        break;
+    case FormAspect::Menu:
+        showMenu(*menuBar_, form_->menu());
+        showGeometry();
+        break;
+    case FormAspect::Focus:
+        showFocus();
+        break;
+    case FormAspect::ZOrder:
+        controls_->synchronise();
+        raise();
+        break;
+    }
+    scheduleShape();
+}
+
+void FormWindow::showStyle()
+{
+    if (windowFlags().testFlag(Qt::FramelessWindowHint) != (form_->BorderStyle() == BorderStyle::None)) {
+        setWindowFlags(flagsFor(*form_));
+        setVisible(open_);
+    }
+    setWindowIcon(form_->Icon() ? iconOf(form_->Icon()) : QApplication::windowIcon());
+    setWindowOpacity(std::clamp(form_->translucency().opacity / SolidOpacity, 0.0, 1.0));
+    setCursor(cursorFor(form_->MousePointer(), nullptr));
+    area_->update();
+    scheduleShape();
+}
+
+QSize FormWindow::menuSize() const
+{
+    return {0, menuBar_->isHidden() ? 0 : menuBar_->sizeHint().height()};
+}
+
+void FormWindow::showGeometry()
+{
+    const QSize size = innerSize(*form_) + menuSize();
+    if (form_->BorderStyle() == BorderStyle::Sizable) {
+        resize(size);
+    } else {
+        setFixedSize(size);
+    }
+    // Without a place of its own the desktop puts a framed window where it sees fit.
+    const bool placed = form_->Left() != 0 || form_->Top() != 0 || form_->BorderStyle() == BorderStyle::None;
+    if (placed) {
+        move(toPixels(form_->Left()), toPixels(form_->Top()));
+    }
+    arrange();
+}
+
+void FormWindow::arrange()
+{
+    const int menuHeight = menuSize().height();
+    menuBar_->setGeometry(0, 0, width(), menuHeight);
+    area_->setGeometry(0, menuHeight, width(), height() - menuHeight);
+}
+
+void FormWindow::showState()
+{
+    if (!open_) {
+        return;
+    }
+    switch (form_->WindowState()) {
+    case phial::WindowState::Normal:
+        showNormal();
+        break;
+    case phial::WindowState::Minimized:
+        showMinimized();
+        break;
+    case phial::WindowState::Maximized:
+        form_->BorderStyle() == BorderStyle::None ? showFullScreen() : showMaximized();
+        break;
+    }
+}
+
+void FormWindow::showFocus()
+{
+    raise();
+    activateWindow();
+}
+
+void FormWindow::scheduleShape()
+{
+    const Translucency& translucency = form_->translucency();
+    if (shapeScheduled_ || !(translucency.colourKey || translucency.mask)) {
+        return;
+    }
+    shapeScheduled_ = true;
+    QTimer::singleShot(0, this, [this] {
+        shapeScheduled_ = false;
+        showShape();
+    });
+}
+
+void FormWindow::showShape()
+{
+    if (open_) {
+        applyShape(*this, *area_, form_->translucency());
+    }
+}
+
+// What title and borders take is known when the desktop has put them around the window.
+void FormWindow::tellGeometry()
+{
+    if (!open_ || showing_ || isMinimized()) {
+        return;
+    }
+    const QSize around = frameGeometry().size() - geometry().size() + menuSize();
+    const QRect frame = frameGeometry();
+    dispatch([&] {
+        form_->decoration({static_cast<double>(around.width()), static_cast<double>(around.height())});
+        form_->inputGeometry(frame.left() * TwipsPerPixel, frame.top() * TwipsPerPixel,
+                             frame.width() * TwipsPerPixel, frame.height() * TwipsPerPixel);
+    });
+}
+
+void FormWindow::moveEvent(QMoveEvent* event)
+{
+    QWidget::moveEvent(event);
+    tellGeometry();
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    arrange();
+    tellGeometry();
+    scheduleShape();
+}
+
+void FormWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && open_ && !showing_) {
+        const bool maximized = isMaximized() || isFullScreen();
+        form_->inputWindowState(isMinimized() ? phial::WindowState::Minimized
+                                : maximized   ? phial::WindowState::Maximized
+                                              : phial::WindowState::Normal);
+    }
+}
+
+bool FormWindow::event(QEvent* event)
+{
+    const auto self = form_; // handlers may close the window
+    if (event->type() == QEvent::WindowActivate && open_) {
+        dispatch([&] { self->inputActivate(); });
+    } else if (event->type() == QEvent::WindowDeactivate && open_ && !SystemBox::isOpen()) {
+        dispatch([&] { self->inputDeactivate(); });
+    }
+    return QWidget::event(event);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore(); // the model closes the window if it agrees
+    if (open_) {
+        const auto form = form_;
+        dispatch([&] { form->inputClose(); });
+    }
+}
+
+// Keys that no control has taken, or that were struck while none has the focus.
+void FormWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (!open_ || form_->ActiveControl()) {
+        return;
+    }
+    dispatch([&] {
+        const auto form = form_;
+        KeyEvent key = keyEvent(*event);
+        KeyPressEvent typed{typedCharacter(*event)};
+        if (form->inputKeyDown(key) && typed.KeyAscii != 0 && form->Visible()) {
+            form->inputKeyPress(typed);
+        }
+    });
+}
+
+void FormWindow::keyReleaseEvent(QKeyEvent* event)
+{
+    if (!open_ || form_->ActiveControl()) {
+        return;
+    }
+    dispatch([&] {
+        KeyEvent key = keyEvent(*event);
+        form_->inputKeyUp(key);
+    });
+}
+
+bool FormWindow::focusNextPrevChild(bool next)
+{
+    const std::vector<ControlPtr> order = form_->tabOrder();
+    if (!open_ || order.empty()) {
+        return false;
+    }
+    const auto current = std::find(order.begin(), order.end(), form_->ActiveControl());
+    const auto count = static_cast<std::ptrdiff_t>(order.size());
+    std::ptrdiff_t at = next ? 0 : count - 1;
+    if (current != order.end()) {
+        at = (current - order.begin() + (next ? 1 : count - 1)) % count;
+    }
+    const auto form = form_;
+    return dispatch([&] { form->focus(order[static_cast<std::size_t>(at)]); });
+}
+
+} // namespace phial::qt

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "qt/desktop/ContainerWidgets.h"
+#include "visual/Form.h"
+
+#include <QWidget>
+
+class QMenuBar;
+
+namespace phial::qt
+{
+
+/// The window of a form. It reads the model and tells it what the user and the desktop do with the window;
+/// the model decides. The controls stand in an area below the menu bar.
+///
+/// The window is modal by the host's ModalGate, not by the toolkit, so that a press on a window that is
+/// blocked can be told to the form as a deactivation.
+class FormWindow final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    FormWindow(const std::shared_ptr<Form>& form, QWidget* owner);
+    ~FormWindow() override;
+
+    /// Puts the window on the screen, in the model's present state.
+    void open();
+    /// Takes it off the screen and leaves the model alone from now on; the window ends when its events are
+    /// over.
+    void leave();
+
+    void modelChanged(FormAspect aspect);
+    Form& form() const { return *form_; }
+    /// Where the controls stand.
+    QWidget& area() { return *area_; }
+    /// The window's holes may have changed.
+    void scheduleShape();
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    void showAll();
+    void showStyle();
+    void showGeometry();
+    void showState();
+    void showShape();
+    void showFocus();
+    void tellGeometry();
+    void arrange();
+    QSize menuSize() const;
+
+    std::shared_ptr<Form> form_;
+    QMenuBar* menuBar_;
+    QWidget* area_;
+    std::unique_ptr<ContainerWidgets> controls_;
+    bool open_ = false;
+    bool showing_ = false; ///< the model is being shown; what the window says of itself is an echo
+    bool shapeScheduled_ = false;
+};
+
+} // namespace phial::qt

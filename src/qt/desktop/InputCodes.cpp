@@ -1,0 +1,171 @@
+#include "qt/desktop/InputCodes.h"
+
+#include <QChar>
+
+#include <array>
+#include <iterator>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+struct KeyPair {
+    Qt::Key toolkit;
+    Key code;
+};
+
+constexpr KeyPair KeyPairs[] = {
+    {Qt::Key_Backspace, Key::Backspace},
+    {Qt::Key_Tab, Key::Tab},
+    {Qt::Key_Backtab, Key::Tab},
+    {Qt::Key_Return, Key::Return},
+    {Qt::Key_Enter, Key::Return},
+    {Qt::Key_Escape, Key::Escape},
+    {Qt::Key_Space, Key::Space},
+    {Qt::Key_PageUp, Key::PageUp},
+    {Qt::Key_PageDown, Key::PageDown},
+    {Qt::Key_End, Key::End},
+    {Qt::Key_Home, Key::Home},
+    {Qt::Key_Left, Key::Left},
+    {Qt::Key_Up, Key::Up},
+    {Qt::Key_Right, Key::Right},
+    {Qt::Key_Down, Key::Down},
+    {Qt::Key_Insert, Key::Insert},
+    {Qt::Key_Delete, Key::Delete},
+};
+
+constexpr int FirstFunctionKey = static_cast<int>(Key::F1);
+constexpr int FunctionKeys = 12;
+
+std::int32_t codeOf(int toolkitKey)
+{
+    for (const KeyPair& pair : KeyPairs) {
+        if (pair.toolkit == toolkitKey) {
+            return static_cast<std::int32_t>(pair.code);
+        }
+    }
+    if (toolkitKey >= Qt::Key_F1 && toolkitKey < Qt::Key_F1 + FunctionKeys) {
+        return FirstFunctionKey + toolkitKey - Qt::Key_F1;
+    }
+    return toolkitKey < Qt::Key_Escape ? toolkitKey
+                                       : 0; // letters as capitals, digits and signs as themselves
+}
+
+int toolkitCode(Key code)
+{
+    const int number = static_cast<int>(code);
+    for (const KeyPair& pair : KeyPairs) {
+        if (pair.code == code) {
+            return pair.toolkit;
+        }
+    }
+    if (number >= FirstFunctionKey && number < FirstFunctionKey + FunctionKeys) {
+        return Qt::Key_F1 + number - FirstFunctionKey;
+    }
+    return number;
+}
+
+Qt::KeyboardModifiers modifiersOf(std::int32_t shift)
+{
+    Qt::KeyboardModifiers modifiers;
+    modifiers.setFlag(Qt::ShiftModifier, (shift & ShiftMask::Shift) != 0);
+    modifiers.setFlag(Qt::ControlModifier, (shift & ShiftMask::Control) != 0);
+    modifiers.setFlag(Qt::AltModifier, (shift & ShiftMask::Alt) != 0);
+    return modifiers;
+}
+
+// Keys that both have a code and type a character.
+char16_t characterOf(Key code)
+{
+    switch (code) {
+    case Key::Backspace:
+    case Key::Tab:
+    case Key::Return:
+    case Key::Escape:
+    case Key::Space:
+        return static_cast<char16_t>(code);
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+std::int32_t shiftBits(Qt::KeyboardModifiers modifiers)
+{
+    return (modifiers.testFlag(Qt::ShiftModifier) ? ShiftMask::Shift : 0) |
+           (modifiers.testFlag(Qt::ControlModifier) ? ShiftMask::Control : 0) |
+           (modifiers.testFlag(Qt::AltModifier) ? ShiftMask::Alt : 0);
+}
+
+PointerButton pointerButton(Qt::MouseButton button)
+{
+    switch (button) {
+    case Qt::LeftButton:
+        return PointerButton::Left;
+    case Qt::RightButton:
+        return PointerButton::Right;
+    case Qt::MiddleButton:
+        return PointerButton::Middle;
+    default:
+        return PointerButton::None;
+    }
+}
+
+PointerEvent pointerEvent(const QMouseEvent& event)
+{
+    PointerEvent pointer;
+    if (event.type() == QEvent::MouseMove) {
+        std::int32_t down = 0;
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+            if (event.buttons().testFlag(button)) {
+                down |= static_cast<std::int32_t>(pointerButton(button));
+            }
+        }
+        pointer.Button = static_cast<PointerButton>(down);
+    } else {
+        pointer.Button = pointerButton(event.button());
+    }
+    pointer.Shift = shiftBits(event.modifiers());
+    pointer.X = event.position().x();
+    pointer.Y = event.position().y();
+    return pointer;
+}
+
+KeyEvent keyEvent(const QKeyEvent& event)
+{
+    KeyEvent key;
+    key.KeyCode = codeOf(event.key());
+    key.Shift = shiftBits(event.modifiers());
+    return key;
+}
+
+char16_t typedCharacter(const QKeyEvent& event)
+{
+    const char16_t special = characterOf(static_cast<Key>(codeOf(event.key())));
+    if (special != 0) {
+        return special;
+    }
+    const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) !=
+                         Qt::KeyboardModifiers();
+    // The right Alt key reports Ctrl and Alt on some desktops, but then types a character.
+    if (event.text().size() != 1 || (command && !event.text().front().isPrint())) {
+        return 0;
+    }
+    return event.text().front().unicode();
+}
+
+QKeyEvent toolkitKey(QEvent::Type type, const KeyStroke& stroke)
+{
+    const Qt::KeyboardModifiers modifiers = modifiersOf(stroke.Shift);
+    const bool command = (stroke.Shift & (ShiftMask::Control | ShiftMask::Alt)) != 0;
+    const char16_t character = stroke.character != 0 ? stroke.character : characterOf(stroke.key);
+    const int code =
+        stroke.character != 0 ? QChar(stroke.character).toUpper().unicode() : toolkitCode(stroke.key);
+    const QString text = character != 0 && !command ? QString(QChar(character)) : QString();
+    return {type, code, modifiers, text};
+}
+
+} // namespace phial::qt

@@ -1,0 +1,95 @@
+#include "qt/base/QtText.h"
+#include "qt/desktop/FontCatalogue.h"
+#include "qt/desktop/TextEditor.h"
+
+#include <QLineEdit>
+#include <QPointer>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr int NoLimit = 32767;
+
+Qt::Alignment alignmentOf(Alignment alignment)
+{
+    switch (alignment) {
+    case Alignment::Right:
+        return Qt::AlignRight;
+    case Alignment::Centre:
+        return Qt::AlignHCenter;
+    case Alignment::Left:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+/// A field of one line.
+class LineEditor final : public TextEditor
+{
+public:
+    LineEditor(QWidget& holder, const std::function<void()>& changed) : line_(new QLineEdit(&holder))
+    {
+        QObject::connect(line_, &QLineEdit::textChanged, line_, changed);
+        QObject::connect(line_, &QLineEdit::selectionChanged, line_, changed);
+        QObject::connect(line_, &QLineEdit::cursorPositionChanged, line_, changed);
+    }
+    ~LineEditor() override
+    {
+        if (line_) {
+            line_->deleteLater();
+        }
+    }
+    LineEditor(const LineEditor&) = delete;
+    LineEditor& operator=(const LineEditor&) = delete;
+
+    QWidget& widget() override { return *line_; }
+    QWidget& pressed() override { return *line_; }
+    String text() const override { return fromQt(line_->text()); }
+    void text(const String& value) override
+    {
+        line_->setMaxLength(
+            std::max(limit_, static_cast<int>(value.size()))); // text of the program is not cut
+        line_->setText(toQt(value));
+    }
+    std::int32_t selectionStart() const override
+    {
+        return line_->hasSelectedText() ? line_->selectionStart() : line_->cursorPosition();
+    }
+    std::int32_t selectionLength() const override { return line_->selectionLength(); }
+    void select(std::int32_t start, std::int32_t length) override
+    {
+        line_->setCursorPosition(start);
+        if (length > 0) {
+            line_->setSelection(start, length);
+        }
+    }
+    void style(const EditorStyle& style) override
+    {
+        limit_ = style.maximumLength > 0 ? style.maximumLength : NoLimit;
+        line_->setMaxLength(std::max(limit_, static_cast<int>(line_->text().size())));
+        line_->setFont(fontCatalogue().font(style.font));
+        line_->setAlignment(alignmentOf(style.alignment) | Qt::AlignVCenter);
+        line_->setReadOnly(style.locked);
+        line_->setEchoMode(style.password ? QLineEdit::Password : QLineEdit::Normal);
+        QPalette palette = line_->palette();
+        palette.setColor(QPalette::Text, style.text);
+        palette.setColor(QPalette::Base, style.background);
+        line_->setPalette(palette);
+    }
+
+private:
+    QPointer<QLineEdit> line_; // its holder may end first
+    int limit_ = NoLimit;
+};
+
+} // namespace
+
+std::unique_ptr<TextEditor> makeLineEditor(QWidget& holder, std::function<void()> changed)
+{
+    return std::make_unique<LineEditor>(holder, changed);
+}
+
+} // namespace phial::qt

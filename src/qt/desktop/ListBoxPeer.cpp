@@ -1,0 +1,61 @@
+#include "qt/desktop/ListBoxPeer.h"
+
+#include "qt/base/QtText.h"
+#include "qt/desktop/FontCatalogue.h"
+
+#include <QApplication>
+#include <QListWidget>
+
+namespace phial::qt
+{
+
+QWidget* ListBoxPeer::make(std::shared_ptr<ListBox> model, QWidget& holder)
+{
+    auto* list = new QListWidget(&holder);
+    new ListBoxPeer(std::move(model), *list); // belongs to the list
+    return list;
+}
+
+ListBoxPeer::ListBoxPeer(std::shared_ptr<ListBox> model, QListWidget& list)
+    : NativePeer(model, list), model_(std::move(model)), list_(list)
+{
+    connect(&list_, &QListWidget::currentRowChanged, this, [this](int row) {
+        chosenByPress_ = QApplication::mouseButtons() != Qt::NoButton;
+        choose(row);
+    });
+    // A press on the line that is chosen already changes no row, but counts.
+    connect(&list_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+        if (!std::exchange(chosenByPress_, false)) {
+            choose(list_.row(item));
+        }
+    });
+    connect(&list_, &QListWidget::itemDoubleClicked, this,
+            [this] { input([this] { model_->doubleClick(); }); });
+    watch(list_);
+    begin();
+}
+
+void ListBoxPeer::choose(int row)
+{
+    if (row >= 0) {
+        input([&] { model_->inputChoice(row); });
+    }
+}
+
+void ListBoxPeer::show(ControlAspect aspect)
+{
+    if (aspect == ControlAspect::Style) {
+        list_.setFont(fontCatalogue().font(model_->Font()->traits()));
+    }
+    if (aspect == ControlAspect::Items) {
+        list_.clear();
+        for (std::int32_t line = 0; line < model_->ListCount(); ++line) {
+            list_.addItem(toQt(model_->List(line)));
+        }
+    }
+    if (aspect == ControlAspect::Items || aspect == ControlAspect::Selection) {
+        list_.setCurrentRow(model_->ListIndex());
+    }
+}
+
+} // namespace phial::qt

@@ -1,0 +1,130 @@
+#include "qt/desktop/NativePeer.h"
+
+#include "qt/desktop/Dispatch.h"
+#include "qt/desktop/FormKeys.h"
+#include "qt/desktop/InputCodes.h"
+#include "qt/desktop/WidgetAspects.h"
+#include "qt/desktop/WindowHandles.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QWidget>
+
+namespace phial::qt
+{
+
+NativePeer::NativePeer(ControlPtr control, QWidget& widget)
+    : QObject(&widget), control_(std::move(control)), widget_(widget)
+{
+    control_->frame().peer(this);
+    registerWindow(control_->hWnd(), widget_);
+}
+
+NativePeer::~NativePeer()
+{
+    if (isLinked()) {
+        control_->frame().peer(nullptr);
+    }
+}
+
+bool NativePeer::isLinked() const
+{
+    return control_->frame().peer() == this;
+}
+
+void NativePeer::begin()
+{
+    applyFrame(widget_, *control_);
+    for (const ControlAspect aspect :
+         {ControlAspect::Style, ControlAspect::Items, ControlAspect::Range, ControlAspect::Picture,
+          ControlAspect::Text, ControlAspect::Value, ControlAspect::Selection}) {
+        modelChanged(aspect);
+    }
+}
+
+void NativePeer::watch(QWidget& widget)
+{
+    widget.installEventFilter(this);
+}
+
+void NativePeer::modelChanged(ControlAspect aspect)
+{
+    const QScopedValueRollback<bool> showing(showing_, true);
+    applyFrameAspect(widget_, *control_, aspect);
+    show(aspect);
+}
+
+void NativePeer::run(const std::function<void()>& handler)
+{
+    const ControlPtr control = control_; // a handler may take the control away
+    dispatch(handler);
+}
+
+bool NativePeer::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (!widget || resending_ || !isLinked()) {
+        return false;
+    }
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return filterKey(*widget, static_cast<QKeyEvent&>(*event));
+    case QEvent::KeyRelease: {
+        bool goesOn = true;
+        run([&] { goesOn = keyReleased(*control_, static_cast<QKeyEvent&>(*event)); });
+        return !goesOn;
+    }
+    case QEvent::FocusIn:
+        run([&] { focusEntered(*control_); });
+        return false;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+        filterPress(*event);
+        return false;
+    default:
+        return false;
+    }
+}
+
+// The form and the control hear the key before the widget does, and may change the character or keep it.
+bool NativePeer::filterKey(QWidget& widget, QKeyEvent& event)
+{
+    if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) {
+        return false; // moves the focus
+    }
+    const QPointer<QWidget> self(&widget);
+    bool goesOn = false;
+    char16_t character = 0;
+    run([&] { goesOn = keyPressed(*control_, event, character); });
+    if (!self || !isLinked() || !goesOn) {
+        return true;
+    }
+    if (character == typedCharacter(event)) {
+        return false;
+    }
+    QKeyEvent changed(event.type(), QChar(character).toUpper().unicode(), event.modifiers(),
+                      QString(QChar(character)));
+    const QScopedValueRollback<bool> resending(resending_, true);
+    QApplication::sendEvent(&widget, &changed);
+    return true;
+}
+
+// The widget deals with the press itself; the control only hears of it. Widgets that are pressed for what
+// they do tell so by signals of their own.
+void NativePeer::filterPress(const QEvent& event)
+{
+    const auto& press = static_cast<const QMouseEvent&>(event);
+    const PointerEvent pointer = pointerEvent(press);
+    run([&] {
+        if (event.type() == QEvent::MouseButtonRelease) {
+            control_->pointerUp(pointer);
+        } else {
+            control_->pointerDown(pointer);
+        }
+    });
+}
+
+} // namespace phial::qt

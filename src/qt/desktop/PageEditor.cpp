@@ -1,0 +1,98 @@
+#include "qt/base/QtText.h"
+#include "qt/desktop/FontCatalogue.h"
+#include "qt/desktop/LineEnds.h"
+#include "qt/desktop/TextEditor.h"
+
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QTextBlock>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+/// A field of many lines.
+class PageEditor final : public TextEditor
+{
+public:
+    PageEditor(QWidget& holder, const std::function<void()>& changed) : page_(new QPlainTextEdit(&holder))
+    {
+        page_->setTabChangesFocus(true);
+        QObject::connect(page_, &QPlainTextEdit::textChanged, page_, [this, changed] {
+            cutToLimit();
+            changed();
+        });
+        QObject::connect(page_, &QPlainTextEdit::selectionChanged, page_, changed);
+        QObject::connect(page_, &QPlainTextEdit::cursorPositionChanged, page_, changed);
+    }
+    ~PageEditor() override
+    {
+        if (page_) {
+            page_->deleteLater();
+        }
+    }
+    PageEditor(const PageEditor&) = delete;
+    PageEditor& operator=(const PageEditor&) = delete;
+
+    QWidget& widget() override { return *page_; }
+    QWidget& pressed() override { return *page_->viewport(); }
+    String text() const override { return withDoubleEnds(fromQt(page_->toPlainText())); }
+    void text(const String& value) override
+    {
+        const auto length = static_cast<std::int32_t>(value.size());
+        allowed_ = limit_ > 0 ? std::max(limit_, length) : 0;
+        page_->setPlainText(toQt(withSingleEnds(value)));
+    }
+    std::int32_t selectionStart() const override
+    {
+        return toDoubleEnds(text(), page_->textCursor().selectionStart());
+    }
+    std::int32_t selectionLength() const override
+    {
+        return toDoubleEnds(text(), page_->textCursor().selectionEnd()) - selectionStart();
+    }
+    void select(std::int32_t start, std::int32_t length) override
+    {
+        const String whole = text();
+        QTextCursor cursor = page_->textCursor();
+        cursor.setPosition(toSingleEnds(whole, start));
+        cursor.setPosition(toSingleEnds(whole, start + length), QTextCursor::KeepAnchor);
+        page_->setTextCursor(cursor);
+    }
+    void style(const EditorStyle& style) override
+    {
+        limit_ = style.maximumLength;
+        allowed_ = limit_ > 0 ? std::max(limit_, static_cast<std::int32_t>(text().size())) : 0;
+        page_->setFont(fontCatalogue().font(style.font));
+        page_->setReadOnly(style.locked);
+        QPalette palette = page_->palette();
+        palette.setColor(QPalette::Text, style.text);
+        palette.setColor(QPalette::Base, style.background);
+        page_->setPalette(palette);
+    }
+
+private:
+    // The toolkit has no limit for such fields: what was typed beyond it is taken back.
+    void cutToLimit()
+    {
+        if (allowed_ > 0 && static_cast<std::int32_t>(text().size()) > allowed_ &&
+            page_->document()->isUndoAvailable()) {
+            page_->undo();
+        }
+    }
+
+    QPointer<QPlainTextEdit> page_; // its holder may end first
+    std::int32_t limit_ = 0;
+    std::int32_t allowed_ = 0; ///< the limit, or more when the program has set more
+};
+
+} // namespace
+
+std::unique_ptr<TextEditor> makePageEditor(QWidget& holder, std::function<void()> changed)
+{
+    return std::make_unique<PageEditor>(holder, changed);
+}
+
+} // namespace phial::qt

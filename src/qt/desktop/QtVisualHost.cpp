@@ -1,0 +1,203 @@
+#include "qt/desktop/QtVisualHost.h"
+
+#include "core/RuntimeError.h"
+#include "core/SessionState.h"
+#include "qt/base/QtText.h"
+#include "qt/desktop/Cursors.h"
+#include "qt/desktop/Dispatch.h"
+#include "qt/desktop/FormWindow.h"
+#include "qt/desktop/InputCodes.h"
+#include "qt/desktop/ModalGate.h"
+#include "qt/desktop/PictureBackend.h"
+#include "qt/desktop/PictureImage.h"
+#include "qt/desktop/PixelRatio.h"
+#include "qt/desktop/PrinterBackend.h"
+#include "qt/desktop/Theme.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QEventLoop>
+#include <QImageReader>
+#include <QPageLayout>
+#include <QPointer>
+#include <QPrinterInfo>
+#include <QScreen>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+constexpr std::int32_t InvalidPicture = 481;
+constexpr std::int32_t PrinterError = 482;
+
+void typeKey(const KeyStroke& stroke)
+{
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QWidget* target =
+            QApplication::focusWidget() ? QApplication::focusWidget() : QApplication::activeWindow();
+        if (target) {
+            QKeyEvent event = toolkitKey(type, stroke);
+            QApplication::sendEvent(target, &event);
+        }
+    }
+}
+
+} // namespace
+
+/// The model's hold on its window.
+class QtVisualHost::WindowPeer final : public FormPeer
+{
+public:
+    WindowPeer(QtVisualHost& host, FormWindow& window, const Form& form)
+        : host_(host), window_(&window), form_(form)
+    {
+    }
+    ~WindowPeer() override
+    {
+        if (window_) {
+            window_->leave();
+        }
+        host_.windowClosed(form_);
+    }
+    WindowPeer(const WindowPeer&) = delete;
+    WindowPeer& operator=(const WindowPeer&) = delete;
+
+    void modelChanged(FormAspect aspect) override
+    {
+        if (window_) {
+            window_->modelChanged(aspect);
+        }
+    }
+
+private:
+    QtVisualHost& host_;
+    QPointer<FormWindow> window_;
+    const Form& form_;
+};
+
+QtVisualHost::QtVisualHost() : gate_(std::make_unique<ModalGate>(forms())) {}
+
+QtVisualHost::~QtVisualHost() = default;
+
+std::shared_ptr<DrawBackend> QtVisualHost::createSurface(PixelSize size, double pixelRatio)
+{
+    return std::make_shared<PictureBackend>(std::make_shared<Picture>(size, pixelRatio), metrics_);
+}
+
+double QtVisualHost::pixelRatio() const
+{
+    return screenRatio();
+}
+
+PicturePtr QtVisualHost::decodePicture(const std::filesystem::path& file)
+{
+    QImageReader reader(toQt(file.u16string()));
+    reader.setAutoTransform(true);
+    if (!std::filesystem::is_regular_file(file)) {
+        throw RuntimeError(ErrorNumber::FileNotFound);
+    }
+    const QSize size = reader.size();
+    const bool tooLarge =
+        size.isValid() && static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()) >
+                              Picture::MaximumPixels;
+    const QImage image = tooLarge ? QImage() : reader.read();
+    if (image.isNull()) {
+        throw RuntimeError(InvalidPicture, u"Invalid picture");
+    }
+    return pictureOf(image);
+}
+
+// The theme gets its colours when the session starts, so that windows are the first to need it.
+void QtVisualHost::useTheme()
+{
+    if (!themed_) {
+        themed_ = true;
+        CoreTheme& theme = coreTheme();
+        themeChanged_ = theme.CHANGED.connect([&theme](ThemeSlot) { applyTheme(theme); });
+        applyTheme(theme);
+    }
+}
+
+std::unique_ptr<FormPeer> QtVisualHost::openWindow(Form& form, bool modal)
+{
+    useTheme();
+    const std::shared_ptr<Form> opener = forms().ActiveForm();
+    QWidget* owner = nullptr;
+    if (modal && opener && opener.get() != &form) {
+        owner = QApplication::activeWindow();
+    }
+    auto* window = new FormWindow(form.shared_from_this(), owner); // ends itself when the peer lets go
+    auto peer = std::make_unique<WindowPeer>(*this, *window, form);
+    window->open();
+    return peer;
+}
+
+void QtVisualHost::runModal(Form& form)
+{
+    if (!form.isModal()) {
+        return;
+    }
+    QEventLoop loop;
+    loops_[&form] = &loop;
+    loop.exec();
+    loops_.erase(&form);
+}
+
+void QtVisualHost::windowClosed(const Form& form)
+{
+    if (const auto running = loops_.find(&form); running != loops_.end()) {
+        running->second->quit();
+    }
+}
+
+PixelSize QtVisualHost::screenSize() const
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QSize size = screen ? screen->size() : QSize();
+    return {static_cast<double>(size.width()), static_cast<double>(size.height())};
+}
+
+void QtVisualHost::screenPointerChanged(MousePointer pointer)
+{
+    if (pointerSet_) {
+        QGuiApplication::restoreOverrideCursor();
+    }
+    pointerSet_ = pointer != MousePointer::Default;
+    if (pointerSet_) {
+        QGuiApplication::setOverrideCursor(cursorFor(pointer, nullptr));
+    }
+}
+
+void QtVisualHost::sendKeys(std::span<const KeyStroke> keys)
+{
+    for (const KeyStroke& stroke : keys) {
+        QMetaObject::invokeMethod(
+            qApp, [stroke] { typeKey(stroke); }, Qt::QueuedConnection);
+    }
+}
+
+String QtVisualHost::clipboardText() const
+{
+    return fromQt(QGuiApplication::clipboard()->text());
+}
+
+void QtVisualHost::clipboardText(const String& value)
+{
+    QGuiApplication::clipboard()->setText(toQt(value));
+}
+
+std::shared_ptr<DrawBackend> QtVisualHost::openPrinter(PageOrientation orientation, const String& title)
+{
+    if (QPrinterInfo::defaultPrinter().isNull()) {
+        throw RuntimeError(PrinterError, u"Printer error");
+    }
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(toQt(title));
+    printer->setPageOrientation(orientation == PageOrientation::Landscape ? QPageLayout::Landscape
+                                                                          : QPageLayout::Portrait);
+    return std::make_shared<PrinterBackend>(std::move(printer), metrics_);
+}
+
+} // namespace phial::qt

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "core/Event.h"
+#include "qt/desktop/QtTextMetrics.h"
+#include "visual/VisualHost.h"
+
+#include <map>
+
+class QEventLoop;
+
+namespace phial::qt
+{
+
+class ModalGate;
+
+/// What is seen, on the toolkit. Needs the application object for as long as it lives.
+class QtVisualHost final : public VisualHost
+{
+public:
+    QtVisualHost();
+    ~QtVisualHost() override;
+
+    TextMetrics& metrics() override { return *metrics_; }
+    std::shared_ptr<DrawBackend> createSurface(PixelSize size, double pixelRatio) override;
+    double pixelRatio() const override;
+    PicturePtr decodePicture(const std::filesystem::path& file) override;
+    std::unique_ptr<FormPeer> openWindow(Form& form, bool modal) override;
+    void runModal(Form& form) override;
+    PixelSize screenSize() const override;
+    void screenPointerChanged(MousePointer pointer) override;
+    void sendKeys(std::span<const KeyStroke> keys) override;
+    String clipboardText() const override;
+    void clipboardText(const String& value) override;
+    std::shared_ptr<DrawBackend> openPrinter(PageOrientation orientation, const String& title) override;
+
+private:
+    class WindowPeer;
+
+    void useTheme();
+    void windowClosed(const Form& form);
+
+    std::shared_ptr<QtTextMetrics> metrics_ = std::make_shared<QtTextMetrics>();
+    std::unique_ptr<ModalGate> gate_;
+    std::map<const Form*, QEventLoop*> loops_;
+    Connection themeChanged_;
+    bool themed_ = false;
+    bool pointerSet_ = false;
+};
+
+} // namespace phial::qt

@@ -1,0 +1,55 @@
+#include "qt/desktop/Toast.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QScreen>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <chrono>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr auto ShownFor = 1200ms;
+constexpr int Margin = 18;
+constexpr double Opacity = 0.94;
+
+/// Ends with the first press or key.
+class ToastWindow final : public QDialog
+{
+public:
+    explicit ToastWindow(QWidget* owner) : QDialog(owner, Qt::Tool | Qt::FramelessWindowHint) {}
+
+protected:
+    void mousePressEvent(QMouseEvent*) override { accept(); }
+    void keyPressEvent(QKeyEvent*) override { accept(); }
+};
+
+} // namespace
+
+void showToast(const QString& text)
+{
+    QWidget* owner = QApplication::activeWindow();
+    ToastWindow toast(owner);
+    auto* label = new QLabel(text, &toast);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    auto* layout = new QVBoxLayout(&toast);
+    layout->setContentsMargins(Margin * 2, Margin, Margin * 2, Margin);
+    layout->addWidget(label);
+    toast.setWindowOpacity(Opacity);
+    toast.adjustSize();
+    const QRect around = owner ? owner->frameGeometry() : QGuiApplication::primaryScreen()->geometry();
+    toast.move(around.center() - toast.rect().center());
+    QTimer::singleShot(ShownFor, &toast, &QDialog::accept);
+    toast.exec();
+}
+
+} // namespace phial::qt

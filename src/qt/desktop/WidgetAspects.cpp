@@ -1,0 +1,100 @@
+#include "qt/desktop/WidgetAspects.h"
+
+#include "qt/base/QtText.h"
+#include "qt/desktop/Cursors.h"
+
+#include <QWidget>
+
+#include <cmath>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+void applyFocusPolicy(QWidget& widget, const ControlFrame& frame)
+{
+    widget.setFocusPolicy(!frame.canFocus() ? Qt::NoFocus
+                          : frame.TabStop() ? Qt::StrongFocus
+                                            : Qt::ClickFocus);
+}
+
+void applyNames(QWidget& widget, const Control& control)
+{
+    const ControlFrame& frame = control.frame();
+    const String name = frame.AccessibleName().empty() ? control.accessibleText() : frame.AccessibleName();
+    widget.setAccessibleName(toQt(name));
+    widget.setAccessibleDescription(toQt(frame.HelpText()));
+}
+
+void applyPointer(QWidget& widget, const ControlFrame& frame)
+{
+    if (frame.MousePointer() == MousePointer::Default) {
+        widget.unsetCursor();
+    } else {
+        widget.setCursor(cursorFor(frame.MousePointer(), frame.MouseIcon()));
+    }
+}
+
+} // namespace
+
+void applyGeometry(QWidget& widget, const Control& control)
+{
+    const PixelRectangle place = control.frame().pixelRectangle();
+    const QPoint corner(static_cast<int>(std::lround(place.left)), static_cast<int>(std::lround(place.top)));
+    const QPoint end(static_cast<int>(std::lround(place.right())),
+                     static_cast<int>(std::lround(place.bottom())));
+    widget.setGeometry(QRect(corner, QSize(end.x() - corner.x(), end.y() - corner.y())));
+}
+
+void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)
+{
+    const ControlFrame& frame = control.frame();
+    switch (aspect) {
+    case ControlAspect::Geometry:
+        applyGeometry(widget, control);
+        break;
+    case ControlAspect::Visibility:
+        widget.setVisible(frame.Visible());
+        break;
+    case ControlAspect::Enabled:
+        widget.setEnabled(frame.Enabled());
+        break;
+    case ControlAspect::Focus:
+        widget.setFocus(Qt::OtherFocusReason);
+        break;
+    case ControlAspect::Pointer:
+        applyPointer(widget, frame);
+        break;
+    case ControlAspect::ToolTip:
+        widget.setToolTip(toQt(frame.ToolTipText()));
+        break;
+    case ControlAspect::Accessibility:
+    case ControlAspect::Text:
+        applyNames(widget, control);
+        break;
+    case ControlAspect::ZOrder: // the container puts its widgets in order
+    case ControlAspect::Children:
+    case ControlAspect::Selection:
+    case ControlAspect::Style:
+    case ControlAspect::Items:
+    case ControlAspect::Range:
+    case ControlAspect::Value:
+    case ControlAspect::Picture:
+    case ControlAspect::Drag:
+        break;
+    }
+}
+
+void applyFrame(QWidget& widget, Control& control)
+{
+    applyFocusPolicy(widget, control.frame());
+    for (const ControlAspect aspect :
+         {ControlAspect::Geometry, ControlAspect::Enabled, ControlAspect::Pointer, ControlAspect::ToolTip,
+          ControlAspect::Accessibility, ControlAspect::Visibility}) {
+        applyFrameAspect(widget, control, aspect);
+    }
+}
+
+} // namespace phial::qt
