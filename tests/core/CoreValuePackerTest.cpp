@@ -2,6 +2,7 @@
 
 #include "core/DATA.h"
 #include "core/DataOwner.h"
+#include "core/NumberText.h"
 #include "core/tmp_Data.h"
 #include "support/Raises.h"
 
@@ -192,9 +193,9 @@ TEST(CoreValuePackerTest, EveryListComesBack)
 {
     RandomValues random(2024);
     for (int round = 0; round < 2000; ++round) {
-        std::vector<Variant> values;
-        for (int i = 0; i < round % 8; ++i) {
-            values.push_back(random.value());
+        std::vector<Variant> values(static_cast<std::size_t>(round % 8));
+        for (Variant& value : values) {
+            value = random.value();
         }
         const String packed = CoreValuePacker::Pack(values);
         ASSERT_EQ(CoreValuePacker::unpackAll(packed), values);
@@ -218,16 +219,27 @@ TEST(CoreValuePackerTest, ArraysNestToTheLimit)
     EXPECT_RAISES(CoreValuePacker::Pack({nested(CoreValuePacker::MaxNesting + 1)}), InvalidArgument);
 }
 
+/// The packed text of empty arrays within each other.
+String nestedText(int depth)
+{
+    std::vector<String> heads = {u"0;"};
+    std::size_t length = 2;
+    for (int i = 0; i < depth; ++i) {
+        heads.push_back(u"1;A" + plainText(static_cast<std::int32_t>(length)) + u'=');
+        length += heads.back().size() + 1;
+    }
+    String text = u"QV1;";
+    for (auto head = heads.rbegin(); head != heads.rend(); ++head) {
+        text += *head;
+    }
+    return text.append(static_cast<std::size_t>(depth), u';');
+}
+
 TEST(CoreValuePackerTest, DeeperTextsAreRefused)
 {
-    String text = u"0;";
-    for (int depth = 0; depth < 10000; ++depth) {
-        const std::string length = std::to_string(text.size());
-        text = u"1;A" + String(length.begin(), length.end()) + u"=" + text + u";";
-        if (depth % 1000 == 999) {
-            EXPECT_RAISES(CoreValuePacker::unpackAll(u"QV1;" + text), InvalidArgument);
-        }
-    }
+    EXPECT_EQ(CoreValuePacker::unpackAll(nestedText(CoreValuePacker::MaxNesting)).size(), 1U);
+    EXPECT_RAISES(CoreValuePacker::unpackAll(nestedText(CoreValuePacker::MaxNesting + 1)), InvalidArgument);
+    EXPECT_RAISES(CoreValuePacker::unpackAll(nestedText(100000)), InvalidArgument);
 }
 
 TEST(CoreValuePackerTest, EveryTruncationIsDamage)
