@@ -1,6 +1,5 @@
 // The solver beside muParser on the terms of school_expressions.txt, parsing and evaluating each time on both
-// sides, and the solver's growth with the length of the term. bench/compare_solver joins the figures to one
-// table.
+// sides, and the solver's growth with the length of the term.
 
 #include "calc/ExpressionSolver.h"
 #include "core/CoreNumbers.h"
