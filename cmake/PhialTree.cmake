@@ -1,6 +1,6 @@
 # The installation tree that programs look for at start: assembled in the build folder, installed below the prefix.
 set(PHIAL_TREE "${CMAKE_BINARY_DIR}/tree" CACHE INTERNAL "Installation tree in the build folder")
-set(PHIAL_TREE_INSTALL_DIR "${CMAKE_INSTALL_DATADIR}/phial" CACHE INTERNAL "Installation tree below the prefix")
+set(PHIAL_TREE_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/phial" CACHE INTERNAL "Installation tree below the prefix")
 
 # Building the target tree brings the whole tree up to date; every phial_tree_folder adds its share.
 add_custom_target(tree ALL)
