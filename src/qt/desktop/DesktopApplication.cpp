@@ -1,5 +1,6 @@
 #include "qt/desktop/DesktopApplication.h"
 
+#include "core/NativePath.h"
 #include "qt/base/BasePlatform.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/DesktopDialogs.h"
@@ -74,6 +75,21 @@ String DesktopApplication::commandLine() const
         words += quoted(word);
     }
     return fromQt(words.join(QLatin1Char(' ')));
+}
+
+String DesktopApplication::programFolder() const
+{
+    return systemPath(QApplication::applicationDirPath().toStdU16String()) + u'\\';
+}
+
+std::optional<std::filesystem::path> DesktopApplication::shotsFolder() const
+{
+    const QStringList arguments = QApplication::arguments();
+    const auto option = arguments.indexOf(QStringLiteral("--shots"));
+    if (option < 0 || option + 1 >= arguments.size()) {
+        return std::nullopt;
+    }
+    return arguments[option + 1].toStdU16String();
 }
 
 int DesktopApplication::run() const

@@ -2,7 +2,9 @@
 
 #include "core/Platform.h"
 
+#include <filesystem>
 #include <memory>
+#include <optional>
 
 class QApplication;
 
@@ -14,7 +16,7 @@ namespace phial::qt
 ///     int main(int argc, char** argv)
 ///     {
 ///         const phial::qt::DesktopApplication application(argc, argv, u"Molmasse");
-///         const phial::Session session(application.platform());
+///         const phial::Session session(application.platform(), application.programFolder());
 ///         …
 ///         return application.run();
 ///     }
@@ -35,6 +37,13 @@ public:
 
     /// What followed the program's name on its command line, as one text.
     String commandLine() const;
+
+    /// Where the program's file lies, as the system writes paths: the session's first folder.
+    String programFolder() const;
+
+    /// The folder behind "--shots" on the command line: the program is to draw its windows and end. None
+    /// without it.
+    std::optional<std::filesystem::path> shotsFolder() const;
 
     /// Runs events until the last window has closed; gives the program's result.
     int run() const;

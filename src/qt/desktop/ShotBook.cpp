@@ -61,4 +61,12 @@ void ShotBook::take(StringView name, const Form& form)
     }
 }
 
+void takeShots(const std::filesystem::path& folder, const std::function<void(const TakeShot& take)>& tour)
+{
+    for (const double scale : {1.0, 2.0}) {
+        ShotBook book(folder, scale);
+        tour([&book](StringView name, const Form& form) { book.take(name, form); });
+    }
+}
+
 } // namespace phial::qt

@@ -4,6 +4,7 @@
 #include "visual/Picture.h"
 
 #include <filesystem>
+#include <functional>
 
 namespace phial
 {
@@ -39,5 +40,10 @@ private:
     double scale_;
     std::unique_ptr<FixedPixelRatio> ratio_;
 };
+
+/// Takes a program's pictures at 1x and 2x. `tour` runs once a scale; it shows the program's states one after
+/// the other and hands each to `take`.
+using TakeShot = std::function<void(StringView name, const Form& form)>;
+void takeShots(const std::filesystem::path& folder, const std::function<void(const TakeShot& take)>& tour);
 
 } // namespace phial::qt
