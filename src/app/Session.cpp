@@ -1,5 +1,6 @@
 #include "app/Session.h"
 
+#include "app/InstallationTree.h"
 #include "app/cls_App.h"
 #include "app/cls_Language.h"
 #include "core/RuntimeError.h"
@@ -19,7 +20,7 @@ Session* openSession = nullptr;
 Session::Session(Platform platform, StringView programFolder) : state_(std::move(platform))
 {
     if (!programFolder.empty()) {
-        state_.currentFolder().change(programFolder);
+        goToTreeNear(programFolder);
     }
     openSession = this;
 }
@@ -61,6 +62,13 @@ const std::shared_ptr<cls_Language>& Session::language()
         language_ = std::make_shared<cls_Language>();
     }
     return language_;
+}
+
+void Session::goToTreeNear(StringView programFolder)
+{
+    if (const auto tree = installationTree::nearProgram(programFolder)) {
+        state_.currentFolder().change(*tree);
+    }
 }
 
 } // namespace phial

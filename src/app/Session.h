@@ -22,10 +22,10 @@ class cls_Language;
 class Session
 {
 public:
-    /// `programFolder`: where the program's file lies, as the system writes paths. The session begins with it
-    /// as the current folder, so that the search for the installation finds the tree in which the program
-    /// lies; with the empty text it begins with the current folder of the process. Raises 5 when another
-    /// session is open, 53 when there is no such folder.
+    /// `programFolder`: where the program's file lies, as the system writes paths. If an installation tree
+    /// belongs to that place (see InstallationTree.h), the session begins with it as the current folder;
+    /// otherwise, and with the empty text, it begins with the current folder of the process. Raises 5 when
+    /// another session is open.
     explicit Session(Platform platform, StringView programFolder = {});
     ~Session();
     Session(const Session&) = delete;
@@ -59,6 +59,8 @@ public:
     }
 
 private:
+    void goToTreeNear(StringView programFolder);
+
     SessionState state_;
     std::shared_ptr<cls_Language> language_;
     std::unordered_map<std::type_index, std::shared_ptr<void>> sharedForms_;

@@ -1,5 +1,6 @@
 #include "app/cls_AppURL.h"
 
+#include "app/InstallationTree.h"
 #include "app/Settings.h"
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
@@ -30,12 +31,6 @@ constexpr StringView TransferMarker = u"DataTransferDone.ini";
 String withBackslash(StringView folder)
 {
     return CorePathText::WithBackslash(folder);
-}
-
-bool isRoot(const String& folder)
-{
-    const CoreFiles& files = coreRoot().CoreFiles();
-    return files.Exists(folder + u"QVStart.exe") && files.FolderExists(folder + u"Resources\\");
 }
 
 /// The places of an installation in the order in which they are tried, the relative ones as absolute folders,
@@ -130,7 +125,7 @@ void cls_AppURL::INITROOT(StringView pRoot, bool pInitData)
 bool cls_AppURL::findRoot()
 {
     for (const String& candidate : rootCandidates()) {
-        if (isRoot(candidate)) {
+        if (installationTree::isRoot(candidate)) {
             root_ = candidate;
             SessionState::current().currentFolder().change(root_);
             return true;

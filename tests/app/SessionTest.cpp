@@ -1,6 +1,6 @@
 #include "app/AppTest.h"
+#include "app/InstallationTree.h"
 #include "app/cls_Language.h"
-#include "support/Raises.h"
 
 namespace phial
 {
@@ -22,14 +22,14 @@ protected:
 TEST_F(SessionLife, RaisesWhenNoneIsOpen)
 {
     session.reset();
-    EXPECT_RAISES(QVAPP(), ObjectNotSet);
-    EXPECT_RAISES(LNG(), ObjectNotSet);
-    EXPECT_RAISES(Session::current(), ObjectNotSet);
+    EXPECT_THROW(QVAPP(), RuntimeError);
+    EXPECT_THROW(LNG(), RuntimeError);
+    EXPECT_THROW(Session::current(), RuntimeError);
 }
 
 TEST_F(SessionLife, AllowsOneAtATime)
 {
-    EXPECT_RAISES(Session(outside.platform()), InvalidArgument);
+    EXPECT_THROW(Session(outside.platform()), RuntimeError);
     EXPECT_EQ(&Session::current(), &*session);
 }
 
@@ -53,28 +53,38 @@ TEST_F(SessionLife, MakesASharedFormOnceAndOnlyWhenAsked)
     EXPECT_EQ(session->existingSharedForm<HiddenForm>(), form);
 }
 
-TEST_F(SessionLife, BeginsInTheFolderOfTheProcess)
+TEST_F(SessionLife, BeginsInTheFolderOfTheProcessWithoutATree)
 {
-    EXPECT_EQ(nativePath(currentFolder()), std::filesystem::current_path());
+    const String before = currentFolder();
+    openFor(makeFolder(u"bin\\"));
+    EXPECT_EQ(currentFolder(), before);
 }
 
-TEST_F(SessionLife, BeginsInTheProgramsFolderWhenThatIsTold)
+TEST_F(SessionLife, BeginsInTheTreeOfABuildFolder)
 {
-    const String programFolder = makeFolder(u"bin\\");
-    openFor(programFolder);
-    EXPECT_EQ(currentFolder(), programFolder);
+    const String tree = makeTree(u"build\\tree\\");
+    openFor(makeFolder(u"build\\bin\\"));
+    EXPECT_EQ(currentFolder(), tree);
 }
 
-TEST_F(SessionLife, RefusesAProgramFolderThatIsNotThere)
-{
-    session.reset();
-    EXPECT_RAISES(session.emplace(outside.platform(), path(u"nowhere\\")), FileNotFound);
-}
-
-TEST_F(SessionLife, LetsTheFolderSearchFindTheTreeInWhichTheProgramLies)
+TEST_F(SessionLife, BeginsInTheTreeOfAnInstalledPrefix)
 {
     const String tree = makeTree(u"usr\\share\\phial\\");
-    openFor(makeFolder(u"usr\\share\\phial\\apps\\Molmasse\\"));
+    openFor(makeFolder(u"usr\\bin\\"));
+    EXPECT_EQ(currentFolder(), tree);
+}
+
+TEST_F(SessionLife, BeginsInTheProgramsOwnFolderWhenThatIsATree)
+{
+    const String tree = makeTree(u"program\\");
+    openFor(tree);
+    EXPECT_EQ(currentFolder(), tree);
+}
+
+TEST_F(SessionLife, LetsTheFolderSearchFindTheTreeNearTheProgram)
+{
+    const String tree = makeTree(u"usr\\share\\phial\\");
+    openFor(makeFolder(u"usr\\bin\\"));
     QVAPP()->INIT(u"");
     EXPECT_EQ(QVAPP()->URL()->ROOT(), tree);
 }
