@@ -69,6 +69,10 @@ struct Platform {
     /// The program's title, as its windows bear it.
     String programTitle = u"Phial";
 
+    /// The folder of the program's file, as the system writes it, with a backslash at its end. Empty: not
+    /// known, and no installation is looked for around it.
+    String programFolder;
+
     /// Takes the error with which a handler ended at its dispatch. Left out: it is written to standard error.
     std::function<void(const std::exception&)> reportError;
 };

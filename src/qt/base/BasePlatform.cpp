@@ -8,6 +8,9 @@
 #include "qt/base/QtMachine.h"
 #include "qt/base/QtRandom.h"
 #include "qt/base/QtSettingsStore.h"
+#include "qt/base/StandardFolder.h"
+
+#include <QCoreApplication>
 
 namespace phial::qt
 {
@@ -22,6 +25,9 @@ Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard)
     platform.folders = std::make_shared<QtFolders>();
     platform.machine = std::make_shared<QtMachine>();
     platform.settings = std::make_shared<QtSettingsStore>();
+    if (QCoreApplication::instance() != nullptr) {
+        platform.programFolder = asFolder(QCoreApplication::applicationDirPath());
+    }
     platform.newInterCom = [] { return std::make_shared<LocalInterCom>(); };
     platform.reportError = [guard](const std::exception& error) { guard->report(error); };
     return platform;
