@@ -17,11 +17,9 @@ Session* openSession = nullptr;
 
 } // namespace
 
-Session::Session(Platform platform, StringView programFolder) : state_(std::move(platform))
+Session::Session(Platform platform) : state_(std::move(platform))
 {
-    if (!programFolder.empty()) {
-        goToTreeNear(programFolder);
-    }
+    goToTreeNearProgram();
     openSession = this;
 }
 
@@ -64,8 +62,12 @@ const std::shared_ptr<cls_Language>& Session::language()
     return language_;
 }
 
-void Session::goToTreeNear(StringView programFolder)
+void Session::goToTreeNearProgram()
 {
+    const String& programFolder = state_.platform().programFolder;
+    if (programFolder.empty()) {
+        return;
+    }
     if (const auto tree = installationTree::nearProgram(programFolder)) {
         state_.currentFolder().change(*tree);
     }

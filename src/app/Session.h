@@ -22,11 +22,10 @@ class cls_Language;
 class Session
 {
 public:
-    /// `programFolder`: where the program's file lies, as the system writes paths. If an installation tree
-    /// belongs to that place (see InstallationTree.h), the session begins with it as the current folder;
-    /// otherwise, and with the empty text, it begins with the current folder of the process. Raises 5 when
-    /// another session is open.
-    explicit Session(Platform platform, StringView programFolder = {});
+    /// If an installation tree belongs to the place of the program's file (see InstallationTree.h), the
+    /// session begins with it as the current folder; otherwise with the current folder of the process. Raises
+    /// 5 when another session is open.
+    explicit Session(Platform platform);
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -59,7 +58,7 @@ public:
     }
 
 private:
-    void goToTreeNear(StringView programFolder);
+    void goToTreeNearProgram();
 
     SessionState state_;
     std::shared_ptr<cls_Language> language_;

@@ -2,6 +2,7 @@
 
 #include "app/AppTest.h"
 #include "app/screen/frm_Resource.h"
+#include "support/Raises.h"
 #include "visual/ImageList.h"
 #include "visual/PictureBox.h"
 
@@ -87,9 +88,10 @@ TEST_F(Avatars, AreDecodedAtTheirFirstUseOnly)
 {
     makeAvatar(u"a.gif");
     AvatarImagesLoad();
-    outside.visual().providePicture(nativePath(path(u"avatar\\a.gif")), PixelSize{48, 48});
-    EXPECT_EQ(AvatarImageGet(u"a")->Width(), 48);
-    EXPECT_EQ(AvatarImageGet(1), AvatarImageGet(u"a"));
+    const auto picture = std::make_shared<Picture>(PixelSize{48, 48});
+    outside.visual().addPicture(nativePath(path(u"avatar\\a.gif")), picture);
+    EXPECT_EQ(AvatarImageGet(u"a"), picture);
+    EXPECT_EQ(AvatarImageGet(1), picture);
 }
 
 TEST_F(Avatars, HaveADefaultForAnUnknownKey)
@@ -110,8 +112,8 @@ TEST_F(Avatars, HaveADefaultForAFileThatIsNoPicture)
 
 TEST_F(Avatars, RaiseForTheKeyAndIndexOfAnUnknownOne)
 {
-    EXPECT_THROW(AvatarImageKey(1), RuntimeError);
-    EXPECT_THROW(AvatarImageIndex(u"nobody"), RuntimeError);
+    EXPECT_RAISES(AvatarImageKey(1), IndexOutOfBounds);
+    EXPECT_RAISES(AvatarImageIndex(u"nobody"), IndexOutOfBounds);
 }
 
 } // namespace

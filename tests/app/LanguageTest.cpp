@@ -1,6 +1,7 @@
 #include "app/AppTest.h"
 #include "app/cls_Language.h"
 #include "core/Locale.h"
+#include "visual/Form.h"
 
 namespace phial
 {
@@ -69,6 +70,28 @@ TEST_F(Language, StoresAChoiceAndTellsTheCore)
     language.CURRENT(ID_Language_System);
     EXPECT_EQ(userSetting(u"Language"), Variant(u""));
     EXPECT_EQ(language.EFFECTIVE(), ID_Language_German);
+}
+
+TEST_F(Language, AsksEveryOpenFormToTranslateItself)
+{
+    cls_Language language;
+    std::vector<std::shared_ptr<Form>> forms;
+    Connections translating;
+    int translated = 0;
+    for (const StringView name : {u"frm_First", u"frm_Silent", u"frm_Failing", u"frm_Last"}) {
+        forms.push_back(std::make_shared<Form>(String(name)));
+        forms.back()->Show();
+    }
+    translating += forms[0]->TRANSLATE.connect([&] { ++translated; });
+    translating += forms[2]->TRANSLATE.connect([] { throw RuntimeError(ErrorNumber::InvalidArgument); });
+    translating += forms[3]->TRANSLATE.connect([&] { ++translated; });
+    language.CURRENT(ID_Language_German);
+    EXPECT_EQ(translated, 2);
+    language.CURRENT(ID_Language_German);
+    EXPECT_EQ(translated, 2);
+    for (const auto& form : forms) {
+        form->Unload();
+    }
 }
 
 TEST_F(Language, ReplacesNumberedPlaceholdersOnTheRunningText)

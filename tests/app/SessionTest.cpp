@@ -1,6 +1,7 @@
 #include "app/AppTest.h"
 #include "app/InstallationTree.h"
 #include "app/cls_Language.h"
+#include "support/Raises.h"
 
 namespace phial
 {
@@ -12,24 +13,26 @@ class SessionLife : public AppTest
 {
 protected:
     /// Ends the fixture's session and opens one for a program in that folder.
-    void openFor(StringView programFolder)
+    void openFor(const String& programFolder)
     {
         session.reset();
-        session.emplace(outside.platform(), programFolder);
+        Platform platform = outside.platform();
+        platform.programFolder = programFolder;
+        session.emplace(platform);
     }
 };
 
 TEST_F(SessionLife, RaisesWhenNoneIsOpen)
 {
     session.reset();
-    EXPECT_THROW(QVAPP(), RuntimeError);
-    EXPECT_THROW(LNG(), RuntimeError);
-    EXPECT_THROW(Session::current(), RuntimeError);
+    EXPECT_RAISES(QVAPP(), ObjectNotSet);
+    EXPECT_RAISES(LNG(), ObjectNotSet);
+    EXPECT_RAISES(Session::current(), ObjectNotSet);
 }
 
 TEST_F(SessionLife, AllowsOneAtATime)
 {
-    EXPECT_THROW(Session(outside.platform()), RuntimeError);
+    EXPECT_RAISES(Session(outside.platform()), InvalidArgument);
     EXPECT_EQ(&Session::current(), &*session);
 }
 

@@ -5,6 +5,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreRuntimeOptions.h"
 #include "core/InterCom.h"
+#include "support/Raises.h"
 
 #include <string>
 #include <vector>
@@ -95,7 +96,7 @@ TEST_F(StartUp, RaisesWhatTheServerContactRaises)
 {
     storePath(makeTree(u"installed\\"));
     QVAPP()->serverContact({[] { throw RuntimeError(ErrorNumber::InvalidArgument); }, {}});
-    EXPECT_THROW(QVAPP()->INIT(u""), RuntimeError);
+    EXPECT_RAISES(QVAPP()->INIT(u""), InvalidArgument);
 }
 
 TEST_F(StartUp, ResolvesTheFolders)
@@ -121,7 +122,7 @@ TEST_F(StartUp, SearchesTwiceAndRaisesWithoutAnInstallation)
     goTo(makeFolder(u"1\\2\\3\\4\\5\\"));
     expectError(RootNotFound);
     expectError(RootNotFound);
-    EXPECT_THROW(QVAPP()->INIT(u""), RuntimeError);
+    EXPECT_RAISES(QVAPP()->INIT(u""), InvalidArgument);
     EXPECT_EQ(QVAPP()->URL()->ROOT(), u"");
 }
 
@@ -201,7 +202,7 @@ TEST_F(StartUp, SendsReadyToTheStartCentre)
 
 TEST_F(StartUp, CannotBeReadyBeforeItHasStarted)
 {
-    EXPECT_THROW(QVAPP()->READY(), RuntimeError);
+    EXPECT_RAISES(QVAPP()->READY(), ObjectNotSet);
 }
 
 } // namespace
