@@ -122,7 +122,7 @@ void ControlWidget::modelChanged(ControlAspect aspect)
 
 bool ControlWidget::event(QEvent* event)
 {
-    if (!peer_->isLinked()) {
+    if (peer_ && !peer_->isLinked()) {
         event->ignore(); // the control has left its window; this widget ends when its events are over
         return false;
     }
