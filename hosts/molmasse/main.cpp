@@ -12,7 +12,7 @@
 int main(int argc, char** argv)
 {
     const phial::qt::DesktopApplication application(argc, argv, u"Molmasse");
-    const phial::Session session(application.platform(), application.programFolder());
+    const phial::Session session(application.platform());
     const auto& app = phial::QVAPP();
     app->CONFIG()->IDENT(u"Molmasse");
     app->CONFIG()->NAME(u"Molmassen-Trainer");

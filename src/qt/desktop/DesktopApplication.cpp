@@ -1,6 +1,5 @@
 #include "qt/desktop/DesktopApplication.h"
 
-#include "core/NativePath.h"
 #include "qt/base/BasePlatform.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/DesktopDialogs.h"
@@ -75,11 +74,6 @@ String DesktopApplication::commandLine() const
         words += quoted(word);
     }
     return fromQt(words.join(QLatin1Char(' ')));
-}
-
-String DesktopApplication::programFolder() const
-{
-    return systemPath(QApplication::applicationDirPath().toStdU16String()) + u'\\';
 }
 
 std::optional<std::filesystem::path> DesktopApplication::shotsFolder() const

@@ -16,7 +16,7 @@ namespace phial::qt
 ///     int main(int argc, char** argv)
 ///     {
 ///         const phial::qt::DesktopApplication application(argc, argv, u"Molmasse");
-///         const phial::Session session(application.platform(), application.programFolder());
+///         const phial::Session session(application.platform());
 ///         …
 ///         return application.run();
 ///     }
@@ -37,9 +37,6 @@ public:
 
     /// What followed the program's name on its command line, as one text.
     String commandLine() const;
-
-    /// Where the program's file lies, as the system writes paths: the session's first folder.
-    String programFolder() const;
 
     /// The folder behind "--shots" on the command line: the program is to draw its windows and end. None
     /// without it.
