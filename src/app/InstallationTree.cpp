@@ -16,7 +16,7 @@ bool isRoot(StringView folder)
 
 std::optional<String> nearProgram(StringView programFolder)
 {
-    for (const StringView place : {u"..\\share\\phial\\", u"..\\tree\\", u""}) {
+    for (const StringView place : {u"..\\..\\", u"", u"..\\share\\phial\\", u"..\\tree\\"}) {
         const String folder = CorePathText::WithBackslash(CorePathText::Absolute(programFolder, place));
         if (isRoot(folder)) {
             return folder;

@@ -12,9 +12,10 @@ namespace phial::installationTree
 /// "QVStart.exe" and the folder "Resources".
 bool isRoot(StringView folder);
 
-/// The tree that belongs to a program which lies in the folder: `..\share\phial\` of an installed program,
-/// `..\tree\` of one in a build folder, or the program's folder itself; the first that is one. The result is
-/// absolute and ends in a backslash.
+/// The tree that belongs to a program which lies in the folder: the tree in which the program has a folder of
+/// its own (`..\..\`, as in apps\<identifier>\), the program's folder itself, or the tree beside it, of an
+/// installed program (`..\share\phial\`) or in a build folder (`..\tree\`); the first that is one. The result
+/// is absolute and ends in a backslash.
 std::optional<String> nearProgram(StringView programFolder);
 
 } // namespace phial::installationTree

@@ -63,6 +63,13 @@ TEST_F(SessionLife, BeginsInTheFolderOfTheProcessWithoutATree)
     EXPECT_EQ(currentFolder(), before);
 }
 
+TEST_F(SessionLife, BeginsInTheTreeInWhichTheProgramHasItsFolder)
+{
+    const String tree = makeTree(u"usr\\lib\\phial\\");
+    openFor(makeFolder(u"usr\\lib\\phial\\apps\\Molmasse\\"));
+    EXPECT_EQ(currentFolder(), tree);
+}
+
 TEST_F(SessionLife, BeginsInTheTreeOfABuildFolder)
 {
     const String tree = makeTree(u"build\\tree\\");
