@@ -1,6 +1,5 @@
 #include "calc/ExpressionSolver.h"
 #include "core/CoreNumbers.h"
-#include "core/CoreText.h"
 #include "support/CaseTable.h"
 
 #include <gtest/gtest.h>
