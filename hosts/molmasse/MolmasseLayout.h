@@ -79,7 +79,8 @@ inline constexpr LayoutItem Contents[] = {
     design<phial::ctl_Button>(u"but_Leave", {60, 360, 240, 80}, u"Beenden|Quit").inside(u"pan_Missing"),
 };
 
-/// The number pad, row by row; "<" takes the last character away.
+/// The number pad, row by row. The comma stands for the user's decimal sign; the last key takes a character
+/// away.
 inline constexpr phial::StringView PadKeys[] = {u"7", u"8", u"9", u"4", u"5", u"6",
                                                 u"1", u"2", u"3", u",", u"0", u"\u232B"};
 inline constexpr int PadColumns = 3;

@@ -2,6 +2,7 @@
 
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
+#include "core/Locale.h"
 #include "core/NumberText.h"
 #include "core/RandomSource.h"
 #include "core/SessionState.h"
@@ -122,14 +123,12 @@ void frm_Molmasse::buildPad()
         const auto key = pad_.has(i) ? pad_(i) : pad_.load(i);
         key->Move(left + i % layout::PadColumns * layout::PadStep,
                   top + i / layout::PadColumns * layout::PadStep);
-        key->Caption(String(layout::PadKeys[i]));
+        key->Caption(layout::PadKeys[i] == u"," ? String(1, phial::currentLocale().decimalSign)
+                                                : String(layout::PadKeys[i]));
         // Physical digits serve the keyboard, so the pad stays out of the Tab key's way.
         key->frame().TabStop(false);
         key->Visible(true);
     }
-    pad_(static_cast<int>(std::size(layout::PadKeys)) - 1)
-        ->frame()
-        .AccessibleName(translate(u"Letztes Zeichen löschen", u"Delete last character"));
 }
 
 void frm_Molmasse::setFont(StringView control, double size, bool bold, std::int32_t index)
@@ -224,7 +223,7 @@ void frm_Molmasse::connect()
         return button.CLICK.connect([this, index] { startRound(static_cast<std::size_t>(index)); });
     });
     pad_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
-        return button.CLICK.connect([this, index] { pressPad(layout::PadKeys[index]); });
+        return button.CLICK.connect([this, index] { pressPad(index); });
     });
     connections_ += form_->KeyDown.connect([this](phial::KeyEvent& event) { keyDown(event); });
 }
@@ -247,6 +246,9 @@ void frm_Molmasse::TRANSLATE()
     get<phial::TextBox>(u"txt_Answer")
         ->frame()
         .AccessibleName(translate(u"Molare Masse in g/mol", u"Molar mass in g/mol"));
+    pad_(pad_.UBound())
+        ->frame()
+        .AccessibleName(translate(u"Letztes Zeichen löschen", u"Delete last character"));
     caption(u"lab_Missing", missingText());
 }
 
@@ -422,20 +424,20 @@ void frm_Molmasse::goOn()
     }
 }
 
-void frm_Molmasse::pressPad(StringView key)
+void frm_Molmasse::pressPad(std::int32_t index)
 {
     const auto answer = get<phial::TextBox>(u"txt_Answer");
     if (answer->Locked()) {
         return;
     }
-    if (key == layout::PadKeys[std::size(layout::PadKeys) - 1]) {
+    if (index == pad_.UBound()) {
         if (answer->SelLength() == 0 && answer->SelStart() > 0) {
             answer->SelStart(answer->SelStart() - 1);
             answer->SelLength(1);
         }
         answer->SelText({});
     } else if (static_cast<std::int32_t>(answer->Text().size()) - answer->SelLength() < answer->MaxLength()) {
-        answer->SelText(key);
+        answer->SelText(pad_(index)->Caption());
     }
     answer->SetFocus();
 }

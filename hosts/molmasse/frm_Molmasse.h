@@ -16,7 +16,7 @@ namespace molmasse
 {
 
 /// The trainer's window: choice of the level, ten tasks, the summary; or what is missing. Return does what
-/// the blue button says, F1 gives the hint, Escape ends; everything can be touched as well.
+/// the coloured button says, F1 gives the hint, Escape ends; everything can be touched as well.
 class frm_Molmasse
 {
 public:
@@ -50,7 +50,7 @@ private:
     void goOn();
     void showVerdict(Verdict verdict);
     void giveHint();
-    void pressPad(phial::StringView key);
+    void pressPad(std::int32_t index);
     void showSummary();
     void keyDown(phial::KeyEvent& event);
 

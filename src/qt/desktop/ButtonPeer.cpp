@@ -32,8 +32,8 @@ void ButtonPeer::show(ControlAspect aspect)
     } else if (aspect == ControlAspect::Picture) {
         button_.setIcon(iconOf(model_->Picture()));
     } else if (aspect == ControlAspect::Style) {
+        markAccent(button_, model_->Accent()); // takes the sheet's font, so the model's comes behind
         button_.setFont(fontCatalogue().font(model_->Font()->traits()));
-        markAccent(button_, model_->Accent());
     }
 }
 

@@ -32,6 +32,7 @@ class LineEditor final : public TextEditor
 public:
     LineEditor(QWidget& holder, const std::function<void()>& changed) : line_(new QLineEdit(&holder))
     {
+        line_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // the model says how large it is
         QObject::connect(line_, &QLineEdit::textChanged, line_, changed);
         QObject::connect(line_, &QLineEdit::selectionChanged, line_, changed);
         QObject::connect(line_, &QLineEdit::cursorPositionChanged, line_, changed);

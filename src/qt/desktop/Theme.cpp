@@ -32,7 +32,7 @@ QPushButton:hover { background: $hover; }
 QPushButton:pressed { background: $pressed; }
 QPushButton:focus { border: 2px solid $accent; padding: 1px 13px; }
 QPushButton:disabled { color: $pale; background: $ground; }
-QPushButton[phialAccent="true"] { background: $accent; color: #ffffff; border: 1px solid $accent; font-weight: bold; }
+QPushButton[phialAccent="true"] { background: $accent; color: #ffffff; border: 1px solid $accent; }
 QPushButton[phialAccent="true"]:hover { background: $accentHover; }
 QPushButton[phialAccent="true"]:pressed { background: $accentPressed; }
 QPushButton[phialAccent="true"]:focus { border: 2px solid $ink; }
