@@ -39,7 +39,7 @@ constexpr Member ButtonsTable[] = {
 
 } // namespace
 
-CommandBarButton::CommandBarButton(String key, String caption, std::function<void()> changed)
+CommandBarButton::CommandBarButton(String key, String caption, std::shared_ptr<const Event<>> changed)
     : key_(std::move(key)), caption_(std::move(caption)), changed_(std::move(changed))
 {
 }
@@ -47,35 +47,35 @@ CommandBarButton::CommandBarButton(String key, String caption, std::function<voi
 void CommandBarButton::Caption(String value)
 {
     if (change(caption_, std::move(value))) {
-        changed_();
+        changed_->emit();
     }
 }
 
 void CommandBarButton::Enabled(bool value)
 {
     if (change(enabled_, value)) {
-        changed_();
+        changed_->emit();
     }
 }
 
 void CommandBarButton::Visible(bool value)
 {
     if (change(visible_, value)) {
-        changed_();
+        changed_->emit();
     }
 }
 
 void CommandBarButton::Picture(PicturePtr value)
 {
     if (change(picture_, std::move(value))) {
-        changed_();
+        changed_->emit();
     }
 }
 
 void CommandBarButton::ToolTipText(String value)
 {
     if (change(toolTip_, std::move(value))) {
-        changed_();
+        changed_->emit();
     }
 }
 
@@ -105,14 +105,14 @@ std::shared_ptr<CommandBarButton> CommandBarButtons::find(StringView key) const
 std::shared_ptr<CommandBarButton> CommandBarButtons::Add(String key, String caption)
 {
     buttons_.push_back(std::make_shared<CommandBarButton>(std::move(key), std::move(caption), changed_));
-    changed_();
+    changed_->emit();
     return buttons_.back();
 }
 
 void CommandBarButtons::Clear()
 {
     buttons_.clear();
-    changed_();
+    changed_->emit();
 }
 
 MemberTable CommandBarButtons::members() const

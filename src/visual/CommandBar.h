@@ -1,8 +1,8 @@
 #pragma once
 
+#include "core/Event.h"
 #include "visual/Control.h"
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -14,7 +14,7 @@ class CommandBarButton final : public Object
 {
 public:
     /// `key` is the text that the bar reports, such as "DIALOG.OK();".
-    CommandBarButton(String key, String caption, std::function<void()> changed);
+    CommandBarButton(String key, String caption, std::shared_ptr<const Event<>> changed);
 
     String Key() const { return key_; }
     void Key(String value) { key_ = std::move(value); }
@@ -39,15 +39,13 @@ private:
     bool visible_ = true;
     PicturePtr picture_;
     String toolTip_;
-    std::function<void()> changed_;
+    std::shared_ptr<const Event<>> changed_; ///< of the bar's buttons
 };
 
 /// The buttons of a bar, counted from 1.
 class CommandBarButtons final : public Object
 {
 public:
-    explicit CommandBarButtons(std::function<void()> changed) : changed_(std::move(changed)) {}
-
     std::int32_t Count() const { return static_cast<std::int32_t>(buttons_.size()); }
     /// Raises 9 outside.
     std::shared_ptr<CommandBarButton> Item(std::int32_t index) const;
@@ -55,12 +53,14 @@ public:
     std::shared_ptr<CommandBarButton> find(StringView key) const;
     std::shared_ptr<CommandBarButton> Add(String key, String caption);
     void Clear();
+    /// Raised when buttons come, go or look different.
+    Event<>& changed() { return *changed_; }
 
     StringView typeName() const override { return u"CommandBarButtons"; }
     MemberTable members() const override;
 
 private:
-    std::function<void()> changed_;
+    std::shared_ptr<Event<>> changed_ = std::make_shared<Event<>>(); ///< the buttons may live longer
     std::vector<std::shared_ptr<CommandBarButton>> buttons_;
 };
 

@@ -22,16 +22,6 @@ bool isOwn(StringView name)
     return std::ranges::any_of(OwnMembers, [name](StringView own) { return equalsIgnoringCase(own, name); });
 }
 
-Variant withOwnFont(const Variant& value)
-{
-    if (value.kind() == Variant::Kind::Object) {
-        if (const auto font = std::dynamic_pointer_cast<Font>(value.object())) {
-            return Variant(ObjectPtr(font->clone()));
-        }
-    }
-    return value;
-}
-
 } // namespace
 
 void copyControl(const Control& from, Control& to)
@@ -40,7 +30,7 @@ void copyControl(const Control& from, Control& to)
     to.frame().pixelRectangle(from.frame().pixelRectangle());
     for (const Member& member : from.members()) {
         if (member.read && member.write && !isOwn(member.name)) {
-            member.write(to, withOwnFont(member.read(source)));
+            member.write(to, ownCopy(member.read(source)));
         }
     }
 }

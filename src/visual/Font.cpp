@@ -67,6 +67,16 @@ void Font::assign(const FontSpec& traits)
     change(spec_, traits);
 }
 
+Variant ownCopy(const Variant& value)
+{
+    if (value.kind() == Variant::Kind::Object) {
+        if (const auto font = std::dynamic_pointer_cast<Font>(value.object())) {
+            return Variant(ObjectPtr(font->clone()));
+        }
+    }
+    return value;
+}
+
 MemberTable Font::members() const
 {
     using members::property;

@@ -55,4 +55,8 @@ private:
 
 using FontPtr = std::shared_ptr<Font>;
 
+/// The value to keep when a property's value is copied: a font becomes a font of its own, all else stays as
+/// it is.
+Variant ownCopy(const Variant& value);
+
 } // namespace phial

@@ -1,5 +1,7 @@
 #include "visual/PropertyBag.h"
 
+#include "visual/Font.h"
+
 namespace phial
 {
 
@@ -11,7 +13,7 @@ bool PropertyBag::Exists(StringView key) const
 Variant PropertyBag::ReadProperty(StringView key, const Variant& defaultValue) const
 {
     const auto found = values_.find(upperCase(key));
-    return found == values_.end() ? defaultValue : found->second;
+    return ownCopy(found == values_.end() ? defaultValue : found->second);
 }
 
 void PropertyBag::WriteProperty(StringView key, const Variant& value, const Variant& defaultValue)
@@ -19,7 +21,7 @@ void PropertyBag::WriteProperty(StringView key, const Variant& value, const Vari
     if (!defaultValue.isEmpty() && value == defaultValue) {
         values_.erase(upperCase(key));
     } else {
-        values_.insert_or_assign(upperCase(key), value);
+        values_.insert_or_assign(upperCase(key), ownCopy(value));
     }
 }
 

@@ -8,7 +8,8 @@ namespace phial
 {
 
 /// The persisted properties of a visual control: values by key, without regard to case. A key can differ from
-/// the property's name.
+/// the property's name. Fonts go in and come out as copies, so that a later change of the control's font
+/// leaves the bag alone.
 class PropertyBag
 {
 public:

@@ -18,8 +18,8 @@ constexpr auto Table = joinMembers(
 } // namespace
 
 ctl_CmdBar::ctl_CmdBar()
-    : frame_(*this),
-      buttons_(std::make_shared<CommandBarButtons>([this] { frame_.report(ControlAspect::Items); }))
+    : frame_(*this), buttons_(std::make_shared<CommandBarButtons>()),
+      buttonsChanged_(buttons_->changed().connect([this] { REFRESH(); }))
 {
     frame_.canFocus(true);
 }

@@ -25,6 +25,7 @@ public:
 private:
     ControlFrame frame_;
     std::shared_ptr<CommandBarButtons> buttons_;
+    Connection buttonsChanged_;
 };
 
 } // namespace phial

@@ -19,8 +19,8 @@ constexpr auto Table = joinMembers(
 } // namespace
 
 ctl_UICommandbar::ctl_UICommandbar()
-    : frame_(*this),
-      buttons_(std::make_shared<CommandBarButtons>([this] { frame_.report(ControlAspect::Items); }))
+    : frame_(*this), buttons_(std::make_shared<CommandBarButtons>()),
+      buttonsChanged_(buttons_->changed().connect([this] { REFRESH(); }))
 {
     frame_.canFocus(true);
 }

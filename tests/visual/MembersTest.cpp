@@ -121,6 +121,19 @@ TEST(PropertyBagTest, KeepsWhatDiffersFromItsDefault)
     EXPECT_FALSE(bag.Exists(u"ZIPSIZE"));
 }
 
+TEST(PropertyBagTest, KeepsFontsAsTheyWere)
+{
+    PropertyBag bag;
+    const auto font = std::make_shared<Font>();
+    bag.WriteProperty(u"TEXTFONT", Variant(ObjectPtr(font)));
+    font->Size(20);
+    const auto restored = std::dynamic_pointer_cast<Font>(bag.ReadProperty(u"TEXTFONT").object());
+    ASSERT_NE(restored, nullptr);
+    EXPECT_EQ(restored->Size(), 8);
+    restored->Size(30);
+    EXPECT_EQ(std::dynamic_pointer_cast<Font>(bag.ReadProperty(u"TEXTFONT").object())->Size(), 8);
+}
+
 TEST(FontTest, TellsChangesAndNothingElse)
 {
     Font font;
