@@ -11,7 +11,8 @@ namespace phial::test
 {
 
 /// A fresh run with root and language for each test, on a scripted outside whose special folders lie below a
-/// temporary one. It fails like HeadlessSession: by an unexpected box, a missing one, an error at a dispatch.
+/// temporary one. It fails like HeadlessSession: by an unexpected box or modal form, a missing one, an error
+/// at a dispatch.
 class AppSession : public ::testing::Test
 {
 public:
@@ -23,6 +24,7 @@ public:
     {
         session.reset();
         outside.dialogs().checkDone();
+        outside.visual().checkDone();
     }
 
     /// A place below the test's temporary folder, as the system writes it.
