@@ -22,7 +22,8 @@ QCursor cursorFor(MousePointer pointer, const PicturePtr& picture)
         return Qt::ForbiddenCursor;
     case MousePointer::Custom:
         if (picture) {
-            return QCursor(QPixmap::fromImage(imageCopy(*picture)), static_cast<int>(picture->Width() / 2), 0);
+            return QCursor(QPixmap::fromImage(imageCopy(*picture)), static_cast<int>(picture->Width() / 2),
+                           0);
         }
         break;
     case MousePointer::Default:

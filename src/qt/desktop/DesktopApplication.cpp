@@ -5,6 +5,7 @@
 #include "qt/desktop/DesktopDialogs.h"
 #include "qt/desktop/DesktopServices.h"
 #include "qt/desktop/Dispatch.h"
+#include "qt/desktop/PrintedDialogs.h"
 #include "qt/desktop/QtVisualHost.h"
 
 #include <QApplication>
@@ -31,6 +32,27 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
     return std::make_unique<QApplication>(argc, argv);
 }
 
+constexpr auto ShotsOption = "--shots"; // followed by a folder
+
+QStringList argumentsWithoutShots()
+{
+    QStringList arguments = QApplication::arguments().mid(1);
+    const auto option = arguments.indexOf(QLatin1String(ShotsOption));
+    if (option >= 0 && option + 1 < arguments.size()) {
+        arguments.remove(option, 2);
+    }
+    return arguments;
+}
+
+// While pictures are taken nobody is there to close a box.
+std::shared_ptr<CoreDialogs> makeDialogs(bool unattended)
+{
+    if (unattended) {
+        return std::make_shared<PrintedDialogs>();
+    }
+    return std::make_shared<DesktopDialogs>();
+}
+
 // Words with blanks get their quotes back, which the shell has taken.
 QString quoted(const QString& word)
 {
@@ -53,9 +75,8 @@ DesktopApplication::~DesktopApplication()
 Platform DesktopApplication::platform() const
 {
     Platform platform = basePlatform(dispatchGuard());
-    const auto dialogs = std::make_shared<DesktopDialogs>();
-    dispatchGuard()->setReporter([dialogs](const String& text) { dialogs->Error(text, {}); });
-    platform.dialogs = dialogs;
+    platform.dialogs = makeDialogs(shotsFolder().has_value());
+    dispatchGuard()->setReporter([dialogs = platform.dialogs](const String& text) { dialogs->Error(text); });
     platform.display = std::make_shared<DesktopDisplay>();
     platform.windows = std::make_shared<DesktopWindowOps>();
     platform.cursors = std::make_shared<DesktopCursors>();
@@ -69,8 +90,7 @@ Platform DesktopApplication::platform() const
 String DesktopApplication::commandLine() const
 {
     QStringList words;
-    const QStringList arguments = QApplication::arguments().mid(1);
-    for (const QString& word : arguments) {
+    for (const QString& word : argumentsWithoutShots()) {
         words += quoted(word);
     }
     return fromQt(words.join(QLatin1Char(' ')));
@@ -79,7 +99,7 @@ String DesktopApplication::commandLine() const
 std::optional<std::filesystem::path> DesktopApplication::shotsFolder() const
 {
     const QStringList arguments = QApplication::arguments();
-    const auto option = arguments.indexOf(QStringLiteral("--shots"));
+    const auto option = arguments.indexOf(QLatin1String(ShotsOption));
     if (option < 0 || option + 1 >= arguments.size()) {
         return std::nullopt;
     }

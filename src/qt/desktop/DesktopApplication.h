@@ -35,7 +35,7 @@ public:
     /// The whole outside, for one session.
     Platform platform() const;
 
-    /// What followed the program's name on its command line, as one text.
+    /// What followed the program's name on its command line, as one text, without "--shots" and its folder.
     String commandLine() const;
 
     /// The folder behind "--shots" on the command line: the program is to draw its windows and end. None

@@ -21,7 +21,8 @@ struct HiddenFont {
     const char* file;
 };
 
-// The bold face of this Tahoma is no bolder than the plain one, so it is not in the table.
+// This Tahoma is a makeshift: spaced too tightly, and its bold face is no bolder than the plain one. It comes
+// after the substitutes.
 constexpr HiddenFont HiddenFonts[] = {
     {"Tahoma", "tahoma.ttf"},
     {"Symbol", "symbol.ttf"},
@@ -52,6 +53,18 @@ bool sameName(const QString& left, const char* right)
     return left.compare(QLatin1String(right), Qt::CaseInsensitive) == 0;
 }
 
+// Empty when the computer holds no file for the family.
+QString hiddenFile(const QString& family)
+{
+    for (const HiddenFont& font : HiddenFonts) {
+        const QString path = QLatin1String(HiddenFontFolder) + QLatin1String(font.file);
+        if (sameName(family, font.family) && QFileInfo::exists(path)) {
+            return path;
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 bool FontCatalogue::isInstalled(const QString& family)
@@ -65,29 +78,22 @@ bool FontCatalogue::isInstalled(const QString& family)
 
 void FontCatalogue::registerFile(const QString& family)
 {
-    for (const HiddenFont& font : HiddenFonts) {
-        const QString path = QLatin1String(HiddenFontFolder) + QLatin1String(font.file);
-        if (sameName(family, font.family) && !isInstalled(family) && QFileInfo::exists(path)) {
-            QFontDatabase::addApplicationFont(path);
-            families_ += QLatin1String(font.family);
-            registered_ += QLatin1String(font.family);
-        }
+    const QString path = hiddenFile(family);
+    if (!path.isEmpty() && QFontDatabase::addApplicationFont(path) >= 0) {
+        families_ += family;
     }
 }
 
 bool FontCatalogue::has(StringView name)
 {
     const QString family = toQt(name);
-    registerFile(family);
-    return isInstalled(family);
+    return isInstalled(family) || !hiddenFile(family).isEmpty();
 }
 
-QString FontCatalogue::family(StringView name, bool bold)
+QString FontCatalogue::family(StringView name)
 {
     const QString asked = toQt(name);
-    const bool installed = has(name);
-    const bool plainOnly = registered_.contains(asked, Qt::CaseInsensitive);
-    if (installed && !(bold && plainOnly)) {
+    if (isInstalled(asked)) {
         return asked;
     }
     for (const Substitute& substitute : Substitutes) {
@@ -100,12 +106,13 @@ QString FontCatalogue::family(StringView name, bool bold)
             }
         }
     }
-    return installed ? asked : QLatin1String(GeneralFamily);
+    registerFile(asked);
+    return isInstalled(asked) ? asked : QLatin1String(GeneralFamily);
 }
 
 QFont FontCatalogue::font(const FontSpec& traits)
 {
-    QFont font(family(traits.name, traits.bold));
+    QFont font(family(traits.name));
     font.setPointSizeF(traits.size);
     font.setBold(traits.bold);
     font.setItalic(traits.italic);

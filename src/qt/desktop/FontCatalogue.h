@@ -5,8 +5,6 @@
 #include <QFont>
 #include <QStringList>
 
-#include <vector>
-
 namespace phial::qt
 {
 
@@ -18,9 +16,9 @@ namespace phial::qt
 class FontCatalogue
 {
 public:
-    /// The family for a name and a weight: the name itself where it is installed, else the first installed
-    /// substitute, else the program's general family.
-    QString family(StringView name, bool bold);
+    /// The family for a name: the name itself where it is installed, else the first installed substitute,
+    /// else a hidden file of that name, else the program's general family.
+    QString family(StringView name);
     /// Whether the name can be had without a substitute of another look.
     bool has(StringView name);
 
@@ -32,7 +30,6 @@ private:
     void registerFile(const QString& family);
 
     QStringList families_;
-    QStringList registered_;
     bool listed_ = false;
 };
 
