@@ -125,8 +125,8 @@ void frm_Molmasse::buildPad()
                   top + i / layout::PadColumns * layout::PadStep);
         key->Caption(layout::PadKeys[i] == u"," ? String(1, phial::currentLocale().decimalSign)
                                                 : String(layout::PadKeys[i]));
-        // Physical digits serve the keyboard, so the pad stays out of the Tab key's way.
-        key->frame().TabStop(false);
+        // The answer keeps the focus, and with it its selection, while the pad is touched.
+        key->frame().canFocus(false);
         key->Visible(true);
     }
 }
@@ -361,10 +361,16 @@ void frm_Molmasse::check()
             ->Caption(round_->finished() ? translate(u"Ergebnis", u"Result") : translate(u"Weiter", u"Next"));
         get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
     } else {
-        answer->SelStart(0);
-        answer->SelLength(static_cast<std::int32_t>(answer->Text().size()));
+        selectAnswer();
     }
     answer->SetFocus();
+}
+
+void frm_Molmasse::selectAnswer()
+{
+    const auto answer = get<phial::TextBox>(u"txt_Answer");
+    answer->SelStart(0);
+    answer->SelLength(static_cast<std::int32_t>(answer->Text().size()));
 }
 
 void frm_Molmasse::showVerdict(Verdict verdict)
@@ -412,6 +418,9 @@ void frm_Molmasse::giveHint()
     caption(u"lab_Hint", atomsCounted(*data_.elements, round_->task().formula));
     get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
     get<phial::TextBox>(u"txt_Answer")->SetFocus();
+    if (verdict_ == Verdict::Wrong) {
+        selectAnswer(); // the next try replaces the wrong one
+    }
 }
 
 void frm_Molmasse::goOn()

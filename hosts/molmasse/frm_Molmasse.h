@@ -47,6 +47,7 @@ private:
     void showTask();
     void showProgress();
     void check();
+    void selectAnswer();
     void goOn();
     void showVerdict(Verdict verdict);
     void giveHint();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Locale.h"
 #include "core/String.h"
 
 #include <exception>
@@ -65,6 +66,9 @@ struct Platform {
     std::function<std::shared_ptr<CoreNetClient>()> newNetClient;
     std::function<std::shared_ptr<CoreFormDocument>()> newFormDocument;
     std::function<std::shared_ptr<InterCom>()> newInterCom;
+
+    /// The user's habits with numbers and dates, with which the session begins.
+    Locale locale;
 
     /// The program's title, as its windows bear it.
     String programTitle = u"Phial";

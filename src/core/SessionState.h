@@ -38,7 +38,7 @@ public:
 
 private:
     phial::Platform platform_;
-    phial::Locale locale_;
+    phial::Locale locale_{platform_.locale};
     LocaleBinding localeBinding_{locale_};
     CoreTheme theme_;
     std::shared_ptr<phial::CurrentFolder> currentFolder_;

@@ -11,9 +11,26 @@
 #include "qt/base/StandardFolder.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace phial::qt
 {
+
+namespace
+{
+
+// The decimal sign is the user's; a desktop that knows none but the programmers' way says nothing about him.
+Locale userLocale()
+{
+    Locale locale;
+    const QLocale system = QLocale::system();
+    if (system.language() != QLocale::C) {
+        locale.decimalSign = system.decimalPoint() == QLatin1String(".") ? u'.' : u',';
+    }
+    return locale;
+}
+
+} // namespace
 
 Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard)
 {
@@ -25,6 +42,7 @@ Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard)
     platform.folders = std::make_shared<QtFolders>();
     platform.machine = std::make_shared<QtMachine>();
     platform.settings = std::make_shared<QtSettingsStore>();
+    platform.locale = userLocale();
     if (QCoreApplication::instance() != nullptr) {
         platform.programFolder = asFolder(QCoreApplication::applicationDirPath());
     }

@@ -64,7 +64,6 @@ QString quoted(const QString& word)
 DesktopApplication::DesktopApplication(int& argc, char** argv, StringView title)
     : title_(title), application_(makeApplication(argc, argv))
 {
-    QApplication::setApplicationDisplayName(toQt(title));
 }
 
 DesktopApplication::~DesktopApplication()

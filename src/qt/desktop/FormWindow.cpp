@@ -55,6 +55,18 @@ QSize innerSize(const Form& form)
     return {static_cast<int>(std::lround(size.width)), static_cast<int>(std::lround(size.height))};
 }
 
+/// Ends the program when its last window has gone. The toolkit would see that by the close events, which
+/// these windows leave to their models.
+void endWithoutWindows()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const bool anyVisible = std::any_of(windows.begin(), windows.end(),
+                                        [](const QWidget* window) { return window->isVisible(); });
+    if (!anyVisible) {
+        QCoreApplication::quit();
+    }
+}
+
 } // namespace
 
 FormWindow::FormWindow(const std::shared_ptr<Form>& form, QWidget* owner)
@@ -85,6 +97,7 @@ void FormWindow::leave()
     }
     hide();
     deleteLater();
+    QTimer::singleShot(0, QCoreApplication::instance(), endWithoutWindows);
 }
 
 void FormWindow::showAll()
