@@ -4,8 +4,11 @@
 #include "headless/HeadlessPlatform.h"
 #include "support/TemporaryFolder.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <optional>
+#include <string>
 
 namespace phial::test
 {
