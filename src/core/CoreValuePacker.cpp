@@ -2,13 +2,11 @@
 
 #include "core/DATA.h"
 #include "core/EscapedText.h"
+#include "core/ExactNumber.h"
 #include "core/NumberText.h"
 #include "core/tmp_Data.h"
 
 #include <array>
-#include <bit>
-#include <charconv>
-#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -22,8 +20,6 @@ namespace
 
 constexpr StringView Head = u"QV1;";
 constexpr StringView AlsoEscaped = u"{|:";
-constexpr char16_t BitsSign = u'#';
-constexpr std::size_t BitsDigits = 16;
 constexpr std::size_t ShortestValue = 4; // "E0=;"
 
 /// The letter before a value's length.
@@ -49,39 +45,21 @@ enum class Tag : char16_t {
     throw RuntimeError(ErrorNumber::TypeMismatch);
 }
 
-String fromAscii(std::string_view ascii)
+/// The number, or damage where the text was none.
+template <typename Number>
+Number required(std::optional<Number> number)
 {
-    return String(ascii.begin(), ascii.end());
-}
-
-/// The ASCII form of a short number; empty, which is no number, for anything else.
-std::string toAscii(StringView text)
-{
-    constexpr std::size_t Longest = 32;
-    std::string ascii;
-    if (text.size() > Longest) {
-        return ascii;
-    }
-    for (const char16_t unit : text) {
-        if (unit >= 0x80) {
-            return {};
-        }
-        ascii += static_cast<char>(unit);
-    }
-    return ascii;
-}
-
-/// Reads a text that is a number from its first to its last sign.
-template <typename Number, typename... Format>
-Number readExactly(StringView text, Format... format)
-{
-    const std::string ascii = toAscii(text);
-    Number number{};
-    const auto [end, error] = std::from_chars(ascii.data(), ascii.data() + ascii.size(), number, format...);
-    if (ascii.empty() || error != std::errc() || end != ascii.data() + ascii.size()) {
+    if (!number) {
         raiseDamaged();
     }
-    return number;
+    return *number;
+}
+
+/// A count or length in decimal digits.
+String countText(std::size_t count)
+{
+    const std::string digits = std::to_string(count);
+    return {digits.begin(), digits.end()};
 }
 
 // The record in an object that is set, or null.
@@ -103,7 +81,7 @@ public:
 
     String list(std::span<const Variant> values)
     {
-        text_ += fromAscii(std::to_string(values.size())) + u';';
+        text_ += countText(values.size()) + u';';
         for (const Variant& value : values) {
             write(value);
         }
@@ -121,9 +99,9 @@ private:
         case Variant::Kind::Whole:
             return append(Tag::Whole, plainText(value.toWhole()));
         case Variant::Kind::Real:
-            return append(Tag::Real, real(value.toReal()));
+            return append(Tag::Real, exactText(value.toReal()));
         case Variant::Kind::Moment:
-            return append(Tag::Moment, real(value.toMoment().days));
+            return append(Tag::Moment, exactText(value.toMoment().days));
         case Variant::Kind::Text:
             return append(Tag::Text, escapedText(value.text(), AlsoEscaped));
         case Variant::Kind::Array:
@@ -136,22 +114,10 @@ private:
     void append(Tag tag, StringView content)
     {
         text_ += static_cast<char16_t>(tag);
-        text_ += fromAscii(std::to_string(content.size()));
+        text_ += countText(content.size());
         text_ += u'=';
         text_ += content;
         text_ += u';';
-    }
-
-    /// The shortest text that reads back as the same number; the bits where there is none.
-    static String real(double number)
-    {
-        std::array<char, 32> buffer{};
-        char* const end = buffer.data() + buffer.size();
-        if (std::isfinite(number)) {
-            return fromAscii({buffer.data(), std::to_chars(buffer.data(), end, number).ptr});
-        }
-        const auto bits = std::to_chars(buffer.data(), end, std::bit_cast<std::uint64_t>(number), 16);
-        return BitsSign + upperCase(fromAscii({buffer.data(), bits.ptr}));
     }
 
     String record(const Variant& value)
@@ -183,7 +149,7 @@ public:
 
     std::vector<Variant> list()
     {
-        const auto count = readExactly<std::uint32_t>(take(u';'));
+        const auto count = required(exactCount(take(u';')));
         if (count > rest_.size() / ShortestValue) {
             raiseDamaged();
         }
@@ -230,7 +196,7 @@ private:
         }
         const auto tag = static_cast<Tag>(rest_.front());
         rest_.remove_prefix(1);
-        const auto length = readExactly<std::uint32_t>(take(u'='));
+        const auto length = required(exactCount(take(u'=')));
         if (length >= rest_.size() || rest_[length] != u';') {
             raiseDamaged();
         }
@@ -251,11 +217,11 @@ private:
         case Tag::Boolean:
             return boolean(content);
         case Tag::Whole:
-            return readExactly<std::int32_t>(content);
+            return required(exactWhole(content));
         case Tag::Real:
-            return real(content);
+            return required(exactReal(content));
         case Tag::Moment:
-            return phial::Moment{real(content)};
+            return phial::Moment{required(exactReal(content))};
         case Tag::Text:
             return text(content);
         case Tag::Array:
@@ -272,18 +238,6 @@ private:
             raiseDamaged();
         }
         return content == u"-1";
-    }
-
-    static double real(StringView content)
-    {
-        if (content.starts_with(BitsSign) && content.size() == 1 + BitsDigits) {
-            return std::bit_cast<double>(readExactly<std::uint64_t>(content.substr(1), 16));
-        }
-        const auto number = readExactly<double>(content);
-        if (!std::isfinite(number)) {
-            raiseDamaged();
-        }
-        return number;
     }
 
     static String text(StringView content)

@@ -1,9 +1,9 @@
 #include "core/SettingsEncoding.h"
 
 #include "core/EscapedText.h"
+#include "core/ExactNumber.h"
+#include "core/NumberText.h"
 
-#include <charconv>
-#include <string>
 #include <utility>
 
 namespace phial
@@ -23,16 +23,8 @@ constexpr StringView AlsoEscapedInKeys = u"|/";
 
 std::optional<Variant> decodeNumber(StringView encoded)
 {
-    std::string digits;
-    for (const char16_t unit : encoded.substr(0, 12)) {
-        digits += unit < 0x80 ? static_cast<char>(unit) : '?';
-    }
-    std::int32_t number = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (error != std::errc() || end != digits.data() + digits.size() || digits.size() != encoded.size()) {
-        return std::nullopt;
-    }
-    return Variant(number);
+    const auto number = exactWhole(encoded);
+    return number ? std::optional<Variant>(*number) : std::nullopt;
 }
 
 std::optional<Variant> decodeBoolean(StringView encoded)
@@ -63,15 +55,6 @@ std::optional<Variant> decodeList(StringView encoded)
     return Variant(std::move(items));
 }
 
-String numberLine(std::int32_t number)
-{
-    String line(NumberTag);
-    for (const char digit : std::to_string(number)) {
-        line += static_cast<char16_t>(digit);
-    }
-    return line;
-}
-
 String listLine(const Variant::Array& items)
 {
     String line(ListTag);
@@ -90,7 +73,7 @@ String encodeSetting(const Variant& value)
     case Variant::Kind::Boolean:
         return String(BooleanTag) + (value.toBoolean() ? u"true" : u"false");
     case Variant::Kind::Whole:
-        return numberLine(value.toWhole());
+        return String(NumberTag) + plainText(value.toWhole());
     case Variant::Kind::Array:
         return listLine(value.array());
     case Variant::Kind::Text:
