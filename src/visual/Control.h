@@ -51,9 +51,8 @@ public:
     /// What a screen reader says when the frame's AccessibleName is empty.
     virtual String accessibleText() const { return {}; }
 
-    // Called by the frame.
+    /// Called by the frame when the size has changed.
     virtual void resized() {}
-    virtual void visibilityChanged() {}
 
     // Input. A disabled control is never called.
     virtual void pointerDown(const PointerEvent&) {}

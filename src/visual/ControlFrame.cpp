@@ -2,9 +2,23 @@
 
 #include "core/RuntimeError.h"
 #include "visual/Form.h"
+#include "visual/UserControl.h"
 
 namespace phial
 {
+
+namespace
+{
+
+/// The frame of the control that holds another one; null on the form itself.
+const ControlFrame* holderOf(const ControlFrame& frame)
+{
+    const Container* container = frame.container();
+    const Control* holder = container ? container->owner() : nullptr;
+    return holder ? &holder->frame() : nullptr;
+}
+
+} // namespace
 
 WindowHandle newWindowHandle()
 {
@@ -65,8 +79,8 @@ void ControlFrame::Visible(bool value)
         return;
     }
     visible_ = value;
-    control_.visibilityChanged();
     report(ControlAspect::Visibility);
+    tellSeen();
     leaveFocusIfUnreachable();
 }
 
@@ -94,14 +108,42 @@ void ControlFrame::leaveFocusIfUnreachable()
 
 bool ControlFrame::isReachable() const
 {
-    for (const ControlFrame* frame = this; frame;) {
+    for (const ControlFrame* frame = this; frame; frame = holderOf(*frame)) {
         if (!frame->visible_ || !frame->enabled_) {
             return false;
         }
-        const Control* holder = frame->container_ ? frame->container_->owner() : nullptr;
-        frame = holder ? &holder->frame() : nullptr;
     }
     return true;
+}
+
+bool ControlFrame::isSeen() const
+{
+    for (const ControlFrame* frame = this; frame; frame = holderOf(*frame)) {
+        if (!frame->visible_) {
+            return false;
+        }
+    }
+    const auto parentForm = form();
+    return parentForm && parentForm->Visible();
+}
+
+void ControlFrame::tellSeen()
+{
+    const ControlPtr self = control_.weak_from_this().lock(); // a handler may take the control away
+    const bool seen = isSeen();
+    UserControl* painted = control_.painted();
+    if (seen != seen_) {
+        seen_ = seen;
+        if (painted) {
+            seen ? painted->shown() : painted->hidden();
+        }
+    }
+    if (Container* inner = control_.container()) {
+        const auto within = inner->controls(); // a handler may add or remove
+        for (const ControlPtr& control : within) {
+            control->frame().tellSeen();
+        }
+    }
 }
 
 void ControlFrame::SetFocus()
@@ -210,11 +252,9 @@ std::shared_ptr<Form> ControlFrame::form() const
 PixelPoint ControlFrame::originOnForm() const
 {
     PixelPoint origin;
-    for (const ControlFrame* frame = this; frame;) {
+    for (const ControlFrame* frame = this; frame; frame = holderOf(*frame)) {
         origin.x += frame->left_ / TwipsPerPixel;
         origin.y += frame->top_ / TwipsPerPixel;
-        const Control* holder = frame->container_ ? frame->container_->owner() : nullptr;
-        frame = holder ? &holder->frame() : nullptr;
     }
     return origin;
 }

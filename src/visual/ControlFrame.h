@@ -65,6 +65,11 @@ public:
     void Enabled(bool value);
     /// Visible and enabled up to the form.
     bool isReachable() const;
+    /// Visible up to the form, and the form is shown.
+    bool isSeen() const;
+    /// For the form and the containers: calls the painted control's `shown` or `hidden`, and that of the
+    /// controls within, where isSeen has changed since the last time.
+    void tellSeen();
 
     /// Place in the order of the Tab key; controls of equal index follow the order in which they were added.
     std::int32_t TabIndex() const { return tabIndex_; }
@@ -149,6 +154,7 @@ private:
     bool tabStop_ = false;
     bool canFocus_ = false;
     bool focused_ = false;
+    bool seen_ = false; ///< as last told
     String toolTip_;
     phial::MousePointer pointer_ = phial::MousePointer::Default;
     PicturePtr pointerIcon_;

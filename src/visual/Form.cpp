@@ -11,6 +11,26 @@
 namespace phial
 {
 
+/// Counts a dialog for the form that has opened it, as long as this object lives.
+class Form::OwnDialog
+{
+public:
+    explicit OwnDialog(std::shared_ptr<Form> opener) : opener_(std::move(opener)) { count(1); }
+    ~OwnDialog() { count(-1); }
+    OwnDialog(const OwnDialog&) = delete;
+    OwnDialog& operator=(const OwnDialog&) = delete;
+
+private:
+    void count(std::int32_t step) const
+    {
+        if (opener_) {
+            opener_->ownDialogs_ += step;
+        }
+    }
+
+    std::shared_ptr<Form> opener_;
+};
+
 Form::Form(String name)
     : name_(std::move(name)),
       container_(ScaleUnit::Twips,
@@ -22,7 +42,15 @@ Form::Form(String name)
     menuChanged_ = menu_->changed.connect([this] { report(FormAspect::Menu); });
 }
 
-Form::~Form() = default;
+Form::~Form()
+{
+    for (const ObjectPtr& object : objects_) {
+        auto* control = dynamic_cast<Control*>(object.get());
+        if (UserControl* painted = control ? control->painted() : nullptr) {
+            ignoringErrors([painted] { painted->ended(); });
+        }
+    }
+}
 
 template <typename Value>
 void Form::change(Value& field, Value value, FormAspect aspect)
@@ -137,9 +165,7 @@ void Form::place(const ControlPtr& control, phial::Container& into)
     into.add(control);
     control->frame().Parent(shared_from_this());
     objects_.push_back(control);
-    if (UserControl* painted = control->painted(); painted && Visible() && control->frame().Visible()) {
-        painted->shown();
-    }
+    control->frame().tellSeen();
 }
 
 void Form::remove(const Object& object)
@@ -164,10 +190,11 @@ void Form::removeControl(Control& control)
     if (phial::Container* holder = control.frame().container()) {
         holder->remove(control);
     }
+    control.frame().Parent(nullptr);
+    control.frame().tellSeen();
     if (UserControl* painted = control.painted()) {
         painted->ended();
     }
-    control.frame().Parent(nullptr);
 }
 
 void Form::addComponent(ObjectPtr component)
@@ -230,14 +257,29 @@ void Form::Show(FormShow how)
         SetFocus();
         return;
     }
-    const auto opener = visualHost().forms().ActiveForm();
-    modal_ = how == FormShow::Modal;
-    if (modal_ && opener) {
-        ++opener->ownDialogs_;
-    }
-    openWindow(how);
     if (how == FormShow::Modal) {
-        runModal(opener);
+        showModal();
+    } else {
+        openWindow(how);
+    }
+}
+
+void Form::showModal()
+{
+    const auto opener = visualHost().forms().ActiveForm();
+    const OwnDialog dialog(opener);
+    modal_ = true;
+    try {
+        openWindow(FormShow::Modal);
+        if (modal_) { // no handler has closed it yet
+            visualHost().runModal(*this);
+        }
+    } catch (...) {
+        closeWindow();
+        throw;
+    }
+    if (opener && opener->Visible()) {
+        opener->inputActivate();
     }
 }
 
@@ -254,21 +296,9 @@ void Form::openWindow(FormShow how)
     }
     peer_ = host.openWindow(*this, how == FormShow::Modal);
     Resize.emit();
-    tellShown(true);
+    tellSeen();
     inputActivate();
     focusFirst();
-}
-
-void Form::runModal(const std::shared_ptr<Form>& opener)
-{
-    const auto endsDialog = [](Form* form) { --form->ownDialogs_; };
-    const std::unique_ptr<Form, decltype(endsDialog)> dialog(opener.get(), endsDialog);
-    if (modal_) {
-        visualHost().runModal(*this);
-    }
-    if (opener && opener->Visible()) {
-        opener->inputActivate();
-    }
 }
 
 void Form::focusFirst()
@@ -285,15 +315,11 @@ void Form::focusFirst()
     focus(first);
 }
 
-void Form::tellShown(bool shown)
+void Form::tellSeen()
 {
-    const auto objects = objects_; // a handler may add or remove
-    for (const ObjectPtr& object : objects) {
-        auto* control = dynamic_cast<Control*>(object.get());
-        UserControl* painted = control ? control->painted() : nullptr;
-        if (painted && control->frame().Visible()) {
-            shown ? painted->shown() : painted->hidden();
-        }
+    const auto controls = container_.controls(); // a handler may add or remove
+    for (const ControlPtr& control : controls) {
+        control->frame().tellSeen();
     }
 }
 
@@ -311,8 +337,8 @@ void Form::closeWindow()
     if (const auto active = active_.lock()) {
         active->frame().forgetFocus();
     }
-    tellShown(false);
     peer_.reset();
+    tellSeen();
     isActive_ = activateTold_ = false;
     modal_ = false;
     visualHost().forms().deactivated(*this);

@@ -133,7 +133,8 @@ public:
     void load();
     bool isLoaded() const { return loaded_; }
     /// Loads, opens the window and raises Resize and Activate. Modal: returns when the form has been hidden
-    /// or unloaded. A form that is shown already just comes to the front (modal: raises 400).
+    /// or unloaded. A form that is shown already just comes to the front (modal: raises 400). An
+    /// error that leaves a modal form's handlers closes its window and passes on.
     void Show(FormShow how = FormShow::Modeless);
     /// Closes the window and keeps everything; a modal Show returns.
     void Hide();
@@ -219,6 +220,8 @@ public:
 
 private:
     friend class Forms;
+    class OwnDialog;
+
     template <typename Value>
     void change(Value& field, Value value, FormAspect aspect);
     /// Gives whether the size differs.
@@ -227,9 +230,9 @@ private:
     void removeControl(Control& control);
     void report(FormAspect aspect) const;
     void openWindow(FormShow how);
-    void runModal(const std::shared_ptr<Form>& opener);
+    void showModal();
     void closeWindow();
-    void tellShown(bool shown);
+    void tellSeen();
     void finishUnload();
     /// Drops the window and all that ties the form to the host, without any event.
     void hostEnds();

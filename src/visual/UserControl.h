@@ -24,8 +24,9 @@ struct NamedPart {
 /// A control that paints itself: interface of all `ctl_…` controls and of what is only shown. One widget of
 /// an adapter hosts them all, on forms and in foreign windows.
 ///
-/// Life: constructed; `initProperties` (freshly placed) or `readProperties`; `shown`; any of the rest;
-/// `hidden`; `ended`. `resized` runs whenever the frame's size changes.
+/// Life: constructed; `initProperties` (freshly placed) or `readProperties`; `shown` and `hidden` as it comes
+/// into sight and goes; `ended` when it is taken away or its form ends. `resized` runs whenever the frame's
+/// size changes.
 class UserControl : public Control
 {
 public:
