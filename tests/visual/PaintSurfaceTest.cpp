@@ -28,6 +28,28 @@ private:
     Control& control_;
 };
 
+/// A painted control that notes what it lives through.
+class Diary final : public UserControl
+{
+public:
+    explicit Diary(std::vector<std::string>& pages) : pages_(pages) {}
+
+    StringView typeName() const override { return u"ctl_Diary"; }
+    MemberTable members() const override { return {}; }
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    void initProperties() override { pages_.emplace_back("init"); }
+    void shown() override { pages_.emplace_back("shown"); }
+    void hidden() override { pages_.emplace_back("hidden"); }
+    void ended() override { pages_.emplace_back("ended"); }
+    void paint() override {}
+
+private:
+    std::vector<std::string>& pages_;
+    ControlFrame frame_{*this};
+    PaintSurface surface_{*this};
+};
+
 class PaintedControls : public FormTest
 {
 protected:
@@ -184,6 +206,34 @@ TEST_F(PaintedControls, DropsBecomeEvents)
     box->dragDrop(*source, 3, 4);
     box->textDropped(u"H2O");
     EXPECT_THAT(log, ElementsAre("lab_Source 7", "H2O"));
+}
+
+TEST_F(PaintedControls, HearOfComingIntoSightAndGoing)
+{
+    const auto diary = makeControl<Diary>(log);
+    form->add(diary, box->container());
+    EXPECT_THAT(log, ElementsAre("init"));
+    form->Show();
+    box->Visible(false);
+    diary->Visible(false);
+    box->Visible(true);
+    diary->Visible(true);
+    form->Hide();
+    EXPECT_THAT(log, ElementsAre("init", "shown", "hidden", "shown", "hidden"));
+}
+
+TEST_F(PaintedControls, EndWhenTheyAreTakenAwayOrTheirFormEnds)
+{
+    const auto removed = makeControl<Diary>(log);
+    form->add(removed);
+    form->Show();
+    form->remove(*removed);
+    EXPECT_THAT(log, ElementsAre("init", "shown", "hidden", "ended"));
+    log.clear();
+    auto other = std::make_shared<Form>(u"frm_Other");
+    other->add(makeControl<Diary>(log));
+    other.reset();
+    EXPECT_THAT(log, ElementsAre("init", "ended"));
 }
 
 TEST_F(PaintedControls, PeerHearsEachChangeOfTheFrameOnce)
