@@ -159,13 +159,12 @@ char16_t typedCharacter(const QKeyEvent& event)
 
 QKeyEvent toolkitKey(QEvent::Type type, const KeyStroke& stroke)
 {
-    const Qt::KeyboardModifiers modifiers = modifiersOf(stroke.Shift);
     const bool command = (stroke.Shift & (ShiftMask::Control | ShiftMask::Alt)) != 0;
-    const char16_t character = stroke.character != 0 ? stroke.character : characterOf(stroke.key);
-    const int code =
-        stroke.character != 0 ? QChar(stroke.character).toUpper().unicode() : toolkitCode(stroke.key);
-    const QString text = character != 0 && !command ? QString(QChar(character)) : QString();
-    return {type, code, modifiers, text};
+    const bool shifted = (stroke.Shift & ShiftMask::Shift) != 0;
+    const QChar character(stroke.character != 0 ? stroke.character : characterOf(stroke.key));
+    const int code = stroke.character != 0 ? character.toUpper().unicode() : toolkitCode(stroke.key);
+    const QString text(shifted ? character.toUpper() : character);
+    return {type, code, modifiersOf(stroke.Shift), character.isNull() || command ? QString() : text};
 }
 
 } // namespace phial::qt

@@ -128,9 +128,8 @@ void PainterBackend::fillBox(const QRect& box, const Ink& ink, RasterMode mode)
 
 void PainterBackend::clear(Ink ink)
 {
-    const QRect all = snapped({0, 0, size_.width, size_.height});
     painter_.setCompositionMode(QPainter::CompositionMode_Source);
-    painter_.fillRect(all, ink.cut ? QColor(Qt::transparent) : toQColor(ink.colour));
+    painter_.fillRect(painter_.viewport(), ink.cut ? QColor(Qt::transparent) : toQColor(ink.colour));
     painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 

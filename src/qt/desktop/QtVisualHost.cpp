@@ -13,6 +13,7 @@
 #include "qt/desktop/PixelRatio.h"
 #include "qt/desktop/PrinterBackend.h"
 #include "qt/desktop/Theme.h"
+#include "qt/desktop/WindowHandles.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -32,12 +33,21 @@ namespace
 constexpr std::int32_t InvalidPicture = 481;
 constexpr std::int32_t PrinterError = 482;
 
-void typeKey(const KeyStroke& stroke)
+// The focus of the active form, which need not be the desktop's active window.
+QWidget* typingTarget(const Forms& forms)
+{
+    if (QWidget* focused = QApplication::focusWidget()) {
+        return focused;
+    }
+    const std::shared_ptr<Form> form = forms.ActiveForm();
+    QWidget* window = form ? widgetOf(form->hWnd()) : QApplication::activeWindow();
+    return window && window->focusWidget() ? window->focusWidget() : window;
+}
+
+void typeKey(const Forms& forms, const KeyStroke& stroke)
 {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        QWidget* target =
-            QApplication::focusWidget() ? QApplication::focusWidget() : QApplication::activeWindow();
-        if (target) {
+        if (QWidget* target = typingTarget(forms)) {
             QKeyEvent event = toolkitKey(type, stroke);
             QApplication::sendEvent(target, &event);
         }
@@ -174,7 +184,7 @@ void QtVisualHost::sendKeys(std::span<const KeyStroke> keys)
 {
     for (const KeyStroke& stroke : keys) {
         QMetaObject::invokeMethod(
-            qApp, [stroke] { typeKey(stroke); }, Qt::QueuedConnection);
+            gate_.get(), [this, stroke] { typeKey(forms(), stroke); }, Qt::QueuedConnection);
     }
 }
 

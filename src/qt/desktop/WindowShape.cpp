@@ -3,10 +3,12 @@
 #include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/PictureImage.h"
 
-#include <QBitmap>
 #include <QImage>
 #include <QPainter>
+#include <QRegion>
 #include <QWidget>
+
+#include <vector>
 
 namespace phial::qt
 {
@@ -14,41 +16,61 @@ namespace phial::qt
 namespace
 {
 
-QBitmap solidByColour(QWidget& inside, Colour key)
+// The runs of pixels for which the condition holds, as a region.
+template <typename Condition>
+QRegion regionWhere(const QImage& image, Condition condition)
 {
-    QImage shown(inside.size(), QImage::Format_RGB32);
-    shown.fill(toQColor(key));
-    inside.render(&shown, QPoint(), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
-    return QBitmap::fromImage(shown.createMaskFromColor(toQColor(key).rgb(), Qt::MaskOutColor));
+    std::vector<QRect> runs;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            const int start = x;
+            while (x < image.width() && condition(row[x])) {
+                ++x;
+            }
+            if (x > start) {
+                runs.emplace_back(start, y, x - start, 1);
+            }
+        }
+    }
+    QRegion region;
+    region.setRects(runs.data(), static_cast<int>(runs.size()));
+    return region;
 }
 
-QBitmap solidByPicture(const QWidget& inside, const Picture& mask)
+QRegion solidByColour(QWidget& inside, Colour key)
+{
+    QImage shown(inside.size(), QImage::Format_ARGB32_Premultiplied);
+    inside.render(&shown);
+    return regionWhere(shown, [hole = toQColor(key).rgb()](QRgb pixel) { return pixel != hole; });
+}
+
+QRegion solidByPicture(const QWidget& inside, const Picture& mask)
 {
     QImage shown(inside.size(), QImage::Format_ARGB32_Premultiplied);
     shown.fill(Qt::transparent);
     QPainter painter(&shown);
     painter.drawImage(QPointF(0, 0), imageCopy(mask));
     painter.end();
-    return QBitmap::fromImage(shown.createAlphaMask());
+    return regionWhere(shown, [](QRgb pixel) { return qAlpha(pixel) > 0; });
 }
 
 } // namespace
 
 void applyShape(QWidget& window, QWidget& inside, const Translucency& translucency)
 {
-    QBitmap solid;
+    QRegion solid;
     if (translucency.mask) {
         solid = solidByPicture(inside, *translucency.mask);
     } else if (translucency.colourKey) {
         solid = solidByColour(inside, *translucency.colourKey);
     }
-    if (solid.isNull()) {
-        window.clearMask();
+    if (solid.isEmpty()) {
+        window.clearMask(); // a window without any pixel could not be closed
         return;
     }
-    QRegion region(solid);
-    region.translate(inside.pos());
-    window.setMask(region.united(QRect(0, 0, window.width(), inside.y()))); // the menu bar stays
+    solid.translate(inside.pos());
+    window.setMask(solid.united(QRect(0, 0, window.width(), inside.y()))); // the menu bar stays
 }
 
 } // namespace phial::qt

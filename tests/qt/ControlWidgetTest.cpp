@@ -1,0 +1,236 @@
+#include "qt/desktop/ControlWidget.h"
+
+#include "DesktopSession.h"
+#include "qt/desktop/PartNavigation.h"
+#include "term/ctl_TermLabel.h"
+#include "visual/PaintSurface.h"
+#include "visual/PictureBox.h"
+#include "visual/ctl_Title.h"
+
+#include <QAccessible>
+#include <QImage>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <vector>
+
+using namespace phial;
+using namespace phial::qt;
+
+namespace
+{
+
+class ControlWidgetTest : public DesktopSession
+{
+protected:
+    static std::shared_ptr<PictureBox> pictureBox(double width, double height)
+    {
+        auto box = makeControl<PictureBox>();
+        box->Move(0, 0, width, height);
+        return box;
+    }
+
+    static QImage grabbed(QWidget& widget, double scale)
+    {
+        QImage image(QSizeF(widget.size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(scale);
+        image.fill(Qt::transparent);
+        widget.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+        return image;
+    }
+};
+
+TEST_F(ControlWidgetTest, StandsInALayoutOfPlainQt)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    const auto label = makeControl<ctl_TermLabel>();
+    label->frame().pixelRectangle({0, 0, 120, 30});
+    label->Term(u"H2SO4");
+    auto* widget = new ControlWidget(label);
+    layout->addWidget(widget);
+    window.resize(300, 200);
+    window.show();
+    QApplication::processEvents();
+
+    EXPECT_EQ(widget->sizeHint(), widget->size()); // the control has followed the layout
+    EXPECT_GT(widget->width(), 200);
+    const QImage shown = grabbed(*widget, 1);
+    EXPECT_NE(shown, QImage(shown.size(), shown.format()));
+}
+
+TEST_F(ControlWidgetTest, SiblingsAreFoundByTheirObjectNames)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    const auto first = makeControl<ctl_TermLabel>();
+    const auto second = makeControl<ctl_TermLabel>();
+    auto* one = new ControlWidget(first);
+    auto* other = new ControlWidget(second);
+    layout->addWidget(one);
+    layout->addWidget(other);
+    one->setObjectName("lab_First");
+    other->setObjectName("lab_Second");
+    window.show();
+
+    const auto parent = first->frame().Parent();
+    ASSERT_TRUE(parent);
+    ASSERT_EQ(parent->controlCount(), 2U);
+    EXPECT_EQ(first->NAME(), u"lab_First");
+    EXPECT_EQ(getMember(*parent->controlAt(1), u"NAME"), Variant(u"lab_Second"));
+}
+
+TEST_F(ControlWidgetTest, IsPaintedAtTheRatioOfWhatItIsDrawnOn)
+{
+    const auto box = pictureBox(40, 20);
+    box->AutoRedraw(false);
+    std::vector<std::size_t> columns;
+    const auto connection = box->Paint.connect([&] { columns.push_back(box->Image()->columns()); });
+    ControlWidget widget(box);
+    widget.resize(40, 20);
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        grabbed(widget, scale);
+    }
+    ASSERT_GE(columns.size(), 3U);
+    EXPECT_EQ(columns.back(), 80U);
+    EXPECT_NE(std::find(columns.begin(), columns.end(), 60U), columns.end());
+}
+
+TEST_F(ControlWidgetTest, PressesMovesAndClicksReachTheControl)
+{
+    const auto box = pictureBox(40, 20);
+    std::vector<String> told;
+    Connections connections;
+    connections += box->MouseDown.connect([&](const PointerEvent& event) {
+        told.push_back(u"down " + fromUtf8(std::to_string(static_cast<int>(event.X))));
+    });
+    connections += box->MouseUp.connect([&](const PointerEvent&) { told.push_back(u"up"); });
+    connections += box->Click.connect([&] { told.push_back(u"click"); });
+    connections += box->DblClick.connect([&] { told.push_back(u"double"); });
+    ControlWidget widget(box);
+    widget.resize(40, 20);
+    widget.show();
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(7, 5));
+    EXPECT_EQ(told, (std::vector<String>{u"down 7", u"up", u"click"}));
+}
+
+TEST_F(ControlWidgetTest, EachTapOfAQuickHandCountsAsAClick)
+{
+    const auto box = pictureBox(40, 20);
+    int clicks = 0;
+    int doubles = 0;
+    Connections connections;
+    connections += box->Click.connect([&] { ++clicks; });
+    connections += box->DblClick.connect([&] { ++doubles; });
+    ControlWidget widget(box);
+    widget.resize(40, 20);
+    widget.show();
+    QTest::mouseClick(&widget, Qt::LeftButton);
+    QTest::mouseDClick(&widget, Qt::LeftButton); // the second press alone
+    QTest::mouseRelease(&widget, Qt::LeftButton);
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(doubles, 1);
+}
+
+TEST_F(ControlWidgetTest, APressOnAHoleGoesToWhatLiesBelow)
+{
+    const auto form = std::make_shared<Form>(u"frm_Test");
+    form->ScaleMode(ScaleUnit::Pixels);
+    form->innerSize({200, 100});
+    const auto below = form->add<PictureBox>(u"pic_Below");
+    below->Move(0, 0, 100, 100);
+    const auto above = form->add<PictureBox>(u"pic_Above");
+    above->Move(0, 0, 100, 100);
+    above->transparent(true);
+    above->Cls();
+    above->device().Line(50, 0, 99, 99, QBColor(12), LineShape::Filled);
+    above->MaskPicture(above->Image());
+    std::vector<String> clicked;
+    Connections connections;
+    connections += below->Click.connect([&] { clicked.push_back(u"below"); });
+    connections += above->Click.connect([&] { clicked.push_back(u"above"); });
+    form->Show();
+    QTest::mouseClick(&widgetOf(*above), Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
+    QTest::mouseClick(&widgetOf(*above), Qt::LeftButton, Qt::NoModifier, QPoint(70, 20));
+    EXPECT_EQ(clicked, (std::vector<String>{u"below", u"above"}));
+}
+
+TEST_F(ControlWidgetTest, KeysReachAControlOutsideOfForms)
+{
+    const auto box = pictureBox(40, 20);
+    box->frame().canFocus(true);
+    std::vector<std::int32_t> keys;
+    String typed;
+    Connections connections;
+    connections += box->KeyDown.connect([&](KeyEvent& event) { keys.push_back(event.KeyCode); });
+    connections += box->KeyPress.connect([&](KeyPressEvent& event) { typed += event.KeyAscii; });
+    ControlWidget widget(box);
+    widget.show();
+    widget.setFocus();
+    QTest::keyClicks(&widget, QStringLiteral("a1"));
+    QTest::keyClick(&widget, Qt::Key_Left);
+    EXPECT_EQ(keys, (std::vector<std::int32_t>{'A', '1', static_cast<std::int32_t>(Key::Left)}));
+    EXPECT_EQ(typed, u"a1");
+}
+
+TEST_F(ControlWidgetTest, PartsAreShownToScreenReaders)
+{
+    const auto form = std::make_shared<Form>(u"frm_Test");
+    form->ScaleMode(ScaleUnit::Pixels);
+    form->innerSize({300, 100});
+    const auto title = form->add<ctl_Title>(u"bar_Title");
+    title->Move(0, 0, 300, 40);
+    title->Title(u"Molmasse");
+    int closed = 0;
+    const auto connection = title->CLOSE.connect([&] { ++closed; });
+    form->Show();
+
+    QAccessibleInterface* whole = QAccessible::queryAccessibleInterface(&widgetOf(*title));
+    ASSERT_TRUE(whole);
+    EXPECT_EQ(whole->text(QAccessible::Name), QStringLiteral("Molmasse"));
+    ASSERT_EQ(static_cast<std::size_t>(whole->childCount()), title->parts().size());
+    QAccessibleInterface* close = nullptr;
+    for (int child = 0; child < whole->childCount(); ++child) {
+        if (whole->child(child)->role() == QAccessible::PushButton) {
+            close = whole->child(child);
+        }
+    }
+    ASSERT_TRUE(close);
+    EXPECT_FALSE(close->text(QAccessible::Name).isEmpty());
+    EXPECT_TRUE(whole->rect().contains(close->rect()));
+    EXPECT_EQ(whole->childAt(close->rect().center().x(), close->rect().center().y()), close);
+    close->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(ControlWidgetTest, TheSpaceBarPressesThePartThatTheArrowsHaveReached)
+{
+    const auto form = std::make_shared<Form>(u"frm_Test");
+    form->innerSize({300, 100});
+    const auto title = form->add<ctl_Title>(u"bar_Title");
+    int closed = 0;
+    const auto connection = title->CLOSE.connect([&] { ++closed; });
+    form->Show();
+    title->SetFocus();
+    QTest::keyClick(&widgetOf(*title), Qt::Key_Right);
+    QTest::keyClick(&widgetOf(*title), Qt::Key_Space);
+    EXPECT_EQ(closed, 1);
+}
+
+TEST(PartNavigation, ArrowsReachTheNearestPartInTheirDirection)
+{
+    const auto part = [](double left, double top, String action) {
+        return NamedPart{{left, top, 10, 10}, PartRole::Button, u"", std::move(action)};
+    };
+    const std::vector<NamedPart> parts{part(0, 0, u"Press"), part(20, 0, u""), part(40, 0, u"Press"),
+                                       part(0, 40, u"Press"), part(60, 30, u"Press")};
+    EXPECT_EQ(nextPart(parts, std::nullopt, Qt::Key_Down), 0U);
+    EXPECT_EQ(nextPart(parts, 0, Qt::Key_Right), 2U);
+    EXPECT_EQ(nextPart(parts, 0, Qt::Key_Down), 3U);
+    EXPECT_EQ(nextPart(parts, 2, Qt::Key_Left), 0U);
+    EXPECT_EQ(nextPart(parts, 0, Qt::Key_Up), std::nullopt);
+    EXPECT_EQ(nextPart(parts, 0, Qt::Key_A), std::nullopt);
+    EXPECT_EQ(nextPart({}, std::nullopt, Qt::Key_Right), std::nullopt);
+}
+
+} // namespace

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "core/SessionState.h"
+#include "headless/HeadlessPlatform.h"
+#include "qt/base/QtEventPump.h"
+#include "qt/desktop/DesktopServices.h"
+#include "qt/desktop/Dispatch.h"
+#include "qt/desktop/QtVisualHost.h"
+#include "qt/desktop/WindowHandles.h"
+#include "support/TemporaryFolder.h"
+#include "visual/Form.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+namespace phial::qt
+{
+
+/// A fresh session for each test, with real windows on the display in memory and the rest of the outside
+/// scripted. An error that ends at the dispatch fails the test unless it takes it over.
+class DesktopSession : public testing::Test
+{
+public:
+    static void fail(const String& description) { ADD_FAILURE() << toUtf8(description); }
+
+    ~DesktopSession() override
+    {
+        visualHost().forms().unloadAll();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        dispatchGuard()->setReporter(fail);
+    }
+
+protected:
+    DesktopSession() { dispatchGuard()->setReporter(fail); }
+
+    static QWidget& widgetOf(const Form& form) { return *qt::widgetOf(form.hWnd()); }
+    static QWidget& widgetOf(const Control& control) { return *qt::widgetOf(control.hWnd()); }
+
+    /// Runs events until the condition holds, for some seconds at most.
+    template <typename Condition>
+    static bool eventually(Condition condition)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (!condition() && timer.elapsed() < 5000) {
+            QApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
+        return condition();
+    }
+
+private:
+    phial::Platform platform()
+    {
+        phial::Platform platform = outside_.platform();
+        platform.visual = std::make_shared<QtVisualHost>();
+        platform.pump = std::make_shared<QtEventPump>(dispatchGuard());
+        platform.windows = std::make_shared<DesktopWindowOps>();
+        return platform;
+    }
+
+    test::TemporaryFolder folder_;
+    headless::HeadlessPlatform outside_{folder_.path(), fail};
+    SessionState session_{platform()};
+};
+
+} // namespace phial::qt

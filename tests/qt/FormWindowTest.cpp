@@ -1,0 +1,286 @@
+#include "qt/desktop/FormWindow.h"
+
+#include "DesktopSession.h"
+#include "qt/desktop/ShotBook.h"
+#include "visual/PictureBox.h"
+#include "visual/TextBox.h"
+#include "visual/ctl_Button.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <vector>
+
+using namespace phial;
+using namespace phial::qt;
+
+namespace
+{
+
+class FormWindowTest : public DesktopSession
+{
+protected:
+    static std::shared_ptr<Form> makeForm(String name = u"frm_Test")
+    {
+        auto form = std::make_shared<Form>(std::move(name));
+        form->ScaleMode(ScaleUnit::Pixels);
+        form->innerSize({400, 300});
+        return form;
+    }
+
+    template <typename Class>
+    static std::shared_ptr<Class> place(Form& form, StringView name, double left, double top)
+    {
+        auto control = form.add<Class>(name);
+        control->Move(left, top, 120, 40);
+        return control;
+    }
+};
+
+TEST_F(FormWindowTest, ShowsTheModelsState)
+{
+    const auto form = makeForm();
+    form->Caption(u"Molmasse");
+    form->Show();
+    EXPECT_TRUE(widgetOf(*form).isVisible());
+    EXPECT_EQ(widgetOf(*form).windowTitle(), QStringLiteral("Molmasse"));
+    EXPECT_EQ(widgetOf(*form).size(), QSize(400, 300));
+    form->Caption(u"Anders");
+    EXPECT_EQ(widgetOf(*form).windowTitle(), QStringLiteral("Anders"));
+}
+
+TEST_F(FormWindowTest, TellsTheModelWhatTheUserDoesToTheWindow)
+{
+    const auto form = makeForm();
+    form->Show();
+    int resized = 0;
+    const auto connection = form->Resize.connect([&] { ++resized; });
+    widgetOf(*form).resize(500, 320);
+    EXPECT_TRUE(eventually([&] { return form->ScaleWidth() == 500; }));
+    EXPECT_EQ(form->ScaleHeight(), 320);
+    EXPECT_GT(resized, 0);
+}
+
+TEST_F(FormWindowTest, AskingToCloseUnloadsUnlessTheModelRefuses)
+{
+    const auto form = makeForm();
+    form->Show();
+    bool refuse = true;
+    const auto connection = form->QueryUnload.connect([&](bool& cancel) { cancel = refuse; });
+    widgetOf(*form).close();
+    EXPECT_TRUE(form->Visible());
+    refuse = false;
+    widgetOf(*form).close();
+    EXPECT_FALSE(form->Visible());
+    EXPECT_FALSE(form->isLoaded());
+}
+
+TEST_F(FormWindowTest, AFormCanBeShownAgainWithWhatItHeld)
+{
+    const auto form = makeForm();
+    const auto field = place<TextBox>(*form, u"txt_Input", 10, 10);
+    form->Show();
+    QTest::keyClicks(widgetOf(*field).focusProxy(), QStringLiteral("abc"));
+    form->Hide();
+    EXPECT_EQ(field->Text(), u"abc");
+    form->Show();
+    EXPECT_EQ(field->Text(), u"abc");
+    QTest::keyClicks(widgetOf(*field).focusProxy(), QStringLiteral("d"));
+    EXPECT_EQ(field->Text().size(), 4U);
+}
+
+TEST_F(FormWindowTest, AHandlerMayCloseItsOwnWindow)
+{
+    const auto form = makeForm();
+    const auto button = place<ctl_Button>(*form, u"but_Close", 10, 10);
+    const auto connection = button->CLICK.connect([&] { form->Unload(); });
+    form->Show();
+    QTest::mouseClick(&widgetOf(*button), Qt::LeftButton);
+    EXPECT_FALSE(form->Visible());
+}
+
+TEST_F(FormWindowTest, TabGoesInTheModelsOrder)
+{
+    const auto form = makeForm();
+    const auto last = place<TextBox>(*form, u"txt_Last", 10, 10);
+    const auto first = place<TextBox>(*form, u"txt_First", 10, 60);
+    last->frame().TabIndex(2);
+    first->frame().TabIndex(1);
+    form->Show();
+    EXPECT_EQ(form->ActiveControl(), first);
+    QTest::keyClick(widgetOf(*first).focusProxy(), Qt::Key_Tab);
+    EXPECT_EQ(form->ActiveControl(), last);
+    QTest::keyClick(widgetOf(*last).focusProxy(), Qt::Key_Tab);
+    EXPECT_EQ(form->ActiveControl(), first);
+    QTest::keyClick(widgetOf(*first).focusProxy(), Qt::Key_Backtab);
+    EXPECT_EQ(form->ActiveControl(), last);
+}
+
+TEST_F(FormWindowTest, TheFocusIsToldOnceEachWay)
+{
+    const auto form = makeForm();
+    const auto first = place<TextBox>(*form, u"txt_First", 10, 10);
+    const auto second = place<TextBox>(*form, u"txt_Second", 10, 60);
+    form->Show();
+    std::vector<String> told;
+    Connections connections;
+    connections += first->LostFocus.connect([&] { told.push_back(u"first lost"); });
+    connections += second->GotFocus.connect([&] { told.push_back(u"second got"); });
+    second->SetFocus();
+    QApplication::processEvents();
+    EXPECT_EQ(told, (std::vector<String>{u"first lost", u"second got"}));
+}
+
+TEST_F(FormWindowTest, ReturnPressesTheDefaultAndEscapeTheCancelButton)
+{
+    const auto form = makeForm();
+    const auto field = place<TextBox>(*form, u"txt_Input", 10, 10);
+    const auto ok = place<ctl_Button>(*form, u"but_Ok", 10, 60);
+    const auto cancel = place<ctl_Button>(*form, u"but_Cancel", 10, 110);
+    form->DefaultControl(ok);
+    form->CancelControl(cancel);
+    std::vector<String> pressed;
+    Connections connections;
+    connections += ok->CLICK.connect([&] { pressed.push_back(u"ok"); });
+    connections += cancel->CLICK.connect([&] { pressed.push_back(u"cancel"); });
+    form->Show();
+    field->SetFocus();
+    QTest::keyClick(widgetOf(*field).focusProxy(), Qt::Key_Return);
+    QTest::keyClick(widgetOf(*field).focusProxy(), Qt::Key_Escape);
+    EXPECT_EQ(pressed, (std::vector<String>{u"ok", u"cancel"}));
+}
+
+TEST_F(FormWindowTest, ThePreviewCanKeepAndChangeKeys)
+{
+    const auto form = makeForm();
+    const auto field = place<TextBox>(*form, u"txt_Input", 10, 10);
+    form->KeyPreview(true);
+    Connections connections;
+    connections += form->KeyDown.connect([](KeyEvent& event) {
+        if (event.KeyCode == 'X') {
+            event.KeyCode = 0;
+        }
+    });
+    connections += form->KeyPress.connect([](KeyPressEvent& event) {
+        if (event.KeyAscii == u'.') {
+            event.KeyAscii = u',';
+        }
+    });
+    form->Show();
+    QTest::keyClicks(widgetOf(*field).focusProxy(), QStringLiteral("1.x5"));
+    EXPECT_EQ(field->Text(), u"1,5");
+}
+
+TEST_F(FormWindowTest, SentKeysAreTypedIntoTheFocus)
+{
+    const auto form = makeForm();
+    const auto field = place<TextBox>(*form, u"txt_Input", 10, 10);
+    form->Show();
+    SendKeys(u"Wasser{bs}{left}+x");
+    EXPECT_TRUE(eventually([&] { return field->Text() == u"WassXe"; })) << toUtf8(field->Text());
+}
+
+TEST_F(FormWindowTest, ModalFormsEndInnermostFirst)
+{
+    const auto outer = makeForm(u"frm_Outer");
+    const auto inner = makeForm(u"frm_Inner");
+    std::vector<String> order;
+    EventPump& events = *SessionState::current().platform().pump;
+    events.post([&] {
+        events.post([&] {
+            outer->Hide(); // the outer one is hidden first, but its Show returns last
+            inner->Hide();
+        });
+        inner->Show(FormShow::Modal);
+        order.push_back(u"inner");
+    });
+    outer->Show(FormShow::Modal);
+    order.push_back(u"outer");
+    EXPECT_EQ(order, (std::vector<String>{u"inner", u"outer"}));
+}
+
+TEST_F(FormWindowTest, AModalFormBlocksOtherWindowsAndHearsPressesThere)
+{
+    const auto below = makeForm(u"frm_Below");
+    const auto button = place<ctl_Button>(*below, u"but_Below", 10, 10);
+    int clicked = 0;
+    Connections connections;
+    connections += button->CLICK.connect([&] { ++clicked; });
+    below->Show();
+
+    const auto dialog = makeForm(u"frm_Dialog");
+    int deactivated = 0;
+    connections += dialog->Deactivate.connect([&] {
+        ++deactivated;
+        dialog->Hide();
+    });
+    SessionState::current().platform().pump->post(
+        [&] { QTest::mouseClick(&widgetOf(*button), Qt::LeftButton); });
+    dialog->Show(FormShow::Modal);
+    EXPECT_EQ(clicked, 0);
+    EXPECT_EQ(deactivated, 1);
+    QTest::mouseClick(&widgetOf(*button), Qt::LeftButton);
+    EXPECT_EQ(clicked, 1);
+}
+
+TEST_F(FormWindowTest, WhatAHandlerRaisesEndsAtTheDispatch)
+{
+    const auto form = makeForm();
+    const auto button = place<ctl_Button>(*form, u"but_Fail", 10, 10);
+    const auto connection =
+        button->CLICK.connect([] { throw RuntimeError(ErrorNumber::InvalidArgument, u"No"); });
+    std::vector<String> told;
+    dispatchGuard()->setReporter([&](const String& text) { told.push_back(text); });
+    form->Show();
+    QTest::mouseClick(&widgetOf(*button), Qt::LeftButton);
+    EXPECT_EQ(told, std::vector<String>{u"No (5)"});
+    EXPECT_TRUE(form->Visible());
+}
+
+TEST_F(FormWindowTest, MenusAreShownAndChosen)
+{
+    const auto form = makeForm();
+    const auto file = form->menu().add(u"mnu_File", u"&Datei");
+    const auto quit = file->add(u"mnu_Quit", u"&Beenden");
+    int chosen = 0;
+    const auto connection = quit->Click.connect([&](std::int32_t) { ++chosen; });
+    form->Show();
+    const auto actions = widgetOf(*form).findChildren<QAction*>();
+    const auto found = std::find_if(actions.begin(), actions.end(),
+                                    [](const QAction* action) { return action->text() == u"&Beenden"; });
+    ASSERT_NE(found, actions.end());
+    (*found)->trigger();
+    EXPECT_EQ(chosen, 1);
+    EXPECT_EQ(form->ScaleHeight(), 300); // the bar takes nothing from the inside
+}
+
+TEST_F(FormWindowTest, TheColourKeyMakesHolesInTheWindow)
+{
+    const auto form = makeForm();
+    form->BorderStyle(BorderStyle::None);
+    form->BackColor(RGB(255, 0, 255));
+    const auto field = place<PictureBox>(*form, u"pic_Shown", 100, 100);
+    field->BackColor(QBColor(15));
+    form->load();
+    SessionState::current().platform().windows->SetTranslucent(form->hWnd(), 100, TranslucentMode::ColourKey,
+                                                               RGB(255, 0, 255));
+    form->Show();
+    EXPECT_TRUE(eventually([&] { return !widgetOf(*form).mask().isEmpty(); }));
+    EXPECT_FALSE(widgetOf(*form).mask().contains(QPoint(10, 10)));
+    EXPECT_TRUE(widgetOf(*form).mask().contains(QPoint(110, 110)));
+}
+
+TEST_F(FormWindowTest, PicturesOfAFormHaveTheirScale)
+{
+    const auto form = makeForm();
+    form->BackColor(RGB(10, 20, 30));
+    form->Show();
+    const PicturePtr once = grabForm(*form, 1);
+    const PicturePtr twice = grabForm(*form, 2);
+    EXPECT_EQ(once->columns(), 400U);
+    EXPECT_EQ(twice->columns(), 800U);
+    EXPECT_EQ(twice->size(), once->size());
+    EXPECT_EQ(twice->at(700, 500), 0xFF0A141EU);
+}
+
+} // namespace

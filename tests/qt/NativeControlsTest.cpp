@@ -1,0 +1,245 @@
+#include "DesktopSession.h"
+#include "visual/ComboBox.h"
+#include "visual/ListBox.h"
+#include "visual/RichTextBox.h"
+#include "visual/ScrollBar.h"
+#include "visual/TextBox.h"
+#include "visual/ctl_CmdBar.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+#include <vector>
+
+using namespace phial;
+using namespace phial::qt;
+
+namespace
+{
+
+class NativeControlsTest : public DesktopSession
+{
+protected:
+    NativeControlsTest()
+    {
+        form_->ScaleMode(ScaleUnit::Pixels);
+        form_->innerSize({400, 300});
+    }
+
+    template <typename Class>
+    std::shared_ptr<Class> shown(StringView name)
+    {
+        auto control = form_->add<Class>(name);
+        control->Move(10, 10, 200, 120);
+        form_->Show();
+        return control;
+    }
+
+    template <typename Widget>
+    static Widget& inner(const Control& control)
+    {
+        if (auto* self = qobject_cast<Widget*>(&widgetOf(control))) {
+            return *self;
+        }
+        return *widgetOf(control).findChild<Widget*>();
+    }
+
+    std::shared_ptr<Form> form_ = std::make_shared<Form>(u"frm_Test");
+};
+
+TEST_F(NativeControlsTest, TypingReachesTheModelAndChangesOncePerKey)
+{
+    const auto field = shown<TextBox>(u"txt_Input");
+    std::vector<String> texts;
+    const auto connection = field->Change.connect([&] { texts.push_back(field->Text()); });
+    QTest::keyClicks(&inner<QLineEdit>(*field), QStringLiteral("H2"));
+    EXPECT_EQ(texts, (std::vector<String>{u"H", u"H2"}));
+    EXPECT_EQ(field->SelStart(), 2);
+}
+
+TEST_F(NativeControlsTest, SettingTheModelRaisesNoEcho)
+{
+    const auto field = shown<TextBox>(u"txt_Input");
+    int changes = 0;
+    const auto connection = field->Change.connect([&] { ++changes; });
+    field->Text(u"Wasser");
+    QApplication::processEvents();
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(inner<QLineEdit>(*field).text(), QStringLiteral("Wasser"));
+    field->SelStart(2);
+    field->SelLength(3);
+    EXPECT_EQ(inner<QLineEdit>(*field).selectedText(), QStringLiteral("sse"));
+    EXPECT_EQ(field->SelText(), u"sse");
+}
+
+TEST_F(NativeControlsTest, AHandlerMayCorrectWhatIsTyped)
+{
+    const auto field = shown<TextBox>(u"txt_Input");
+    const auto connection = field->Change.connect([&] {
+        if (field->Text() == u"h") {
+            field->Text(u"H");
+            field->SelStart(1);
+        }
+    });
+    QTest::keyClicks(&inner<QLineEdit>(*field), QStringLiteral("h2"));
+    EXPECT_EQ(field->Text(), u"H2");
+    EXPECT_EQ(inner<QLineEdit>(*field).text(), QStringLiteral("H2"));
+}
+
+TEST_F(NativeControlsTest, TypingStopsAtTheLimitButTheProgramDoesNot)
+{
+    const auto field = shown<TextBox>(u"txt_Input");
+    field->MaxLength(2);
+    QTest::keyClicks(&inner<QLineEdit>(*field), QStringLiteral("abc"));
+    EXPECT_EQ(field->Text(), u"ab");
+    field->Text(u"abcdef");
+    EXPECT_EQ(inner<QLineEdit>(*field).text(), QStringLiteral("abcdef"));
+}
+
+TEST_F(NativeControlsTest, AFieldOfManyLinesPartsThemByCrLf)
+{
+    const auto field = form_->add<TextBox>(u"txt_Lines");
+    field->MultiLine(true);
+    field->Move(10, 10, 200, 120);
+    form_->Show();
+    auto& page = inner<QPlainTextEdit>(*field);
+    QTest::keyClicks(&page, QStringLiteral("a"));
+    QTest::keyClick(&page, Qt::Key_Return);
+    QTest::keyClicks(&page, QStringLiteral("b"));
+    EXPECT_EQ(field->Text(), u"a\r\nb");
+    EXPECT_EQ(field->SelStart(), 4);
+    field->Text(u"x\r\ny");
+    EXPECT_EQ(page.toPlainText(), QStringLiteral("x\ny"));
+}
+
+TEST_F(NativeControlsTest, AFieldCanBecomeOneOfManyLinesWhileShown)
+{
+    const auto field = shown<TextBox>(u"txt_Input");
+    field->Text(u"abc");
+    field->MultiLine(true);
+    EXPECT_EQ(inner<QPlainTextEdit>(*field).toPlainText(), QStringLiteral("abc"));
+    QTest::keyClicks(&inner<QPlainTextEdit>(*field), QStringLiteral("d"));
+    EXPECT_EQ(field->Text(), u"dabc");
+}
+
+TEST_F(NativeControlsTest, ARichTextBoxGivesItsPlainText)
+{
+    const auto field = shown<RichTextBox>(u"rtf_Text");
+    field->Text(u"Zeile 1\r\nZeile 2");
+    auto& page = inner<QPlainTextEdit>(*field);
+    page.moveCursor(QTextCursor::End);
+    QTest::keyClicks(&page, QStringLiteral("!"));
+    EXPECT_EQ(field->Text(), u"Zeile 1\r\nZeile 2!");
+}
+
+TEST_F(NativeControlsTest, ALockedFieldTakesNothing)
+{
+    const auto field = shown<TextBox>(u"txt_Input");
+    field->Locked(true);
+    QTest::keyClicks(&inner<QLineEdit>(*field), QStringLiteral("abc"));
+    EXPECT_EQ(field->Text(), u"");
+}
+
+TEST_F(NativeControlsTest, ChoosingALineIsToldOnceAndAgainWhenItIsPressedAgain)
+{
+    const auto list = shown<ListBox>(u"lst_Names");
+    list->AddItem(u"Anna");
+    list->AddItem(u"Ben");
+    int clicks = 0;
+    const auto connection = list->Click.connect([&] { ++clicks; });
+    auto& widget = inner<QListWidget>(*list);
+    const QPoint second = widget.visualItemRect(widget.item(1)).center();
+    QTest::mouseClick(widget.viewport(), Qt::LeftButton, Qt::NoModifier, second);
+    EXPECT_EQ(list->ListIndex(), 1);
+    EXPECT_EQ(clicks, 1);
+    QTest::mouseClick(widget.viewport(), Qt::LeftButton, Qt::NoModifier, second);
+    EXPECT_EQ(clicks, 2);
+    list->ListIndex(0);
+    EXPECT_EQ(clicks, 3);
+    EXPECT_EQ(widget.currentRow(), 0);
+}
+
+TEST_F(NativeControlsTest, ArrowKeysChooseInAList)
+{
+    const auto list = shown<ListBox>(u"lst_Names");
+    list->AddItem(u"Anna");
+    list->AddItem(u"Ben");
+    list->ListIndex(0);
+    QTest::keyClick(&inner<QListWidget>(*list), Qt::Key_Down);
+    EXPECT_EQ(list->Text(), u"Ben");
+}
+
+TEST_F(NativeControlsTest, AComboBoxTakesATypedTextAndAChosenLine)
+{
+    const auto box = shown<ComboBox>(u"cbo_Names");
+    box->AddItem(u"Anna");
+    box->AddItem(u"Ben");
+    auto& widget = inner<QComboBox>(*box);
+    QTest::keyClicks(widget.lineEdit(), QStringLiteral("Cem"));
+    EXPECT_EQ(box->Text(), u"Cem");
+    widget.setCurrentIndex(1);
+    Q_EMIT widget.activated(1);
+    EXPECT_EQ(box->ListIndex(), 1);
+    EXPECT_EQ(box->Text(), u"Ben");
+}
+
+TEST_F(NativeControlsTest, AScrollBarMovesTheModel)
+{
+    const auto bar = shown<ScrollBar>(u"scr_Volume");
+    bar->Min(0);
+    bar->Max(10);
+    int changes = 0;
+    const auto connection = bar->Change.connect([&] { ++changes; });
+    QTest::keyClick(&inner<QScrollBar>(*bar), Qt::Key_Down);
+    EXPECT_EQ(bar->Value(), 1);
+    EXPECT_EQ(changes, 1);
+    bar->Value(7);
+    EXPECT_EQ(inner<QScrollBar>(*bar).value(), 7);
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(NativeControlsTest, ARangeThatRunsDownwardIsShownTurnedRound)
+{
+    const auto bar = shown<ScrollBar>(u"scr_Volume");
+    bar->Min(100);
+    bar->Max(0);
+    bar->Value(100);
+    EXPECT_EQ(inner<QScrollBar>(*bar).value(), 0);
+    QTest::keyClick(&inner<QScrollBar>(*bar), Qt::Key_Down);
+    EXPECT_EQ(bar->Value(), 99);
+}
+
+TEST_F(NativeControlsTest, ACommandBarReportsTheKeyOfItsButton)
+{
+    const auto bar = shown<ctl_CmdBar>(u"bar_Commands");
+    bar->BUTTONS()->Add(u"DIALOG.OK();", u"OK");
+    bar->BUTTONS()->Add(u"DIALOG.CANCEL();", u"Abbrechen");
+    std::vector<String> keys;
+    const auto connection =
+        bar->BUTTON.connect([&](std::int32_t, const String& key) { keys.push_back(key); });
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // buttons of the bar's earlier states
+    const auto buttons = widgetOf(*bar).findChildren<QPushButton*>();
+    ASSERT_EQ(buttons.size(), 2);
+    QTest::mouseClick(buttons[1], Qt::LeftButton);
+    buttons[0]->setFocus();
+    QTest::keyClick(buttons[0], Qt::Key_Return);
+    QTest::keyClick(buttons[0], Qt::Key_Right);
+    EXPECT_EQ(widgetOf(*form_).focusWidget(), buttons[1]);
+    EXPECT_EQ(keys, (std::vector<String>{u"DIALOG.CANCEL();", u"DIALOG.OK();"}));
+}
+
+TEST_F(NativeControlsTest, DisabledAndHiddenFollowTheModel)
+{
+    const auto field = shown<TextBox>(u"txt_Input");
+    field->Enabled(false);
+    EXPECT_FALSE(widgetOf(*field).isEnabled());
+    field->Visible(false);
+    EXPECT_FALSE(widgetOf(*field).isVisible());
+}
+
+} // namespace

@@ -1,0 +1,295 @@
+#include "DesktopSession.h"
+#include "qt/desktop/PictureBackend.h"
+#include "qt/desktop/PrinterBackend.h"
+#include "visual/DrawDevice.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <numbers>
+
+using namespace phial;
+using namespace phial::qt;
+
+namespace
+{
+
+constexpr std::uint32_t White = 0xFFFFFFFF;
+constexpr std::uint32_t Black = 0xFF000000;
+constexpr std::uint32_t Hole = 0;
+
+class PainterTest : public DesktopSession
+{
+protected:
+    struct Surface {
+        PicturePtr picture;
+        std::shared_ptr<DrawBackend> backend;
+        std::unique_ptr<DrawDevice> device;
+
+        std::uint32_t at(std::size_t column, std::size_t row) const { return picture->at(column, row); }
+        std::size_t count(std::uint32_t colour) const
+        {
+            const auto pixels = std::as_const(*picture).pixels();
+            return static_cast<std::size_t>(std::count(pixels.begin(), pixels.end(), colour));
+        }
+    };
+
+    static Surface white(PixelSize size, double ratio = 1)
+    {
+        Surface surface = empty(size, ratio);
+        surface.backend->clear({QBColor(15)});
+        return surface;
+    }
+
+    static Surface empty(PixelSize size, double ratio = 1)
+    {
+        Surface surface;
+        surface.backend = visualHost().createSurface(size, ratio);
+        surface.picture = surface.backend->picture();
+        surface.device = std::make_unique<DrawDevice>(surface.backend);
+        return surface;
+    }
+
+    static bool same(const Surface& left, const Surface& right)
+    {
+        const auto one = std::as_const(*left.picture).pixels();
+        const auto other = std::as_const(*right.picture).pixels();
+        return std::equal(one.begin(), one.end(), other.begin(), other.end());
+    }
+};
+
+TEST_F(PainterTest, APlainLineLeavesOutItsEndPixel)
+{
+    const Surface surface = white({10, 10});
+    surface.device->Line(2, 3, 6, 3);
+    EXPECT_EQ(surface.at(1, 3), White);
+    EXPECT_EQ(surface.at(2, 3), Black);
+    EXPECT_EQ(surface.at(5, 3), Black);
+    EXPECT_EQ(surface.at(6, 3), White);
+    EXPECT_EQ(surface.count(Black), 4U);
+}
+
+TEST_F(PainterTest, ALineBackwardsLeavesOutItsEndPixelToo)
+{
+    const Surface surface = white({10, 10});
+    surface.device->Line(3, 6, 3, 2);
+    EXPECT_EQ(surface.at(3, 6), Black);
+    EXPECT_EQ(surface.at(3, 3), Black);
+    EXPECT_EQ(surface.at(3, 2), White);
+    EXPECT_EQ(surface.count(Black), 4U);
+}
+
+TEST_F(PainterTest, ASlantedLineCoversItsFirstPixelAndNotItsLast)
+{
+    const Surface surface = white({12, 12});
+    surface.device->Line(2, 2, 8, 8);
+    EXPECT_LT(surface.at(2, 2) & 0xFFU, 0x80U);
+    EXPECT_LT(surface.at(7, 7) & 0xFFU, 0x80U);
+    EXPECT_GT(surface.at(8, 8) & 0xFFU, 0xC0U);
+}
+
+TEST_F(PainterTest, ABoxIncludesBothCorners)
+{
+    const Surface surface = white({10, 10});
+    surface.device->Line(2, 3, 6, 5, std::nullopt, LineShape::Box);
+    EXPECT_EQ(surface.at(2, 3), Black);
+    EXPECT_EQ(surface.at(6, 5), Black);
+    EXPECT_EQ(surface.at(4, 4), White);
+    EXPECT_EQ(surface.count(Black), 12U);
+}
+
+TEST_F(PainterTest, AFilledBoxIsFilledToItsCorners)
+{
+    const Surface surface = white({10, 10});
+    surface.device->Line(2, 3, 6, 5, std::nullopt, LineShape::Filled);
+    EXPECT_EQ(surface.count(Black), 15U);
+}
+
+TEST_F(PainterTest, StraightEdgesAreCrispAtEveryRatio)
+{
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        const Surface surface = white({21, 21}, ratio);
+        surface.device->Line(3, 3, 11, 9, std::nullopt, LineShape::Box);
+        surface.device->Line(2, 15, 17, 15);
+        EXPECT_EQ(surface.count(Black) + surface.count(White), surface.picture->pixels().size()) << ratio;
+    }
+}
+
+TEST_F(PainterTest, CutInkLeavesHolesWithoutAFringe)
+{
+    const Surface surface = white({20, 20});
+    surface.device->MaskColor(QBColor(13));
+    surface.device->FillStyle(FillStyle::Solid);
+    surface.device->FillColor(QBColor(13));
+    surface.device->Circle(10, 10, 6, QBColor(13));
+    EXPECT_EQ(surface.at(10, 10), Hole);
+    EXPECT_EQ(surface.count(Hole) + surface.count(White), 400U);
+}
+
+TEST_F(PainterTest, CutTextLeavesHolesWithoutAFringe)
+{
+    const Surface surface = white({60, 30});
+    surface.device->MaskColor(QBColor(13));
+    surface.device->ForeColor(QBColor(13));
+    surface.device->FontSize(16);
+    surface.device->Print(u"H2O");
+    EXPECT_GT(surface.count(Hole), 30U);
+    EXPECT_EQ(surface.count(Hole) + surface.count(White), surface.picture->pixels().size());
+}
+
+TEST_F(PainterTest, TextOnNothingKeepsItsColourInEveryPixel)
+{
+    const Surface surface = empty({60, 30});
+    surface.device->ForeColor(RGB(255, 0, 0));
+    surface.device->FontSize(16);
+    surface.device->Print(u"H2O");
+    std::size_t covered = 0;
+    for (const std::uint32_t pixel : std::as_const(*surface.picture).pixels()) {
+        const std::uint32_t alpha = pixel >> 24U;
+        covered += alpha > 0 ? 1U : 0U;
+        EXPECT_EQ((pixel >> 16U) & 0xFFU, alpha); // premultiplied red, and nothing else
+        EXPECT_EQ(pixel & 0xFFFFU, 0U);
+    }
+    EXPECT_GT(covered, 50U);
+}
+
+TEST_F(PainterTest, APartCanBeDrawnInTwoWaysAtDoubleRatio)
+{
+    const Surface once = white({40, 20}, 2);
+    once.device->Line(4, 4, 30, 14, QBColor(9), LineShape::Filled);
+    const Surface pieces = white({40, 20}, 2);
+    for (int row = 4; row <= 14; ++row) {
+        pieces.device->Line(4, row, 31, row, QBColor(9));
+    }
+    EXPECT_TRUE(same(once, pieces));
+}
+
+TEST_F(PainterTest, TextSignBySignLooksLikeTextAtOnce)
+{
+    for (const double ratio : {1.0, 1.5, 2.0}) {
+        const Surface whole = white({120, 30}, ratio);
+        whole.device->FontSize(12);
+        whole.device->Print(u"Ca(OH)2 → ≈ ·");
+        const Surface single = white({120, 30}, ratio);
+        single.device->FontSize(12);
+        for (const char16_t sign : String(u"Ca(OH)2 → ≈ ·")) {
+            single.device->Print(String(1, sign));
+        }
+        EXPECT_TRUE(same(whole, single)) << ratio;
+    }
+}
+
+TEST_F(PainterTest, APictureComesOutAsItIsAtItsOwnRatio)
+{
+    const Surface source = white({16, 12}, 2);
+    source.device->Circle(8, 6, 4, QBColor(12));
+    const Surface copy = white({16, 12}, 2);
+    copy.device->PaintPicture(source.picture, 0, 0);
+    EXPECT_TRUE(same(source, copy));
+}
+
+TEST_F(PainterTest, AndWithTheMaskThenXorWithTheSpriteShowsTheSprite)
+{
+    const Surface mask = white({8, 8});
+    mask.device->Line(2, 2, 5, 5, QBColor(0), LineShape::Filled);
+    const Surface sprite = empty({8, 8});
+    sprite.backend->clear({QBColor(0)});
+    sprite.device->Line(2, 2, 5, 5, RGB(10, 200, 30), LineShape::Filled);
+
+    const Surface ground = white({8, 8});
+    ground.device->PaintPicture(mask.picture, 0, 0, RasterMode::And);
+    EXPECT_EQ(ground.at(3, 3), Black);
+    ground.device->PaintPicture(sprite.picture, 0, 0, RasterMode::Xor);
+    EXPECT_EQ(ground.at(3, 3), 0xFF0AC81EU);
+    EXPECT_EQ(ground.at(0, 0), White);
+}
+
+TEST_F(PainterTest, BitwiseInkLeavesSeeThroughPixelsSeeThrough)
+{
+    const Surface surface = empty({8, 8});
+    surface.device->DrawMode(DrawMode::XorPen);
+    surface.device->Line(0, 0, 7, 7, QBColor(15), LineShape::Filled);
+    EXPECT_EQ(surface.count(Hole), 64U);
+}
+
+TEST_F(PainterTest, XorTwiceBringsTheGroundBack)
+{
+    const Surface surface = white({20, 20});
+    surface.device->Circle(10, 10, 7, QBColor(12));
+    const Surface before = white({20, 20});
+    before.device->PaintPicture(surface.picture, 0, 0);
+    surface.device->DrawMode(DrawMode::XorPen);
+    surface.device->Circle(9, 9, 5, QBColor(9));
+    EXPECT_FALSE(same(surface, before));
+    surface.device->Circle(9, 9, 5, QBColor(9));
+    EXPECT_TRUE(same(surface, before));
+}
+
+TEST_F(PainterTest, ClippingKeepsEverythingInside)
+{
+    const Surface surface = white({20, 20});
+    surface.device->clip(5, 5, 9, 9);
+    surface.device->Line(0, 0, 19, 19, QBColor(0), LineShape::Filled);
+    surface.device->unclip();
+    EXPECT_EQ(surface.count(Black), 25U);
+    EXPECT_EQ(surface.at(5, 5), Black);
+    EXPECT_EQ(surface.at(10, 10), White);
+}
+
+TEST_F(PainterTest, AGradientHasItsColoursAtBothEndsAndNoSeams)
+{
+    const Surface surface = white({40, 6});
+    surface.device->Gradient(0, 0, 40, 6, RGB(0, 0, 0), RGB(200, 0, 0), 0, 20);
+    EXPECT_EQ(surface.at(0, 3), Black);
+    EXPECT_EQ(surface.at(39, 3), 0xFFC80000U);
+    EXPECT_EQ(surface.count(White), 0U);
+    for (std::size_t column = 1; column < 40; ++column) {
+        EXPECT_GE(surface.at(column, 2), surface.at(column - 1, 2));
+    }
+}
+
+TEST_F(PainterTest, PointReadsWhatWasDrawn)
+{
+    const Surface surface = empty({8, 8}, 2);
+    surface.device->PSet(3, 4, RGB(1, 2, 3));
+    EXPECT_EQ(surface.device->Point(3, 4), RGB(1, 2, 3));
+    EXPECT_EQ(surface.device->Point(0, 0), std::nullopt);
+    EXPECT_EQ(surface.device->Point(-1, 99), std::nullopt);
+}
+
+TEST_F(PainterTest, AnArcGoesCounterClockwiseFromThreeOClock)
+{
+    const Surface surface = white({41, 41});
+    surface.device->Circle(20, 20, 15, QBColor(0), CircleAngles{0.1, std::numbers::pi / 2});
+    EXPECT_NE(surface.at(31, 9), White);  // upper right
+    EXPECT_EQ(surface.at(31, 31), White); // lower right
+    EXPECT_EQ(surface.at(9, 9), White);   // upper left
+}
+
+TEST_F(PainterTest, PagesOfADocumentAreWritten)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("page.pdf"));
+    {
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setOutputFileName(file);
+        const auto backend =
+            std::make_shared<PrinterBackend>(std::move(printer), std::make_shared<QtTextMetrics>());
+        DrawDevice device(backend, DrawErrors::Raise);
+        device.ScaleMode(ScaleUnit::Millimetres);
+        EXPECT_GT(device.ScaleWidth(), 150);
+        EXPECT_LT(device.ScaleWidth(), 220);
+        device.Print(u"Urkunde");
+        device.NewPage();
+        device.Line(10, 10, 50, 10);
+        device.EndDoc();
+    }
+    QFile pdf(file);
+    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+    const QByteArray content = pdf.readAll();
+    EXPECT_TRUE(content.startsWith("%PDF"));
+    EXPECT_TRUE(content.contains("/Count 2"));
+}
+
+} // namespace
