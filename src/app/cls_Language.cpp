@@ -1,5 +1,6 @@
 #include "app/cls_Language.h"
 
+#include "app/FormTranslation.h"
 #include "app/Settings.h"
 #include "core/CoreRegistry.h"
 #include "core/CoreRoot.h"
@@ -53,7 +54,7 @@ bool systemSpeaksGerman()
 void translateOpenForms()
 {
     const Forms& forms = visualHost().forms();
-    std::vector<std::shared_ptr<Form>> open;
+    std::vector<std::shared_ptr<phial::Form>> open;
     for (std::size_t index = 0; index < forms.Count(); ++index) {
         open.push_back(forms.Item(index));
     }
@@ -130,6 +131,19 @@ String cls_Language::TRANSLATEAUTO(StringView pX) const
     }
     return effective_ == ID_Language_German ? CoreStringOps::Before(pX, Separator)
                                             : CoreStringOps::After(pX, Separator);
+}
+
+void cls_Language::Form(Object& pForm)
+{
+    CoreTokenList buffer;
+    Form(pForm, buffer);
+}
+
+void cls_Language::Form(Object& pForm, CoreTokenList& pTransBuffer)
+{
+    FormTranslation translation(pForm, pTransBuffer, effective_ == ID_Language_German);
+    ignoringErrors([&] { translation.run(); });
+    untranslated_ = translation.untranslated();
 }
 
 String cls_Language::DATEFORMAT() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/CoreStringList.h"
 #include "core/String.h"
 #include "core/Variant.h"
 
@@ -7,6 +8,9 @@
 
 namespace phial
 {
+
+class CoreTokenList;
+class Object;
 
 enum enm_LanguageC : std::int32_t {
     ID_Language_System = 0,
@@ -42,6 +46,16 @@ public:
     /// The language's part of a text divided by "|"; a text without it comes back unchanged.
     String TRANSLATEAUTO(StringView pX) const;
 
+    /// Puts all texts of a form in the language in use: its caption and those of its controls, which are written
+    /// "German|English" at design time. Errors are ignored. A caller that translates a form again keeps the
+    /// buffer, which then holds one token a text, its German and its English part; without one the parts that
+    /// are not shown are lost. Only texts that differ are assigned.
+    void Form(Object& pForm);
+    void Form(Object& pForm, CoreTokenList& pTransBuffer);
+
+    /// Texts of the form translated last that have no English part, as "key in form", for inspection.
+    const CoreStringList& untranslated() const { return untranslated_; }
+
     /// Patterns of dates: "dd.mm.yyyy" in German, "dd-mm-yyyy" in English; with the time " HH:MM" behind.
     String DATEFORMAT() const;
     String DATETIMEFORMAT() const;
@@ -55,6 +69,7 @@ private:
 
     enm_LanguageC current_ = ID_Language_System;
     enm_LanguageC effective_ = ID_Language_System;
+    CoreStringList untranslated_;
 };
 
 } // namespace phial

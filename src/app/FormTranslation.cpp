@@ -1,0 +1,232 @@
+#include "app/FormTranslation.h"
+
+#include "core/Colour.h"
+#include "core/CoreColors.h"
+#include "core/CoreStringOps.h"
+#include "core/Variant.h"
+
+#include <algorithm>
+#include <array>
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr StringView Separator = u"|";
+constexpr StringView ButtonPadding = u"   "; // behind each button's text
+constexpr int FewestLetters = 3;             // of a text that counts as forgotten
+constexpr Colour FieldBlue = RGB(0, 106, 181);
+constexpr double FieldBlend = 80;
+
+constexpr std::array<StringView, 7> ControlTexts = {u"TITLE",       u"TEXT",    u"TEXTLEFT", u"TEXTRIGHT",
+                                                    u"TOOLTIPTEXT", u"CAPTION", u"TAG"};
+constexpr std::array<StringView, 5> ButtonTexts = {u"TEXT", u"CAPTION", u"TOOLTIPTEXT", u"DESCRIPTION",
+                                                   u"TAG"};
+constexpr std::array<StringView, 4> ItemTexts = {u"TITLE", u"TITLESHORT", u"TOOLTIPTEXT", u"TAG"};
+constexpr std::array<StringView, 2> ColumnTexts = {u"TEXT", u"TOOLTIPTEXT"};
+
+/// The text of a member, none when the object has no such member or it cannot be read.
+std::optional<String> textOf(Object& object, StringView property)
+{
+    std::optional<String> text;
+    ignoringErrors([&] {
+        if (const auto value = tryGet(object, property)) {
+            text = value->toText();
+        }
+    });
+    return text;
+}
+
+ObjectPtr objectOf(Object& object, StringView property)
+{
+    ObjectPtr found;
+    ignoringErrors([&] {
+        if (const auto value = tryGet(object, property)) {
+            found = value->object();
+        }
+    });
+    return found;
+}
+
+std::int32_t countOf(Object& collection)
+{
+    std::int32_t count = 0;
+    ignoringErrors([&] { count = getMember(collection, u"Count").toWhole(); });
+    return count;
+}
+
+ObjectPtr itemOf(Object& collection, std::int32_t position)
+{
+    ObjectPtr item;
+    ignoringErrors([&] {
+        const Variant argument(position);
+        item = callMember(collection, u"Item", {&argument, 1}).object();
+    });
+    return item;
+}
+
+/// The control's name, with its index behind it in a control array.
+String keyOf(Object& control)
+{
+    const String name = textOf(control, u"NAME").value_or(String());
+    const String index = textOf(control, u"Index").value_or(u"-1");
+    return index.starts_with(u'-') ? name : name + u"(" + index + u")";
+}
+
+bool isOneOf(const String& typeName, std::initializer_list<StringView> names)
+{
+    return std::any_of(names.begin(), names.end(),
+                       [&](StringView name) { return equalsIgnoringCase(typeName, name); });
+}
+
+/// Fields in the plain window colour get a pale blue.
+void tintField(Object& control)
+{
+    const String type(control.typeName());
+    if (!isOneOf(type, {u"TEXTBOX", u"COMBOBOX", u"LISTBOX", u"LISTVIEW"})) {
+        return;
+    }
+    ignoringErrors([&] {
+        const auto window = static_cast<std::int32_t>(SystemColour::Window.value);
+        if (getMember(control, u"BACKCOLOR").toWhole() == window) {
+            const Colour tinted = CoreColors::Blend(FieldBlue, FieldBlend, RGB(255, 255, 255));
+            setMember(control, u"BACKCOLOR", static_cast<std::int32_t>(tinted.value));
+        }
+    });
+}
+
+bool isLetter(char16_t unit)
+{
+    return (unit >= u'A' && unit <= u'Z') || unit == u'Ä' || unit == u'Ö' || unit == u'Ü';
+}
+
+} // namespace
+
+FormTranslation::FormTranslation(Object& form, CoreTokenList& buffer, bool german)
+    : form_(form), buffer_(buffer), german_(german), formName_(textOf(form, u"NAME").value_or(String()))
+{
+}
+
+void FormTranslation::run()
+{
+    if (buffer_.Count() == 0) {
+        gather();
+    }
+    assign();
+}
+
+void FormTranslation::gather()
+{
+    note(formName_ + u".Caption", textOf(form_, u"Caption").value_or(String()));
+    const Visit noteText = [this](Object& object, StringView key, StringView property) {
+        if (const auto text = textOf(object, property)) {
+            note(key, *text);
+        }
+    };
+    for (const ObjectPtr& control : controls()) {
+        visitControl(*control, noteText);
+        tintField(*control);
+    }
+}
+
+void FormTranslation::assign()
+{
+    assignText(form_, formName_ + u".Caption", u"Caption");
+    const Visit assignOne = [this](Object& object, StringView key, StringView property) {
+        assignText(object, key, property);
+    };
+    for (const ObjectPtr& control : controls()) {
+        visitControl(*control, assignOne);
+    }
+}
+
+std::vector<ObjectPtr> FormTranslation::controls()
+{
+    std::vector<ObjectPtr> found;
+    const ObjectPtr collection = objectOf(form_, u"Controls");
+    const std::int32_t count = collection ? countOf(*collection) : 0;
+    for (std::int32_t i = 0; i < count; ++i) {
+        if (const ObjectPtr control = itemOf(*collection, i)) {
+            found.push_back(control);
+        }
+    }
+    return found;
+}
+
+void FormTranslation::visitControl(Object& control, const Visit& visit)
+{
+    const String key = keyOf(control);
+    for (const StringView property : ControlTexts) {
+        visit(control, String(key).append(u".").append(property), property);
+    }
+    visitMembers(control, u"BUTTONS", key + u".BUTTONS", ButtonTexts, visit);
+    visitMembers(control, u"PANELS", key + u".PANELS", ButtonTexts, visit);
+    visitMembers(control, u"ITEMS", key + u".ITEMS", ItemTexts, visit);
+    visitMembers(control, u"COLUMNHEADERS", key + u".COLUMNHEADERS", ColumnTexts, visit);
+}
+
+void FormTranslation::visitMembers(Object& control, StringView collection, StringView keyPart,
+                                   std::span<const StringView> properties, const Visit& visit)
+{
+    const ObjectPtr members = objectOf(control, collection);
+    const std::int32_t count = members ? countOf(*members) : 0;
+    for (std::int32_t i = 1; i <= count; ++i) {
+        const ObjectPtr member = itemOf(*members, i);
+        if (!member) {
+            continue;
+        }
+        const String key = String(keyPart) + u"(" + Variant(i).toText() + u").";
+        for (const StringView property : properties) {
+            visit(*member, String(key).append(property), property);
+        }
+    }
+}
+
+/// A text that ends in the separator has no English part and keeps its separator.
+void FormTranslation::note(StringView key, const String& text)
+{
+    const auto separator = text.find(Separator);
+    if (separator == String::npos) {
+        noteUntranslated(key, text);
+    } else if (text.ends_with(Separator)) {
+        buffer_.Add(key, {Variant(text), Variant(text)});
+    } else {
+        buffer_.Add(key, {Variant(CoreStringOps::Before(text, Separator)),
+                          Variant(CoreStringOps::After(text, Separator))});
+    }
+}
+
+void FormTranslation::noteUntranslated(StringView key, const String& text)
+{
+    const String capitals = upperCase(text);
+    if (text.find(u'\\') != String::npos || text == capitals || text == u"Text" || text == u"Title") {
+        return;
+    }
+    if (std::count_if(capitals.begin(), capitals.end(), isLetter) >= FewestLetters) {
+        untranslated_.Add(String(key) + u" in " + formName_);
+    }
+}
+
+String FormTranslation::lookUp(StringView key, const String& standard) const
+{
+    return buffer_.Exists(key) ? buffer_.Item(key).Values().Item(german_ ? 1 : 2).toText() : standard;
+}
+
+/// A button's text is kept apart from its edge by blanks.
+void FormTranslation::assignText(Object& object, StringView key, StringView property)
+{
+    const auto present = textOf(object, property);
+    if (!present) {
+        return;
+    }
+    const bool isButtonText = key.find(u".BUTTONS(") != StringView::npos && property == u"TEXT";
+    const String text =
+        isButtonText ? lookUp(key, trimmed(*present)).append(ButtonPadding) : lookUp(key, *present);
+    if (text != *present) {
+        ignoringErrors([&] { trySet(object, property, text); });
+    }
+}
+
+} // namespace phial

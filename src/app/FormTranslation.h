@@ -1,0 +1,55 @@
+#pragma once
+
+#include "core/CoreStringList.h"
+#include "core/CoreTokenList.h"
+#include "core/Object.h"
+
+#include <functional>
+#include <span>
+#include <vector>
+
+namespace phial
+{
+
+class Variant;
+
+/// One walk over a form that puts its texts in the language in force: the form's caption, and of each control
+/// its texts, buttons, panels, items and columns, whichever it has. Everything is reached by name, so a form
+/// of any class takes part.
+///
+/// Texts are written "German|English". The first walk gathers them into a buffer, one token a text with both
+/// parts as values; every walk then assigns the part in force, where it differs from what is shown. A text
+/// that a control had already in one language only is left alone.
+class FormTranslation
+{
+public:
+    /// `german` says which part of a pair is taken. A buffer that holds tokens is not gathered again.
+    FormTranslation(Object& form, CoreTokenList& buffer, bool german);
+
+    void run();
+
+    /// Texts that nobody has translated, as "key in form".
+    const CoreStringList& untranslated() const { return untranslated_; }
+
+private:
+    using Visit = std::function<void(Object& object, StringView key, StringView property)>;
+
+    void gather();
+    void assign();
+    std::vector<ObjectPtr> controls();
+    static void visitControl(Object& control, const Visit& visit);
+    static void visitMembers(Object& control, StringView collection, StringView keyPart,
+                             std::span<const StringView> properties, const Visit& visit);
+    void note(StringView key, const String& text);
+    void noteUntranslated(StringView key, const String& text);
+    void assignText(Object& object, StringView key, StringView property);
+    String lookUp(StringView key, const String& standard) const;
+
+    Object& form_;
+    CoreTokenList& buffer_;
+    bool german_;
+    String formName_;
+    CoreStringList untranslated_;
+};
+
+} // namespace phial
