@@ -1,6 +1,7 @@
 #include "core/CoreParameters.h"
 
 #include "core/CoreValuePacker.h"
+#include "core/ParameterText.h"
 #include "core/RuntimeError.h"
 
 #include <algorithm>
@@ -13,26 +14,21 @@ namespace phial
 namespace
 {
 
-constexpr StringView LineEnd = u"\r\n";
-
-/// A value as people read it: in one line, an array as its values, an object as the name of its class.
-String shown(const Variant& value)
+/// The entries of packed values: names and values in turn.
+CoreParameters parametersOfPacked(StringView text)
 {
-    if (value.kind() == Variant::Kind::Object) {
-        return value.object() ? String(value.object()->typeName()) : String();
+    const std::vector<Variant> values = CoreValuePacker::unpackAll(text);
+    if (values.size() % 2 != 0) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
     }
-    String text;
-    if (value.kind() == Variant::Kind::Array) {
-        for (const Variant& item : value.array()) {
-            text += text.empty() ? u"" : u", ";
-            text += shown(item);
+    CoreParameters parameters;
+    for (std::size_t i = 0; i < values.size(); i += 2) {
+        if (!values[i].isText()) {
+            throw RuntimeError(ErrorNumber::InvalidArgument);
         }
-        return text;
+        parameters.Set(values[i].text(), values[i + 1]);
     }
-    text = replaced(value.toText(), LineEnd, u" ");
-    std::replace_if(
-        text.begin(), text.end(), [](char16_t unit) { return unit < u' '; }, u' ');
-    return text;
+    return parameters;
 }
 
 } // namespace
@@ -126,19 +122,10 @@ String CoreParameters::Pack() const
 
 void CoreParameters::Unpack(StringView pText, std::int32_t pOptions, std::int32_t pForm)
 {
-    const std::vector<Variant> values =
-        pText.empty() ? std::vector<Variant>() : CoreValuePacker::unpackAll(pText);
-    if (pOptions != 0 || pForm != 1 || values.size() % 2 != 0) {
+    if (pOptions != 0 || pForm != 1) {
         throw RuntimeError(ErrorNumber::InvalidArgument);
     }
-    CoreParameters unpacked;
-    for (std::size_t i = 0; i < values.size(); i += 2) {
-        if (!values[i].isText()) {
-            throw RuntimeError(ErrorNumber::InvalidArgument);
-        }
-        unpacked.Set(values[i].text(), values[i + 1]);
-    }
-    *this = std::move(unpacked);
+    *this = CoreValuePacker::isPacked(pText) ? parametersOfPacked(pText) : parametersOfText(pText);
 }
 
 String CoreParameters::joined(StringView separator) const
@@ -146,14 +133,14 @@ String CoreParameters::joined(StringView separator) const
     String text;
     for (const Entry& entry : entries_) {
         text += text.empty() ? StringView() : separator;
-        text += shown(entry.name) + u": " + shown(entry.value);
+        text += parameterText(entry.name, entry.value);
     }
     return text;
 }
 
 String CoreParameters::Text() const
 {
-    return joined(LineEnd);
+    return joined(u"\r\n");
 }
 
 String CoreParameters::TextLine() const

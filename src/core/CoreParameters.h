@@ -34,14 +34,17 @@ public:
 
     /// All entries as one text (docs/formats.md). Raises 13 for an object that has no text form.
     String Pack() const;
-    /// Replaces all entries by those of a text made by Pack; the empty text gives no entries. A text that is
-    /// not such a text raises 5, one with unknown kinds of values 13, and the entries stay. The further
-    /// arguments name the form of the text; 0 and 1 are the only ones and others raise 5.
+    /// Replaces all entries by those of a text made by Pack, Text or TextLine, which begin so differently
+    /// that none is taken for another; the empty text gives no entries. A text that is none of them raises 5,
+    /// one with an object or an unknown kind of value 13, and the entries stay. The further arguments name
+    /// the form of the text; 0 and 1 are the only ones and others raise 5.
     void Unpack(StringView pText, std::int32_t pOptions = 0, std::int32_t pForm = 1);
 
-    /// For people: `Name: value` in one line per entry, each with CR LF at its end but the last.
+    /// All entries for people to read, and for Unpack to read back: `Name = value` in one line per entry,
+    /// with CR LF between them (docs/formats.md). An object that is set is only named and makes the text one
+    /// that Unpack refuses. Raises 5 for arrays nested deeper than CoreValuePacker::MaxNesting.
     String Text() const;
-    /// For people: `Name: value; Name: value` in one line; line ends and tabs within become blanks.
+    /// The same in a single line: `Name = value; Name = value`.
     String TextLine() const;
 
 private:

@@ -272,7 +272,7 @@ private:
 /// A reader behind the head of a packed text.
 Reader readerOf(StringView text)
 {
-    if (text.size() > CoreValuePacker::MaxLength || !text.starts_with(Head)) {
+    if (text.size() > CoreValuePacker::MaxLength || !CoreValuePacker::isPacked(text)) {
         raiseDamaged();
     }
     return Reader(text.substr(Head.size()));
@@ -316,6 +316,11 @@ void CoreValuePacker::Unpack(StringView pText, std::span<const Target> pTargets)
 void CoreValuePacker::Unpack(StringView pText, std::initializer_list<Target> pTargets)
 {
     Unpack(pText, std::span<const Target>(pTargets.begin(), pTargets.size()));
+}
+
+bool CoreValuePacker::isPacked(StringView text)
+{
+    return text.starts_with(Head);
 }
 
 std::vector<Variant> CoreValuePacker::unpackAll(StringView text)

@@ -36,6 +36,9 @@ public:
     static void Unpack(StringView pText, std::span<const Target> pTargets);
     static void Unpack(StringView pText, std::initializer_list<Target> pTargets);
 
+    /// Whether a text begins as every packed text does.
+    static bool isPacked(StringView text);
+
     /// All values of the text, however many. A record raises 13, since nothing is there to be filled.
     static std::vector<Variant> unpackAll(StringView text);
 };

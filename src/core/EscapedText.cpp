@@ -1,5 +1,7 @@
 #include "core/EscapedText.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace phial
@@ -21,16 +23,21 @@ bool isLowHalf(char16_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-bool needsEscape(char16_t unit)
+/// Whether a unit, unless it is half of a surrogate pair, cannot stand in a line.
+bool breaksLine(char16_t unit)
 {
     const bool control = unit < 0x20 || (unit >= 0x7F && unit <= 0x9F) || unit == 0x2028 || unit == 0x2029;
-    return control || unit == EscapeSign || isHighHalf(unit) || isLowHalf(unit);
+    return control || isHighHalf(unit) || isLowHalf(unit);
 }
 
-void appendEscape(String& out, char16_t unit)
+bool isPairAt(StringView text, std::size_t at)
+{
+    return isHighHalf(text[at]) && at + 1 < text.size() && isLowHalf(text[at + 1]);
+}
+
+void appendDigits(String& out, char16_t unit)
 {
     constexpr StringView Digits = u"0123456789ABCDEF";
-    out += EscapeSign;
     for (unsigned shift = 16; shift > 0; shift -= 4) {
         out += Digits[(unit >> (shift - 4)) & 0xFU];
     }
@@ -64,6 +71,48 @@ std::optional<char16_t> unitOf(StringView digits)
     return static_cast<char16_t>(unit);
 }
 
+/// The escapes of one letter in quoted texts, and what they stand for.
+struct ShortEscape {
+    char16_t letter;
+    char16_t unit;
+};
+constexpr std::array ShortEscapes{
+    ShortEscape{u'"', u'"'},  ShortEscape{u'\\', u'\\'}, ShortEscape{u'/', u'/'},  ShortEscape{u'b', u'\b'},
+    ShortEscape{u'f', u'\f'}, ShortEscape{u'n', u'\n'},  ShortEscape{u'r', u'\r'}, ShortEscape{u't', u'\t'}};
+constexpr char16_t AnyUnitLetter = u'u';
+
+void appendQuoted(String& out, char16_t unit)
+{
+    const auto* known = std::ranges::find(ShortEscapes, unit, &ShortEscape::unit);
+    if (known != ShortEscapes.end() && unit != u'/') {
+        out += u'\\';
+        out += known->letter;
+    } else if (breaksLine(unit)) {
+        out += u'\\';
+        out += AnyUnitLetter;
+        appendDigits(out, unit);
+    } else {
+        out += unit;
+    }
+}
+
+/// The unit of an escape behind its backslash, which is taken off `rRest`.
+std::optional<char16_t> takeEscape(StringView& rRest)
+{
+    if (rRest.starts_with(AnyUnitLetter)) {
+        const auto unit = unitOf(rRest.substr(1, EscapeDigits));
+        rRest.remove_prefix(std::min(1 + EscapeDigits, rRest.size()));
+        return unit;
+    }
+    const auto* known = rRest.empty() ? ShortEscapes.end()
+                                      : std::ranges::find(ShortEscapes, rRest.front(), &ShortEscape::letter);
+    if (known == ShortEscapes.end()) {
+        return std::nullopt;
+    }
+    rRest.remove_prefix(1);
+    return known->unit;
+}
+
 } // namespace
 
 String escapedText(StringView text, StringView alsoThese)
@@ -72,10 +121,11 @@ String escapedText(StringView text, StringView alsoThese)
     out.reserve(text.size());
     for (std::size_t at = 0; at < text.size(); ++at) {
         const char16_t unit = text[at];
-        if (isHighHalf(unit) && at + 1 < text.size() && isLowHalf(text[at + 1])) {
+        if (isPairAt(text, at)) {
             out += text.substr(at++, 2);
-        } else if (needsEscape(unit) || alsoThese.find(unit) != StringView::npos) {
-            appendEscape(out, unit);
+        } else if (breaksLine(unit) || unit == EscapeSign || alsoThese.find(unit) != StringView::npos) {
+            out += EscapeSign;
+            appendDigits(out, unit);
         } else {
             out += unit;
         }
@@ -100,6 +150,45 @@ std::optional<String> unescapedText(StringView escaped)
         at += EscapeDigits;
     }
     return text;
+}
+
+String quotedText(StringView text)
+{
+    String out = u"\"";
+    out.reserve(text.size() + 2);
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (isPairAt(text, at)) {
+            out += text.substr(at++, 2);
+        } else {
+            appendQuoted(out, text[at]);
+        }
+    }
+    return out + u'"';
+}
+
+std::optional<String> takeQuotedText(StringView& rRest)
+{
+    if (!rRest.starts_with(u'"')) {
+        return std::nullopt;
+    }
+    rRest.remove_prefix(1);
+    String text;
+    while (!rRest.empty()) {
+        const char16_t unit = rRest.front();
+        rRest.remove_prefix(1);
+        if (unit == u'"') {
+            return text;
+        }
+        if (unit < u' ') {
+            return std::nullopt;
+        }
+        const auto meant = unit == u'\\' ? takeEscape(rRest) : unit;
+        if (!meant) {
+            return std::nullopt;
+        }
+        text += *meant;
+    }
+    return std::nullopt;
 }
 
 } // namespace phial

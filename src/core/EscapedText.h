@@ -15,4 +15,12 @@ String escapedText(StringView text, StringView alsoThese = {});
 /// The text out of its escaped form; no value when a `%` lacks its four digits.
 std::optional<String> unescapedText(StringView escaped);
 
+/// A text in quotation marks as JSON writes it, in one line of well-formed Unicode: quotation marks,
+/// backslashes and what escapedText finds unfit for a line stand behind a backslash.
+String quotedText(StringView text);
+
+/// Reads a text in quotation marks, with every escape that JSON knows, from the beginning of `rRest`, which
+/// then begins behind it; no value, and `rRest` wherever, when there is none or it breaks off.
+std::optional<String> takeQuotedText(StringView& rRest);
+
 } // namespace phial

@@ -1,9 +1,16 @@
 #include "core/CoreParameters.h"
 
+#include "core/CoreValuePacker.h"
 #include "core/NumberText.h"
 #include "support/Raises.h"
+#include "support/RandomValues.h"
 
+#include <bit>
 #include <gtest/gtest.h>
+#include <limits>
+#include <memory>
+#include <random>
+#include <utility>
 
 namespace phial
 {
@@ -138,9 +145,241 @@ TEST(CoreParametersTest, TextHasALineForEachEntry)
     parameters.Set(u"Zeit", 2.5);
     parameters.Set(u"Fehler", u"zwei\r\nZeilen");
     parameters.Set(u"Tipps", Variant::Array{1, u"a"});
-    EXPECT_EQ(parameters.Text(), u"Zeit: 2,5\r\nFehler: zwei Zeilen\r\nTipps: 1, a");
-    EXPECT_EQ(parameters.TextLine(), u"Zeit: 2,5; Fehler: zwei Zeilen; Tipps: 1, a");
+    EXPECT_EQ(parameters.Text(), u"Zeit = 2.5\r\nFehler = \"zwei\\r\\nZeilen\"\r\nTipps = [1, \"a\"]");
+    EXPECT_EQ(parameters.TextLine(), u"Zeit = 2.5; Fehler = \"zwei\\r\\nZeilen\"; Tipps = [1, \"a\"]");
     EXPECT_EQ(CoreParameters().Text(), u"");
+    EXPECT_EQ(CoreParameters().TextLine(), u"");
+}
+
+TEST(CoreParametersTest, WorkedExamples)
+{
+    CoreParameters parameters;
+    parameters.Set(u"NAME", u"Anna");
+    parameters.Set(u"POINTS", 12.5);
+    EXPECT_EQ(parameters.Pack(), u"QV1;4;T4=NAME;T4=Anna;T6=POINTS;D4=12.5;");
+    EXPECT_EQ(parameters.TextLine(), u"NAME = \"Anna\"; POINTS = 12.5");
+
+    parameters.Clear();
+    parameters.Set(u"Zeit", Moment{45292.75});
+    parameters.Set(u"LIVE", true);
+    EXPECT_EQ(parameters.TextLine(), u"Zeit = 2024-01-01T18:00:00; LIVE = true");
+
+    parameters.Clear();
+    parameters.Set(u"ein Name", u"50 % \"{a|b}\"");
+    EXPECT_EQ(parameters.TextLine(), u"\"ein Name\" = \"50 % \\\"{a|b}\\\"\"");
+}
+
+/// Expects that each form of the parameters, read again, gives entries of the same names, kinds and values to
+/// the last bit.
+void expectEveryFormComesBack(const CoreParameters& parameters)
+{
+    const String packed = parameters.Pack();
+    for (const String& text : {packed, parameters.Text(), parameters.TextLine()}) {
+        CoreParameters read = certificate();
+        read.Unpack(text);
+        ASSERT_EQ(read.Pack(), packed) << toUtf8(text);
+    }
+}
+
+CoreParameters withValue(const Variant& value)
+{
+    CoreParameters parameters;
+    parameters.Set(u"before", 1);
+    parameters.Set(u"VALUE", value);
+    parameters.Set(u"behind", u"end");
+    return parameters;
+}
+
+TEST(CoreParametersTest, EveryKindIsReadableAndComesBackInEveryForm)
+{
+    using Limits = std::numeric_limits<double>;
+    const std::pair<Variant, StringView> examples[] = {
+        {Variant(), u"empty"},
+        {true, u"true"},
+        {false, u"false"},
+        {0, u"0"},
+        {std::numeric_limits<std::int32_t>::min(), u"-2147483648"},
+        {2.5, u"2.5"},
+        {42.0, u"42.0"},
+        {-0.0, u"-0.0"},
+        {3e9, u"3e+09"},
+        {Limits::max(), u"1.7976931348623157e+308"},
+        {Limits::denorm_min(), u"5e-324"},
+        {-Limits::infinity(), u"#FFF0000000000000"},
+        {Moment{45292.75}, u"2024-01-01T18:00:00"},
+        {Moment{0}, u"1899-12-30T00:00:00"},
+        {Moment{-0.0}, u"@-0"},
+        {Moment{0.375}, u"1899-12-30T09:00:00"},
+        {Moment{0.3333}, u"@0.3333"},
+        {Moment{1e10}, u"@1e+10"},
+        {Moment{Limits::infinity()}, u"@#7FF0000000000000"},
+        {u"", u"\"\""},
+        {u"true", u"\"true\""},
+        {u"42; x = [1]", u"\"42; x = [1]\""},
+        {Variant::Array{}, u"[]"},
+        {Variant::Array{1, 1.0, Variant::Array{u"a]"}, Variant()}, u"[1, 1.0, [\"a]\"], empty]"},
+        {ObjectPtr(), u"nothing"},
+    };
+    for (const auto& [value, text] : examples) {
+        const CoreParameters parameters = withValue(value);
+        EXPECT_EQ(parameters.TextLine(),
+                  String(u"before = 1; VALUE = ").append(text) + u"; behind = \"end\"");
+        expectEveryFormComesBack(parameters);
+    }
+}
+
+TEST(CoreParametersTest, DifficultTextsComeBackInEveryForm)
+{
+    String every;
+    for (int unit = 0; unit <= 0xFFFF; ++unit) {
+        every += static_cast<char16_t>(unit);
+    }
+    for (const String& text : {every, String(u"\u00E4\u00F6\u00FC \"q\" 'a' \\ % {NEXT_ITEM}|"),
+                               String(u"\U0001F9EA\uFEFF"), String{0xDC00, u'a', 0xD800}}) {
+        CoreParameters parameters = withValue(text);
+        parameters.Set(text, Variant::Array{text});
+        expectEveryFormComesBack(parameters);
+        EXPECT_EQ(parameters.TextLine().find_first_of(StringView(u"\r\n\0\u0085\u2028\u2029", 6)),
+                  String::npos);
+    }
+}
+
+TEST(CoreParametersTest, LongTextsComeBackInEveryForm)
+{
+    expectEveryFormComesBack(withValue(String(1'000'000, u'"')));
+}
+
+TEST(CoreParametersTest, EveryNameComesBackInEveryForm)
+{
+    for (const StringView name : {u"", u" ", u"a b", u"=", u"a=b", u"\"", u";", u"QV1;", u"QV1",
+                                  u"Gr\u00F6\u00DFe", u"empty", u"1", u"\u03B1", u"a\r\nb"}) {
+        CoreParameters parameters;
+        parameters.Set(name, 5);
+        expectEveryFormComesBack(parameters);
+    }
+}
+
+TEST(CoreParametersTest, EveryListComesBackInEveryForm)
+{
+    test::RandomValues random(6);
+    for (int round = 0; round < 1000; ++round) {
+        CoreParameters parameters;
+        for (int count = round % 8; count > 0; --count) {
+            parameters.Set(random.text(), random.value());
+        }
+        expectEveryFormComesBack(parameters);
+    }
+}
+
+TEST(CoreParametersTest, MomentsComeBackToTheLastBitInEveryForm)
+{
+    std::mt19937_64 random(30);
+    for (int count = 0; count < 1000; ++count) {
+        const auto seconds = static_cast<double>(random() % 200'000'000'000);
+        expectEveryFormComesBack(withValue(Moment{seconds / 86400 - 600'000}));
+        expectEveryFormComesBack(withValue(Moment{std::bit_cast<double>(random())}));
+    }
+}
+
+TEST(CoreParametersTest, TextMayBeWrittenByHand)
+{
+    CoreParameters parameters;
+    parameters.Unpack(
+        u"\n  NAME=\"\\u004Anna\\/\"  \r\n\n;POINTS =\t12 ; LIST = [ 1 ,2.5,[ ] ];;big = 3000000000\r");
+    EXPECT_EQ(parameters.TextLine(), u"NAME = \"Jnna/\"; POINTS = 12; LIST = [1, 2.5, []]; big = 3e+09");
+    parameters.Unpack(u"a = 1; A = 2");
+    ASSERT_EQ(parameters.Count(), 1);
+    EXPECT_EQ(parameters.Get(u"a"), Variant(2));
+}
+
+TEST(CoreParametersTest, DamagedTextLeavesTheEntries)
+{
+    for (const StringView text : {u"a",
+                                  u"a =",
+                                  u"a = ;",
+                                  u"= 1",
+                                  u"a = 1 b = 2",
+                                  u"a = yes",
+                                  u"a = 1,5",
+                                  u"a = +1",
+                                  u"a = 0x1",
+                                  u"a = nan",
+                                  u"a = 1e999",
+                                  u"a = \"",
+                                  u"a = \"b",
+                                  u"a = \"\\",
+                                  u"a = \"\\u00\"",
+                                  u"a = \"\\x\"",
+                                  u"a = \"b\r\nc\"",
+                                  u"a = \"b\" c",
+                                  u"a = [",
+                                  u"a = [1",
+                                  u"a = [1,]",
+                                  u"a = [1 2]",
+                                  u"a = [1; 2]",
+                                  u"a = ]",
+                                  u"a = @",
+                                  u"a = @nan",
+                                  u"a = #0",
+                                  u"a = 2024-02-30T00:00:00",
+                                  u"a = 2024-01-01T24:00:00",
+                                  u"a = 2024-01-01 18:00:00",
+                                  u"a b = 1",
+                                  u"\u03B1 = 1",
+                                  u"a = TRUE",
+                                  u"a = 1; b"}) {
+        CoreParameters parameters = certificate();
+        EXPECT_RAISES(parameters.Unpack(text), InvalidArgument) << toUtf8(text);
+        EXPECT_EQ(parameters.Count(), 3);
+    }
+}
+
+TEST(CoreParametersTest, EveryTruncationOfTheTextIsDamageOrFewerEntries)
+{
+    const CoreParameters whole = withValue(Variant::Array{u"a\r\n", 2.5, true, Moment{1}});
+    const String line = whole.TextLine();
+    for (std::size_t length = 0; length < line.size(); ++length) {
+        CoreParameters read;
+        const auto raised = test::raisedBy([&] { read.Unpack(line.substr(0, length)); });
+        EXPECT_TRUE(raised == 5 || (!raised && read.Count() < whole.Count())) << length;
+    }
+}
+
+Variant nested(int depth)
+{
+    Variant value = u"innermost";
+    for (int i = 0; i < depth; ++i) {
+        value = Variant::Array{value};
+    }
+    return value;
+}
+
+TEST(CoreParametersTest, ArraysNestToTheLimitInEveryForm)
+{
+    expectEveryFormComesBack(withValue(nested(CoreValuePacker::MaxNesting)));
+    const CoreParameters tooDeep = withValue(nested(CoreValuePacker::MaxNesting + 1));
+    EXPECT_RAISES(tooDeep.Pack(), InvalidArgument);
+    EXPECT_RAISES(tooDeep.Text(), InvalidArgument);
+    EXPECT_RAISES(tooDeep.TextLine(), InvalidArgument);
+    CoreParameters read;
+    EXPECT_RAISES(read.Unpack(u"a = " + String(1'000'000, u'[')), InvalidArgument);
+}
+
+/// An object that is no record.
+class Something : public Object
+{
+public:
+    StringView typeName() const override { return u"Something"; }
+    MemberTable members() const override { return {}; }
+};
+
+TEST(CoreParametersTest, AnObjectIsNamedButNotRead)
+{
+    const CoreParameters parameters = withValue(ObjectPtr(std::make_shared<Something>()));
+    EXPECT_EQ(parameters.TextLine(), u"before = 1; VALUE = <Something>; behind = \"end\"");
+    CoreParameters read = certificate();
+    EXPECT_RAISES(read.Unpack(parameters.TextLine()), TypeMismatch);
+    EXPECT_EQ(read.Count(), 3);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "core/NumberText.h"
 #include "core/tmp_Data.h"
 #include "support/Raises.h"
+#include "support/RandomValues.h"
 
 #include <bit>
 #include <cmath>
@@ -133,65 +134,9 @@ TEST(CoreValuePackerTest, WholeNumbersComeBack)
     }
 }
 
-/// Makes values of every kind, nested, from one seed.
-class RandomValues
-{
-public:
-    explicit RandomValues(unsigned seed) : random_(seed) {}
-
-    Variant value(int depth = 0)
-    {
-        switch (number(depth < 4 ? 7 : 6)) {
-        case 0:
-            return {};
-        case 1:
-            return Variant(number(2) == 1);
-        case 2:
-            return static_cast<std::int32_t>(random_());
-        case 3:
-            return std::ldexp(static_cast<double>(random_()), static_cast<int>(number(200)) - 100);
-        case 4:
-            return Moment{static_cast<double>(number(100000)) / 7};
-        case 5:
-            return text();
-        case 6:
-            return ObjectPtr();
-        default:
-            return array(depth);
-        }
-    }
-
-private:
-    unsigned number(unsigned greatest)
-    {
-        return std::uniform_int_distribution<unsigned>(0, greatest)(random_);
-    }
-
-    Variant text()
-    {
-        String text;
-        for (unsigned length = number(30); length > 0; --length) {
-            text +=
-                number(1) == 0 ? static_cast<char16_t>(number(0x7F)) : static_cast<char16_t>(number(0xFFFF));
-        }
-        return text;
-    }
-
-    Variant array(int depth)
-    {
-        Variant::Array items;
-        for (unsigned count = number(5); count > 0; --count) {
-            items.push_back(value(depth + 1));
-        }
-        return items;
-    }
-
-    std::mt19937 random_;
-};
-
 TEST(CoreValuePackerTest, EveryListComesBack)
 {
-    RandomValues random(2024);
+    test::RandomValues random(2024);
     for (int round = 0; round < 2000; ++round) {
         std::vector<Variant> values(static_cast<std::size_t>(round % 8));
         for (Variant& value : values) {

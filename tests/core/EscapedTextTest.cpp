@@ -37,5 +37,29 @@ TEST(EscapedTextTest, ABrokenEscapeGivesNoText)
     EXPECT_EQ(unescapedText(u"%00G0"), std::nullopt);
 }
 
+TEST(EscapedTextTest, QuotedTextIsOneReadableLine)
+{
+    EXPECT_EQ(quotedText(u"J\u00FCrgen \"Jo\", 50 % \U0001F9EA"),
+              u"\"J\u00FCrgen \\\"Jo\\\", 50 % \U0001F9EA\"");
+    EXPECT_EQ(quotedText(StringView(u"a/\\\r\n\t\0\u0085\u2028", 9)),
+              u"\"a/\\\\\\r\\n\\t\\u0000\\u0085\\u2028\"");
+    EXPECT_EQ(quotedText(String{0xDDEA, u'a', 0xD83E}), u"\"\\uDDEAa\\uD83E\"");
+}
+
+TEST(EscapedTextTest, QuotedTextIsTakenFromTheBeginning)
+{
+    StringView rest = u"\"a\\\"\\u00e4\\/\\b\\f\" tail\"";
+    EXPECT_EQ(takeQuotedText(rest), u"a\"\u00E4/\b\f");
+    EXPECT_EQ(rest, u" tail\"");
+}
+
+TEST(EscapedTextTest, QuotedTextThatBreaksOffIsNone)
+{
+    for (StringView rest :
+         {u"", u"a", u"\"", u"\"a", u"\"a\\", u"\"a\\\"", u"\"\\u004\"", u"\"\\u", u"\"\\x\"", u"\"a\nb\""}) {
+        EXPECT_EQ(takeQuotedText(rest), std::nullopt);
+    }
+}
+
 } // namespace
 } // namespace phial

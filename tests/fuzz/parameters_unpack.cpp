@@ -1,4 +1,5 @@
-// Parameters out of a text: what can be read can be packed again, and stays the same from then on.
+// Parameters out of a text: what can be read can be written again in every form, and stays the same from then
+// on.
 
 #include "FuzzInput.h"
 #include "core/CoreParameters.h"
@@ -15,8 +16,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const String packed = parameters.Pack();
-    CoreParameters again;
-    again.Unpack(packed, 0, 1);
-    fuzz::require(again.Count() == parameters.Count() && again.Pack() == packed);
+    const String line = parameters.TextLine();
+    fuzz::require(line.find_first_of(u"\r\n") == String::npos);
+    for (const String& text : {packed, parameters.Text(), line}) {
+        CoreParameters again;
+        again.Unpack(text, 0, 1);
+        fuzz::require(again.Count() == parameters.Count() && again.Pack() == packed);
+    }
     return 0;
 }
