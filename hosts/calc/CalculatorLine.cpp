@@ -1,6 +1,7 @@
 #include "calc/CalculatorLine.h"
 
 #include "core/CoreNumbers.h"
+#include "core/CoreStringOps.h"
 #include "core/NumberText.h"
 #include "core/RandomSource.h"
 #include "core/RuntimeError.h"
@@ -56,6 +57,25 @@ bool isVariableName(StringView text)
     });
 }
 
+/// The text without what stands around it on a line: blanks, tabs and line ends, and the byte order mark of
+/// its file.
+StringView bare(StringView text)
+{
+    constexpr StringView Around = u" \t\r\n\uFEFF";
+    const std::size_t begin = std::min(text.find_first_not_of(Around), text.size());
+    return text.substr(begin, text.find_last_not_of(Around) + 1 - begin);
+}
+
+/// A term as a message names it: its beginning, on one line.
+String named(StringView term)
+{
+    constexpr std::int32_t Longest = 80;
+    String name = CoreStringOps::Shorten(term, Longest, {});
+    std::ranges::replace_if(
+        name, [](char16_t unit) { return unit < u' '; }, u' ');
+    return name.size() < term.size() ? name + u'\u2026' : name;
+}
+
 } // namespace
 
 CalculatorLine::CalculatorLine(std::istream& input, std::ostream& output, std::ostream& errors,
@@ -80,6 +100,7 @@ CalculatorLine::ExitStatus CalculatorLine::run(std::span<const std::string> argu
     if (std::ranges::all_of(entries_, [](const Entry& entry) { return entry.value.has_value(); })) {
         workOutInput();
     }
+    checkStreams();
     return status_;
 }
 
@@ -122,21 +143,22 @@ bool CalculatorLine::readOption(const std::string& option)
 std::optional<CalculatorLine::Entry> CalculatorLine::readEntry(const String& text)
 {
     const std::size_t equals = text.find(u'=');
-    if (equals == String::npos || !isVariableName(StringView(text).substr(0, equals))) {
+    const StringView name = bare(StringView(text).substr(0, equals));
+    if (equals == String::npos || !isVariableName(name)) {
         return Entry{text, std::nullopt};
     }
     double value = 0;
-    if (!CoreNumbers::ToDouble(StringView(text).substr(equals + 1), value)) {
+    if (!CoreNumbers::ToDouble(bare(StringView(text).substr(equals + 1)), value)) {
         complain(text, u"der Wert ist keine Zahl", u"the value is not a number");
         return std::nullopt;
     }
-    return Entry{text.substr(0, equals), value};
+    return Entry{String(name), value};
 }
 
 void CalculatorLine::workOutInput()
 {
     for (std::string line; std::getline(input_, line);) {
-        const String text = fromUtf8(std::string_view(line).substr(0, line.find_last_not_of(" \t\r") + 1));
+        const String text(bare(fromUtf8(line)));
         if (text.empty()) {
             continue;
         }
@@ -188,9 +210,27 @@ void CalculatorLine::writeValue(const String& term)
     }
 }
 
+void CalculatorLine::checkStreams()
+{
+    if (input_.bad()) {
+        complain(u"die Eingabe l\u00E4sst sich nicht lesen", u"the input cannot be read");
+        status_ = ExitStatus::NoInputOrOutput;
+    }
+    if (!output_.flush()) {
+        complain(u"die Ausgabe l\u00E4sst sich nicht schreiben", u"the output cannot be written");
+        status_ = ExitStatus::NoInputOrOutput;
+    }
+}
+
 void CalculatorLine::complain(StringView about, StringView german, StringView english)
 {
-    errors_ << "phial-calc: " << toUtf8(about) << ": " << toUtf8(isGerman() ? german : english) << '\n';
+    const String place = named(about) + u": ";
+    complain(place + String(german), place + String(english));
+}
+
+void CalculatorLine::complain(StringView german, StringView english)
+{
+    errors_ << "phial-calc: " << toUtf8(isGerman() ? german : english) << '\n';
 }
 
 } // namespace phial::calcline

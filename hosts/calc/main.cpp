@@ -10,6 +10,7 @@
 int main(int argumentCount, char** arguments)
 {
     try {
+        std::ios::sync_with_stdio(false); // so that the streams notice errors of the files below them
         const std::vector<std::string> texts(arguments + 1, arguments + argumentCount);
         const auto random = phial::withDefaults({}).random;
         phial::calcline::CalculatorLine calculator(std::cin, std::cout, std::cerr, random);

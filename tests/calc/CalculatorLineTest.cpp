@@ -88,6 +88,72 @@ TEST(CalculatorLine, VariableWithoutANumberIsWrongUse)
     EXPECT_EQ(run.status, ExitStatus::WrongUse);
 }
 
+TEST(CalculatorLine, BlanksAroundNameAndValueDoNotCount)
+{
+    EXPECT_EQ(runWith({" A = 2,5 ", "A*2"}).output, "5\n");
+    EXPECT_EQ(runWith({}, "\tA =\t3 \n  A * 2\r\n").output, "6\n");
+    EXPECT_EQ(runWith({"A = "}).status, ExitStatus::WrongUse);
+}
+
+TEST(CalculatorLine, ByteOrderMarkBeforeTheInputDoesNotCount)
+{
+    EXPECT_EQ(runWith({}, "\xEF\xBB\xBF"
+                          "A=2\nA*3\n")
+                  .output,
+              "6\n");
+}
+
+TEST(CalculatorLine, MessageNamesALongTermByItsBeginningOnOneLine)
+{
+    const Outcome run =
+        runWith({"--en", "(2)\n" + std::string(100'000, ' ') + "(3)", std::string(1000, '#')});
+    EXPECT_EQ(run.errors, "phial-calc: (2)" + std::string(77, ' ') +
+                              "\u2026: Could not solve term\n"
+                              "phial-calc: " +
+                              std::string(80, '#') + "\u2026: Could not solve term\n");
+}
+
+TEST(CalculatorLine, BytesThatAreNoTextAreSkipped)
+{
+    EXPECT_EQ(runWith({"\xFF"
+                       "2+\xC3"
+                       "3"})
+                  .output,
+              "5\n");
+    EXPECT_EQ(runWith({}, std::string("\xFE"
+                                      "2\0+3\n",
+                                      6))
+                  .output,
+              "5\n");
+}
+
+TEST(CalculatorLine, LastLineNeedsNoEnd)
+{
+    EXPECT_EQ(runWith({}, "1+1\n2+2").output, "2\n4\n");
+    EXPECT_EQ(runWith({}, "").output, "");
+}
+
+TEST(CalculatorLine, InputThatCannotBeReadIsTold)
+{
+    std::istringstream in;
+    in.setstate(std::ios::badbit);
+    std::ostringstream out;
+    std::ostringstream errors;
+    CalculatorLine calculator(in, out, errors, nullptr);
+    EXPECT_EQ(calculator.run({}), ExitStatus::NoInputOrOutput);
+    EXPECT_EQ(errors.str(), "phial-calc: die Eingabe l\u00E4sst sich nicht lesen\n");
+}
+
+TEST(CalculatorLine, OutputThatCannotBeWrittenIsTold)
+{
+    std::istringstream in;
+    std::ostream out(nullptr);
+    std::ostringstream errors;
+    CalculatorLine calculator(in, out, errors, nullptr);
+    EXPECT_EQ(calculator.run(std::vector<std::string>{"--en", "1+1"}), ExitStatus::NoInputOrOutput);
+    EXPECT_EQ(errors.str(), "phial-calc: the output cannot be written\n");
+}
+
 TEST(CalculatorLine, UnknownOptionIsWrongUse)
 {
     const Outcome run = runWith({"--en", "--fr", "1+1"});
