@@ -18,6 +18,12 @@ bool isWordUnit(char16_t unit)
     return (capital >= u'A' && capital <= u'Z') || (unit >= u'0' && unit <= u'9') || unit == u'.';
 }
 
+/// Whether a variable's name, as a rule a text and then not copied, is the word.
+bool isNamed(const Variant& name, StringView word)
+{
+    return name.isText() ? equalsIgnoringCase(name.text(), word) : equalsIgnoringCase(name.toText(), word);
+}
+
 /// The part of a term that has not been walked: what remains of the term, in front of it what remains of the
 /// value put in last, and so on.
 class Rest
@@ -143,7 +149,7 @@ private:
     std::size_t indexOf(StringView word) const
     {
         for (std::size_t name = 0; name < variables_.size(); name += 2) {
-            if (equalsIgnoringCase(variables_[name].toText(), word)) {
+            if (isNamed(variables_[name], word)) {
                 return name;
             }
         }

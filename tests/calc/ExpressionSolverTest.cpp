@@ -96,6 +96,12 @@ TEST(ExpressionSolver, VariableValueMayBeATextOrAWholeNumber)
     EXPECT_EQ(solved(solver, u"A+B", {u"A", u"2", u"B", std::int32_t{40}}), 42);
 }
 
+TEST(ExpressionSolver, VariableNameMayBeAWholeNumber)
+{
+    ExpressionSolver solver;
+    EXPECT_EQ(solved(solver, u"7*x", {std::int32_t{7}, 2.0, u"x", 3.0}), 6);
+}
+
 TEST(ExpressionSolver, VariableThatIsNoNumberRaises)
 {
     ExpressionSolver solver;
