@@ -25,7 +25,7 @@ struct HiddenFont {
 // after the substitutes.
 constexpr HiddenFont HiddenFonts[] = {
     {"Tahoma", "tahoma.ttf"},
-    {"Symbol", "symbol.ttf"},
+    // No Symbol: the one that lies there files its signs under the numbers of others.
     {"Marlett", "marlett.ttf"},
     {"Wingdings", "wingding.ttf"},
 };
@@ -43,7 +43,18 @@ constexpr Substitute Substitutes[] = {
     {"Verdana", {"DejaVu Sans", "Liberation Sans", "Arial"}},
     {"Calibri", {"Carlito", "Liberation Sans", "Arial"}},
     {"Times New Roman", {"Liberation Serif", "Times", "DejaVu Serif"}},
+    {"Symbol", {"Liberation Serif", "Times", "DejaVu Serif"}},
     {"Courier New", {"Liberation Mono", "Courier", "DejaVu Sans Mono"}},
+};
+
+struct DesignedLines {
+    StringView name;
+    LineMetrics lines;
+};
+
+constexpr DesignedLines LinesOfFonts[] = {
+    {u"Tahoma", {1.000, 0.207}},    {u"Verdana", {1.005, 0.210}}, {u"Symbol", {1.005, 0.220}},
+    {u"Wingdings", {0.898, 0.211}}, {u"Marlett", {1.000, 0.000}},
 };
 
 constexpr const char* GeneralFamily = "DejaVu Sans Condensed";
@@ -66,6 +77,16 @@ QString hiddenFile(const QString& family)
 }
 
 } // namespace
+
+std::optional<LineMetrics> designedLines(StringView name)
+{
+    for (const DesignedLines& font : LinesOfFonts) {
+        if (equalsIgnoringCase(font.name, name)) {
+            return font.lines;
+        }
+    }
+    return std::nullopt;
+}
 
 bool FontCatalogue::isInstalled(const QString& family)
 {

@@ -5,12 +5,24 @@
 #include <QFont>
 #include <QStringList>
 
+#include <optional>
+
 namespace phial::qt
 {
 
+/// Where the lines of a font end, above and below the base line, in parts of its size.
+struct LineMetrics {
+    double ascent;
+    double descent;
+};
+
+/// The lines for which layouts in a font of that name are made: with them texts and signs stand at their
+/// places whatever font is taken instead. None for a font whose substitutes have the same.
+std::optional<LineMetrics> designedLines(StringView name);
+
 /// The table from the names by which the system asks for fonts to families that are installed.
 ///
-/// Fonts of the names Tahoma, Symbol, Marlett and Wingdings that the computer holds as files but does not
+/// Fonts of the names Tahoma, Marlett and Wingdings that the computer holds as files but does not
 /// offer to programs are registered for this one when they are first asked for. Needs a graphical application
 /// object.
 class FontCatalogue

@@ -73,8 +73,8 @@ QtFontFace::QtFontFace(const FontSpec& traits)
     readMetrics();
 }
 
-// The font's own figures for line heights, which do not depend on how a rasteriser rounds them, in whole
-// pixels so that lines of text stay crisp.
+// The figures for line heights that layouts expect or the font's own, which do not depend on how a rasteriser
+// rounds them, in whole pixels so that lines of text stay crisp.
 void QtFontFace::readMetrics()
 {
     constexpr qsizetype AscentPlace = 4;
@@ -82,7 +82,10 @@ void QtFontFace::readMetrics()
     const QRawFont& font = fonts_.front();
     const QByteArray table = font.fontTable("hhea");
     const double unit = font.unitsPerEm() > 0 ? traits_.pixelSize() / font.unitsPerEm() : 0;
-    if (table.size() >= DescentPlace + 2 && unit > 0) {
+    if (const auto lines = designedLines(traits_.name)) {
+        ascent_ = std::round(lines->ascent * traits_.pixelSize());
+        descent_ = std::round(lines->descent * traits_.pixelSize());
+    } else if (table.size() >= DescentPlace + 2 && unit > 0) {
         ascent_ = std::round(readSigned(table, AscentPlace) * unit);
         descent_ = std::round(-readSigned(table, DescentPlace) * unit);
     } else {
