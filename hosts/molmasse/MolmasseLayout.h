@@ -30,7 +30,9 @@ inline constexpr LayoutItem Frame[] = {
 inline constexpr LayoutItem Contents[] = {
     design<phial::ctl_Label>(u"lab_Title", {32, 0, 480, 72}, u"Molmassen-Trainer|Molar mass trainer")
         .inside(u"bar_Header"),
-    design<phial::ctl_Label>(u"lab_Points", {Width - 332, 0, 300, 72}).inside(u"bar_Header"),
+    design<phial::ctl_Label>(u"lab_Points", {Width - 432, 0, 300, 72}).inside(u"bar_Header"),
+    design<phial::ctl_Button>(u"but_Language", {Width - 116, 16, 84, 40}, u"English|Deutsch")
+        .inside(u"bar_Header"),
 
     design<phial::ctl_Label>(u"lab_Question", {60, 60, 780, 44},
                              u"Was wiegt ein Mol davon?|What does a mole of it weigh?")

@@ -201,6 +201,7 @@ void frm_Molmasse::style()
     for (const auto* button : {u"but_Hint", u"but_Stop"}) {
         setFont(button, 12);
     }
+    setFont(u"but_Language", 10);
     levels_.each([this](phial::ctl_Button&, std::int32_t index) { setFont(u"but_Level", 16, true, index); });
     pad_.each([this](phial::ctl_Button&, std::int32_t index) { setFont(u"but_Key", 18, false, index); });
     for (const auto* button : {u"but_Check", u"but_Again", u"but_Leave"}) {
@@ -216,6 +217,11 @@ void frm_Molmasse::connect()
     press(u"but_Check", [this] { verdict_ && round_->decided() ? goOn() : check(); });
     press(u"but_Hint", [this] { giveHint(); });
     press(u"but_Again", [this] { show(Page::Start); });
+    press(u"but_Language", [] {
+        const bool german = LNG()->EFFECTIVE() == phial::ID_Language_German;
+        LNG()->CURRENT(german ? phial::ID_Language_English : phial::ID_Language_German);
+    });
+    connections_ += form_->TRANSLATE.connect([this] { TRANSLATE(); });
     for (const auto* button : {u"but_Stop", u"but_Quit", u"but_Leave"}) {
         press(button, [this] { form_->Unload(); });
     }
@@ -250,6 +256,31 @@ void frm_Molmasse::TRANSLATE()
         ->frame()
         .AccessibleName(translate(u"Letztes Zeichen löschen", u"Delete last character"));
     caption(u"lab_Missing", missingText());
+    if (round_) {
+        showRoundTexts();
+    }
+}
+
+/// The texts that depend on the state of the round.
+void frm_Molmasse::showRoundTexts()
+{
+    const Task& task = round_->task();
+    caption(u"lab_Name", translate(task.germanName, task.englishName));
+    caption(u"lab_Feedback", {});
+    if (verdict_) {
+        showVerdict(*verdict_);
+    }
+    showCheckCaption();
+    showProgress();
+    showSummaryTexts();
+}
+
+void frm_Molmasse::showCheckCaption()
+{
+    get<phial::ctl_Button>(u"but_Check")
+        ->Caption(!round_->decided()   ? translate(u"Prüfen", u"Check")
+                  : round_->finished() ? translate(u"Ergebnis", u"Result")
+                                       : translate(u"Weiter", u"Next"));
 }
 
 void frm_Molmasse::caption(StringView label, String text) const
@@ -290,6 +321,7 @@ void frm_Molmasse::show(Page page)
     phial::ControlPtr first;
     switch (page) {
     case Page::Start:
+        round_.reset();
         caption(u"lab_Points", {});
         first = levels_(0);
         break;
@@ -321,19 +353,15 @@ void frm_Molmasse::startRound(std::size_t level)
 
 void frm_Molmasse::showTask()
 {
-    const Task& task = round_->task();
     verdict_.reset();
     hintShown_ = false;
-    get<phial::ctl_TermLabel>(u"trm_Formula")->Term(task.formula);
-    caption(u"lab_Name", translate(task.germanName, task.englishName));
-    caption(u"lab_Feedback", {});
+    get<phial::ctl_TermLabel>(u"trm_Formula")->Term(round_->task().formula);
     caption(u"lab_Hint", {});
-    get<phial::ctl_Button>(u"but_Check")->Caption(translate(u"Prüfen", u"Check"));
     get<phial::ctl_Button>(u"but_Hint")->Enabled(true);
     const auto answer = get<phial::TextBox>(u"txt_Answer");
     answer->Text({});
     answer->Locked(false);
-    showProgress();
+    showRoundTexts();
 }
 
 void frm_Molmasse::showProgress()
@@ -353,13 +381,13 @@ void frm_Molmasse::check()
     const auto answer = get<phial::TextBox>(u"txt_Answer");
     const Verdict verdict = round_->check(answer->Text());
     verdict_ = verdict;
-    showVerdict(verdict);
-    showProgress();
+    showRoundTexts();
     answer->Locked(round_->decided());
     if (round_->decided()) {
-        get<phial::ctl_Button>(u"but_Check")
-            ->Caption(round_->finished() ? translate(u"Ergebnis", u"Result") : translate(u"Weiter", u"Next"));
         get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
+        if (verdict == Verdict::Missed) {
+            giveHint();
+        }
     } else {
         selectAnswer();
     }
@@ -396,7 +424,6 @@ void frm_Molmasse::showVerdict(Verdict verdict)
         feedback->ForeColor(Bad);
         feedback->Caption(
             translate(u"Schade. Richtig wären {1} g/mol.", u"A pity. {1} g/mol would be right.", {solution}));
-        giveHint();
         break;
     case Verdict::NoNumber:
         feedback->ForeColor(Bad);
@@ -451,7 +478,7 @@ void frm_Molmasse::pressPad(std::int32_t index)
     answer->SetFocus();
 }
 
-void frm_Molmasse::showSummary()
+void frm_Molmasse::showSummaryTexts()
 {
     const double share = static_cast<double>(round_->points()) / round_->maximum();
     caption(u"lab_Praise", share >= 0.9 ? translate(u"Ausgezeichnet!", u"Excellent!")
@@ -462,6 +489,12 @@ void frm_Molmasse::showSummary()
                                      {number(round_->points()), number(round_->maximum())}));
     caption(u"lab_Solved", translate(u"{1} von {2} Formeln gelöst", u"{1} of {2} formulas solved",
                                      {number(round_->solved()), number(round_->count())}));
+}
+
+void frm_Molmasse::showSummary()
+{
+    showSummaryTexts();
+    const double share = static_cast<double>(round_->points()) / round_->maximum();
     const auto bar = get<phial::ctl_Pannel>(u"pan_ResultDone");
     bar->Width(get<phial::ctl_Pannel>(u"pan_ResultBack")->Width() * share);
     bar->Visible(round_->points() > 0);

@@ -45,6 +45,8 @@ private:
     void show(Page page);
     void startRound(std::size_t level);
     void showTask();
+    void showRoundTexts();
+    void showCheckCaption();
     void showProgress();
     void check();
     void selectAnswer();
@@ -53,6 +55,7 @@ private:
     void giveHint();
     void pressPad(std::int32_t index);
     void showSummary();
+    void showSummaryTexts();
     void keyDown(phial::KeyEvent& event);
 
     phial::String missingText() const;

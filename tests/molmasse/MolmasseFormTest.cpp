@@ -251,6 +251,30 @@ TEST_F(TrainerTest, SpeaksEnglishWithTheDecimalSignOfTheUser)
     EXPECT_EQ(buttonText(u"but_Check"), u"Next");
 }
 
+TEST_F(TrainerTest, TheLanguageButtonTranslatesEverythingThatIsSeen)
+{
+    openInstalled();
+    type(u"{enter}");
+    touchPad(u"1");
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Progress"), u"Aufgabe 1 von 2");
+
+    touch(u"but_Language");
+    EXPECT_EQ(form().Caption(), u"Molar mass trainer");
+    EXPECT_EQ(seen(u"lab_Title"), u"Molar mass trainer");
+    EXPECT_EQ(seen(u"lab_Progress"), u"Task 1 of 2");
+    EXPECT_EQ(seen(u"lab_Points"), u"0 points");
+    EXPECT_EQ(seen(u"lab_Name"), u"water");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Not quite. You have 2 tries left.");
+    EXPECT_EQ(buttonText(u"but_Check"), u"Check");
+    EXPECT_EQ(buttonText(u"but_Language"), u"Deutsch");
+    EXPECT_EQ(answer(), u"1");
+
+    touch(u"but_Language");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Leider nicht. Du hast noch 2 Versuche.");
+    EXPECT_EQ(buttonText(u"but_Language"), u"English");
+}
+
 TEST_F(TrainerTest, TellsThatTheInstallationIsMissing)
 {
     // The search is made twice, and each one tells that it found nothing.
