@@ -7,6 +7,7 @@
 #include "core/RandomSource.h"
 #include "core/SessionState.h"
 #include "molmasse/MolmasseLayout.h"
+#include "molmasse/MolmasseStyle.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,7 +16,6 @@ namespace molmasse
 {
 
 using phial::LNG;
-using phial::RGB;
 using phial::String;
 using phial::StringView;
 using phial::Variant;
@@ -23,19 +23,7 @@ using phial::Variant;
 namespace
 {
 
-constexpr phial::Colour Blue = RGB(0, 106, 181);
-constexpr phial::Colour DarkBlue = RGB(0, 64, 118);
-constexpr phial::Colour Paper = RGB(246, 249, 252);
-constexpr phial::Colour White = RGB(255, 255, 255);
-constexpr phial::Colour Line = RGB(196, 212, 226);
-constexpr phial::Colour Ink = RGB(28, 40, 54);
-constexpr phial::Colour Quiet = RGB(84, 100, 118);
-constexpr phial::Colour Good = RGB(0, 112, 60);
-constexpr phial::Colour Bad = RGB(176, 32, 32);
-
-constexpr std::int32_t MiddleLeft = 0;
-constexpr std::int32_t MiddleCentre = 1;
-constexpr std::int32_t MiddleRight = 2;
+constexpr std::int32_t LongestAnswer = 12; // characters
 
 String number(int value)
 {
@@ -81,7 +69,6 @@ void frm_Molmasse::build()
     form_->innerSize({layout::Width, layout::Height});
     form_->centred(true);
     form_->KeyPreview(true);
-    form_->BackColor(Paper);
     phial::applyLayout(*form_, layout::Frame);
     for (const auto& item : layout::Frame) {
         form_->control<phial::Control>(item.name)->container()->ScaleMode(phial::ScaleUnit::Pixels);
@@ -95,7 +82,8 @@ void frm_Molmasse::build()
     }
     buildLevels();
     buildPad();
-    style();
+    style::apply(*form_);
+    get<phial::TextBox>(u"txt_Answer")->MaxLength(LongestAnswer);
     connect();
 }
 
@@ -128,84 +116,6 @@ void frm_Molmasse::buildPad()
         // The answer keeps the focus, and with it its selection, while the pad is touched.
         key->frame().canFocus(false);
         key->Visible(true);
-    }
-}
-
-void frm_Molmasse::setFont(StringView control, double size, bool bold, std::int32_t index)
-{
-    const auto object = form_->find(control, index);
-    phial::setMember(*object, u"Font",
-                     phial::ObjectPtr(std::make_shared<phial::Font>(
-                         phial::FontSpec{.name = u"Tahoma", .size = size, .bold = bold})));
-}
-
-void frm_Molmasse::style()
-{
-    const auto header = get<phial::ctl_Gradient>(u"bar_Header");
-    header->Color1(Blue);
-    header->Color2(DarkBlue);
-    header->Angle(0);
-    for (const auto* page : {u"pan_Start", u"pan_Task", u"pan_Summary", u"pan_Missing"}) {
-        get<phial::ctl_Pannel>(page)->BackColor(Paper);
-        get<phial::ctl_Pannel>(page)->BorderColor(Paper);
-    }
-    for (const auto* bar : {u"pan_ProgressBack", u"pan_ResultBack"}) {
-        get<phial::ctl_Pannel>(bar)->BackColor(Line);
-        get<phial::ctl_Pannel>(bar)->BorderColor(Line);
-    }
-    for (const auto* bar : {u"pan_ProgressDone", u"pan_ResultDone"}) {
-        get<phial::ctl_Pannel>(bar)->BackColor(Blue);
-        get<phial::ctl_Pannel>(bar)->BorderColor(Blue);
-    }
-    get<phial::ctl_Pannel>(u"pan_Formula")->BackColor(White);
-    get<phial::ctl_Pannel>(u"pan_Formula")->BorderColor(Line);
-
-    struct LabelStyle {
-        StringView name;
-        double size;
-        bool bold;
-        std::int32_t align;
-        phial::Colour colour;
-    };
-    for (const LabelStyle& row :
-         std::initializer_list<LabelStyle>{{u"lab_Title", 18, true, MiddleLeft, White},
-                                           {u"lab_Points", 14, false, MiddleRight, White},
-                                           {u"lab_Question", 22, true, MiddleLeft, Ink},
-                                           {u"lab_Intro", 13, false, 4, Ink},
-                                           {u"lab_Tolerance", 11, false, 4, Quiet},
-                                           {u"lab_Progress", 12, false, MiddleLeft, Quiet},
-                                           {u"lab_Name", 13, false, MiddleCentre, Quiet},
-                                           {u"lab_Unit", 18, false, MiddleLeft, Ink},
-                                           {u"lab_Feedback", 14, true, MiddleLeft, Ink},
-                                           {u"lab_Hint", 12, false, 4, Ink},
-                                           {u"lab_Praise", 24, true, MiddleCentre, Ink},
-                                           {u"lab_Result", 18, false, MiddleCentre, Ink},
-                                           {u"lab_Solved", 13, false, MiddleCentre, Quiet},
-                                           {u"lab_MissingTitle", 22, true, MiddleLeft, Ink},
-                                           {u"lab_Missing", 13, false, 4, Ink}}) {
-        const auto label = get<phial::ctl_Label>(row.name);
-        label->ForeColor(row.colour);
-        label->Alignment(row.align);
-        setFont(row.name, row.size, row.bold);
-    }
-    const auto term = get<phial::ctl_TermLabel>(u"trm_Formula");
-    term->TEXTALIGN(phial::TEXTALIGN::MiddleCentre);
-    term->TEXTFONT()->assign({.name = u"Tahoma", .size = 38});
-    term->TEXTCOLOR(Ink);
-    setFont(u"txt_Answer", 24);
-    get<phial::TextBox>(u"txt_Answer")->MaxLength(12);
-    get<phial::TextBox>(u"txt_Answer")->Alignment(phial::Alignment::Right);
-    for (const auto* button : {u"but_Check", u"but_Again", u"but_Quit", u"but_Leave"}) {
-        setFont(button, 15, true);
-    }
-    for (const auto* button : {u"but_Hint", u"but_Stop"}) {
-        setFont(button, 12);
-    }
-    setFont(u"but_Language", 10);
-    levels_.each([this](phial::ctl_Button&, std::int32_t index) { setFont(u"but_Level", 16, true, index); });
-    pad_.each([this](phial::ctl_Button&, std::int32_t index) { setFont(u"but_Key", 18, false, index); });
-    for (const auto* button : {u"but_Check", u"but_Again", u"but_Leave"}) {
-        get<phial::ctl_Button>(button)->Accent(true);
     }
 }
 
@@ -407,13 +317,13 @@ void frm_Molmasse::showVerdict(Verdict verdict)
     const Variant solution = massText(round_->solution());
     switch (verdict) {
     case Verdict::Right:
-        feedback->ForeColor(Good);
+        feedback->ForeColor(style::Good);
         feedback->Caption(translate(u"Richtig! {1} g/mol, {2} Punkte für dich.",
                                     u"Right! {1} g/mol, {2} points for you.",
                                     {solution, number(round_->lastPoints())}));
         break;
     case Verdict::Wrong:
-        feedback->ForeColor(Bad);
+        feedback->ForeColor(style::Bad);
         feedback->Caption(round_->triesLeft() == 1 ? translate(u"Leider nicht. Du hast noch einen Versuch.",
                                                                u"Not quite. You have one try left.")
                                                    : translate(u"Leider nicht. Du hast noch {1} Versuche.",
@@ -421,12 +331,12 @@ void frm_Molmasse::showVerdict(Verdict verdict)
                                                                {number(round_->triesLeft())}));
         break;
     case Verdict::Missed:
-        feedback->ForeColor(Bad);
+        feedback->ForeColor(style::Bad);
         feedback->Caption(
             translate(u"Schade. Richtig wären {1} g/mol.", u"A pity. {1} g/mol would be right.", {solution}));
         break;
     case Verdict::NoNumber:
-        feedback->ForeColor(Bad);
+        feedback->ForeColor(style::Bad);
         feedback->Caption(translate(u"Bitte gib eine Zahl ein, zum Beispiel 18,0.",
                                     u"Please type a number, for example 18.0."));
         break;

@@ -37,7 +37,6 @@ private:
     enum class Page { Start, Task, Summary, Missing };
 
     void build();
-    void style();
     void buildLevels();
     void buildPad();
     void connect();
@@ -59,7 +58,6 @@ private:
     void keyDown(phial::KeyEvent& event);
 
     phial::String missingText() const;
-    void setFont(phial::StringView control, double size, bool bold = false, std::int32_t index = -1);
     template <typename Class>
     std::shared_ptr<Class> get(phial::StringView name) const
     {
