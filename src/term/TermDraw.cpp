@@ -4,6 +4,7 @@
 #include "core/Colour.h"
 #include "core/NumberText.h"
 #include "term/TermBrackets.h"
+#include "term/TermSigns.h"
 #include "visual/DrawDevice.h"
 
 #include <algorithm>
@@ -15,17 +16,7 @@ namespace phial
 namespace
 {
 
-constexpr int Red = 12;                   // of the classic table of colours
-constexpr double IndexSize = 0.9;         // of the base font size
-constexpr double IndexShift = 0.3;        // of the line height, down or up
 constexpr std::size_t LongestNumber = 32; // no number in canonical form has more characters
-
-enum class Mode : std::int8_t { Superscript = -1, Normal = 0, Subscript = 1 };
-
-bool isIndexSign(char16_t unit)
-{
-    return StringView(u"0123456789,.").find(unit) != StringView::npos;
-}
 
 /// Whether turning the text into a number and back gives the same text.
 bool isCanonicalNumber(StringView text)
@@ -36,38 +27,21 @@ bool isCanonicalNumber(StringView text)
 
 /// What is set back when a term or the numerator or denominator of a fraction has been drawn.
 struct SavedState {
-    String fontName;
-    double fontSize;
     Colour foreColor;
     bool fontBold;
     double currentY;
 };
 
-/// One walk through a term or a part of it.
-struct Walk {
-    bool drawing = false; // the first walk measures, the second draws
-    std::size_t position = 0;
-    double base = 0; // top of the line, a whole number
-    Mode mode = Mode::Normal;
-    bool forced = false;
-    bool plain = true;
-    double anchor = 0; // X behind the last character in normal mode
-    bool stroke = false;
-    double strokeX = -1;
-    double strokeY = -1;
-};
-
 /// A term, numerator or denominator being drawn. Fractions nest as entries of a list, not as calls, so that
 /// no term exhausts the stack.
 struct Frame {
-    TermRange part;
+    TermLine line;
     double x = 0;
     double y = 0;
     TEXTALIGN align = TEXTALIGN::TopLeft;
     SavedState saved;
-    double lineHeight = 0;
     double width = 0;
-    Walk walk;
+    TermWalk walk;
     // The fraction that this part waits for.
     TermFraction fraction;
     double fractionX = 0;
@@ -79,7 +53,7 @@ class TermPainter
 {
 public:
     TermPainter(DrawDevice& device, StringView term, std::int32_t caret)
-        : device_(device), term_(term), brackets_(term), caret_(caret)
+        : device_(device), term_(term), brackets_(term), signs_(device, term), caret_(caret)
     {
     }
 
@@ -88,7 +62,7 @@ public:
         open({0, term_.size()}, x, y, align);
         while (!frames_.empty()) {
             Frame& frame = frames_.back();
-            if (frame.walk.position < frame.part.end) {
+            if (frame.walk.position < frame.line.part.end) {
                 step(frame);
             } else if (!frame.walk.drawing) {
                 frame.width = device_.CurrentX() - frame.x;
@@ -108,10 +82,8 @@ private:
     void open(TermRange part, double x, double y, TEXTALIGN align)
     {
         Frame frame;
-        frame.part = part;
-        frame.saved = {device_.FontName(), device_.FontSize(), device_.ForeColor(), device_.FontBold(),
-                       device_.CurrentY()};
-        frame.lineHeight = device_.TextHeight(u"A");
+        frame.line = {part, device_.FontName(), device_.FontSize(), device_.TextHeight(u"A")};
+        frame.saved = {device_.ForeColor(), device_.FontBold(), device_.CurrentY()};
         frame.x = x;
         frame.y = y;
         frame.align = align;
@@ -122,13 +94,13 @@ private:
     /// Starts the measuring or the drawing walk of a part.
     void begin(Frame& frame, bool drawing)
     {
-        device_.FontName(frame.saved.fontName);
+        device_.FontName(frame.line.fontName);
         device_.ForeColor(frame.saved.foreColor);
-        device_.FontBold(frame.saved.fontBold || startsWithCoefficient(frame.part));
+        device_.FontBold(frame.saved.fontBold || startsWithCoefficient(frame.line.part));
         const double startX = drawing ? alignedX(frame) : frame.x;
-        frame.walk = Walk();
+        frame.walk = TermWalk();
         frame.walk.drawing = drawing;
-        frame.walk.position = frame.part.begin;
+        frame.walk.position = frame.line.part.begin;
         frame.walk.base = toWhole(drawing ? alignedY(frame) : frame.y);
         frame.walk.anchor = startX;
         device_.CurrentX(startX);
@@ -166,11 +138,11 @@ private:
         case TEXTALIGN::MiddleLeft:
         case TEXTALIGN::MiddleCentre:
         case TEXTALIGN::MiddleRight:
-            return frame.y - frame.lineHeight / 2;
+            return frame.y - frame.line.height / 2;
         case TEXTALIGN::BottomLeft:
         case TEXTALIGN::BottomCentre:
         case TEXTALIGN::BottomRight:
-            return frame.y - frame.lineHeight;
+            return frame.y - frame.line.height;
         default:
             return frame.y;
         }
@@ -186,7 +158,7 @@ private:
             device_.Line(frame.walk.strokeX, frame.walk.strokeY, endX, device_.CurrentY());
             device_.CurrentX(endX);
         }
-        device_.FontSize(frame.saved.fontSize);
+        device_.FontSize(frame.line.fontSize);
         device_.ForeColor(frame.saved.foreColor);
         device_.FontBold(frame.saved.fontBold);
         device_.CurrentY(frame.saved.currentY);
@@ -202,202 +174,18 @@ private:
     /// Draws one character or sign; what it covers is left behind.
     void step(Frame& frame)
     {
-        Walk& walk = frame.walk;
-        const char16_t c = term_[walk.position];
-        device_.FontSize(frame.saved.fontSize);
+        TermWalk& walk = frame.walk;
+        device_.FontSize(frame.line.fontSize);
         device_.CurrentY(walk.base);
-        if (c == u'(') {
-            const TermFraction fraction = brackets_.fractionAt(walk.position, frame.part.end);
+        if (term_[walk.position] == u'(') {
+            const TermFraction fraction = brackets_.fractionAt(walk.position, frame.line.part.end);
             if (fraction.found) {
                 startFraction(frame, fraction);
                 return;
             }
         }
-        walk.position += drawSign(frame, c);
+        walk.position += signs_.write(walk, frame.line);
         placeCaret(frame);
-    }
-
-    /// Applies the first rule that fits; gives the number of characters used.
-    std::size_t drawSign(Frame& frame, char16_t c)
-    {
-        Walk& walk = frame.walk;
-        const char16_t next = neighbour(frame, 1);
-        switch (c) {
-        case u'§':
-            device_.ForeColor(QBColor(Red));
-            return 1;
-        case u' ':
-            walk.mode = Mode::Normal;
-            return printPlain(walk, c);
-        case u'^':
-            return jumpToAnchor(walk, Mode::Superscript);
-        case u'µ':
-            return jumpToAnchor(walk, Mode::Subscript);
-        case u'#':
-            walk.mode = Mode::Normal;
-            walk.anchor = device_.CurrentX();
-            return 1;
-        case u'|':
-            return next == End ? printPlain(walk, c) : startStroke(walk);
-        case u'~':
-            return next == u'~' ? drawApproximately(frame) : drawIndexed(frame, c);
-        case u'*':
-            return drawMiddleDot(frame);
-        case u',':
-        case u'(':
-        case u'/':
-            return printPlain(walk, c);
-        case u'+':
-            return walk.mode != Mode::Superscript && next != End && next != u')' ? printPlain(walk, c)
-                                                                                 : drawIndexed(frame, c);
-        case u')':
-            walk.plain = false;
-            put(walk, c);
-            return 1;
-        case u'=':
-            return next == u'^' ? drawCorrespondence(frame) : drawIndexed(frame, c);
-        case u'-':
-            return next == u'>' ? drawArrow(frame, u'\u00E0') : drawIndexed(frame, c);
-        case u'<':
-            return next == u'-' ? drawArrow(frame, u'\u00DF') : drawIndexed(frame, c);
-        default:
-            return drawIndexed(frame, c);
-        }
-    }
-
-    /// The character `offset` places on within the part; End outside of it.
-    char16_t neighbour(const Frame& frame, std::ptrdiff_t offset) const
-    {
-        const auto place = static_cast<std::ptrdiff_t>(frame.walk.position) + offset;
-        const bool inside = place >= static_cast<std::ptrdiff_t>(frame.part.begin) &&
-                            place < static_cast<std::ptrdiff_t>(frame.part.end);
-        return inside ? term_[static_cast<std::size_t>(place)] : End;
-    }
-
-    void put(const Walk& walk, char16_t c)
-    {
-        const StringView text(&c, 1);
-        if (walk.drawing) {
-            device_.Print(text);
-        } else {
-            device_.CurrentX(device_.CurrentX() + device_.TextWidth(text));
-        }
-    }
-
-    std::size_t printPlain(Walk& walk, char16_t c)
-    {
-        walk.plain = true;
-        put(walk, c);
-        return 1;
-    }
-
-    std::size_t jumpToAnchor(Walk& walk, Mode mode)
-    {
-        device_.CurrentX(walk.anchor);
-        walk.mode = mode;
-        walk.forced = true;
-        return 1;
-    }
-
-    std::size_t startStroke(Walk& walk)
-    {
-        walk.stroke = true;
-        walk.strokeX = device_.CurrentX();
-        walk.strokeY = device_.CurrentY() + device_.TextHeight(u"|");
-        return 1;
-    }
-
-    void moveX(double distance) { device_.CurrentX(device_.CurrentX() + distance); }
-
-    std::size_t drawApproximately(Frame& frame)
-    {
-        device_.FontName(u"Symbol");
-        device_.CurrentY(frame.walk.base + frame.lineHeight / 2 - 0.6 * device_.TextHeight(u"i"));
-        printPlain(frame.walk, u'\u00BB');
-        moveX(-2);
-        device_.FontName(frame.saved.fontName);
-        return 2;
-    }
-
-    std::size_t drawMiddleDot(Frame& frame)
-    {
-        device_.FontName(u"Marlett");
-        device_.FontSize(0.6 * frame.saved.fontSize);
-        moveX(-2);
-        device_.CurrentY(frame.walk.base + frame.lineHeight / 2 - device_.TextHeight(u"i") / 2);
-        printPlain(frame.walk, u'i');
-        device_.FontSize(frame.saved.fontSize);
-        moveX(-2);
-        device_.FontName(frame.saved.fontName);
-        return 1;
-    }
-
-    std::size_t drawArrow(Frame& frame, char16_t arrow)
-    {
-        device_.FontName(u"Wingdings");
-        moveX(10);
-        device_.CurrentY(frame.walk.base + 0.1 * frame.lineHeight);
-        device_.FontSize(0.8 * frame.saved.fontSize);
-        printPlain(frame.walk, arrow);
-        device_.FontSize(frame.saved.fontSize);
-        moveX(10);
-        device_.FontName(frame.saved.fontName);
-        return 2;
-    }
-
-    std::size_t drawCorrespondence(Frame& frame)
-    {
-        const double startX = device_.CurrentX();
-        printPlain(frame.walk, u'=');
-        device_.CurrentY(device_.CurrentY() + frame.lineHeight / 10);
-        device_.FontSize(0.5 * frame.saved.fontSize);
-        device_.CurrentX((device_.CurrentX() + startX) / 2 - device_.TextWidth(u"^") / 2);
-        put(frame.walk, u'^');
-        device_.FontSize(frame.saved.fontSize);
-        device_.CurrentY(device_.CurrentY() - frame.lineHeight / 10);
-        device_.CurrentX(startX + device_.TextWidth(u"="));
-        return 2;
-    }
-
-    /// A sign is a charge when nothing of the formula follows it, and never behind a blank.
-    bool isCharge(const Frame& frame) const
-    {
-        const char16_t next = neighbour(frame, 1);
-        const bool formulaFollows =
-            next != End && next != u' ' && next != u'|' && next != u')' && !isIndexSign(next);
-        return !formulaFollows && neighbour(frame, -1) != u' ';
-    }
-
-    std::size_t drawIndexed(Frame& frame, char16_t c)
-    {
-        Walk& walk = frame.walk;
-        bool isIndex = isIndexSign(c);
-        if (!isIndex) {
-            walk.plain = false;
-        }
-        if (walk.plain) {
-            isIndex = false;
-        }
-        if ((c == u'+' || c == u'-') && isCharge(frame)) {
-            walk.mode = Mode::Superscript;
-            isIndex = true;
-        }
-        if (walk.forced) {
-            walk.forced = false;
-        } else if (walk.mode == Mode::Normal && isIndex) {
-            walk.mode = Mode::Subscript;
-        } else if (walk.mode != Mode::Normal && !isIndex) {
-            walk.mode = Mode::Normal;
-        }
-        if (walk.mode != Mode::Normal) {
-            device_.FontSize(IndexSize * frame.saved.fontSize);
-            device_.CurrentY(walk.base + static_cast<int>(walk.mode) * IndexShift * frame.lineHeight);
-        }
-        put(walk, c);
-        if (walk.mode == Mode::Normal) {
-            walk.anchor = device_.CurrentX();
-        }
-        return 1;
     }
 
     /// A fraction is passed over while measuring, where it has no width.
@@ -410,7 +198,7 @@ private:
         frame.fraction = fraction;
         frame.fractionX = device_.CurrentX();
         frame.numeratorDone = false;
-        openPart(fraction.numerator, frame.fractionX, frame.walk.base - frame.lineHeight / 2);
+        openPart(fraction.numerator, frame.fractionX, frame.walk.base - frame.line.height / 2);
     }
 
     void openPart(TermRange part, double x, double y)
@@ -420,7 +208,7 @@ private:
 
     void continueFraction(Frame& frame, std::int32_t partWidth)
     {
-        const double middle = frame.walk.base + frame.lineHeight / 2;
+        const double middle = frame.walk.base + frame.line.height / 2;
         if (!frame.numeratorDone) {
             frame.numeratorDone = true;
             frame.numeratorWidth = partWidth;
@@ -456,11 +244,10 @@ private:
         nextIndex = caret_ + 1;
     }
 
-    static constexpr char16_t End = u'\uFFFF'; // no neighbour: no character has this code
-
     DrawDevice& device_;
     StringView term_;
     TermBrackets brackets_;
+    TermSigns signs_;
     std::int32_t caret_;
     std::int32_t width_ = 0;
     std::vector<Frame> frames_;
