@@ -1,0 +1,21 @@
+#pragma once
+
+#include "gallery/Exhibit.h"
+
+#include <vector>
+
+namespace gallery
+{
+
+// The exhibits of the sections; each builds upon models alone.
+std::vector<Exhibit> shownExhibits();
+std::vector<Exhibit> inputExhibits();
+std::vector<Exhibit> barExhibits();
+std::vector<Exhibit> partExhibits();
+std::vector<Exhibit> windowExhibits();
+std::vector<Exhibit> formulaExhibits();
+
+/// All exhibits, section by section.
+std::vector<Exhibit> catalogue();
+
+} // namespace gallery

@@ -1,0 +1,139 @@
+#include "gallery/PropertyPanel.h"
+
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+#include "gallery/Exhibit.h"
+#include "gallery/GalleryColours.h"
+
+namespace gallery
+{
+
+using phial::String;
+
+namespace
+{
+
+String lineOf(const PropertyRow& row)
+{
+    return row.kind == PropertyRow::Kind::Operation ? row.name + u"( )" : row.name + u" = " + row.value;
+}
+
+} // namespace
+
+PropertyPanel::PropertyPanel(phial::Form& form)
+    : list_(form.control<phial::ListBox>(u"lst_Properties")),
+      value_(form.control<phial::TextBox>(u"txt_Value")),
+      name_(form.control<phial::ctl_Label>(u"lab_Property")),
+      path_(form.control<phial::ctl_Label>(u"lab_Path")),
+      message_(form.control<phial::ctl_Label>(u"lab_Message")),
+      set_(form.control<phial::ctl_Button>(u"but_Set")), back_(form.control<phial::ctl_Button>(u"but_Back"))
+{
+    connections_ += list_->Click.connect([this] { showChosen(); });
+    connections_ += list_->DblClick.connect([this] { act(); });
+    connections_ += set_->CLICK.connect([this] { act(); });
+    connections_ += back_->CLICK.connect([this] { back(); });
+}
+
+void PropertyPanel::edit(phial::ObjectPtr object)
+{
+    editor_.edit(std::move(object));
+    fill();
+}
+
+void PropertyPanel::fill()
+{
+    list_->Clear();
+    for (const PropertyRow& row : editor_.rows()) {
+        list_->AddItem(lineOf(row));
+    }
+    path_->Caption(editor_.object() ? editor_.path() : say(u"Hier gibt es keine.|There are none here."));
+    const bool within = editor_.object() && editor_.path().find(u'\u203A') != String::npos;
+    back_->Visible(within);
+    back_->Enabled(within);
+    message_->Caption({});
+    showChosen();
+}
+
+const PropertyRow* PropertyPanel::chosen() const
+{
+    const std::int32_t line = list_->ListIndex();
+    return line < 0 ? nullptr : &editor_.rows()[static_cast<std::size_t>(line)];
+}
+
+void PropertyPanel::showChosen()
+{
+    const PropertyRow* row = chosen();
+    name_->Caption(row ? row->name : String());
+    shownValue_ = row ? row->value : String();
+    value_->Text(shownValue_);
+    message_->Caption({});
+    showButtons();
+}
+
+void PropertyPanel::showButtons()
+{
+    const PropertyRow* row = chosen();
+    const auto kind = row ? row->kind : PropertyRow::Kind::ReadOnly;
+    value_->Enabled(kind == PropertyRow::Kind::Writable);
+    set_->Enabled(kind != PropertyRow::Kind::ReadOnly);
+    set_->Caption(kind == PropertyRow::Kind::Part        ? say(u"Öffnen|Open")
+                  : kind == PropertyRow::Kind::Operation ? say(u"Ausführen|Run")
+                                                         : say(u"Setzen|Set"));
+}
+
+void PropertyPanel::showMessage(const std::optional<String>& error)
+{
+    message_->ForeColor(error ? colours::Bad : colours::Good);
+    message_->Caption(
+        error ? phial::LNG()->TRANSLATE(u"Das geht nicht: {1}", u"That does not work: {1}", {*error})
+              : say(u"Erledigt.|Done."));
+}
+
+void PropertyPanel::act()
+{
+    const PropertyRow* row = chosen();
+    if (!row || row->kind == PropertyRow::Kind::ReadOnly) {
+        return;
+    }
+    const auto line = static_cast<std::size_t>(list_->ListIndex());
+    if (row->kind == PropertyRow::Kind::Part) {
+        editor_.open(line);
+        fill();
+        return;
+    }
+    const auto error =
+        row->kind == PropertyRow::Kind::Operation ? editor_.run(line) : editor_.set(line, value_->Text());
+    if (!error) {
+        shownValue_ = value_->Text(); // what was typed is now the value, as the property writes it
+    }
+    refresh();
+    showMessage(error);
+}
+
+void PropertyPanel::back()
+{
+    if (editor_.back()) {
+        fill();
+        list_->SetFocus();
+    }
+}
+
+void PropertyPanel::refresh()
+{
+    for (const std::size_t row : editor_.refresh()) {
+        list_->List(static_cast<std::int32_t>(row), lineOf(editor_.rows()[row]));
+    }
+    const PropertyRow* row = chosen();
+    if (row && value_->Text() == shownValue_ && row->value != shownValue_) {
+        shownValue_ = row->value;
+        value_->Text(shownValue_);
+    }
+    showButtons();
+}
+
+void PropertyPanel::TRANSLATE()
+{
+    fill();
+}
+
+} // namespace gallery

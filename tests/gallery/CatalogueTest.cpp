@@ -1,0 +1,124 @@
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+#include "gallery/GalleryLayout.h"
+#include "gallery/GalleryShots.h"
+#include "gallery/GalleryTest.h"
+
+#include <set>
+
+namespace gallery
+{
+namespace
+{
+
+using phial::String;
+using phial::StringView;
+
+/// Lets each box that the exhibits open be answered.
+void answerBoxes(phial::headless::ScriptedDialogs& dialogs, StringView title)
+{
+    using phial::headless::Box;
+    if (title == u"CoreDialogs.YesNo") {
+        dialogs.expectYesNo(phial::DialogAnswer::No);
+    } else if (title == u"CoreDialogs.Input") {
+        dialogs.expectInput(u"Änne");
+    } else if (title == u"CoreDialogs.SaveFile") {
+        dialogs.expectSaveFile(u"C:\\Ergebnisse.txt");
+    } else if (title == u"CoreDialogs.Info") {
+        dialogs.expect(Box::Info);
+    } else if (title == u"CoreDialogs.Error") {
+        dialogs.expect(Box::Error);
+    } else if (title == u"CoreDialogs.Text") {
+        dialogs.expect(Box::Text);
+    } else if (title == u"CoreDialogs.Done") {
+        dialogs.expect(Box::Done);
+    }
+}
+
+TEST_F(GalleryTest, EveryStateOfEveryExhibitIsShownInBothLanguages)
+{
+    open();
+    for (const auto language : {phial::ID_Language_German, phial::ID_Language_English}) {
+        phial::LNG()->CURRENT(language);
+        for (std::size_t at = 0; at < gallery->exhibits().size(); ++at) {
+            const Exhibit& exhibit = gallery->exhibits()[at];
+            SCOPED_TRACE(phial::toUtf8(exhibit.title));
+            for (std::size_t state = 0; state < exhibit.samples.size(); ++state) {
+                if (exhibit.samples[state].waits) {
+                    answerBoxes(outside.dialogs(), exhibit.title);
+                    outside.visual().onModal(u"frm_Sample", [](phial::Form& window) { window.Unload(); });
+                }
+                gallery->show(at, state);
+                EXPECT_EQ(caption(u"lab_Name"), exhibit.title);
+                EXPECT_EQ(get<phial::ListBox>(u"lst_Properties")->ListCount() > 0, exhibit.editable);
+            }
+        }
+    }
+    EXPECT_TRUE(outside.dialogs().isDone());
+}
+
+TEST_F(GalleryTest, NothingStaysOnTheStageOfAnExhibitBefore)
+{
+    open();
+    show(u"Label");
+    const std::size_t own = form().controlCount() - 1;
+    for (std::size_t at = 0; at < gallery->exhibits().size(); ++at) {
+        gallery->show(at);
+        gallery->show(exhibit(u"Label"));
+        EXPECT_EQ(form().controlCount(), own + 1) << phial::toUtf8(gallery->exhibits()[at].title);
+    }
+}
+
+TEST_F(GalleryTest, ShowsEveryControlOfTheSystem)
+{
+    std::set<String> shown;
+    for (const Exhibit& exhibit : catalogue()) {
+        shown.insert(String(exhibit.title));
+    }
+    for (const StringView name :
+         {u"Label",        u"TextBox",    u"RichTextBox",      u"PictureBox",    u"Shape",     u"ScrollBar",
+          u"ListBox",      u"ComboBox",   u"ImageList",        u"Menu",          u"Timer",     u"Form",
+          u"ctl_Button",   u"ctl_CmdBar", u"ctl_UICommandbar", u"ctl_Title",     u"ctl_Frame", u"ctl_Pannel",
+          u"ctl_Gradient", u"ctl_Label",  u"ctl_ReEvent",      u"ctl_TermLabel", u"frm_Fade"}) {
+        const bool scrollBar = name == u"ScrollBar";
+        EXPECT_TRUE(shown.contains(String(name)) || (scrollBar && shown.contains(u"VScrollBar")))
+            << phial::toUtf8(name);
+    }
+}
+
+TEST_F(GalleryTest, EveryTextIsThereInBothLanguages)
+{
+    for (const Exhibit& exhibit : catalogue()) {
+        SCOPED_TRACE(phial::toUtf8(exhibit.title));
+        EXPECT_NE(exhibit.about.find(u'|'), StringView::npos);
+        EXPECT_LE(exhibit.samples.size(), static_cast<std::size_t>(layout::MostStates));
+        EXPECT_FALSE(exhibit.samples.empty());
+        for (const Sample& sample : exhibit.samples) {
+            EXPECT_NE(sample.name.find(u'|'), StringView::npos) << phial::toUtf8(sample.name);
+        }
+    }
+}
+
+TEST_F(GalleryTest, ATourTakesEachStateOnceUnderItsOwnName)
+{
+    std::set<String> names;
+    const auto note = [&](StringView name) {
+        EXPECT_TRUE(names.insert(String(name)).second) << phial::toUtf8(name);
+    };
+
+    showEachState({[&](StringView name, const phial::Form& window) {
+                       EXPECT_TRUE(window.Visible());
+                       note(name);
+                   },
+                   [&](StringView name, const std::function<void()>&) { note(name); }});
+
+    EXPECT_TRUE(names.contains(u"ctl_TermLabel-9-de"));
+    EXPECT_TRUE(names.contains(u"Label-1-en"));
+    EXPECT_FALSE(names.contains(u"Label-2-en"));
+    EXPECT_TRUE(names.contains(u"Form-2-de-window"));
+    EXPECT_TRUE(names.contains(u"CoreDialogs.Error-2-de"));
+    EXPECT_EQ(phial::LNG()->CURRENT(), phial::ID_Language_System);
+}
+
+} // namespace
+} // namespace gallery
