@@ -1,5 +1,7 @@
 #include "molmasse/MolmasseStyle.h"
 
+#include "core/CoreTheme.h"
+#include "core/SessionState.h"
 #include "term/ctl_TermLabel.h"
 #include "visual/Form.h"
 #include "visual/TextBox.h"
@@ -109,6 +111,7 @@ void dressFormula(phial::ctl_TermLabel& term)
 
 void apply(phial::Form& form)
 {
+    phial::coreTheme().SetColour(phial::ThemeSlot::Accent, Blue);
     form.BackColor(Paper);
     dressHeader(*form.control<phial::ctl_Gradient>(u"bar_Header"));
     for (const PanelStyle& style : Panels) {

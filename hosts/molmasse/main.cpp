@@ -20,7 +20,10 @@ int main(int argc, char** argv)
     phial::ignoringErrors([&] { app->INIT(application.commandLine()); });
 
     if (const auto folder = application.shotsFolder()) {
-        phial::qt::takeShots(*folder, molmasse::showEachState);
+        phial::qt::takeShots(*folder, [](phial::qt::ShotBook& book) {
+            molmasse::showEachState(
+                [&book](phial::StringView name, const phial::Form& form) { book.take(name, form); });
+        });
         return 0;
     }
     molmasse::frm_Molmasse window(molmasse::loadTrainerData());

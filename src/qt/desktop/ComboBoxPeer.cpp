@@ -41,13 +41,18 @@ void ComboBoxPeer::show(ControlAspect aspect)
 
 void ComboBoxPeer::showStyle()
 {
-    box_.setFont(fontCatalogue().font(model_->Font()->traits()));
+    const QFont font = fontCatalogue().font(model_->Font()->traits());
+    box_.setFont(font);
+    if (QLineEdit* line = box_.lineEdit()) {
+        line->setFont(font);
+    }
     const bool editable = model_->Style() == ComboStyle::Editable;
     if (editable == box_.isEditable()) {
         return;
     }
     box_.setEditable(editable);
     if (QLineEdit* line = box_.lineEdit()) {
+        line->setFont(font);
         line->setCompleter(nullptr); // what is typed stays as typed
         connect(line, &QLineEdit::textEdited, this,
                 [this](const QString& text) { input([&] { model_->inputText(fromQt(text)); }); });

@@ -5,8 +5,8 @@
 #include "qt/desktop/DesktopDialogs.h"
 #include "qt/desktop/DesktopServices.h"
 #include "qt/desktop/Dispatch.h"
-#include "qt/desktop/PrintedDialogs.h"
 #include "qt/desktop/QtVisualHost.h"
+#include "qt/desktop/ShotDialogs.h"
 
 #include <QApplication>
 
@@ -44,11 +44,10 @@ QStringList argumentsWithoutShots()
     return arguments;
 }
 
-// While pictures are taken nobody is there to close a box.
-std::shared_ptr<CoreDialogs> makeDialogs(bool unattended)
+std::shared_ptr<CoreDialogs> makeDialogs(bool forShots)
 {
-    if (unattended) {
-        return std::make_shared<PrintedDialogs>();
+    if (forShots) {
+        return std::make_shared<ShotDialogs>();
     }
     return std::make_shared<DesktopDialogs>();
 }

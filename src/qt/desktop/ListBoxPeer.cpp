@@ -48,13 +48,26 @@ void ListBoxPeer::show(ControlAspect aspect)
         list_.setFont(fontCatalogue().font(model_->Font()->traits()));
     }
     if (aspect == ControlAspect::Items) {
-        list_.clear();
-        for (std::int32_t line = 0; line < model_->ListCount(); ++line) {
-            list_.addItem(toQt(model_->List(line)));
-        }
+        showItems();
     }
     if (aspect == ControlAspect::Items || aspect == ControlAspect::Selection) {
         list_.setCurrentRow(model_->ListIndex());
+    }
+}
+
+// Lines that stay are left alone, so that the list does not lose its place.
+void ListBoxPeer::showItems()
+{
+    while (list_.count() > model_->ListCount()) {
+        delete list_.takeItem(list_.count() - 1);
+    }
+    for (std::int32_t line = 0; line < model_->ListCount(); ++line) {
+        const QString text = toQt(model_->List(line));
+        if (line == list_.count()) {
+            list_.addItem(text);
+        } else if (list_.item(line)->text() != text) {
+            list_.item(line)->setText(text);
+        }
     }
 }
 

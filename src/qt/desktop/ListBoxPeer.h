@@ -17,6 +17,7 @@ public:
 private:
     ListBoxPeer(std::shared_ptr<ListBox> model, QListWidget& list);
     void show(ControlAspect aspect) override;
+    void showItems();
     void choose(int row);
 
     std::shared_ptr<ListBox> model_;

@@ -35,15 +35,21 @@ public:
     /// and 5 for a form without a window.
     void take(StringView name, const Form& form);
 
+    /// Runs `open`, which shows a box or a modal form, takes that window in place of the user and closes it.
+    void takeModal(StringView name, const std::function<void()>& open);
+    /// Whether a book is about to take and close whatever modal window comes.
+    static bool isTakingModal();
+
 private:
+    void write(StringView name, const Picture& picture) const;
+
     std::filesystem::path folder_;
     double scale_;
     std::unique_ptr<FixedPixelRatio> ratio_;
 };
 
 /// Takes a program's pictures at 1x and 2x. `tour` runs once a scale; it shows the program's states one after
-/// the other and hands each to `take`.
-using TakeShot = std::function<void(StringView name, const Form& form)>;
-void takeShots(const std::filesystem::path& folder, const std::function<void(const TakeShot& take)>& tour);
+/// the other and has each taken by the book.
+void takeShots(const std::filesystem::path& folder, const std::function<void(ShotBook& book)>& tour);
 
 } // namespace phial::qt

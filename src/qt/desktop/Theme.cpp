@@ -46,7 +46,7 @@ QLineEdit:focus { padding: 0 4px; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QListWidget:disabled, QComboBox:disabled {
     background: $ground; color: $pale; }
 QListWidget { outline: none; }
-QListWidget::item { padding: 4px 6px; }
+QListWidget::item { padding: 4px 6px; background: transparent; }
 QListWidget::item:hover { background: $hover; }
 QListWidget::item:selected { background: $accent; color: #ffffff; }
 QComboBox { padding: 0 6px; }
@@ -59,7 +59,8 @@ QScrollBar:vertical { background: $ground; border: none; margin: 0; }
 QScrollBar:horizontal { background: $ground; border: none; margin: 0; }
 QScrollBar::handle { background: $line; border-radius: 5px; margin: 2px; min-height: 28px; min-width: 28px; }
 QScrollBar::handle:hover { background: $pale; }
-QScrollBar::handle:pressed, QScrollBar:focus::handle { background: $accent; }
+QScrollBar::handle:pressed { background: $accent; }
+QScrollBar:focus { background: $pressed; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 QMenuBar { background: $ground; color: $ink; border-bottom: 1px solid $line; }
