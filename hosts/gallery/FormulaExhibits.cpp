@@ -35,7 +35,7 @@ std::vector<Exhibit> formulaExhibits()
          sample<ctl_TermLabel>(u"Passende Größe|Size to fit", [](ctl_TermLabel& label) {
              label.TEXTFONT(galleryFont(28));
              label.TEXTCOLOR(colours::Blue);
-             label.Term(u"C6H12O6");
+             label.Term(u"MgO");
              label.AUTOSIZE(true);
          })})};
 }

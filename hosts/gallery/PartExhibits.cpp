@@ -76,8 +76,11 @@ ObjectPtr buildImageList(Stage& stage)
     next->Caption(say(u"Nächstes Bild|Next picture"));
     next->Font(galleryFont(11));
     const auto list = std::make_shared<ImageList>(u"img_Sample");
+    list->Add(u"blau", plainPicture(0xFF006AB5U));
+    list->Add(u"gelb", plainPicture(0xFFFFD666U));
+    box->Picture(list->Picture(1));
     stage.addComponent(list);
-    stage.keep(next->CLICK.connect([box, list, at = 0]() mutable {
+    stage.keep(next->CLICK.connect([box, list, at = 1]() mutable {
         if (list->Count() > 0) {
             at = at % list->Count() + 1;
             box->Picture(list->Picture(at));
@@ -92,13 +95,9 @@ Exhibit imageList()
             u"ImageList",
             u"Bilder nach Nummer und Namen.|Pictures by number and key.",
             buildImageList,
-            {sample<ImageList>(u"Drei Bilder|Three pictures",
-                               [](ImageList& list) {
-                                   list.Add(u"blau", plainPicture(0xFF006AB5U));
-                                   list.Add(u"gelb", plainPicture(0xFFFFD666U));
-                                   list.Add(u"rot", plainPicture(0xFFEC8C78U));
-                               }),
-             sample<ImageList>(u"Leer|Empty", [](ImageList& list) { list.Clear(); })}};
+            {sample<ImageList>(u"Zwei Bilder|Two pictures", [](ImageList&) {}),
+             sample<ImageList>(u"Drei Bilder|Three pictures",
+                               [](ImageList& list) { list.Add(u"rot", plainPicture(0xFFEC8C78U)); })}};
 }
 
 ObjectPtr buildRelay(Stage& stage)

@@ -63,7 +63,9 @@ const PropertyRow* PropertyPanel::chosen() const
 void PropertyPanel::showChosen()
 {
     const PropertyRow* row = chosen();
-    name_->Caption(row ? row->name : String());
+    name_->Caption(row                ? row->name
+                   : editor_.object() ? say(u"Bitte eine Eigenschaft wählen|Please choose a property")
+                                      : String());
     shownValue_ = row ? row->value : String();
     value_->Text(shownValue_);
     message_->Caption({});

@@ -30,10 +30,15 @@ Exhibit label()
         label.Font(galleryFont(12));
         label.Caption(say(text));
     };
+    const auto fitting = [=](StringView name, StringView text) {
+        return sample<Label>(name, [=](Label& label) {
+            label.AutoSize(true);
+            sized(label, text);
+        });
+    };
     return control<Label>(Group::Shown, u"Label", u"Zeigt einen Text.|Shows a text.", {280, 96},
-                          {sample<Label>(u"Schlicht|Plain",
-                                         [=](Label& label) { sized(label, u"Guten Morgen!|Good morning!"); }),
-                           sample<Label>(u"Auszeichnung|Markup", [=](Label& label) { sized(label, Markup); }),
+                          {fitting(u"Schlicht|Plain", u"Guten Morgen!|Good morning!"),
+                           fitting(u"Auszeichnung|Markup", Markup),
                            sample<Label>(u"Umbruch|Wrapped",
                                          [=](Label& label) {
                                              sized(label, LongText);
@@ -41,7 +46,8 @@ Exhibit label()
                                              label.Alignment(Alignment::Centre);
                                          }),
                            sample<Label>(u"Farbig|Coloured", [=](Label& label) {
-                               sized(label, u"Weiß auf Blau|White on blue");
+                               label.AutoSize(true);
+                               sized(label, u" Weiß auf Blau | White on blue ");
                                label.BackStyle(BackStyle::Opaque);
                                label.BackColor(colours::Blue);
                                label.ForeColor(colours::White);

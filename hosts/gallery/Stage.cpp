@@ -37,8 +37,17 @@ void Stage::addComponent(const phial::ObjectPtr& component)
     atEnd([this, component] { form_.remove(*component); });
 }
 
+void Stage::centre()
+{
+    if (const auto control = centred_.lock()) {
+        const phial::PixelRectangle area = control->frame().pixelRectangle();
+        control->frame().pixelRectangle(middle({area.width, area.height}));
+    }
+}
+
 void Stage::clear()
 {
+    centred_.reset();
     connections_.clear();
     while (!endings_.empty()) {
         const auto action = std::move(endings_.back());

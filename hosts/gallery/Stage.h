@@ -32,7 +32,9 @@ public:
     template <typename Class>
     std::shared_ptr<Class> putMiddle(phial::PixelSize size)
     {
-        return put<Class>(middle(size));
+        auto control = put<Class>(middle(size));
+        centred_ = control;
+        return control;
     }
     /// The same within a control that is up already.
     template <typename Class>
@@ -55,6 +57,9 @@ public:
     phial::PixelSize size() const { return size_; }
     phial::PixelRectangle middle(phial::PixelSize size) const;
 
+    /// Puts the control of the middle there again, when it has changed its size.
+    void centre();
+
     /// Takes everything away.
     void clear();
 
@@ -65,6 +70,7 @@ private:
     phial::Form& form_;
     phial::Container& place_;
     phial::PixelSize size_;
+    std::weak_ptr<phial::Control> centred_;
     phial::Connections connections_;
     std::vector<std::function<void()>> endings_;
 };

@@ -2,6 +2,8 @@
 
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
+#include "core/CoreTheme.h"
+#include "core/SessionState.h"
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
 #include "gallery/GalleryFont.h"
@@ -92,6 +94,7 @@ void frm_Gallery::buildMenu()
 
 void frm_Gallery::style()
 {
+    phial::coreTheme().SetColour(phial::ThemeSlot::Accent, colours::Blue);
     const auto header = get<phial::ctl_Gradient>(u"bar_Header");
     header->Color1(colours::Blue);
     header->Color2(colours::DarkBlue);
@@ -190,7 +193,7 @@ void frm_Gallery::listExhibits()
     lines_.clear();
     for (std::size_t i = 0; i < exhibits_.size(); ++i) {
         if (i == 0 || exhibits_[i].group != exhibits_[i - 1].group) {
-            list->AddItem(groupTitle(exhibits_[i].group));
+            list->AddItem(phial::upperCase(groupTitle(exhibits_[i].group)));
             lines_.emplace_back();
         }
         list->AddItem(String(Indent) + String(exhibits_[i].title));
@@ -249,6 +252,7 @@ void frm_Gallery::showState(std::size_t state)
     const phial::ObjectPtr object = shown.build(*stage_);
     properties_->edit(shown.editable ? object : nullptr);
     shown.samples[state].apply(*object);
+    stage_->centre();
     properties_->refresh();
 }
 

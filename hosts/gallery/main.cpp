@@ -20,8 +20,10 @@ int main(int argc, char** argv)
     phial::ignoringErrors([&] { app->INIT(application.commandLine()); });
 
     if (const auto folder = application.shotsFolder()) {
-        phial::qt::takeShots(*folder, [](const phial::qt::TakeShot& take) {
-            gallery::showEachState({take, [](phial::StringView, const std::function<void()>&) {}});
+        phial::qt::takeShots(*folder, [](phial::qt::ShotBook& book) {
+            gallery::showEachState(
+                {[&book](phial::StringView name, const phial::Form& form) { book.take(name, form); },
+                 [&book](phial::StringView name, const auto& open) { book.takeModal(name, open); }});
         });
         return 0;
     }

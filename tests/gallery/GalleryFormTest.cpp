@@ -292,12 +292,10 @@ TEST_F(GalleryTest, TheImageListIsLeafedThrough)
     show(u"ImageList");
     const auto box = get<phial::PictureBox>(u"PictureBox1");
     const auto next = get<phial::ctl_Button>(u"ctl_Button1");
+    const auto first = box->Picture();
 
     phial::headless::click(*next);
-    const auto first = box->Picture();
-    phial::headless::click(*next);
     EXPECT_NE(box->Picture(), first);
-    phial::headless::click(*next);
     phial::headless::click(*next);
     EXPECT_EQ(box->Picture(), first);
 }
