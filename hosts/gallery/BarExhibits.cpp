@@ -65,9 +65,9 @@ Exhibit title()
             [](Stage& stage) {
                 return stage.put<ctl_Title>({16, 100, stage.size().width - 32, 44});
             },
-            {sample<ctl_Title>(u"Schließbar|Closable",
+            {sample<ctl_Title>(u"Zum Schließen|Closable",
                                [](ctl_Title& title) { title.Title(say(u"Taschenrechner|Calculator")); }),
-             sample<ctl_Title>(u"Ohne Schließzeichen|Without close sign",
+             sample<ctl_Title>(u"Fest|Fixed",
                                [](ctl_Title& title) {
                                    title.Title(say(u"Bitte warten …|Please wait …"));
                                    title.Closable(false);

@@ -117,7 +117,7 @@ Exhibit button()
                                 titled(button, u"Prüfen|Check");
                                 button.Enabled(false);
                             }),
-         sample<ctl_Button>(u"Betont, gesperrt|Accented, disabled", [=](ctl_Button& button) {
+         sample<ctl_Button>(u"Beides|Both", [=](ctl_Button& button) {
              titled(button, u"Prüfen|Check");
              button.Accent(true);
              button.Enabled(false);
@@ -150,12 +150,12 @@ Exhibit comboBox()
     return control<ComboBox>(
         Group::Input, u"ComboBox",
         u"Eine Zeile mit einer Liste zum Aufklappen.|A line with a list that drops down.", {260, 40},
-        {sample<ComboBox>(u"Schreiben oder wählen|Type or choose",
+        {sample<ComboBox>(u"Schreibbar|Editable",
                           [](ComboBox& combo) {
                               fill(combo, Elements.size());
                               combo.Text(say(u"Knallgas|Oxyhydrogen"));
                           }),
-         sample<ComboBox>(u"Nur wählen|Choose only",
+         sample<ComboBox>(u"Nur Liste|List only",
                           [](ComboBox& combo) {
                               fill(combo, Elements.size());
                               combo.Style(ComboStyle::ListOnly);

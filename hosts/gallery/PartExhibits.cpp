@@ -56,8 +56,7 @@ Exhibit timer()
             u"Meldet sich in gleichen Abständen.|Makes itself heard at equal intervals.",
             buildTimer,
             {sample<Timer>(u"Steht|Stopped", [](Timer& timer) { timer.Interval(1000); }),
-             every(u"Jede Sekunde|Every second", 1000),
-             every(u"Zehnmal je Sekunde|Ten times a second", 100)}};
+             every(u"Jede Sekunde|Every second", 1000), every(u"Schnell|Fast", 100)}};
 }
 
 PicturePtr plainPicture(std::uint32_t pixel)

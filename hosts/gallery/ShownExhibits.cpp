@@ -32,6 +32,7 @@ Exhibit label()
     };
     const auto fitting = [=](StringView name, StringView text) {
         return sample<Label>(name, [=](Label& label) {
+            label.WordWrap(false);
             label.AutoSize(true);
             sized(label, text);
         });

@@ -29,19 +29,24 @@ constexpr int German = 7;
 constexpr QSize TextBoxSize(560, 420);
 constexpr int InputWidth = 360;
 constexpr int IconSize = 48;
+constexpr double TextSize = 10; // points: larger than in forms, since a box stands alone
 
-struct ButtonText {
+struct BoxText {
     const char16_t* german;
     const char16_t* english;
 };
 
-constexpr ButtonText Ok{u"OK", u"OK"};
-constexpr ButtonText Yes{u"Ja", u"Yes"};
-constexpr ButtonText No{u"Nein", u"No"};
-constexpr ButtonText Cancel{u"Abbrechen", u"Cancel"};
-constexpr ButtonText Close{u"Schließen", u"Close"};
+constexpr BoxText Ok{u"OK", u"OK"};
+constexpr BoxText Yes{u"Ja", u"Yes"};
+constexpr BoxText No{u"Nein", u"No"};
+constexpr BoxText Cancel{u"Abbrechen", u"Cancel"};
+constexpr BoxText Close{u"Schließen", u"Close"};
+constexpr BoxText Save{u"Speichern", u"Save"};
+constexpr BoxText LookIn{u"Ordner:", u"Folder:"};
+constexpr BoxText FileName{u"Dateiname:", u"File name:"};
+constexpr BoxText FileType{u"Dateityp:", u"File type:"};
 
-QString inLanguage(const ButtonText& text)
+QString inLanguage(const BoxText& text)
 {
     const bool german = !SessionState::isOpen() || SessionState::current().locale().language == German;
     return toQt(german ? text.german : text.english);
@@ -52,7 +57,14 @@ QString titleOr(StringView title)
     return toQt(title.empty() ? programTitle() : String(title));
 }
 
-QPushButton* addButton(QMessageBox& box, const ButtonText& text, QMessageBox::ButtonRole role)
+void enlargeText(QWidget& box)
+{
+    QFont font = box.font();
+    font.setPointSizeF(TextSize);
+    box.setFont(font);
+}
+
+QPushButton* addButton(QMessageBox& box, const BoxText& text, QMessageBox::ButtonRole role)
 {
     QPushButton* button = box.addButton(inLanguage(text), role);
     button->setMinimumHeight(button->sizeHint().height() + 8);
@@ -61,6 +73,7 @@ QPushButton* addButton(QMessageBox& box, const ButtonText& text, QMessageBox::Bu
 
 void prepare(QMessageBox& box, StringView text, StringView title)
 {
+    enlargeText(box);
     box.setWindowTitle(titleOr(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(toQt(text));
@@ -74,12 +87,22 @@ void showMessage(QMessageBox& box)
     box.exec();
 }
 
-QPushButton* closingButton(QDialog& dialog, const ButtonText& text, void (QDialog::*end)())
+QPushButton* closingButton(QDialog& dialog, const BoxText& text, void (QDialog::*end)())
 {
     auto* button = new QPushButton(inLanguage(text), &dialog);
     button->setMinimumHeight(button->sizeHint().height() + 8);
     QObject::connect(button, &QPushButton::clicked, &dialog, end);
     return button;
+}
+
+// Where the desktop brings no dialog of its own, the toolkit's speaks English unless it is told.
+void label(QFileDialog& dialog)
+{
+    dialog.setLabelText(QFileDialog::LookIn, inLanguage(LookIn));
+    dialog.setLabelText(QFileDialog::FileName, inLanguage(FileName));
+    dialog.setLabelText(QFileDialog::FileType, inLanguage(FileType));
+    dialog.setLabelText(QFileDialog::Accept, inLanguage(Save));
+    dialog.setLabelText(QFileDialog::Reject, inLanguage(Cancel));
 }
 
 } // namespace
@@ -112,6 +135,7 @@ DialogAnswer DesktopDialogs::YesNo(StringView pText, StringView pTitle)
     box.setIcon(QMessageBox::Question);
     QPushButton* yes = addButton(box, Yes, QMessageBox::YesRole);
     QPushButton* no = addButton(box, No, QMessageBox::NoRole);
+    markAccent(*yes, true);
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
     const SystemBox open;
@@ -122,6 +146,7 @@ DialogAnswer DesktopDialogs::YesNo(StringView pText, StringView pTitle)
 void DesktopDialogs::Text(StringView pText, StringView pTitle)
 {
     QDialog dialog(QApplication::activeWindow());
+    enlargeText(dialog);
     dialog.setWindowTitle(titleOr(pTitle));
     dialog.resize(TextBoxSize);
     auto* layout = new QVBoxLayout(&dialog);
@@ -138,6 +163,7 @@ String DesktopDialogs::SaveFile(StringView pFolder, StringView pTitle, StringVie
     QFileDialog dialog(QApplication::activeWindow(), titleOr(pTitle));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
+    label(dialog);
     if (!pFolder.empty()) {
         dialog.setDirectory(toQt(nativePath(pFolder).u16string()));
     }
@@ -164,6 +190,7 @@ void DesktopDialogs::Done(StringView pText)
 String DesktopDialogs::Input(StringView pPrompt, StringView pTitle, StringView pDefault)
 {
     QDialog dialog(QApplication::activeWindow());
+    enlargeText(dialog);
     dialog.setWindowTitle(titleOr(pTitle));
     dialog.setMinimumWidth(InputWidth);
     auto* layout = new QVBoxLayout(&dialog);
