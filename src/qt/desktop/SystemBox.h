@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qt/desktop/Theme.h"
+
 namespace phial::qt
 {
 
@@ -8,7 +10,11 @@ namespace phial::qt
 class SystemBox
 {
 public:
-    SystemBox() { ++count(); }
+    SystemBox()
+    {
+        ensureTheme();
+        ++count();
+    }
     ~SystemBox() { --count(); }
     SystemBox(const SystemBox&) = delete;
     SystemBox& operator=(const SystemBox&) = delete;

@@ -1,5 +1,6 @@
 #include "qt/desktop/Theme.h"
 
+#include "core/SessionState.h"
 #include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/FontCatalogue.h"
 
@@ -143,6 +144,13 @@ void applyTheme(const CoreTheme& theme)
     QApplication::setPalette(paletteFor(theme));
     QApplication::setFont(fontCatalogue().font(FontSpec()));
     qApp->setStyleSheet(sheetFor(theme));
+}
+
+void ensureTheme()
+{
+    if (qApp->styleSheet().isEmpty() && SessionState::isOpen()) {
+        applyTheme(coreTheme());
+    }
 }
 
 void markAccent(QPushButton& button, bool accent)
