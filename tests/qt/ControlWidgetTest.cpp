@@ -5,6 +5,7 @@
 #include "term/ctl_TermLabel.h"
 #include "visual/PaintSurface.h"
 #include "visual/PictureBox.h"
+#include "visual/TextBox.h"
 #include "visual/ctl_Title.h"
 
 #include <QAccessible>
@@ -213,6 +214,21 @@ TEST_F(ControlWidgetTest, TheSpaceBarPressesThePartThatTheArrowsHaveReached)
     form->Show();
     title->SetFocus();
     QTest::keyClick(&widgetOf(*title), Qt::Key_Right);
+    QTest::keyClick(&widgetOf(*title), Qt::Key_Space);
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(ControlWidgetTest, WhoComesByTheTabKeyStandsOnTheFirstPart)
+{
+    const auto form = std::make_shared<Form>(u"frm_Test");
+    form->innerSize({300, 100});
+    const auto field = form->add<TextBox>(u"txt_Input");
+    const auto title = form->add<ctl_Title>(u"bar_Title");
+    int closed = 0;
+    const auto connection = title->CLOSE.connect([&] { ++closed; });
+    form->Show();
+    field->SetFocus();
+    QTest::keyClick(widgetOf(*field).focusProxy(), Qt::Key_Tab);
     QTest::keyClick(&widgetOf(*title), Qt::Key_Space);
     EXPECT_EQ(closed, 1);
 }

@@ -223,6 +223,36 @@ TEST_F(FormWindowTest, AModalFormBlocksOtherWindowsAndHearsPressesThere)
     EXPECT_EQ(clicked, 1);
 }
 
+TEST_F(FormWindowTest, ADialogOutlivesTheWindowThatAskedForIt)
+{
+    const auto opener = makeForm(u"frm_Opener");
+    opener->Show();
+    QApplication::processEvents();
+    const auto dialog = makeForm(u"frm_Dialog");
+    bool shown = false;
+    EventPump& events = *SessionState::current().platform().pump;
+    events.post([&] {
+        opener->Unload();
+        events.post([&] {
+            shown = widgetOf(*dialog).isVisible();
+            dialog->Hide();
+        });
+    });
+    dialog->Show(FormShow::Modal);
+    EXPECT_TRUE(shown);
+}
+
+TEST_F(FormWindowTest, ScreenReadersComeToTheNameOfAField)
+{
+    const auto form = makeForm();
+    const auto field = place<TextBox>(*form, u"txt_Input", 10, 10);
+    field->frame().AccessibleName(u"Antwort");
+    form->Show();
+    EXPECT_EQ(widgetOf(*field).focusProxy()->accessibleName(), QStringLiteral("Antwort"));
+    field->frame().AccessibleName(u"Ergebnis");
+    EXPECT_EQ(widgetOf(*field).focusProxy()->accessibleName(), QStringLiteral("Ergebnis"));
+}
+
 TEST_F(FormWindowTest, WhatAHandlerRaisesEndsAtTheDispatch)
 {
     const auto form = makeForm();

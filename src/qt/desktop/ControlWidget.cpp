@@ -305,7 +305,12 @@ void ControlWidget::keyReleaseEvent(QKeyEvent* event)
 void ControlWidget::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event);
-    dispatch([&] { focusEntered(*control_); });
+    dispatch([&] {
+        focusEntered(*control_);
+        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+            showPartFocus();
+        }
+    });
     update();
 }
 
@@ -316,6 +321,14 @@ void ControlWidget::focusOutEvent(QFocusEvent* event)
         dispatch([&] { control_->frame().focusChanged(false); });
     }
     update();
+}
+
+void ControlWidget::showPartFocus()
+{
+    if (!currentPart_) {
+        currentPart_ = nextPart(control_->parts(), std::nullopt, Qt::Key_Right);
+        update();
+    }
 }
 
 bool ControlWidget::moveToPart(int key)

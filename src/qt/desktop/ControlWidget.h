@@ -47,7 +47,10 @@ public:
     /// The control's own size.
     QSize sizeHint() const override;
 
-    /// The part that the arrow keys have reached; none until they are used.
+    /// The focus has come by the keyboard: shows where it is among the parts.
+    void showPartFocus();
+
+    /// The part that the arrow keys have reached; none until the keyboard is used.
     std::optional<std::size_t> currentPart() const { return currentPart_; }
 
 protected:

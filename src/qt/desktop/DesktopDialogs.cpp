@@ -2,11 +2,11 @@
 
 #include "core/NativePath.h"
 #include "core/ProgramTitle.h"
-#include "core/SessionState.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/SystemBox.h"
 #include "qt/desktop/Theme.h"
 #include "qt/desktop/Toast.h"
+#include "qt/desktop/ToolkitLanguage.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -25,7 +25,6 @@ namespace phial::qt
 namespace
 {
 
-constexpr int German = 7;
 constexpr QSize TextBoxSize(560, 420);
 constexpr int InputWidth = 360;
 constexpr int IconSize = 48;
@@ -48,8 +47,7 @@ constexpr BoxText FileType{u"Dateityp:", u"File type:"};
 
 QString inLanguage(const BoxText& text)
 {
-    const bool german = !SessionState::isOpen() || SessionState::current().locale().language == German;
-    return toQt(german ? text.german : text.english);
+    return toQt(isGerman() ? text.german : text.english);
 }
 
 QString titleOr(StringView title)
@@ -160,6 +158,7 @@ void DesktopDialogs::Text(StringView pText, StringView pTitle)
 
 String DesktopDialogs::SaveFile(StringView pFolder, StringView pTitle, StringView pFilter)
 {
+    useSessionLanguage();
     QFileDialog dialog(QApplication::activeWindow(), titleOr(pTitle));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);

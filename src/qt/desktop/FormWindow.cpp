@@ -1,6 +1,7 @@
 #include "qt/desktop/FormWindow.h"
 
 #include "qt/base/QtText.h"
+#include "qt/desktop/ControlWidget.h"
 #include "qt/desktop/Cursors.h"
 #include "qt/desktop/Dispatch.h"
 #include "qt/desktop/FormArea.h"
@@ -16,6 +17,7 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
@@ -69,8 +71,8 @@ void endWithoutWindows()
 
 } // namespace
 
-FormWindow::FormWindow(const std::shared_ptr<Form>& form, QWidget* owner)
-    : QWidget(owner, flagsFor(*form)), form_(form), menuBar_(new QMenuBar(this)),
+FormWindow::FormWindow(const std::shared_ptr<Form>& form)
+    : QWidget(nullptr, flagsFor(*form)), form_(form), menuBar_(new QMenuBar(this)),
       area_(new FormArea(form, *this))
 {
     registerWindow(form_->hWnd(), *this);
@@ -78,6 +80,12 @@ FormWindow::FormWindow(const std::shared_ptr<Form>& form, QWidget* owner)
 }
 
 FormWindow::~FormWindow() = default;
+
+void FormWindow::standOn(const QWidget& below)
+{
+    winId(); // makes the desktop's window
+    windowHandle()->setTransientParent(below.window()->windowHandle());
+}
 
 void FormWindow::open()
 {
@@ -333,7 +341,13 @@ bool FormWindow::focusNextPrevChild(bool next)
         at = (current - order.begin() + (next ? 1 : count - 1)) % count;
     }
     const auto form = form_;
-    return dispatch([&] { form->focus(order[static_cast<std::size_t>(at)]); });
+    const ControlPtr target = order[static_cast<std::size_t>(at)];
+    return dispatch([&] {
+        form->focus(target);
+        if (auto* painted = qobject_cast<ControlWidget*>(widgetOf(target->hWnd()))) {
+            painted->showPartFocus();
+        }
+    });
 }
 
 } // namespace phial::qt

@@ -20,9 +20,11 @@ class FormWindow final : public QWidget
     Q_OBJECT
 
 public:
-    FormWindow(const std::shared_ptr<Form>& form, QWidget* owner);
+    explicit FormWindow(const std::shared_ptr<Form>& form);
     ~FormWindow() override;
 
+    /// Keeps the window in front of that one on the desktop; both may end in any order.
+    void standOn(const QWidget& below);
     /// Puts the window on the screen, in the model's present state.
     void open();
     /// Takes it off the screen and leaves the model alone from now on; the window ends when its events are

@@ -38,8 +38,8 @@ void NativePeer::begin()
 {
     applyFrame(widget_, *control_);
     for (const ControlAspect aspect :
-         {ControlAspect::Style, ControlAspect::Items, ControlAspect::Range, ControlAspect::Picture,
-          ControlAspect::Text, ControlAspect::Value, ControlAspect::Selection}) {
+         {ControlAspect::Style, ControlAspect::Accessibility, ControlAspect::Items, ControlAspect::Range,
+          ControlAspect::Picture, ControlAspect::Text, ControlAspect::Value, ControlAspect::Selection}) {
         modelChanged(aspect);
     }
 }

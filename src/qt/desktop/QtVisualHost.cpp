@@ -13,6 +13,7 @@
 #include "qt/desktop/PixelRatio.h"
 #include "qt/desktop/PrinterBackend.h"
 #include "qt/desktop/Theme.h"
+#include "qt/desktop/ToolkitLanguage.h"
 #include "qt/desktop/WindowHandles.h"
 
 #include <QApplication>
@@ -133,12 +134,12 @@ void QtVisualHost::useTheme()
 std::unique_ptr<FormPeer> QtVisualHost::openWindow(Form& form, bool modal)
 {
     useTheme();
-    const std::shared_ptr<Form> opener = forms().ActiveForm();
-    QWidget* owner = nullptr;
-    if (modal && opener && opener.get() != &form) {
-        owner = QApplication::activeWindow();
+    useSessionLanguage();
+    const QWidget* below = modal ? QApplication::activeWindow() : nullptr;
+    auto* window = new FormWindow(form.shared_from_this()); // ends itself when the peer lets go
+    if (below) {
+        window->standOn(*below);
     }
-    auto* window = new FormWindow(form.shared_from_this(), owner); // ends itself when the peer lets go
     auto peer = std::make_unique<WindowPeer>(*this, *window, form);
     window->open();
     return peer;

@@ -1,6 +1,7 @@
 #include "qt/desktop/RichTextBoxPeer.h"
 
 #include "qt/desktop/DesktopColours.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QEvent>
 #include <QVBoxLayout>
@@ -19,11 +20,11 @@ QWidget* RichTextBoxPeer::make(std::shared_ptr<RichTextBox> model, QWidget& hold
 }
 
 RichTextBoxPeer::RichTextBoxPeer(std::shared_ptr<RichTextBox> model, QWidget& holder)
-    : NativePeer(model, holder), model_(std::move(model)),
+    : NativePeer(model, holder), model_(std::move(model)), holder_(holder),
       editor_(makePageEditor(holder, [this] { edited(); }))
 {
-    holder.layout()->addWidget(&editor_->widget());
-    holder.setFocusProxy(&editor_->widget());
+    holder_.layout()->addWidget(&editor_->widget());
+    holder_.setFocusProxy(&editor_->widget());
     watch(editor_->widget());
     watch(editor_->pressed());
     begin();
@@ -52,6 +53,8 @@ void RichTextBoxPeer::show(ControlAspect aspect)
         editor_->select(model_->SelStart(), model_->SelLength());
     } else if (aspect == ControlAspect::Selection) {
         editor_->select(model_->SelStart(), model_->SelLength());
+    } else if (aspect == ControlAspect::Accessibility) {
+        passNames(holder_, editor_->widget());
     }
 }
 

@@ -20,6 +20,7 @@ private:
     void edited();
 
     std::shared_ptr<RichTextBox> model_;
+    QWidget& holder_;
     std::unique_ptr<TextEditor> editor_;
 };
 

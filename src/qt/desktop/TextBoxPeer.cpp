@@ -1,6 +1,7 @@
 #include "qt/desktop/TextBoxPeer.h"
 
 #include "qt/desktop/DesktopColours.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QEvent>
 #include <QMouseEvent>
@@ -82,6 +83,8 @@ void TextBoxPeer::show(ControlAspect aspect)
         editor_->select(model_->SelStart(), model_->SelLength());
     } else if (aspect == ControlAspect::Selection) {
         editor_->select(model_->SelStart(), model_->SelLength());
+    } else if (aspect == ControlAspect::Accessibility) {
+        passNames(holder_, editor_->widget());
     }
 }
 

@@ -97,4 +97,10 @@ void applyFrame(QWidget& widget, Control& control)
     }
 }
 
+void passNames(const QWidget& holder, QWidget& field)
+{
+    field.setAccessibleName(holder.accessibleName());
+    field.setAccessibleDescription(holder.accessibleDescription());
+}
+
 } // namespace phial::qt

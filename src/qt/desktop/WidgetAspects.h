@@ -18,4 +18,7 @@ void applyFrame(QWidget& widget, Control& control);
 /// The widget's place: the control's rectangle with its edges rounded to pixels.
 void applyGeometry(QWidget& widget, const Control& control);
 
+/// Gives the field in a holder the names of the holder, since that is what screen readers come to.
+void passNames(const QWidget& holder, QWidget& field);
+
 } // namespace phial::qt

@@ -1,0 +1,126 @@
+#include "DesktopSession.h"
+#include "qt/desktop/DesktopDialogs.h"
+
+#include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+using namespace phial;
+using namespace phial::qt;
+
+namespace
+{
+
+constexpr int German = 7;
+constexpr int English = 9;
+
+class DialogsTest : public DesktopSession
+{
+protected:
+    // Does what a user would do with the box that comes up next.
+    static void whenShown(const std::function<void(QDialog& box)>& act)
+    {
+        QTimer::singleShot(0, qApp, [act] {
+            auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            act(*box);
+        });
+    }
+
+    static QPushButton& button(QDialog& box, const QString& text)
+    {
+        const auto buttons = box.findChildren<QPushButton*>();
+        const auto found = std::find_if(buttons.begin(), buttons.end(),
+                                        [&](const QPushButton* entry) { return entry->text() == text; });
+        if (found == buttons.end()) {
+            throw std::runtime_error("no button " + text.toStdString());
+        }
+        return **found;
+    }
+
+    DesktopDialogs dialogs_;
+};
+
+TEST_F(DialogsTest, AQuestionIsAnsweredInTheLanguageOfTheSession)
+{
+    SessionState::current().locale().language = German;
+    whenShown([](QDialog& box) { button(box, QStringLiteral("Ja")).click(); });
+    EXPECT_EQ(dialogs_.YesNo(u"Weiter?", {}), DialogAnswer::Yes);
+    SessionState::current().locale().language = English;
+    whenShown([](QDialog& box) { button(box, QStringLiteral("No")).click(); });
+    EXPECT_EQ(dialogs_.YesNo(u"Go on?", {}), DialogAnswer::No);
+}
+
+TEST_F(DialogsTest, ClosingAQuestionAnswersNo)
+{
+    whenShown([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(dialogs_.YesNo(u"Weiter?", {}), DialogAnswer::No);
+}
+
+TEST_F(DialogsTest, TextsAreShownAsTheyAre)
+{
+    whenShown([](QDialog& box) {
+        EXPECT_EQ(dynamic_cast<QMessageBox&>(box).text(), QStringLiteral("2 < 3 & <b>wahr</b>"));
+        EXPECT_EQ(dynamic_cast<QMessageBox&>(box).textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Hinweis"));
+        box.accept();
+    });
+    dialogs_.Info(u"2 < 3 & <b>wahr</b>", u"Hinweis", {});
+}
+
+TEST_F(DialogsTest, AnInputGivesTheLineOrNothing)
+{
+    whenShown([](QDialog& box) {
+        auto* line = box.findChild<QLineEdit*>();
+        EXPECT_EQ(line->text(), QStringLiteral("H2O"));
+        EXPECT_TRUE(line->hasSelectedText());
+        QTest::keyClicks(line, QStringLiteral("CO2"));
+        QTest::keyClick(line, Qt::Key_Return);
+    });
+    EXPECT_EQ(dialogs_.Input(u"Formel", {}, u"H2O"), u"CO2");
+    whenShown([](QDialog& box) { box.reject(); });
+    EXPECT_EQ(dialogs_.Input(u"Formel", {}, u"H2O"), u"");
+}
+
+TEST_F(DialogsTest, AConfirmationGoesByAPress)
+{
+    whenShown([](QDialog& box) { QTest::mouseClick(&box, Qt::LeftButton); });
+    dialogs_.Done(u"Gespeichert");
+}
+
+TEST_F(DialogsTest, ASystemBoxDeactivatesNoForm)
+{
+    const auto form = std::make_shared<Form>(u"frm_Test");
+    int deactivated = 0;
+    const auto connection = form->Deactivate.connect([&] { ++deactivated; });
+    form->Show();
+    QApplication::processEvents();
+    whenShown([](QDialog& box) { box.accept(); });
+    dialogs_.Info(u"Hallo", {}, {});
+    EXPECT_EQ(deactivated, 0);
+}
+
+TEST_F(DialogsTest, TheFileDialogGivesThePathAsTheSystemWritesIt)
+{
+    whenShown([](QDialog& box) {
+        auto& files = dynamic_cast<QFileDialog&>(box);
+        EXPECT_EQ(files.nameFilters(), QStringList{QStringLiteral("Textdatei (*.txt)")});
+        EXPECT_EQ(files.defaultSuffix(), QStringLiteral("txt"));
+        box.reject();
+    });
+    EXPECT_EQ(dialogs_.SaveFile(u"\\tmp\\", u"Speichern", u"Textdatei|*.txt"), u"");
+}
+
+TEST(ToolkitFilter, PairsNamesWithPatterns)
+{
+    EXPECT_EQ(toolkitFilter(u"Textdatei|*.txt"), u"Textdatei (*.txt)");
+    EXPECT_EQ(toolkitFilter(u"Text|*.txt;*.csv|Alle|*.*"), u"Text (*.txt *.csv);;Alle (*.*)");
+    EXPECT_EQ(toolkitFilter(u"Textdatei"), u"");
+    EXPECT_EQ(toolkitFilter(u""), u"");
+}
+
+} // namespace
