@@ -1,7 +1,7 @@
 """clang-tidy over every source file of the tidy preset's build.
 
 A file that was found good is not read again until it, a header of this repository that it includes, the checks or
-the tool change: a stamp named after the hash of all these lies in the build folder.
+the tool change: a stamp named after the hash of all these lies in the user's cache, which all checkouts share.
 """
 import concurrent.futures
 import hashlib
@@ -14,6 +14,7 @@ import subprocess
 from .files import ROOT
 
 BUILD = ROOT / "build" / "tidy"
+STAMPS = pathlib.Path(os.environ.get("XDG_CACHE_HOME") or pathlib.Path.home() / ".cache") / "phial-lint"
 FINDING = re.compile(r"^/.*:\d+:\d+: (?:error|warning): ")
 
 
@@ -21,11 +22,10 @@ def check(tree):
     failure = _prepare_build()
     if failure:
         return failure
-    stamps = BUILD / "checked"
-    stamps.mkdir(exist_ok=True)
+    STAMPS.mkdir(parents=True, exist_ok=True)
     settings = (ROOT / ".clang-tidy").read_bytes() + _run("clang-tidy", "--version").stdout.encode()
 
-    waiting = {path: stamps / _fingerprint(tree, path, settings) for path in _compiled(tree)}
+    waiting = {path: STAMPS / _fingerprint(tree, path, settings) for path in _compiled(tree)}
     waiting = {path: stamp for path, stamp in waiting.items() if not stamp.exists()}
     print(f"lint: tidy: reading {len(waiting)} changed files", flush=True)
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
