@@ -137,9 +137,7 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/)
     dispatch([&] {
         QPainter painter(this);
         const PicturePtr picture = control_->surface().image(paintRatio(painter));
-        QImage image = imageOf(*picture);
-        image.setDevicePixelRatio(picture->pixelRatio());
-        painter.drawImage(QPointF(0, 0), image);
+        painter.drawImage(QPointF(0, 0), imageForPainting(*picture));
         if (hasFocus()) {
             paintPartFocus(painter, *control_, currentPart_, palette().color(QPalette::Highlight));
         }

@@ -20,7 +20,7 @@ void FormArea::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.fillRect(rect(), toQColor(form_->BackColor()));
     if (const PicturePtr picture = form_->Picture()) {
-        painter.drawImage(QPointF(0, 0), imageCopy(*picture));
+        painter.drawImage(QPointF(0, 0), imageForPainting(*picture));
     }
 }
 

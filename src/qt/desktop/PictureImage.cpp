@@ -23,6 +23,17 @@ QImage imageOf(const Picture& picture)
             static_cast<qsizetype>(columns) * static_cast<qsizetype>(sizeof(std::uint32_t)), Format};
 }
 
+// A view of constant memory would be copied as soon as it gets its ratio.
+QImage imageForPainting(const Picture& picture)
+{
+    const auto columns = static_cast<int>(picture.columns());
+    auto* memory = reinterpret_cast<uchar*>(const_cast<std::uint32_t*>(picture.pixels().data()));
+    QImage image(memory, columns, static_cast<int>(picture.rows()),
+                 static_cast<qsizetype>(columns) * static_cast<qsizetype>(sizeof(std::uint32_t)), Format);
+    image.setDevicePixelRatio(picture.pixelRatio());
+    return image;
+}
+
 QImage imageCopy(const Picture& picture)
 {
     QImage image = imageOf(picture).copy();

@@ -12,7 +12,10 @@ namespace phial::qt
 /// is 1: it counts the pixels held.
 QImage imageOf(const Picture& picture);
 
-/// A copy that knows the picture's ratio, to be painted by the toolkit.
+/// The same with the picture's ratio, to be painted in logical pixels. Only for reading.
+QImage imageForPainting(const Picture& picture);
+
+/// A copy that knows the picture's ratio, for what keeps it.
 QImage imageCopy(const Picture& picture);
 
 /// A picture with a copy of the image's pixels, at that ratio.

@@ -50,7 +50,7 @@ QRegion solidByPicture(const QWidget& inside, const Picture& mask)
     QImage shown(inside.size(), QImage::Format_ARGB32_Premultiplied);
     shown.fill(Qt::transparent);
     QPainter painter(&shown);
-    painter.drawImage(QPointF(0, 0), imageCopy(mask));
+    painter.drawImage(QPointF(0, 0), imageForPainting(mask));
     painter.end();
     return regionWhere(shown, [](QRgb pixel) { return qAlpha(pixel) > 0; });
 }
