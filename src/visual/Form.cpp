@@ -11,6 +11,32 @@
 namespace phial
 {
 
+namespace
+{
+
+/// The entries below a menu, each before those below itself.
+void collectEntries(const Menu& menu, std::vector<ObjectPtr>& entries)
+{
+    for (const auto& entry : menu.entries()) {
+        entries.push_back(entry);
+        collectEntries(*entry, entries);
+    }
+}
+
+ObjectPtr findNamed(const std::vector<ObjectPtr>& objects, StringView name, std::int32_t index)
+{
+    for (const ObjectPtr& object : objects) {
+        const auto named = tryGet(*object, u"NAME");
+        if (named && equalsIgnoringCase(named->toText(), name) &&
+            tryGet(*object, u"Index").value_or(Variant(-1)).toWhole() == index) {
+            return object;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
 /// Counts a dialog for the form that has opened it, as long as this object lives.
 class Form::OwnDialog
 {
@@ -205,24 +231,34 @@ void Form::addComponent(ObjectPtr component)
     objects_.push_back(std::move(component));
 }
 
+std::size_t Form::controlCount() const
+{
+    std::vector<ObjectPtr> entries;
+    collectEntries(*menu_, entries);
+    return objects_.size() + entries.size();
+}
+
 ObjectPtr Form::controlAt(std::size_t index) const
 {
-    if (index >= objects_.size()) {
+    if (index < objects_.size()) {
+        return objects_[index];
+    }
+    std::vector<ObjectPtr> entries;
+    collectEntries(*menu_, entries);
+    if (index >= objects_.size() + entries.size()) {
         throw RuntimeError(ErrorNumber::IndexOutOfBounds);
     }
-    return objects_[index];
+    return entries[index - objects_.size()];
 }
 
 ObjectPtr Form::find(StringView name, std::int32_t index) const
 {
-    for (const ObjectPtr& object : objects_) {
-        const auto named = tryGet(*object, u"NAME");
-        if (named && equalsIgnoringCase(named->toText(), name) &&
-            tryGet(*object, u"Index").value_or(Variant(-1)).toWhole() == index) {
-            return object;
-        }
+    if (ObjectPtr control = findNamed(objects_, name, index)) {
+        return control;
     }
-    return nullptr;
+    std::vector<ObjectPtr> entries;
+    collectEntries(*menu_, entries);
+    return findNamed(entries, name, index);
 }
 
 ObjectPtr Form::Controls() const

@@ -109,9 +109,10 @@ public:
     void remove(const Object& object);
     /// Timers, image lists and the like: named, without a place.
     void addComponent(ObjectPtr component);
-    std::size_t controlCount() const override { return objects_.size(); }
+    /// The entries of the menu bar, each before those below it, follow what stands on the form.
+    std::size_t controlCount() const override;
     ObjectPtr controlAt(std::size_t index) const override;
-    /// By name, and Index in an array; null when there is none.
+    /// A control or menu entry by name, and Index in an array; null when there is none.
     ObjectPtr find(StringView name, std::int32_t index = -1) const;
     /// The same with its class; raises 438 when there is none of that name and class.
     template <typename Class>

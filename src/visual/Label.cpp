@@ -139,6 +139,31 @@ void Label::resized()
     fitToText();
 }
 
+std::vector<NamedPart> Label::parts() const
+{
+    if (!frame_.canFocus()) {
+        return {};
+    }
+    const PixelSize size = surface_.size();
+    return {{.area = {0, 0, size.width, size.height},
+             .role = PartRole::Button,
+             .name = accessibleText(),
+             .action = u"Press"}};
+}
+
+void Label::activatePart(std::size_t /*part*/)
+{
+    click();
+}
+
+void Label::keyDown(KeyEvent& event)
+{
+    if (event.is(Key::Return) || event.is(Key::Space)) {
+        event.KeyCode = 0;
+        click();
+    }
+}
+
 void Label::paint()
 {
     DrawDevice& device = surface_.device();
@@ -148,6 +173,9 @@ void Label::paint()
     const auto wrap = wordWrap_ ? std::optional(size.width) : std::nullopt;
     MarkupLayout(caption_, font_->traits(), visualHost().metrics(), wrap)
         .draw(device, {0, 0, size.width, size.height}, sideOf(alignment_), TextSide::Near);
+    if (frame_.hasFocus()) {
+        device.Line(0, 0, size.width - 1, size.height - 1, foreColor_, LineShape::Box);
+    }
 }
 
 } // namespace phial

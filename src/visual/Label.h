@@ -11,6 +11,8 @@ enum class Alignment : std::int32_t { Left = 0, Right = 1, Centre = 2 };
 enum class BackStyle : std::int32_t { Transparent = 0, Opaque = 1 };
 
 /// Shows a text, with the markup of Markup.h, from its top. A click where nothing is painted counts too.
+/// A label whose frame can take the focus is a link: Return and Space click it, and it shows that it has the
+/// focus.
 class Label final : public UserControl
 {
 public:
@@ -47,6 +49,8 @@ public:
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::StaticText; }
     String accessibleText() const override;
+    std::vector<NamedPart> parts() const override;
+    void activatePart(std::size_t part) override;
     void paint() override;
     void resized() override;
     void pointerDown(const PointerEvent& event) override { MouseDown.emit(event); }
@@ -54,6 +58,10 @@ public:
     void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
     void click() override { Click.emit(); }
     void doubleClick() override { DblClick.emit(); }
+    void keyDown(KeyEvent& event) override;
+    bool wantsKey(Key key) const override { return key == Key::Return; }
+    void gotFocus() override { surface_.invalidate(); }
+    void lostFocus() override { surface_.invalidate(); }
 
 private:
     void refresh();

@@ -97,6 +97,20 @@ std::shared_ptr<Menu> Menu::entry(StringView name, std::int32_t index) const
     return found;
 }
 
+std::int32_t Menu::upperBound(StringView name) const
+{
+    std::int32_t greatest = -1;
+    for (const auto& entry : entries_) {
+        if (equalsIgnoringCase(entry->name_, name)) {
+            greatest = std::max(greatest, entry->index_);
+        }
+    }
+    if (greatest < 0) {
+        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+    }
+    return greatest;
+}
+
 std::shared_ptr<Menu> Menu::load(StringView name, std::int32_t index)
 {
     if (find(name, index)) {

@@ -48,6 +48,8 @@ public:
     void unload(StringView name, std::int32_t index);
     /// Raises 9 when there is none.
     std::shared_ptr<Menu> entry(StringView name, std::int32_t index = -1) const;
+    /// The greatest index of that name; raises 9 when there is none.
+    std::int32_t upperBound(StringView name) const;
 
     /// The user has chosen the entry: raises Click here, then Chosen at each menu above. An entry that is
     /// disabled or hidden does nothing.

@@ -115,6 +115,23 @@ TEST_F(FormTranslationTest, ButtonsOfABarAreTranslated)
     EXPECT_TRUE(buffer.Exists(u"bar_Buttons.BUTTONS(1).CAPTION"));
 }
 
+TEST_F(FormTranslationTest, EntriesOfTheMenuBarAreTranslatedAtEveryDepth)
+{
+    const auto file = form->menu().add(u"mnu_File", u"&Datei|&File");
+    const auto recent = file->add(u"mnu_FileMRU", u"Zuletzt|Recent", 0);
+    recent->Tag(u"Marke|Mark");
+    const auto save = file->add(u"mnu_FileSave", u"Sichern|Save")->add(u"mnu_SaveAs", u"Unter|As");
+    showIn(ID_Language_English);
+    EXPECT_EQ(file->Caption(), u"&File");
+    EXPECT_EQ(recent->Caption(), u"Recent");
+    EXPECT_EQ(recent->Tag(), u"Mark");
+    EXPECT_EQ(save->Caption(), u"As");
+    EXPECT_TRUE(buffer.Exists(u"mnu_FileMRU(0).CAPTION"));
+    showIn(ID_Language_German);
+    EXPECT_EQ(file->Caption(), u"&Datei");
+    EXPECT_EQ(save->Caption(), u"Unter");
+}
+
 TEST_F(FormTranslationTest, AssignsOnlyTextsThatDiffer)
 {
     const auto text = form->add<TextBox>(u"txt_Name");

@@ -35,6 +35,20 @@ TEST_F(FormControls, AreCountedFromZeroAndFoundByNameAndIndex)
     EXPECT_RAISES(form->controlAt(4), IndexOutOfBounds);
 }
 
+TEST_F(FormControls, EntriesOfTheMenuBarFollowTheControls)
+{
+    applyLayout(*form, Design);
+    const auto file = form->menu().add(u"mnu_File", u"Datei|File");
+    const auto recent = file->add(u"mnu_FileRecent", u"", 0);
+    const auto help = form->menu().add(u"mnu_Help", u"Hilfe|Help");
+    EXPECT_EQ(form->controlCount(), 7U);
+    EXPECT_EQ(form->controlAt(4), file);
+    EXPECT_EQ(form->controlAt(5), recent) << "what a menu holds stands before the next menu";
+    EXPECT_EQ(form->controlAt(6), help);
+    EXPECT_RAISES(form->controlAt(7), IndexOutOfBounds);
+    EXPECT_EQ(form->control<Menu>(u"mnu_FileRecent", 0), recent);
+}
+
 TEST_F(FormControls, DesignSetsTextsPlacesContainersAndVisibility)
 {
     applyLayout(*form, Design);

@@ -73,6 +73,26 @@ TEST_F(LabelTest, FontIsSharedByReference)
     EXPECT_RAISES(label->Font(nullptr), ObjectNotSet);
 }
 
+TEST_F(LabelTest, OneThatCanTakeTheFocusIsALink)
+{
+    int clicks = 0;
+    const Connection listening = label->Click.connect([&] { ++clicks; });
+    EXPECT_TRUE(label->parts().empty());
+    label->frame().canFocus(true);
+    label->Caption(u"<b>Mehr</b>");
+    label->Move(0, 0, 600, 150);
+    ASSERT_EQ(label->parts().size(), 1U);
+    EXPECT_EQ(label->parts().front().name, u"Mehr");
+    label->activatePart(0);
+    EXPECT_EQ(clicks, 1);
+
+    form->Show();
+    label->SetFocus();
+    headless::type(*form, u"{enter} a");
+    EXPECT_EQ(clicks, 3) << "Return and Space click it, other keys do not";
+    EXPECT_THAT(drawn(*label), ::testing::HasSubstr("box"));
+}
+
 TEST_F(LabelTest, StyledLabelIsAlignedInBothDirections)
 {
     styled->Move(0, 0, 300, 300);

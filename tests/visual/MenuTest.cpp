@@ -54,6 +54,16 @@ TEST_F(MenuTest, UnloadTakesAnElementAway)
     EXPECT_EQ(file->entries().size(), 2U);
 }
 
+TEST_F(MenuTest, TellsTheGreatestIndexOfAnArray)
+{
+    EXPECT_EQ(file->upperBound(u"mnu_Recent"), 0);
+    file->load(u"mnu_Recent", 7);
+    file->load(u"mnu_Recent", 3);
+    EXPECT_EQ(file->upperBound(u"MNU_RECENT"), 7);
+    EXPECT_RAISES(file->upperBound(u"mnu_None"), IndexOutOfBounds);
+    EXPECT_RAISES(file->upperBound(u"mnu_Quit"), IndexOutOfBounds) << "an entry of no array";
+}
+
 TEST_F(MenuTest, ChoiceIsToldAtTheEntryWithItsIndexAndAtTheMenusAbove)
 {
     std::vector<String> heard;
