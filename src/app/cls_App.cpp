@@ -3,6 +3,8 @@
 #include "app/Session.h"
 #include "app/StartUp.h"
 #include "app/cls_AppConfig.h"
+#include "app/cls_AppDialog.h"
+#include "app/cls_AppMRU.h"
 #include "app/cls_AppTools.h"
 #include "app/cls_AppURL.h"
 #include "app/cls_Language.h"
@@ -91,6 +93,26 @@ const std::shared_ptr<cls_AppTools>& cls_App::TOOLS()
 void cls_App::TOOLS(std::shared_ptr<cls_AppTools> value)
 {
     tools_.set(std::move(value));
+}
+
+const std::shared_ptr<cls_AppMRU>& cls_App::MRU()
+{
+    return mru_.get();
+}
+
+void cls_App::MRU(std::shared_ptr<cls_AppMRU> value)
+{
+    mru_.set(std::move(value));
+}
+
+const std::shared_ptr<cls_AppDialog>& cls_App::DIALOG()
+{
+    return dialog_.get();
+}
+
+void cls_App::DIALOG(std::shared_ptr<cls_AppDialog> value)
+{
+    dialog_.set(std::move(value));
 }
 
 } // namespace phial

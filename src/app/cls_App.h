@@ -11,6 +11,8 @@ namespace phial
 
 class InterCom;
 class cls_AppConfig;
+class cls_AppDialog;
+class cls_AppMRU;
 class cls_AppTools;
 class cls_AppURL;
 class cls_Language;
@@ -59,6 +61,14 @@ public:
     const std::shared_ptr<cls_AppTools>& TOOLS();
     void TOOLS(std::shared_ptr<cls_AppTools> value);
 
+    /// Recent files; made when CONFIG.IDENT is set.
+    const std::shared_ptr<cls_AppMRU>& MRU();
+    void MRU(std::shared_ptr<cls_AppMRU> value);
+
+    /// Dialogs.
+    const std::shared_ptr<cls_AppDialog>& DIALOG();
+    void DIALOG(std::shared_ptr<cls_AppDialog> value);
+
     /// The messenger to the other programs of the suite. Made at the start, not set before.
     const std::shared_ptr<InterCom>& INTERCOM() const { return interCom_; }
     void INTERCOM(std::shared_ptr<InterCom> value) { interCom_ = std::move(value); }
@@ -72,6 +82,8 @@ private:
     SubObject<cls_AppURL> url_;
     SubObject<cls_AppConfig> config_;
     SubObject<cls_AppTools> tools_;
+    SubObject<cls_AppMRU> mru_;
+    SubObject<cls_AppDialog> dialog_;
     std::shared_ptr<InterCom> interCom_;
     ServerContact serverContact_;
 };

@@ -1,4 +1,5 @@
 #include "app/AppTest.h"
+#include "app/cls_AppDialog.h"
 #include "app/screen/DebugPos.h"
 #include "app/screen/Desktop.h"
 
@@ -24,6 +25,13 @@ TEST_F(ScreenServices, CountFontsAsSmallWithoutADesktop)
 {
     outside.display().TextHeight(std::nullopt);
     EXPECT_TRUE(IsSmallFonts());
+}
+
+TEST_F(ScreenServices, TheDialogsHideAndShowTheTaskbarForTheHost)
+{
+    QVAPP()->DIALOG()->TASKBARVISIBLE(false);
+    QVAPP()->DIALOG()->TASKBARVISIBLE(true);
+    EXPECT_EQ(outside.windows().taskbarOrders(), (std::vector<bool>{false, true}));
 }
 
 TEST_F(ScreenServices, HideAndShowTheTaskbar)

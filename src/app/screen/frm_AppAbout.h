@@ -1,0 +1,54 @@
+#pragma once
+
+#include "core/CoreTokenList.h"
+#include "core/Event.h"
+#include "core/String.h"
+
+#include <memory>
+
+namespace phial
+{
+
+class Form;
+class Label;
+struct KeyEvent;
+
+/// The window that tells about the program: its name, version and copyright from the settings, who made it
+/// and where more is to be read, and where it runs. Made anew for each time it is shown, see
+/// cls_AppDialog::ABOUT.
+///
+/// Its links open in the browser; they can be reached by the Tab key. Escape closes like the button.
+class frm_AppAbout
+{
+public:
+    frm_AppAbout();
+    ~frm_AppAbout();
+    frm_AppAbout(const frm_AppAbout&) = delete;
+    frm_AppAbout& operator=(const frm_AppAbout&) = delete;
+
+    /// Shows it modally; returns when it has been closed.
+    void Show();
+    /// Puts all texts in the language in force.
+    void TRANSLATE();
+
+    Form& form() { return *form_; }
+
+private:
+    void build();
+    void style();
+    void connect();
+    void load();
+    void placeLinks();
+    void paintEmblem();
+    void hyperlinkCursor(StringView file);
+    void open(StringView address);
+    void keyDown(KeyEvent& event);
+    void caption(StringView label, String text);
+    std::shared_ptr<Label> label(StringView name, std::int32_t index = -1) const;
+
+    std::shared_ptr<Form> form_;
+    CoreTokenList texts_;
+    Connections connections_;
+};
+
+} // namespace phial
