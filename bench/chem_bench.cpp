@@ -47,15 +47,6 @@ void onSchoolFormulas(benchmark::State& state, Work&& work)
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(formulas.size()));
 }
 
-String repeated(StringView text, std::size_t times)
-{
-    String result;
-    for (std::size_t time = 0; time < times; ++time) {
-        result += text;
-    }
-    return result;
-}
-
 void ELEMENTSCOUNT(benchmark::State& state)
 {
     const cls_DataElements table;
@@ -82,29 +73,5 @@ void IMPORT2(benchmark::State& state)
     }
 }
 BENCHMARK(IMPORT2)->Unit(benchmark::kMicrosecond);
-
-// Both grow with the length alone: the argument is the number of characters.
-void LongFormula(benchmark::State& state)
-{
-    const cls_DataElements table;
-    const String formula = repeated(u"CH2", static_cast<std::size_t>(state.range(0)) / 3);
-    for (auto step : state) {
-        benchmark::DoNotOptimize(table.ELEMENTSCOUNT(formula));
-    }
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(LongFormula)->RangeMultiplier(10)->Range(1'000, 100'000)->Complexity(benchmark::oN);
-
-void NestedGroups(benchmark::State& state)
-{
-    const cls_DataElements table;
-    const auto depth = static_cast<std::size_t>(state.range(0)) / 4;
-    const String formula = repeated(u"(H", depth) + repeated(u")1", depth);
-    for (auto step : state) {
-        benchmark::DoNotOptimize(table.ELEMENTSCOUNT(formula));
-    }
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(NestedGroups)->RangeMultiplier(10)->Range(4'000, 400'000)->Complexity(benchmark::oN);
 
 } // namespace

@@ -84,38 +84,6 @@ void TextDocumentOnPicture(benchmark::State& state)
 }
 BENCHMARK(TextDocumentOnPicture);
 
-String repeated(StringView text, std::int64_t times)
-{
-    String result;
-    for (std::int64_t time = 0; time < times; ++time) {
-        result += text;
-    }
-    return result;
-}
-
-void drawLong(benchmark::State& state, const String& term)
-{
-    const auto picture = std::make_shared<Picture>(PictureSize);
-    DrawDevice device(std::make_shared<qt::PictureBackend>(picture, std::make_shared<qt::QtTextMetrics>()));
-    for (auto step : state) {
-        benchmark::DoNotOptimize(TermDraw(device, term, 4, 20, TEXTALIGN::TopLeft));
-    }
-    state.SetComplexityN(state.range(0));
-}
-
-// These grow with the length alone: the argument is the number of opening brackets.
-void OpenBrackets(benchmark::State& state)
-{
-    drawLong(state, repeated(u"(", state.range(0)));
-}
-BENCHMARK(OpenBrackets)->RangeMultiplier(10)->Range(100, 10'000)->Complexity(benchmark::oN);
-
-void NestedFractions(benchmark::State& state)
-{
-    drawLong(state, repeated(u"(", state.range(0)) + u"a" + repeated(u")/(b)", state.range(0)));
-}
-BENCHMARK(NestedFractions)->RangeMultiplier(10)->Range(100, 10'000)->Complexity(benchmark::oN);
-
 } // namespace
 
 int main(int argc, char** argv)
