@@ -1,5 +1,7 @@
 #include "DesktopSession.h"
 #include "qt/desktop/DesktopDialogs.h"
+#include "qt/desktop/ShotBook.h"
+#include "qt/desktop/ShotDialogs.h"
 
 #include <QDialog>
 #include <QFileDialog>
@@ -113,6 +115,43 @@ TEST_F(DialogsTest, TheFileDialogGivesThePathAsTheSystemWritesIt)
         box.reject();
     });
     EXPECT_EQ(dialogs_.SaveFile(u"\\tmp\\", u"Speichern", u"Textdatei|*.txt"), u"");
+}
+
+TEST_F(DialogsTest, TheFileDialogIsLabelledInTheLanguageOfTheSession)
+{
+    SessionState::current().locale().language = German;
+    whenShown([](QDialog& box) {
+        auto& files = dynamic_cast<QFileDialog&>(box);
+        EXPECT_EQ(files.labelText(QFileDialog::Accept), QStringLiteral("Speichern"));
+        EXPECT_EQ(files.labelText(QFileDialog::Reject), QStringLiteral("Abbrechen"));
+        EXPECT_EQ(files.labelText(QFileDialog::FileName), QStringLiteral("Dateiname:"));
+        box.reject();
+    });
+    dialogs_.SaveFile({}, u"Speichern", u"Textdatei|*.txt");
+}
+
+TEST_F(DialogsTest, AllPartsOfABoxHaveItsTextSize)
+{
+    whenShown([](QDialog& box) {
+        EXPECT_EQ(button(box, QStringLiteral("Ja")).font().pointSizeF(), 10);
+        EXPECT_EQ(button(box, QStringLiteral("Nein")).font().pointSizeF(), 10);
+        box.reject();
+    });
+    SessionState::current().locale().language = German;
+    dialogs_.YesNo(u"Weiter?", {});
+}
+
+TEST_F(DialogsTest, ABookTakesABoxInPlaceOfAUserAndClosesIt)
+{
+    const test::TemporaryFolder pictures;
+    ShotBook book(pictures.native(), 2);
+    ShotDialogs boxes;
+
+    book.takeModal(u"frage", [&] { EXPECT_EQ(boxes.YesNo(u"Weiter?", {}), DialogAnswer::No); });
+
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(pictures.has("frage@2x.png"));
+    EXPECT_FALSE(ShotBook::isTakingModal());
 }
 
 TEST(ToolkitFilter, PairsNamesWithPatterns)

@@ -174,6 +174,31 @@ TEST_F(NativeControlsTest, ArrowKeysChooseInAList)
     EXPECT_EQ(list->Text(), u"Ben");
 }
 
+TEST_F(NativeControlsTest, AListKeepsItsPlaceWhenALineChanges)
+{
+    const auto list = shown<ListBox>(u"lst_Names");
+    for (int line = 0; line < 50; ++line) {
+        list->AddItem(u"Anna");
+    }
+    auto& widget = inner<QListWidget>(*list);
+    widget.scrollToItem(widget.item(40));
+    const int place = widget.verticalScrollBar()->value();
+    ASSERT_GT(place, 0);
+    list->List(3, u"Ben");
+    EXPECT_EQ(widget.item(3)->text(), QStringLiteral("Ben"));
+    EXPECT_EQ(widget.verticalScrollBar()->value(), place);
+    list->RemoveItem(0);
+    EXPECT_EQ(widget.count(), 49);
+    EXPECT_EQ(widget.item(2)->text(), QStringLiteral("Ben"));
+}
+
+TEST_F(NativeControlsTest, TheLineOfAComboBoxHasItsFont)
+{
+    const auto box = shown<ComboBox>(u"cbo_Names");
+    box->Font()->Size(15);
+    EXPECT_EQ(inner<QComboBox>(*box).lineEdit()->font().pointSizeF(), 15);
+}
+
 TEST_F(NativeControlsTest, AComboBoxTakesATypedTextAndAChosenLine)
 {
     const auto box = shown<ComboBox>(u"cbo_Names");

@@ -55,11 +55,16 @@ QString titleOr(StringView title)
     return toQt(title.empty() ? programTitle() : String(title));
 }
 
-void enlargeText(QWidget& box)
+/// Runs the box until the user ends it.
+int run(QDialog& box)
 {
     QFont font = box.font();
     font.setPointSizeF(TextSize);
-    box.setFont(font);
+    for (QWidget* part : box.findChildren<QWidget*>()) {
+        part->setFont(font);
+    }
+    const SystemBox running;
+    return box.exec();
 }
 
 QPushButton* addButton(QMessageBox& box, const BoxText& text, QMessageBox::ButtonRole role)
@@ -71,7 +76,6 @@ QPushButton* addButton(QMessageBox& box, const BoxText& text, QMessageBox::Butto
 
 void prepare(QMessageBox& box, StringView text, StringView title)
 {
-    enlargeText(box);
     box.setWindowTitle(titleOr(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(toQt(text));
@@ -81,8 +85,7 @@ void showMessage(QMessageBox& box)
 {
     QPushButton* ok = addButton(box, Ok, QMessageBox::AcceptRole);
     markAccent(*ok, true);
-    const SystemBox open;
-    box.exec();
+    run(box);
 }
 
 QPushButton* closingButton(QDialog& dialog, const BoxText& text, void (QDialog::*end)())
@@ -136,15 +139,13 @@ DialogAnswer DesktopDialogs::YesNo(StringView pText, StringView pTitle)
     markAccent(*yes, true);
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
-    const SystemBox open;
-    box.exec();
+    run(box);
     return box.clickedButton() == yes ? DialogAnswer::Yes : DialogAnswer::No;
 }
 
 void DesktopDialogs::Text(StringView pText, StringView pTitle)
 {
     QDialog dialog(QApplication::activeWindow());
-    enlargeText(dialog);
     dialog.setWindowTitle(titleOr(pTitle));
     dialog.resize(TextBoxSize);
     auto* layout = new QVBoxLayout(&dialog);
@@ -152,8 +153,7 @@ void DesktopDialogs::Text(StringView pText, StringView pTitle)
     text->setReadOnly(true);
     layout->addWidget(text);
     layout->addWidget(closingButton(dialog, Close, &QDialog::accept), 0, Qt::AlignRight);
-    const SystemBox open;
-    dialog.exec();
+    run(dialog);
 }
 
 String DesktopDialogs::SaveFile(StringView pFolder, StringView pTitle, StringView pFilter)
@@ -173,8 +173,7 @@ String DesktopDialogs::SaveFile(StringView pFolder, StringView pTitle, StringVie
         dialog.setDefaultSuffix(
             filter.mid(dot + 2).section(QLatin1Char(')'), 0, 0).section(QLatin1Char(' '), 0, 0));
     }
-    const SystemBox open;
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (run(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
     return systemPath(dialog.selectedFiles().constFirst().toStdU16String());
@@ -189,7 +188,6 @@ void DesktopDialogs::Done(StringView pText)
 String DesktopDialogs::Input(StringView pPrompt, StringView pTitle, StringView pDefault)
 {
     QDialog dialog(QApplication::activeWindow());
-    enlargeText(dialog);
     dialog.setWindowTitle(titleOr(pTitle));
     dialog.setMinimumWidth(InputWidth);
     auto* layout = new QVBoxLayout(&dialog);
@@ -210,8 +208,7 @@ String DesktopDialogs::Input(StringView pPrompt, StringView pTitle, StringView p
     layout->addWidget(prompt);
     layout->addWidget(line);
     layout->addLayout(buttons);
-    const SystemBox open;
-    return dialog.exec() == QDialog::Accepted ? fromQt(line->text()) : String();
+    return run(dialog) == QDialog::Accepted ? fromQt(line->text()) : String();
 }
 
 String toolkitFilter(StringView pairs)

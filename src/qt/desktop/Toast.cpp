@@ -20,6 +20,7 @@ using namespace std::chrono_literals;
 constexpr auto ShownFor = 1200ms;
 constexpr int Margin = 18;
 constexpr double Opacity = 0.94;
+constexpr double TextSize = 12; // points
 
 /// Ends with the first press or key.
 class ToastWindow final : public QDialog
@@ -41,6 +42,9 @@ void showToast(const QString& text)
     auto* label = new QLabel(text, &toast);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
+    QFont font = label->font();
+    font.setPointSizeF(TextSize);
+    label->setFont(font);
     auto* layout = new QVBoxLayout(&toast);
     layout->setContentsMargins(Margin * 2, Margin, Margin * 2, Margin);
     layout->addWidget(label);
