@@ -13,9 +13,18 @@ using phial::String;
 namespace
 {
 
+/// What the list shows of a long value; the text box has all of it.
+constexpr std::size_t LongestValue = 36;
+
+String shortened(const String& value)
+{
+    return value.size() <= LongestValue ? value : value.substr(0, LongestValue - 1) + u'\u2026';
+}
+
 String lineOf(const PropertyRow& row)
 {
-    return row.kind == PropertyRow::Kind::Operation ? row.name + u"( )" : row.name + u" = " + row.value;
+    return row.kind == PropertyRow::Kind::Operation ? row.name + u"( )"
+                                                    : row.name + u" = " + shortened(row.value);
 }
 
 } // namespace

@@ -47,6 +47,7 @@ Exhibit label()
                                              label.Alignment(Alignment::Centre);
                                          }),
                            sample<Label>(u"Farbig|Coloured", [=](Label& label) {
+                               label.WordWrap(false);
                                label.AutoSize(true);
                                sized(label, u" Weiß auf Blau | White on blue ");
                                label.BackStyle(BackStyle::Opaque);
