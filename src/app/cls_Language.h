@@ -46,10 +46,10 @@ public:
     /// The language's part of a text divided by "|"; a text without it comes back unchanged.
     String TRANSLATEAUTO(StringView pX) const;
 
-    /// Puts all texts of a form in the language in use: its caption and those of its controls, which are written
-    /// "German|English" at design time. Errors are ignored. A caller that translates a form again keeps the
-    /// buffer, which then holds one token a text, its German and its English part; without one the parts that
-    /// are not shown are lost. Only texts that differ are assigned.
+    /// Puts all texts of a form in the language in use: its caption and those of its controls, which are
+    /// written "German|English" at design time. Errors are ignored. A caller that translates a form again
+    /// keeps the buffer, which then holds one token a text, its German and its English part; without one the
+    /// parts that are not shown are lost. Only texts that differ are assigned.
     void Form(Object& pForm);
     void Form(Object& pForm, CoreTokenList& pTransBuffer);
 
