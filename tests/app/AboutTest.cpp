@@ -4,6 +4,7 @@
 #include "headless/Hand.h"
 #include "visual/Form.h"
 #include "visual/Label.h"
+#include "visual/PictureBox.h"
 #include "visual/VisualHost.h"
 #include "visual/ctl_CmdBar.h"
 
@@ -177,6 +178,19 @@ TEST_F(About, EscapeClosesIt)
         EXPECT_FALSE(form.isLoaded());
     });
     QVAPP()->DIALOG()->ABOUT();
+}
+
+TEST_F(About, ShowsAnEmblem)
+{
+    open([this](Form& form) {
+        EXPECT_THAT(outside.visual().drawing(*form.control<PictureBox>(u"Picture1")),
+                    ::testing::HasSubstr("gradient"));
+    });
+}
+
+TEST_F(About, ItsButtonHasTheFocusAtFirst)
+{
+    open([](Form& form) { EXPECT_EQ(form.ActiveControl(), form.find(u"ctl_CmdBar1")); });
 }
 
 TEST_F(About, IsMadeAnewEachTime)

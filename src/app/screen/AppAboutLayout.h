@@ -16,6 +16,7 @@ inline constexpr double Height = 372;
 inline constexpr double Emblem = 96;
 
 inline constexpr LayoutItem Items[] = {
+    design<ctl_CmdBar>(u"ctl_CmdBar1", {0, Height - 64, Width, 64}), // first of the Tab key's order
     design<PictureBox>(u"Picture1", {24, 24, Emblem, Emblem}),
     design<Label>(u"lab_Product", {144, 22, 312, 58}),
     design<Label>(u"lab_Version", {144, 82, 312, 20}),
@@ -27,7 +28,6 @@ inline constexpr LayoutItem Items[] = {
     design<Label>(u"Descript", {24, 228, 432, 20}, u"Technische Angaben|Technical details").at(2),
     design<Label>(u"lab_Ident", {24, 250, 432, 20}),
     design<Label>(u"lab_Base", {24, 272, 432, 20}),
-    design<ctl_CmdBar>(u"ctl_CmdBar1", {0, Height - 64, Width, 64}),
 };
 
 } // namespace phial::app_about_layout

@@ -74,6 +74,7 @@ void frm_AppAbout::build()
     form_->centred(true);
     form_->KeyPreview(true);
     applyLayout(*form_, layout::Items);
+    form_->control<PictureBox>(u"Picture1")->AutoRedraw(false);
     form_->control<ctl_CmdBar>(u"ctl_CmdBar1")->BUTTONS()->Add(u"DIALOG.OK();", u"Schließen|Close");
 }
 
