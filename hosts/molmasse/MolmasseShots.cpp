@@ -1,6 +1,7 @@
 #include "molmasse/MolmasseShots.h"
 
 #include "app/cls_Language.h"
+#include "app/screen/frm_AppAbout.h"
 #include "app/sys_Global.h"
 #include "molmasse/frm_Molmasse.h"
 
@@ -84,6 +85,14 @@ private:
     StringView language_;
 };
 
+void showAbout(StringView language, const Take& take)
+{
+    phial::frm_AppAbout about;
+    about.form().Show();
+    take(String(u"molmasse-about-").append(language), about.form());
+    about.form().Unload();
+}
+
 void showIn(phial::enm_LanguageC language, StringView name, const Take& take)
 {
     phial::LNG()->CURRENT(language);
@@ -95,6 +104,7 @@ void showIn(phial::enm_LanguageC language, StringView name, const Take& take)
     broken.missing = Missing::Elements;
     broken.file = u"Resources\\Data\\elements2.dat";
     Tour(broken, take, name).take(u"missing");
+    showAbout(name, take);
 }
 
 } // namespace

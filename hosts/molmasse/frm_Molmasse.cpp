@@ -1,5 +1,8 @@
 #include "molmasse/frm_Molmasse.h"
 
+#include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
+#include "app/cls_AppDialog.h"
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "core/Locale.h"
@@ -82,6 +85,7 @@ void frm_Molmasse::build()
     }
     buildLevels();
     buildPad();
+    form_->menu().add(u"mnu_Help", {})->add(u"mnu_HelpInfo", {});
     style::apply(*form_);
     get<phial::TextBox>(u"txt_Answer")->MaxLength(LongestAnswer);
     connect();
@@ -131,6 +135,9 @@ void frm_Molmasse::connect()
         const bool german = LNG()->EFFECTIVE() == phial::ID_Language_German;
         LNG()->CURRENT(german ? phial::ID_Language_English : phial::ID_Language_German);
     });
+    connections_ += form_->control<phial::Menu>(u"mnu_HelpInfo")->Click.connect([](std::int32_t) {
+        phial::QVAPP()->DIALOG()->ABOUT();
+    });
     connections_ += form_->TRANSLATE.connect([this] { TRANSLATE(); });
     for (const auto* button : {u"but_Stop", u"but_Quit", u"but_Leave"}) {
         press(button, [this] { form_->Unload(); });
@@ -147,6 +154,9 @@ void frm_Molmasse::connect()
 void frm_Molmasse::TRANSLATE()
 {
     form_->Caption(translate(u"Molmassen-Trainer", u"Molar mass trainer"));
+    phial::QVAPP()->CONFIG()->NAME(form_->Caption());
+    form_->control<phial::Menu>(u"mnu_Help")->Caption(translate(u"&Hilfe", u"&Help"));
+    form_->control<phial::Menu>(u"mnu_HelpInfo")->Caption(translate(u"&Info", u"&About"));
     for (const auto& item : layout::Contents) {
         if (!item.text.empty()) {
             phial::setMember(*form_->find(item.name, item.index), u"Caption",

@@ -16,6 +16,7 @@ int main(int argc, char** argv)
     const auto& app = phial::QVAPP();
     app->CONFIG()->IDENT(u"Molmasse");
     app->CONFIG()->NAME(u"Molmassen-Trainer");
+    app->CONFIG()->VERSION(u"" PHIAL_VERSION);
     // Without an installation the start ends early; the window then says what is missing.
     phial::ignoringErrors([&] { app->INIT(application.commandLine()); });
 

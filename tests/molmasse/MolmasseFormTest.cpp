@@ -31,6 +31,22 @@ TEST_F(TrainerTest, BeginsWithTheChoiceOfTheLevel)
     EXPECT_EQ(focused(), u"but_Level");
 }
 
+TEST_F(TrainerTest, HelpTellsAboutTheTrainerInTheLanguageInForce)
+{
+    openInstalled();
+    const auto expectAbout = [this](StringView menu, StringView caption) {
+        EXPECT_EQ(form().control<phial::Menu>(u"mnu_Help")->Caption(), menu);
+        outside.visual().onModal(u"frm_AppAbout", [caption](phial::Form& about) {
+            EXPECT_EQ(about.Caption(), caption);
+            about.Unload();
+        });
+        form().control<phial::Menu>(u"mnu_HelpInfo")->inputClick();
+    };
+    expectAbout(u"&Hilfe", u"Info über Molmassen-Trainer");
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    expectAbout(u"&Help", u"About Molar mass trainer");
+}
+
 TEST_F(TrainerTest, AWholeRoundGoesByKeysAlone)
 {
     openInstalled();
