@@ -1,3 +1,4 @@
+#include "app/screen/frm_AppAbout.h"
 #include "app/screen/frm_Fade.h"
 #include "core/CoreDialogs.h"
 #include "core/CoreRoot.h"
@@ -117,6 +118,25 @@ Exhibit fade()
              sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); })}};
 }
 
+ObjectPtr buildAbout(Stage& stage)
+{
+    putNote(stage, u"Der Knopf unten öffnet das Fenster; in Programmen steht es im Menü Hilfe.|"
+                   u"The button below opens the window; programs have it in their Help menu.");
+    const auto about = std::make_shared<frm_AppAbout>();
+    stage.atEnd([about] { about->form().discard(); });
+    return about->form().shared_from_this();
+}
+
+Exhibit about()
+{
+    return {Group::Windows,
+            u"frm_AppAbout",
+            u"Sagt, was das Programm ist.|Tells what the program is.",
+            buildAbout,
+            {sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+             sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); })}};
+}
+
 /// A way to open a box: gives what the user has answered.
 using Ask = String (*)(CoreDialogs&);
 
@@ -222,7 +242,7 @@ std::vector<Exhibit> askingDialogs()
 
 std::vector<Exhibit> windowExhibits()
 {
-    std::vector<Exhibit> all{form(), fade()};
+    std::vector<Exhibit> all{form(), fade(), about()};
     for (auto section : {tellingDialogs, askingDialogs}) {
         std::ranges::move(section(), std::back_inserter(all));
     }

@@ -1,5 +1,9 @@
 #include "gallery/frm_Gallery.h"
 
+#include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
+#include "app/cls_AppDialog.h"
+#include "app/cls_AppMRU.h"
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "core/CoreTheme.h"
@@ -84,12 +88,18 @@ void frm_Gallery::buildStates()
 void frm_Gallery::buildMenu()
 {
     const auto file = form_->menu().add(u"men_File", {});
+    file->add(u"mnu_FileMRU", {}, 0);
+    file->add(u"mnu_FileMRUSep", u"-");
     file->add(u"men_Quit", {});
     const auto language = form_->menu().add(u"men_Language", {});
     for (std::size_t i = 0; i < Languages.size(); ++i) {
         language->add(u"men_Choice", Languages[i] == phial::ID_Language_German ? u"&Deutsch" : u"&English",
                       static_cast<std::int32_t>(i));
     }
+    form_->menu().add(u"men_Help", {})->add(u"men_Info", {});
+    const auto& recent = phial::QVAPP()->MRU();
+    recent->DEVICE(form_);
+    recent->UPDATE();
 }
 
 void frm_Gallery::style()
@@ -153,6 +163,14 @@ void frm_Gallery::connect()
     const auto& menu = form_->menu();
     connections_ +=
         menu.entry(u"men_File")->entry(u"men_Quit")->Click.connect([this](std::int32_t) { form_->Unload(); });
+    connections_ += menu.entry(u"men_File")->Chosen.connect([this](const phial::Menu& entry) {
+        if (entry.NAME() == u"mnu_FileMRU") {
+            recentChosen(entry.Tag());
+        }
+    });
+    connections_ += menu.entry(u"men_Help")->entry(u"men_Info")->Click.connect([](std::int32_t) {
+        phial::QVAPP()->DIALOG()->ABOUT();
+    });
     connections_ += menu.entry(u"men_Language")->Chosen.connect([](phial::Menu& choice) {
         phial::LNG()->CURRENT(Languages[static_cast<std::size_t>(choice.Index())]);
     });
@@ -173,6 +191,10 @@ void frm_Gallery::TRANSLATE()
     const auto file = form_->menu().entry(u"men_File");
     file->Caption(say(u"&Datei|&File"));
     file->entry(u"men_Quit")->Caption(say(u"&Beenden|&Quit"));
+    const auto help = form_->menu().entry(u"men_Help");
+    help->Caption(say(u"&Hilfe|&Help"));
+    help->entry(u"men_Info")->Caption(say(u"&Info|&About"));
+    phial::QVAPP()->CONFIG()->NAME(say(u"Galerie|Gallery"));
     const auto language = form_->menu().entry(u"men_Language");
     language->Caption(say(u"&Sprache|&Language"));
     for (std::size_t i = 0; i < Languages.size(); ++i) {
@@ -212,11 +234,35 @@ void frm_Gallery::listChosen()
     if (const auto exhibit = lines_[static_cast<std::size_t>(line)]) {
         if (*exhibit != exhibit_) {
             show(*exhibit);
+            remember(*exhibit);
         }
     } else if (line == line_ - 1 && line > 0) {
         list->ListIndex(line - 1);
     } else {
         list->ListIndex(line + 1);
+    }
+}
+
+/// What was seen last stands in the File menu, as files would. Exhibits have no folder, so the list has no
+/// base.
+void frm_Gallery::remember(std::size_t exhibit)
+{
+    const auto& recent = phial::QVAPP()->MRU();
+    recent->ADD(exhibits_[exhibit].title);
+    while (recent->ENTRIES()->Count() > recent->MAX()) {
+        recent->ENTRIES()->RemoveAt(recent->ENTRIES()->Count());
+    }
+    recent->UPDATE();
+    recent->SAVE();
+}
+
+void frm_Gallery::recentChosen(const String& title)
+{
+    const auto found = std::ranges::find(exhibits_, StringView(title), &Exhibit::title);
+    if (found != exhibits_.end()) {
+        const auto exhibit = static_cast<std::size_t>(found - exhibits_.begin());
+        show(exhibit);
+        remember(exhibit);
     }
 }
 

@@ -43,6 +43,8 @@ private:
 
     void listExhibits();
     void listChosen();
+    void remember(std::size_t exhibit);
+    void recentChosen(const phial::String& title);
     void showStates();
     void showState(std::size_t state);
 

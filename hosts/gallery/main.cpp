@@ -16,6 +16,7 @@ int main(int argc, char** argv)
     const auto& app = phial::QVAPP();
     app->CONFIG()->IDENT(u"Galerie");
     app->CONFIG()->NAME(u"Galerie");
+    app->CONFIG()->VERSION(u"" PHIAL_VERSION);
     // The gallery shows everything without an installation, too.
     phial::ignoringErrors([&] { app->INIT(application.commandLine()); });
 

@@ -1,3 +1,5 @@
+#include "app/cls_App.h"
+#include "app/cls_AppMRU.h"
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "core/Colour.h"
@@ -206,6 +208,44 @@ TEST_F(GalleryTest, ChangesTheLanguageFromTheMenu)
     EXPECT_EQ(get<phial::ctl_Button>(u"but_Set")->Caption(), u"Set");
     EXPECT_TRUE(form().menu().entry(u"men_Language")->entry(u"men_Choice", 1)->Checked());
     EXPECT_FALSE(form().menu().entry(u"men_Language")->entry(u"men_Choice", 0)->Checked());
+}
+
+TEST_F(GalleryTest, TheFileMenuLeadsBackToWhatWasChosenLast)
+{
+    open();
+    const auto list = get<phial::ListBox>(u"lst_Exhibits");
+    for (std::int32_t line = 1; line <= 6; ++line) {
+        list->inputChoice(line);
+    }
+    const auto file = form().menu().entry(u"men_File");
+    EXPECT_EQ(file->upperBound(u"mnu_FileMRU"), 4);
+    const String earlier = file->entry(u"mnu_FileMRU", 3)->Caption();
+    EXPECT_NE(caption(u"lab_Name"), earlier);
+
+    file->entry(u"mnu_FileMRU", 3)->inputClick();
+
+    EXPECT_EQ(caption(u"lab_Name"), earlier);
+    EXPECT_EQ(file->entry(u"mnu_FileMRU", 1)->Caption(), earlier) << "it is the last one now";
+}
+
+TEST_F(GalleryTest, RemembersWhatWasChosenForTheNextTime)
+{
+    open();
+    get<phial::ListBox>(u"lst_Exhibits")->inputChoice(2);
+    phial::QVAPP()->MRU({});
+    gallery.reset();
+    open();
+    EXPECT_EQ(get<phial::Menu>(u"mnu_FileMRU", 1)->Caption(), u"ctl_Label");
+}
+
+TEST_F(GalleryTest, TellsAboutItselfFromTheMenu)
+{
+    open();
+    outside.visual().onModal(u"frm_AppAbout", [](phial::Form& about) {
+        EXPECT_EQ(about.Caption(), u"Info über Galerie");
+        about.Unload();
+    });
+    get<phial::Menu>(u"men_Info")->inputClick();
 }
 
 TEST_F(GalleryTest, QuitsFromTheMenu)
