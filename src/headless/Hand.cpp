@@ -106,6 +106,39 @@ void doubleClick(Control& control)
     }
 }
 
+void drag(Control& control, PixelPoint from, PixelPoint to)
+{
+    constexpr int Steps = 4;
+    const auto self = control.shared_from_this();
+    if (!control.frame().isReachable()) {
+        return;
+    }
+    const PixelPoint origin = control.frame().originOnForm();
+    const auto event = [&](double share) {
+        const PixelPoint now = control.frame().originOnForm();
+        return PointerEvent{PointerButton::Left, 0, from.x + (to.x - from.x) * share + origin.x - now.x,
+                            from.y + (to.y - from.y) * share + origin.y - now.y};
+    };
+    control.pointerDown(event(0));
+    for (int step = 1; step <= Steps; ++step) {
+        control.pointerMove(event(static_cast<double>(step) / Steps));
+    }
+    control.pointerUp(event(1));
+    control.click();
+}
+
+void turnWheel(Control& control, double notches)
+{
+    WheelEvent turn{notches};
+    for (Control* asked = &control; asked && !turn.used;) {
+        if (asked->frame().isReachable()) {
+            asked->wheel(turn);
+        }
+        const Container* holder = asked->frame().container();
+        asked = holder ? holder->owner() : nullptr;
+    }
+}
+
 void clickButton(Control& bar, StringView key)
 {
     auto& commands = dynamic_cast<CommandBar&>(bar);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/String.h"
+#include "visual/Geometry.h"
 #include "visual/KeyNotation.h"
 
 namespace phial
@@ -20,6 +21,12 @@ namespace phial::headless
 void click(Control& control);
 void click(Control& control, double x, double y);
 void doubleClick(Control& control);
+/// Presses at one place of the control, moves to another and lets go there; both are pixels of where the
+/// control was when it was pressed.
+void drag(Control& control, PixelPoint from, PixelPoint to);
+/// Turns the wheel over the control; what holds it is asked when it has no use for that. Positive notches are
+/// away from the user.
+void turnWheel(Control& control, double notches);
 /// Presses a command bar's button by its key.
 void clickButton(Control& bar, StringView key);
 

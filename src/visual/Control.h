@@ -62,6 +62,7 @@ public:
     virtual void pointerLeave() {}
     virtual void click() {}
     virtual void doubleClick() {}
+    virtual void wheel(WheelEvent&) {}
     virtual void keyDown(KeyEvent&) {}
     virtual void keyPress(KeyPressEvent&) {}
     virtual void keyUp(KeyEvent&) {}

@@ -27,6 +27,14 @@ struct PointerEvent {
     double Y = 0;
 };
 
+/// The wheel was turned over a control. Notches are positive away from the user, that is, towards the start;
+/// a touchpad brings parts of one. A handler that uses the turn says so; otherwise what holds the control is
+/// asked.
+struct WheelEvent {
+    double Notches = 0;
+    bool used = false;
+};
+
 /// Codes of keys that are not known by their character. Letters have the code of their capital, digits that
 /// of their sign.
 enum class Key : std::int32_t {

@@ -48,6 +48,7 @@ public:
     Event<const PointerEvent&> MouseDown;
     Event<const PointerEvent&> MouseMove;
     Event<const PointerEvent&> MouseUp;
+    Event<WheelEvent&> MouseWheel;
     Event<> GotFocus;
     Event<> LostFocus;
     Event<KeyEvent&> KeyDown;
@@ -69,6 +70,7 @@ public:
     void pointerDown(const PointerEvent& event) override { MouseDown.emit(event); }
     void pointerMove(const PointerEvent& event) override { MouseMove.emit(event); }
     void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
+    void wheel(WheelEvent& event) override { MouseWheel.emit(event); }
     void click() override { Click.emit(); }
     void doubleClick() override { DblClick.emit(); }
     void keyDown(KeyEvent& event) override { KeyDown.emit(event); }

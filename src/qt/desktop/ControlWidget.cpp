@@ -20,6 +20,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPalette>
+#include <QWheelEvent>
 
 namespace phial::qt
 {
@@ -282,6 +283,15 @@ void ControlWidget::mouseMoveEvent(QMouseEvent* event)
 void ControlWidget::leaveEvent(QEvent* /*event*/)
 {
     dispatch([&] { control_->pointerLeave(); });
+}
+
+// A turn that the control has no use for goes on to what holds it.
+void ControlWidget::wheelEvent(QWheelEvent* event)
+{
+    constexpr double OneNotch = 120;
+    WheelEvent turn{event->angleDelta().y() / OneNotch};
+    dispatch([&] { control_->wheel(turn); });
+    event->setAccepted(turn.used);
 }
 
 void ControlWidget::keyPressEvent(QKeyEvent* event)
