@@ -7,6 +7,7 @@
 #include "app/cls_AppMRU.h"
 #include "app/cls_AppTools.h"
 #include "app/cls_AppURL.h"
+#include "app/cls_AppUser.h"
 #include "app/cls_Language.h"
 #include "app/screen/frm_Fade.h"
 #include "app/sys_Global.h"
@@ -113,6 +114,16 @@ const std::shared_ptr<cls_AppDialog>& cls_App::DIALOG()
 void cls_App::DIALOG(std::shared_ptr<cls_AppDialog> value)
 {
     dialog_.set(std::move(value));
+}
+
+const std::shared_ptr<cls_AppUser>& cls_App::USER()
+{
+    return user_.get();
+}
+
+void cls_App::USER(std::shared_ptr<cls_AppUser> value)
+{
+    user_.set(std::move(value));
 }
 
 } // namespace phial

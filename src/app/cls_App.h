@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/DialogAids.h"
 #include "app/ServerContact.h"
 #include "app/SubObject.h"
 #include "core/String.h"
@@ -15,6 +16,7 @@ class cls_AppDialog;
 class cls_AppMRU;
 class cls_AppTools;
 class cls_AppURL;
+class cls_AppUser;
 class cls_Language;
 
 /// The root: the one object through which a program starts the system and reaches its parts, `QVAPP()`.
@@ -69,6 +71,10 @@ public:
     const std::shared_ptr<cls_AppDialog>& DIALOG();
     void DIALOG(std::shared_ptr<cls_AppDialog> value);
 
+    /// Who works with the program.
+    const std::shared_ptr<cls_AppUser>& USER();
+    void USER(std::shared_ptr<cls_AppUser> value);
+
     /// The messenger to the other programs of the suite. Made at the start, not set before.
     const std::shared_ptr<InterCom>& INTERCOM() const { return interCom_; }
     void INTERCOM(std::shared_ptr<InterCom> value) { interCom_ = std::move(value); }
@@ -77,6 +83,10 @@ public:
     const ServerContact& serverContact() const { return serverContact_; }
     void serverContact(ServerContact value) { serverContact_ = std::move(value); }
 
+    /// What the frame's dialogs ask of keyboards and sounds.
+    const DialogAids& dialogAids() const { return dialogAids_; }
+    void dialogAids(DialogAids value) { dialogAids_ = std::move(value); }
+
 private:
     String registryKey_ = u"Software\\QV Brunnhof\\Phial\\";
     SubObject<cls_AppURL> url_;
@@ -84,8 +94,10 @@ private:
     SubObject<cls_AppTools> tools_;
     SubObject<cls_AppMRU> mru_;
     SubObject<cls_AppDialog> dialog_;
+    SubObject<cls_AppUser> user_;
     std::shared_ptr<InterCom> interCom_;
     ServerContact serverContact_;
+    DialogAids dialogAids_;
 };
 
 } // namespace phial

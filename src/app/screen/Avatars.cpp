@@ -14,6 +14,8 @@
 #include "visual/PictureBox.h"
 #include "visual/VisualHost.h"
 
+#include <algorithm>
+
 namespace phial
 {
 
@@ -68,6 +70,11 @@ void AvatarImagesLoad()
     }
 }
 
+std::int32_t AvatarImageCount()
+{
+    return store().Count();
+}
+
 PicturePtr AvatarImageGet(const Variant& pIndexOrKey)
 {
     PicturePtr picture;
@@ -83,6 +90,18 @@ String AvatarImageKey(const Variant& pIndexOrKey)
 std::int32_t AvatarImageIndex(const Variant& pIndexOrKey)
 {
     return store().Index(pIndexOrKey);
+}
+
+void paintAvatar(DrawDevice& device, const PicturePtr& avatar, const PixelRectangle& area)
+{
+    if (avatar->size().isEmpty() || area.isEmpty()) {
+        return;
+    }
+    const double scale = std::min(area.width / avatar->Width(), area.height / avatar->Height());
+    const double width = avatar->Width() * scale;
+    const double height = avatar->Height() * scale;
+    device.PaintPicture(avatar, area.left + (area.width - width) / 2, area.top + (area.height - height) / 2,
+                        width, height);
 }
 
 } // namespace phial

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Variant.h"
+#include "visual/DrawDevice.h"
 #include "visual/Picture.h"
 
 #include <cstdint>
@@ -18,11 +19,17 @@ void AvatarImagesClear();
 /// is decoded when it is first asked for. Of two files whose names differ only in case the first counts.
 void AvatarImagesLoad();
 
+/// How many entries there are.
+std::int32_t AvatarImageCount();
+
 /// The picture of an entry; a neutral picture when there is no such entry or its file is no picture.
 PicturePtr AvatarImageGet(const Variant& pIndexOrKey);
 
 /// Key and index of an entry; raise 9 when there is no such entry.
 String AvatarImageKey(const Variant& pIndexOrKey);
 std::int32_t AvatarImageIndex(const Variant& pIndexOrKey);
+
+/// Paints an avatar as large as the area (in pixels) allows, in its middle and not distorted.
+void paintAvatar(DrawDevice& device, const PicturePtr& avatar, const PixelRectangle& area);
 
 } // namespace phial

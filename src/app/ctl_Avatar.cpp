@@ -1,0 +1,190 @@
+#include "app/ctl_Avatar.h"
+
+#include "app/RecentNames.h"
+#include "app/screen/Avatars.h"
+#include "visual/FrameMembers.h"
+
+#include <algorithm>
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr Colour Ground = RGB(0, 64, 118);
+constexpr double Margin = 4; ///< between the frame and the picture
+constexpr double Gap = 8;    ///< between picture and name
+constexpr double LargestIcon = 96;
+constexpr double TextPoints = 12;
+constexpr int White = 15; // of the classic table of colours
+constexpr int Grey = 7;
+constexpr int DarkGrey = 8;
+
+constexpr auto Table = joinMembers(
+    FrameMembers,
+    std::to_array<Member>({
+        members::property<ctl_Avatar, Colour, &ctl_Avatar::TEXTCOLOR, &ctl_Avatar::TEXTCOLOR>(u"TEXTCOLOR"),
+        members::property<ctl_Avatar, bool, &ctl_Avatar::CENTER, &ctl_Avatar::CENTER>(u"CENTER"),
+        members::operation<ctl_Avatar, &ctl_Avatar::UPDATE>(u"UPDATE"),
+    }));
+
+/// A name on one line: line ends and other controls are shown as blanks.
+String oneLine(String name)
+{
+    constexpr char16_t Blank = u' ';
+    std::ranges::replace_if(
+        name, [](char16_t unit) { return unit < Blank; }, Blank);
+    return name;
+}
+
+bool isSecondHalf(char16_t unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+/// As much of the name as has room, with three dots for the rest.
+String fitted(DrawDevice& device, String name, double room)
+{
+    constexpr std::size_t MostShown = 200; // no control is wider than that many letters
+    if (name.size() <= MostShown && device.TextWidth(name) <= room) {
+        return name;
+    }
+    name.resize(std::min(name.size(), MostShown));
+    while (!name.empty() && device.TextWidth(name + u"\u2026") > room) {
+        const bool isPair = isSecondHalf(name.back());
+        name.pop_back();
+        if (isPair && !name.empty()) {
+            name.pop_back();
+        }
+    }
+    return name + u"\u2026";
+}
+
+} // namespace
+
+ctl_Avatar::ctl_Avatar() : frame_(*this), surface_(*this), textColour_(QBColor(White))
+{
+    frame_.canFocus(true);
+    surface_.BackColor(Ground);
+}
+
+MemberTable ctl_Avatar::members() const
+{
+    return Table;
+}
+
+void ctl_Avatar::TEXTCOLOR(Colour value)
+{
+    textColour_ = value;
+    changed(u"TEXTCOLOR");
+}
+
+void ctl_Avatar::CENTER(bool value)
+{
+    centre_ = value;
+    changed(u"CENTER");
+}
+
+void ctl_Avatar::changed(StringView property)
+{
+    PropertyChanged.emit(String(property));
+    UPDATE();
+}
+
+void ctl_Avatar::initProperties()
+{
+    textColour_ = QBColor(White);
+    UPDATE();
+}
+
+void ctl_Avatar::readProperties(const PropertyBag& bag)
+{
+    centre_ = bag.ReadProperty(u"CENTER", false).toBoolean();
+    textColour_ =
+        members::fromVariant<Colour>(bag.ReadProperty(u"TEXTCOLOR", members::toVariant(QBColor(White))));
+    UPDATE();
+}
+
+void ctl_Avatar::writeProperties(PropertyBag& bag)
+{
+    bag.WriteProperty(u"CENTER", centre_, false);
+    bag.WriteProperty(u"TEXTCOLOR", members::toVariant(textColour_), members::toVariant(QBColor(White)));
+}
+
+void ctl_Avatar::resized()
+{
+    surface_.resized();
+    UPDATE();
+}
+
+void ctl_Avatar::UPDATE()
+{
+    readName();
+    surface_.device().Cls();
+    paintFrame();
+    paintUser();
+}
+
+void ctl_Avatar::readName()
+{
+    const std::vector<RecentName> names = recentNames();
+    const RecentName latest = names.empty() ? RecentName{} : names.front();
+    avatar_ = latest.avatar;
+    if (name_ != latest.name) {
+        name_ = latest.name;
+        frame_.report(ControlAspect::Accessibility);
+    }
+}
+
+/// A sunken edge; with the focus a bright line within.
+void ctl_Avatar::paintFrame()
+{
+    DrawDevice& device = surface_.device();
+    const double right = device.ScaleWidth() - 1;
+    const double bottom = device.ScaleHeight() - 1;
+    device.Line(0, 0, right, 0, QBColor(DarkGrey));
+    device.Line(0, 0, 0, bottom, QBColor(DarkGrey));
+    device.Line(right, 0, right, bottom + 1, QBColor(Grey));
+    device.Line(0, bottom, right, bottom, QBColor(Grey));
+    if (frame_.hasFocus()) {
+        device.Line(1, 1, right - 1, bottom - 1, QBColor(White), LineShape::Box);
+    }
+}
+
+void ctl_Avatar::paintUser()
+{
+    DrawDevice& device = surface_.device();
+    const double width = device.ScaleWidth();
+    const double height = device.ScaleHeight();
+    const double side = std::min(LargestIcon, std::min(width, height) - 2 * Margin);
+    if (side <= 0) {
+        return;
+    }
+    device.font({.name = u"Tahoma", .size = TextPoints});
+    device.ForeColor(textColour_);
+    const String text = fitted(device, oneLine(name_), width - 2 * Margin - side - Gap);
+    const double taken = text.empty() ? side : side + Gap + device.TextWidth(text);
+    const double left = centre_ ? std::max(Margin, (width - taken) / 2) : Margin;
+    paintAvatar(device, AvatarImageGet(avatar_), {left, (height - side) / 2, side, side});
+    device.CurrentX(left + side + Gap);
+    device.CurrentY((height - device.TextHeight(u"A")) / 2);
+    device.Print(text);
+}
+
+void ctl_Avatar::click()
+{
+    const auto self = shared_from_this(); // a handler may close the window
+    CLICK.emit();
+    UPDATE();
+}
+
+void ctl_Avatar::keyDown(KeyEvent& event)
+{
+    if (event.is(Key::Space) || event.is(Key::Return)) {
+        event.KeyCode = 0;
+        click();
+    }
+}
+
+} // namespace phial
