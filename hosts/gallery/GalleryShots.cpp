@@ -51,6 +51,38 @@ void tour(const Camera& camera, StringView language, std::size_t mostStates)
     }
 }
 
+/// Chooses the property of that name, as the user would in the list.
+void choose(phial::Form& form, StringView property)
+{
+    const auto list = form.control<phial::ListBox>(u"lst_Properties");
+    for (std::int32_t line = 0; line < list->ListCount(); ++line) {
+        const String text = list->List(line);
+        if (text.substr(0, text.find(u' ')) == property) {
+            list->ListIndex(line);
+            return;
+        }
+    }
+}
+
+/// The property editor with a value, with a value that is refused, and within a font.
+void tourProperties(const Camera& camera)
+{
+    frm_Gallery gallery;
+    gallery.Show();
+    phial::Form& form = gallery.form();
+    const auto set = form.control<phial::ctl_Button>(u"but_Set");
+    choose(form, u"Caption");
+    camera.take(u"Properties-value-de", form);
+    choose(form, u"Width");
+    form.control<phial::TextBox>(u"txt_Value")->Text(u"breit");
+    set->click();
+    camera.take(u"Properties-refused-de", form);
+    choose(form, u"Font");
+    set->click();
+    choose(form, u"Size");
+    camera.take(u"Properties-font-de", form);
+}
+
 } // namespace
 
 void showEachState(const Camera& camera)
@@ -59,6 +91,7 @@ void showEachState(const Camera& camera)
     const phial::enm_LanguageC before = phial::LNG()->CURRENT();
     phial::LNG()->CURRENT(phial::ID_Language_German);
     tour(camera, u"de", All);
+    tourProperties(camera);
     phial::LNG()->CURRENT(phial::ID_Language_English);
     tour(camera, u"en", 1);
     phial::LNG()->CURRENT(before);

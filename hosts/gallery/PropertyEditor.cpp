@@ -1,6 +1,5 @@
 #include "gallery/PropertyEditor.h"
 
-#include "core/RuntimeError.h"
 #include "gallery/PropertyText.h"
 
 namespace gallery
@@ -35,17 +34,15 @@ PropertyRow rowOf(phial::Object& object, const phial::Member& member)
     return row;
 }
 
-/// Runs a statement; gives the description of what it raises.
+/// Runs a statement; gives what it raises.
 template <typename Statement>
-std::optional<String> errorOf(Statement&& statement)
+std::optional<phial::RuntimeError> errorOf(Statement&& statement)
 {
     try {
         statement();
         return std::nullopt;
     } catch (const phial::RuntimeError& error) {
-        return error.Description();
-    } catch (const std::exception& error) {
-        return phial::fromUtf8(error.what());
+        return error;
     }
 }
 
@@ -100,13 +97,13 @@ std::vector<std::size_t> PropertyEditor::refresh()
     return changed;
 }
 
-std::optional<String> PropertyEditor::set(std::size_t row, StringView text)
+std::optional<phial::RuntimeError> PropertyEditor::set(std::size_t row, StringView text)
 {
     const String& name = rows_.at(row).name;
     return errorOf([&] { phial::setMember(*object(), name, propertyValue(name, text)); });
 }
 
-std::optional<String> PropertyEditor::run(std::size_t row)
+std::optional<phial::RuntimeError> PropertyEditor::run(std::size_t row)
 {
     return errorOf([&] { phial::callMember(*object(), rows_.at(row).name); });
 }

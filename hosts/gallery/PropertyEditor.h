@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Object.h"
+#include "core/RuntimeError.h"
 #include "core/String.h"
 
 #include <cstddef>
@@ -44,10 +45,10 @@ public:
     /// Reads all members again; gives the positions of the rows that differ.
     std::vector<std::size_t> refresh();
 
-    /// Sets a property from a typed text; gives the error's description, none when it went well.
-    std::optional<phial::String> set(std::size_t row, phial::StringView text);
+    /// Sets a property from a typed text; gives what was raised, none when it went well.
+    std::optional<phial::RuntimeError> set(std::size_t row, phial::StringView text);
     /// Runs an operation without arguments; like set.
-    std::optional<phial::String> run(std::size_t row);
+    std::optional<phial::RuntimeError> run(std::size_t row);
     /// Opens the object that the row holds; false when it holds none.
     bool open(std::size_t row);
     /// Leaves the opened object again; false at the first one.

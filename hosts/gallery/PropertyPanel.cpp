@@ -27,6 +27,23 @@ String lineOf(const PropertyRow& row)
                                                     : row.name + u" = " + shortened(row.value);
 }
 
+String reasonOf(const phial::RuntimeError& error)
+{
+    constexpr std::int32_t InvalidPropertyValue = 380;
+    switch (error.Number()) {
+    case static_cast<std::int32_t>(phial::ErrorNumber::TypeMismatch):
+        return say(u"Dieser Wert passt nicht zu der Eigenschaft.|This value does not fit the property.");
+    case static_cast<std::int32_t>(phial::ErrorNumber::InvalidArgument):
+    case InvalidPropertyValue:
+        return say(u"Dieser Wert ist hier nicht erlaubt.|This value is not allowed here.");
+    case static_cast<std::int32_t>(phial::ErrorNumber::Overflow):
+        return say(u"Diese Zahl ist zu groß.|This number is too large.");
+    default:
+        return phial::LNG()->TRANSLATE(u"Das geht nicht: {1}", u"That does not work: {1}",
+                                       {error.Description()});
+    }
+}
+
 } // namespace
 
 PropertyPanel::PropertyPanel(phial::Form& form)
@@ -92,12 +109,10 @@ void PropertyPanel::showButtons()
                                                          : say(u"Setzen|Set"));
 }
 
-void PropertyPanel::showMessage(const std::optional<String>& error)
+void PropertyPanel::showMessage(const std::optional<phial::RuntimeError>& error)
 {
     message_->ForeColor(error ? colours::Bad : colours::Good);
-    message_->Caption(
-        error ? phial::LNG()->TRANSLATE(u"Das geht nicht: {1}", u"That does not work: {1}", {*error})
-              : say(u"Erledigt.|Done."));
+    message_->Caption(error ? reasonOf(*error) : say(u"Erledigt.|Done."));
 }
 
 void PropertyPanel::act()

@@ -32,7 +32,7 @@ private:
     void fill();
     void showChosen();
     void showButtons();
-    void showMessage(const std::optional<phial::String>& error);
+    void showMessage(const std::optional<phial::RuntimeError>& error);
     void act();
     void back();
     const PropertyRow* chosen() const;

@@ -49,7 +49,7 @@ Exhibit label()
                            sample<Label>(u"Farbig|Coloured", [=](Label& label) {
                                label.WordWrap(false);
                                label.AutoSize(true);
-                               sized(label, u" Weiß auf Blau | White on blue ");
+                               sized(label, u"Weiß auf Blau|White on blue");
                                label.BackStyle(BackStyle::Opaque);
                                label.BackColor(colours::Blue);
                                label.ForeColor(colours::White);

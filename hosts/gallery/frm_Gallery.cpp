@@ -78,8 +78,9 @@ void frm_Gallery::buildStates()
     const auto first = states_(0);
     for (int i = 0; i < layout::MostStates; ++i) {
         const auto button = states_.has(i) ? states_(i) : states_.load(i);
-        button->Move(first->Left() + i % layout::StateColumns * layout::StateStepX,
-                     first->Top() + i / layout::StateColumns * layout::StateStepY);
+        const int row = i / layout::StateColumns;
+        const int column = i % layout::StateColumns;
+        button->Move(first->Left() + column * layout::StateStepX, first->Top() + row * layout::StateStepY);
         button->frame().TabIndex(first->frame().TabIndex());
         button->Font(galleryFont(10));
     }

@@ -123,6 +123,7 @@ TEST_F(CatalogueTest, ATourTakesEachStateOnceUnderItsOwnName)
     EXPECT_TRUE(names.contains(u"ctl_TermLabel-9-de"));
     EXPECT_TRUE(names.contains(u"Label-1-en"));
     EXPECT_FALSE(names.contains(u"Label-2-en"));
+    EXPECT_TRUE(names.contains(u"Properties-refused-de"));
     EXPECT_TRUE(names.contains(u"Form-2-de-window"));
     EXPECT_TRUE(names.contains(u"CoreDialogs.Error-2-de"));
     EXPECT_EQ(phial::LNG()->CURRENT(), phial::ID_Language_System);

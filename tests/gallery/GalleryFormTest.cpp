@@ -105,10 +105,10 @@ TEST_F(GalleryTest, TellsWhyAValueIsRefused)
     show(u"ctl_Label");
 
     set(u"Width", u"breit");
-    EXPECT_EQ(caption(u"lab_Message"), u"Das geht nicht: Type mismatch");
+    EXPECT_EQ(caption(u"lab_Message"), u"Dieser Wert passt nicht zu der Eigenschaft.");
 
     set(u"Width", u"-5");
-    EXPECT_EQ(caption(u"lab_Message"), u"Das geht nicht: Invalid argument");
+    EXPECT_EQ(caption(u"lab_Message"), u"Dieser Wert ist hier nicht erlaubt.");
     EXPECT_EQ(get<phial::ctl_Label>(u"ctl_Label1")->Width(), 300);
 }
 
