@@ -3,6 +3,7 @@
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace gallery
@@ -35,10 +36,11 @@ phial::String groupTitle(Group group)
 std::vector<Exhibit> catalogue()
 {
     std::vector<Exhibit> all;
-    for (const auto section :
-         {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits, formulaExhibits}) {
+    for (const auto section : {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits,
+                               userExhibits, formulaExhibits}) {
         std::ranges::move(section(), std::back_inserter(all));
     }
+    std::ranges::stable_sort(all, {}, &Exhibit::group);
     return all;
 }
 

@@ -12,6 +12,7 @@ std::vector<Exhibit> shownExhibits();
 std::vector<Exhibit> inputExhibits();
 std::vector<Exhibit> barExhibits();
 std::vector<Exhibit> partExhibits();
+std::vector<Exhibit> userExhibits();
 std::vector<Exhibit> windowExhibits();
 std::vector<Exhibit> formulaExhibits();
 

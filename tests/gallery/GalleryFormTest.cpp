@@ -43,7 +43,7 @@ TEST_F(GalleryTest, AHeadingIsSteppedOverInTheDirectionOfTheMove)
 {
     open();
     const auto list = get<phial::ListBox>(u"lst_Exhibits");
-    gallery->show(exhibit(u"ctl_Frame"));
+    gallery->show(exhibit(u"ctl_Avatar"));
     const std::int32_t above = list->ListIndex();
 
     list->inputChoice(above + 1);
@@ -51,7 +51,7 @@ TEST_F(GalleryTest, AHeadingIsSteppedOverInTheDirectionOfTheMove)
     EXPECT_EQ(list->ListIndex(), above + 2);
 
     list->inputChoice(above + 1);
-    EXPECT_EQ(caption(u"lab_Name"), u"ctl_Frame");
+    EXPECT_EQ(caption(u"lab_Name"), u"ctl_Avatar");
 
     list->inputChoice(0);
     EXPECT_EQ(caption(u"lab_Name"), u"Label");
