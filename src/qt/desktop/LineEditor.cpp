@@ -88,7 +88,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<TextEditor> makeLineEditor(QWidget& holder, std::function<void()> changed)
+std::unique_ptr<TextEditor> makeLineEditor(QWidget& holder, const std::function<void()>& changed)
 {
     return std::make_unique<LineEditor>(holder, changed);
 }

@@ -90,7 +90,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<TextEditor> makePageEditor(QWidget& holder, std::function<void()> changed)
+std::unique_ptr<TextEditor> makePageEditor(QWidget& holder, const std::function<void()>& changed)
 {
     return std::make_unique<PageEditor>(holder, changed);
 }

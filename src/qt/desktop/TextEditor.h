@@ -45,7 +45,7 @@ public:
 
 /// Both call `changed` when text or selection have changed, by whomever. The holder owns their widgets, which
 /// end with the editor.
-std::unique_ptr<TextEditor> makeLineEditor(QWidget& holder, std::function<void()> changed);
-std::unique_ptr<TextEditor> makePageEditor(QWidget& holder, std::function<void()> changed);
+std::unique_ptr<TextEditor> makeLineEditor(QWidget& holder, const std::function<void()>& changed);
+std::unique_ptr<TextEditor> makePageEditor(QWidget& holder, const std::function<void()>& changed);
 
 } // namespace phial::qt
