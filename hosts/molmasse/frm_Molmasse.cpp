@@ -113,8 +113,9 @@ void frm_Molmasse::buildPad()
     const double top = first->Top();
     for (int i = 0; i < static_cast<int>(std::size(layout::PadKeys)); ++i) {
         const auto key = pad_.has(i) ? pad_(i) : pad_.load(i);
-        key->Move(left + i % layout::PadColumns * layout::PadStep,
-                  top + i / layout::PadColumns * layout::PadStep);
+        const int row = i / layout::PadColumns;
+        const int column = i % layout::PadColumns;
+        key->Move(left + column * layout::PadStep, top + row * layout::PadStep);
         key->Caption(layout::PadKeys[i] == u"," ? String(1, phial::currentLocale().decimalSign)
                                                 : String(layout::PadKeys[i]));
         // The answer keeps the focus, and with it its selection, while the pad is touched.

@@ -26,8 +26,9 @@ constexpr double CellInset = 1;
 /// The corner of an avatar's cell.
 PixelPoint cellOf(std::int32_t index)
 {
-    return {static_cast<double>((index - 1) % Columns * Cell),
-            static_cast<double>((index - 1) / Columns * Cell)};
+    const std::int32_t row = (index - 1) / Columns;
+    const std::int32_t column = (index - 1) % Columns;
+    return {static_cast<double>(column * Cell), static_cast<double>(row * Cell)};
 }
 
 } // namespace

@@ -25,16 +25,26 @@ inline constexpr double Marker = 48;
 inline constexpr std::int32_t LastPlaces = 6;
 inline constexpr StringView NobodyYet = u"Noch Niemand|Nobody yet";
 
+/// Left and top edge of a place among the latest names, which stand in two columns.
+inline constexpr double lastLeft(std::int32_t index)
+{
+    const std::int32_t column = index % 2;
+    return 24.0 + column * 218;
+}
+inline constexpr double lastTop(std::int32_t index)
+{
+    const std::int32_t row = index / 2;
+    return 192.0 + row * 74;
+}
+
 inline constexpr LayoutItem lastPicture(std::int32_t index)
 {
-    return design<PictureBox>(u"pic_Last", {24.0 + index % 2 * 218, 192.0 + index / 2 * 74, 64, 64})
-        .at(index);
+    return design<PictureBox>(u"pic_Last", {lastLeft(index), lastTop(index), 64, 64}).at(index);
 }
 
 inline constexpr LayoutItem lastName(std::int32_t index)
 {
-    return design<ctl_Label>(u"lab_Last", {96.0 + index % 2 * 218, 192.0 + index / 2 * 74, 140, 64},
-                             NobodyYet)
+    return design<ctl_Label>(u"lab_Last", {lastLeft(index) + 72, lastTop(index), 140, 64}, NobodyYet)
         .at(index);
 }
 

@@ -31,8 +31,8 @@ protected:
         connections += event.connect([this, word] { log.push_back(word); });
     }
 
+    std::vector<std::string> log; ///< outlives the form, whose end is logged too
     std::shared_ptr<Form> form = std::make_shared<Form>(u"frm_Test");
-    std::vector<std::string> log;
     Connections connections;
 };
 
