@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::int32_t next = 0;
     TermDraw(device, term, 10, 20, align, false, caret, caretX, previous, next);
     if (device.FontName() != u"Tahoma" || device.FontSize() != 8 || device.FontBold() ||
-        device.CurrentY() != 5 || (caretX == -1 && next != -1)) {
+        device.CurrentY() != 5 || (next == -1 && caretX != -1)) {
         std::abort();
     }
     if (termToHtml(term).size() < term.size()) {
