@@ -14,6 +14,8 @@ class InterCom;
 class cls_AppConfig;
 class cls_AppDialog;
 class cls_AppMRU;
+class cls_AppRate;
+class cls_AppServer;
 class cls_AppTools;
 class cls_AppURL;
 class cls_AppUser;
@@ -75,6 +77,14 @@ public:
     const std::shared_ptr<cls_AppUser>& USER();
     void USER(std::shared_ptr<cls_AppUser> value);
 
+    /// Marks and result lists.
+    const std::shared_ptr<cls_AppRate>& RATE();
+    void RATE(std::shared_ptr<cls_AppRate> value);
+
+    /// The classroom's master.
+    const std::shared_ptr<cls_AppServer>& SERVER();
+    void SERVER(std::shared_ptr<cls_AppServer> value);
+
     /// The messenger to the other programs of the suite. Made at the start, not set before.
     const std::shared_ptr<InterCom>& INTERCOM() const { return interCom_; }
     void INTERCOM(std::shared_ptr<InterCom> value) { interCom_ = std::move(value); }
@@ -95,6 +105,8 @@ private:
     SubObject<cls_AppMRU> mru_;
     SubObject<cls_AppDialog> dialog_;
     SubObject<cls_AppUser> user_;
+    SubObject<cls_AppRate> rate_;
+    SubObject<cls_AppServer> server_;
     std::shared_ptr<InterCom> interCom_;
     ServerContact serverContact_;
     DialogAids dialogAids_;

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "core/CoreDatabase.h"
+#include "core/CoreParameters.h"
+#include "core/DATA.h"
+#include "core/Moment.h"
+#include "core/Object.h"
+#include "core/tmp_Data.h"
+#include "core/tmp_Database.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace phial
+{
+
+class cls_DataEvent;
+
+/// The log of what users did, in the order of adding until one is removed: the last entry takes the place of
+/// a removed one. A search finds an entry by the ID of its header.
+class cls_DataEvents : public tmp_Data,
+                       public tmp_Database,
+                       public Object,
+                       private DataOwner,
+                       private DatabaseOwner
+{
+public:
+    cls_DataEvents();
+
+    std::shared_ptr<phial::DATA> DATA() override { return data_.get(); }
+    void DATA(std::shared_ptr<phial::DATA> value) { data_.set(std::move(value)); }
+    std::shared_ptr<CoreDatabase> DATABASE() override { return database_.get(); }
+    void DATABASE(std::shared_ptr<CoreDatabase> value) { database_.set(std::move(value)); }
+
+    /// The entry at a position, or with `pForceIndex` false the one with that ID; raises 9 when there is
+    /// none.
+    std::shared_ptr<cls_DataEvent> ITEM(const Variant& pID, bool pForceIndex = true);
+    bool EXISTS(const Variant& pID) const { return database_.get()->Exists(pID); }
+    std::int32_t COUNT() const { return database_.get()->Count(); }
+    bool REMOVE(const Variant& pID, bool pForceIndex = false);
+
+    /// Adds an entry of this moment, whatever `pTimeStamp` says; empty names as in `cls_DataScores`. The
+    /// result is the new entry, which has no ID.
+    Variant ADD(StringView pAction, const CoreParameters* pAdditional = nullptr, StringView pUserName = {},
+                StringView pComputerName = {}, StringView pScreenName = {}, Moment pTimeStamp = {});
+    /// Adds an empty entry with that ID.
+    std::shared_ptr<cls_DataEvent> CREATE(const std::optional<Variant>& pID = std::nullopt);
+    void CLEAR();
+
+    bool LOAD(StringView pFile, StringView pPW = {});
+    bool SAVE(StringView pFile, StringView pPW = {});
+
+    void DEBUGSHOW();
+    String TEXT();
+    bool EXPORT(StringView pFile = {});
+    void PRINTOUT(StringView pName);
+
+    StringView typeName() const override { return u"cls_DataEvents"; }
+    MemberTable members() const override;
+
+private:
+    using Entries = std::vector<std::shared_ptr<cls_DataEvent>>;
+
+    bool DataCopy(tmp_Data& pSource) override;
+    String DataPACK() override;
+    void DataUnpack(StringView pText) override;
+    void DataStore(CoreDataStream& pStream) override;
+    void DataRead(CoreDataStream& pStream) override;
+    std::shared_ptr<tmp_Data> DataSpawn() override;
+
+    void DatabaseClear() override;
+    std::int32_t DatabaseCount() override;
+    void DatabaseImport(const std::shared_ptr<tmp_Data>& pItem, const Variant* pID) override;
+    std::shared_ptr<tmp_Data> DatabaseItem(std::int32_t pIndex) override;
+    ObjectPtr DatabaseItemObj(std::int32_t pIndex) override;
+    void DatabaseRemove(std::int32_t pIndex) override;
+    std::int32_t DatabaseSearch(const Variant& pKey) override;
+
+    DataHolder data_;
+    DatabaseHolder database_;
+    Entries entries_;
+};
+
+} // namespace phial
