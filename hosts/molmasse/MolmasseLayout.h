@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ctl_Avatar.h"
 #include "term/ctl_TermLabel.h"
 #include "visual/FormLayout.h"
 #include "visual/Label.h"
@@ -28,9 +29,10 @@ inline constexpr LayoutItem Frame[] = {
 };
 
 inline constexpr LayoutItem Contents[] = {
-    design<phial::ctl_Label>(u"lab_Title", {32, 0, 480, 72}, u"Molmassen-Trainer|Molar mass trainer")
+    design<phial::ctl_Label>(u"lab_Title", {32, 0, 300, 72}, u"Molmassen-Trainer|Molar mass trainer")
         .inside(u"bar_Header"),
-    design<phial::ctl_Label>(u"lab_Points", {Width - 432, 0, 300, 72}).inside(u"bar_Header"),
+    design<phial::ctl_Label>(u"lab_Points", {340, 0, 188, 72}).inside(u"bar_Header"),
+    design<phial::ctl_Avatar>(u"ctl_User", {548, 8, 220, 56}).inside(u"bar_Header"),
     design<phial::ctl_Button>(u"but_Language", {Width - 116, 16, 84, 40}, u"English|Deutsch")
         .inside(u"bar_Header"),
 

@@ -1,8 +1,12 @@
 #include "molmasse/MolmasseShots.h"
 
+#include "app/Settings.h"
 #include "app/cls_Language.h"
 #include "app/screen/frm_AppAbout.h"
 #include "app/sys_Global.h"
+#include "core/CoreRegistry.h"
+#include "core/CoreRoot.h"
+#include "core/CoreStringList.h"
 #include "molmasse/frm_Molmasse.h"
 
 namespace molmasse
@@ -15,6 +19,14 @@ namespace
 {
 
 using Take = std::function<void(StringView name, const phial::Form& form)>;
+
+/// From here on these have worked here before, the latest first; each is a name, ":" and an avatar's ID.
+void usersAre(std::initializer_list<StringView> users)
+{
+    phial::coreRoot().CoreRegistry().CoreRegistryWrite().WriteList(
+        phial::SettingsHive::CurrentUser, phial::settings::path(u"Config\\ScreenNameMRU"),
+        phial::CoreStringList(users));
+}
 
 /// The trainer with a user who knows the states he wants to see.
 class Tour
@@ -98,6 +110,11 @@ void showIn(phial::enm_LanguageC language, StringView name, const Take& take)
     phial::LNG()->CURRENT(language);
     const TrainerData data = loadTrainerData();
     if (data.missing == Missing::Nothing) {
+        usersAre({});
+        Tour(data, take, name).take(u"nobody");
+        usersAre({u"Dorothea Wilhelmina:eule"});
+        Tour(data, take, name).take(u"long-name");
+        usersAre({u"Maxi:fuchs"});
         Tour(data, take, name).showRound(static_cast<std::int32_t>(data.tasks.levels.size()) - 1);
     }
     TrainerData broken;

@@ -1,9 +1,12 @@
 #include "molmasse/frm_Molmasse.h"
 
+#include "app/RecentNames.h"
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
 #include "app/cls_AppDialog.h"
+#include "app/cls_AppUser.h"
 #include "app/cls_Language.h"
+#include "app/ctl_Avatar.h"
 #include "app/sys_Global.h"
 #include "core/Locale.h"
 #include "core/NumberText.h"
@@ -63,6 +66,13 @@ frm_Molmasse::~frm_Molmasse()
 void frm_Molmasse::Show()
 {
     form_->Show();
+}
+
+void frm_Molmasse::welcome()
+{
+    if (page_ != Page::Missing && phial::recentNames().empty()) {
+        askForUser();
+    }
 }
 
 void frm_Molmasse::build()
@@ -132,6 +142,7 @@ void frm_Molmasse::connect()
     press(u"but_Check", [this] { verdict_ && round_->decided() ? goOn() : check(); });
     press(u"but_Hint", [this] { giveHint(); });
     press(u"but_Again", [this] { show(Page::Start); });
+    connections_ += get<phial::ctl_Avatar>(u"ctl_User")->CLICK.connect([this] { askForUser(); });
     press(u"but_Language", [] {
         const bool german = LNG()->EFFECTIVE() == phial::ID_Language_German;
         LNG()->CURRENT(german ? phial::ID_Language_English : phial::ID_Language_German);
@@ -150,6 +161,23 @@ void frm_Molmasse::connect()
         return button.CLICK.connect([this, index] { pressPad(index); });
     });
     connections_ += form_->KeyDown.connect([this](phial::KeyEvent& event) { keyDown(event); });
+}
+
+void frm_Molmasse::askForUser()
+{
+    phial::QVAPP()->USER()->SCREENNAMEINPUT();
+    get<phial::ctl_Avatar>(u"ctl_User")->UPDATE();
+    nameUser();
+}
+
+/// What the avatar is for, seen and heard.
+void frm_Molmasse::nameUser()
+{
+    const auto avatar = get<phial::ctl_Avatar>(u"ctl_User");
+    const String purpose = translate(u"Name und Bild ändern", u"Change name and picture");
+    const String name = avatar->accessibleText();
+    avatar->frame().ToolTipText(purpose);
+    avatar->frame().AccessibleName(name.empty() ? purpose : name + u", " + purpose);
 }
 
 void frm_Molmasse::TRANSLATE()
@@ -176,6 +204,7 @@ void frm_Molmasse::TRANSLATE()
     pad_(pad_.UBound())
         ->frame()
         .AccessibleName(translate(u"Letztes Zeichen löschen", u"Delete last character"));
+    nameUser();
     caption(u"lab_Missing", missingText());
     if (round_) {
         showRoundTexts();
@@ -239,6 +268,7 @@ void frm_Molmasse::show(Page page)
     get<phial::ctl_Pannel>(u"pan_Task")->Visible(page == Page::Task);
     get<phial::ctl_Pannel>(u"pan_Summary")->Visible(page == Page::Summary);
     get<phial::ctl_Pannel>(u"pan_Missing")->Visible(page == Page::Missing);
+    get<phial::ctl_Avatar>(u"ctl_User")->frame().Visible(page != Page::Missing);
     phial::ControlPtr first;
     switch (page) {
     case Page::Start:

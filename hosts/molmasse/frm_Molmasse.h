@@ -15,8 +15,9 @@
 namespace molmasse
 {
 
-/// The trainer's window: choice of the level, ten tasks, the summary; or what is missing. Return does what
-/// the coloured button says, F1 gives the hint, Escape ends; everything can be touched as well.
+/// The trainer's window: choice of the level, ten tasks, the summary; or what is missing. The header shows
+/// who works here, and changes it when it is pressed. Return does what the coloured button says, F1 gives the
+/// hint, Escape ends; everything can be touched as well.
 class frm_Molmasse
 {
 public:
@@ -27,6 +28,8 @@ public:
 
     phial::Form& form() { return *form_; }
     void Show();
+    /// For the moment in which the window stands: asks who works here when no name is known yet.
+    void welcome();
     /// Puts all texts in the language in force.
     void TRANSLATE();
 
@@ -41,6 +44,8 @@ private:
     void buildPad();
     void connect();
 
+    void askForUser();
+    void nameUser();
     void show(Page page);
     void startRound(std::size_t level);
     void showTask();

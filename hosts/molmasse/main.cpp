@@ -30,5 +30,6 @@ int main(int argc, char** argv)
     molmasse::frm_Molmasse window(molmasse::loadTrainerData());
     window.Show();
     app->READY();
+    window.welcome();
     return application.run();
 }

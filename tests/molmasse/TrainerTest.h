@@ -38,6 +38,15 @@ protected:
         AppSession::TearDown();
     }
 
+    /// Puts two avatars into the installation, "fox" and "owl".
+    void installAvatars()
+    {
+        for (const auto* file :
+             {"installed/Resources/avatar/fox.gif", "installed/Resources/avatar/owl.gif"}) {
+            folder.write(file, std::string("GIF89a\x60\0\x60\0", 10) + std::string(16, '\0'));
+        }
+    }
+
     /// What the installation holds; a test puts other files there, or none.
     void install(std::string_view elements = Elements, std::string_view tasks = Tasks)
     {

@@ -74,6 +74,9 @@ Platform DesktopApplication::platform() const
 {
     Platform platform = basePlatform(dispatchGuard());
     platform.dialogs = makeDialogs(shotsFolder().has_value());
+    if (shotsFolder()) {
+        platform.settings.reset(); // pictures show nothing of the user's settings, and change none
+    }
     dispatchGuard()->setReporter([dialogs = platform.dialogs](const String& text) { dialogs->Error(text); });
     platform.display = std::make_shared<DesktopDisplay>();
     platform.windows = std::make_shared<DesktopWindowOps>();

@@ -32,7 +32,7 @@ public:
     DesktopApplication(const DesktopApplication&) = delete;
     DesktopApplication& operator=(const DesktopApplication&) = delete;
 
-    /// The whole outside, for one session.
+    /// The whole outside, for one session. Where the program is to draw its windows, settings live in memory.
     Platform platform() const;
 
     /// What followed the program's name on its command line, as one text, without "--shots" and its folder.
