@@ -1,0 +1,34 @@
+#include "server/Announcement.h"
+
+#include "core/RuntimeError.h"
+
+namespace phial
+{
+
+namespace
+{
+
+// Three letters and the version; what follows is the text.
+constexpr std::string_view Head = "QVA\1";
+
+} // namespace
+
+std::string encodeAnnouncement(const Announcement& announcement)
+{
+    std::string bytes(Head);
+    bytes += toUtf8(announcement.settings);
+    if (bytes.size() > MaxAnnouncementBytes) {
+        throw RuntimeError(ErrorNumber::InvalidArgument, u"The settings are too long to be announced");
+    }
+    return bytes;
+}
+
+std::optional<Announcement> decodeAnnouncement(std::string_view datagram)
+{
+    if (datagram.size() > MaxAnnouncementBytes || !datagram.starts_with(Head)) {
+        return std::nullopt;
+    }
+    return Announcement{fromUtf8(datagram.substr(Head.size()))};
+}
+
+} // namespace phial
