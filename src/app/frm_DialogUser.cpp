@@ -99,6 +99,7 @@ void frm_DialogUser::Show()
 
 void frm_DialogUser::build()
 {
+    form_->Caption(u"Name und Bild|Name and picture");
     form_->ScaleMode(ScaleUnit::Pixels);
     form_->BorderStyle(BorderStyle::FixedDialog);
     form_->innerSize({layout::Width, layout::Height});
@@ -116,8 +117,8 @@ void frm_DialogUser::build()
     lastPictures_.adopt();
     lastNames_.adopt();
     const auto buttons = form_->control<ctl_CmdBar>(u"bar_Buttons")->BUTTONS();
-    buttons->Add(String(Confirm), {});
-    buttons->Add(String(Abort), {});
+    buttons->Add(String(Confirm), u"OK|OK");
+    buttons->Add(String(Abort), u"Abbrechen|Cancel");
 }
 
 void frm_DialogUser::style()
@@ -183,19 +184,15 @@ void frm_DialogUser::connect()
     connections_ += avatars->LostFocus.connect([edge = edge.get()] { edge->BorderColor(Line); });
 }
 
+// The design texts are gathered by the first walk, before any field shows what is no text of the form.
 void frm_DialogUser::TRANSLATE()
 {
-    form_->Caption(LNG()->TRANSLATE(u"Name und Bild", u"Name and picture"));
-    for (const LayoutItem& item : layout::Items) {
-        // A place that somebody has taken shows a name, which is no text of the form.
-        const bool taken = item.index >= 0 && taken_[static_cast<std::size_t>(item.index)];
-        if (!item.text.empty() && !taken) {
-            form_->control<ctl_Label>(item.name, item.index)->Caption(LNG()->TRANSLATEAUTO(item.text));
+    LNG()->Form(*form_, texts_);
+    for (std::int32_t place = 0; place < layout::LastPlaces; ++place) {
+        if (const auto& name = lastShown_[static_cast<std::size_t>(place)]) {
+            lastNames_(place)->Caption(*name);
         }
     }
-    const auto buttons = form_->control<ctl_CmdBar>(u"bar_Buttons")->BUTTONS();
-    buttons->find(Confirm)->Caption(LNG()->TRANSLATE(u"OK", u"OK"));
-    buttons->find(Abort)->Caption(LNG()->TRANSLATE(u"Abbrechen", u"Cancel"));
     screenName_->frame().AccessibleName(LNG()->TRANSLATE(u"Dein Name", u"Your name"));
     form_->control<PictureBox>(u"pic_Avatars")
         ->frame()
@@ -241,13 +238,13 @@ void frm_DialogUser::fillPlace(std::int32_t place, const String& name, const Str
     label->Caption(name);
     label->Tag(avatar);
     label->ForeColor(Dark);
-    taken_[static_cast<std::size_t>(place)] = true;
+    lastShown_[static_cast<std::size_t>(place)] = name;
 }
 
 void frm_DialogUser::drawPlace(std::int32_t place)
 {
     const auto picture = lastPictures_(place);
-    const bool taken = taken_[static_cast<std::size_t>(place)];
+    const bool taken = lastShown_[static_cast<std::size_t>(place)].has_value();
     picture->frame().TabStop(!picture->Tag().empty());
     picture->Picture(tile(picture->surface().size(),
                           taken ? QVAPP()->USER()->AVATARICON(picture->Tag()) : nullptr,

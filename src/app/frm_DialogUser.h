@@ -2,6 +2,7 @@
 
 #include "app/AvatarPicker.h"
 #include "app/DialogUserLayout.h"
+#include "core/CoreTokenList.h"
 #include "visual/ControlArray.h"
 #include "visual/Form.h"
 #include "visual/PictureBox.h"
@@ -61,7 +62,9 @@ private:
     std::shared_ptr<TextBox> screenName_;
     ControlArray<PictureBox> lastPictures_;
     ControlArray<ctl_Label> lastNames_;
-    std::array<bool, dialog_user_layout::LastPlaces> taken_{}; ///< by place: whether it shows an entry
+    std::array<std::optional<String>, dialog_user_layout::LastPlaces>
+        lastShown_; ///< by place, an entry's name
+    CoreTokenList texts_;
     std::unique_ptr<AvatarPicker> picker_;
     Connections connections_;
 };
