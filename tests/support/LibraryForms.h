@@ -1,0 +1,71 @@
+#pragma once
+
+#include "app/DialogUserLayout.h"
+#include "app/frm_DialogUser.h"
+#include "app/screen/AppAboutLayout.h"
+#include "app/screen/frm_AppAbout.h"
+#include "app/screen/frm_Fade.h"
+#include "app/screen/frm_Resource.h"
+#include "visual/FormLayout.h"
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace phial::test
+{
+
+/// A form of the library as a test makes it; `form` lives as long as `owner`.
+struct MadeForm {
+    std::shared_ptr<void> owner;
+    Form* form = nullptr;
+};
+
+/// One form of the library: how it is made, and all that it shows in either language.
+struct LibraryForm {
+    StringView name; ///< of the class and its header
+    std::function<MadeForm()> make;
+    std::span<const LayoutItem> design; ///< whose texts are pairs "German|English"
+    std::vector<StringView> pairs;      ///< "German|English": what stands outside the design
+    std::vector<StringView> data;       ///< what is no text of the form and stays in both languages
+    bool shown = true;                  ///< false: it is never shown, and only loaded
+};
+
+template <typename Class>
+MadeForm makeLibraryForm()
+{
+    const auto made = std::make_shared<Class>();
+    return {made, &made->form()};
+}
+
+/// All forms of the library. A new `frm_…` gets a row here; a test names those that have none.
+inline std::vector<LibraryForm> libraryForms()
+{
+    return {
+        {.name = u"frm_AppAbout",
+         .make = makeLibraryForm<frm_AppAbout>,
+         .design = app_about_layout::Items,
+         .pairs = {u"Info über Molmasse|About Molmasse", u"Schließen|Close"},
+         .data = {u"Molmasse", u"Version 5.1.2", u"(c) Somebody", u"apps\\Molmasse\\"}},
+        {.name = u"frm_DialogUser",
+         .make = makeLibraryForm<frm_DialogUser>,
+         .design = dialog_user_layout::Items,
+         .pairs = {u"Name und Bild|Name and picture", u"OK|OK", u"Abbrechen|Cancel", u"Dein Name|Your name",
+                   u"Dein Bild|Your picture"},
+         .data = {u"pupil", u"Maxi"}},
+        {.name = u"frm_Fade",
+         .make = makeLibraryForm<frm_Fade>,
+         .design = {},
+         .pairs = {},
+         .data = {u"Form1"}},
+        {.name = u"frm_Resource",
+         .make = makeLibraryForm<frm_Resource>,
+         .design = {},
+         .pairs = {},
+         .data = {},
+         .shown = false},
+    };
+}
+
+} // namespace phial::test
