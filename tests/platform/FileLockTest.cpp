@@ -1,0 +1,108 @@
+#include "core/FileLock.h"
+
+#include "support/ChildProgram.h"
+#include "support/HeadlessSession.h"
+
+#include <gmock/gmock.h>
+#include <optional>
+
+namespace phial
+{
+namespace
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class FileLocks : public test::HeadlessSession
+{
+protected:
+    String list() const { return folder.path() + u"list.qv-hsr"; }
+    test::ChildProgram otherProgram() const { return {PHIAL_LOCK_HOLDER, {toUtf8(list())}}; }
+    double waited() { return outside.clock().seconds(); }
+};
+
+TEST_F(FileLocks, AFreeFileIsHeldAtOnceAndLeavesNothingBehind)
+{
+    {
+        const FileLock lock(list());
+        EXPECT_TRUE(lock.held());
+        EXPECT_THAT(folder.names(), ElementsAre("list.qv-hsr.lock"));
+    }
+    EXPECT_THAT(folder.names(), IsEmpty());
+    EXPECT_EQ(waited(), 0);
+}
+
+TEST_F(FileLocks, OneProgramHoldsItTwice)
+{
+    std::optional<FileLock> first(std::in_place, list());
+    std::optional<FileLock> second(std::in_place, folder.path() + u"LIST.qv-hsr\\..\\list.qv-hsr");
+    EXPECT_TRUE(second->held());
+    EXPECT_EQ(waited(), 0);
+    first.reset();
+    EXPECT_THAT(folder.names(), ElementsAre("list.qv-hsr.lock"));
+    second.reset();
+    EXPECT_THAT(folder.names(), IsEmpty());
+}
+
+TEST_F(FileLocks, ALinkLeadsToTheSameLock)
+{
+    folder.write("list.qv-hsr", "content");
+    std::filesystem::create_symlink(folder.native() / "list.qv-hsr", folder.native() / "link.qv-hsr");
+    const FileLock lock(folder.path() + u"link.qv-hsr");
+    EXPECT_TRUE(folder.has("list.qv-hsr.lock"));
+}
+
+TEST_F(FileLocks, FilesAreHeldIndependently)
+{
+    const FileLock lock(list());
+    const FileLock other(folder.path() + u"results.qv-rsl");
+    EXPECT_TRUE(lock.held());
+    EXPECT_TRUE(other.held());
+}
+
+TEST_F(FileLocks, WithoutAFolderNothingIsHeldAndNobodyWaits)
+{
+    EXPECT_FALSE(FileLock(folder.path() + u"missing\\list.qv-hsr").held());
+    EXPECT_FALSE(FileLock(u"E:\\list.qv-hsr").held());
+    EXPECT_EQ(waited(), 0);
+}
+
+TEST_F(FileLocks, AnotherProgramIsWaitedForToALimit)
+{
+    test::ChildProgram other = otherProgram();
+    ASSERT_EQ(other.readLine(), "held");
+    EXPECT_FALSE(FileLock(list()).held());
+    EXPECT_NEAR(waited(), std::chrono::duration<double>(FileLock::MaxWait).count(), 0.02);
+}
+
+TEST_F(FileLocks, WhatAnotherProgramLetGoIsHeld)
+{
+    test::ChildProgram other = otherProgram();
+    ASSERT_EQ(other.readLine(), "held");
+    EXPECT_EQ(other.finish(), 0);
+    EXPECT_TRUE(FileLock(list()).held());
+    EXPECT_EQ(waited(), 0);
+}
+
+TEST_F(FileLocks, TheLockOfAKilledProgramIsTakenOver)
+{
+    test::ChildProgram other = otherProgram();
+    ASSERT_EQ(other.readLine(), "held");
+    other.kill();
+    EXPECT_TRUE(folder.has("list.qv-hsr.lock"));
+    EXPECT_TRUE(FileLock(list()).held());
+    EXPECT_EQ(waited(), 0);
+    EXPECT_THAT(folder.names(), IsEmpty());
+}
+
+TEST_F(FileLocks, AnotherProgramGetsItAsSoonAsItIsFree)
+{
+    std::optional<FileLock> lock(std::in_place, list());
+    test::ChildProgram other = otherProgram();
+    lock.reset();
+    EXPECT_EQ(other.readLine(), "held");
+}
+
+} // namespace
+} // namespace phial
