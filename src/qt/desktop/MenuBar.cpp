@@ -4,6 +4,9 @@
 #include "qt/desktop/Dispatch.h"
 
 #include <QMenuBar>
+#include <QPointer>
+
+#include <algorithm>
 
 namespace phial::qt
 {
@@ -11,34 +14,91 @@ namespace phial::qt
 namespace
 {
 
-void fill(QMenu& menu, const Menu& model);
+using MenuPtr = std::shared_ptr<Menu>;
 
-template <typename Holder>
-void addEntry(Holder& holder, const std::shared_ptr<Menu>& entry)
+MenuPtr modelOf(const QAction& action)
 {
-    if (!entry->Visible()) {
-        return;
-    }
-    QAction* action = nullptr;
-    if (!entry->entries().empty()) {
-        QMenu* menu = holder.addMenu(toQt(entry->Caption()));
-        fill(*menu, *entry);
-        action = menu->menuAction();
-    } else {
-        action = holder.addAction(toQt(entry->Caption()));
-        action->setSeparator(entry->Caption() == u"-");
-        action->setCheckable(entry->Checked());
-        action->setChecked(entry->Checked());
-        QObject::connect(action, &QAction::triggered, action,
-                         [entry] { dispatch([&] { entry->inputClick(); }); });
-    }
-    action->setEnabled(entry->Enabled());
+    return action.data().value<MenuPtr>();
 }
 
-void fill(QMenu& menu, const Menu& model)
+/// Whether the action can go on to show the entry, which may have become a menu, or none.
+bool shows(const QAction& action, const MenuPtr& entry)
 {
-    for (const std::shared_ptr<Menu>& entry : model.entries()) {
-        addEntry(menu, entry);
+    return modelOf(action) == entry && (action.menu() != nullptr) == !entry->entries().empty();
+}
+
+/// Ends an entry of the toolkit, perhaps in the middle of its own signal.
+void drop(QWidget& holder, QAction& action)
+{
+    holder.removeAction(&action);
+    if (QMenu* menu = action.menu()) {
+        menu->deleteLater();
+    } else {
+        action.deleteLater();
+    }
+}
+
+/// The toolkit turns a mark by itself at a click; the model decides.
+void choose(const QPointer<QAction>& action, const MenuPtr& entry)
+{
+    dispatch([&] { entry->inputClick(); });
+    if (action) {
+        action->setChecked(entry->Checked());
+    }
+}
+
+QAction* make(QWidget& holder, const MenuPtr& entry)
+{
+    QAction* action = nullptr;
+    if (entry->entries().empty()) {
+        action = new QAction(&holder);
+        QObject::connect(action, &QAction::triggered, action, [action, entry] { choose(action, entry); });
+    } else {
+        action = (new QMenu(&holder))->menuAction();
+    }
+    action->setData(QVariant::fromValue(entry));
+    return action;
+}
+
+void synchronise(QWidget& holder, const Menu& model);
+
+void update(QAction& action, const Menu& entry)
+{
+    action.setText(toQt(entry.Caption()));
+    action.setEnabled(entry.Enabled());
+    if (QMenu* menu = action.menu()) {
+        synchronise(*menu, entry);
+        return;
+    }
+    action.setSeparator(entry.Caption() == u"-");
+    action.setCheckable(entry.Checked());
+    action.setChecked(entry.Checked());
+}
+
+/// Makes the holder's actions those of the model's visible entries. What stands before the next entry's
+/// action, and has none of the model any more, goes.
+void synchronise(QWidget& holder, const Menu& model)
+{
+    QList<QAction*> old = holder.actions();
+    for (const MenuPtr& entry : model.entries()) {
+        if (!entry->Visible()) {
+            continue;
+        }
+        const auto found = std::find_if(old.begin(), old.end(),
+                                        [&](const QAction* action) { return shows(*action, entry); });
+        QAction* action = nullptr;
+        if (found != old.end()) {
+            action = *found;
+            std::for_each(old.begin(), found, [&](QAction* gone) { drop(holder, *gone); });
+            old.erase(old.begin(), found + 1);
+        } else {
+            action = make(holder, entry);
+            holder.insertAction(old.isEmpty() ? nullptr : old.constFirst(), action);
+        }
+        update(*action, *entry);
+    }
+    for (QAction* gone : old) {
+        drop(holder, *gone);
     }
 }
 
@@ -46,10 +106,7 @@ void fill(QMenu& menu, const Menu& model)
 
 void showMenu(QMenuBar& bar, const Menu& root)
 {
-    bar.clear();
-    for (const std::shared_ptr<Menu>& entry : root.entries()) {
-        addEntry(bar, entry);
-    }
+    synchronise(bar, root);
     bar.setVisible(!bar.actions().isEmpty());
 }
 
