@@ -22,6 +22,7 @@ constexpr Description Descriptions[] = {
     {ErrorNumber::DivisionByZero, u"Division by zero"},
     {ErrorNumber::TypeMismatch, u"Type mismatch"},
     {ErrorNumber::FileNotFound, u"File not found"},
+    {ErrorNumber::DeviceUnavailable, u"Device unavailable"},
     {ErrorNumber::ObjectNotSet, u"Object not set"},
     {ErrorNumber::NoSuchMember, u"No such member"},
 };

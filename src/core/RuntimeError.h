@@ -17,6 +17,7 @@ enum class ErrorNumber : std::int32_t {
     TypeMismatch = 13,
     FileNotFound = 53,
     InputPastEnd = 62,
+    DeviceUnavailable = 68,
     FileAccess = 75,
     ObjectNotSet = 91,
     NoSuchMember = 438,
