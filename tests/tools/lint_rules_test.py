@@ -5,7 +5,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
 
-from linting import files, includes, sources, words  # noqa: E402
+from linting import files, includes, sources, texts, words  # noqa: E402
 
 
 class MadeUpTree(files.Tree):
@@ -87,6 +87,64 @@ class Words(unittest.TestCase):
     def test_references_to_what_a_reader_cannot_open_are_found(self):
         for line in ("see Part" + " 2.3", "as the sp" + "ec says", "in /wor" + "k/main", "TO" + "DO: later"):
             self.assertEqual(len(self.problems(line)), 1, line)
+
+
+class Texts(unittest.TestCase):
+    def problems(self, source, **lists):
+        tree = {"src/app/Window.cpp": source}
+        for name, lines in lists.items():
+            tree[f"tools/linting/texts_{name}.txt"] = "\n".join(lines)
+        return texts.check(MadeUpTree(tree))
+
+    def test_texts_with_both_halves_are_fine(self):
+        for source in ('label.Caption(u"Fertig|Done");',
+                       'form->Caption(LNG()->TRANSLATE(u"Fertig", u"Done"));',
+                       'design<ctl_Label>(u"lab_Name", {0, 0, 9, 9}, u"Dein Name:|Your name:").inside(u"pan_Left"),',
+                       'menu.add(u"mnu_File", u"&Datei|&File");',
+                       'button->Caption(done ? translate(u"Weiter", u"Next") : translate(u"Prüfen", u"Check"));',
+                       'setMember(*label, u"Caption", say(u"Ja|Yes"));',
+                       'constexpr BoxText Yes{u"Ja", u"Yes"};',
+                       'return english ? u"Close" : u"Schließen";',
+                       'constexpr StringView HelpGerman = u"Hilfe zu allem";'
+                       'constexpr StringView HelpEnglish = u"Help on everything";'):
+            self.assertEqual(self.problems(source), [], source)
+
+    def test_what_is_no_text_for_users_is_fine(self):
+        for source in ('throw RuntimeError(5, u"no such member");', "// Nicht für alle\nlabel.Caption(u\"\");",
+                       'members::property<Label, String, &Label::Caption, &Label::Caption>(u"Caption"),',
+                       'label.Caption(u"{1} = 5 | 7");', 'menu.add(u"mnu_Sep", u"-");', 'label.Caption(task.name);',
+                       'return translate(level.german, level.english);', "const char16_t mark = u'\"';"):
+            self.assertEqual(self.problems(source), [], source)
+
+    def test_a_text_in_one_language_is_found(self):
+        for source in ('label.Caption(u"Fertig");', 'label.Caption(u"Done");', 'label.Caption(u"Fertig|");',
+                       'label.Caption(u"Punkte: " + points);', 'label->frame().ToolTipText(u"Bitte "\n    u"warten");',
+                       'menu.add(u"mnu_File", u"&Datei");', 'bar->BUTTONS()->Add(u"DIALOG.OK();", u"Fertig");',
+                       'design<ctl_Label>(u"lab_Name", {0, 0, 9, 9}, u"Dein Name:").at(2),',
+                       'setMember(*label, u"Caption", u"Fertig");', 'LNG()->TRANSLATE(u"Fertig", u"")',
+                       'LNG()->TRANSLATE(u"Fertig")', 'constexpr StringView NoName = u"Bitte gib einen Namen ein.";',
+                       'constexpr StringView ButtonGerman = u"Abbrechen";', 'say(u"Nein|");'):
+            self.assertEqual(len(self.problems(source)), 1, source)
+
+    def test_a_german_text_as_the_english_half_is_found(self):
+        for source in ('label.Caption(u"Fertig|Bitte warten");', 'label.Caption(u"Fertig|Fertig");',
+                       'LNG()->TRANSLATE(u"Fertig", u"Bitte warten")', 'LNG()->TRANSLATE(u"Fertig", u"Fertig")'):
+            self.assertEqual(len(self.problems(source)), 1, source)
+
+    def test_the_problem_tells_line_and_text(self):
+        self.assertEqual(self.problems('\n\nlabel.Caption(u"Fertig");'),
+                         ["src/app/Window.cpp:3: without an English half: Fertig"])
+
+    def test_exceptions_are_listed(self):
+        self.assertEqual(self.problems('label.Caption(u"&Info|&Info");', same=["# Words", "Info"]), [])
+        self.assertEqual(self.problems('dialogs.Error(u"Nicht gefunden!");', german=["Nicht gefunden!"]), [])
+
+    def test_an_exception_that_nobody_needs_any_more_is_found(self):
+        self.assertEqual(self.problems("int i;", german=["# Boxes", "Nicht gefunden!"]),
+                         ["tools/linting/texts_german.txt:2: no source has this text any more: Nicht gefunden!"])
+
+    def test_only_programs_and_the_library_are_read(self):
+        self.assertEqual(texts.check(MadeUpTree({"tests/app/WindowTest.cpp": 'label.Caption(u"Fertig");'})), [])
 
 
 if __name__ == "__main__":
