@@ -89,16 +89,17 @@ void replaceFile(FileSystem& files, const fs::path& target, std::string_view byt
     files.flushFolder(file.parent_path());
 }
 
-fs::path moveAside(FileSystem& files, const fs::path& file)
+fs::path moveAside(FileSystem& files, const fs::path& file, std::string_view mark)
 {
     std::error_code error;
     fs::path aside = file;
-    aside += ".damaged";
+    aside += mark;
     for (int number = 2; fs::exists(fs::symlink_status(aside, error)); ++number) {
         aside = file;
-        aside += ".damaged" + std::to_string(number);
+        aside += std::string(mark) + std::to_string(number);
     }
     files.rename(file, aside);
+    files.flushFolder(file.parent_path());
     return aside;
 }
 

@@ -14,8 +14,9 @@ class FileSystem;
 /// link is followed. Raises what the file system raises, and takes its own temporary file away then.
 void replaceFile(FileSystem& files, const std::filesystem::path& target, std::string_view bytes);
 
-/// Renames a damaged file so that it is kept and does not stand in the way: ".damaged" is added, and a number
-/// where that name is taken. Gives the new path.
-std::filesystem::path moveAside(FileSystem& files, const std::filesystem::path& file);
+/// Renames a damaged file so that it is kept and does not stand in the way: the mark is added to its name,
+/// and a number where that name is taken. The new name is on the disk when this returns. Gives the new path.
+std::filesystem::path moveAside(FileSystem& files, const std::filesystem::path& file,
+                                std::string_view mark = ".damaged");
 
 } // namespace phial

@@ -3,6 +3,7 @@
 #include "core/AtomicFile.h"
 #include "core/FileSystem.h"
 #include "core/NativePath.h"
+#include "core/Platform.h"
 #include "core/RecordFiles.h"
 #include "core/RuntimeError.h"
 #include "core/SessionState.h"
@@ -10,23 +11,10 @@
 
 #include <utility>
 #include <variant>
+#include <vector>
 
 namespace phial
 {
-
-namespace
-{
-
-RecordFiles& recordFiles()
-{
-    const auto& records = SessionState::current().platform().records;
-    if (!records) {
-        throw RuntimeError(ErrorNumber::InvalidArgument, u"record files are not available");
-    }
-    return *records;
-}
-
-} // namespace
 
 /// A text being read.
 struct CoreDataFile::Lines {
@@ -34,12 +22,18 @@ struct CoreDataFile::Lines {
     std::size_t next = 0;
 };
 
+/// Values being read.
+struct CoreDataFile::Values {
+    std::vector<Variant> all;
+    std::size_t next = 0;
+};
+
 struct CoreDataFile::OpenFile {
     std::filesystem::path path;
     DataFileMode mode = DataFileMode::Read;
     String password;
-    /// Undecided, a text being read, a text being written, or values.
-    std::variant<std::monostate, Lines, std::string, std::shared_ptr<CoreDataStream>> content;
+    /// Undecided, a text being read, a text being written, values being read, values being written.
+    std::variant<std::monostate, Lines, std::string, Values, RecordWriter> content;
 
     /// The content as that kind, begun by `begin` when this is the first call; raises 5 for another kind.
     template <typename Kind, typename Begin>
@@ -76,13 +70,13 @@ void CoreDataFile::Close()
     if (!file || file->mode == DataFileMode::Read) {
         return;
     }
-    if (const auto* const values = std::get_if<std::shared_ptr<CoreDataStream>>(&file->content)) {
-        recordFiles().commit(**values);
+    const Platform& platform = SessionState::current().platform();
+    if (const auto* const values = std::get_if<RecordWriter>(&file->content)) {
+        RecordFiles(platform).write(file->path, file->password, *values);
         return;
     }
     const auto* const text = std::get_if<std::string>(&file->content);
-    replaceFile(*SessionState::current().platform().files, file->path,
-                text != nullptr ? *text : std::string());
+    replaceFile(*platform.files, file->path, text != nullptr ? *text : std::string());
 }
 
 CoreDataFile::OpenFile& CoreDataFile::opened(DataFileMode mode)
@@ -128,23 +122,21 @@ void CoreDataFile::WriteText(StringView pText)
     opened(DataFileMode::Write).contentAs<std::string>([] { return std::string(); }) += toUtf8(pText);
 }
 
-CoreDataStream& CoreDataFile::values(DataFileMode mode)
-{
-    OpenFile& file = opened(mode);
-    return *file.contentAs<std::shared_ptr<CoreDataStream>>([&] {
-        return mode == DataFileMode::Read ? recordFiles().openForReading(file.path, file.password)
-                                          : recordFiles().openForWriting(file.path, file.password);
-    });
-}
-
 void CoreDataFile::writeValue(const Variant& value)
 {
-    values(DataFileMode::Write).writeValue(value);
+    opened(DataFileMode::Write).contentAs<RecordWriter>([] { return RecordWriter(); }).write(value);
 }
 
 Variant CoreDataFile::ReadValue()
 {
-    return values(DataFileMode::Read).ReadValue();
+    OpenFile& file = opened(DataFileMode::Read);
+    auto& values = file.contentAs<Values>([&] {
+        return Values{RecordFiles(SessionState::current().platform()).read(file.path, file.password), 0};
+    });
+    if (values.next == values.all.size()) {
+        throw RuntimeError(ErrorNumber::InputPastEnd);
+    }
+    return std::move(values.all[values.next++]);
 }
 
 } // namespace phial

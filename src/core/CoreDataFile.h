@@ -17,7 +17,8 @@ enum class DataFileMode : std::int32_t { Read = 1, Write = 2 };
 ///
 /// Text is UTF-8, with or without its mark, with line ends CR LF or LF. A file open for writing replaces the
 /// target in one step when it is closed; until then, and when the object goes without having been closed, the
-/// old file stays. Values need the platform's `RecordFiles`; without them their calls raise 5.
+/// old file stays. Values are read and written as `RecordFiles` tells; a file that it does not read raises at
+/// the first value.
 class CoreDataFile : public CoreDataStream
 {
 public:
@@ -48,9 +49,9 @@ public:
 private:
     struct OpenFile;
     struct Lines;
+    struct Values;
     OpenFile& opened(DataFileMode mode);
     Lines& lines();
-    CoreDataStream& values(DataFileMode mode);
 
     std::unique_ptr<OpenFile> file_;
 };

@@ -26,7 +26,7 @@ class EventPump;
 class FileSystem;
 class InterCom;
 class RandomSource;
-class RecordFiles;
+class RecordSeal;
 class SettingsStore;
 class Shell;
 class VisualHost;
@@ -58,8 +58,8 @@ struct Platform {
     std::shared_ptr<RandomSource> random;
     std::shared_ptr<FileSystem> files;
 
-    /// Left out: records are neither read nor written (5).
-    std::shared_ptr<RecordFiles> records;
+    /// Left out: records with a password are neither read nor written.
+    std::shared_ptr<RecordSeal> seal;
 
     /// Makers of what is new each time. Left out: making one raises 91; the messenger alone is then one that
     /// reaches nobody.

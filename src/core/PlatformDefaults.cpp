@@ -16,7 +16,7 @@
 #include "core/NativePath.h"
 #include "core/Platform.h"
 #include "core/RandomSource.h"
-#include "core/RecordFiles.h"
+#include "core/RecordSeal.h"
 #include "core/RuntimeError.h"
 #include "core/Shell.h"
 #include "core/StandardEventPump.h"

@@ -1,30 +1,57 @@
 #pragma once
 
-#include "core/CoreDataStream.h"
+#include "core/RecordFormat.h"
 #include "core/String.h"
 
 #include <filesystem>
-#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace phial
 {
 
-/// What `CoreDataFile` needs of the format of record files. An error while opening or closing is raised.
+class FileSystem;
+struct Platform;
+class RecordSeal;
+
+/// Record files on the disk.
+///
+/// A file is read whole and checked before its first value is handed out, and reading never changes anything.
+/// Writing replaces the file in one step. What it would replace without having read it is kept aside first,
+/// under the file's name with
+///
+/// - ".damaged", when the file is damaged or no record file;
+/// - ".kept", when it is whole but not ours to replace: of a later format, with a later version (the first
+///   value, if that is a text such as "2.0"), sealed with another password, or not sealed when it now shall
+///   be.
 class RecordFiles
 {
 public:
-    virtual ~RecordFiles() = default;
+    /// Works on the files and with the seal of a platform, which must outlive this object.
+    explicit RecordFiles(const Platform& platform);
 
-    /// A stream over the whole, checked content of a file. Raises 53 when there is none.
-    virtual std::shared_ptr<CoreDataStream> openForReading(const std::filesystem::path& file,
-                                                           StringView password) = 0;
+    /// All values of a file. Raises 53 when there is none, 75 when it cannot be read or was not written with
+    /// that password, 5 when it is damaged or of a later format.
+    std::vector<Variant> read(const std::filesystem::path& file, StringView password) const;
 
-    /// A stream whose values replace the file in one step at `commit`; without it the old file stays.
-    virtual std::shared_ptr<CoreDataStream> openForWriting(const std::filesystem::path& file,
-                                                           StringView password) = 0;
+    /// Makes the values the file's content. The empty password leaves it open; any other seals it, which
+    /// raises 5 when the platform has no seal. Raises 75 when a step fails; the old file stays then.
+    void write(const std::filesystem::path& file, StringView password, const RecordWriter& values) const;
 
-    /// Ends writing: the file holds the stream's values from now on.
-    virtual void commit(CoreDataStream& stream) = 0;
+private:
+    std::string bytesOf(const std::filesystem::path& file) const;
+    std::string framed(const std::string& body, StringView password) const;
+    std::optional<std::vector<Variant>> valuesIn(const record_format::Frame& frame,
+                                                 StringView password) const;
+    std::optional<std::string_view> markToKeep(std::string_view bytes, StringView password,
+                                               const RecordWriter& values) const;
+    void keepWhatIsNotReplaced(const std::filesystem::path& file, StringView password,
+                               const RecordWriter& values) const;
+
+    FileSystem& files_;
+    RecordSeal* seal_;
 };
 
 } // namespace phial

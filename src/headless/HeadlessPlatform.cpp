@@ -42,7 +42,6 @@ Platform HeadlessPlatform::platform() const
     platform.environment = environment_;
     platform.random = random_;
     platform.files = files_;
-    platform.records = records_;
     platform.newNetClient = [network = network_, pump = pump_] {
         return std::make_shared<ScriptedNetClient>(network, pump);
     };

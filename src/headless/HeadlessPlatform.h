@@ -11,7 +11,6 @@
 #include "headless/FixedRandom.h"
 #include "headless/HeadlessVisualHost.h"
 #include "headless/MapEnvironment.h"
-#include "headless/MemoryRecordFiles.h"
 #include "headless/RecordingCursors.h"
 #include "headless/RecordingInterCom.h"
 #include "headless/RecordingSettings.h"
@@ -62,7 +61,6 @@ public:
     MapEnvironment& environment() { return *environment_; }
     FixedRandom& random() { return *random_; }
     FaultyFileSystem& files() { return *files_; }
-    MemoryRecordFiles& records() { return *records_; }
     RecordingInterCom& interCom() { return *interCom_; }
     ScriptedNetwork& network() { return *network_; }
     FakeForms& forms() { return *forms_; }
@@ -84,7 +82,6 @@ private:
     std::shared_ptr<MapEnvironment> environment_ = std::make_shared<MapEnvironment>();
     std::shared_ptr<FixedRandom> random_ = std::make_shared<FixedRandom>();
     std::shared_ptr<FaultyFileSystem> files_;
-    std::shared_ptr<MemoryRecordFiles> records_ = std::make_shared<MemoryRecordFiles>();
     std::shared_ptr<RecordingInterCom> interCom_ = std::make_shared<RecordingInterCom>();
     std::shared_ptr<ScriptedNetwork> network_ = std::make_shared<ScriptedNetwork>();
     std::shared_ptr<FakeForms> forms_ = std::make_shared<FakeForms>();

@@ -120,13 +120,13 @@ TEST_F(CoreDataFileTest, TheFirstCallDecidesBetweenTextAndValues)
     EXPECT_RAISES(file.ReadLine(), InvalidArgument);
 }
 
-TEST(CoreDataFile, ValuesNeedAFormat)
+TEST_F(CoreDataFileTest, AFileOfLinesHasNoValues)
 {
-    const test::TemporaryFolder folder;
-    const SessionState session{Platform()};
+    folder.write("a.txt", "H\r\nWasserstoff\r\n");
     CoreDataFile file;
-    file.Open(folder.path() + u"a.rec", DataFileMode::Write);
-    EXPECT_RAISES(file.Write(u"2.0"), InvalidArgument);
+    file.Open(folder.path() + u"a.txt", DataFileMode::Read);
+    EXPECT_RAISES(file.ReadValue(), InvalidArgument);
+    EXPECT_EQ(folder.read("a.txt"), "H\r\nWasserstoff\r\n");
 }
 
 } // namespace
