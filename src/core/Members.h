@@ -77,6 +77,15 @@ constexpr Member property(StringView name)
             }};
 }
 
+/// A text that is read by reference.
+template <typename Class, const String& (Class::*Read)() const, void (Class::*Write)(String)>
+constexpr Member textProperty(StringView name)
+{
+    return {
+        name, [](Object& object) { return Variant((static_cast<Class&>(object).*Read)()); },
+        [](Object& object, const Variant& value) { (static_cast<Class&>(object).*Write)(value.toText()); }};
+}
+
 /// A property whose reader creates its value on first use and so is not const.
 template <typename Class, typename Value, Value (Class::*Read)(), void (Class::*Write)(Value)>
 constexpr Member lazyProperty(StringView name)
