@@ -5,17 +5,18 @@
 #include "core/DATA.h"
 #include "core/Moment.h"
 #include "core/Object.h"
+#include "core/RecordEntries.h"
 #include "core/tmp_Data.h"
 #include "core/tmp_Database.h"
+#include "results/cls_DataEvent.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
-#include <vector>
+#include <utility>
 
 namespace phial
 {
-
-class cls_DataEvent;
 
 /// The log of what users did, in the order of adding until one is removed: the last entry takes the place of
 /// a removed one. A search finds an entry by the ID of its header.
@@ -60,8 +61,6 @@ public:
     MemberTable members() const override;
 
 private:
-    using Entries = std::vector<std::shared_ptr<cls_DataEvent>>;
-
     bool DataCopy(tmp_Data& pSource) override;
     String DataPACK() override;
     void DataUnpack(StringView pText) override;
@@ -79,7 +78,7 @@ private:
 
     DataHolder data_;
     DatabaseHolder database_;
-    Entries entries_;
+    RecordEntries<cls_DataEvent> entries_;
 };
 
 } // namespace phial

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "core/CoreDatabase.h"
+#include "core/RecordEntries.h"
 #include "core/tmp_Database.h"
 #include "results/cls_DataScore.h"
 
+#include <cstdint>
+#include <memory>
 #include <optional>
-#include <vector>
+#include <utility>
 
 namespace phial
 {
@@ -94,8 +97,9 @@ public:
     MemberTable members() const override;
 
 private:
-    // An empty slot is filled with a new entry when it is first read.
-    using Entries = std::vector<std::shared_ptr<cls_DataScore>>;
+    void removeAll(const Variant& name);
+    template <typename KeyOf>
+    void sortBy(const KeyOf& keyOf);
 
     bool DataCopy(tmp_Data& pSource) override;
     String DataPACK() override;
@@ -118,7 +122,7 @@ private:
     std::int32_t maximum_ = 10;
     bool once_ = false;
     bool live_ = false;
-    Entries entries_;
+    RecordEntries<cls_DataScore> entries_;
 };
 
 } // namespace phial

@@ -1,0 +1,155 @@
+#include "results/ListPrint.h"
+
+#include "core/Arithmetic.h"
+#include "core/CoreMachine.h"
+#include "core/CoreRoot.h"
+#include "core/CoreSystem.h"
+#include "core/Format.h"
+#include "results/ListRecord.h"
+#include "visual/Printer.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace phial
+{
+
+namespace
+{
+
+// Millimetres on the page.
+constexpr double Margin = 10;
+constexpr double RuleBelowTitle = 20;
+constexpr double TopOfColumns = 30;
+constexpr double LowerMargin = 20;
+constexpr double GapOfRows = 2;
+constexpr double GapOfColumns = 1;
+
+constexpr double TitleSize = 14; // points
+constexpr double TextSize = 10;
+
+/// One list on its way to the printer.
+class ListPrinter
+{
+public:
+    ListPrinter(StringView title, std::span<const ListColumn> columns) : columns_(columns)
+    {
+        printer_.Title(String(title));
+        page_.FontName(u"Arial");
+        page_.FontSize(TitleSize);
+        printer_.Orientation(PageOrientation::Landscape);
+        page_.ScaleMode(ScaleUnit::Millimetres);
+        width_ = toWhole(page_.ScaleWidth());
+        height_ = toWhole(page_.ScaleHeight());
+
+        page_.CurrentX(Margin);
+        page_.CurrentY(Margin);
+        page_.PrintLine(title);
+        rule(RuleBelowTitle);
+        page_.FontSize(TextSize);
+    }
+
+    void addRow(const std::vector<String>& texts)
+    {
+        if (!begun_ || page_.CurrentY() > height_ - LowerMargin) {
+            beginColumns();
+        }
+        printCells({texts.begin(), texts.end()}, {});
+        page_.PrintLine();
+        page_.CurrentY(page_.CurrentY() + GapOfRows);
+    }
+
+    void end()
+    {
+        page_.PrintLine();
+        rule(page_.CurrentY());
+        page_.PrintLine();
+        page_.CurrentX(Margin);
+        page_.PrintLine(footer());
+        printer_.EndDoc();
+    }
+
+private:
+    /// The left edges of a row's texts.
+    std::vector<double> lefts(const std::vector<StringView>& measured)
+    {
+        std::vector<double> edges;
+        for (std::size_t column = 0; column < columns_.size(); ++column) {
+            const double place = Margin + (width_ - 2 * Margin) * columns_[column].place;
+            edges.push_back(columns_[column].align == ListColumn::Align::Left
+                                ? place
+                                : place - page_.TextWidth(measured[column]));
+        }
+        edges.push_back(width_ - Margin + GapOfColumns);
+        return edges;
+    }
+
+    /// Prints a text in each column; another one can take its place in measuring.
+    void printCells(const std::vector<StringView>& texts, std::vector<StringView> measured)
+    {
+        const std::vector<double> edges = lefts(measured.empty() ? texts : measured);
+        for (std::size_t column = 0; column < columns_.size(); ++column) {
+            const double left = edges[column];
+            const double right = std::max(left, edges[column + 1] - GapOfColumns);
+            page_.clip(left, 0, right, height_);
+            page_.CurrentX(left);
+            page_.Print(texts[column]);
+        }
+        page_.unclip();
+    }
+
+    void beginColumns()
+    {
+        if (std::exchange(begun_, true)) {
+            printer_.NewPage();
+            page_.CurrentY(Margin);
+        }
+        std::vector<StringView> titles;
+        std::vector<StringView> measured;
+        for (const ListColumn& column : columns_) {
+            titles.push_back(column.title);
+            measured.push_back(column.titleMeasure.empty() ? column.title : column.titleMeasure);
+        }
+        page_.FontBold(true);
+        page_.CurrentY(TopOfColumns);
+        printCells(titles, measured);
+        page_.FontBold(false);
+        page_.PrintLine();
+        page_.PrintLine();
+    }
+
+    void rule(double y) { page_.Line(Margin, y, width_ - Margin, y); }
+
+    static String footer()
+    {
+        const Moment now = presentMoment();
+        const CoreMachine& machine = coreRoot().CoreSystem().CoreMachine();
+        return u"Gedruckt am " + dayText(now) + u" um " + formatPattern(now, u"HH:MM") + u" von " +
+               machine.UserName() + u" an Rechner " + machine.ComputerName();
+    }
+
+    std::span<const ListColumn> columns_;
+    Printer printer_;
+    DrawDevice& page_ = printer_.device();
+    std::int32_t width_ = 0;
+    std::int32_t height_ = 0;
+    bool begun_ = false;
+};
+
+} // namespace
+
+void printList(StringView title, std::span<const ListColumn> columns, std::int32_t rows, const ListRow& row)
+{
+    ListPrinter printer(title, columns);
+    for (std::int32_t position = 1; position <= rows; ++position) {
+        printer.addRow(row(position));
+    }
+    printer.end();
+}
+
+String printedMoment(Moment moment)
+{
+    return timeText(moment) + u' ' + dayText(moment);
+}
+
+} // namespace phial

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/Moment.h"
+#include "core/String.h"
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <vector>
+
+namespace phial
+{
+
+/// A column of a printed list.
+struct ListColumn {
+    enum class Align : std::int32_t { Left, Right };
+
+    /// Where it lies, as a share of the width between the margins: its left edge, or its right one when it
+    /// is aligned to the right.
+    double place;
+    StringView title;
+    Align align = Align::Left;
+    /// The text by whose width the title is placed, when it is another than the title.
+    StringView titleMeasure = {};
+};
+
+/// The texts of a row, one for each column; rows count from 1.
+using ListRow = std::function<std::vector<String>(std::int32_t position)>;
+
+/// Prints a list on the system's printer, in landscape: the title, the rows under the columns' titles, which
+/// every page repeats, and a line that tells when and by whom it was printed. A text that is too long for its
+/// column is clipped where the next one begins. A printer's failure is raised.
+void printList(StringView title, std::span<const ListColumn> columns, std::int32_t rows, const ListRow& row);
+
+/// A moment as lists print it: "HH:MM:SS dd.mm.yyyy".
+String printedMoment(Moment moment);
+
+} // namespace phial
