@@ -1,7 +1,8 @@
 # Installs libraries, headers and the CMake package that find_package(Phial) reads.
 #
-# The package has three components, each with its own file of targets, so that a program without windows never
-# asks for Qt: core (Phial::phial, Phial::headless; always there), qt_base (Phial::qt_base) and qt (Phial::qt).
+# The package has components, each with its own file of targets, so that a program without windows never asks for
+# Qt: core (Phial::phial, Phial::headless; always there), sealing (Phial::sealing), qt_base (Phial::qt_base) and qt
+# (Phial::qt).
 
 include(CMakePackageConfigHelpers)
 set(PHIAL_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/Phial")
@@ -29,12 +30,18 @@ function(phial_install_component component)
 endfunction()
 
 phial_install_component(core phial phial phial_headless headless)
+phial_install_component(sealing phial_sealing sealing)
 phial_install_component(qt_base phial_qt_base qt_base)
 phial_install_component(qt phial_qt qt)
 
 set(not_installed)
 if(NOT TARGET phial_qt_base)
-    set(not_installed PATTERN qt EXCLUDE)
+    list(APPEND not_installed PATTERN qt EXCLUDE)
+endif()
+if(TARGET phial_sealing)
+    install(FILES "${CMAKE_CURRENT_LIST_DIR}/FindSodium.cmake" DESTINATION "${PHIAL_PACKAGE_DIR}")
+else()
+    list(APPEND not_installed PATTERN sealing EXCLUDE)
 endif()
 install(DIRECTORY "${CMAKE_SOURCE_DIR}/src/" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/phial"
     FILES_MATCHING PATTERN "*.h" ${not_installed})

@@ -8,7 +8,8 @@ BELOW = {
     "core": (),
     "visual": ("core",),
     "headless": SYSTEM,
-    "qt/base": SYSTEM,
+    "sealing": ("core",),
+    "qt/base": (*SYSTEM, "sealing"),
     "qt/desktop": (*SYSTEM, "qt/base"),
     **{subsystem: ("core", "visual") for subsystem in SUBSYSTEMS},
 }

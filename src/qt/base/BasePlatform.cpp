@@ -10,6 +10,10 @@
 #include "qt/base/QtSettingsStore.h"
 #include "qt/base/StandardFolder.h"
 
+#ifdef PHIAL_HAS_SEALING
+#include "sealing/PasswordSeal.h"
+#endif
+
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -30,6 +34,16 @@ Locale userLocale()
     return locale;
 }
 
+// Null in a build without sealing.
+std::shared_ptr<RecordSeal> passwordSeal()
+{
+#ifdef PHIAL_HAS_SEALING
+    return std::make_shared<PasswordSeal>();
+#else
+    return nullptr;
+#endif
+}
+
 } // namespace
 
 Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard)
@@ -42,6 +56,7 @@ Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard)
     platform.folders = std::make_shared<QtFolders>();
     platform.machine = std::make_shared<QtMachine>();
     platform.settings = std::make_shared<QtSettingsStore>();
+    platform.seal = passwordSeal();
     platform.locale = userLocale();
     if (QCoreApplication::instance() != nullptr) {
         platform.programFolder = asFolder(QCoreApplication::applicationDirPath());
