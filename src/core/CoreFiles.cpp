@@ -111,6 +111,11 @@ bool CoreFiles::WriteScratch(StringView pPath, StringView pText)
     return written;
 }
 
+bool CoreFiles::AppendText(StringView pPath, StringView pText)
+{
+    return ignoringErrors([&] { fileSystem_->append(native(pPath), toUtf8(pText)); });
+}
+
 void CoreFiles::Copy(StringView pFrom, StringView pTo)
 {
     replaceFile(*fileSystem_, native(pTo), fileSystem_->read(native(pFrom)));

@@ -55,6 +55,10 @@ public:
     /// outlive the next moment, such as a probe. Gives whether it was written; if not, no part of it stays.
     bool WriteScratch(StringView pPath, StringView pText);
 
+    /// Adds a text to the end of a file, in UTF-8, or makes the file; nothing is brought to the disk. Gives
+    /// whether it was written. For logs.
+    bool AppendText(StringView pPath, StringView pText);
+
     /// Copies a file, replacing the target as `WriteText` does. Raises 53 or 75.
     void Copy(StringView pFrom, StringView pTo);
 

@@ -40,6 +40,23 @@ void raiseOn(const std::error_code& error, StringView what, const fs::path& path
     }
 }
 
+/// Opens the file as `mode` says and puts the bytes there.
+void writeThrough(const fs::path& file, std::string_view bytes, std::ios::openmode mode)
+{
+    if (file.empty()) {
+        throw RuntimeError(ErrorNumber::FileNotFound);
+    }
+    std::ofstream stream(file, std::ios::binary | mode);
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    stream.close();
+    if (!stream) {
+        std::error_code error;
+        const bool hasFolder = fs::is_directory(file.parent_path(), error);
+        raiseFor(hasFolder ? error : make_error_code(std::errc::no_such_file_or_directory), u"cannot write",
+                 file);
+    }
+}
+
 /// Brings what the system holds in memory for a file or folder to the disk.
 void synchronise([[maybe_unused]] const fs::path& path)
 {
@@ -74,18 +91,12 @@ std::string NativeFileSystem::read(const fs::path& file)
 
 void NativeFileSystem::write(const fs::path& file, std::string_view bytes)
 {
-    if (file.empty()) {
-        throw RuntimeError(ErrorNumber::FileNotFound);
-    }
-    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    stream.close();
-    if (!stream) {
-        std::error_code error;
-        const bool hasFolder = fs::is_directory(file.parent_path(), error);
-        raiseFor(hasFolder ? error : make_error_code(std::errc::no_such_file_or_directory), u"cannot write",
-                 file);
-    }
+    writeThrough(file, bytes, std::ios::trunc);
+}
+
+void NativeFileSystem::append(const fs::path& file, std::string_view bytes)
+{
+    writeThrough(file, bytes, std::ios::app);
 }
 
 void NativeFileSystem::flush(const fs::path& file)

@@ -21,6 +21,8 @@ public:
     virtual std::string read(const std::filesystem::path& file) = 0;
     /// Makes or replaces a file. Until `flush` the content may be lost in a power failure.
     virtual void write(const std::filesystem::path& file, std::string_view bytes) = 0;
+    /// Adds to the end of a file, or makes it.
+    virtual void append(const std::filesystem::path& file, std::string_view bytes) = 0;
     /// Brings a file's content to the disk.
     virtual void flush(const std::filesystem::path& file) = 0;
     /// Brings a folder's list of names to the disk; nothing happens where systems do not know that step.
@@ -38,6 +40,7 @@ class NativeFileSystem : public FileSystem
 public:
     std::string read(const std::filesystem::path& file) override;
     void write(const std::filesystem::path& file, std::string_view bytes) override;
+    void append(const std::filesystem::path& file, std::string_view bytes) override;
     void flush(const std::filesystem::path& file) override;
     void flushFolder(const std::filesystem::path& folder) override;
     void rename(const std::filesystem::path& from, const std::filesystem::path& to) override;

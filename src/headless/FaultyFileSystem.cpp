@@ -8,12 +8,24 @@
 namespace phial::headless
 {
 
+namespace
+{
+
+void raiseIfCut(std::string_view written, std::string_view bytes)
+{
+    if (written.size() < bytes.size()) {
+        throw RuntimeError(ErrorNumber::FileAccess, u"injected fault: disk full");
+    }
+}
+
+} // namespace
+
 FaultyFileSystem::FaultyFileSystem(std::shared_ptr<FileSystem> behind) : behind_(std::move(behind)) {}
 
 void FaultyFileSystem::failChanges()
 {
-    for (const FileStep step : {FileStep::Write, FileStep::Flush, FileStep::FlushFolder, FileStep::Rename,
-                                FileStep::Remove, FileStep::CreateFolder}) {
+    for (const FileStep step : {FileStep::Write, FileStep::Append, FileStep::Flush, FileStep::FlushFolder,
+                                FileStep::Rename, FileStep::Remove, FileStep::CreateFolder}) {
         fail(step);
     }
 }
@@ -55,17 +67,31 @@ std::string FaultyFileSystem::read(const std::filesystem::path& file)
     return behind_->read(file);
 }
 
+/// The beginning of the bytes for which the disk has room, which they take.
+std::string_view FaultyFileSystem::whatFits(std::string_view bytes)
+{
+    if (!bytesLeft_) {
+        return bytes;
+    }
+    const std::string_view fitting = bytes.substr(0, *bytesLeft_);
+    *bytesLeft_ -= fitting.size();
+    return fitting;
+}
+
 void FaultyFileSystem::write(const std::filesystem::path& file, std::string_view bytes)
 {
     change(FileStep::Write, file);
-    if (bytesLeft_ && bytes.size() > *bytesLeft_) {
-        behind_->write(file, bytes.substr(0, std::exchange(*bytesLeft_, 0)));
-        throw RuntimeError(ErrorNumber::FileAccess, u"injected fault: disk full");
-    }
-    if (bytesLeft_) {
-        *bytesLeft_ -= bytes.size();
-    }
-    behind_->write(file, bytes);
+    const std::string_view fitting = whatFits(bytes);
+    behind_->write(file, fitting);
+    raiseIfCut(fitting, bytes);
+}
+
+void FaultyFileSystem::append(const std::filesystem::path& file, std::string_view bytes)
+{
+    change(FileStep::Append, file);
+    const std::string_view fitting = whatFits(bytes);
+    behind_->append(file, fitting);
+    raiseIfCut(fitting, bytes);
 }
 
 void FaultyFileSystem::flush(const std::filesystem::path& file)

@@ -11,7 +11,7 @@ namespace phial::headless
 {
 
 /// The steps of `FileSystem`.
-enum class FileStep : std::uint8_t { Read, Write, Flush, FlushFolder, Rename, Remove, CreateFolder };
+enum class FileStep : std::uint8_t { Read, Write, Append, Flush, FlushFolder, Rename, Remove, CreateFolder };
 
 /// A file system in which steps fail as a test wishes. What does not fail is done by the file system behind
 /// it.
@@ -38,6 +38,7 @@ public:
 
     std::string read(const std::filesystem::path& file) override;
     void write(const std::filesystem::path& file, std::string_view bytes) override;
+    void append(const std::filesystem::path& file, std::string_view bytes) override;
     void flush(const std::filesystem::path& file) override;
     void flushFolder(const std::filesystem::path& folder) override;
     void rename(const std::filesystem::path& from, const std::filesystem::path& to) override;
@@ -47,6 +48,7 @@ public:
 private:
     void begin(FileStep step);
     void change(FileStep step, const std::filesystem::path& path);
+    std::string_view whatFits(std::string_view bytes);
 
     std::shared_ptr<FileSystem> behind_;
     std::set<FileStep> failing_;
