@@ -61,11 +61,11 @@ struct Platform {
     /// Left out: records with a password are neither read nor written.
     std::shared_ptr<RecordSeal> seal;
 
-    /// Makers of what is new each time. Left out: making one raises 91; the messenger alone is then one that
-    /// reaches nobody.
+    /// Makers of what is new each time. Left out: the network client raises an error for each port and
+    /// request, the messenger reaches nobody, and making a form document raises 91.
     std::function<std::shared_ptr<CoreNetClient>()> newNetClient;
-    std::function<std::shared_ptr<CoreFormDocument>()> newFormDocument;
     std::function<std::shared_ptr<InterCom>()> newInterCom;
+    std::function<std::shared_ptr<CoreFormDocument>()> newFormDocument;
 
     /// The user's habits with numbers and dates, with which the session begins.
     Locale locale;

@@ -80,6 +80,28 @@ public:
     bool start(StringView, std::span<const String>) override { return false; }
 };
 
+class NoNetwork : public CoreNetClient
+{
+public:
+    CoreNetOptions& Options() override { return options_; }
+    void EnableReceive(bool) override {}
+    void OpenPort(std::int32_t) override { raise(); }
+    void Close() override {}
+    String Request(StringView, StringView, std::int32_t, const CoreParameters*, bool, StringView) override
+    {
+        raise();
+    }
+    void ShowMonitor() override {}
+
+private:
+    [[noreturn]] static void raise()
+    {
+        throw RuntimeError(ErrorNumber::DeviceUnavailable, u"this program has no network");
+    }
+
+    CoreNetOptions options_;
+};
+
 class NobodyToReach : public InterCom
 {
 public:
@@ -171,9 +193,7 @@ Platform withDefaults(Platform platform)
         platform.pump = std::make_shared<StandardEventPump>(platform.clock, platform.reportError);
     }
     if (!platform.newNetClient) {
-        platform.newNetClient = []() -> std::shared_ptr<CoreNetClient> {
-            throw RuntimeError(ErrorNumber::ObjectNotSet);
-        };
+        platform.newNetClient = [] { return std::make_shared<NoNetwork>(); };
     }
     if (!platform.newFormDocument) {
         platform.newFormDocument = []() -> std::shared_ptr<CoreFormDocument> {

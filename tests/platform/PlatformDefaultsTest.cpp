@@ -1,6 +1,7 @@
 #include "core/Clock.h"
 #include "core/CoreCursors.h"
 #include "core/CoreDisplay.h"
+#include "core/CoreNetClient.h"
 #include "core/CoreRegistry.h"
 #include "core/CoreSoundFacet.h"
 #include "core/CoreSystem.h"
@@ -32,7 +33,6 @@ TEST_F(PlatformDefaults, WhatNothingCanStandInForRaises)
     EXPECT_RAISES(coreRoot().CoreDialogs(), ObjectNotSet);
     EXPECT_RAISES(coreRoot().CoreSystem().CoreFolders(), ObjectNotSet);
     EXPECT_RAISES(coreRoot().CoreSystem().CoreMachine(), ObjectNotSet);
-    EXPECT_RAISES(session.platform().newNetClient(), ObjectNotSet);
     EXPECT_RAISES(session.platform().newFormDocument(), ObjectNotSet);
 }
 
@@ -46,6 +46,18 @@ TEST_F(PlatformDefaults, TheRestDoesNoHarm)
     EXPECT_FALSE(coreRoot().CoreDisplay().TextHeight());
     EXPECT_EQ(coreRoot().CoreCursors().Load(u"a.ico"), nullptr);
     EXPECT_FALSE(session.platform().newInterCom()->Send(u"NOBODY", 1, u"x"));
+}
+
+TEST_F(PlatformDefaults, ThereIsANetworkClientWithoutANetwork)
+{
+    const std::shared_ptr<CoreNetClient> client = session.platform().newNetClient();
+    client->Options().ConnectTimeout = 2;
+    EXPECT_EQ(client->Options().ConnectTimeout, 2);
+    EXPECT_RAISES(client->OpenPort(10051), DeviceUnavailable);
+    EXPECT_RAISES(client->Request(u"A::B::", u"127.0.0.1", 10049, nullptr, true, u""), DeviceUnavailable);
+    client->EnableReceive(true);
+    client->ShowMonitor();
+    client->Close();
 }
 
 TEST_F(PlatformDefaults, SettingsLastAsLongAsTheSession)
