@@ -15,6 +15,7 @@
 #include "core/CoreRegistry.h"
 #include "core/CoreRoot.h"
 #include "core/SessionState.h"
+#include "server/cls_AppServer.h"
 #include "visual/Form.h"
 #include "visual/VisualHost.h"
 
@@ -110,8 +111,8 @@ void startUp(cls_App& root, String commandLine, bool serverAllowed)
         config->SOUND(false);
     }
     warnAboutLargeFonts();
-    if (contactServer && root.serverContact().prepare) {
-        root.serverContact().prepare();
+    if (contactServer) {
+        root.SERVER()->INIT();
     }
     AvatarImagesLoad();
     if (tokens.Exists(u"EMBEDDED")) {

@@ -15,6 +15,7 @@
 #include "core/CoreRuntimeOptions.h"
 #include "core/InterCom.h"
 #include "core/RuntimeError.h"
+#include "server/cls_AppServer.h"
 
 #include <utility>
 
@@ -46,8 +47,8 @@ void cls_App::DEINIT()
         }
     });
     ignoringErrors([this] {
-        if (serverContact_.disconnect) {
-            serverContact_.disconnect();
+        if (const auto server = server_.existing()) {
+            server->DISCONNECT();
         }
     });
     ignoringErrors([] { coreRoot().CoreRuntimeOptions().Shutdown(); });
@@ -124,6 +125,16 @@ const std::shared_ptr<cls_AppUser>& cls_App::USER()
 void cls_App::USER(std::shared_ptr<cls_AppUser> value)
 {
     user_.set(std::move(value));
+}
+
+const std::shared_ptr<cls_AppServer>& cls_App::SERVER()
+{
+    return server_.get();
+}
+
+void cls_App::SERVER(std::shared_ptr<cls_AppServer> value)
+{
+    server_.set(std::move(value));
 }
 
 } // namespace phial

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/DialogAids.h"
-#include "app/ServerContact.h"
 #include "app/SubObject.h"
 #include "core/String.h"
 
@@ -81,17 +80,13 @@ public:
     const std::shared_ptr<cls_AppRate>& RATE();
     void RATE(std::shared_ptr<cls_AppRate> value);
 
-    /// The classroom's master.
+    /// The client of the classroom's master.
     const std::shared_ptr<cls_AppServer>& SERVER();
     void SERVER(std::shared_ptr<cls_AppServer> value);
 
     /// The messenger to the other programs of the suite. Made at the start, not set before.
     const std::shared_ptr<InterCom>& INTERCOM() const { return interCom_; }
     void INTERCOM(std::shared_ptr<InterCom> value) { interCom_ = std::move(value); }
-
-    /// What the start and the end ask of the classroom connection.
-    const ServerContact& serverContact() const { return serverContact_; }
-    void serverContact(ServerContact value) { serverContact_ = std::move(value); }
 
     /// What the frame's dialogs ask of keyboards and sounds.
     const DialogAids& dialogAids() const { return dialogAids_; }
@@ -108,7 +103,6 @@ private:
     SubObject<cls_AppRate> rate_;
     SubObject<cls_AppServer> server_;
     std::shared_ptr<InterCom> interCom_;
-    ServerContact serverContact_;
     DialogAids dialogAids_;
 };
 

@@ -3,8 +3,10 @@
 #include "core/Event.h"
 #include "core/String.h"
 #include "core/Variant.h"
+#include "server/NetLog.h"
 
 #include <memory>
+#include <optional>
 
 namespace phial
 {
@@ -12,16 +14,18 @@ namespace phial
 class CoreNetClient;
 class CoreParameters;
 class cls_AppServerConfig;
-class cls_DataEvents;
 
 /// The client of the classroom's master. Every operation degrades to a local default: without a master
 /// requests are empty, apps are allowed, and events go to a file of this computer. No failure of the network
 /// is raised.
 ///
-/// Requests and waits run events: any handler can run meanwhile.
-class cls_AppServer
+/// Requests, waits and boxes run events: any handler can run meanwhile and use this object. Each request
+/// keeps its own answer and its own time-outs. A logon is never begun within a logon: the inner one gives
+/// False at once. The object may even be replaced in the root during its own call.
+class cls_AppServer : public std::enable_shared_from_this<cls_AppServer>
 {
 public:
+    /// Begins the network log of this run.
     cls_AppServer();
     ~cls_AppServer();
     cls_AppServer(const cls_AppServer&) = delete;
@@ -35,17 +39,20 @@ public:
     const std::shared_ptr<CoreNetClient>& CLIENT() const { return client_; }
     void CLIENT(std::shared_ptr<CoreNetClient> value);
 
-    /// Makes the network client and binds its port; no message goes out.
+    /// Makes the network client and binds its port; no message goes out. A client that cannot bind has given
+    /// up until `RECHECK`. When it is called again, the client of before is closed.
     void INIT();
     /// Whether a master can be used; logs on if needed.
     bool AVAILABLE();
     /// Whether the client is logged on; no traffic.
-    bool ONLINE() const;
-    /// Logs on. Raises 91 without a network client.
+    bool ONLINE() const { return online_ && !offlineFixed_; }
+    /// Logs on under the user's screen name, for which the user is asked if there is none. Raises 91 without
+    /// a network client.
     bool CONNECT();
+    /// Logs off, if logged on; may be called again.
     void DISCONNECT();
     /// Lets the next call try again after the client has given up.
-    void RECHECK();
+    void RECHECK() { offlineFixed_ = false; }
 
     /// A property of the master, or the default.
     Variant SETTING(StringView pSettingName, const Variant& pDefaultValue);
@@ -55,19 +62,47 @@ public:
     Variant REQUEST(StringView pModule, StringView pCmd, StringView pPackage = {});
     /// A message whose answer is of no interest.
     void COMMAND(StringView pModule, StringView pCmd, StringView pPackage = {});
+    /// Tells a master that this client is still there; nothing while not logged on.
     void ALIVE();
     /// Whether this app may run now; `pShowInfo` tells the user why not.
     bool ALLOWED(bool pShowInfo = true);
-    /// Opens the network client's monitor window.
+    /// Opens the network client's monitor window. Raises 91 without a network client.
     void MONITOR();
 
+    /// What came last, for inspection: the payload of an answer, or the text of a message that came unasked.
+    const String& lastAnswer() const { return lastAnswer_; }
+
 private:
+    struct Reply;
+
+    CoreNetClient& networkClient() const;
+    /// The object itself, so that it outlives the events which its calls run.
+    std::shared_ptr<cls_AppServer> keptAlive() { return weak_from_this().lock(); }
+
+    bool logOn();
+    void chooseScreenName();
+    void tryLogon();
+    void tryLogonOnceMore();
+    void welcome();
+
+    Reply ask(StringView module, StringView command, StringView package);
+    double responseTimeout(StringView package) const;
+    std::optional<String> sendUntilAnswered(StringView message, double timeout);
+    std::optional<String> sendOnce(StringView message);
+    String send(StringView message);
+    bool isExhausted(int sends);
+    Variant askForMode();
+
+    void note(StringView text);
+    void explain(StringView text);
+    void pump();
+
     std::shared_ptr<cls_AppServerConfig> config_;
     std::shared_ptr<CoreNetClient> client_;
-    std::shared_ptr<cls_DataEvents> offlineEvents_;
     Connection received_;
     String lastAnswer_;
-    String logFile_;
+    NetLog log_;
+    bool connecting_ = false;
     bool online_ = false;
     bool offlineFixed_ = false;
     bool everLoggedOn_ = false;

@@ -4,6 +4,9 @@
 #include "core/CoreRoot.h"
 #include "core/CoreRuntimeOptions.h"
 #include "core/InterCom.h"
+#include "server/cls_AppServer.h"
+
+#include <functional>
 
 namespace phial
 {
@@ -20,7 +23,22 @@ protected:
         watch = coreRoot().CoreRuntimeOptions().SHUTDOWN.connect([this] { ++shutdowns; });
     }
 
+    /// Begins a run that is logged on to a master, and watches for its logoff.
+    void startLoggedOn()
+    {
+        outside.network().answerWith([this](const String& message) {
+            if (message.starts_with(u"SERVER::LOGOFF::")) {
+                ++logoffs;
+                atLogoff();
+            }
+            return u"008:LOGON:OK";
+        });
+        ASSERT_TRUE(start().SERVER()->CONNECT());
+    }
+
     int shutdowns = 0;
+    int logoffs = 0;
+    std::function<void()> atLogoff = [] {};
     Connection watch;
 };
 
@@ -70,21 +88,21 @@ TEST_F(Root, ReadsTheSettingsWhenConfigIsFirstRead)
     EXPECT_FALSE(QVAPP()->CONFIG()->SOUND());
 }
 
-TEST_F(Root, DisconnectsAndShutsTheCoreDownAtTheEnd)
+TEST_F(Root, LogsOffAndShutsTheCoreDownAtTheEnd)
 {
-    int disconnects = 0;
-    start().serverContact({{}, [&] { ++disconnects; }});
+    startLoggedOn();
     QVAPP()->DEINIT();
-    EXPECT_EQ(disconnects, 1);
+    EXPECT_EQ(logoffs, 1);
     EXPECT_EQ(shutdowns, 1);
-    QVAPP()->serverContact({});
 }
 
 TEST_F(Root, IgnoresErrorsAtTheEnd)
 {
-    start().serverContact({{}, [] { throw RuntimeError(ErrorNumber::ObjectNotSet); }});
+    startLoggedOn();
+    atLogoff = [] { throw RuntimeError(ErrorNumber::ObjectNotSet); };
     QVAPP()->DEINIT();
     QVAPP()->DEINIT();
+    EXPECT_EQ(logoffs, 2);
     EXPECT_EQ(shutdowns, 2);
 }
 
@@ -97,11 +115,12 @@ TEST_F(Root, EndsWithoutEverHavingStarted)
 TEST_F(Root, StillAnswersWhileTheSessionEnds)
 {
     String identAtTheEnd;
-    start().serverContact({{}, [&] {
-                               if (identAtTheEnd.empty()) {
-                                   identAtTheEnd = QVAPP()->CONFIG()->IDENT();
-                               }
-                           }});
+    startLoggedOn();
+    atLogoff = [&] {
+        if (identAtTheEnd.empty()) {
+            identAtTheEnd = QVAPP()->CONFIG()->IDENT();
+        }
+    };
     session.reset();
     EXPECT_EQ(identAtTheEnd, u"Molmasse");
     EXPECT_EQ(shutdowns, 2);
@@ -109,15 +128,14 @@ TEST_F(Root, StillAnswersWhileTheSessionEnds)
 
 TEST_F(Root, MakesNoSecondRootWhileTheSessionEnds)
 {
-    int calls = 0;
     int raised = 0;
-    start().serverContact({{}, [&] {
-                               ++calls;
-                               raised += ignoringErrors([] { QVAPP(); }) ? 0 : 1;
-                           }});
+    startLoggedOn();
+    const Connection atShutdown = coreRoot().CoreRuntimeOptions().SHUTDOWN.connect(
+        [&] { raised += ignoringErrors([] { QVAPP(); }) ? 0 : 1; });
     session.reset();
-    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(shutdowns, 2);
     EXPECT_EQ(raised, 1);
+    EXPECT_EQ(logoffs, 1);
 }
 
 TEST_F(Root, MakesNoSubObjectAtTheEnd)

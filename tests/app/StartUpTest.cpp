@@ -5,9 +5,9 @@
 #include "core/CoreRoot.h"
 #include "core/CoreRuntimeOptions.h"
 #include "core/InterCom.h"
+#include "server/cls_AppServer.h"
 #include "support/Raises.h"
 
-#include <string>
 #include <vector>
 
 namespace phial
@@ -27,16 +27,10 @@ constexpr StringView RootNotFound = u"Der Ordner mit den Daten-Dateien des QV Ph
 class StartUp : public AppTest
 {
 protected:
-    /// Notes what the run asks of the classroom connection.
-    void watchServerContact()
-    {
-        QVAPP()->serverContact(
-            {[this] { asked.emplace_back("prepare"); }, [this] { asked.emplace_back("disconnect"); }});
-    }
-
     void useLargeFonts() { outside.display().TextHeight(17); }
 
-    std::vector<std::string> asked;
+    /// How often the classroom's client has been prepared, which opens its port.
+    std::size_t preparations() { return outside.network().openedPorts().size(); }
 };
 
 TEST_F(StartUp, MakesTheMessengerToTheOtherPrograms)
@@ -70,33 +64,52 @@ TEST_F(StartUp, AddsOneParameterForEachToken)
 
 TEST_F(StartUp, RunsToItsEndWithoutParameters)
 {
-    watchServerContact();
     EXPECT_EQ(start().CONFIG()->PARAMETERS()->Count(), 0);
-    EXPECT_EQ(asked, std::vector<std::string>{"prepare"});
+    EXPECT_EQ(preparations(), 1U);
 }
 
-TEST_F(StartUp, PreparesTheServerContactUnlessStandalone)
+TEST_F(StartUp, PreparesTheServerClientAndSendsNothing)
 {
-    watchServerContact();
     start();
-    EXPECT_EQ(asked, std::vector<std::string>{"prepare"});
-    asked.clear();
-    QVAPP()->INITSTANDALONE(u"");
-    EXPECT_TRUE(asked.empty());
+    EXPECT_EQ(preparations(), 1U);
+    EXPECT_NE(QVAPP()->SERVER()->CLIENT(), nullptr);
+    EXPECT_TRUE(outside.network().requests().empty());
 }
 
-TEST_F(StartUp, PreparesNoServerContactWithNoNetwork)
-{
-    watchServerContact();
-    start(u"nonetwork");
-    EXPECT_TRUE(asked.empty());
-}
-
-TEST_F(StartUp, RaisesWhatTheServerContactRaises)
+TEST_F(StartUp, PreparesNoServerClientWhenStandalone)
 {
     storePath(makeTree(u"installed\\"));
-    QVAPP()->serverContact({[] { throw RuntimeError(ErrorNumber::InvalidArgument); }, {}});
+    QVAPP()->INITSTANDALONE(u"");
+    EXPECT_EQ(preparations(), 0U);
+    EXPECT_EQ(QVAPP()->SERVER()->CLIENT(), nullptr);
+}
+
+TEST_F(StartUp, PreparesNoServerClientWithNoNetwork)
+{
+    start(u"nonetwork");
+    EXPECT_EQ(preparations(), 0U);
+}
+
+TEST_F(StartUp, RaisesWhatTheMakerOfTheNetworkClientRaises)
+{
+    session.reset();
+    Platform platform = outside.platform();
+    platform.newNetClient = []() -> std::shared_ptr<CoreNetClient> {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    };
+    session.emplace(platform);
+    storePath(makeTree(u"installed\\"));
     EXPECT_RAISES(QVAPP()->INIT(u""), InvalidArgument);
+}
+
+TEST_F(StartUp, RunsToItsEndWithoutANetwork)
+{
+    session.reset();
+    Platform platform = outside.platform();
+    platform.newNetClient = nullptr;
+    session.emplace(platform);
+    start();
+    EXPECT_FALSE(QVAPP()->SERVER()->AVAILABLE());
 }
 
 TEST_F(StartUp, ResolvesTheFolders)
@@ -179,12 +192,11 @@ TEST_F(StartUp, LoadsTheAvatarsInEveryCase)
 
 TEST_F(StartUp, RepeatsAllStepsWhenCalledAgain)
 {
-    watchServerContact();
     start(u"A=1");
     start(u"A=2 B");
     EXPECT_EQ(QVAPP()->CONFIG()->PARAMETERS()->Get(u"A"), Variant(u"2"));
     EXPECT_EQ(QVAPP()->CONFIG()->PARAMETERS()->Count(), 2);
-    EXPECT_EQ(asked.size(), 2U);
+    EXPECT_EQ(preparations(), 2U);
 }
 
 TEST_F(StartUp, WritesNoSettingWhenNothingHasChanged)
