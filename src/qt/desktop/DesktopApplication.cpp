@@ -7,6 +7,7 @@
 #include "qt/desktop/Dispatch.h"
 #include "qt/desktop/QtVisualHost.h"
 #include "qt/desktop/ShotDialogs.h"
+#include "qt/desktop/SvgFormDocument.h"
 
 #include <QApplication>
 
@@ -84,6 +85,7 @@ Platform DesktopApplication::platform() const
     platform.textBoxes = std::make_shared<DesktopTextBoxes>();
     platform.shell = std::make_shared<DesktopShell>();
     platform.visual = std::make_shared<QtVisualHost>();
+    platform.newFormDocument = [] { return newSvgFormDocument(); };
     platform.programTitle = title_;
     return platform;
 }
