@@ -15,6 +15,7 @@
 #include "core/CoreRuntimeOptions.h"
 #include "core/InterCom.h"
 #include "core/RuntimeError.h"
+#include "results/cls_AppRate.h"
 #include "server/cls_AppServer.h"
 
 #include <utility>
@@ -135,6 +136,16 @@ const std::shared_ptr<cls_AppServer>& cls_App::SERVER()
 void cls_App::SERVER(std::shared_ptr<cls_AppServer> value)
 {
     server_.set(std::move(value));
+}
+
+const std::shared_ptr<cls_AppRate>& cls_App::RATE()
+{
+    return rate_.get();
+}
+
+void cls_App::RATE(std::shared_ptr<cls_AppRate> value)
+{
+    rate_.set(std::move(value));
 }
 
 } // namespace phial

@@ -1,0 +1,424 @@
+#include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
+#include "app/cls_AppURL.h"
+#include "app/cls_AppUser.h"
+#include "app/sys_Global.h"
+#include "core/CoreParameters.h"
+#include "core/CoreValuePacker.h"
+#include "core/RuntimeError.h"
+#include "results/Mark.h"
+#include "results/cls_AppRate.h"
+#include "results/cls_DataScores.h"
+#include "server/cls_AppServer.h"
+#include "support/AppSession.h"
+#include "support/Raises.h"
+
+namespace phial
+{
+
+namespace
+{
+
+using headless::Box;
+
+/// A pupil who has finished an exercise on a computer without a master, until `logOn`.
+class AppRateTest : public test::AppSession
+{
+protected:
+    AppRateTest()
+    {
+        QVAPP()->URL()->DATAHIGHSCORES(path(u""));
+        QVAPP()->URL()->ROOT(path(u"tree\\"));
+        QVAPP()->USER()->SCREENNAME(u"Mia");
+        QVAPP()->CONFIG()->PARAMETERS()->Set(u"NONETWORK", true);
+    }
+
+    static cls_AppRate& rate() { return *QVAPP()->RATE(); }
+
+    /// Starts a master that answers log-ons, and other messages as told, and logs on to it.
+    void logOn(headless::ScriptedNetwork::Answers answers)
+    {
+        QVAPP()->CONFIG()->PARAMETERS(std::make_shared<CoreParameters>());
+        outside.network().answerWith([answers = std::move(answers)](const String& message) {
+            return message.starts_with(u"SERVER::LOGON") ? String(u"008:LOGON:OK") : answers(message);
+        });
+        QVAPP()->SERVER()->INIT();
+        ASSERT_TRUE(QVAPP()->SERVER()->CONNECT());
+    }
+    String lastMessage() { return outside.network().requests().back().message; }
+
+    void fill(std::initializer_list<double> points, StringView module = u"HIGHSCORE")
+    {
+        cls_DataScores scores;
+        for (const double entry : points) {
+            scores.ADD(entry, 100, u"", nullptr, u"", u"", u"Tom");
+        }
+        ASSERT_TRUE(scores.SAVE(path(String(module) + u".qv-hsr")));
+    }
+    cls_DataScores& stored(StringView file)
+    {
+        list_ = std::make_unique<cls_DataScores>();
+        EXPECT_TRUE(list_->LOAD(path(file)));
+        return *list_;
+    }
+
+    /// The one box of a submission.
+    void expectMessage(const String& title, const String& text)
+    {
+        ASSERT_FALSE(outside.dialogs().shown().empty());
+        EXPECT_EQ(outside.dialogs().shown().back(), (headless::ShownBox{Box::Info, text, title, u""}));
+    }
+    std::int32_t submit(double points, std::int32_t limit = 10)
+    {
+        outside.dialogs().expect(Box::Info);
+        return rate().SUBMIT(points, 100, u"", nullptr, u"HIGHSCORE", true, limit);
+    }
+
+private:
+    std::unique_ptr<cls_DataScores> list_;
+};
+
+std::pair<String, std::int32_t> mark(double points, double pointsMax)
+{
+    String text;
+    std::int32_t value = -1;
+    cls_AppRate().MARK(points, pointsMax, u"", text, value);
+    return {text, value};
+}
+
+TEST_F(AppRateTest, MarkOfNothingOutOfNothingIsTheWorst)
+{
+    EXPECT_EQ(mark(0, 0), std::pair(String(u"Ungenügend"), 0));
+}
+
+TEST_F(AppRateTest, NoReachablePointsCountAsAHundred)
+{
+    EXPECT_EQ(mark(50, 0), std::pair(String(u"Ausreichend plus"), 6));
+}
+
+TEST_F(AppRateTest, MorePointsThanReachableAreTheBestMark)
+{
+    EXPECT_EQ(rate().MARKPOINTS(120, 100, u""), 15);
+}
+
+TEST_F(AppRateTest, NegativeReachablePointsGiveTheWorstMark)
+{
+    EXPECT_EQ(rate().MARKPOINTS(5, -10, u""), 0);
+    EXPECT_EQ(rate().MARKPOINTS(-20, -10, u""), 0);
+}
+
+TEST_F(AppRateTest, AnUpperLimitBelongsToTheBetterMark)
+{
+    EXPECT_EQ(rate().MARKPOINTS(9.5, 10, u""), 15);
+    EXPECT_EQ(rate().MARKPOINTS(9.49, 10, u""), 14);
+    EXPECT_EQ(rate().MARKPOINTS(1, 10, u""), 1);
+    EXPECT_EQ(rate().MARKPOINTS(0.99, 10, u""), 0);
+}
+
+TEST_F(AppRateTest, EveryMarkHasItsWordsAndItsSchoolForm)
+{
+    constexpr StringView Words[] = {
+        u"Ungenügend",        u"Mangelhaft minus",  u"Mangelhaft",       u"Mangelhaft plus",
+        u"Ausreichend minus", u"Ausreichend",       u"Ausreichend plus", u"Befriedigend minus",
+        u"Befriedigend",      u"Befriedigend plus", u"Gut minus",        u"Gut",
+        u"Gut plus",          u"Sehr gut minus",    u"Sehr gut",         u"Sehr gut plus"};
+    constexpr StringView School[] = {u"6", u"5-", u"5",  u"5+", u"4-", u"4",  u"4+", u"3-",
+                                     u"3", u"3+", u"2-", u"2",  u"2+", u"1-", u"1",  u"1+"};
+    constexpr double Lowest[] = {0,    0.10, 0.20, 0.30, 0.40, 0.45, 0.50, 0.55,
+                                 0.60, 0.65, 0.70, 0.75, 0.80, 0.85, 0.90, 0.95};
+    for (std::int32_t value = 0; value < 16; ++value) {
+        const double ratio = Lowest[value];
+        EXPECT_EQ(rate().MARKPOINTS(ratio, 1, u""), value);
+        EXPECT_EQ(rate().MARKTEXT(ratio, 1, u"any"), Words[value]);
+        EXPECT_EQ(rate().MARKSCHOOL(ratio, 1, u"any"), School[value]);
+    }
+}
+
+TEST_F(AppRateTest, PointsLoseTheShareOfErrorsAndRoundHalvesToEven)
+{
+    EXPECT_EQ(rate().POINTS(10, 4, 1), 8); // 7.5
+    EXPECT_EQ(rate().POINTS(10, 4, 3), 2); // 2.5
+    EXPECT_EQ(rate().POINTS(10, 4, 9), 0);
+    EXPECT_EQ(rate().POINTS(10, 4, -3), 10);
+}
+
+TEST_F(AppRateTest, PointsWithoutAPossibleErrorAreADivisionByZero)
+{
+    EXPECT_RAISES(rate().POINTS(10, 0, 0), DivisionByZero);
+}
+
+TEST_F(AppRateTest, TheModuleOfResultsRecordsAndSaysNothing)
+{
+    EXPECT_EQ(rate().SUBMIT(7, 10, u"Salze", nullptr, u"RESULTS"), 0);
+    EXPECT_EQ(rate().SUBMIT(8, 10, u"Salze", nullptr, u"RESULT"), 0);
+    EXPECT_EQ(stored(u"results.qv-rsl").COUNT(), 2);
+    EXPECT_EQ(stored(u"results.qv-rsl").ITEM(1)->UEBM(), u"Salze");
+}
+
+TEST_F(AppRateTest, AModuleThatIsWrittenOtherwiseIsAHighscore)
+{
+    EXPECT_EQ(rate().SUBMIT(7, 10, u"", nullptr, u"results", false), 1);
+    EXPECT_EQ(stored(u"results.qv-hsr").COUNT(), 1);
+}
+
+TEST_F(AppRateTest, ANewResultsFileKeepsItsTenBest)
+{
+    for (double points = 1; points <= 12; ++points) {
+        rate().RESULT(points, 100, u"");
+    }
+    EXPECT_EQ(stored(u"results.qv-rsl").COUNT(), 10);
+    EXPECT_EQ(stored(u"results.qv-rsl").ITEM(1)->POINTS(), 12);
+    EXPECT_EQ(stored(u"results.qv-rsl").ITEM(10)->POINTS(), 3);
+}
+
+TEST_F(AppRateTest, AResultsFileKeepsItsOwnMode)
+{
+    cls_DataScores open;
+    open.MODE(enm_ScoreListMode::ID_ScoreList_ResultList);
+    ASSERT_TRUE(open.SAVE(path(u"results.qv-rsl")));
+    for (int round = 0; round < 12; ++round) {
+        rate().RESULT(5, 100, u"");
+    }
+    EXPECT_EQ(stored(u"results.qv-rsl").COUNT(), 12);
+}
+
+TEST_F(AppRateTest, AdditionalValuesAreStoredWithTheScore)
+{
+    CoreParameters more;
+    more.Set(u"Zeit", 90);
+    rate().SUBMIT(7, 10, u"Salze", &more, u"HIGHSCORE", false);
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr").ITEM(1)->ADDITIONAL()->Get(u"Zeit"), Variant(90));
+}
+
+TEST_F(AppRateTest, TheFirstEntryOfAnEmptyListIsAFeat)
+{
+    EXPECT_EQ(submit(7), 1);
+    expectMessage(u"Kunststück!", u"Herzlichen Glückwunsch! \rDu hast es auf den 1. Platz der Bestenliste "
+                                  u"geschafft! \rEin Kunststück, wo die Liste doch leer ist...");
+}
+
+TEST_F(AppRateTest, TheFirstEntryOfAListOfOneStandsAlthoughItsRankIsMinusOne)
+{
+    EXPECT_EQ(submit(7, 1), 1);
+    expectMessage(u"Kunststück!", u"Herzlichen Glückwunsch! \rDu hast es auf den 1. Platz der Bestenliste "
+                                  u"geschafft! \rEin Kunststück, wo die Liste doch leer ist...");
+}
+
+TEST_F(AppRateTest, TheLastOfTheListIsTold)
+{
+    fill({9, 8});
+    EXPECT_EQ(submit(7), 3);
+    expectMessage(u"Naja...", u"Du hast es auf den 3. Platz der Bestenliste geschafft. \r"
+                              u"Leider bist Du damit allerdings LETZTER!");
+}
+
+TEST_F(AppRateTest, AnyOtherPlaceIsCongratulated)
+{
+    fill({9, 5});
+    EXPECT_EQ(submit(7), 2);
+    expectMessage(u"Herzlichen Glückwunsch!",
+                  u"Herzlichen Glückwunsch! \rDu hast es auf den 2. Platz der Bestenliste geschafft!");
+}
+
+TEST_F(AppRateTest, WhoeverBeatsNobodyOfAFullListIsComforted)
+{
+    fill({9, 8, 8});
+    EXPECT_EQ(submit(8, 3), -1);
+    expectMessage(u"Info", u"Leider war das nichts! Für die Bestenliste hat DAS nicht gereicht!");
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr").COUNT(), 3);
+}
+
+TEST_F(AppRateTest, ARankBeyondTheLimitSaysNothing)
+{
+    cls_DataScores live;
+    live.LIVE(true);
+    for (const StringView login : {u"zoe", u"yan", u"xia"}) {
+        live.ADD(5, 10, u"", nullptr, login, u"", login);
+    }
+    ASSERT_TRUE(live.SAVE(path(u"HIGHSCORE.qv-hsr")));
+    EXPECT_EQ(rate().SUBMIT(9, 10, u"", nullptr, u"HIGHSCORE", true, 3), 4);
+}
+
+TEST_F(AppRateTest, SubmittingEndsOnceAndSetsTheLimitOfTheStoredList)
+{
+    cls_DataScores once;
+    once.ONCE(true);
+    once.MAXIMUM(3);
+    ASSERT_TRUE(once.SAVE(path(u"HIGHSCORE.qv-hsr")));
+    rate().SUBMIT(7, 10, u"", nullptr, u"HIGHSCORE", false, 5);
+    EXPECT_FALSE(stored(u"HIGHSCORE.qv-hsr").ONCE());
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr").MAXIMUM(), 5);
+}
+
+TEST_F(AppRateTest, AFailedSaveIsNotReported)
+{
+    outside.files().failChanges();
+    EXPECT_EQ(rate().SUBMIT(7, 10, u"", nullptr, u"HIGHSCORE", false), 1);
+}
+
+TEST_F(AppRateTest, HighscoreOfThisComputerIsEmptyWithoutAFile)
+{
+    EXPECT_EQ(rate().HIGHSCORE()->COUNT(), 0);
+    fill({5, 6}, u"SALTS");
+    EXPECT_EQ(rate().HIGHSCORE(u"SALTS")->COUNT(), 2);
+}
+
+TEST_F(AppRateTest, TheMasterGetsResultAndHighscoreOfASubmission)
+{
+    logOn([](const String&) { return String(u"008:3"); });
+    QVAPP()->USER()->SCREENNAME(u"Mia");
+    outside.dialogs().expect(Box::Info);
+    CoreParameters more;
+    more.Set(u"Zeit", 90);
+    EXPECT_EQ(rate().SUBMIT(7.5, 10, u"Salze", &more), 3);
+
+    const String package = CoreValuePacker::Pack(
+        {7.5, 10.0, u"Salze", more.Pack(), QVAPP()->USER()->SCREENNAME(), u"DESK-1", u"pupil"});
+    const auto& requests = outside.network().requests();
+    ASSERT_GE(requests.size(), 3U);
+    EXPECT_EQ(requests[requests.size() - 2].message, u"RESULTS::SUBMIT::" + package);
+    EXPECT_EQ(requests.back().message, u"HIGHSCORE::SUBMIT::" + package);
+    expectMessage(u"Herzlichen Glückwunsch!", u"Du hast es auf den 3. Platz der Bestenliste geschafft!");
+}
+
+TEST_F(AppRateTest, WithoutAdditionalValuesTheMasterGetsAnEmptyList)
+{
+    logOn([](const String&) { return String(u"008:OK"); });
+    rate().RESULT(1, 2, u"Salze");
+    EXPECT_EQ(lastMessage(), u"RESULTS::SUBMIT::" +
+                                 CoreValuePacker::Pack({1.0, 2.0, u"Salze", CoreParameters().Pack(),
+                                                        QVAPP()->USER()->SCREENNAME(), u"DESK-1", u"pupil"}));
+}
+
+TEST_F(AppRateTest, AMastersOkAloneOrBehindAColonIsNotShown)
+{
+    String answer = u"008:OK";
+    logOn([&answer](const String&) { return answer; });
+    EXPECT_EQ(rate().SUBMIT(7, 10), 0);
+    answer = u"008:DONE:OK";
+    EXPECT_EQ(rate().SUBMIT(7, 10), 0);
+}
+
+TEST_F(AppRateTest, AMastersRefusalIsComforted)
+{
+    String answer = u"008:-1";
+    logOn([&answer](const String&) { return answer; });
+    EXPECT_EQ(submit(7), -1);
+    expectMessage(u"Info", u"Leider war das nichts! \rFür die Bestenliste hat DAS nicht gereicht!");
+    answer = u"008:";
+    EXPECT_EQ(submit(7), 0);
+    expectMessage(u"Info", u"Leider war das nichts! \rDu warst schon besser!");
+}
+
+TEST_F(AppRateTest, AMastersRankIsTheNumberAtItsBeginning)
+{
+    String answer = u"008:2,5";
+    logOn([&answer](const String&) { return answer; });
+    EXPECT_EQ(submit(7), 2);
+    answer = u"008:12. Platz";
+    EXPECT_EQ(submit(7), 12);
+    answer = u"008:many";
+    EXPECT_EQ(submit(7), 0);
+}
+
+TEST_F(AppRateTest, TheMastersHighscoreComesAsOneText)
+{
+    cls_DataScores scores;
+    scores.ADD(5, 10, u"");
+    logOn([&scores](const String& message) {
+        EXPECT_EQ(message, u"SALTS::GET::");
+        return u"008:" + scores.DATA()->Pack();
+    });
+    EXPECT_EQ(rate().HIGHSCORE(u"SALTS")->ITEM(1)->POINTS(), 5);
+}
+
+TEST_F(AppRateTest, AnEmptyAnswerLeavesTheHighscoreEmpty)
+{
+    logOn([](const String&) { return String(u"008:"); });
+    EXPECT_EQ(rate().HIGHSCORE()->COUNT(), 0);
+}
+
+/// A certificate form with one field a text, the first being `Title`.
+class CertificateTest : public AppRateTest
+{
+protected:
+    void form(headless::FakeForms::NamedTexts fields, StringView file = u"Urkunde.zr-frm")
+    {
+        outside.forms().add(path(u"tree\\Resources\\Forms\\" + String(file)), std::move(fields));
+    }
+    std::vector<String> printedTexts() { return printed().back().texts; }
+    const std::vector<headless::PrintedForm>& printed() { return outside.forms().printed(); }
+};
+
+TEST_F(CertificateTest, EveryPlaceholderIsFilledIn)
+{
+    QVAPP()->CONFIG()->NAME(u"Molmasse");
+    form({{u"a", u"{NAME} ({USER}, {COMPUTER})"},
+          {u"b", u"{DATUM}, {ZEIT}"},
+          {u"c", u"{TITLE} {APP} {FILE}"},
+          {u"d", u"{TEXT}"}});
+    EXPECT_TRUE(rate().PRINTCERTIFICATE(u"Bravo"));
+    EXPECT_EQ(printedTexts(), (std::vector<String>{u"Mia (pupil, DESK-1)", u"02. März 2026, 08:00",
+                                                   u"Molmasse-Diplom Molmasse Urkunde.zr-frm", u"Bravo"}));
+    EXPECT_EQ(printed().back().copies, 1);
+}
+
+TEST_F(CertificateTest, LineEndsOfTheTextAreDoubled)
+{
+    form({{u"a", u"{TEXT}"}});
+    rate().PRINTCERTIFICATE(u"one\r\ntwo");
+    EXPECT_EQ(printedTexts().front(), u"one\r\n\r\ntwo");
+}
+
+TEST_F(CertificateTest, TheCallerReplacesWhatHeWantsButTheText)
+{
+    form({{u"a", u"{NAME}/{TEXT}/{KLASSE}"}}, u"Andere.zr-frm");
+    CoreParameters more;
+    more.Set(u"NAME", u"Tom");
+    more.Set(u"TEXT", u"mine");
+    more.Set(u"KLASSE", u"9b");
+    more.Set(u"FILE", u"Andere.zr-frm");
+    EXPECT_TRUE(rate().PRINTCERTIFICATE(u"given", &more));
+    EXPECT_EQ(printedTexts().front(), u"Tom/given/9b");
+}
+
+TEST_F(CertificateTest, NamesOfPlaceholdersCountTheirCase)
+{
+    form({{u"a", u"{name} {NAME}"}});
+    rate().PRINTCERTIFICATE(u"");
+    EXPECT_EQ(printedTexts().front(), u"{name} Mia");
+}
+
+TEST_F(CertificateTest, AValueBringsInThePlaceholderOfALaterOneOnly)
+{
+    form({{u"a", u"{NAME}"}, {u"b", u"{TEXT}"}});
+    QVAPP()->USER()->SCREENNAME(u"{APP}");
+    QVAPP()->CONFIG()->NAME(u"Molmasse");
+    rate().PRINTCERTIFICATE(u"{NAME}");
+    EXPECT_EQ(printedTexts(), (std::vector<String>{u"Molmasse", u"{NAME}"}));
+}
+
+TEST_F(CertificateTest, FieldsWithoutABraceStay)
+{
+    form({{u"a", u"Diplom NAME"}});
+    rate().PRINTCERTIFICATE(u"");
+    EXPECT_EQ(printedTexts().front(), u"Diplom NAME");
+}
+
+TEST_F(CertificateTest, AMissingFormIsTold)
+{
+    outside.dialogs().expect(Box::Error, u"Leider konnte ich die Urkunden-Datei nicht finden, daher kann ich "
+                                         u"die Urkunde nicht drucken!");
+    EXPECT_FALSE(rate().PRINTCERTIFICATE(u"Bravo"));
+}
+
+TEST_F(CertificateTest, TheAnswerIsWhetherItWasPrinted)
+{
+    form({{u"a", u"{TEXT}"}});
+    outside.forms().printAnswer(false);
+    EXPECT_FALSE(rate().PRINTCERTIFICATE(u"Bravo"));
+}
+
+} // namespace
+
+} // namespace phial
