@@ -1,27 +1,18 @@
 #include "server/TrafficLog.h"
 
+#include "core/CoreStringOps.h"
+
 namespace phial
 {
 
 namespace
 {
 
-// A sign beyond U+FFFF stands in two units, which are not torn apart.
-bool isFirstHalf(char16_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
 String cut(StringView text)
 {
-    if (text.size() <= TrafficLog::MaxText) {
-        return String(text);
-    }
-    String kept(text.substr(0, TrafficLog::MaxText));
-    if (isFirstHalf(kept.back())) {
-        kept.pop_back();
-    }
-    return kept + u"…";
+    constexpr auto Length = static_cast<std::int32_t>(TrafficLog::MaxText);
+    return text.size() <= TrafficLog::MaxText ? String(text)
+                                              : CoreStringOps::Shorten(text, Length, {}) + u"…";
 }
 
 } // namespace

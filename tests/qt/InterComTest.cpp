@@ -1,8 +1,7 @@
+#include "qt/Eventually.h"
 #include "qt/base/InterComMessage.h"
 #include "qt/base/LocalInterCom.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -14,6 +13,7 @@
 
 using namespace phial;
 using namespace phial::qt;
+using phial::test::eventually;
 
 namespace
 {
@@ -28,17 +28,6 @@ protected:
     std::shared_ptr<DispatchGuard> guard_ = std::make_shared<DispatchGuard>();
     LocalInterCom messenger_;
 };
-
-template <typename Condition>
-bool eventually(Condition condition)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!condition() && timer.elapsed() < 5000) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-    }
-    return condition();
-}
 
 TEST_F(InterComTest, HandsNumberAndTextToTheTarget)
 {

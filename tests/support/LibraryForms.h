@@ -6,6 +6,8 @@
 #include "app/screen/frm_AppAbout.h"
 #include "app/screen/frm_Fade.h"
 #include "app/screen/frm_Resource.h"
+#include "server/NetMonitorLayout.h"
+#include "server/frm_NetMonitor.h"
 #include "visual/FormLayout.h"
 
 #include <functional>
@@ -39,6 +41,15 @@ MadeForm makeLibraryForm()
     return {made, &made->form()};
 }
 
+/// The network monitor with one line, a note.
+inline MadeForm makeNetMonitor()
+{
+    const auto traffic = std::make_shared<TrafficLog>();
+    traffic->add(Moment{45292.375}, TrafficKind::Note, u"127.0.0.1:10049", u"verbunden|connected");
+    const auto made = std::make_shared<frm_NetMonitor>(traffic);
+    return {made, &made->form()};
+}
+
 /// All forms of the library. A new `frm_…` gets a row here; a test names those that have none.
 inline std::vector<LibraryForm> libraryForms()
 {
@@ -59,6 +70,14 @@ inline std::vector<LibraryForm> libraryForms()
          .design = {},
          .pairs = {},
          .data = {u"Form1"}},
+        {.name = u"frm_NetMonitor",
+         .make = makeNetMonitor,
+         .design = net_monitor_layout::Items,
+         .pairs = {u"Netzwerk-Monitor|Network monitor", u"Leeren|Clear", u"Schließen|Close",
+                   u"Verkehr mit dem Master|Traffic with the master", u"Gewählte Zeile|Chosen line",
+                   u"verbunden|connected",
+                   u"09:00:00  •  127.0.0.1:10049  verbunden|09:00:00  •  127.0.0.1:10049  connected"},
+         .data = {}},
         {.name = u"frm_Resource",
          .make = makeLibraryForm<frm_Resource>,
          .design = {},

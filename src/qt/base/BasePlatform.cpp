@@ -6,6 +6,7 @@
 #include "qt/base/QtEventPump.h"
 #include "qt/base/QtFolders.h"
 #include "qt/base/QtMachine.h"
+#include "qt/base/QtNetClient.h"
 #include "qt/base/QtRandom.h"
 #include "qt/base/QtSettingsStore.h"
 #include "qt/base/StandardFolder.h"
@@ -61,6 +62,7 @@ Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard)
     if (QCoreApplication::instance() != nullptr) {
         platform.programFolder = asFolder(QCoreApplication::applicationDirPath());
     }
+    platform.newNetClient = [guard] { return std::make_shared<QtNetClient>(guard); };
     platform.newInterCom = [] { return std::make_shared<LocalInterCom>(); };
     platform.reportError = [guard](const std::exception& error) { guard->report(error); };
     return platform;

@@ -9,8 +9,8 @@ namespace phial::qt
 {
 
 /// The part of the outside that needs no display: clock, event loop, environment, random numbers, folders,
-/// machine, settings, messages between programs. Errors of handlers go to the guard. The program's folder is
-/// known if an application object is there. Needs an application object while events run.
+/// machine, settings, the network, messages between programs. Errors of handlers go to the guard. The
+/// program's folder is known if an application object is there. Needs an application object while events run.
 Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard);
 
 } // namespace phial::qt

@@ -1,24 +1,18 @@
 #include "qt/base/QtEventPump.h"
 
+#include "qt/base/Milliseconds.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace phial::qt
 {
 
 namespace
 {
-
-int milliseconds(double seconds)
-{
-    constexpr double Limit = std::numeric_limits<int>::max();
-    return static_cast<int>(std::min(std::ceil(seconds * 1000), Limit));
-}
 
 // Keeps the handler alive while it runs: a tick may end its own timer.
 struct Ticker {

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "core/CoreNetClient.h"
+#include "qt/base/DispatchGuard.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace phial
+{
+class TrafficLog;
+class frm_NetMonitor;
+} // namespace phial
+
+namespace phial::qt
+{
+
+/// The network client on the toolkit's sockets; docs/protocol.md describes what goes over them.
+///
+/// One connection is kept for each master and made anew when a request finds it lost. Of the options
+/// `ConnectTimeout`, `ResponseTimeout`, `BufferSize` (between 512 bytes and 1 MiB) and `ReceiveTimeout`
+/// count, the last as the time in which a message that comes in must be complete. Errors of handlers of
+/// `RECEIVED` go to the guard.
+///
+/// `Close`, and the client's end, end every running `Request` with the error of a lost connection.
+class QtNetClient final : public CoreNetClient
+{
+public:
+    explicit QtNetClient(std::shared_ptr<DispatchGuard> guard);
+    ~QtNetClient() override;
+    QtNetClient(const QtNetClient&) = delete;
+    QtNetClient& operator=(const QtNetClient&) = delete;
+
+    CoreNetOptions& Options() override;
+    void EnableReceive(bool pEnable) override;
+    /// Raises 68 when the port is taken. Port 0 takes any free one. A port opened before is closed.
+    void OpenPort(std::int32_t pPort) override;
+    void Close() override;
+    /// Raises 5 for a text that is too long to be sent or a port beyond 1 to 65535, and 68 when the
+    /// connection cannot be made or is lost before the answer is there.
+    String Request(StringView pMessage, StringView pIP, std::int32_t pPort, const CoreParameters* pParameters,
+                   bool pWait, StringView pTimeoutAnswer) override;
+    /// Nothing happens where no windows can be shown. The window ends with the client.
+    void ShowMonitor() override;
+
+    /// The port that is open; 0 when none is.
+    std::int32_t openPort() const;
+
+private:
+    class Exchange;
+
+    std::shared_ptr<Exchange> exchange_; // outlives the client in a running request
+    std::shared_ptr<TrafficLog> traffic_;
+    std::shared_ptr<frm_NetMonitor> monitor_;
+};
+
+} // namespace phial::qt
