@@ -1,5 +1,6 @@
 #include "app/UserTest.h"
 #include "app/ctl_Avatar.h"
+#include "core/Members.h"
 #include "headless/Hand.h"
 #include "visual/Form.h"
 
