@@ -1,0 +1,143 @@
+#include "core/NativePath.h"
+#include "results/ResultsTest.h"
+#include "results/cls_DataEvents.h"
+
+#include <gmock/gmock.h>
+
+#undef ACTION // gmock's macro, of which nothing here makes use
+
+namespace phial
+{
+namespace
+{
+
+using testing::ElementsAre;
+
+/// Lists in files, among them those of earlier programs in tests/vectors/records.
+class StoredLists : public ResultsTest
+{
+protected:
+    /// A copy of a stored file in the test's folder.
+    String stored(const std::string& name) const
+    {
+        std::filesystem::copy_file(std::filesystem::path(PHIAL_TEST_VECTORS) / "records" / name,
+                                   folder.native() / name);
+        return path(fromUtf8(name));
+    }
+
+    cls_DataScores list;
+};
+
+TEST_F(StoredLists, ItemsOfTheOlderVersionHaveNoExercise)
+{
+    ASSERT_TRUE(list.LOAD(stored("items_2.0.qv-hsr")));
+    EXPECT_EQ(list.DATA()->ID(), Variant(u"Molmasse"));
+    EXPECT_EQ(list.MAXIMUM(), 10);
+    EXPECT_THAT(names(list), ElementsAre(u"Jürgen Weiß", u"Zoë Çelik"));
+    const auto second = list.ITEM(2);
+    EXPECT_EQ(second->UEBM(), u"");
+    EXPECT_EQ(second->ID(), u"a2");
+    EXPECT_EQ(second->RANK(), 2);
+    EXPECT_EQ(second->COMPUTER(), u"PC-ZOE");
+    EXPECT_EQ(second->POINTS(), 21);
+    EXPECT_EQ(second->POINTSMAX(), 40);
+    EXPECT_EQ(second->TIMESTAMP(), Moment{38778.5});
+    EXPECT_EQ(second->ADDITIONAL()->Get(u"ZEIT", 0), Variant(95));
+}
+
+TEST_F(StoredLists, ItemsOfTheNewerVersionHaveTheirExercise)
+{
+    ASSERT_TRUE(list.LOAD(stored("items_2.5.qv-hsr")));
+    EXPECT_THAT(names(list), ElementsAre(u"Łucja Żak", u"Anna"));
+    EXPECT_EQ(list.ITEM(1)->UEBM(), u"Salze");
+    EXPECT_EQ(list.ITEM(2)->UEBM(), u"Säuren");
+    EXPECT_EQ(list.ITEM(2)->POINTS(), 12.25);
+}
+
+TEST_F(StoredLists, OneListHoldsItemsOfBothVersions)
+{
+    ASSERT_TRUE(list.LOAD(stored("items_of_both.qv-hsr")));
+    EXPECT_THAT(names(list), ElementsAre(u"Anna", u"Ben", u"Clara"));
+    EXPECT_EQ(list.ITEM(1)->UEBM(), u"Salze");
+    EXPECT_EQ(list.ITEM(2)->UEBM(), u"");
+    EXPECT_EQ(list.ITEM(3)->UEBM(), u"H₂O");
+}
+
+TEST_F(StoredLists, SavingMakesAllItemsOnesOfTheNewerVersion)
+{
+    const String file = stored("items_of_both.qv-hsr");
+    ASSERT_TRUE(list.LOAD(file));
+    ASSERT_TRUE(list.SAVE(file));
+    const std::string bytes = folder.read("items_of_both.qv-hsr");
+    EXPECT_EQ(bytes.rfind("2.0"), bytes.find("2.0")); // the list's own
+    cls_DataScores again;
+    ASSERT_TRUE(again.LOAD(file));
+    EXPECT_THAT(names(again), ElementsAre(u"Anna", u"Ben", u"Clara"));
+    EXPECT_THAT(folder.names(), testing::Contains("items_of_both.qv-hsr"));
+    EXPECT_FALSE(folder.has("items_of_both.qv-hsr.kept"));
+}
+
+TEST_F(StoredLists, AListWithItemsOfTheNewerVersionIsSavedByteForByte)
+{
+    const String file = stored("items_2.5.qv-hsr");
+    const std::string bytes = folder.read("items_2.5.qv-hsr");
+    ASSERT_TRUE(list.LOAD(file));
+    ASSERT_TRUE(list.SAVE(file));
+    EXPECT_EQ(folder.read("items_2.5.qv-hsr"), bytes);
+}
+
+TEST_F(StoredLists, AnEmptyListReplacesWhatWasThere)
+{
+    add(list, u"Anna", 3);
+    ASSERT_TRUE(list.LOAD(stored("empty.qv-hsr")));
+    EXPECT_EQ(list.COUNT(), 0);
+}
+
+TEST_F(StoredLists, AListOfALaterVersionIsPassedOverAndKeptByTheNextSave)
+{
+    const String file = stored("list_2.1.qv-hsr");
+    const std::string later = folder.read("list_2.1.qv-hsr");
+    add(list, u"Anna", 3);
+    EXPECT_TRUE(list.LOAD(file));
+    EXPECT_THAT(names(list), ElementsAre(u"Anna"));
+    EXPECT_TRUE(list.SAVE(file));
+    EXPECT_EQ(folder.read("list_2.1.qv-hsr.kept"), later);
+    cls_DataScores again;
+    EXPECT_TRUE(again.LOAD(file));
+    EXPECT_THAT(names(again), ElementsAre(u"Anna"));
+}
+
+TEST_F(StoredLists, TheEventLogIsReadToo)
+{
+    cls_DataEvents log;
+    ASSERT_TRUE(log.LOAD(stored("event.qv-log")));
+    ASSERT_EQ(log.COUNT(), 2);
+    EXPECT_EQ(log.ITEM(2)->SCREENNAME(), u"Łucja");
+    EXPECT_EQ(log.ITEM(2)->ACTION(), u"Ende");
+    EXPECT_EQ(log.ITEM(2)->ADDITIONAL()->Get(u"CODE", 0), Variant(7));
+}
+
+TEST_F(StoredLists, ADamagedListIsNotLoadedAndIsKeptByTheNextSave)
+{
+    const String file = stored("items_2.5.qv-hsr");
+    std::string bytes = folder.read("items_2.5.qv-hsr");
+    bytes[100] = static_cast<char>(bytes[100] ^ 1);
+    folder.write("items_2.5.qv-hsr", bytes);
+    add(list, u"Anna", 3);
+    EXPECT_FALSE(list.LOAD(file));
+    EXPECT_THAT(names(list), ElementsAre(u"Anna"));
+    EXPECT_TRUE(list.SAVE(file));
+    EXPECT_EQ(folder.read("items_2.5.qv-hsr.damaged"), bytes);
+}
+
+TEST_F(StoredLists, APasswordNeedsSealing)
+{
+    add(list, u"Anna", 3);
+    EXPECT_FALSE(list.SAVE(path(u"geheim.qv-hsr"), u"geheim"));
+    EXPECT_FALSE(folder.has("geheim.qv-hsr"));
+    ASSERT_TRUE(list.SAVE(path(u"offen.qv-hsr")));
+    EXPECT_FALSE(list.LOAD(path(u"offen.qv-hsr"), u"geheim"));
+}
+
+} // namespace
+} // namespace phial
