@@ -6,16 +6,20 @@
 namespace phial
 {
 
-void ImageList::checkKey(StringView key) const
+std::size_t ImageList::positionOf(StringView key) const
 {
-    if (key.empty()) {
-        return;
+    return key.empty() ? NameIndex::npos
+                       : keys_.find(key, [this](std::size_t at) -> StringView { return entries_[at].key; });
+}
+
+void ImageList::add(Entry entry)
+{
+    if (positionOf(entry.key) != NameIndex::npos) {
+        throw RuntimeError(35602, u"Key is not unique in collection");
     }
-    for (const Entry& entry : entries_) {
-        if (equalsIgnoringCase(entry.key, key)) {
-            throw RuntimeError(35602, u"Key is not unique in collection");
-        }
-    }
+    entries_.push_back(std::move(entry));
+    keys_.add(entries_.back().key, entries_.size() - 1,
+              [this](std::size_t at) -> StringView { return entries_[at].key; });
 }
 
 void ImageList::Add(String key, PicturePtr picture)
@@ -23,25 +27,28 @@ void ImageList::Add(String key, PicturePtr picture)
     if (!picture) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
     }
-    checkKey(key);
-    entries_.push_back({std::move(key), {}, std::move(picture)});
+    add({std::move(key), {}, std::move(picture)});
 }
 
 void ImageList::AddFile(String key, String path)
 {
-    checkKey(key);
-    entries_.push_back({std::move(key), std::move(path), nullptr});
+    add({std::move(key), std::move(path), nullptr});
+}
+
+void ImageList::Clear()
+{
+    entries_.clear();
+    keys_.clear();
 }
 
 std::int32_t ImageList::Index(const Variant& indexOrKey) const
 {
     if (indexOrKey.isText()) {
-        for (std::size_t at = 0; at < entries_.size(); ++at) {
-            if (!entries_[at].key.empty() && equalsIgnoringCase(entries_[at].key, indexOrKey.text())) {
-                return static_cast<std::int32_t>(at + 1);
-            }
+        const std::size_t at = positionOf(indexOrKey.text());
+        if (at == NameIndex::npos) {
+            throw RuntimeError(ErrorNumber::IndexOutOfBounds);
         }
-        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+        return static_cast<std::int32_t>(at + 1);
     }
     const std::int32_t index = indexOrKey.toWhole();
     if (index < 1 || index > Count()) {

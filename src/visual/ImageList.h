@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/NameIndex.h"
 #include "core/Variant.h"
 #include "visual/Picture.h"
 
@@ -22,7 +23,7 @@ public:
     void Add(String key, PicturePtr picture);
     /// The file's path as the system writes it; the file is not touched yet.
     void AddFile(String key, String path);
-    void Clear() { entries_.clear(); }
+    void Clear();
 
     /// The entry of a number or key; raises 9 when there is none.
     std::int32_t Index(const Variant& indexOrKey) const;
@@ -39,10 +40,13 @@ private:
         String path;
         PicturePtr picture;
     };
-    void checkKey(StringView key) const;
+    void add(Entry entry);
+    /// `npos` of the index for a key that is not there, and for the empty one.
+    std::size_t positionOf(StringView key) const;
 
     String name_;
     std::vector<Entry> entries_;
+    NameIndex keys_;
 };
 
 } // namespace phial
