@@ -32,7 +32,7 @@ constexpr auto TagNames = std::to_array<TagName>({
 class MarkupReader
 {
 public:
-    explicit MarkupReader(StringView text) : rest_(text) {}
+    explicit MarkupReader(StringView text, TextForm form = TextForm::Markup) : rest_(text), form_(form) {}
 
     std::vector<MarkupRun> read()
     {
@@ -47,7 +47,7 @@ private:
     void readOne()
     {
         const char16_t unit = rest_.front();
-        if (unit == u'<' && readTag()) {
+        if (unit == u'<' && form_ == TextForm::Markup && readTag()) {
             return;
         }
         rest_.remove_prefix(1);
@@ -110,6 +110,7 @@ private:
     }
 
     StringView rest_;
+    TextForm form_;
     std::vector<Tag> open_;
     String text_;
     std::vector<MarkupRun> runs_;
@@ -148,8 +149,8 @@ String plainMarkup(StringView text)
 class MarkupLayout::Setter
 {
 public:
-    Setter(MarkupLayout& layout, TextMetrics& metrics, std::optional<double> wrapWidth)
-        : layout_(layout), metrics_(metrics), wrapWidth_(wrapWidth)
+    Setter(MarkupLayout& layout, TextMetrics& metrics, std::optional<double> wrapWidth, TextForm form)
+        : layout_(layout), metrics_(metrics), wrapWidth_(wrapWidth), form_(form)
     {
     }
 
@@ -197,6 +198,9 @@ private:
             breakLine();
         }
         for (Piece& piece : word_) {
+            if (form_ == TextForm::Plain) {
+                breakWithin(piece);
+            }
             piece.x = end_;
             end_ += piece.width;
             append(std::move(piece));
@@ -204,6 +208,53 @@ private:
         line_.width = end_ - blankWidth_;
         word_.clear();
         wordWidth_ = blankWidth_ = 0;
+    }
+
+    /// Sets as much of a piece that is too wide as makes full lines, and leaves the rest of it.
+    void breakWithin(Piece& piece)
+    {
+        while (wrapWidth_ && piece.text.front() != u' ' && end_ + piece.width > *wrapWidth_) {
+            const std::size_t length = fitting(piece.text);
+            if (length >= piece.text.size()) {
+                return;
+            }
+            Piece head = piece;
+            head.text.resize(length);
+            head.width = face_->width(head.text);
+            head.x = end_;
+            line_.width = end_ + head.width;
+            append(std::move(head));
+            breakLine();
+            piece.text.erase(0, length);
+            piece.width = face_->width(piece.text);
+        }
+    }
+
+    /// How many units of the text have room on the line, at least one letter. The length is doubled and then
+    /// halved in on, since a long text is dear to measure.
+    std::size_t fitting(StringView text) const
+    {
+        const auto fits = [&](std::size_t length) {
+            return end_ + face_->width(text.substr(0, length)) <= *wrapWidth_;
+        };
+        std::size_t above = 1;
+        while (above < text.size() && fits(above)) {
+            above *= 2;
+        }
+        std::size_t below = above / 2;
+        above = std::min(above, text.size());
+        while (above - below > 1) {
+            const std::size_t middle = below + (above - below) / 2;
+            (fits(middle) ? below : above) = middle;
+        }
+        return wholeLetters(text, std::max<std::size_t>(below, 1));
+    }
+
+    /// The length, with the second half of a pair of units if it would be parted.
+    static std::size_t wholeLetters(StringView text, std::size_t length)
+    {
+        const bool parts = length < text.size() && text[length] >= 0xDC00 && text[length] <= 0xDFFF;
+        return !parts ? length : length > 1 ? length - 1 : length + 1;
     }
 
     void append(Piece piece)
@@ -234,6 +285,7 @@ private:
     MarkupLayout& layout_;
     TextMetrics& metrics_;
     std::optional<double> wrapWidth_;
+    TextForm form_;
     Piece look_; ///< of the run at hand
     std::shared_ptr<const FontFace> face_;
     std::vector<Piece> word_;
@@ -244,11 +296,11 @@ private:
 };
 
 MarkupLayout::MarkupLayout(StringView text, const FontSpec& font, TextMetrics& metrics,
-                           std::optional<double> wrapWidth)
+                           std::optional<double> wrapWidth, TextForm form)
     : font_(font), lineHeight_(metrics.face(font)->height())
 {
-    Setter setter(*this, metrics, wrapWidth);
-    for (const MarkupRun& run : parseMarkup(text)) {
+    Setter setter(*this, metrics, wrapWidth, form);
+    for (const MarkupRun& run : MarkupReader(text, form).read()) {
         setter.add(run);
     }
     setter.finish();

@@ -2,7 +2,6 @@
 
 #include "visual/Change.h"
 #include "visual/FrameMembers.h"
-#include "visual/Markup.h"
 #include "visual/VisualHost.h"
 
 #include <cmath>
@@ -24,6 +23,7 @@ constexpr auto Table = joinMembers(
         members::property<ctl_Label, std::int32_t, &ctl_Label::Alignment, &ctl_Label::Alignment>(
             u"Alignment"),
         members::property<ctl_Label, bool, &ctl_Label::AutoSize, &ctl_Label::AutoSize>(u"AutoSize"),
+        members::property<ctl_Label, bool, &ctl_Label::PlainText, &ctl_Label::PlainText>(u"PlainText"),
         members::property<ctl_Label, bool, &ctl_Label::Raised, &ctl_Label::Raised>(u"Raised"),
         members::property<ctl_Label, bool, &ctl_Label::Flat, &ctl_Label::Flat>(u"Flat"),
     }));
@@ -74,9 +74,13 @@ void ctl_Label::fitToText()
         return;
     }
     const PixelRectangle place = frame_.pixelRectangle();
-    const PixelSize text =
-        MarkupLayout(caption_, font_->traits(), visualHost().metrics(), place.width).size();
-    frame_.pixelRectangle({place.left, place.top, place.width, std::ceil(text.height)});
+    frame_.pixelRectangle({place.left, place.top, place.width, std::ceil(layOut(place.width).size().height)});
+}
+
+MarkupLayout ctl_Label::layOut(double width) const
+{
+    const TextForm form = plain_ ? TextForm::Plain : TextForm::Markup;
+    return {caption_, font_->traits(), visualHost().metrics(), width, form};
 }
 
 void ctl_Label::Caption(String value)
@@ -117,6 +121,15 @@ void ctl_Label::AutoSize(bool value)
     }
 }
 
+void ctl_Label::PlainText(bool value)
+{
+    if (change(plain_, value)) {
+        refresh();
+        frame_.report(ControlAspect::Accessibility);
+        PropertyChanged.emit(u"PlainText");
+    }
+}
+
 void ctl_Label::Raised(bool value)
 {
     if (change(raised_, value)) {
@@ -135,7 +148,7 @@ void ctl_Label::Flat(bool value)
 
 String ctl_Label::accessibleText() const
 {
-    return plainMarkup(caption_);
+    return plain_ ? caption_ : plainMarkup(caption_);
 }
 
 void ctl_Label::readProperties(const PropertyBag& bag)
@@ -161,7 +174,7 @@ void ctl_Label::paint()
     device.Cls();
     const PixelSize size = surface_.size();
     const TextPlace place = placeOf(alignment_);
-    const MarkupLayout text(caption_, font_->traits(), visualHost().metrics(), size.width);
+    const MarkupLayout text = layOut(size.width);
     if (raised_ && !flat_) {
         device.ForeColor(SystemColour::Window);
         text.draw(device, {-1, -1, size.width, size.height}, place.horizontal, place.vertical);

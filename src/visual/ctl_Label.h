@@ -1,6 +1,7 @@
 #pragma once
 
 #include "visual/Font.h"
+#include "visual/Markup.h"
 #include "visual/PaintSurface.h"
 #include "visual/UserControl.h"
 
@@ -29,6 +30,10 @@ public:
     void Alignment(std::int32_t value);
     bool AutoSize() const { return autoSize_; }
     void AutoSize(bool value);
+    /// The caption is shown as it is, tags included, and words wider than the label are broken: for texts
+    /// that users have typed. False at first.
+    bool PlainText() const { return plain_; }
+    void PlainText(bool value);
     /// Raised: the text carries a light edge and a shadow. Flat wins over raised.
     bool Raised() const { return raised_; }
     void Raised(bool value);
@@ -60,6 +65,7 @@ public:
 private:
     void refresh();
     void fitToText();
+    MarkupLayout layOut(double width) const;
     void listenToFont();
 
     ControlFrame frame_;
@@ -70,6 +76,7 @@ private:
     Colour foreColor_ = SystemColour::WindowText;
     std::int32_t alignment_ = 0;
     bool autoSize_ = false;
+    bool plain_ = false;
     bool raised_ = false;
     bool flat_ = true;
 };

@@ -108,6 +108,36 @@ TEST_F(MarkupLayoutTest, IsAlignedInBothDirectionsLineByLine)
                        "text 42,50 \"abcd\" Tahoma 8 #000000\n");
 }
 
+TEST_F(MarkupLayoutTest, PlainTextShowsItsTagsAndPartsItsLines)
+{
+    MarkupLayout(u"<b>x</b>\n<br>", {}, *metrics, std::nullopt, TextForm::Plain)
+        .draw(device, {0, 0, 100, 60}, TextSide::Near, TextSide::Near);
+    EXPECT_EQ(drawn(), "text 0,0 \"<b>x</b>\" Tahoma 8 #000000\n"
+                       "text 0,10 \"<br>\" Tahoma 8 #000000\n");
+}
+
+TEST_F(MarkupLayoutTest, PlainTextIsBrokenWithinAWordThatIsWiderThanTheLine)
+{
+    MarkupLayout(u"aa bbbbbbb c", {}, *metrics, 12, TextForm::Plain)
+        .draw(device, {0, 0, 12, 60}, TextSide::Near, TextSide::Near);
+    EXPECT_EQ(drawn(), "text 0,0 \"aa \" Tahoma 8 #000000\n"
+                       "text 0,10 \"bbb\" Tahoma 8 #000000\n"
+                       "text 0,20 \"bbb\" Tahoma 8 #000000\n"
+                       "text 0,30 \"b c\" Tahoma 8 #000000\n");
+}
+
+TEST_F(MarkupLayoutTest, PlainTextNeverPartsTheTwoUnitsOfALetter)
+{
+    const String four = u"\U0001F9EA\U0001F9EA\U0001F9EA\U0001F9EA"; // eight units of 4 pixels
+    EXPECT_EQ(MarkupLayout(four, {}, *metrics, 12, TextForm::Plain).lineCount(), 4U);
+    EXPECT_EQ(MarkupLayout(four, {}, *metrics, 1, TextForm::Plain).lineCount(), 4U);
+}
+
+TEST_F(MarkupLayoutTest, PlainTextWithoutBlanksIsSetInProportionToItsLength)
+{
+    EXPECT_EQ(MarkupLayout(String(100'000, u'x'), {}, *metrics, 100, TextForm::Plain).lineCount(), 4'000U);
+}
+
 TEST_F(MarkupLayoutTest, AHundredThousandSignsAreSetInProportionToTheirNumber)
 {
     String text;

@@ -5,6 +5,7 @@
 #include "visual/ctl_CmdBar.h"
 #include "visual/ctl_Frame.h"
 #include "visual/ctl_Gradient.h"
+#include "visual/ctl_Label.h"
 #include "visual/ctl_Pannel.h"
 #include "visual/ctl_ReEvent.h"
 #include "visual/ctl_Title.h"
@@ -37,6 +38,16 @@ TEST_F(StyledControls, GradientFillsItsField)
     gradient->Color2(QBColor(9));
     gradient->Angle(0);
     EXPECT_THAT(drawn(*gradient), ::testing::HasSubstr("gradient 0,0 40x20 #FFFFFF to #0000FF 0 "));
+}
+
+TEST_F(StyledControls, LabelShowsAPlainTextWithItsTags)
+{
+    const auto label = placed<ctl_Label>(200, 20);
+    label->Caption(u"<b>x</b>");
+    EXPECT_EQ(label->accessibleText(), u"x");
+    label->PlainText(true);
+    EXPECT_EQ(label->accessibleText(), u"<b>x</b>");
+    EXPECT_THAT(drawn(*label), ::testing::HasSubstr("\"<b>x</b>\" Tahoma 8 #000000\n"));
 }
 
 TEST_F(StyledControls, PanelShowsItsTextInTheMiddle)
