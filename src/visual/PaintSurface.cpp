@@ -14,9 +14,29 @@ PixelSize PaintSurface::size() const
     return {place.width, place.height};
 }
 
+PixelRectangle PaintSurface::imagedPart() const
+{
+    const PixelSize all = size();
+    return part_.value_or(PixelRectangle{0, 0, all.width, all.height});
+}
+
+void PaintSurface::imagedPart(std::optional<PixelRectangle> value)
+{
+    if (part_ != value) {
+        part_ = value;
+        invalidate();
+    }
+}
+
+PixelSize PaintSurface::imageSize() const
+{
+    const PixelRectangle part = imagedPart();
+    return {part.width, part.height};
+}
+
 PicturePtr PaintSurface::image(double pixelRatio)
 {
-    if (!backend_ || ratio_ != pixelRatio || madeFor_ != size()) {
+    if (!backend_ || ratio_ != pixelRatio || madeFor_ != imageSize()) {
         remake(pixelRatio);
     }
     if (!painted_ && !painting_) {
@@ -44,7 +64,7 @@ void PaintSurface::remake(double pixelRatio)
 {
     const PicturePtr before = retains_ && painted_ ? backend_->picture() : nullptr;
     ratio_ = pixelRatio;
-    madeFor_ = size();
+    madeFor_ = imageSize();
     painted_ = false;
     device_.detach();
     backend_ = visualHost().createSurface(madeFor_, ratio_);
@@ -117,7 +137,7 @@ Container& PaintSurface::children()
 
 std::shared_ptr<DrawBackend> PaintSurface::openBackend()
 {
-    if (!backend_ || madeFor_ != size()) {
+    if (!backend_ || madeFor_ != imageSize()) {
         remake(ratio_ > 0 ? ratio_ : visualHost().pixelRatio());
     }
     if (retains_ && !painted_ && !painting_) {

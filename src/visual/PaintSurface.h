@@ -3,6 +3,8 @@
 #include "visual/Container.h"
 #include "visual/DrawDevice.h"
 
+#include <optional>
+
 namespace phial
 {
 
@@ -25,6 +27,11 @@ public:
 
     /// The control's size in pixels.
     PixelSize size() const;
+    /// The part of the control (in its pixels) that has an image, for a control much larger than what is seen
+    /// of it. The device then draws from that part's corner, and elsewhere the control shows what lies below.
+    /// Another part is painted anew. Everything at first, and for none.
+    PixelRectangle imagedPart() const;
+    void imagedPart(std::optional<PixelRectangle> value);
     /// The control is painted anew when its image is next needed.
     void invalidate();
     /// Called by the frame's owner when the size may have changed.
@@ -54,12 +61,14 @@ public:
 private:
     std::shared_ptr<DrawBackend> openBackend() override;
     void drawn() override;
+    PixelSize imageSize() const;
     void remake(double pixelRatio);
     void paintControl();
 
     UserControl& control_;
     DrawDevice device_;
     std::shared_ptr<DrawBackend> backend_;
+    std::optional<PixelRectangle> part_; ///< none: everything
     PixelSize madeFor_;
     double ratio_ = 0; ///< 0: not known yet
     bool painting_ = false;

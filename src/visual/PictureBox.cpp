@@ -113,12 +113,14 @@ void PictureBox::layBackground()
     device.Cls();
     const ScaleUnit unit = device.ScaleMode();
     device.ScaleMode(ScaleUnit::Pixels);
+    const PixelRectangle part = surface_.imagedPart();
     if (picture_) {
-        device.PaintPicture(picture_, 0, 0);
+        device.PaintPicture(picture_, -part.left, -part.top);
     }
     if (border_) {
         const PixelSize size = surface_.size();
-        device.Line(0, 0, size.width - 1, size.height - 1, SystemColour::ButtonShadow, LineShape::Box);
+        device.Line(-part.left, -part.top, size.width - 1 - part.left, size.height - 1 - part.top,
+                    SystemColour::ButtonShadow, LineShape::Box);
     }
     device.ScaleMode(unit);
     device.CurrentX(0);

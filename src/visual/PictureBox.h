@@ -38,6 +38,10 @@ public:
     PicturePtr Image() { return surface_.device().Image(); }
     void MaskPicture(PicturePtr value) { surface_.MaskPicture(std::move(value)); }
     PicturePtr MaskPicture() const { return surface_.MaskPicture(); }
+    /// Only this part of the box (in its pixels) is painted, for a box much larger than its holder; what is
+    /// drawn counts from the part's corner. A change clears what was drawn. None: everything.
+    void PaintedPart(std::optional<PixelRectangle> value) { surface_.imagedPart(value); }
+    PixelRectangle PaintedPart() const { return surface_.imagedPart(); }
     /// Clears what was drawn, down to BackColor and Picture.
     void Cls();
     /// AutoRedraw off: Paint is raised anew, on a clear field.

@@ -97,6 +97,26 @@ TEST_F(ControlWidgetTest, IsPaintedAtTheRatioOfWhatItIsDrawnOn)
     EXPECT_NE(std::find(columns.begin(), columns.end(), 60U), columns.end());
 }
 
+TEST_F(ControlWidgetTest, APaintedPartStandsAtItsPlaceAtEveryRatio)
+{
+    const auto box = pictureBox(40, 30);
+    box->AutoRedraw(false);
+    box->BackColor(QBColor(12));
+    box->PaintedPart(PixelRectangle{10, 20, 20, 10});
+    auto* widget = new ControlWidget(box);
+    const std::unique_ptr<QWidget> owner(widget);
+    widget->resize(40, 30);
+    for (const double scale : {1.0, 2.0, 2.3}) {
+        const QImage shown = grabbed(*widget, scale);
+        const auto at = [&](int x, int y) {
+            return shown.pixelColor(static_cast<int>(x * scale), static_cast<int>(y * scale));
+        };
+        EXPECT_EQ(at(15, 25), QColor(255, 0, 0)) << scale;
+        EXPECT_EQ(at(5, 25).alpha(), 0) << scale;
+        EXPECT_EQ(at(15, 15).alpha(), 0) << scale;
+    }
+}
+
 TEST_F(ControlWidgetTest, PressesMovesAndClicksReachTheControl)
 {
     const auto box = pictureBox(40, 20);

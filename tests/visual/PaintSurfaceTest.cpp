@@ -69,6 +69,36 @@ TEST_F(PaintedControls, ImageHasTheSizeOfTheControl)
     EXPECT_EQ(box->surface().image(1)->Width(), 40);
 }
 
+TEST_F(PaintedControls, AnImageOfOnePartIsAsLargeAsThatAndDrawnFromItsCorner)
+{
+    box->AutoRedraw(false);
+    box->Height(15 * 100'000); // of which no image could be made
+    connections += box->Paint.connect([this] {
+        log.push_back("paint from " + std::to_string(static_cast<int>(box->PaintedPart().top)));
+        box->device().Line(0, 0, 5, 5, QBColor(12));
+    });
+    box->PaintedPart(PixelRectangle{0, 500, 20, 10});
+    EXPECT_EQ(box->surface().image(1)->size(), (PixelSize{20, 10}));
+    EXPECT_EQ(drawn(*box), "clear #F0F0F0\nline 0,0 - 5,5 #FF0000\n");
+    box->PaintedPart(PixelRectangle{0, 510, 20, 10});
+    box->PaintedPart(PixelRectangle{0, 510, 20, 10});
+    box->surface().image(1);
+    EXPECT_THAT(log, ElementsAre("paint from 500", "paint from 510"));
+    EXPECT_TRUE(box->surface().hits({1, 90'000})) << "the whole box is still pressed";
+    box->Height(150);
+    box->PaintedPart(std::nullopt);
+    EXPECT_EQ(box->surface().image(1)->size(), (PixelSize{20, 10}));
+}
+
+TEST_F(PaintedControls, APartShowsItsShareOfPictureAndBorder)
+{
+    box->AutoRedraw(false);
+    box->border(true);
+    box->Picture(std::make_shared<Picture>(PixelSize{20, 10}));
+    box->PaintedPart(PixelRectangle{5, 4, 10, 5});
+    EXPECT_THAT(drawn(*box), ::testing::HasSubstr("to -5,-4 20x10\nbox -5,-4 20x10 line"));
+}
+
 TEST_F(PaintedControls, ImageIsRemadeAtAnotherPixelRatio)
 {
     const PicturePtr image = box->surface().image(1);

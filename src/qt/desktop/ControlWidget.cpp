@@ -138,7 +138,8 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/)
     dispatch([&] {
         QPainter painter(this);
         const PicturePtr picture = control_->surface().image(paintRatio(painter));
-        painter.drawImage(QPointF(0, 0), imageForPainting(*picture));
+        const PixelRectangle part = control_->surface().imagedPart();
+        painter.drawImage(QPointF(part.left, part.top), imageForPainting(*picture));
         if (hasFocus()) {
             paintPartFocus(painter, *control_, currentPart_, palette().color(QPalette::Highlight));
         }
