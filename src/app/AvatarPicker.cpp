@@ -37,14 +37,14 @@ AvatarPicker::AvatarPicker(Parts parts) : parts_(std::move(parts))
 {
     layOut();
     connect();
-    drawCellsInView();
+    showCellsInView();
 }
 
 void AvatarPicker::layOut()
 {
-    const std::int32_t count = QVAPP()->USER()->AVATARS();
-    drawn_.resize(static_cast<std::size_t>(count));
-    parts_.cells->Height(toWhole(count / 2.0 + 0.1) * static_cast<double>(Cell));
+    count_ = QVAPP()->USER()->AVATARS();
+    parts_.cells->AutoRedraw(false);
+    parts_.cells->Height(toWhole(count_ / 2.0 + 0.1) * static_cast<double>(Cell));
     const double hiddenHeight = parts_.cells->Height() - parts_.holder->Height();
     const bool fits = hiddenHeight <= 0;
     parts_.bar->Enabled(!fits);
@@ -61,6 +61,7 @@ void AvatarPicker::connect()
     connections_ += parts_.holder->MouseWheel.connect([this](WheelEvent& event) { turn(event); });
     listenToPointer(*parts_.holder);
     listenToPointer(*parts_.cells);
+    connections_ += parts_.cells->Paint.connect([this] { paintCells(); });
     connections_ += parts_.cells->Click.connect([this] { click(); });
     connections_ += parts_.cells->KeyDown.connect([this](KeyEvent& event) { keyDown(event); });
 }
@@ -82,7 +83,7 @@ double AvatarPicker::topOf(const PictureBox& box) const
 
 void AvatarPicker::select(std::int32_t index)
 {
-    if (index < 1 || index > static_cast<std::int32_t>(drawn_.size())) {
+    if (index < 1 || index > count_) {
         return;
     }
     selected_ = index;
@@ -114,22 +115,26 @@ void AvatarPicker::scrollTo(double value)
 void AvatarPicker::scrolled()
 {
     parts_.cells->Top(-static_cast<double>(parts_.bar->Value()));
-    drawCellsInView();
+    showCellsInView();
 }
 
-void AvatarPicker::drawCellsInView()
+void AvatarPicker::showCellsInView()
 {
-    const auto firstRow = parts_.bar->Value() / Cell;
-    const auto rows = static_cast<std::int32_t>(parts_.holder->Height()) / Cell + 2;
-    const auto last = std::min((firstRow + rows) * Columns, static_cast<std::int32_t>(drawn_.size()));
+    const double height = std::min(parts_.holder->Height(), parts_.cells->Height());
+    parts_.cells->PaintedPart(
+        PixelRectangle{0, static_cast<double>(parts_.bar->Value()), parts_.cells->Width(), height});
+}
+
+void AvatarPicker::paintCells()
+{
+    const PixelRectangle part = parts_.cells->PaintedPart();
+    const std::int32_t firstRow = static_cast<std::int32_t>(part.top) / Cell;
+    const std::int32_t rowBelow = (static_cast<std::int32_t>(part.bottom()) + Cell - 1) / Cell;
+    const std::int32_t last = std::min(rowBelow * Columns, count_);
     for (std::int32_t index = firstRow * Columns + 1; index <= last; ++index) {
-        const auto at = static_cast<std::size_t>(index - 1);
-        if (!drawn_[at]) {
-            drawn_[at] = true;
-            const PixelPoint cell = cellOf(index);
-            paintAvatar(parts_.cells->device(), QVAPP()->USER()->AVATARICON(index),
-                        {cell.x + CellInset, cell.y + CellInset, Marker, Marker});
-        }
+        const PixelPoint cell = cellOf(index);
+        paintAvatar(parts_.cells->device(), QVAPP()->USER()->AVATARICON(index),
+                    {cell.x + CellInset - part.left, cell.y + CellInset - part.top, Marker, Marker});
     }
 }
 
@@ -171,7 +176,6 @@ void AvatarPicker::turn(WheelEvent& event)
 
 void AvatarPicker::keyDown(KeyEvent& event)
 {
-    const auto count = static_cast<std::int32_t>(drawn_.size());
     const std::int32_t page = static_cast<std::int32_t>(parts_.holder->Height()) / Cell * Columns;
     std::int32_t target = selected_;
     switch (static_cast<Key>(event.KeyCode)) {
@@ -191,13 +195,13 @@ void AvatarPicker::keyDown(KeyEvent& event)
         target = std::max(target - page, 1);
         break;
     case Key::PageDown:
-        target = std::min(target + page, count);
+        target = std::min(target + page, count_);
         break;
     case Key::Home:
         target = 1;
         break;
     case Key::End:
-        target = count;
+        target = count_;
         break;
     default:
         return;

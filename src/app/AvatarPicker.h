@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <vector>
 
 namespace phial
 {
@@ -16,8 +15,8 @@ namespace phial
 /// It is scrolled by its bar, the wheel, by dragging it as on a touch screen, and by the keys, which move the
 /// mark.
 ///
-/// Cells are drawn when they first come into view, so that a large store of avatars costs nothing before it
-/// is looked at.
+/// Only the cells in view are painted, so that a large store of avatars takes neither time nor memory before
+/// it is looked at.
 class AvatarPicker
 {
 public:
@@ -49,7 +48,8 @@ private:
     void layOut();
     void scrollTo(double value);
     void scrolled();
-    void drawCellsInView();
+    void showCellsInView();
+    void paintCells();
     void bringIntoView();
     void press(double x, double y);
     void move(const PointerEvent& event, double y);
@@ -61,7 +61,7 @@ private:
 
     Parts parts_;
     Connections connections_;
-    std::vector<bool> drawn_; ///< by avatar, from 0
+    std::int32_t count_ = 0;
     std::int32_t selected_ = 0;
     std::optional<Hold> hold_;
     PixelPoint pressedAt_; ///< on the cells

@@ -139,6 +139,7 @@ void frm_DialogUser::style()
     lastNames_.each([](ctl_Label& label, std::int32_t) {
         label.Font(font(11));
         label.ForeColor(Quiet);
+        label.PlainText(true);
     });
     for (const auto* name : {u"pic_AvatarHolder", u"pic_Avatars"}) {
         form_->control<PictureBox>(name)->BackColor(White);

@@ -18,8 +18,13 @@ public:
     void write(SettingsHive hive, StringView path, const Variant& value) override
     {
         written_.emplace_back(path);
-        store_.write(hive, path, value);
+        if (!refuses_) {
+            store_.write(hive, path, value);
+        }
     }
+
+    /// From now on nothing that is written stays, as on a full or locked disk.
+    void refuseWrites() { refuses_ = true; }
 
     /// Puts a value there as an earlier run would have left it; it does not count as written.
     void prepare(SettingsHive hive, StringView path, const Variant& value)
@@ -33,6 +38,7 @@ public:
 private:
     MemorySettingsStore store_;
     std::vector<String> written_;
+    bool refuses_ = false;
 };
 
 } // namespace phial::headless

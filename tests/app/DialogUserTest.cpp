@@ -6,6 +6,7 @@
 #include "visual/Shape.h"
 #include "visual/ctl_CmdBar.h"
 
+#include <gmock/gmock.h>
 #include <string>
 
 namespace phial
@@ -13,6 +14,9 @@ namespace phial
 
 namespace
 {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
 
 constexpr StringView NoName = u"Ohne Namen geht's leider nicht!";
 constexpr StringView NameTooShort = u"Das iss aber 'n bisschen kurz! (Bitte mindestens 3 Zeichen eingeben!)";
@@ -228,6 +232,56 @@ TEST_F(DialogUser, TakesUnusualNamesAsTheyAre)
     }
 }
 
+TEST_F(DialogUser, ShowsANameAsItWasTyped)
+{
+    makeAvatars(1);
+    storeNames({u"<b>x</b>:a01"});
+    look([&] {
+        const auto label = get<ctl_Label>(u"lab_Last", 0);
+        EXPECT_THAT(outside.visual().drawing(*label), HasSubstr("<b>x</b>"));
+        EXPECT_EQ(label->accessibleText(), u"<b>x</b>");
+        headless::click(*label);
+        EXPECT_EQ(name(), u"<b>x</b>");
+    });
+}
+
+TEST_F(DialogUser, BearsWhateverStandsInTheListOfNames)
+{
+    makeAvatars(2);
+    const String names[] = {String(10'000, u'x'),        u"a:b:c",          u"\u0634\u0645\u0633\u202Eab",
+                            u"\U0001F9EA\xD83E",         u"\x0001\r\n\t\0", u"Maxi|Mini",
+                            String(10'000, u'\n') + u"x"};
+    for (const String& stored : names) {
+        storeNames({stored + u":a02"});
+        const String expected = stored.substr(0, stored.find(u':'));
+        look([&] {
+            EXPECT_EQ(name(), expected);
+            outside.visual().drawing(*get<ctl_Label>(u"lab_Last", 0));
+            for (const auto language : {ID_Language_English, ID_Language_German}) {
+                LNG()->CURRENT(language);
+                EXPECT_EQ(get<ctl_Label>(u"lab_Last", 0)->Caption(), expected);
+                EXPECT_EQ(name(), expected);
+            }
+        });
+        EXPECT_EQ(storedNames(), CoreStringList({stored + u":a02"}));
+    }
+}
+
+TEST_F(DialogUser, AStoreThatCannotBeWrittenKeepsItsListAndTheNameLastsForThisRun)
+{
+    makeAvatars(2);
+    storeNames({u"Anna:a01", u"Bert:a02"});
+    outside.settings().refuseWrites();
+    EXPECT_TRUE(play([&] {
+        enter(u"Cleo");
+        clickCell(1, 0);
+        confirm();
+    }));
+    EXPECT_EQ(QVAPP()->USER()->SCREENNAME(), u"Cleo");
+    EXPECT_EQ(QVAPP()->USER()->AVATAR(), u"a02");
+    EXPECT_EQ(storedNames(), CoreStringList({u"Anna:a01", u"Bert:a02"}));
+}
+
 TEST_F(DialogUser, AbortAndTheFramesCloseLeaveEverythingAsItWas)
 {
     makeAvatars(2);
@@ -333,6 +387,20 @@ TEST_F(DialogUser, LongListIsScrolledByTheDifferenceOfTheHeights)
     });
 }
 
+TEST_F(DialogUser, OnlyTheAvatarsInViewArePainted)
+{
+    makeAvatars(30);
+    look([&] {
+        const auto painted = [&] { return outside.visual().drawing(*avatars()); };
+        EXPECT_THAT(painted(), HasSubstr("1,1 48x48"));
+        EXPECT_THAT(painted(), HasSubstr("51,251 48x48"));
+        EXPECT_THAT(painted(), Not(HasSubstr(",301 ")));
+        bar()->inputScroll(120);
+        EXPECT_THAT(painted(), HasSubstr("1,-19 48x48")) << "row 2 has gone by its upper part";
+        EXPECT_THAT(painted(), HasSubstr("51,281 48x48"));
+    });
+}
+
 TEST_F(DialogUser, DraggingTheListScrollsItAndSelectsNothing)
 {
     makeAvatars(30);
@@ -433,6 +501,7 @@ TEST_F(DialogUser, ReachesTheLastOfFiveThousandAvatars)
     makeAvatars(Many);
     play([&] {
         EXPECT_EQ(avatars()->Height(), Many / 2 * 50);
+        EXPECT_LE(avatars()->surface().image(2.3)->Height(), get<PictureBox>(u"pic_AvatarHolder")->Height());
         avatars()->SetFocus();
         headless::type(*dialog, u"{END}");
         EXPECT_TRUE(isInView(Many / 2 - 1));

@@ -2,6 +2,7 @@
 
 #include "app/UserTest.h"
 #include "app/cls_Language.h"
+#include "headless/Hand.h"
 #include "support/VisibleTexts.h"
 
 #include <gmock/gmock.h>
@@ -147,6 +148,19 @@ TEST_F(LibraryFormsTest, EachTextOfTheDesignStandsOnItsControl)
             EXPECT_TRUE(shows(german, halves.german)) << toUtf8(name);
             EXPECT_TRUE(shows(english, halves.english)) << toUtf8(name);
         }
+    }
+}
+
+TEST_F(LibraryFormsTest, EscapeAndTheFramesCloseEndAFormThatCanBeAborted)
+{
+    for (const LibraryForm& row : test::libraryForms()) {
+        SCOPED_TRACE(toUtf8(row.name));
+        const test::MadeForm byKey = open(row);
+        headless::strike(*byKey.form, {.key = Key::Escape});
+        EXPECT_EQ(byKey.form->isLoaded(), !row.aborts);
+        const test::MadeForm byFrame = open(row);
+        byFrame.form->inputClose();
+        EXPECT_FALSE(byFrame.form->isLoaded());
     }
 }
 

@@ -63,6 +63,36 @@ TEST_F(DialogsTest, ClosingAQuestionAnswersNo)
     EXPECT_EQ(dialogs_.YesNo(u"Weiter?", {}), DialogAnswer::No);
 }
 
+TEST_F(DialogsTest, EscapeAndTheFramesCloseAbortEachBox)
+{
+    const std::function<void(QDialog&)> ways[] = {
+        [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); },
+        [](QDialog& box) { box.close(); },
+    };
+    for (const auto& way : ways) {
+        const auto abort = [&] {
+            whenShown([&way](QDialog& box) {
+                way(box);
+                EXPECT_FALSE(box.isVisible());
+            });
+        };
+        abort();
+        dialogs_.Info(u"Fertig", {}, {});
+        abort();
+        dialogs_.Error(u"Falsch", {});
+        abort();
+        EXPECT_EQ(dialogs_.YesNo(u"Weiter?", {}), DialogAnswer::No);
+        abort();
+        dialogs_.Text(u"Protokoll", {});
+        abort();
+        EXPECT_EQ(dialogs_.Input(u"Formel", {}, u"H2O"), u"");
+        abort();
+        EXPECT_EQ(dialogs_.SaveFile({}, {}, u"Text|*.txt"), u"");
+        abort();
+        dialogs_.Done(u"Gespeichert");
+    }
+}
+
 TEST_F(DialogsTest, TextsAreShownAsTheyAre)
 {
     whenShown([](QDialog& box) {

@@ -32,6 +32,7 @@ struct LibraryForm {
     std::vector<StringView> pairs;      ///< "German|English": what stands outside the design
     std::vector<StringView> data;       ///< what is no text of the form and stays in both languages
     bool shown = true;                  ///< false: it is never shown, and only loaded
+    bool aborts = false;                ///< Escape closes it, as its frame does
 };
 
 template <typename Class>
@@ -58,13 +59,15 @@ inline std::vector<LibraryForm> libraryForms()
          .make = makeLibraryForm<frm_AppAbout>,
          .design = app_about_layout::Items,
          .pairs = {u"Info über Molmasse|About Molmasse", u"Schließen|Close"},
-         .data = {u"Molmasse", u"Version 5.1.2", u"(c) Somebody", u"apps\\Molmasse\\"}},
+         .data = {u"Molmasse", u"Version 5.1.2", u"(c) Somebody", u"apps\\Molmasse\\"},
+         .aborts = true},
         {.name = u"frm_DialogUser",
          .make = makeLibraryForm<frm_DialogUser>,
          .design = dialog_user_layout::Items,
          .pairs = {u"Name und Bild|Name and picture", u"OK|OK", u"Abbrechen|Cancel", u"Dein Name|Your name",
                    u"Dein Bild|Your picture"},
-         .data = {u"pupil", u"Maxi"}},
+         .data = {u"pupil", u"Maxi"},
+         .aborts = true},
         {.name = u"frm_Fade",
          .make = makeLibraryForm<frm_Fade>,
          .design = {},
