@@ -3,6 +3,7 @@
 #include "app/RecentNames.h"
 #include "app/screen/Avatars.h"
 #include "visual/FrameMembers.h"
+#include "visual/OneLine.h"
 
 #include <algorithm>
 
@@ -28,38 +29,6 @@ constexpr auto Table = joinMembers(
         members::property<ctl_Avatar, bool, &ctl_Avatar::CENTER, &ctl_Avatar::CENTER>(u"CENTER"),
         members::operation<ctl_Avatar, &ctl_Avatar::UPDATE>(u"UPDATE"),
     }));
-
-/// A name on one line: line ends and other controls are shown as blanks.
-String oneLine(String name)
-{
-    constexpr char16_t Blank = u' ';
-    std::ranges::replace_if(
-        name, [](char16_t unit) { return unit < Blank; }, Blank);
-    return name;
-}
-
-bool isSecondHalf(char16_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
-/// As much of the name as has room, with three dots for the rest.
-String fitted(DrawDevice& device, String name, double room)
-{
-    constexpr std::size_t MostShown = 200; // no control is wider than that many letters
-    if (name.size() <= MostShown && device.TextWidth(name) <= room) {
-        return name;
-    }
-    name.resize(std::min(name.size(), MostShown));
-    while (!name.empty() && device.TextWidth(name + u"\u2026") > room) {
-        const bool isPair = isSecondHalf(name.back());
-        name.pop_back();
-        if (isPair && !name.empty()) {
-            name.pop_back();
-        }
-    }
-    return name + u"\u2026";
-}
 
 } // namespace
 
@@ -163,7 +132,7 @@ void ctl_Avatar::paintUser()
     }
     device.font({.name = u"Tahoma", .size = TextPoints});
     device.ForeColor(textColour_);
-    const String text = fitted(device, oneLine(name_), width - 2 * Margin - side - Gap);
+    const String text = fittedLine(device, oneLine(name_), width - 2 * Margin - side - Gap);
     const double taken = text.empty() ? side : side + Gap + device.TextWidth(text);
     const double left = centre_ ? std::max(Margin, (width - taken) / 2) : Margin;
     paintAvatar(device, AvatarImageGet(avatar_), {left, (height - side) / 2, side, side});

@@ -3,6 +3,7 @@
 #include "visual/Change.h"
 #include "visual/FrameMembers.h"
 #include "visual/Markup.h"
+#include "visual/OneLine.h"
 #include "visual/VisualHost.h"
 
 #include <cmath>
@@ -23,6 +24,7 @@ constexpr auto Table = joinMembers(
                       members::property<Label, Alignment, &Label::Alignment, &Label::Alignment>(u"Alignment"),
                       members::property<Label, bool, &Label::AutoSize, &Label::AutoSize>(u"AutoSize"),
                       members::property<Label, bool, &Label::WordWrap, &Label::WordWrap>(u"WordWrap"),
+                      members::property<Label, bool, &Label::SingleLine, &Label::SingleLine>(u"SingleLine"),
                   }));
 
 TextSide sideOf(Alignment alignment)
@@ -59,7 +61,7 @@ void Label::refresh()
 
 void Label::fitToText()
 {
-    if (!autoSize_) {
+    if (!autoSize_ || singleLine_) {
         return;
     }
     const PixelRectangle place = frame_.pixelRectangle();
@@ -128,9 +130,17 @@ void Label::WordWrap(bool value)
     }
 }
 
+void Label::SingleLine(bool value)
+{
+    if (change(singleLine_, value)) {
+        refresh();
+        frame_.report(ControlAspect::Accessibility);
+    }
+}
+
 String Label::accessibleText() const
 {
-    return plainMarkup(caption_);
+    return singleLine_ ? oneLine(caption_) : plainMarkup(caption_);
 }
 
 void Label::resized()
@@ -169,13 +179,35 @@ void Label::paint()
     DrawDevice& device = surface_.device();
     device.Cls();
     device.ForeColor(foreColor_);
+    if (singleLine_) {
+        paintLine(device);
+    } else {
+        paintMarkup(device);
+    }
+    if (frame_.hasFocus()) {
+        const PixelSize size = surface_.size();
+        device.Line(0, 0, size.width - 1, size.height - 1, foreColor_, LineShape::Box);
+    }
+}
+
+void Label::paintMarkup(DrawDevice& device)
+{
     const PixelSize size = surface_.size();
     const auto wrap = wordWrap_ ? std::optional(size.width) : std::nullopt;
     MarkupLayout(caption_, font_->traits(), visualHost().metrics(), wrap)
         .draw(device, {0, 0, size.width, size.height}, sideOf(alignment_), TextSide::Near);
-    if (frame_.hasFocus()) {
-        device.Line(0, 0, size.width - 1, size.height - 1, foreColor_, LineShape::Box);
-    }
+}
+
+void Label::paintLine(DrawDevice& device)
+{
+    const PixelSize size = surface_.size();
+    device.font(font_->traits());
+    const String text = fittedLine(device, oneLine(caption_), size.width);
+    const double spare = size.width - device.TextWidth(text);
+    const TextSide side = sideOf(alignment_);
+    device.CurrentX(side == TextSide::Far ? spare : side == TextSide::Middle ? spare / 2 : 0);
+    device.CurrentY((size.height - device.TextHeight(text)) / 2);
+    device.Print(text);
 }
 
 } // namespace phial

@@ -36,6 +36,10 @@ public:
     void AutoSize(bool value);
     bool WordWrap() const { return wordWrap_; }
     void WordWrap(bool value);
+    /// The caption is shown as it stands, without markup, on one line in the middle of the height; where it
+    /// has no room three dots stand for the rest. AutoSize does not apply. For what users have typed.
+    bool SingleLine() const { return singleLine_; }
+    void SingleLine(bool value);
 
     Event<> Click;
     Event<> DblClick;
@@ -66,6 +70,8 @@ public:
 private:
     void refresh();
     void fitToText();
+    void paintMarkup(DrawDevice& device);
+    void paintLine(DrawDevice& device);
 
     ControlFrame frame_;
     PaintSurface surface_;
@@ -78,6 +84,7 @@ private:
     phial::Alignment alignment_ = phial::Alignment::Left;
     bool autoSize_ = false;
     bool wordWrap_ = true;
+    bool singleLine_ = false;
 };
 
 } // namespace phial

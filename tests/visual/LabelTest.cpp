@@ -59,6 +59,53 @@ TEST_F(LabelTest, WithWordWrapTheHeightFollowsTheWidth)
     EXPECT_EQ(label->Height(), 30 * 15);
 }
 
+TEST_F(LabelTest, SingleLineShowsWhatUsersTypedAsItStands)
+{
+    label->Move(0, 0, 100 * 15, 20 * 15);
+    label->SingleLine(true);
+    label->Caption(u"a<b>c\r\nd");
+    EXPECT_EQ(drawn(*label), "clear cut\n"
+                             "text 0,5 \"a<b>c  d\" Tahoma 8 #000000\n");
+    EXPECT_EQ(label->accessibleText(), u"a<b>c  d");
+    EXPECT_EQ(label->Caption(), u"a<b>c\r\nd");
+}
+
+TEST_F(LabelTest, SingleLineEndsInThreeDotsWhereItHasNoRoom)
+{
+    label->Move(0, 0, 18 * 15, 10 * 15);
+    label->SingleLine(true);
+    label->Caption(u"abcdefg");
+    EXPECT_THAT(drawn(*label), ::testing::HasSubstr("\"abc\u2026\""));
+    label->Caption(u"ab\U0001F600d");
+    EXPECT_THAT(drawn(*label), ::testing::HasSubstr("\"ab\u2026\""));
+    label->Caption(u"abcd");
+    EXPECT_THAT(drawn(*label), ::testing::HasSubstr("\"abcd\""));
+    label->Caption(String(10'000, u'x'));
+    EXPECT_THAT(drawn(*label), ::testing::HasSubstr("\"xxx\u2026\""));
+}
+
+TEST_F(LabelTest, SingleLineIsAligned)
+{
+    label->Move(0, 0, 20 * 15, 10 * 15);
+    label->SingleLine(true);
+    label->Caption(u"ab");
+    label->Alignment(Alignment::Right);
+    EXPECT_THAT(drawn(*label), ::testing::HasSubstr("text 12,0"));
+    label->Alignment(Alignment::Centre);
+    EXPECT_THAT(drawn(*label), ::testing::HasSubstr("text 6,0"));
+}
+
+TEST_F(LabelTest, SingleLineKeepsItsSize)
+{
+    label->Move(0, 0, 300, 150);
+    label->SingleLine(true);
+    label->AutoSize(true);
+    label->Caption(u"abcd efgh ijkl");
+    EXPECT_EQ(label->Width(), 300);
+    label->SingleLine(false);
+    EXPECT_EQ(label->Height(), 30 * 15);
+}
+
 TEST_F(LabelTest, FontIsSharedByReference)
 {
     const auto font = std::make_shared<Font>();

@@ -1,0 +1,45 @@
+#include "visual/OneLine.h"
+
+#include "visual/DrawDevice.h"
+
+#include <algorithm>
+
+namespace phial
+{
+
+namespace
+{
+
+bool isSecondHalf(char16_t unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+} // namespace
+
+String oneLine(String text)
+{
+    constexpr char16_t Blank = u' ';
+    std::ranges::replace_if(
+        text, [](char16_t unit) { return unit < Blank; }, Blank);
+    return text;
+}
+
+String fittedLine(DrawDevice& device, String text, double room)
+{
+    constexpr std::size_t MostShown = 200; // no control is wider than that many letters
+    if (text.size() <= MostShown && device.TextWidth(text) <= room) {
+        return text;
+    }
+    text.resize(std::min(text.size(), MostShown));
+    while (!text.empty() && device.TextWidth(text + u"\u2026") > room) {
+        const bool isPair = isSecondHalf(text.back());
+        text.pop_back();
+        if (isPair && !text.empty()) {
+            text.pop_back();
+        }
+    }
+    return text + u"\u2026";
+}
+
+} // namespace phial
