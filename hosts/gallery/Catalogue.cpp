@@ -27,6 +27,8 @@ phial::String groupTitle(Group group)
         return say(u"Unsichtbares|Without a face");
     case Group::Windows:
         return say(u"Fenster und Dialoge|Windows and dialogs");
+    case Group::Results:
+        return say(u"Ergebnisse|Results");
     case Group::Formulas:
         return say(u"Formeln|Formulas");
     }
@@ -37,7 +39,7 @@ std::vector<Exhibit> catalogue()
 {
     std::vector<Exhibit> all;
     for (const auto section : {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits,
-                               userExhibits, formulaExhibits}) {
+                               userExhibits, resultExhibits, formulaExhibits}) {
         std::ranges::move(section(), std::back_inserter(all));
     }
     std::ranges::stable_sort(all, {}, &Exhibit::group);
