@@ -253,8 +253,8 @@ def _words_only(text):
 
 
 def _bare(text):
-    """What is compared: without the mark of a letter's key and outer blanks."""
-    return text.replace("&", "").strip()
+    """What is compared: without the mark of a letter's key, on one line with single blanks."""
+    return " ".join(text.replace("&", "").split())
 
 
 ESCAPE = re.compile(r"\\(?:x([0-9A-Fa-f]+)|u([0-9A-Fa-f]{4})|U([0-9A-Fa-f]{8})|(.))")
