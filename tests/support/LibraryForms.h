@@ -6,6 +6,9 @@
 #include "app/screen/frm_AppAbout.h"
 #include "app/screen/frm_Fade.h"
 #include "app/screen/frm_Resource.h"
+#include "results/DialogHighscoreLayout.h"
+#include "results/cls_DataScores.h"
+#include "results/frm_DialogHighscore.h"
 #include "server/NetMonitorLayout.h"
 #include "server/frm_NetMonitor.h"
 #include "visual/FormLayout.h"
@@ -42,6 +45,14 @@ MadeForm makeLibraryForm()
     return {made, &made->form()};
 }
 
+/// The highscore window with an empty list, of which it says so.
+inline MadeForm makeHighscore()
+{
+    const auto made = std::make_shared<frm_DialogHighscore>();
+    made->DialogScores(std::make_shared<cls_DataScores>());
+    return {made, &made->form()};
+}
+
 /// The network monitor with one line, a note.
 inline MadeForm makeNetMonitor()
 {
@@ -60,6 +71,12 @@ inline std::vector<LibraryForm> libraryForms()
          .design = app_about_layout::Items,
          .pairs = {u"Info über Molmasse|About Molmasse", u"Schließen|Close"},
          .data = {u"Molmasse", u"Version 5.1.2", u"(c) Somebody", u"apps\\Molmasse\\"},
+         .aborts = true},
+        {.name = u"frm_DialogHighscore",
+         .make = makeHighscore,
+         .design = dialog_highscore_layout::Items,
+         .pairs = {u"Bestenliste|High scores", u"Zurücksetzen|Reset", u"OK|OK"},
+         .data = {},
          .aborts = true},
         {.name = u"frm_DialogUser",
          .make = makeLibraryForm<frm_DialogUser>,

@@ -1,0 +1,321 @@
+#include "results/frm_DialogHighscore.h"
+
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+#include "core/Arithmetic.h"
+#include "core/CoreDialogs.h"
+#include "core/CoreRoot.h"
+#include "core/Format.h"
+#include "results/DialogHighscoreLayout.h"
+#include "results/cls_DataScores.h"
+
+#include <algorithm>
+
+namespace phial
+{
+
+namespace layout = dialog_highscore_layout;
+
+namespace
+{
+
+constexpr StringView Reset = u"DIALOG.RESET();";
+constexpr StringView Accept = u"DIALOG.ACCEPT();";
+constexpr StringView Confirm = u"DIALOG.OK();";
+constexpr StringView ResetQuestion = u"Bist Du sicher, daß Du die Highscore-Liste zurücksetzen möchtest?";
+
+constexpr Colour DarkBlue = RGB(0, 64, 118);
+constexpr Colour Paper = RGB(246, 249, 252);
+constexpr Colour White = RGB(255, 255, 255);
+constexpr Colour Band = RGB(232, 240, 247);
+constexpr Colour Line = RGB(196, 212, 226);
+constexpr Colour Dark = RGB(28, 40, 54);
+constexpr Colour Quiet = RGB(84, 100, 118);
+constexpr int LightRed = 12; // of the classic table of colours
+
+FontPtr font(double size, bool bold = false)
+{
+    return std::make_shared<Font>(FontSpec{.name = u"Tahoma", .size = size, .bold = bold});
+}
+
+/// Points as a whole number.
+String wholePoints(double points)
+{
+    return Variant(roundToDecimals(points, 0)).toText();
+}
+
+String shortMoment(Moment moment)
+{
+    const Locale& locale = currentLocale();
+    return formatPattern(moment, locale.shortDate) + u" " + formatPattern(moment, locale.shortTime);
+}
+
+} // namespace
+
+frm_DialogHighscore::frm_DialogHighscore()
+    : form_(std::make_shared<Form>(u"frm_DialogHighscore")), ranks_(*form_, u"lab_Rank"),
+      names_(*form_, u"lab_Name"), exercises_(*form_, u"lab_Ueb"), points_(*form_, u"lab_Points"),
+      times_(*form_, u"lab_time")
+{
+    build();
+    style();
+    connect();
+    TRANSLATE();
+}
+
+frm_DialogHighscore::~frm_DialogHighscore()
+{
+    form_->discard();
+}
+
+void frm_DialogHighscore::Show()
+{
+    form_->Show(FormShow::Modal);
+}
+
+void frm_DialogHighscore::build()
+{
+    form_->Caption(u"Bestenliste|High scores");
+    form_->ScaleMode(ScaleUnit::Pixels);
+    form_->BorderStyle(BorderStyle::FixedDialog);
+    form_->innerSize({layout::Width, layout::Height});
+    form_->centred(true);
+    form_->KeyPreview(true);
+    applyLayout(*form_, layout::Items);
+    for (auto* labels : {&ranks_, &names_, &exercises_, &points_, &times_}) {
+        labels->adopt();
+    }
+    more_ = form_->control<ctl_Button>(u"but_mehr");
+    less_ = form_->control<ctl_Button>(u"but_weniger");
+    const auto title = form_->control<ctl_Title>(u"bar_Header");
+    title->Closable(false);
+    title->frame().canFocus(false);
+    const auto commands = form_->control<ctl_CmdBar>(u"bar_Buttons")->BUTTONS();
+    commands->Add(String(Reset), u"Zurücksetzen|Reset");
+    commands->Add(String(Confirm), u"OK|OK");
+}
+
+void frm_DialogHighscore::style()
+{
+    form_->BackColor(Paper);
+    form_->control<ctl_Title>(u"bar_Header")->Font(font(16, true));
+    for (std::int32_t row = 0; row < layout::Rows; ++row) {
+        const auto band = form_->control<Shape>(u"shp_Row", row);
+        band->BorderWidth(0);
+        band->FillStyle(FillStyle::Solid);
+        band->FillColor(row % 2 == 0 ? White : Band);
+    }
+    const FontPtr titleFont = font(10, true);
+    for (const layout::Column& column : layout::Columns) {
+        const auto alignment = column.right ? Alignment::Right : Alignment::Left;
+        const auto title =
+            form_->control<Label>(u"lab_Title", static_cast<std::int32_t>(&column - layout::Columns.data()));
+        title->Font(titleFont);
+        title->ForeColor(Quiet);
+        title->SingleLine(true);
+        title->Alignment(alignment);
+        for (std::int32_t row = 0; row < layout::Rows; ++row) {
+            const auto label = form_->control<Label>(column.name, row);
+            label->SingleLine(true);
+            label->Alignment(alignment);
+        }
+    }
+    const auto empty = form_->control<ctl_Pannel>(u"bar_Empty");
+    empty->Font(font(14));
+    empty->ForeColor(DarkBlue);
+    empty->BackColor(White);
+    empty->BorderColor(Line);
+    more_->Font(font(11));
+    less_->Font(font(11));
+}
+
+void frm_DialogHighscore::connect()
+{
+    connections_ += form_->Load.connect([this] { load(); });
+    connections_ += form_->TRANSLATE.connect([this] { TRANSLATE(); });
+    connections_ += form_->KeyDown.connect([this](KeyEvent& event) { keyDown(event); });
+    connections_ += more_->CLICK.connect([this] { nextPage(); });
+    connections_ += less_->CLICK.connect([this] { previousPage(); });
+    connections_ +=
+        form_->control<ctl_CmdBar>(u"bar_Buttons")->BUTTON.connect([this](std::int32_t, const String& key) {
+            command(key);
+        });
+}
+
+// The design texts are gathered by the first walk, before any label shows what is no text of the form.
+void frm_DialogHighscore::TRANSLATE()
+{
+    LNG()->Form(*form_, texts_);
+    showTitle();
+}
+
+void frm_DialogHighscore::showTitle()
+{
+    if (!title_.empty()) {
+        form_->control<ctl_Title>(u"bar_Header")->Title(title_);
+    }
+}
+
+void frm_DialogHighscore::load()
+{
+    const auto list = copyOfList();
+    showTitle();
+    more_->Enabled(false);
+    less_->Enabled(false);
+    clearRows();
+    list->MODE(enm_ScoreListMode::ID_ScoreList_Highscore);
+    list->SORT();
+    const std::int32_t count = list->COUNT();
+    more_->Enabled(count > layout::Rows);
+    for (std::int32_t position = 1; position <= std::min(count, layout::Rows); ++position) {
+        fillRow(*list, position);
+    }
+    form_->control<ctl_Pannel>(u"bar_Empty")->Visible(count == 0);
+    const auto commands = form_->control<ctl_CmdBar>(u"bar_Buttons");
+    commands->BUTTONS()->Item(1)->Enabled(count > 0 && local_);
+    commands->REFRESH();
+}
+
+void frm_DialogHighscore::nextPage()
+{
+    const auto list = copyOfList();
+    clearRows();
+    ++page_;
+    less_->Enabled(true);
+    const std::int32_t count = list->COUNT();
+    if (rowsBefore() > count) {
+        --page_;
+    }
+    const std::int32_t first = rowsBefore() + 1;
+    for (std::int32_t position = first; position < first + layout::Rows; ++position) {
+        if (position > count) {
+            more_->Enabled(false);
+            break;
+        }
+        fillRow(*list, position);
+    }
+    keepFocus(*less_);
+}
+
+/// The page before is full as long as nobody shortens the list meanwhile; then the missing entry is raised.
+void frm_DialogHighscore::previousPage()
+{
+    const auto list = copyOfList();
+    clearRows();
+    --page_;
+    more_->Enabled(true);
+    if (page_ < 0) {
+        page_ = 0;
+        less_->Enabled(false);
+    }
+    const std::int32_t first = rowsBefore() + 1;
+    for (std::int32_t position = first; position < first + layout::Rows; ++position) {
+        fillRow(*list, position);
+    }
+    keepFocus(*more_);
+}
+
+std::shared_ptr<cls_DataScores> frm_DialogHighscore::copyOfList() const
+{
+    if (!scores_) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
+    auto copy = std::make_shared<cls_DataScores>();
+    copy->DATA()->Copy(*scores_);
+    return copy;
+}
+
+/// How many entries stand on the pages before this one.
+std::int32_t frm_DialogHighscore::rowsBefore() const
+{
+    return layout::Rows * page_;
+}
+
+void frm_DialogHighscore::clearRows()
+{
+    for (const auto* labels : {&ranks_, &names_, &exercises_, &points_, &times_}) {
+        labels->each([](Label& label, std::int32_t) { label.Caption({}); });
+    }
+    for (std::int32_t row = 0; row < layout::Rows; ++row) {
+        stressRow(row, false);
+    }
+}
+
+void frm_DialogHighscore::fillRow(cls_DataScores& list, std::int32_t position)
+{
+    const auto entry = list.ITEM(position);
+    const std::int32_t row = position - 1 - rowsBefore();
+    names_(row)->Caption(entry->SCREENNAME());
+    ranks_(row)->Caption(Variant(position).toText());
+    exercises_(row)->Caption(entry->UEBM());
+    points_(row)->Caption(wholePoints(entry->POINTS()));
+    times_(row)->Caption(shortMoment(entry->TIMESTAMP()));
+    if (position == rank_) {
+        stressRow(row, true);
+    }
+}
+
+void frm_DialogHighscore::stressRow(std::int32_t row, bool stressed)
+{
+    const FontPtr rowFont = font(11, stressed);
+    for (const auto* labels : {&ranks_, &names_, &points_}) {
+        (*labels)(row)->ForeColor(stressed ? QBColor(LightRed) : Dark);
+        (*labels)(row)->Font(rowFont);
+    }
+    for (const auto* labels : {&exercises_, &times_}) {
+        (*labels)(row)->ForeColor(Dark);
+        (*labels)(row)->Font(rowFont);
+    }
+}
+
+/// The button that was pressed may have been disabled by it; the keyboard goes on with the other one.
+void frm_DialogHighscore::keepFocus(ctl_Button& other)
+{
+    if (form_->Visible() && !form_->ActiveControl()) {
+        other.SetFocus();
+    }
+}
+
+void frm_DialogHighscore::command(const String& key)
+{
+    const String wanted = upperCase(key);
+    if (wanted == Reset) {
+        askForReset();
+    } else if (wanted == Accept || wanted == Confirm) {
+        form_->Unload();
+    }
+}
+
+void frm_DialogHighscore::askForReset()
+{
+    if (coreRoot().CoreDialogs().YesNo(ResetQuestion) == DialogAnswer::Yes) {
+        reset_ = true;
+        form_->Unload();
+    }
+}
+
+/// A button hears Return itself.
+void frm_DialogHighscore::keyDown(KeyEvent& event)
+{
+    if (turnsPage(event)) {
+        event.KeyCode = 0;
+    } else if (event.is(Key::Escape) || (event.is(Key::Return) && !form_->ActiveControl())) {
+        event.KeyCode = 0;
+        form_->Unload();
+    }
+}
+
+bool frm_DialogHighscore::turnsPage(const KeyEvent& event)
+{
+    if (event.is(Key::PageDown) && more_->Enabled()) {
+        nextPage();
+        return true;
+    }
+    if (event.is(Key::PageUp) && less_->Enabled()) {
+        previousPage();
+        return true;
+    }
+    return false;
+}
+
+} // namespace phial
