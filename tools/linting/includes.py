@@ -62,6 +62,7 @@ def _is_qt(name):
 
 def _may_know_qt(path):
     parts = path.parts
-    return (parts[:2] in (("src", "qt"), ("tests", "qt"), ("tests", "consumer"))
+    return (parts[:2] in (("src", "qt"), ("tests", "qt"), ("tests", "consumer"), ("hosts", "master"),
+                          ("tests", "master"))
             or parts[0] == "bench"
             or (parts[0] == "hosts" and path.name == "main.cpp"))

@@ -1,0 +1,122 @@
+#include "master/Packages.h"
+
+#include "core/CoreParameters.h"
+#include "core/CoreValuePacker.h"
+#include "core/RuntimeError.h"
+#include "core/Variant.h"
+
+#include <cmath>
+
+namespace phial::master
+{
+
+namespace
+{
+
+constexpr char16_t Replacement = u'\uFFFD';
+
+bool isControl(char16_t unit)
+{
+    return unit < u' ' || (unit >= u'\u007F' && unit <= u'\u009F') || unit == u'\u2028' || unit == u'\u2029';
+}
+
+bool isHighHalf(char16_t unit)
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool isLowHalf(char16_t unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+/// The beginning of a text, which never ends within a sign.
+StringView cut(StringView text, std::size_t maxLength)
+{
+    if (text.size() <= maxLength) {
+        return text;
+    }
+    const bool withinSign = maxLength > 0 && isHighHalf(text[maxLength - 1]);
+    return text.substr(0, withinSign ? maxLength - 1 : maxLength);
+}
+
+double finite(const Variant& value)
+{
+    const double number = value.toReal();
+    if (!std::isfinite(number)) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+    return number;
+}
+
+/// Packed values as they may be kept: whatever client sent them, the list is written anew.
+String packedAnew(const Variant& packed)
+{
+    const String& text = packed.text();
+    if (text.size() > MaxAdditionalLength) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+    CoreParameters list;
+    list.Unpack(text);
+    return list.Pack();
+}
+
+Sender sender(const Variant& screenName, const Variant& computer, const Variant& userName)
+{
+    Sender who{cleaned(screenName.text(), MaxNameLength), cleaned(userName.text(), MaxNameLength),
+               cleaned(computer.text(), MaxNameLength)};
+    if (who.screenName.empty()) {
+        who.screenName = who.userName;
+    }
+    return who;
+}
+
+} // namespace
+
+String cleaned(StringView text, std::size_t maxLength)
+{
+    String clean(cut(trimmed(text), maxLength));
+    for (std::size_t at = 0; at < clean.size(); ++at) {
+        if (isControl(clean[at])) {
+            clean[at] = u' ';
+        } else if (isHighHalf(clean[at]) && at + 1 < clean.size() && isLowHalf(clean[at + 1])) {
+            ++at;
+        } else if (isHighHalf(clean[at]) || isLowHalf(clean[at])) {
+            clean[at] = Replacement;
+        }
+    }
+    return trimmed(clean);
+}
+
+Result unpackResult(StringView package, Moment at)
+{
+    Variant points;
+    Variant pointsMax;
+    Variant exercise;
+    Variant additional;
+    Variant screenName;
+    Variant computer;
+    Variant userName;
+    CoreValuePacker::Unpack(package,
+                            {points, pointsMax, exercise, additional, screenName, computer, userName});
+    return {at,
+            sender(screenName, computer, userName),
+            cleaned(exercise.text(), MaxLabelLength),
+            finite(points),
+            finite(pointsMax),
+            packedAnew(additional)};
+}
+
+PupilEvent unpackEvent(StringView package, Moment at)
+{
+    Variant action;
+    Variant additional;
+    Variant screenName;
+    Variant computer;
+    Variant userName;
+    CoreValuePacker::Unpack(package, {action, additional, screenName, computer, userName});
+    return {at, sender(screenName, computer, userName), cleaned(action.text(), MaxLabelLength),
+            packedAnew(additional)};
+}
+
+} // namespace phial::master

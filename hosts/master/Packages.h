@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/Moment.h"
+#include "core/String.h"
+#include "master/MasterStore.h"
+
+#include <cstddef>
+
+namespace phial::master
+{
+
+/// What is kept of names and labels, and of further values in their packed form, in units.
+inline constexpr std::size_t MaxNameLength = 100;
+inline constexpr std::size_t MaxLabelLength = 200;
+inline constexpr std::size_t MaxAdditionalLength = 65536;
+
+/// A text from outside as it may be kept and shown: on one line, without control characters and surrogate
+/// halves, without outer blanks, and cut to that length.
+String cleaned(StringView text, std::size_t maxLength);
+
+/// The result in the package of a submission: points, reachable points, exercise, additional values, screen
+/// name, computer, login. Raises 5 or 13 for another package, for points that are no finite numbers, and for
+/// additional values that are too long or no packed list.
+Result unpackResult(StringView package, Moment at);
+
+/// The event in the package of `EVENT` `ADD`: action, additional values, screen name, computer, login. Raises
+/// as above.
+PupilEvent unpackEvent(StringView package, Moment at);
+
+} // namespace phial::master

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/String.h"
+
+#include <cstddef>
+#include <iosfwd>
+#include <vector>
+
+namespace phial::master
+{
+
+/// Rows of texts in aligned columns, for a terminal. A cell that is too long ends in `…`.
+class TextTable
+{
+public:
+    /// In characters.
+    static constexpr std::size_t MaxCell = 32;
+
+    explicit TextTable(std::vector<String> header);
+
+    /// As many cells as the header has.
+    void add(std::vector<String> row);
+    bool isEmpty() const { return rows_.size() == 1; }
+
+    void write(std::ostream& output) const;
+
+private:
+    std::vector<std::vector<String>> rows_; // the header in front
+};
+
+} // namespace phial::master
