@@ -122,11 +122,13 @@ std::string CrashingFileSystem::read(const fs::path& file)
     return real_.read(file);
 }
 
-void CrashingFileSystem::write(const fs::path& file, std::string_view bytes)
+/// The file holds `before` and `bytes` from now on, as far as the power lasts.
+void CrashingFileSystem::put(const fs::path& file, std::string_view before, std::string_view bytes)
 {
     const bool isCut = isPowerGone();
     const auto length = static_cast<double>(bytes.size()) * (isCut ? share_ : 1);
-    const std::string_view written = bytes.substr(0, static_cast<std::size_t>(length));
+    std::string written(before);
+    written += bytes.substr(0, static_cast<std::size_t>(length));
     const auto content = contentToWrite(file);
     content->written = written;
     if (std::ranges::find(unflushedContents_, content) == unflushedContents_.end()) {
@@ -136,6 +138,17 @@ void CrashingFileSystem::write(const fs::path& file, std::string_view bytes)
     if (isCut) {
         throw PowerCut{true};
     }
+}
+
+void CrashingFileSystem::write(const fs::path& file, std::string_view bytes)
+{
+    put(file, {}, bytes);
+}
+
+void CrashingFileSystem::append(const fs::path& file, std::string_view bytes)
+{
+    const auto known = names_.find(file);
+    put(file, known == names_.end() ? std::string() : std::string(known->second->written), bytes);
 }
 
 void CrashingFileSystem::flush(const fs::path& file)

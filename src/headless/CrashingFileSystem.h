@@ -37,6 +37,7 @@ public:
 
     std::string read(const std::filesystem::path& file) override;
     void write(const std::filesystem::path& file, std::string_view bytes) override;
+    void append(const std::filesystem::path& file, std::string_view bytes) override;
     void flush(const std::filesystem::path& file) override;
     void flushFolder(const std::filesystem::path& folder) override;
     void rename(const std::filesystem::path& from, const std::filesystem::path& to) override;
@@ -58,6 +59,7 @@ private:
     };
 
     bool isPowerGone();
+    void put(const std::filesystem::path& file, std::string_view before, std::string_view bytes);
     void begin();
     void change(NameChange change);
     std::shared_ptr<Content> contentToWrite(const std::filesystem::path& file);
