@@ -82,7 +82,12 @@ std::string NativeFileSystem::read(const fs::path& file)
         throw RuntimeError(ErrorNumber::FileNotFound, u"file not found: " + systemPath(file));
     }
     std::ifstream stream(file, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    // As many bytes as the file has now, at once, and then what it has grown by since.
+    const std::uintmax_t size = fs::file_size(file, error);
+    std::string bytes(error ? 0 : static_cast<std::size_t>(size), '\0');
+    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(stream.gcount()));
+    bytes.append(std::istreambuf_iterator<char>(stream), {});
     if (!stream.is_open() || stream.bad()) {
         raiseAccess(u"cannot read", file);
     }

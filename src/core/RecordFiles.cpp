@@ -39,13 +39,10 @@ std::optional<std::pair<unsigned, unsigned>> versionIn(const Variant& value)
     return minor.ec == std::errc() && minor.ptr == end ? std::optional(version) : std::nullopt;
 }
 
-bool isNewer(const std::vector<Variant>& stored, const std::optional<Variant>& written)
+bool isNewer(const Variant& stored, const Variant& written)
 {
-    if (stored.empty() || !written) {
-        return false;
-    }
-    const auto storedVersion = versionIn(stored.front());
-    const auto writtenVersion = versionIn(*written);
+    const auto storedVersion = versionIn(stored);
+    const auto writtenVersion = versionIn(written);
     return storedVersion && writtenVersion && *storedVersion > *writtenVersion;
 }
 
@@ -60,7 +57,7 @@ std::vector<Variant> RecordFiles::read(const fs::path& file, StringView password
     if (frame.state != State::Whole) {
         throw RuntimeError(ErrorNumber::InvalidArgument, u"Invalid argument: no whole record file");
     }
-    std::optional<std::vector<Variant>> values = valuesIn(frame, password);
+    std::optional<std::vector<Variant>> values = fromBody(frame, password, record_format::valuesOf);
     if (!values) {
         throw RuntimeError(ErrorNumber::FileAccess, u"the file was written with another password");
     }
@@ -94,17 +91,18 @@ std::string RecordFiles::framed(const std::string& body, StringView password) co
     return record_format::framed(seal_->seal(body, password), true);
 }
 
-/// None when the password is not the one that the file was written with.
-std::optional<std::vector<Variant>> RecordFiles::valuesIn(const Frame& frame, StringView password) const
+template <typename Take>
+auto RecordFiles::fromBody(const Frame& frame, StringView password, const Take& take) const
+    -> std::optional<decltype(take(frame.body))>
 {
     if (frame.isSealed == password.empty()) {
         return std::nullopt;
     }
     if (!frame.isSealed) {
-        return record_format::valuesOf(frame.body);
+        return take(frame.body);
     }
     const auto body = seal_ == nullptr ? std::nullopt : seal_->open(frame.body, password);
-    return body ? std::optional(record_format::valuesOf(*body)) : std::nullopt;
+    return body ? std::optional(take(*body)) : std::nullopt;
 }
 
 /// The end of the name under which a file's old content is kept; none when it may be replaced.
@@ -115,11 +113,11 @@ std::optional<std::string_view> RecordFiles::markToKeep(std::string_view bytes, 
     if (frame.state != State::Whole) {
         return frame.state == State::Newer ? KeptMark : DamagedMark;
     }
-    std::optional<std::vector<Variant>> stored;
-    if (!ignoringErrors([&] { stored = valuesIn(frame, password); })) {
+    std::optional<Variant> first;
+    if (!ignoringErrors([&] { first = fromBody(frame, password, record_format::firstValueOf); })) {
         return DamagedMark;
     }
-    return !stored || isNewer(*stored, values.first()) ? std::optional(KeptMark) : std::nullopt;
+    return !first || isNewer(*first, values.first()) ? std::optional(KeptMark) : std::nullopt;
 }
 
 void RecordFiles::keepWhatIsNotReplaced(const fs::path& file, StringView password,

@@ -43,8 +43,10 @@ public:
 private:
     std::string bytesOf(const std::filesystem::path& file) const;
     std::string framed(const std::string& body, StringView password) const;
-    std::optional<std::vector<Variant>> valuesIn(const record_format::Frame& frame,
-                                                 StringView password) const;
+    /// What `take` makes of the body; none when the password is not the one that the file was written with.
+    template <typename Take>
+    auto fromBody(const record_format::Frame& frame, StringView password, const Take& take) const
+        -> std::optional<decltype(take(frame.body))>;
     std::optional<std::string_view> markToKeep(std::string_view bytes, StringView password,
                                                const RecordWriter& values) const;
     void keepWhatIsNotReplaced(const std::filesystem::path& file, StringView password,

@@ -93,9 +93,7 @@ public:
 
     Variant value(int nesting)
     {
-        if (++values_ > record_format::MaxValues) {
-            raiseDamaged();
-        }
+        countValue();
         switch (static_cast<Tag>(number<std::uint8_t>())) {
         case Tag::Empty:
             return {};
@@ -121,7 +119,46 @@ public:
         raiseDamaged();
     }
 
+    /// Checks a value and passes over it.
+    void skip(int nesting)
+    {
+        countValue();
+        switch (static_cast<Tag>(number<std::uint8_t>())) {
+        case Tag::Empty:
+        case Tag::False:
+        case Tag::True:
+        case Tag::NoObject:
+            return;
+        case Tag::Whole:
+            take(sizeof(std::uint32_t));
+            return;
+        case Tag::Real:
+        case Tag::Moment:
+            take(sizeof(std::uint64_t));
+            return;
+        case Tag::NarrowText:
+            take(number<std::uint32_t>());
+            return;
+        case Tag::WideText:
+            wideText();
+            return;
+        case Tag::Array:
+            for (std::uint32_t items = arrayCount(nesting + 1); items > 0; --items) {
+                skip(nesting + 1);
+            }
+            return;
+        }
+        raiseDamaged();
+    }
+
 private:
+    void countValue()
+    {
+        if (++values_ > record_format::MaxValues) {
+            raiseDamaged();
+        }
+    }
+
     std::string_view take(std::size_t count)
     {
         if (count > rest_.size()) {
@@ -160,14 +197,19 @@ private:
         return text;
     }
 
-    Variant array(int nesting)
+    std::uint32_t arrayCount(int nesting)
     {
         const auto count = number<std::uint32_t>();
         if (nesting > record_format::MaxNesting || count > rest_.size()) {
             raiseDamaged();
         }
+        return count;
+    }
+
+    Variant array(int nesting)
+    {
         Variant::Array items;
-        for (std::uint32_t at = 0; at < count; ++at) {
+        for (std::uint32_t count = arrayCount(nesting); count > 0; --count) {
             items.push_back(value(nesting));
         }
         return items;
@@ -222,9 +264,19 @@ std::vector<Variant> record_format::valuesOf(std::string_view body)
     return values;
 }
 
+Variant record_format::firstValueOf(std::string_view body)
+{
+    Reader reader(body);
+    Variant first = reader.atEnd() ? Variant() : reader.value(0);
+    while (!reader.atEnd()) {
+        reader.skip(0);
+    }
+    return first;
+}
+
 void RecordWriter::write(const Variant& value)
 {
-    if (!first_) {
+    if (values_ == 0) {
         first_ = value;
     }
     write(value, 0);

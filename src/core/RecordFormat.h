@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,6 +46,9 @@ Frame frameOf(std::string_view bytes) noexcept;
 /// All values of a body that is not sealed. Raises 5 when it is no sequence of values.
 std::vector<Variant> valuesOf(std::string_view body);
 
+/// The first of these values, the empty value when there is none. All are checked, and 5 is raised likewise.
+Variant firstValueOf(std::string_view body);
+
 } // namespace record_format
 
 /// Gathers values as the body of a record file.
@@ -58,8 +60,8 @@ public:
     void write(const Variant& value);
 
     const std::string& body() const { return body_; }
-    /// The first value, if there is one; a record's version.
-    const std::optional<Variant>& first() const { return first_; }
+    /// The first value, a record's version; the empty value when there is none.
+    const Variant& first() const { return first_; }
 
 private:
     void write(const Variant& value, int nesting);
@@ -67,7 +69,7 @@ private:
     void text(StringView text);
 
     std::string body_;
-    std::optional<Variant> first_;
+    Variant first_;
     std::size_t values_ = 0;
 };
 

@@ -110,6 +110,29 @@ TEST(RecordFormat, TheBytesAreAsDocumented)
                                                       body);
 }
 
+TEST(RecordFormat, TheFirstValueIsGivenWhenAllAreSound)
+{
+    const std::string body = bodyOf({u"2.0",
+                                     Variant(true),
+                                     {},
+                                     7,
+                                     2.5,
+                                     Moment{1},
+                                     u"a",
+                                     u"Ω",
+                                     Variant::Array{1, Variant::Array{u"b"}},
+                                     ObjectPtr()});
+    EXPECT_EQ(record_format::firstValueOf(body), Variant(u"2.0"));
+    EXPECT_EQ(record_format::firstValueOf(""), Variant());
+    for (std::size_t size = 1; size < body.size(); ++size) {
+        const std::string_view part = std::string_view(body).substr(0, size);
+        EXPECT_EQ(ignoringErrors([&] { record_format::firstValueOf(part); }),
+                  ignoringErrors([&] { valuesOf(part); }))
+            << size;
+    }
+    EXPECT_RAISES(record_format::firstValueOf(body + '\x0A'), InvalidArgument);
+}
+
 TEST(RecordFormat, AnObjectThatIsSetCannotBeWritten)
 {
     class Flask : public Object
@@ -131,6 +154,7 @@ TEST(RecordFormat, NestingIsLimitedOnBothSides)
         tooDeep += "\x08\x01\0\0\0"sv;
     }
     EXPECT_RAISES(valuesOf(tooDeep + '\0'), InvalidArgument);
+    EXPECT_RAISES(record_format::firstValueOf('\0' + tooDeep + '\0'), InvalidArgument);
 }
 
 TEST(RecordFormat, NoMoreValuesThanAllowedAreTaken)

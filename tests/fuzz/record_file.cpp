@@ -68,7 +68,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         fuzz::require(record_format::framed(frame.body, frame.isSealed) == bytes);
     }
     const std::string_view body = isFile ? frame.body : bytes;
-    if (const auto values = valuesIn(body)) {
+    const auto values = valuesIn(body);
+    fuzz::require(values.has_value() == ignoringErrors([&] { record_format::firstValueOf(body); }));
+    if (values) {
         fuzz::require(bodyOf(*values) == body);
         readAndStore<cls_DataScores>(*values);
         readAndStore<cls_DataEvents>(*values);
