@@ -9,7 +9,9 @@ namespace phial::headless
 
 ScriptedNetClient::ScriptedNetClient(std::shared_ptr<ScriptedNetwork> network,
                                      std::shared_ptr<EventPump> pump)
-    : network_(std::move(network)), pump_(std::move(pump))
+    : network_(std::move(network)), pump_(std::move(pump)),
+      messages_(network_->messages_.connect(
+          [this](const String& text, bool& rHandled) { rHandled = receive(text) || rHandled; }))
 {
 }
 
@@ -42,13 +44,18 @@ String ScriptedNetClient::Request(StringView pMessage, StringView pIP, std::int3
     const String message(pMessage);
     network_->requests_.push_back(
         {message, String(pIP), pPort, options_.ConnectTimeout, options_.ResponseTimeout});
+    const double timeout = options_.ResponseTimeout;
     const auto answer = network_->answers_ ? network_->answers_(message) : std::nullopt;
     if (!pWait) {
         return {};
     }
-    if (!answer) {
-        pump_->pumpFor(options_.ResponseTimeout);
+    const double delay = network_->answerDelay_;
+    if (!answer || delay > timeout) {
+        pump_->pumpFor(timeout);
         return String(pTimeoutAnswer);
+    }
+    if (delay > 0) {
+        pump_->pumpFor(delay);
     }
     return *answer;
 }

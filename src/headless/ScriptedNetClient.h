@@ -32,6 +32,16 @@ public:
 
     /// At first nobody answers.
     void answerWith(Answers answers) { answers_ = std::move(answers); }
+    /// Answers come so many seconds after their requests from now on, or from within the function for its own
+    /// answer on. One that would come after the response time-out does not come.
+    void answerAfter(double seconds) { answerDelay_ = seconds; }
+    /// Sends a message to every client that receives; gives whether one has handled it.
+    bool send(const String& text) const
+    {
+        bool handled = false;
+        messages_.emit(text, handled);
+        return handled;
+    }
     /// Whether `OpenPort` raises an error from now on.
     void refusePorts(bool refuse) { refusePorts_ = refuse; }
 
@@ -44,6 +54,8 @@ private:
     friend class ScriptedNetClient;
 
     Answers answers_;
+    double answerDelay_ = 0;
+    Event<const String&, bool& /*rHandled*/> messages_;
     bool refusePorts_ = false;
     std::vector<SentRequest> requests_;
     std::vector<std::int32_t> openedPorts_;
@@ -74,6 +86,7 @@ private:
     std::shared_ptr<EventPump> pump_;
     CoreNetOptions options_;
     bool receiving_ = false;
+    Connection messages_;
 };
 
 } // namespace phial::headless

@@ -71,6 +71,22 @@ bool isNoAnswer(const Variant& answer)
     return answer.isEmpty() || answer == Variant(u"") || answer == Variant(Refusal);
 }
 
+/// An answer as a number, 0 for what is none.
+double asNumber(const Variant& answer)
+{
+    double number = 0;
+    ignoringErrors([&] { number = answer.isText() ? numberAtStart(answer.text()).value : answer.toReal(); });
+    return number;
+}
+
+/// An answer as a text, empty for what has none.
+String asText(const Variant& answer)
+{
+    String text;
+    ignoringErrors([&] { text = answer.toText(); });
+    return text;
+}
+
 /// Sets a flag for as long as it lives.
 class RaisedFlag
 {
@@ -257,7 +273,7 @@ void cls_AppServer::tryLogon()
     }
     ignoringErrors([&] {
         explain(isRight ? u"SERVER:CONNECT Login with errors: " + *reply.error
-                        : u"SERVER:CONNECT Incorrect logon answer received: " + reply.value.toText());
+                        : u"SERVER:CONNECT Incorrect logon answer received: " + asText(reply.value));
     });
 }
 
@@ -275,7 +291,7 @@ void cls_AppServer::tryLogonOnceMore()
 
 void cls_AppServer::welcome()
 {
-    const String message = CONFIG()->SETTINGS()->Get(u"WELCOMEMESSAGE").toText();
+    const String message = asText(CONFIG()->SETTINGS()->Get(u"WELCOMEMESSAGE"));
     if (!message.empty()) {
         coreRoot().CoreDialogs().Info(message, u"Du spielst Online!",
                                       u"Ico\\32\\Computer\\Signs\\Information.ico");
@@ -454,7 +470,7 @@ bool cls_AppServer::ALLOWED(bool pShowInfo)
     if (isNoAnswer(mode)) {
         return refuse(u"Der Master antwortet leider nicht!");
     }
-    if (numberAtStart(mode.toText()).value == 0) {
+    if (asNumber(mode) == 0) {
         return refuse(u"Am Master wurde noch keine Lern-App ausgewählt. Bitte warte, bis eine Lern-App "
                       u"ausgewählt wurde!");
     }
@@ -463,7 +479,7 @@ bool cls_AppServer::ALLOWED(bool pShowInfo)
         return refuse(u"Der Master antwortet nicht");
     }
     const std::shared_ptr<cls_AppConfig>& app = QVAPP()->CONFIG();
-    const String name = upperCase(chosen.toText());
+    const String name = upperCase(asText(chosen));
     if (name == upperCase(app->IDENT()) || name == upperCase(app->NAME())) {
         return true;
     }
