@@ -3,6 +3,7 @@
 #include "app/Settings.h"
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
+#include "app/cls_AppURL.h"
 #include "app/cls_AppUser.h"
 #include "app/sys_Global.h"
 #include "core/Arithmetic.h"
@@ -20,6 +21,7 @@
 #include "core/RandomSource.h"
 #include "core/RuntimeError.h"
 #include "core/SessionState.h"
+#include "server/OfflineEvents.h"
 #include "server/WireText.h"
 #include "server/cls_AppServerConfig.h"
 
@@ -446,6 +448,11 @@ void cls_AppServer::ACTION(StringView pAction, const CoreParameters* pAdditional
     const CoreParameters none;
     const CoreParameters& additional = pAdditional != nullptr ? *pAdditional : none;
     if (!online_ && !CONNECT()) {
+        if (!offlineEvents_) {
+            offlineEvents_ =
+                std::make_unique<OfflineEvents>(QVAPP()->URL()->DATAHIGHSCORES() + u"event.qv-log");
+        }
+        offlineEvents_->add(pAction, additional);
         return;
     }
     const CoreMachine& machine = coreRoot().CoreSystem().CoreMachine();

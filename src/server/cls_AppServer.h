@@ -13,6 +13,7 @@ namespace phial
 
 class CoreNetClient;
 class CoreParameters;
+class OfflineEvents;
 class cls_AppServerConfig;
 
 /// The client of the classroom's master. Every operation degrades to a local default: without a master
@@ -56,7 +57,7 @@ public:
 
     /// A property of the master, or the default.
     Variant SETTING(StringView pSettingName, const Variant& pDefaultValue);
-    /// Records an event at the master, or on this computer.
+    /// Records an event at the master, or without one in the file "event.qv-log" beside the highscores.
     void ACTION(StringView pAction, const CoreParameters* pAdditional = nullptr);
     /// A request with its answer; empty without one.
     Variant REQUEST(StringView pModule, StringView pCmd, StringView pPackage = {});
@@ -102,6 +103,7 @@ private:
     Connection received_;
     String lastAnswer_;
     NetLog log_;
+    std::unique_ptr<OfflineEvents> offlineEvents_;
     bool connecting_ = false;
     bool online_ = false;
     bool offlineFixed_ = false;
