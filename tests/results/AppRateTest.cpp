@@ -11,6 +11,7 @@
 #include "results/cls_DataScores.h"
 #include "server/cls_AppServer.h"
 #include "support/AppSession.h"
+#include "support/ChildProgram.h"
 #include "support/Raises.h"
 
 namespace phial
@@ -336,6 +337,20 @@ TEST_F(AppRateTest, AnEmptyAnswerLeavesTheHighscoreEmpty)
 {
     logOn([](const String&) { return String(u"008:"); });
     EXPECT_EQ(rate().HIGHSCORE()->COUNT(), 0);
+}
+
+TEST_F(AppRateTest, ProgramsThatSubmitAtTheSameTimeLoseNoEntry)
+{
+    constexpr int Rounds = 40;
+    std::vector<std::unique_ptr<test::ChildProgram>> programs;
+    for (const char* name : {"Ada", "Ben", "Cem"}) {
+        programs.push_back(std::make_unique<test::ChildProgram>(
+            PHIAL_SUBMITTER, std::vector<std::string>{toUtf8(path(u"")), name, std::to_string(Rounds)}));
+    }
+    for (const auto& program : programs) {
+        EXPECT_EQ(program->finish(), 0);
+    }
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr").COUNT(), 3 * Rounds);
 }
 
 /// A certificate form with one field a text, the first being `Title`.
