@@ -36,15 +36,19 @@ protected:
 
     static cls_AppRate& rate() { return *QVAPP()->RATE(); }
 
-    /// Starts a master that answers log-ons, and other messages as told, and logs on to it.
-    void logOn(headless::ScriptedNetwork::Answers answers)
+    /// Starts a master that takes log-ons and answers everything else with that text, and logs on to it.
+    void logOn(const String& answer)
     {
         QVAPP()->CONFIG()->PARAMETERS(std::make_shared<CoreParameters>());
-        outside.network().answerWith([answers = std::move(answers)](const String& message) {
-            return message.starts_with(u"SERVER::LOGON") ? String(u"008:LOGON:OK") : answers(message);
-        });
+        answers(answer);
         QVAPP()->SERVER()->INIT();
         ASSERT_TRUE(QVAPP()->SERVER()->CONNECT());
+    }
+    void answers(const String& text)
+    {
+        outside.network().answerWith([text](const String& message) {
+            return message.starts_with(u"SERVER::LOGON") ? String(u"008:LOGON:OK") : u"008:" + text;
+        });
     }
     String lastMessage() { return outside.network().requests().back().message; }
 
@@ -266,7 +270,7 @@ TEST_F(AppRateTest, HighscoreOfThisComputerIsEmptyWithoutAFile)
 
 TEST_F(AppRateTest, TheMasterGetsResultAndHighscoreOfASubmission)
 {
-    logOn([](const String&) { return String(u"008:3"); });
+    logOn(u"3");
     QVAPP()->USER()->SCREENNAME(u"Mia");
     outside.dialogs().expect(Box::Info);
     CoreParameters more;
@@ -284,7 +288,7 @@ TEST_F(AppRateTest, TheMasterGetsResultAndHighscoreOfASubmission)
 
 TEST_F(AppRateTest, WithoutAdditionalValuesTheMasterGetsAnEmptyList)
 {
-    logOn([](const String&) { return String(u"008:OK"); });
+    logOn(u"OK");
     rate().RESULT(1, 2, u"Salze");
     EXPECT_EQ(lastMessage(), u"RESULTS::SUBMIT::" +
                                  CoreValuePacker::Pack({1.0, 2.0, u"Salze", CoreParameters().Pack(),
@@ -293,32 +297,29 @@ TEST_F(AppRateTest, WithoutAdditionalValuesTheMasterGetsAnEmptyList)
 
 TEST_F(AppRateTest, AMastersOkAloneOrBehindAColonIsNotShown)
 {
-    String answer = u"008:OK";
-    logOn([&answer](const String&) { return answer; });
+    logOn(u"OK");
     EXPECT_EQ(rate().SUBMIT(7, 10), 0);
-    answer = u"008:DONE:OK";
+    answers(u"DONE:OK");
     EXPECT_EQ(rate().SUBMIT(7, 10), 0);
 }
 
 TEST_F(AppRateTest, AMastersRefusalIsComforted)
 {
-    String answer = u"008:-1";
-    logOn([&answer](const String&) { return answer; });
+    logOn(u"-1");
     EXPECT_EQ(submit(7), -1);
     expectMessage(u"Info", u"Leider war das nichts! \rFür die Bestenliste hat DAS nicht gereicht!");
-    answer = u"008:";
+    answers(u"");
     EXPECT_EQ(submit(7), 0);
     expectMessage(u"Info", u"Leider war das nichts! \rDu warst schon besser!");
 }
 
 TEST_F(AppRateTest, AMastersRankIsTheNumberAtItsBeginning)
 {
-    String answer = u"008:2,5";
-    logOn([&answer](const String&) { return answer; });
+    logOn(u"2,5");
     EXPECT_EQ(submit(7), 2);
-    answer = u"008:12. Platz";
+    answers(u"12. Platz");
     EXPECT_EQ(submit(7), 12);
-    answer = u"008:many";
+    answers(u"many");
     EXPECT_EQ(submit(7), 0);
 }
 
@@ -326,22 +327,20 @@ TEST_F(AppRateTest, TheMastersHighscoreComesAsOneText)
 {
     cls_DataScores scores;
     scores.ADD(5, 10, u"");
-    logOn([&scores](const String& message) {
-        EXPECT_EQ(message, u"SALTS::GET::");
-        return u"008:" + scores.DATA()->Pack();
-    });
+    logOn(scores.DATA()->Pack());
     EXPECT_EQ(rate().HIGHSCORE(u"SALTS")->ITEM(1)->POINTS(), 5);
+    EXPECT_EQ(lastMessage(), u"SALTS::GET::");
 }
 
 TEST_F(AppRateTest, AnEmptyAnswerLeavesTheHighscoreEmpty)
 {
-    logOn([](const String&) { return String(u"008:"); });
+    logOn(u"");
     EXPECT_EQ(rate().HIGHSCORE()->COUNT(), 0);
 }
 
 TEST_F(AppRateTest, ProgramsThatSubmitAtTheSameTimeLoseNoEntry)
 {
-    constexpr int Rounds = 40;
+    constexpr int Rounds = 15;
     std::vector<std::unique_ptr<test::ChildProgram>> programs;
     for (const char* name : {"Ada", "Ben", "Cem"}) {
         programs.push_back(std::make_unique<test::ChildProgram>(

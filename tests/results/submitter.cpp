@@ -22,7 +22,6 @@ int main(int argc, char** argv)
     Platform platform = headless::HeadlessPlatform(folder).platform();
     platform.clock.reset(); // locks are waited for in real time
     platform.files.reset();
-    platform.records.reset();
     const Session session(platform);
     QVAPP()->URL()->DATAHIGHSCORES(folder);
     QVAPP()->USER()->SCREENNAME(fromUtf8(argv[2]));

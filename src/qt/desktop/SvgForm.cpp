@@ -54,6 +54,14 @@ struct Unit {
 constexpr std::array<Unit, 7> Units{
     {{"px", 1}, {"pt", 96 / 72.0}, {"pc", 16}, {"mm", 96 / 25.4}, {"cm", 96 / 2.54}, {"in", 96}, {"", 1}}};
 
+std::optional<double> number(const QString& text)
+{
+    bool isNumber = false;
+    const double value = text.toDouble(&isNumber);
+    return isNumber && std::isfinite(value) && std::abs(value) <= MaxLength ? std::optional(value)
+                                                                            : std::nullopt;
+}
+
 /// A length such as "12", "12px" or "4.5mm" in pixels of 96 to an inch; of a list the first.
 std::optional<double> length(const QString& text)
 {
@@ -62,10 +70,8 @@ std::optional<double> length(const QString& text)
         if (!first.endsWith(QLatin1String(unit.name))) {
             continue;
         }
-        bool isNumber = false;
-        const double value = first.chopped(static_cast<qsizetype>(qstrlen(unit.name))).toDouble(&isNumber);
-        if (isNumber && std::isfinite(value) && std::abs(value) <= MaxLength) {
-            return value * unit.pixels;
+        if (const auto value = number(first.chopped(static_cast<qsizetype>(qstrlen(unit.name))))) {
+            return *value * unit.pixels;
         }
     }
     return std::nullopt;
@@ -119,17 +125,16 @@ Vertical verticalOf(const QString& text)
 
 double lineHeightOf(const QString& text, const SvgTextStyle& style)
 {
-    bool isNumber = false;
+    const auto bounded = [](double factor) { return std::clamp(factor, 0.5, 4.0); };
     if (text.endsWith(QChar(u'%'))) {
-        const double percent = text.chopped(1).toDouble(&isNumber);
-        return isNumber ? std::clamp(percent / 100, 0.5, 4.0) : style.lineHeight;
+        const auto percent = number(text.chopped(1));
+        return percent ? bounded(*percent / 100) : style.lineHeight;
     }
-    const double factor = text.toDouble(&isNumber);
-    if (isNumber) {
-        return std::clamp(factor, 0.5, 4.0);
+    if (const auto factor = number(text)) {
+        return bounded(*factor);
     }
     const auto pixels = length(text);
-    return pixels && style.size > 0 ? std::clamp(*pixels / style.size, 0.5, 4.0) : style.lineHeight;
+    return pixels ? bounded(*pixels / style.size) : style.lineHeight;
 }
 
 /// Takes over what an element states of a text's look.
@@ -153,7 +158,7 @@ void applyProperties(SvgTextStyle& style, const Properties& stated)
     });
     with("fill", [&](const QString& value) { style.fill = value; });
     with("fill-opacity",
-         [&](const QString& value) { style.opacity = std::clamp(value.toDouble(), 0.0, 1.0); });
+         [&](const QString& value) { style.opacity = std::clamp(number(value).value_or(1), 0.0, 1.0); });
     with("text-align", [&](const QString& value) { style.align = alignOf(value); });
     with("text-anchor", [&](const QString& value) { style.align = alignOf(value); });
     with("display-align", [&](const QString& value) { style.vertical = verticalOf(value); });
