@@ -5,6 +5,7 @@
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
 #include "gallery/GalleryFont.h"
+#include "server/frm_NetMonitor.h"
 #include "visual/ctl_Button.h"
 #include "visual/ctl_Label.h"
 
@@ -137,6 +138,47 @@ Exhibit about()
              sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); })}};
 }
 
+/// What goes over the wire when a pupil logs on and hands in a result.
+std::shared_ptr<TrafficLog> sampleTraffic()
+{
+    constexpr Moment Start{45292.375};
+    constexpr double Second = 1.0 / 86400;
+    constexpr StringView Master = u"192.168.1.20:10049";
+    const auto traffic = std::make_shared<TrafficLog>();
+    const auto add = [&](double seconds, TrafficKind kind, StringView text) {
+        traffic->add(Moment{Start.days + seconds * Second}, kind, Master, text);
+    };
+    add(0, TrafficKind::Note, u"verbunden|connected");
+    add(0, TrafficKind::Sent, u"SERVER::LOGON::Anna");
+    add(0, TrafficKind::Received, u"008:LOGON:OK");
+    add(2, TrafficKind::Sent, u"PROPERTIES::GET::WELCOMEMESSAGE");
+    add(2, TrafficKind::Received, u"008:Willkommen im Chemieraum!");
+    add(64, TrafficKind::Sent,
+        u"HIGHSCORE::SUBMIT::QV1;7;D1=8;D2=10;T4=Salz;T6=QV1;0;;T4=Anna;T4=PC07;T5=anna7;");
+    add(64, TrafficKind::Received, u"008:3");
+    add(300, TrafficKind::Note, u"von der Gegenseite getrennt|closed by the other end");
+    return traffic;
+}
+
+ObjectPtr buildMonitor(Stage& stage)
+{
+    putNote(stage, u"Der Knopf unten öffnet das Fenster, wie es die Netzwerk-Verbindung eines Programms tut.|"
+                   u"The button below opens the window, as a program's network connection does.");
+    const auto monitor = std::make_shared<frm_NetMonitor>(sampleTraffic());
+    stage.atEnd([monitor] { monitor->form().discard(); });
+    return monitor->form().shared_from_this();
+}
+
+Exhibit monitor()
+{
+    return {Group::Windows,
+            u"frm_NetMonitor",
+            u"Zeigt, was mit dem Master ausgetauscht wird.|Shows what is exchanged with the master.",
+            buildMonitor,
+            {sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+             sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); })}};
+}
+
 /// A way to open a box: gives what the user has answered.
 using Ask = String (*)(CoreDialogs&);
 
@@ -242,7 +284,7 @@ std::vector<Exhibit> askingDialogs()
 
 std::vector<Exhibit> windowExhibits()
 {
-    std::vector<Exhibit> all{form(), fade(), about()};
+    std::vector<Exhibit> all{form(), fade(), about(), monitor()};
     for (auto section : {tellingDialogs, askingDialogs}) {
         std::ranges::move(section(), std::back_inserter(all));
     }
