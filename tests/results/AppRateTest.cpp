@@ -6,6 +6,7 @@
 #include "core/CoreParameters.h"
 #include "core/CoreValuePacker.h"
 #include "core/RuntimeError.h"
+#include "headless/Hand.h"
 #include "results/Mark.h"
 #include "results/cls_AppRate.h"
 #include "results/cls_DataScores.h"
@@ -13,6 +14,8 @@
 #include "support/AppSession.h"
 #include "support/ChildProgram.h"
 #include "support/Raises.h"
+#include "visual/Form.h"
+#include "visual/ctl_CmdBar.h"
 
 namespace phial
 {
@@ -266,6 +269,78 @@ TEST_F(AppRateTest, HighscoreOfThisComputerIsEmptyWithoutAFile)
     EXPECT_EQ(rate().HIGHSCORE()->COUNT(), 0);
     fill({5, 6}, u"SALTS");
     EXPECT_EQ(rate().HIGHSCORE(u"SALTS")->COUNT(), 2);
+}
+
+/// The list of this computer in its window, which a test plays.
+class LocalListTest : public AppRateTest
+{
+protected:
+    void show(std::function<void(Form&)> pupil)
+    {
+        outside.visual().onModal(u"frm_DialogHighscore", std::move(pupil));
+        rate().HIGHSCORELIST(u"Bestenliste", 1);
+    }
+    static void click(Form& form, StringView command)
+    {
+        headless::clickButton(*form.control<ctl_CmdBar>(u"bar_Buttons"), command);
+    }
+    std::int32_t storedCount() { return stored(u"HIGHSCORE.qv-hsr").COUNT(); }
+};
+
+TEST_F(LocalListTest, AListThatIsOnlyLookedAtIsSavedAgain)
+{
+    show([](Form& form) { click(form, u"DIALOG.OK();"); });
+    EXPECT_EQ(storedCount(), 0);
+    fill({5, 6});
+    show([](Form& form) { click(form, u"DIALOG.OK();"); });
+    EXPECT_EQ(storedCount(), 2);
+}
+
+TEST_F(LocalListTest, AResetTakesEffectInTheFile)
+{
+    fill({5, 6});
+    outside.dialogs().expectYesNo(DialogAnswer::Yes);
+    show([](Form& form) { click(form, u"DIALOG.RESET();"); });
+    EXPECT_EQ(storedCount(), 0);
+}
+
+TEST_F(LocalListTest, WhatAnotherProgramEntersWhileTheWindowIsOpenStays)
+{
+    fill({5, 6});
+    show([this](Form& form) {
+        fill({5, 6, 7});
+        click(form, u"DIALOG.OK();");
+    });
+    EXPECT_EQ(storedCount(), 3);
+}
+
+TEST_F(LocalListTest, NoLockIsHeldWhileTheWindowIsOpen)
+{
+    fill({5});
+    show([this](Form& form) {
+        EXPECT_FALSE(folder.has("HIGHSCORE.qv-hsr.lock"));
+        click(form, u"DIALOG.OK();");
+    });
+}
+
+TEST_F(LocalListTest, AFailedSaveOfTheListIsNotReported)
+{
+    fill({5});
+    show([this](Form& form) {
+        outside.files().failChanges();
+        click(form, u"DIALOG.OK();");
+    });
+    outside.files().repair();
+    EXPECT_EQ(storedCount(), 1);
+}
+
+TEST_F(LocalListTest, AListOfTheMasterIsNotSavedHere)
+{
+    cls_DataScores scores;
+    scores.ADD(5, 10, u"");
+    logOn(scores.DATA()->Pack());
+    show([](Form& form) { click(form, u"DIALOG.OK();"); });
+    EXPECT_FALSE(folder.has("HIGHSCORE.qv-hsr"));
 }
 
 TEST_F(AppRateTest, TheMasterGetsResultAndHighscoreOfASubmission)
