@@ -258,6 +258,33 @@ TEST_F(NativeControlsTest, ACommandBarReportsTheKeyOfItsButton)
     EXPECT_EQ(keys, (std::vector<String>{u"DIALOG.CANCEL();", u"DIALOG.OK();"}));
 }
 
+TEST_F(NativeControlsTest, AHighCommandBarHasButtonsForFingersAsFarAsThereIsRoom)
+{
+    const auto bar = shown<ctl_CmdBar>(u"bar_Commands");
+    const auto narrowest = [&] {
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QApplication::processEvents();
+        int width = widgetOf(*bar).width();
+        for (const auto* button : widgetOf(*bar).findChildren<QPushButton*>()) {
+            width = std::min(width, button->width());
+        }
+        return width;
+    };
+    bar->Move(0, 0, 400, 30);
+    bar->BUTTONS()->Add(u"DIALOG.OK();", u"OK");
+    EXPECT_LT(narrowest(), 60);
+    bar->Move(0, 0, 400, 72);
+    EXPECT_EQ(narrowest(), 120);
+    for (int more = 0; more < 4; ++more) {
+        bar->BUTTONS()->Add(u"DIALOG.MORE();", u"+");
+    }
+    EXPECT_GE(narrowest(), 60);
+    const auto buttons = widgetOf(*bar).findChildren<QPushButton*>();
+    for (const auto* button : buttons) {
+        EXPECT_TRUE(widgetOf(*bar).rect().contains(button->geometry()));
+    }
+}
+
 TEST_F(NativeControlsTest, DisabledAndHiddenFollowTheModel)
 {
     const auto field = shown<TextBox>(u"txt_Input");

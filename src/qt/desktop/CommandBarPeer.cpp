@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace phial::qt
 {
 
@@ -16,6 +18,11 @@ namespace
 
 constexpr int Margin = 6;
 constexpr int Spacing = 8;
+
+// A bar as high as a finger needs has buttons as wide and large as that.
+constexpr int TouchHeight = 48;
+constexpr double TouchProportion = 2; // of a button's width to its height
+constexpr double TouchTextSize = 11;  // points
 
 void showButton(QPushButton& widget, const CommandBarButton& button)
 {
@@ -48,6 +55,9 @@ CommandBarPeer::CommandBarPeer(std::shared_ptr<CommandBar> model, QWidget& bar)
 
 void CommandBarPeer::show(ControlAspect aspect)
 {
+    if (aspect == ControlAspect::Geometry) {
+        sizeButtons();
+    }
     if (aspect != ControlAspect::Items) {
         return;
     }
@@ -56,6 +66,22 @@ void CommandBarPeer::show(ControlAspect aspect)
     }
     for (std::size_t at = 0; at < buttons_.size(); ++at) {
         showButton(*buttons_[at], *model_->BUTTONS()->Item(static_cast<std::int32_t>(at) + 1));
+    }
+}
+
+void CommandBarPeer::sizeButtons()
+{
+    const int height = bar_.height() - 2 * Margin;
+    if (height < TouchHeight || buttons_.empty()) {
+        return;
+    }
+    const int share = (bar_.width() - 2 * Margin) / static_cast<int>(buttons_.size()) - Spacing;
+    const int width = std::min(static_cast<int>(height * TouchProportion), share);
+    for (QPushButton* button : buttons_) {
+        QFont font = button->font();
+        font.setPointSizeF(TouchTextSize);
+        button->setFont(font);
+        button->setMinimumWidth(width);
     }
 }
 
@@ -75,6 +101,7 @@ void CommandBarPeer::makeButtons()
         row_->addWidget(button);
         buttons_.push_back(button);
     }
+    sizeButtons();
     bar_.setFocusProxy(buttons_.empty() ? nullptr : buttons_.front());
 }
 

@@ -23,6 +23,7 @@ private:
     void show(ControlAspect aspect) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void makeButtons();
+    void sizeButtons();
     void moveFocus(const QObject* from, int step);
 
     std::shared_ptr<CommandBar> model_;
