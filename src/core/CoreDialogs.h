@@ -28,8 +28,10 @@ public:
     /// A box for a long text, with a way to scroll and to copy it.
     virtual void Text(StringView pText, StringView pTitle = {}) = 0;
 
-    /// Asks for a file to write. The filter has pairs of name and pattern, such as "Textdatei|*.txt". Gives
-    /// the chosen path as the system writes paths, or the empty text when the user cancels.
+    /// Asks for a file to write, beginning in that folder. A name behind the folder's last backslash is
+    /// proposed, unless it has wildcards. The filter has pairs of name and pattern, such as
+    /// "Textdatei|*.txt". Gives the chosen path as the system writes paths, or the empty text when the user
+    /// cancels.
     virtual String SaveFile(StringView pFolder, StringView pTitle, StringView pFilter) = 0;
 
     /// A short confirmation that goes by itself or by a click, such as "Gespeichert".

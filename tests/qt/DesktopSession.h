@@ -34,7 +34,15 @@ public:
     }
 
 protected:
-    DesktopSession() { dispatchGuard()->setReporter(fail); }
+    DesktopSession() : DesktopSession(previewAndPrint) {}
+    /// `outlet` takes what the test prints.
+    explicit DesktopSession(PrintOutlet outlet) : outlet_(std::move(outlet))
+    {
+        dispatchGuard()->setReporter(fail);
+    }
+
+    /// The scripted part of the outside.
+    headless::HeadlessPlatform& outside() { return outside_; }
 
     static QWidget& widgetOf(const Form& form) { return *qt::widgetOf(form.hWnd()); }
     static QWidget& widgetOf(const Control& control) { return *qt::widgetOf(control.hWnd()); }
@@ -55,12 +63,13 @@ private:
     phial::Platform platform()
     {
         phial::Platform platform = outside_.platform();
-        platform.visual = std::make_shared<QtVisualHost>();
+        platform.visual = std::make_shared<QtVisualHost>(outlet_);
         platform.pump = std::make_shared<QtEventPump>(dispatchGuard());
         platform.windows = std::make_shared<DesktopWindowOps>();
         return platform;
     }
 
+    PrintOutlet outlet_;
     test::TemporaryFolder folder_;
     headless::HeadlessPlatform outside_{folder_.path(), fail};
     SessionState session_{platform()};

@@ -147,6 +147,23 @@ TEST_F(DialogsTest, TheFileDialogGivesThePathAsTheSystemWritesIt)
     EXPECT_EQ(dialogs_.SaveFile(u"\\tmp\\", u"Speichern", u"Textdatei|*.txt"), u"");
 }
 
+TEST_F(DialogsTest, TheFileDialogProposesANameButNoPattern)
+{
+    const auto proposed = [this](StringView place) {
+        QString name;
+        whenShown([&](QDialog& box) {
+            name = box.findChild<QLineEdit*>()->text();
+            EXPECT_EQ(dynamic_cast<QFileDialog&>(box).directory(), QDir::root());
+            box.reject();
+        });
+        dialogs_.SaveFile(place, u"Speichern", u"Textdatei|*.txt");
+        return name;
+    };
+    EXPECT_EQ(proposed(u"\\Klasse 9.txt"), QStringLiteral("Klasse 9.txt"));
+    EXPECT_EQ(proposed(u"\\*.txt"), QString());
+    EXPECT_EQ(proposed(u"\\"), QString());
+}
+
 TEST_F(DialogsTest, TheFileDialogIsLabelledInTheLanguageOfTheSession)
 {
     SessionState::current().locale().language = German;

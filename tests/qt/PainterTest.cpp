@@ -1,6 +1,7 @@
 #include "DesktopSession.h"
 #include "qt/desktop/PictureBackend.h"
 #include "qt/desktop/PrinterBackend.h"
+#include "qt/desktop/PrinterChoice.h"
 #include "visual/DrawDevice.h"
 
 #include <QFile>
@@ -271,11 +272,8 @@ TEST_F(PainterTest, PagesOfADocumentAreWritten)
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("page.pdf"));
     {
-        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-        printer->setOutputFormat(QPrinter::PdfFormat);
-        printer->setOutputFileName(file);
-        const auto backend =
-            std::make_shared<PrinterBackend>(std::move(printer), std::make_shared<QtTextMetrics>());
+        const auto printer = pdfFile(file, {});
+        const auto backend = std::make_shared<PrinterBackend>(*printer, std::make_shared<QtTextMetrics>());
         DrawDevice device(backend, DrawErrors::Raise);
         device.ScaleMode(ScaleUnit::Millimetres);
         EXPECT_GT(device.ScaleWidth(), 150);

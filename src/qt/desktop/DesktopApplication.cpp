@@ -53,6 +53,19 @@ std::shared_ptr<CoreDialogs> makeDialogs(bool forShots)
     return std::make_shared<DesktopDialogs>();
 }
 
+/// Where pictures are taken nothing is printed; the preview appears only to be taken itself.
+PrintOutlet makePrintOutlet(bool forShots)
+{
+    if (!forShots) {
+        return previewAndPrint;
+    }
+    return [](const PrintJob& job) {
+        if (ShotBook::isTakingModal()) {
+            previewAndPrint(job);
+        }
+    };
+}
+
 // Words with blanks get their quotes back, which the shell has taken.
 QString quoted(const QString& word)
 {
@@ -84,7 +97,7 @@ Platform DesktopApplication::platform() const
     platform.cursors = std::make_shared<DesktopCursors>();
     platform.textBoxes = std::make_shared<DesktopTextBoxes>();
     platform.shell = std::make_shared<DesktopShell>();
-    platform.visual = std::make_shared<QtVisualHost>();
+    platform.visual = std::make_shared<QtVisualHost>(makePrintOutlet(shotsFolder().has_value()));
     platform.newFormDocument = [] { return newSvgFormDocument(); };
     platform.programTitle = title_;
     return platform;

@@ -1,8 +1,9 @@
 #include "qt/desktop/DesktopDialogs.h"
 
+#include "core/CorePathText.h"
 #include "core/NativePath.h"
-#include "core/ProgramTitle.h"
 #include "qt/base/QtText.h"
+#include "qt/desktop/BoxParts.h"
 #include "qt/desktop/SystemBox.h"
 #include "qt/desktop/Theme.h"
 #include "qt/desktop/Toast.h"
@@ -11,6 +12,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -28,12 +30,6 @@ namespace
 constexpr QSize TextBoxSize(560, 420);
 constexpr int InputWidth = 360;
 constexpr int IconSize = 48;
-constexpr double TextSize = 10; // points: larger than in forms, since a box stands alone
-
-struct BoxText {
-    const char16_t* german;
-    const char16_t* english;
-};
 
 constexpr BoxText Ok{u"OK", u"OK"};
 constexpr BoxText Yes{u"Ja", u"Yes"};
@@ -45,32 +41,10 @@ constexpr BoxText LookIn{u"Ordner:", u"Folder:"};
 constexpr BoxText FileName{u"Dateiname:", u"File name:"};
 constexpr BoxText FileType{u"Dateityp:", u"File type:"};
 
-QString inLanguage(const BoxText& text)
-{
-    return toQt(isGerman() ? text.german : text.english);
-}
-
-QString titleOr(StringView title)
-{
-    return toQt(title.empty() ? programTitle() : String(title));
-}
-
-/// Runs the box until the user ends it.
-int run(QDialog& box)
-{
-    QFont font = box.font();
-    font.setPointSizeF(TextSize);
-    for (QWidget* part : box.findChildren<QWidget*>()) {
-        part->setFont(font);
-    }
-    const SystemBox running;
-    return box.exec();
-}
-
 QPushButton* addButton(QMessageBox& box, const BoxText& text, QMessageBox::ButtonRole role)
 {
     QPushButton* button = box.addButton(inLanguage(text), role);
-    button->setMinimumHeight(button->sizeHint().height() + 8);
+    enlarge(*button);
     return button;
 }
 
@@ -85,15 +59,7 @@ void showMessage(QMessageBox& box)
 {
     QPushButton* ok = addButton(box, Ok, QMessageBox::AcceptRole);
     markAccent(*ok, true);
-    run(box);
-}
-
-QPushButton* closingButton(QDialog& dialog, const BoxText& text, void (QDialog::*end)())
-{
-    auto* button = new QPushButton(inLanguage(text), &dialog);
-    button->setMinimumHeight(button->sizeHint().height() + 8);
-    QObject::connect(button, &QPushButton::clicked, &dialog, end);
-    return button;
+    runBox(box);
 }
 
 // Where the desktop brings no dialog of its own, the toolkit's speaks English unless it is told.
@@ -104,6 +70,24 @@ void label(QFileDialog& dialog)
     dialog.setLabelText(QFileDialog::FileType, inLanguage(FileType));
     dialog.setLabelText(QFileDialog::Accept, inLanguage(Save));
     dialog.setLabelText(QFileDialog::Reject, inLanguage(Cancel));
+}
+
+void beginAt(QFileDialog& dialog, StringView place)
+{
+    if (place.empty()) {
+        return;
+    }
+    const QString whole = toQt(nativePath(place).u16string());
+    if (QFileInfo(whole).isDir()) {
+        dialog.setDirectory(whole);
+        return;
+    }
+    if (const String folder = CorePathText::Folder(place); !folder.empty()) {
+        dialog.setDirectory(toQt(nativePath(folder).u16string()));
+    }
+    if (const String name = CorePathText::FileName(place); name.find_first_of(u"*?") == String::npos) {
+        dialog.selectFile(toQt(name));
+    }
 }
 
 } // namespace
@@ -139,7 +123,7 @@ DialogAnswer DesktopDialogs::YesNo(StringView pText, StringView pTitle)
     markAccent(*yes, true);
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
-    run(box);
+    runBox(box);
     return box.clickedButton() == yes ? DialogAnswer::Yes : DialogAnswer::No;
 }
 
@@ -153,7 +137,7 @@ void DesktopDialogs::Text(StringView pText, StringView pTitle)
     text->setReadOnly(true);
     layout->addWidget(text);
     layout->addWidget(closingButton(dialog, Close, &QDialog::accept), 0, Qt::AlignRight);
-    run(dialog);
+    runBox(dialog);
 }
 
 String DesktopDialogs::SaveFile(StringView pFolder, StringView pTitle, StringView pFilter)
@@ -163,9 +147,7 @@ String DesktopDialogs::SaveFile(StringView pFolder, StringView pTitle, StringVie
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     label(dialog);
-    if (!pFolder.empty()) {
-        dialog.setDirectory(toQt(nativePath(pFolder).u16string()));
-    }
+    beginAt(dialog, pFolder);
     const QString filter = toQt(toolkitFilter(pFilter));
     dialog.setNameFilter(filter);
     const qsizetype dot = filter.indexOf(QLatin1String("*."));
@@ -173,7 +155,7 @@ String DesktopDialogs::SaveFile(StringView pFolder, StringView pTitle, StringVie
         dialog.setDefaultSuffix(
             filter.mid(dot + 2).section(QLatin1Char(')'), 0, 0).section(QLatin1Char(' '), 0, 0));
     }
-    if (run(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (runBox(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
     return systemPath(dialog.selectedFiles().constFirst().toStdU16String());
@@ -208,7 +190,7 @@ String DesktopDialogs::Input(StringView pPrompt, StringView pTitle, StringView p
     layout->addWidget(prompt);
     layout->addWidget(line);
     layout->addLayout(buttons);
-    return run(dialog) == QDialog::Accepted ? fromQt(line->text()) : String();
+    return runBox(dialog) == QDialog::Accepted ? fromQt(line->text()) : String();
 }
 
 String toolkitFilter(StringView pairs)

@@ -67,8 +67,9 @@ PainterBackend::PainterBackend(PixelSize size, double ratio, std::shared_ptr<Tex
 
 void PainterBackend::begin(QPaintDevice& device)
 {
-    painter_.begin(&device);
-    painter_.setRenderHint(QPainter::TextAntialiasing);
+    if (painter_.begin(&device)) {
+        painter_.setRenderHint(QPainter::TextAntialiasing);
+    }
 }
 
 QRect PainterBackend::snapped(const PixelRectangle& area) const

@@ -24,10 +24,10 @@ PixelSize pageSize(const QPrinter& printer)
 
 } // namespace
 
-PrinterBackend::PrinterBackend(std::unique_ptr<QPrinter> printer, std::shared_ptr<TextMetrics> metrics)
-    : PainterBackend(pageSize(*printer), ratioOf(*printer), std::move(metrics)), printer_(std::move(printer))
+PrinterBackend::PrinterBackend(QPrinter& printer, std::shared_ptr<TextMetrics> metrics)
+    : PainterBackend(pageSize(printer), ratioOf(printer), std::move(metrics)), printer_(printer)
 {
-    begin(*printer_);
+    begin(printer_);
     if (!painter().isActive()) {
         throw RuntimeError(PrinterError, u"Printer error");
     }
@@ -40,7 +40,7 @@ PrinterBackend::~PrinterBackend()
 
 void PrinterBackend::newPage()
 {
-    if (!printer_->newPage()) {
+    if (!printer_.newPage()) {
         throw RuntimeError(PrinterError, u"Printer error");
     }
 }

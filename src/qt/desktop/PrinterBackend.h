@@ -12,8 +12,8 @@ namespace phial::qt
 class PrinterBackend final : public PainterBackend
 {
 public:
-    /// Begins the document; raises 482 when the printer refuses.
-    PrinterBackend(std::unique_ptr<QPrinter> printer, std::shared_ptr<TextMetrics> metrics);
+    /// Begins the document; raises 482 when the printer refuses. The printer must outlive this object.
+    PrinterBackend(QPrinter& printer, std::shared_ptr<TextMetrics> metrics);
     ~PrinterBackend() override;
 
     PicturePtr picture() const override { return nullptr; }
@@ -24,7 +24,7 @@ public:
 private:
     void combine(Combine, const QRect&, const Drawing&) override {}
 
-    std::unique_ptr<QPrinter> printer_;
+    QPrinter& printer_;
 };
 
 } // namespace phial::qt

@@ -8,10 +8,10 @@
 #include "qt/desktop/FormWindow.h"
 #include "qt/desktop/InputCodes.h"
 #include "qt/desktop/ModalGate.h"
+#include "qt/desktop/PageRecorder.h"
 #include "qt/desktop/PictureBackend.h"
 #include "qt/desktop/PictureImage.h"
 #include "qt/desktop/PixelRatio.h"
-#include "qt/desktop/PrinterBackend.h"
 #include "qt/desktop/Theme.h"
 #include "qt/desktop/ToolkitLanguage.h"
 #include "qt/desktop/WindowHandles.h"
@@ -21,8 +21,8 @@
 #include <QEventLoop>
 #include <QImageReader>
 #include <QPageLayout>
+#include <QPageSize>
 #include <QPointer>
-#include <QPrinterInfo>
 #include <QScreen>
 
 namespace phial::qt
@@ -32,7 +32,9 @@ namespace
 {
 
 constexpr std::int32_t InvalidPicture = 481;
-constexpr std::int32_t PrinterError = 482;
+
+// Millimetres; what common printers leave blank at least.
+constexpr QMarginsF PageMargins(5, 5, 5, 5);
 
 // The focus of the active form, which need not be the desktop's active window.
 QWidget* typingTarget(const Forms& forms)
@@ -88,7 +90,10 @@ private:
     const Form& form_;
 };
 
-QtVisualHost::QtVisualHost() : gate_(std::make_unique<ModalGate>(forms())) {}
+QtVisualHost::QtVisualHost(PrintOutlet outlet)
+    : gate_(std::make_unique<ModalGate>(forms())), outlet_(std::move(outlet))
+{
+}
 
 QtVisualHost::~QtVisualHost() = default;
 
@@ -201,14 +206,11 @@ void QtVisualHost::clipboardText(const String& value)
 
 std::shared_ptr<DrawBackend> QtVisualHost::openPrinter(PageOrientation orientation, const String& title)
 {
-    if (QPrinterInfo::defaultPrinter().isNull()) {
-        throw RuntimeError(PrinterError, u"Printer error");
-    }
-    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer->setDocName(toQt(title));
-    printer->setPageOrientation(orientation == PageOrientation::Landscape ? QPageLayout::Landscape
-                                                                          : QPageLayout::Portrait);
-    return std::make_shared<PrinterBackend>(std::move(printer), metrics_);
+    const QPageLayout layout(QPageSize(QPageSize::A4),
+                             orientation == PageOrientation::Landscape ? QPageLayout::Landscape
+                                                                       : QPageLayout::Portrait,
+                             PageMargins, QPageLayout::Millimeter);
+    return std::make_shared<PageRecorder>(toQt(title), layout, metrics_, outlet_);
 }
 
 } // namespace phial::qt

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Event.h"
+#include "qt/desktop/PrintPreview.h"
 #include "qt/desktop/QtTextMetrics.h"
 #include "visual/VisualHost.h"
 
@@ -17,7 +18,8 @@ class ModalGate;
 class QtVisualHost final : public VisualHost
 {
 public:
-    QtVisualHost();
+    /// `outlet` takes what is printed: each document when it is finished.
+    explicit QtVisualHost(PrintOutlet outlet = previewAndPrint);
     ~QtVisualHost() override;
 
     TextMetrics& metrics() override { return *metrics_; }
@@ -42,6 +44,7 @@ private:
     std::shared_ptr<QtTextMetrics> metrics_ = std::make_shared<QtTextMetrics>();
     std::unique_ptr<ModalGate> gate_;
     std::map<const Form*, QEventLoop*> loops_;
+    PrintOutlet outlet_;
     Connection themeChanged_;
     bool themed_ = false;
     bool pointerSet_ = false;
