@@ -27,6 +27,8 @@ struct Sample {
     std::function<void(phial::Object&)> apply;
     /// Whether it opens a modal window, and so ends only when the user has closed that.
     bool waits = false;
+    /// Whether it prints; a tour leaves it out.
+    bool prints = false;
 };
 
 /// One thing shown.

@@ -7,7 +7,6 @@
 #include "visual/VisualHost.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace gallery
 {
@@ -31,13 +30,27 @@ void takeOpenWindows(const Camera& camera, frm_Gallery& gallery, const String& n
     }
 }
 
-void tour(const Camera& camera, StringView language, std::size_t mostStates)
+/// How much of an exhibit a tour shows.
+enum class Thoroughness : std::uint8_t { EachState, FirstState };
+
+/// The first state of a window is that in which it is closed, so the second belongs to it.
+std::size_t statesShown(const Exhibit& exhibit, Thoroughness thoroughness)
+{
+    const std::size_t first = exhibit.group == Group::Windows ? 2 : 1;
+    return thoroughness == Thoroughness::EachState ? exhibit.samples.size()
+                                                   : std::min(first, exhibit.samples.size());
+}
+
+void tour(const Camera& camera, StringView language, Thoroughness thoroughness)
 {
     frm_Gallery gallery;
     gallery.Show();
     for (std::size_t exhibit = 0; exhibit < gallery.exhibits().size(); ++exhibit) {
         const auto& shown = gallery.exhibits()[exhibit];
-        for (std::size_t state = 0; state < std::min(mostStates, shown.samples.size()); ++state) {
+        for (std::size_t state = 0; state < statesShown(shown, thoroughness); ++state) {
+            if (shown.samples[state].prints) {
+                continue;
+            }
             const String name = String(shown.title) + u"-" +
                                 phial::Variant(static_cast<std::int32_t>(state + 1)).toText() + u"-" +
                                 String(language);
@@ -87,13 +100,12 @@ void tourProperties(const Camera& camera)
 
 void showEachState(const Camera& camera)
 {
-    constexpr std::size_t All = std::numeric_limits<std::size_t>::max();
     const phial::enm_LanguageC before = phial::LNG()->CURRENT();
     phial::LNG()->CURRENT(phial::ID_Language_German);
-    tour(camera, u"de", All);
+    tour(camera, u"de", Thoroughness::EachState);
     tourProperties(camera);
     phial::LNG()->CURRENT(phial::ID_Language_English);
-    tour(camera, u"en", 1);
+    tour(camera, u"en", Thoroughness::FirstState);
     phial::LNG()->CURRENT(before);
 }
 

@@ -20,8 +20,9 @@ struct Camera {
     std::function<void(phial::StringView name, const std::function<void()>& open)> takeModal;
 };
 
-/// Leads the gallery through each exhibit: in German in each of its states, in English in its first one; and
-/// through the property editor. On the open session with INIT behind it.
+/// Leads the gallery through each exhibit: in German in each of its states, in English in its first one,
+/// and windows in the one that opens them; and through the property editor. Nothing is printed. On the open
+/// session with INIT behind it.
 void showEachState(const Camera& camera);
 
 } // namespace gallery

@@ -1,7 +1,17 @@
+#include "app/cls_App.h"
+#include "app/sys_Global.h"
+#include "core/CoreDialogs.h"
+#include "core/CoreRoot.h"
 #include "core/Variant.h"
+#include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
+#include "gallery/SampleLists.h"
+#include "results/cls_AppRate.h"
+#include "results/cls_DataEvents.h"
+#include "results/cls_DataScores.h"
 #include "results/ctl_Mark.h"
+#include "results/frm_DialogHighscore.h"
 
 namespace gallery
 {
@@ -79,11 +89,97 @@ Exhibit scale()
             false};
 }
 
+/// The window at hand, without its modal wait, so that the gallery goes on.
+using ShownList = std::shared_ptr<std::unique_ptr<frm_DialogHighscore>>;
+
+constexpr std::int32_t StressedRank = 3;
+
+Sample listOf(const ShownList& shown, StringView name, std::int32_t count, bool local)
+{
+    return sample<Form>(name, [shown, count, local](Form& form) {
+        (*shown)->DialogScores(sampleScores(count));
+        (*shown)->DialogRank(StressedRank);
+        (*shown)->DialogLocal(local);
+        form.Show();
+    });
+}
+
+Exhibit highscore()
+{
+    const auto shown = std::make_shared<std::unique_ptr<frm_DialogHighscore>>();
+    const auto build = [shown](Stage& stage) -> ObjectPtr {
+        putNote(stage, u"Die Knöpfe unten öffnen das Fenster mit so vielen Einträgen.|"
+                       u"The buttons below open the window with so many entries.");
+        *shown = std::make_unique<frm_DialogHighscore>();
+        stage.atEnd([shown] { shown->reset(); });
+        return (*shown)->form().shared_from_this();
+    };
+    return {Group::Windows,
+            u"frm_DialogHighscore",
+            u"Zeigt eine Bestenliste.|Shows a list of high scores.",
+            build,
+            {sample<Form>(u"Geschlossen|Closed", [](Form&) {}), listOf(shown, u"11|11", 11, false),
+             listOf(shown, u"Leer|Empty", 0, false), listOf(shown, u"1|1", 1, false),
+             listOf(shown, u"10|10", 10, false), listOf(shown, u"20|20", 20, false),
+             listOf(shown, u"500|500", 500, false),
+             listOf(shown, u"Zum Zurücksetzen|To be reset", 10, true)}};
+}
+
+constexpr StringView Pressed = u"Die Knöpfe unten zeigen, sichern und drucken die Liste.|"
+                               u"The buttons below show, save and print the list.";
+constexpr std::int32_t Entries = 60;
+
+/// What both kinds of list can do.
+template <typename Make>
+std::vector<Sample> listActions(Make make)
+{
+    return {acting(u"Text|Text",
+                   [make] {
+                       coreRoot().CoreDialogs().Text(make(Entries)->TEXT(), say(u"Liste|List"));
+                       return String();
+                   }),
+            acting(u"Text sichern|Save text",
+                   [make] {
+                       return make(Entries)->EXPORT() ? say(u"gesichert|saved")
+                                                      : say(u"nicht gesichert|not saved");
+                   }),
+            printing(u"Drucken|Print", [make] {
+                make(Entries)->PRINTOUT(say(u"Liste der Galerie|List of the gallery"));
+                return String();
+            })};
+}
+
+Exhibit scores()
+{
+    return actionExhibit(Group::Results, u"cls_DataScores",
+                         u"Eine Bestenliste als Text und auf Papier.|A list of scores as text and on paper.",
+                         Pressed, listActions(sampleScores));
+}
+
+Exhibit events()
+{
+    return actionExhibit(Group::Results, u"cls_DataEvents",
+                         u"Ein Protokoll als Text und auf Papier.|A log as text and on paper.", Pressed,
+                         listActions(sampleEvents));
+}
+
+Exhibit rate()
+{
+    return actionExhibit(Group::Results, u"cls_AppRate", u"Druckt eine Urkunde.|Prints a certificate.",
+                         u"Der Knopf unten druckt eine Urkunde.|The button below prints a certificate.",
+                         {printing(u"Urkunde|Certificate", [] {
+                             const bool printed = QVAPP()->RATE()->PRINTCERTIFICATE(
+                                 say(u"hat die Übung zur molaren Masse\r\nmit der Note 1 abgeschlossen.|"
+                                     u"has finished the exercise on molar masses\r\nwith the mark 1."));
+                             return printed ? say(u"gedruckt|printed") : say(u"nicht gedruckt|not printed");
+                         })});
+}
+
 } // namespace
 
 std::vector<Exhibit> resultExhibits()
 {
-    return {mark(), scale()};
+    return {mark(), scale(), scores(), events(), rate(), highscore()};
 }
 
 } // namespace gallery

@@ -2,6 +2,7 @@
 #include "app/screen/frm_Fade.h"
 #include "core/CoreDialogs.h"
 #include "core/CoreRoot.h"
+#include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
 #include "gallery/GalleryFont.h"
@@ -18,16 +19,6 @@ namespace
 {
 
 constexpr std::int32_t MiddleCentre = 1;
-
-std::shared_ptr<ctl_Label> putNote(Stage& stage, StringView text)
-{
-    const auto note = stage.putMiddle<ctl_Label>({stage.size().width - 48, 120});
-    note->Font(galleryFont(12));
-    note->ForeColor(colours::Ink);
-    note->Alignment(MiddleCentre);
-    note->Caption(say(text));
-    return note;
-}
 
 /// A small window that a button closes.
 std::shared_ptr<Form> makeWindow(Stage& stage)
@@ -184,24 +175,14 @@ using Ask = String (*)(CoreDialogs&);
 
 Sample asking(StringView name, Ask ask)
 {
-    return waitingSample<ctl_Label>(name, [ask](ctl_Label& note) {
-        const String answer = ask(coreRoot().CoreDialogs());
-        note.Caption(say(u"Antwort: |Answer: ") + (answer.empty() ? u"\u2013" : answer));
-    });
+    return acting(name, [ask] { return ask(coreRoot().CoreDialogs()); });
 }
 
 Exhibit dialog(StringView title, StringView about, std::vector<Sample> asked)
 {
-    asked.insert(asked.begin(), sample<ctl_Label>(u"Geschlossen|Closed", [](ctl_Label&) {}));
-    return {Group::Windows,
-            title,
-            about,
-            [](Stage& stage) {
-                return putNote(stage,
-                               u"Die Knöpfe unten öffnen den Dialog.|The buttons below open the dialog.");
-            },
-            std::move(asked),
-            false};
+    return actionExhibit(Group::Windows, title, about,
+                         u"Die Knöpfe unten öffnen den Dialog.|The buttons below open the dialog.",
+                         std::move(asked));
 }
 
 String saidLong()
