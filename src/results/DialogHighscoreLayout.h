@@ -15,7 +15,7 @@
 namespace phial::dialog_highscore_layout
 {
 
-inline constexpr double Width = 760;
+inline constexpr double Width = 820;
 inline constexpr double Height = 566;
 inline constexpr double Margin = 24;
 inline constexpr double TableWidth = Width - 2 * Margin;
@@ -41,9 +41,9 @@ struct Column {
 inline constexpr auto Columns = std::to_array<Column>({
     {u"lab_Rank", u"Rang|Rank", 30, 54, true},
     {u"lab_Name", u"Name|Name", 100, 218, false},
-    {u"lab_Ueb", u"Übung|Exercise", 330, 158, false},
-    {u"lab_Points", u"Punkte|Points", 496, 70, true},
-    {u"lab_time", u"Zeit|Time", 586, 144, false},
+    {u"lab_Ueb", u"Übung|Exercise", 330, 204, false},
+    {u"lab_Points", u"Punkte|Points", 544, 70, true},
+    {u"lab_time", u"Zeit|Time", 632, 158, false},
 });
 
 inline constexpr auto Frame = std::to_array<LayoutItem>({

@@ -105,7 +105,20 @@ void frm_DialogHighscore::style()
         band->FillStyle(FillStyle::Solid);
         band->FillColor(row % 2 == 0 ? White : Band);
     }
+    styleColumns();
+    const auto empty = form_->control<ctl_Pannel>(u"bar_Empty");
+    empty->Font(font(14));
+    empty->ForeColor(DarkBlue);
+    empty->BackColor(White);
+    empty->BorderColor(Line);
+    more_->Font(font(11));
+    less_->Font(font(11));
+}
+
+void frm_DialogHighscore::styleColumns()
+{
     const FontPtr titleFont = font(10, true);
+    const FontPtr rowFont = font(11);
     for (const layout::Column& column : layout::Columns) {
         const auto alignment = column.right ? Alignment::Right : Alignment::Left;
         const auto title =
@@ -118,15 +131,10 @@ void frm_DialogHighscore::style()
             const auto label = form_->control<Label>(column.name, row);
             label->SingleLine(true);
             label->Alignment(alignment);
+            label->Font(rowFont);
+            label->ForeColor(Dark);
         }
     }
-    const auto empty = form_->control<ctl_Pannel>(u"bar_Empty");
-    empty->Font(font(14));
-    empty->ForeColor(DarkBlue);
-    empty->BackColor(White);
-    empty->BorderColor(Line);
-    more_->Font(font(11));
-    less_->Font(font(11));
 }
 
 void frm_DialogHighscore::connect()
@@ -260,10 +268,6 @@ void frm_DialogHighscore::stressRow(std::int32_t row, bool stressed)
     const FontPtr rowFont = font(11, stressed);
     for (const auto* labels : {&ranks_, &names_, &points_}) {
         (*labels)(row)->ForeColor(stressed ? QBColor(LightRed) : Dark);
-        (*labels)(row)->Font(rowFont);
-    }
-    for (const auto* labels : {&exercises_, &times_}) {
-        (*labels)(row)->ForeColor(Dark);
         (*labels)(row)->Font(rowFont);
     }
 }

@@ -62,6 +62,7 @@ public:
 private:
     void build();
     void style();
+    void styleColumns();
     void connect();
     void load();
     void showTitle();
