@@ -1,17 +1,17 @@
 // The power goes at every step of a save, and the folder is looked at in every state in which a disk can be
 // then.
 
-#include "core/AtomicFile.h"
 #include "core/Platform.h"
 #include "core/RecordFiles.h"
 #include "headless/CrashingFileSystem.h"
+#include "support/PowerCuts.h"
 #include "support/RandomValues.h"
 #include "support/TemporaryFolder.h"
 
 #include <algorithm>
-#include <array>
 #include <functional>
 #include <gmock/gmock.h>
+#include <set>
 
 namespace phial
 {
@@ -20,20 +20,14 @@ namespace
 
 using headless::CrashingFileSystem;
 using headless::PowerCut;
-using ::testing::AnyOf;
 using ::testing::Contains;
-using ::testing::Eq;
+using ::testing::IsSupersetOf;
+using ::testing::UnorderedElementsAre;
 using Values = std::vector<Variant>;
-
-/// How much of a write was done when the power went.
-constexpr std::array Shares = {0.0, 0.01, 0.2, 0.5, 0.8, 0.99, 1.0};
 
 class RecordSurvival : public ::testing::Test
 {
 protected:
-    using Save = std::function<void(FileSystem&)>;
-    using Check = std::function<void(bool wasSaved)>;
-
     static RecordWriter writerOf(const Values& values)
     {
         RecordWriter writer;
@@ -58,60 +52,35 @@ protected:
         recordsOn(files).write(list, {}, writerOf(values));
     }
 
-    void empty() const
+    /// Saves over these files with power cuts everywhere.
+    void cutEverywhere(const test::PowerCuts::Files& before, const Values& values,
+                       const test::PowerCuts::Check& check)
     {
-        for (const std::string& name : folder.names()) {
-            std::filesystem::remove(folder.native() / name);
-        }
+        cuts.everywhere(
+            before, [&](const std::shared_ptr<FileSystem>& files) { save(files, values); }, check);
     }
 
-    /// Saves over `old` (no file for none) with a power cut at every step, and then once without. `check` is
-    /// asked in each state of the disk afterwards.
-    void cutEverywhere(const std::string* old, const Values& values, const Check& check)
+    static constexpr bool WhenSaved = true;
+
+    /// What the list's file may hold after a save in such steps, ended or not.
+    std::set<std::string> listsAfter(const std::function<void(FileSystem&)>& steps, bool onlySaved = false)
     {
-        Stop stop = Stop::InWrite;
-        for (int step = 0; stop != Stop::Never; ++step) {
-            for (const double share : Shares) {
-                stop = cutAt(step, share, old, values, check);
-                ++stops;
-                if (stop != Stop::InWrite) {
-                    break;
+        std::set<std::string> found;
+        cuts.everywhere(
+            {{"list.qv-hsr", "old"}}, [&](const std::shared_ptr<FileSystem>& files) { steps(*files); },
+            [&](bool wasSaved) {
+                if (wasSaved || !onlySaved) {
+                    found.insert(folder.read("list.qv-hsr"));
                 }
-            }
-        }
-    }
-
-    enum class Stop : std::uint8_t { InWrite, AtStep, Never };
-
-    Stop cutAt(int step, double share, const std::string* old, const Values& values, const Check& check)
-    {
-        Stop stop = Stop::Never;
-        int outcomes = 1;
-        for (int outcome = 0; outcome < outcomes; ++outcome) {
-            empty();
-            if (old != nullptr) {
-                folder.write("list.qv-hsr", *old);
-            }
-            const auto files = std::make_shared<CrashingFileSystem>(folder.native());
-            files->cutPowerAt(step, share);
-            try {
-                save(files, values);
-            } catch (const PowerCut& cut) {
-                stop = cut.isInWrite ? Stop::InWrite : Stop::AtStep;
-            }
-            outcomes = files->outcomes();
-            files->restart(outcome);
-            ++states;
-            check(stop == Stop::Never);
-        }
-        return stop;
+            });
+        return found;
     }
 
     test::TemporaryFolder folder;
+    const std::filesystem::path temporary = folder.native() / "new";
     const std::filesystem::path list = folder.native() / "list.qv-hsr";
     Platform platform;
-    int stops = 0;  ///< power cuts at different points
-    int states = 0; ///< of the disk afterwards, that were looked at
+    test::PowerCuts cuts{folder};
 };
 
 Values randomList(unsigned seed)
@@ -130,21 +99,21 @@ TEST_F(RecordSurvival, TheOldOrTheNewListIsThereWhole)
         const Values before = randomList(seed);
         const Values after = randomList(seed + 100);
         const std::string old = fileOf(before);
-        cutEverywhere(&old, after, [&](bool wasSaved) {
+        cutEverywhere({{"list.qv-hsr", old}}, after, [&](bool wasSaved) {
             const Values found = read();
             ASSERT_TRUE(found == after || (!wasSaved && found == before)) << "seed " << seed;
         });
     }
-    EXPECT_GE(stops, 500);
-    RecordProperty("stops", stops);
-    RecordProperty("states", states);
+    EXPECT_GE(cuts.stops(), 500);
+    RecordProperty("stops", cuts.stops());
+    RecordProperty("states", cuts.states());
 }
 
 TEST_F(RecordSurvival, AFirstListIsThereWholeOrNotAtAll)
 {
     for (unsigned seed = 1; seed <= 5; ++seed) {
         const Values after = randomList(seed);
-        cutEverywhere(nullptr, after, [&](bool wasSaved) {
+        cutEverywhere({}, after, [&](bool wasSaved) {
             ASSERT_TRUE(!wasSaved || folder.has("list.qv-hsr"));
             ASSERT_TRUE(!folder.has("list.qv-hsr") || read() == after) << "seed " << seed;
         });
@@ -155,7 +124,7 @@ TEST_F(RecordSurvival, ADamagedListIsKeptWhereverThePowerGoes)
 {
     const std::string damaged = "half a list";
     const Values after = randomList(3);
-    cutEverywhere(&damaged, after, [&](bool wasSaved) {
+    cutEverywhere({{"list.qv-hsr", damaged}}, after, [&](bool wasSaved) {
         bool isKept = false;
         for (const std::string& name : folder.names()) {
             isKept = isKept || folder.read(name) == damaged;
@@ -169,7 +138,7 @@ TEST_F(RecordSurvival, ALaterVersionIsKeptWhereverThePowerGoes)
 {
     const std::string later = fileOf({u"3.0", u"Anna"});
     const Values after = randomList(3);
-    cutEverywhere(&later, after, [&](bool wasSaved) {
+    cutEverywhere({{"list.qv-hsr", later}}, after, [&](bool wasSaved) {
         const std::string name = folder.has("list.qv-hsr.kept") ? "list.qv-hsr.kept" : "list.qv-hsr";
         ASSERT_EQ(folder.read(name), later);
         ASSERT_TRUE(!wasSaved || read() == after);
@@ -179,7 +148,7 @@ TEST_F(RecordSurvival, ALaterVersionIsKeptWhereverThePowerGoes)
 TEST_F(RecordSurvival, AfterAPowerCutTheNextSaveWorksAndLeavesNothingElse)
 {
     const std::string old = fileOf({u"2.0", u"old"});
-    cutEverywhere(&old, randomList(3), [&](bool) {
+    cutEverywhere({{"list.qv-hsr", old}}, randomList(3), [&](bool) {
         const auto files = std::make_shared<CrashingFileSystem>(folder.native());
         save(files, {u"2.0", u"next"});
         ASSERT_EQ(read(), (Values{u"2.0", u"next"}));
@@ -202,57 +171,37 @@ TEST_F(RecordSurvival, SeveralSavesInARowSurviveAPowerCutInTheLast)
     }
 }
 
-// The crash itself is tried: a save that forgets a step must lose the list in some state.
+// The power cut itself is tried: a save that forgets a step must lose the list in some state.
 
 TEST_F(RecordSurvival, AListWrittenInPlaceWouldBeLost)
 {
-    folder.write("list.qv-hsr", "old");
-    std::vector<std::string> found;
-    for (int outcome = 0; outcome < 4; ++outcome) {
-        CrashingFileSystem files(folder.native());
-        files.write(list, "newer");
-        files.restart(outcome);
-        found.push_back(folder.read("list.qv-hsr"));
-        folder.write("list.qv-hsr", "old");
-    }
-    EXPECT_EQ(found, (std::vector<std::string>{"old", "ne", std::string(5, '\0'), "newer"}));
+    EXPECT_THAT(listsAfter([&](FileSystem& files) {
+                    files.write(list, "newer");
+                    files.flush(list);
+                }),
+                IsSupersetOf({"old", "ne", "newer", ""}));
 }
 
 TEST_F(RecordSurvival, ARenameBeforeTheFlushWouldLoseTheList)
 {
-    std::vector<std::string> found;
-    int outcomes = 1;
-    for (int outcome = 0; outcome < outcomes; ++outcome) {
-        empty();
-        folder.write("list.qv-hsr", "old");
-        CrashingFileSystem files(folder.native());
-        files.write(folder.native() / "new", "newer");
-        files.rename(folder.native() / "new", list);
-        files.flushFolder(folder.native());
-        outcomes = files.outcomes();
-        files.restart(outcome);
-        found.push_back(folder.read("list.qv-hsr"));
-    }
-    EXPECT_THAT(found, Contains(""));
+    EXPECT_THAT(listsAfter([&](FileSystem& files) {
+                    files.write(temporary, "newer");
+                    files.rename(temporary, list);
+                    files.flushFolder(folder.native());
+                }),
+                Contains(""));
 }
 
-TEST_F(RecordSurvival, WithoutAFlushOfTheFolderANewListCouldStillBeTheOldOne)
+TEST_F(RecordSurvival, WithoutAFlushOfTheFolderASavedListCouldStillBeTheOldOne)
 {
-    std::vector<std::string> found;
-    int outcomes = 1;
-    for (int outcome = 0; outcome < outcomes; ++outcome) {
-        empty();
-        folder.write("list.qv-hsr", "old");
-        CrashingFileSystem files(folder.native());
-        files.write(folder.native() / "new", "newer");
-        files.flush(folder.native() / "new");
-        files.rename(folder.native() / "new", list);
-        outcomes = files.outcomes();
-        files.restart(outcome);
-        found.push_back(folder.read("list.qv-hsr"));
-    }
-    EXPECT_THAT(found, Contains("old"));
-    EXPECT_THAT(found, Contains("newer"));
+    EXPECT_THAT(listsAfter(
+                    [&](FileSystem& files) {
+                        files.write(temporary, "newer");
+                        files.flush(temporary);
+                        files.rename(temporary, list);
+                    },
+                    WhenSaved),
+                UnorderedElementsAre("old", "newer"));
 }
 
 } // namespace
