@@ -89,7 +89,8 @@ Platform DesktopApplication::platform() const
     Platform platform = basePlatform(dispatchGuard());
     platform.dialogs = makeDialogs(shotsFolder().has_value());
     if (shotsFolder()) {
-        platform.settings.reset(); // pictures show nothing of the user's settings, and change none
+        platform.settings.reset();       // pictures show nothing of the user's settings, and change none
+        platform.newNetClient = nullptr; // nor do they depend on who is on the network
     }
     dispatchGuard()->setReporter([dialogs = platform.dialogs](const String& text) { dialogs->Error(text); });
     platform.display = std::make_shared<DesktopDisplay>();

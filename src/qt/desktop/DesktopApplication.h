@@ -32,7 +32,8 @@ public:
     DesktopApplication(const DesktopApplication&) = delete;
     DesktopApplication& operator=(const DesktopApplication&) = delete;
 
-    /// The whole outside, for one session. Where the program is to draw its windows, settings live in memory.
+    /// The whole outside, for one session. Where the program is to draw its windows, settings live in memory
+    /// and there is no network.
     Platform platform() const;
 
     /// What followed the program's name on its command line, as one text, without "--shots" and its folder.
