@@ -1,16 +1,17 @@
 #pragma once
 
 #include "app/ctl_Avatar.h"
+#include "results/ctl_Mark.h"
 #include "term/ctl_TermLabel.h"
 #include "visual/FormLayout.h"
-#include "visual/Label.h"
+#include "visual/Shape.h"
 #include "visual/TextBox.h"
 #include "visual/ctl_Button.h"
 #include "visual/ctl_Gradient.h"
 #include "visual/ctl_Label.h"
 #include "visual/ctl_Pannel.h"
 
-/// The trainer's design: a header above four pages of which one is seen. Places are pixels.
+/// The trainer's design: pages of which one is seen, between a header and a footer. Places are pixels.
 namespace molmasse::layout
 {
 
@@ -19,13 +20,22 @@ using phial::LayoutItem;
 
 inline constexpr double Width = 900;
 inline constexpr double Height = 640;
+inline constexpr double Header = 72;
+inline constexpr double Footer = 44;
+
+inline constexpr LayoutItem page(phial::StringView name)
+{
+    return design<phial::ctl_Pannel>(name, {0, Header, Width, Height - Header - Footer}).hidden();
+}
 
 inline constexpr LayoutItem Frame[] = {
-    design<phial::ctl_Gradient>(u"bar_Header", {0, 0, Width, 72}),
-    design<phial::ctl_Pannel>(u"pan_Start", {0, 72, Width, Height - 72}).hidden(),
-    design<phial::ctl_Pannel>(u"pan_Task", {0, 72, Width, Height - 72}).hidden(),
-    design<phial::ctl_Pannel>(u"pan_Summary", {0, 72, Width, Height - 72}).hidden(),
-    design<phial::ctl_Pannel>(u"pan_Missing", {0, 72, Width, Height - 72}).hidden(),
+    design<phial::ctl_Gradient>(u"bar_Header", {0, 0, Width, Header}),
+    page(u"pan_Start"),
+    page(u"pan_Task"),
+    page(u"pan_Summary"),
+    page(u"pan_Waiting"),
+    page(u"pan_Missing"),
+    design<phial::ctl_Pannel>(u"pan_Footer", {0, Height - Footer, Width, Footer}),
 };
 
 inline constexpr LayoutItem Contents[] = {
@@ -64,23 +74,48 @@ inline constexpr LayoutItem Contents[] = {
     design<phial::ctl_Button>(u"but_Check", {372, 272, 220, 64}, u"Prüfen|Check").inside(u"pan_Task"),
     design<phial::ctl_Label>(u"lab_Feedback", {32, 352, 560, 60}).inside(u"pan_Task"),
     design<phial::ctl_Button>(u"but_Hint", {32, 424, 220, 56}, u"Tipp (F1)|Hint (F1)").inside(u"pan_Task"),
-    design<phial::ctl_Label>(u"lab_Hint", {268, 424, 324, 128}).inside(u"pan_Task"),
+    design<phial::ctl_Label>(u"lab_Hint", {268, 420, 324, 96}).inside(u"pan_Task"),
     design<phial::ctl_Button>(u"but_Key", {640, 80, 68, 68}).at(0).inside(u"pan_Task"),
     design<phial::ctl_Button>(u"but_Stop", {640, 424, 228, 56}, u"Beenden|Quit").inside(u"pan_Task"),
 
-    design<phial::ctl_Label>(u"lab_Praise", {60, 72, 780, 56}).inside(u"pan_Summary"),
-    design<phial::ctl_Label>(u"lab_Result", {60, 136, 780, 48}).inside(u"pan_Summary"),
-    design<phial::ctl_Pannel>(u"pan_ResultBack", {200, 204, 500, 16}).inside(u"pan_Summary"),
-    design<phial::ctl_Pannel>(u"pan_ResultDone", {200, 204, 500, 16}).inside(u"pan_Summary"),
-    design<phial::ctl_Label>(u"lab_Solved", {60, 236, 780, 36}).inside(u"pan_Summary"),
-    design<phial::ctl_Button>(u"but_Again", {200, 320, 240, 80}, u"Noch einmal|Again").inside(u"pan_Summary"),
-    design<phial::ctl_Button>(u"but_Quit", {460, 320, 240, 80}, u"Beenden|Quit").inside(u"pan_Summary"),
+    design<phial::ctl_Label>(u"lab_Praise", {60, 20, 780, 48}).inside(u"pan_Summary"),
+    design<phial::ctl_Label>(u"lab_Result", {60, 68, 780, 40}).inside(u"pan_Summary"),
+    design<phial::ctl_Pannel>(u"pan_ResultBack", {200, 116, 500, 14}).inside(u"pan_Summary"),
+    design<phial::ctl_Pannel>(u"pan_ResultDone", {200, 116, 500, 14}).inside(u"pan_Summary"),
+    design<phial::ctl_Label>(u"lab_Solved", {60, 136, 780, 32}).inside(u"pan_Summary"),
+    design<phial::ctl_Mark>(u"ctl_Mark1", {300, 180, 300, 60}).inside(u"pan_Summary"),
+    design<phial::ctl_Label>(u"lab_Mark", {60, 248, 780, 32}).inside(u"pan_Summary"),
+    design<phial::ctl_Label>(u"lab_Rank", {60, 280, 780, 32}).inside(u"pan_Summary"),
+    design<phial::ctl_Button>(u"but_List", {60, 328, 246, 64}, u"Bestenliste|Best rounds")
+        .inside(u"pan_Summary"),
+    design<phial::ctl_Button>(u"but_Certificate", {327, 328, 246, 64}, u"Urkunde drucken|Print certificate")
+        .inside(u"pan_Summary"),
+    design<phial::ctl_Button>(u"but_Export", {594, 328, 246, 64}, u"Liste als Text|List as text")
+        .inside(u"pan_Summary"),
+    design<phial::ctl_Button>(u"but_Again", {60, 412, 513, 76}, u"Noch einmal|Again").inside(u"pan_Summary"),
+    design<phial::ctl_Button>(u"but_Quit", {594, 412, 246, 76}, u"Beenden|Quit").inside(u"pan_Summary"),
+
+    design<phial::ctl_Label>(u"lab_WaitingTitle", {60, 60, 780, 48}, u"Gleich geht es los|It will begin soon")
+        .inside(u"pan_Waiting"),
+    design<phial::ctl_Label>(
+        u"lab_Waiting", {60, 116, 780, 60},
+        u"Sobald deine Lehrkraft den Molmassen-Trainer freigibt, geht es hier von selbst weiter.|"
+        u"As soon as your teacher opens the molar mass trainer for you, it goes on here by itself.")
+        .inside(u"pan_Waiting"),
+    design<phial::ctl_Button>(u"but_Ask", {60, 208, 513, 80}, u"Noch einmal fragen|Ask again")
+        .inside(u"pan_Waiting"),
+    design<phial::ctl_Button>(u"but_GiveUp", {594, 208, 246, 80}, u"Beenden|Quit").inside(u"pan_Waiting"),
 
     design<phial::ctl_Label>(u"lab_MissingTitle", {60, 60, 780, 48},
                              u"Da fehlt noch etwas|Something is missing")
         .inside(u"pan_Missing"),
     design<phial::ctl_Label>(u"lab_Missing", {60, 124, 780, 200}).inside(u"pan_Missing"),
     design<phial::ctl_Button>(u"but_Leave", {60, 360, 240, 80}, u"Beenden|Quit").inside(u"pan_Missing"),
+
+    design<phial::Shape>(u"shp_Classroom", {32, 16, 12, 12}).inside(u"pan_Footer"),
+    design<phial::ctl_Label>(u"lab_Classroom", {56, 0, 560, 44}).inside(u"pan_Footer"),
+    design<phial::ctl_Button>(u"but_Classroom", {684, 4, 184, 36}, u"Klassenraum …|Classroom …")
+        .inside(u"pan_Footer"),
 };
 
 /// The number pad, row by row. The comma stands for the user's decimal sign; the last key takes a character

@@ -1,17 +1,29 @@
 #include "molmasse/MolmasseShots.h"
 
 #include "app/Settings.h"
+#include "app/cls_App.h"
+#include "app/cls_AppURL.h"
 #include "app/cls_Language.h"
 #include "app/screen/frm_AppAbout.h"
 #include "app/sys_Global.h"
+#include "core/CoreMachine.h"
 #include "core/CoreRegistry.h"
 #include "core/CoreRoot.h"
 #include "core/CoreStringList.h"
+#include "core/CoreSystem.h"
+#include "core/NativePath.h"
+#include "molmasse/PicturedMaster.h"
+#include "molmasse/frm_MasterChoice.h"
 #include "molmasse/frm_Molmasse.h"
+#include "results/cls_DataScores.h"
+#include "server/cls_AppServer.h"
+
+#include <filesystem>
 
 namespace molmasse
 {
 
+using phial::QVAPP;
 using phial::String;
 using phial::StringView;
 
@@ -26,6 +38,52 @@ void usersAre(std::initializer_list<StringView> users)
     phial::coreRoot().CoreRegistry().CoreRegistryWrite().WriteList(
         phial::SettingsHive::CurrentUser, phial::settings::path(u"Config\\ScreenNameMRU"),
         phial::CoreStringList(users));
+}
+
+/// A folder for the lists of the pictured rounds, which goes with the object.
+class ScratchLists
+{
+public:
+    ScratchLists()
+        : before_(QVAPP()->URL()->DATAHIGHSCORES()),
+          folder_(std::filesystem::temp_directory_path() /
+                  phial::toUtf8(phial::coreRoot().CoreSystem().CoreMachine().NewUniqueID()))
+    {
+        std::filesystem::create_directories(folder_);
+        QVAPP()->URL()->DATAHIGHSCORES(phial::systemPath(folder_) + u"\\");
+        fill();
+    }
+    ~ScratchLists()
+    {
+        QVAPP()->URL()->DATAHIGHSCORES(before_);
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored);
+    }
+    ScratchLists(const ScratchLists&) = delete;
+    ScratchLists& operator=(const ScratchLists&) = delete;
+
+private:
+    /// Some have been here before.
+    static void fill()
+    {
+        phial::cls_DataScores list;
+        list.ADD(94, 100, u"Leicht", nullptr, {}, {}, u"Uli");
+        list.ADD(91, 100, u"Mittel", nullptr, {}, {}, u"Dorothea");
+        list.ADD(70, 100, u"Schwer", nullptr, {}, {}, u"Jannis");
+        list.SAVE(QVAPP()->URL()->DATAHIGHSCORES() + u"HIGHSCORE.qv-hsr");
+    }
+
+    String before_;
+    std::filesystem::path folder_;
+};
+
+/// A classroom of its own for the pictures.
+std::shared_ptr<PicturedMaster> newClassroom()
+{
+    auto master = std::make_shared<PicturedMaster>();
+    QVAPP()->SERVER(std::make_shared<phial::cls_AppServer>());
+    QVAPP()->SERVER()->CLIENT(master);
+    return master;
 }
 
 /// The trainer with a user who knows the states he wants to see.
@@ -64,6 +122,16 @@ public:
         take(u"summary");
     }
 
+    void showClassroom(PicturedMaster& master)
+    {
+        master.mood(PicturedMaster::Mood::Waiting);
+        window_.welcome();
+        take(u"waiting");
+        master.mood(PicturedMaster::Mood::Open);
+        press(u"but_Ask");
+        take(u"classroom");
+    }
+
     void take(StringView state)
     {
         take_(String(u"molmasse-").append(state).append(u"-").append(language_), window_.form());
@@ -97,6 +165,17 @@ private:
     StringView language_;
 };
 
+void showMasterChoice(StringView language, const Take& take)
+{
+    frm_MasterChoice dialog(u"192.168.10.5", [] {
+        return std::vector<phial::FoundMaster>{{u"192.168.10.5", {}}, {u"192.168.10.20", {}}};
+    });
+    dialog.form().Show();
+    dialog.form().control<phial::ctl_Button>(u"but_Search")->click();
+    take(String(u"molmasse-master-choice-").append(language), dialog.form());
+    dialog.form().Unload();
+}
+
 void showAbout(StringView language, const Take& take)
 {
     phial::frm_AppAbout about;
@@ -110,12 +189,16 @@ void showIn(phial::enm_LanguageC language, StringView name, const Take& take)
     phial::LNG()->CURRENT(language);
     const TrainerData data = loadTrainerData();
     if (data.missing == Missing::Nothing) {
+        const ScratchLists lists;
+        newClassroom();
         usersAre({});
         Tour(data, take, name).take(u"nobody");
         usersAre({u"Dorothea Wilhelmina:eule"});
         Tour(data, take, name).take(u"long-name");
         usersAre({u"Maxi:fuchs"});
         Tour(data, take, name).showRound(static_cast<std::int32_t>(data.tasks.levels.size()) - 1);
+        Tour(data, take, name).showClassroom(*newClassroom());
+        showMasterChoice(name, take);
     }
     TrainerData broken;
     broken.missing = Missing::Elements;

@@ -8,38 +8,26 @@
 #include "app/cls_Language.h"
 #include "app/ctl_Avatar.h"
 #include "app/sys_Global.h"
-#include "core/Locale.h"
-#include "core/NumberText.h"
 #include "core/RandomSource.h"
 #include "core/SessionState.h"
 #include "molmasse/MolmasseLayout.h"
 #include "molmasse/MolmasseStyle.h"
+#include "molmasse/TrainerTexts.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace molmasse
 {
 
 using phial::LNG;
+using phial::QVAPP;
 using phial::String;
 using phial::StringView;
-using phial::Variant;
 
 namespace
 {
 
-constexpr std::int32_t LongestAnswer = 12; // characters
-
-String number(int value)
-{
-    return phial::plainText(static_cast<std::int32_t>(value));
-}
-
-String translate(StringView german, StringView english, const Variant::Array& values = {})
-{
-    return LNG()->TRANSLATE(german, english, values);
-}
+constexpr std::int32_t AskingInterval = 5'000; // milliseconds
 
 int randomBelow(int bound)
 {
@@ -49,11 +37,14 @@ int randomBelow(int bound)
 
 } // namespace
 
-frm_Molmasse::frm_Molmasse(TrainerData data)
-    : data_(std::move(data)), form_(std::make_shared<phial::Form>(u"frm_Molmasse")),
-      levels_(*form_, u"but_Level"), pad_(*form_, u"but_Key")
+frm_Molmasse::frm_Molmasse(TrainerData data, MasterSearch searchMasters)
+    : data_(std::move(data)), searchMasters_(std::move(searchMasters)),
+      form_(std::make_shared<phial::Form>(u"frm_Molmasse")), levels_(*form_, u"but_Level"),
+      asking_(u"tmr_Asking", AskingInterval)
 {
     build();
+    connect();
+    connectClassroom();
     TRANSLATE();
     show(data_.missing == Missing::Nothing ? Page::Start : Page::Missing);
 }
@@ -70,9 +61,13 @@ void frm_Molmasse::Show()
 
 void frm_Molmasse::welcome()
 {
-    if (page_ != Page::Missing && phial::recentNames().empty()) {
+    if (page_ == Page::Missing) {
+        return;
+    }
+    if (phial::recentNames().empty()) {
         askForUser();
     }
+    enterClassroom();
 }
 
 void frm_Molmasse::build()
@@ -94,11 +89,10 @@ void frm_Molmasse::build()
         }
     }
     buildLevels();
-    buildPad();
     form_->menu().add(u"mnu_Help", {})->add(u"mnu_HelpInfo", {});
     style::apply(*form_);
-    get<phial::TextBox>(u"txt_Answer")->MaxLength(LongestAnswer);
-    connect();
+    tasks_.emplace(*form_, data_.elements);
+    summary_.emplace(*form_);
 }
 
 void frm_Molmasse::buildLevels()
@@ -115,57 +109,46 @@ void frm_Molmasse::buildLevels()
     first->Visible(!data_.tasks.levels.empty());
 }
 
-void frm_Molmasse::buildPad()
-{
-    pad_.adopt();
-    const auto first = pad_(0);
-    const double left = first->Left();
-    const double top = first->Top();
-    for (int i = 0; i < static_cast<int>(std::size(layout::PadKeys)); ++i) {
-        const auto key = pad_.has(i) ? pad_(i) : pad_.load(i);
-        const int row = i / layout::PadColumns;
-        const int column = i % layout::PadColumns;
-        key->Move(left + column * layout::PadStep, top + row * layout::PadStep);
-        key->Caption(layout::PadKeys[i] == u"," ? String(1, phial::currentLocale().decimalSign)
-                                                : String(layout::PadKeys[i]));
-        // The answer keeps the focus, and with it its selection, while the pad is touched.
-        key->frame().canFocus(false);
-        key->Visible(true);
-    }
-}
-
 void frm_Molmasse::connect()
 {
     const auto press = [this](StringView button, auto action) {
         connections_ += get<phial::ctl_Button>(button)->CLICK.connect(action);
     };
-    press(u"but_Check", [this] { verdict_ && round_->decided() ? goOn() : check(); });
-    press(u"but_Hint", [this] { giveHint(); });
     press(u"but_Again", [this] { show(Page::Start); });
-    connections_ += get<phial::ctl_Avatar>(u"ctl_User")->CLICK.connect([this] { askForUser(); });
     press(u"but_Language", [] {
         const bool german = LNG()->EFFECTIVE() == phial::ID_Language_German;
         LNG()->CURRENT(german ? phial::ID_Language_English : phial::ID_Language_German);
     });
-    connections_ += form_->control<phial::Menu>(u"mnu_HelpInfo")->Click.connect([](std::int32_t) {
-        phial::QVAPP()->DIALOG()->ABOUT();
-    });
-    connections_ += form_->TRANSLATE.connect([this] { TRANSLATE(); });
-    for (const auto* button : {u"but_Stop", u"but_Quit", u"but_Leave"}) {
+    for (const auto* button : {u"but_Stop", u"but_Quit", u"but_GiveUp", u"but_Leave"}) {
         press(button, [this] { form_->Unload(); });
     }
+    connections_ += get<phial::ctl_Avatar>(u"ctl_User")->CLICK.connect([this] { askForUser(); });
+    connections_ += form_->control<phial::Menu>(u"mnu_HelpInfo")->Click.connect([](std::int32_t) {
+        QVAPP()->DIALOG()->ABOUT();
+    });
+    connections_ += form_->TRANSLATE.connect([this] { TRANSLATE(); });
+    connections_ += form_->KeyDown.connect([this](phial::KeyEvent& event) { keyDown(event); });
+    connections_ += tasks_->Finished.connect([this] { finishRound(); });
     levels_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
         return button.CLICK.connect([this, index] { startRound(static_cast<std::size_t>(index)); });
     });
-    pad_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
-        return button.CLICK.connect([this, index] { pressPad(index); });
-    });
-    connections_ += form_->KeyDown.connect([this](phial::KeyEvent& event) { keyDown(event); });
+}
+
+void frm_Molmasse::connectClassroom()
+{
+    const auto press = [this](StringView button, auto action) {
+        connections_ += get<phial::ctl_Button>(button)->CLICK.connect(action);
+    };
+    press(u"but_Classroom", [this] { chooseClassroom(); });
+    press(u"but_Ask", [this] { admit(true); });
+    connections_ += classroom_.Changed.connect([this] { showClassroom(); });
+    connections_ += asking_.Tick.connect([this] { admit(false); });
+    connections_ += form_->Unloaded.connect([this] { asking_.Enabled(false); });
 }
 
 void frm_Molmasse::askForUser()
 {
-    phial::QVAPP()->USER()->SCREENNAMEINPUT();
+    QVAPP()->USER()->SCREENNAMEINPUT();
     get<phial::ctl_Avatar>(u"ctl_User")->UPDATE();
     nameUser();
 }
@@ -180,10 +163,78 @@ void frm_Molmasse::nameUser()
     avatar->frame().AccessibleName(name.empty() ? purpose : name + u", " + purpose);
 }
 
+void frm_Molmasse::enterClassroom()
+{
+    if (Classroom::isWanted()) {
+        classroom_.join();
+        admit(true);
+    }
+}
+
+void frm_Molmasse::chooseClassroom()
+{
+    frm_MasterChoice dialog(Classroom::address(), searchMasters_);
+    dialog.Show();
+    if (const auto& master = dialog.chosen()) {
+        classroom_.join(*master);
+        admit(true);
+    }
+}
+
+/// Goes on to the choice of the level when the teacher has opened the trainer, or when there is no teacher.
+/// One question at a time: a second one could throw the pupil out of the round that the first has allowed.
+void frm_Molmasse::admit(bool tell)
+{
+    if (isAsking_ || !form_->Visible()) {
+        return;
+    }
+    isAsking_ = true;
+    const bool allowed = classroom_.allows(tell);
+    isAsking_ = false;
+    asking_.Enabled(!allowed && form_->Visible());
+    if (form_->Visible()) {
+        show(allowed ? Page::Start : Page::Waiting);
+    }
+}
+
+/// The footer, and what must wait for the end of a log-on.
+void frm_Molmasse::showClassroom()
+{
+    const auto state = classroom_.state();
+    const bool searching = state == Classroom::State::Searching;
+    caption(*form_, u"lab_Classroom", classroomText());
+    get<phial::Shape>(u"shp_Classroom")
+        ->FillColor(state == Classroom::State::Online ? style::Online : style::Offline);
+    if (searching) {
+        form_->focus(nullptr); // the levels cannot keep it
+    }
+    levels_.each([searching](phial::ctl_Button& button, std::int32_t) { button.Enabled(!searching); });
+    const auto choice = get<phial::ctl_Button>(u"but_Classroom");
+    choice->Enabled(!searching);
+    choice->Visible(Classroom::isWanted() && (page_ == Page::Start || page_ == Page::Waiting));
+}
+
+String frm_Molmasse::classroomText() const
+{
+    switch (classroom_.state()) {
+    case Classroom::State::Alone:
+        break;
+    case Classroom::State::Searching:
+        return translate(u"Suche den Klassenraum …", u"Looking for the classroom …");
+    case Classroom::State::Online:
+        return translate(u"Im Klassenraum angemeldet ({1})", u"Logged on to the classroom ({1})",
+                         {Classroom::address()});
+    case Classroom::State::Offline:
+        return translate(u"Kein Klassenraum gefunden, du übst für dich.",
+                         u"No classroom found, you practise by yourself.");
+    }
+    return translate(u"Ohne Klassenraum", u"Without a classroom");
+}
+
 void frm_Molmasse::TRANSLATE()
 {
     form_->Caption(translate(u"Molmassen-Trainer", u"Molar mass trainer"));
-    phial::QVAPP()->CONFIG()->NAME(form_->Caption());
+    QVAPP()->CONFIG()->NAME(form_->Caption());
     form_->control<phial::Menu>(u"mnu_Help")->Caption(translate(u"&Hilfe", u"&Help"));
     form_->control<phial::Menu>(u"mnu_HelpInfo")->Caption(translate(u"&Info", u"&About"));
     for (const auto& item : layout::Contents) {
@@ -198,44 +249,11 @@ void frm_Molmasse::TRANSLATE()
             button.Caption(translate(level.germanTitle, level.englishTitle));
         }
     });
-    get<phial::TextBox>(u"txt_Answer")
-        ->frame()
-        .AccessibleName(translate(u"Molare Masse in g/mol", u"Molar mass in g/mol"));
-    pad_(pad_.UBound())
-        ->frame()
-        .AccessibleName(translate(u"Letztes Zeichen löschen", u"Delete last character"));
     nameUser();
-    caption(u"lab_Missing", missingText());
-    if (round_) {
-        showRoundTexts();
-    }
-}
-
-/// The texts that depend on the state of the round.
-void frm_Molmasse::showRoundTexts()
-{
-    const Task& task = round_->task();
-    caption(u"lab_Name", translate(task.germanName, task.englishName));
-    caption(u"lab_Feedback", {});
-    if (verdict_) {
-        showVerdict(*verdict_);
-    }
-    showCheckCaption();
-    showProgress();
-    showSummaryTexts();
-}
-
-void frm_Molmasse::showCheckCaption()
-{
-    get<phial::ctl_Button>(u"but_Check")
-        ->Caption(!round_->decided()   ? translate(u"Prüfen", u"Check")
-                  : round_->finished() ? translate(u"Ergebnis", u"Result")
-                                       : translate(u"Weiter", u"Next"));
-}
-
-void frm_Molmasse::caption(StringView label, String text) const
-{
-    get<phial::ctl_Label>(label)->Caption(std::move(text));
+    caption(*form_, u"lab_Missing", missingText());
+    tasks_->TRANSLATE();
+    summary_->TRANSLATE();
+    showClassroom();
 }
 
 String frm_Molmasse::missingText() const
@@ -267,195 +285,71 @@ void frm_Molmasse::show(Page page)
     get<phial::ctl_Pannel>(u"pan_Start")->Visible(page == Page::Start);
     get<phial::ctl_Pannel>(u"pan_Task")->Visible(page == Page::Task);
     get<phial::ctl_Pannel>(u"pan_Summary")->Visible(page == Page::Summary);
+    get<phial::ctl_Pannel>(u"pan_Waiting")->Visible(page == Page::Waiting);
     get<phial::ctl_Pannel>(u"pan_Missing")->Visible(page == Page::Missing);
     get<phial::ctl_Avatar>(u"ctl_User")->frame().Visible(page != Page::Missing);
-    phial::ControlPtr first;
-    switch (page) {
-    case Page::Start:
-        round_.reset();
-        caption(u"lab_Points", {});
-        first = levels_(0);
-        break;
-    case Page::Task:
-        first = get<phial::TextBox>(u"txt_Answer");
-        break;
-    case Page::Summary:
-        first = get<phial::ctl_Button>(u"but_Again");
-        break;
-    case Page::Missing:
-        first = get<phial::ctl_Button>(u"but_Leave");
-        break;
+    if (page != Page::Task && page != Page::Summary) {
+        tasks_->end();
     }
     form_->DefaultControl(page == Page::Task ? get<phial::ctl_Button>(u"but_Check") : nullptr);
-    if (first->Enabled() && first->Visible()) {
+    showClassroom();
+    if (const phial::ControlPtr first = firstOf(page); first->Enabled() && first->Visible()) {
         first->SetFocus();
     }
+}
+
+/// What has the focus when the page is shown.
+phial::ControlPtr frm_Molmasse::firstOf(Page page) const
+{
+    switch (page) {
+    case Page::Start:
+        break;
+    case Page::Task:
+        return get<phial::TextBox>(u"txt_Answer");
+    case Page::Summary:
+        return get<phial::ctl_Button>(u"but_Again");
+    case Page::Waiting:
+        return get<phial::ctl_Button>(u"but_Ask");
+    case Page::Missing:
+        return get<phial::ctl_Button>(u"but_Leave");
+    }
+    return levels_(0);
 }
 
 void frm_Molmasse::startRound(std::size_t level)
 {
     level_ = level;
-    round_.emplace(
-        data_.tasks.levels[level], [this](const String& formula) { return data_.elements->MOL(formula); },
-        randomBelow);
-    showTask();
+    const Level& chosen = data_.tasks.levels[level];
+    tasks_->begin(Round(
+        chosen, [this](const String& formula) { return data_.elements->MOL(formula); }, randomBelow));
     show(Page::Task);
+    classroom_.roundStarted(chosen.germanTitle);
 }
 
-void frm_Molmasse::showTask()
+void frm_Molmasse::finishRound()
 {
-    verdict_.reset();
-    hintShown_ = false;
-    get<phial::ctl_TermLabel>(u"trm_Formula")->Term(round_->task().formula);
-    caption(u"lab_Hint", {});
-    get<phial::ctl_Button>(u"but_Hint")->Enabled(true);
-    const auto answer = get<phial::TextBox>(u"txt_Answer");
-    answer->Text({});
-    answer->Locked(false);
-    showRoundTexts();
-}
-
-void frm_Molmasse::showProgress()
-{
-    caption(u"lab_Progress", translate(u"Aufgabe {1} von {2}", u"Task {1} of {2}",
-                                       {number(round_->position()), number(round_->count())}));
-    caption(u"lab_Points", translate(u"{1} Punkte", u"{1} points", {number(round_->points())}));
-    const int done = round_->position() - (round_->decided() ? 0 : 1);
-    const double full = get<phial::ctl_Pannel>(u"pan_ProgressBack")->Width();
-    const auto bar = get<phial::ctl_Pannel>(u"pan_ProgressDone");
-    bar->Width(full * done / round_->count());
-    bar->Visible(done > 0);
-}
-
-void frm_Molmasse::check()
-{
-    const auto answer = get<phial::TextBox>(u"txt_Answer");
-    const Verdict verdict = round_->check(answer->Text());
-    verdict_ = verdict;
-    showRoundTexts();
-    answer->Locked(round_->decided());
-    if (round_->decided()) {
-        get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
-        if (verdict == Verdict::Missed) {
-            giveHint();
-        }
-    } else {
-        selectAnswer();
-    }
-    answer->SetFocus();
-}
-
-void frm_Molmasse::selectAnswer()
-{
-    const auto answer = get<phial::TextBox>(u"txt_Answer");
-    answer->SelStart(0);
-    answer->SelLength(static_cast<std::int32_t>(answer->Text().size()));
-}
-
-void frm_Molmasse::showVerdict(Verdict verdict)
-{
-    const auto feedback = get<phial::ctl_Label>(u"lab_Feedback");
-    const Variant solution = massText(round_->solution());
-    switch (verdict) {
-    case Verdict::Right:
-        feedback->ForeColor(style::Good);
-        feedback->Caption(translate(u"Richtig! {1} g/mol, {2} Punkte für dich.",
-                                    u"Right! {1} g/mol, {2} points for you.",
-                                    {solution, number(round_->lastPoints())}));
-        break;
-    case Verdict::Wrong:
-        feedback->ForeColor(style::Bad);
-        feedback->Caption(round_->triesLeft() == 1 ? translate(u"Leider nicht. Du hast noch einen Versuch.",
-                                                               u"Not quite. You have one try left.")
-                                                   : translate(u"Leider nicht. Du hast noch {1} Versuche.",
-                                                               u"Not quite. You have {1} tries left.",
-                                                               {number(round_->triesLeft())}));
-        break;
-    case Verdict::Missed:
-        feedback->ForeColor(style::Bad);
-        feedback->Caption(
-            translate(u"Schade. Richtig wären {1} g/mol.", u"A pity. {1} g/mol would be right.", {solution}));
-        break;
-    case Verdict::NoNumber:
-        feedback->ForeColor(style::Bad);
-        feedback->Caption(translate(u"Bitte gib eine Zahl ein, zum Beispiel 18,0.",
-                                    u"Please type a number, for example 18.0."));
-        break;
-    }
-}
-
-void frm_Molmasse::giveHint()
-{
-    if (page_ != Page::Task || hintShown_) {
-        return;
-    }
-    hintShown_ = true;
-    if (!round_->decided()) {
-        round_->takeHint();
-    }
-    caption(u"lab_Hint", atomsCounted(*data_.elements, round_->task().formula));
-    get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
-    get<phial::TextBox>(u"txt_Answer")->SetFocus();
-    if (verdict_ == Verdict::Wrong) {
-        selectAnswer(); // the next try replaces the wrong one
-    }
-}
-
-void frm_Molmasse::goOn()
-{
-    if (round_->next()) {
-        showTask();
-        get<phial::TextBox>(u"txt_Answer")->SetFocus();
-    } else {
-        showSummary();
-    }
-}
-
-void frm_Molmasse::pressPad(std::int32_t index)
-{
-    const auto answer = get<phial::TextBox>(u"txt_Answer");
-    if (answer->Locked()) {
-        return;
-    }
-    if (index == pad_.UBound()) {
-        if (answer->SelLength() == 0 && answer->SelStart() > 0) {
-            answer->SelStart(answer->SelStart() - 1);
-            answer->SelLength(1);
-        }
-        answer->SelText({});
-    } else if (static_cast<std::int32_t>(answer->Text().size()) - answer->SelLength() < answer->MaxLength()) {
-        answer->SelText(pad_(index)->Caption());
-    }
-    answer->SetFocus();
-}
-
-void frm_Molmasse::showSummaryTexts()
-{
-    const double share = static_cast<double>(round_->points()) / round_->maximum();
-    caption(u"lab_Praise", share >= 0.9 ? translate(u"Ausgezeichnet!", u"Excellent!")
-                           : share >= 0.6
-                               ? translate(u"Gut gemacht!", u"Well done!")
-                               : translate(u"Übung macht den Meister!", u"Practice makes perfect!"));
-    caption(u"lab_Result", translate(u"{1} von {2} Punkten", u"{1} of {2} points",
-                                     {number(round_->points()), number(round_->maximum())}));
-    caption(u"lab_Solved", translate(u"{1} von {2} Formeln gelöst", u"{1} of {2} formulas solved",
-                                     {number(round_->solved()), number(round_->count())}));
-}
-
-void frm_Molmasse::showSummary()
-{
-    showSummaryTexts();
-    const double share = static_cast<double>(round_->points()) / round_->maximum();
-    const auto bar = get<phial::ctl_Pannel>(u"pan_ResultDone");
-    bar->Width(get<phial::ctl_Pannel>(u"pan_ResultBack")->Width() * share);
-    bar->Visible(round_->points() > 0);
+    const Round& round = *tasks_->round();
+    const Level& level = data_.tasks.levels[level_];
+    const RoundResult result{.exercise = level.germanTitle,
+                             .points = round.points(),
+                             .maximum = round.maximum(),
+                             .solved = round.solved(),
+                             .tasks = round.count()};
+    summary_->show(result, level.germanTitle, level.englishTitle);
     show(Page::Summary);
+    summary_->submit();
+    if (form_->Visible()) {
+        firstOf(Page::Summary)->SetFocus();
+    }
+    classroom_.roundFinished(result); // last: the pupil may go on while the master answers
 }
 
 void frm_Molmasse::keyDown(phial::KeyEvent& event)
 {
     if (event.is(phial::Key::F1)) {
-        giveHint();
+        if (page_ == Page::Task) {
+            tasks_->giveHint();
+        }
         event.KeyCode = 0;
     } else if (event.is(phial::Key::Escape)) {
         event.KeyCode = 0;

@@ -1,85 +1,86 @@
 #pragma once
 
-#include "molmasse/Round.h"
+#include "molmasse/Classroom.h"
+#include "molmasse/SummaryPage.h"
+#include "molmasse/TaskPage.h"
 #include "molmasse/TrainerData.h"
-#include "term/ctl_TermLabel.h"
+#include "molmasse/frm_MasterChoice.h"
 #include "visual/ControlArray.h"
 #include "visual/Form.h"
-#include "visual/TextBox.h"
+#include "visual/Timer.h"
 #include "visual/ctl_Button.h"
-#include "visual/ctl_Label.h"
-#include "visual/ctl_Pannel.h"
 
 #include <optional>
 
 namespace molmasse
 {
 
-/// The trainer's window: choice of the level, ten tasks, the summary; or what is missing. The header shows
-/// who works here, and changes it when it is pressed. Return does what the coloured button says, F1 gives the
-/// hint, Escape ends; everything can be touched as well.
+/// The trainer's window: choice of the level, ten tasks, the summary; or what is missing, or that the teacher
+/// has not opened the trainer yet. The header shows who works here, and changes it when it is pressed; the
+/// footer tells about the classroom. Return does what the coloured button says, F1 gives the hint, Escape
+/// ends; everything can be touched as well.
 class frm_Molmasse
 {
 public:
-    explicit frm_Molmasse(TrainerData data);
+    /// `searchMasters` finds masters to choose from; empty: an address can only be typed.
+    explicit frm_Molmasse(TrainerData data, MasterSearch searchMasters = {});
     ~frm_Molmasse();
     frm_Molmasse(const frm_Molmasse&) = delete;
     frm_Molmasse& operator=(const frm_Molmasse&) = delete;
 
     phial::Form& form() { return *form_; }
     void Show();
-    /// For the moment in which the window stands: asks who works here when no name is known yet.
+    /// For the moment in which the window stands: asks who works here when no name is known yet, and logs on
+    /// to the classroom. Events run meanwhile.
     void welcome();
     /// Puts all texts in the language in force.
     void TRANSLATE();
 
     /// The round under way; null before the first.
-    const Round* round() const { return round_ ? &*round_ : nullptr; }
+    const Round* round() const { return tasks_->round(); }
 
 private:
-    enum class Page { Start, Task, Summary, Missing };
+    enum class Page { Start, Task, Summary, Waiting, Missing };
 
     void build();
     void buildLevels();
-    void buildPad();
     void connect();
+    void connectClassroom();
 
     void askForUser();
     void nameUser();
+
+    void enterClassroom();
+    void chooseClassroom();
+    void admit(bool tell);
+    void showClassroom();
+
     void show(Page page);
+    phial::ControlPtr firstOf(Page page) const;
     void startRound(std::size_t level);
-    void showTask();
-    void showRoundTexts();
-    void showCheckCaption();
-    void showProgress();
-    void check();
-    void selectAnswer();
-    void goOn();
-    void showVerdict(Verdict verdict);
-    void giveHint();
-    void pressPad(std::int32_t index);
-    void showSummary();
-    void showSummaryTexts();
+    void finishRound();
     void keyDown(phial::KeyEvent& event);
 
+    phial::String classroomText() const;
     phial::String missingText() const;
     template <typename Class>
     std::shared_ptr<Class> get(phial::StringView name) const
     {
         return form_->control<Class>(name);
     }
-    void caption(phial::StringView label, phial::String text) const;
 
     TrainerData data_;
+    MasterSearch searchMasters_;
     std::shared_ptr<phial::Form> form_;
     phial::ControlArray<phial::ctl_Button> levels_;
-    phial::ControlArray<phial::ctl_Button> pad_;
+    std::optional<TaskPage> tasks_;
+    std::optional<SummaryPage> summary_;
+    Classroom classroom_;
+    phial::Timer asking_; ///< asks the master again while the pupil waits
     phial::Connections connections_;
     Page page_ = Page::Start;
     std::size_t level_ = 0;
-    std::optional<Round> round_;
-    std::optional<Verdict> verdict_; ///< what the present task shows
-    bool hintShown_ = false;
+    bool isAsking_ = false;
 };
 
 } // namespace molmasse

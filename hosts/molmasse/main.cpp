@@ -6,8 +6,11 @@
 #include "app/sys_Global.h"
 #include "molmasse/MolmasseShots.h"
 #include "molmasse/frm_Molmasse.h"
+#include "qt/base/MasterSearch.h"
 #include "qt/desktop/DesktopApplication.h"
 #include "qt/desktop/ShotBook.h"
+#include "server/cls_AppServer.h"
+#include "server/cls_AppServerConfig.h"
 
 int main(int argc, char** argv)
 {
@@ -27,7 +30,9 @@ int main(int argc, char** argv)
         });
         return 0;
     }
-    molmasse::frm_Molmasse window(molmasse::loadTrainerData());
+    molmasse::frm_Molmasse window(molmasse::loadTrainerData(), [&app] {
+        return phial::qt::findMasters(app->SERVER()->CONFIG()->SERVERUDP());
+    });
     window.Show();
     app->READY();
     window.welcome();

@@ -70,6 +70,7 @@ TEST_F(TrainerTest, AWholeRoundGoesByKeysAlone)
     type(u"58.4{enter}");
     EXPECT_EQ(buttonText(u"but_Check"), u"Ergebnis");
 
+    expectRankBox();
     type(u"{enter}");
     EXPECT_EQ(seen(u"lab_Praise"), u"Ausgezeichnet!");
     EXPECT_EQ(seen(u"lab_Result"), u"20 von 20 Punkten");
@@ -100,6 +101,7 @@ TEST_F(TrainerTest, AWholeRoundGoesByTouchAlone)
 
     touchPad(u"58,4");
     touch(u"but_Check");
+    expectRankBox();
     touch(u"but_Check");
     EXPECT_EQ(seen(u"lab_Result"), u"20 von 20 Punkten");
 
@@ -245,6 +247,7 @@ TEST_F(TrainerTest, ThePraiseFollowsThePoints)
 {
     openInstalled();
     touch(u"but_Level", 1);
+    expectRankBox();
     type(u"1{enter}2{enter}3{enter}{enter}");
 
     EXPECT_EQ(seen(u"lab_Praise"), u"Übung macht den Meister!");

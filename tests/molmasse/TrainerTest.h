@@ -6,7 +6,10 @@
 #include "headless/Hand.h"
 #include "molmasse/frm_Molmasse.h"
 #include "support/AppSession.h"
+#include "term/ctl_TermLabel.h"
 #include "visual/Form.h"
+#include "visual/ctl_Label.h"
+#include "visual/ctl_Pannel.h"
 
 #include <memory>
 #include <string_view>
@@ -55,19 +58,29 @@ protected:
         writeUnlessEmpty("installed/apps/Molmasse/data/formeln.txt", tasks);
     }
 
-    void open()
+    /// Starts without contact to a master, unless a test gives another command line.
+    void open(phial::StringView commandLine = u"NONETWORK", MasterSearch searchMasters = {})
     {
         phial::QVAPP()->CONFIG()->IDENT(u"Molmasse");
         outside.settings().prepare(phial::SettingsHive::LocalMachine, u"Software\\QV Brunnhof\\Phial\\Path",
                                    path(u"installed\\"));
-        phial::ignoringErrors([] { phial::QVAPP()->INIT({}); });
-        trainer = std::make_unique<frm_Molmasse>(loadTrainerData());
+        phial::ignoringErrors([&] { phial::QVAPP()->INIT(phial::String(commandLine)); });
+        trainer = std::make_unique<frm_Molmasse>(loadTrainerData(), std::move(searchMasters));
         trainer->Show();
     }
     void openInstalled()
     {
         install();
         open();
+    }
+
+    /// The box that tells about the rank comes at the end of a round.
+    void expectRankBox() { outside.dialogs().expect(phial::headless::Box::Info); }
+    /// A whole round of the first level, all right at the first try.
+    void playRound()
+    {
+        touch(u"but_Level", 0);
+        type(u"18,0{enter}{enter}58,4{enter}{enter}");
     }
 
     phial::Form& form() { return trainer->form(); }
@@ -99,9 +112,9 @@ protected:
     {
         return form().control<phial::ctl_Button>(button)->Caption();
     }
-    bool isSeen(phial::StringView control)
+    bool isSeen(phial::StringView control, std::int32_t index = -1)
     {
-        return form().control<phial::Control>(control)->frame().isReachable();
+        return form().control<phial::Control>(control, index)->frame().isReachable();
     }
     phial::String focused()
     {

@@ -1,0 +1,44 @@
+#include "molmasse/RoundResult.h"
+
+#include "app/cls_App.h"
+#include "app/sys_Global.h"
+#include "molmasse/TrainerTexts.h"
+#include "results/cls_AppRate.h"
+
+namespace molmasse
+{
+
+using phial::QVAPP;
+using phial::String;
+using phial::StringView;
+
+phial::CoreParameters additionalValues(const RoundResult& result)
+{
+    phial::CoreParameters values;
+    values.Set(u"AUFGABEN", static_cast<std::int32_t>(result.tasks));
+    values.Set(u"GELOEST", static_cast<std::int32_t>(result.solved));
+    return values;
+}
+
+String certificateText(const RoundResult& result, StringView exercise)
+{
+    return translate(u"hat zu {1} von {2} Formeln die molare Masse bestimmt\r\n"
+                     u"(Schwierigkeit: {3})\r\n"
+                     u"und dabei {4} von {5} Punkten erreicht.\r\n"
+                     u"Note: {6}",
+                     u"has worked out the molar mass of {1} of {2} formulas\r\n"
+                     u"(difficulty: {3})\r\n"
+                     u"and reached {4} of {5} points.\r\n"
+                     u"Mark: {6}",
+                     {number(result.solved), number(result.tasks), String(exercise), number(result.points),
+                      number(result.maximum), markText(result)});
+}
+
+String markText(const RoundResult& result)
+{
+    const auto& rate = QVAPP()->RATE();
+    return rate->MARKSCHOOL(result.points, result.maximum, result.exercise) + u" (" +
+           rate->MARKTEXT(result.points, result.maximum, result.exercise) + u")";
+}
+
+} // namespace molmasse

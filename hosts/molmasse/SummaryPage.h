@@ -1,0 +1,45 @@
+#pragma once
+
+#include "molmasse/RoundResult.h"
+#include "visual/Form.h"
+
+namespace molmasse
+{
+
+/// The page behind a round: points, mark and rank, and what can be made of them: the list of the best, also
+/// as a text file, and a certificate.
+///
+/// The controls are those of the window's design; the page belongs to the window and ends with it.
+class SummaryPage
+{
+public:
+    explicit SummaryPage(phial::Form& form);
+    SummaryPage(const SummaryPage&) = delete;
+    SummaryPage& operator=(const SummaryPage&) = delete;
+
+    /// Shows the result; `germanTitle` and `englishTitle` name the exercise.
+    void show(const RoundResult& result, phial::String germanTitle, phial::String englishTitle);
+    /// Hands the result in, which tells the pupil the rank in a box. Events run until the master has answered
+    /// and the box is closed; until then only leaving is offered.
+    void submit();
+    /// Puts the texts that are not of the design in the language in force.
+    void TRANSLATE();
+
+private:
+    class Submission;
+
+    void offer(bool available);
+    void showMark();
+    void showList();
+    void printCertificate();
+    void exportList();
+
+    phial::Form& form_;
+    phial::Connections connections_;
+    RoundResult result_;
+    phial::String germanTitle_;
+    phial::String englishTitle_;
+    std::int32_t rank_ = 0; ///< 0 and less: none
+};
+
+} // namespace molmasse

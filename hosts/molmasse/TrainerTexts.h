@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/Variant.h"
+
+namespace phial
+{
+class Form;
+}
+
+namespace molmasse
+{
+
+/// The text in the language in force, with the values in place of {1}, {2}, …
+phial::String translate(phial::StringView german, phial::StringView english,
+                        const phial::Variant::Array& values = {});
+
+/// A whole number as it is read.
+phial::String number(int value);
+
+/// Gives a label its text.
+void caption(const phial::Form& form, phial::StringView label, phial::String text);
+
+} // namespace molmasse

@@ -1,0 +1,240 @@
+#include "app/RecentNames.h"
+#include "app/cls_AppURL.h"
+#include "app/cls_Language.h"
+#include "core/CoreFiles.h"
+#include "core/CoreRoot.h"
+#include "molmasse/TrainerTest.h"
+#include "results/cls_DataScores.h"
+#include "results/ctl_Mark.h"
+#include "visual/Label.h"
+
+#include <gmock/gmock.h>
+
+namespace molmasse
+{
+namespace
+{
+
+using phial::String;
+using phial::StringView;
+using phial::headless::Box;
+using ::testing::HasSubstr;
+
+// What follows a round on a computer of its own: lists, mark, certificate, text file.
+class TrainerResult : public TrainerTest
+{
+protected:
+    TrainerResult()
+    {
+        phial::rememberName({u"Maxi", u"fox"});
+        install();
+    }
+
+    String certificate() { return path(u"installed\\Resources\\Forms\\Urkunde.zr-frm"); }
+
+    static String list(StringView file) { return phial::QVAPP()->URL()->DATAHIGHSCORES() + String(file); }
+    static std::shared_ptr<phial::cls_DataScores> stored(StringView file)
+    {
+        auto scores = std::make_shared<phial::cls_DataScores>();
+        scores->LOAD(list(file));
+        return scores;
+    }
+
+    std::shared_ptr<phial::ctl_Mark> mark() { return form().control<phial::ctl_Mark>(u"ctl_Mark1"); }
+    String lastBoxTitle() { return outside.dialogs().shown().back().title; }
+};
+
+TEST_F(TrainerResult, OfTheFirstRoundLeadsTheList)
+{
+    open();
+    expectRankBox();
+    playRound();
+
+    EXPECT_EQ(lastBoxTitle(), u"Kunststück!");
+    EXPECT_EQ(seen(u"lab_Rank"), u"Platz 1 der Bestenliste");
+    EXPECT_EQ(focused(), u"but_Again");
+}
+
+TEST_F(TrainerResult, StandsInBothListsWithExerciseAndCounts)
+{
+    open();
+    expectRankBox();
+    playRound();
+
+    for (const auto* file : {u"HIGHSCORE.qv-hsr", u"results.qv-rsl"}) {
+        const auto scores = stored(file);
+        ASSERT_EQ(scores->COUNT(), 1);
+        const auto score = scores->ITEM(1);
+        EXPECT_EQ(score->SCREENNAME(), u"Maxi");
+        EXPECT_EQ(score->UEBM(), u"Leicht");
+        EXPECT_DOUBLE_EQ(score->POINTS(), 20);
+        EXPECT_EQ(score->ADDITIONAL()->Get(u"AUFGABEN"), phial::Variant(2));
+        EXPECT_EQ(score->ADDITIONAL()->Get(u"GELOEST"), phial::Variant(2));
+    }
+    EXPECT_DOUBLE_EQ(stored(u"HIGHSCORE.qv-hsr")->ITEM(1)->POINTSMAX(), 20);
+}
+
+TEST_F(TrainerResult, KeepsTheGermanLabelOfTheExerciseInEitherLanguage)
+{
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    open();
+    expectRankBox();
+    playRound();
+
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr")->ITEM(1)->UEBM(), u"Leicht");
+}
+
+TEST_F(TrainerResult, ShowsTheMarkAsASignAndInWords)
+{
+    open();
+    expectRankBox();
+    playRound();
+    EXPECT_EQ(mark()->MARK(), phial::enm_Mark::ID_Mark_1P);
+    EXPECT_EQ(seen(u"lab_Mark"), u"Note 1+ (Sehr gut plus)");
+
+    // Four of ten points: one wrong try and the hint.
+    touch(u"but_Again");
+    touch(u"but_Level", 1);
+    expectRankBox();
+    type(u"1{enter}{f1}36,5{enter}{enter}");
+    EXPECT_EQ(mark()->MARK(), phial::enm_Mark::ID_Mark_4M);
+    EXPECT_EQ(seen(u"lab_Mark"), u"Note 4- (Ausreichend minus)");
+    EXPECT_EQ(seen(u"lab_Rank"), u"Platz 2 der Bestenliste");
+
+    touch(u"but_Language");
+    EXPECT_EQ(seen(u"lab_Mark"), u"Mark 4- (Ausreichend minus)");
+    EXPECT_EQ(seen(u"lab_Rank"), u"Number 2 of the best");
+}
+
+TEST_F(TrainerResult, TheMarkStandsInTheMiddleOfThePage)
+{
+    open();
+    expectRankBox();
+    playRound();
+
+    const double page = form().control<phial::ctl_Pannel>(u"pan_Summary")->Width();
+    EXPECT_NEAR(mark()->frame().Left() + mark()->frame().Width() / 2, page / 2, 1);
+}
+
+TEST_F(TrainerResult, ThatTheListDoesNotTakeHasNoRank)
+{
+    open();
+    phial::cls_DataScores full;
+    for (int i = 0; i < 10; ++i) {
+        full.ADD(100, 100, u"Schwer");
+    }
+    ASSERT_TRUE(full.SAVE(list(u"HIGHSCORE.qv-hsr")));
+
+    outside.dialogs().expect(Box::Info,
+                             u"Leider war das nichts! Für die Bestenliste hat DAS nicht gereicht!");
+    playRound();
+    EXPECT_EQ(seen(u"lab_Rank"), u"");
+}
+
+TEST_F(TrainerResult, OpensTheListWithItsRankStressed)
+{
+    open();
+    expectRankBox();
+    playRound();
+
+    outside.visual().onModal(u"frm_DialogHighscore", [](phial::Form& dialog) {
+        EXPECT_EQ(dialog.control<phial::Label>(u"lab_Name", 0)->Caption(), u"Maxi");
+        EXPECT_EQ(dialog.control<phial::Label>(u"lab_Ueb", 0)->Caption(), u"Leicht");
+        EXPECT_EQ(dialog.control<phial::Label>(u"lab_Rank", 0)->ForeColor(), phial::QBColor(12));
+        dialog.Unload();
+    });
+    touch(u"but_List");
+}
+
+TEST_F(TrainerResult, IsPrintedOnACertificate)
+{
+    outside.forms().add(certificate(), {{u"name", u"{NAME}"}, {u"text", u"{TEXT}"}});
+    open();
+    expectRankBox();
+    playRound();
+    touch(u"but_Certificate");
+
+    ASSERT_EQ(outside.forms().printed().size(), 1U);
+    const auto& texts = outside.forms().printed().front().texts;
+    EXPECT_EQ(texts.at(0), u"Maxi");
+    EXPECT_THAT(phial::toUtf8(texts.at(1)), HasSubstr("Schwierigkeit: Leicht"));
+    EXPECT_THAT(phial::toUtf8(texts.at(1)), HasSubstr("20 von 20 Punkten"));
+    EXPECT_THAT(phial::toUtf8(texts.at(1)), HasSubstr("Note: 1+ (Sehr gut plus)"));
+}
+
+TEST_F(TrainerResult, IsPrintedInTheLanguageInForce)
+{
+    outside.forms().add(certificate(), {{u"text", u"{TEXT}"}});
+    open();
+    expectRankBox();
+    playRound();
+    touch(u"but_Language");
+    touch(u"but_Certificate");
+
+    EXPECT_THAT(phial::toUtf8(outside.forms().printed().front().texts.at(0)), HasSubstr("difficulty: Easy"));
+}
+
+TEST_F(TrainerResult, WithoutACertificateFileIsSaid)
+{
+    open();
+    expectRankBox();
+    playRound();
+
+    outside.dialogs().expect(Box::Error);
+    touch(u"but_Certificate");
+    EXPECT_TRUE(isSeen(u"pan_Summary"));
+}
+
+TEST_F(TrainerResult, GoesIntoATextFile)
+{
+    open();
+    expectRankBox();
+    playRound();
+
+    outside.dialogs().expectSaveFile(path(u"liste.txt"));
+    outside.dialogs().expect(Box::Done);
+    touch(u"but_Export");
+    const String text = phial::coreRoot().CoreFiles().ReadText(path(u"liste.txt"));
+    EXPECT_THAT(phial::toUtf8(text), HasSubstr("Maxi"));
+}
+
+TEST_F(TrainerResult, IsNotWrittenWhenThePupilChoosesNoFile)
+{
+    open();
+    expectRankBox();
+    playRound();
+
+    outside.dialogs().expectSaveFile(u"");
+    touch(u"but_Export");
+}
+
+TEST_F(TrainerResult, ThatCannotBeWrittenIsToldInPlainWords)
+{
+    open();
+    expectRankBox();
+    playRound();
+
+    outside.dialogs().expectSaveFile(path(u"no such folder\\liste.txt"));
+    outside.dialogs().expect(Box::Error,
+                             u"Die Datei konnte nicht geschrieben werden. Bitte wähle einen anderen Ort.");
+    touch(u"but_Export");
+    EXPECT_TRUE(isOpen());
+}
+
+TEST_F(TrainerResult, EverythingOnThePageIsReachedByTab)
+{
+    open();
+    expectRankBox();
+    playRound();
+
+    std::vector<String> stops;
+    for (int i = 0; i < 7; ++i) {
+        stops.push_back(focused());
+        phial::headless::tab(form());
+    }
+    EXPECT_THAT(stops, ::testing::ElementsAre(u"but_Again", u"but_Quit", u"ctl_User", u"but_Language",
+                                              u"but_List", u"but_Certificate", u"but_Export"));
+}
+
+} // namespace
+} // namespace molmasse
