@@ -55,6 +55,7 @@ std::optional<Frame> ClientConnection::nextRequest()
         }
         if (frame) {
             completed_ = now_();
+            hasAsked_ = true;
         }
         return frame;
     }
@@ -93,7 +94,8 @@ void ClientConnection::cutOff()
 void ClientConnection::checkTimes()
 {
     const double now = now_();
-    const bool isUnfinished = reader_.pendingBytes() > 0 && now - completed_ > limits_.unfinishedSeconds;
+    const bool isUnfinished =
+        (reader_.pendingBytes() > 0 || !hasAsked_) && now - completed_ > limits_.unfinishedSeconds;
     if (isUnfinished || now - heard_ > limits_.silentSeconds) {
         cutOff();
     }
@@ -104,12 +106,17 @@ bool ClientConnection::isOpen() const
     return socket_->state() == QAbstractSocket::ConnectedState;
 }
 
+std::size_t ClientConnection::heldBytes() const
+{
+    return reader_.pendingBytes() + static_cast<std::size_t>(socket_->bytesToWrite());
+}
+
 void ClientConnection::feed()
 {
     std::array<char, PieceBytes> piece{};
     const qint64 length = socket_->read(piece.data(), static_cast<qint64>(piece.size()));
     if (length > 0) {
-        if (reader_.pendingBytes() == 0) {
+        if (reader_.pendingBytes() == 0 && hasAsked_) {
             completed_ = now_(); // from here on the next message has its time
         }
         heard_ = now_();

@@ -39,7 +39,8 @@ public:
     void checkTimes();
 
     bool isOpen() const;
-    std::size_t unfinishedBytes() const { return reader_.pendingBytes(); }
+    /// What is held of unfinished requests and of answers that the client has not taken.
+    std::size_t heldBytes() const;
     /// The client's address, and the one of this computer by which it has come.
     const String& peerAddress() const { return peerAddress_; }
     const String& ownAddress() const { return ownAddress_; }
@@ -57,6 +58,7 @@ private:
     double heard_;
     double completed_;
     bool hasTakenAll_ = true; // no whole frame is waiting in the reader
+    bool hasAsked_ = false;
 };
 
 } // namespace phial::master

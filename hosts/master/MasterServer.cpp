@@ -68,6 +68,9 @@ void MasterServer::takeInClients()
     while (QTcpSocket* socket = server_.nextPendingConnection()) {
         std::unique_ptr<QTcpSocket> owned(socket);
         if (clients_.size() >= limits_.connections) {
+            dropClosed();
+        }
+        if (clients_.size() >= limits_.connections) {
             owned->abort();
             continue;
         }
@@ -188,20 +191,24 @@ void MasterServer::checkClients()
     for (const auto& client : clients_) {
         client->checkTimes();
     }
+    dropClosed();
+}
+
+void MasterServer::dropClosed()
+{
     std::erase_if(clients_, [](const auto& client) { return !client->isOpen(); });
-    keepWithinMemory();
 }
 
 void MasterServer::keepWithinMemory()
 {
     std::size_t sum = 0;
     for (const auto& client : clients_) {
-        sum += client->unfinishedBytes();
+        sum += client->heldBytes();
     }
-    while (sum > limits_.unfinishedBytes) {
-        const auto largest = std::ranges::max_element(
-            clients_, {}, [](const auto& client) { return client->unfinishedBytes(); });
-        sum -= (*largest)->unfinishedBytes();
+    while (sum > limits_.heldBytes) {
+        const auto largest =
+            std::ranges::max_element(clients_, {}, [](const auto& client) { return client->heldBytes(); });
+        sum -= (*largest)->heldBytes();
         (*largest)->cutOff();
         clients_.erase(largest);
     }

@@ -77,6 +77,7 @@ private:
     void answer(Pending& pending);
     void undo(const std::string& trouble);
     void checkClients();
+    void dropClosed();
     void forgetOld();
     void keepWithinMemory();
     void answerQuestions();

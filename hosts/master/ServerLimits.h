@@ -11,8 +11,9 @@ struct ServerLimits {
     std::size_t connections = 2000;
     /// UTF-8 bytes of one message.
     std::size_t messageBytes = std::size_t{256} << 10;
-    /// Bytes of all unfinished messages together. Beyond that the connection that holds most is closed.
-    std::size_t unfinishedBytes = std::size_t{64} << 20;
+    /// Bytes of all unfinished messages and untaken answers together. Beyond that the connection that holds
+    /// most is closed.
+    std::size_t heldBytes = std::size_t{64} << 20;
     /// Bytes of answers that a client has not taken yet; who lets more gather is closed.
     std::size_t untakenBytes = std::size_t{4} << 20;
     /// Seconds in which a message must be complete once it has begun, and the first one after connecting.

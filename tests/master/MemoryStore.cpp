@@ -52,6 +52,9 @@ void MemoryStore::addEvent(const master::PupilEvent& event)
     if (failEvents_) {
         throw master::StoreError("no such table");
     }
+    if (content_.events.empty()) {
+        resultsBeforeFirstEvent_ = content_.results.size();
+    }
     content_.events.push_back(event);
 }
 

@@ -31,6 +31,7 @@ public:
     /// As the last commit left it.
     const Content& committed() const { return committed_; }
     int commits() const { return commits_; }
+    std::size_t resultsBeforeFirstEvent() const { return resultsBeforeFirstEvent_; }
 
     /// Lets commits fail from now on, or the adding of events alone.
     void failCommits(bool fail) { failCommits_ = fail; }
@@ -64,6 +65,7 @@ private:
     Content committed_;
     Content content_;
     int commits_ = 0;
+    std::size_t resultsBeforeFirstEvent_ = 0;
     bool failCommits_ = false;
     bool failEvents_ = false;
 };
