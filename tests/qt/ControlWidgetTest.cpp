@@ -2,6 +2,7 @@
 
 #include "DesktopSession.h"
 #include "qt/desktop/PartNavigation.h"
+#include "results/ctl_Mark.h"
 #include "term/ctl_TermLabel.h"
 #include "visual/PaintSurface.h"
 #include "visual/PictureBox.h"
@@ -222,6 +223,43 @@ TEST_F(ControlWidgetTest, PartsAreShownToScreenReaders)
     EXPECT_EQ(whole->childAt(close->rect().center().x(), close->rect().center().y()), close);
     close->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(closed, 1);
+}
+
+TEST_F(ControlWidgetTest, AControlThatIsOneTextIsReadAsAWhole)
+{
+    const auto form = std::make_shared<Form>(u"frm_Test");
+    form->ScaleMode(ScaleUnit::Pixels);
+    form->innerSize({400, 100});
+    const auto mark = form->add<ctl_Mark>(u"ctl_Mark1");
+    mark->MARK(enm_Mark::ID_Mark_2P);
+    form->Show();
+
+    const QWidget& widget = widgetOf(*mark);
+    QAccessibleInterface* whole = QAccessible::queryAccessibleInterface(&widgetOf(*mark));
+    ASSERT_TRUE(whole);
+    EXPECT_EQ(whole->role(), QAccessible::StaticText);
+    EXPECT_EQ(whole->text(QAccessible::Name), QStringLiteral("Note 2 plus"));
+    EXPECT_EQ(whole->childCount(), 0);
+    EXPECT_EQ(whole->child(0), nullptr);
+    const QPoint middle = widget.mapToGlobal(widget.rect().center());
+    EXPECT_EQ(whole->childAt(middle.x(), middle.y()), nullptr);
+}
+
+TEST_F(ControlWidgetTest, AControlOfItsOwnSizeKeepsItInALayout)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    const auto mark = makeControl<ctl_Mark>();
+    const PixelRectangle own = mark->frame().pixelRectangle();
+    auto* widget = new ControlWidget(mark);
+    layout->addWidget(widget);
+    window.resize(600, 200);
+    window.show();
+    QApplication::processEvents();
+
+    EXPECT_EQ(mark->frame().pixelRectangle().width, own.width);
+    EXPECT_EQ(mark->frame().pixelRectangle().height, own.height);
+    EXPECT_EQ(widget->sizeHint(), QSizeF(own.width, own.height).toSize());
 }
 
 TEST_F(ControlWidgetTest, TheSpaceBarPressesThePartThatTheArrowsHaveReached)

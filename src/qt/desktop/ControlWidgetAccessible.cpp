@@ -109,7 +109,8 @@ private:
     std::size_t part_;
 };
 
-/// The control itself, with its parts before the widgets that stand in it.
+/// The control itself, with its parts before the widgets that stand in it. A control that is one text is read
+/// as a whole, so what stands in it is not told.
 class ControlInterface final : public QAccessibleWidget
 {
 public:
@@ -127,12 +128,12 @@ public:
         parts_.clear();
     }
 
-    int childCount() const override { return partCount() + QAccessibleWidget::childCount(); }
+    int childCount() const override { return partCount() + innerCount(); }
 
     QAccessibleInterface* child(int index) const override
     {
         if (index < 0 || index >= partCount()) {
-            return QAccessibleWidget::child(index - partCount());
+            return isOneText() ? nullptr : QAccessibleWidget::child(index - partCount());
         }
         const auto part = static_cast<std::size_t>(index);
         auto known = parts_.find(part);
@@ -151,7 +152,7 @@ public:
                 return static_cast<int>(part);
             }
         }
-        const int inner = QAccessibleWidget::indexOfChild(child);
+        const int inner = isOneText() ? -1 : QAccessibleWidget::indexOfChild(child);
         return inner < 0 ? inner : inner + partCount();
     }
 
@@ -162,11 +163,13 @@ public:
                 return found;
             }
         }
-        return QAccessibleWidget::childAt(x, y);
+        return isOneText() ? nullptr : QAccessibleWidget::childAt(x, y);
     }
 
 private:
     ControlWidget& controlWidget() const { return static_cast<ControlWidget&>(*widget()); }
+    bool isOneText() const { return controlWidget().control().role() == PartRole::StaticText; }
+    int innerCount() const { return isOneText() ? 0 : QAccessibleWidget::childCount(); }
     int partCount() const { return static_cast<int>(controlWidget().control().parts().size()); }
 
     mutable std::map<std::size_t, QAccessible::Id> parts_;
