@@ -118,11 +118,10 @@ Exhibit highscore()
             u"frm_DialogHighscore",
             u"Zeigt eine Bestenliste.|Shows a list of high scores.",
             build,
-            {sample<Form>(u"Geschlossen|Closed", [](Form&) {}), listOf(shown, u"11|11", 11, false),
-             listOf(shown, u"Leer|Empty", 0, false), listOf(shown, u"1|1", 1, false),
-             listOf(shown, u"10|10", 10, false), listOf(shown, u"20|20", 20, false),
-             listOf(shown, u"500|500", 500, false),
-             listOf(shown, u"Zum Zurücksetzen|To be reset", 10, true)}};
+            {sample<Form>(u"Geschlossen|Closed", [](Form&) {}), listOf(shown, u"500|500", 500, false),
+             listOf(shown, u"20|20", 20, false), listOf(shown, u"11|11", 11, false),
+             listOf(shown, u"10|10", 10, false), listOf(shown, u"1|1", 1, false),
+             listOf(shown, u"Leer|Empty", 0, false), listOf(shown, u"Lokal|Local", 10, true)}};
 }
 
 constexpr StringView Pressed = u"Die Knöpfe unten zeigen, sichern und drucken die Liste.|"

@@ -6,6 +6,7 @@
 #include "results/cls_DataScores.h"
 
 #include <array>
+#include <cmath>
 
 namespace gallery
 {
@@ -56,7 +57,7 @@ std::shared_ptr<cls_DataScores> sampleScores(std::int32_t count)
     auto list = std::make_shared<cls_DataScores>();
     list->MAXIMUM(count);
     for (std::int32_t number = 0; number < count; ++number) {
-        const double points = Reachable * (count - number) / (count + 1);
+        const double points = std::floor(Reachable * (count - number) / (count + 1));
         list->ADD(points, Reachable, say(nth(Exercises, number)), nullptr, u"login" + plainText(number + 1),
                   u"CHEMIE-" + plainText(number % 16 + 1), pupil(number), moment(number));
     }
