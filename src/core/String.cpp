@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
 
 namespace phial
 {
@@ -80,6 +82,44 @@ void appendUtf8(std::string& bytes, char32_t code)
         tail(6);
         tail(0);
     }
+}
+
+template <typename View>
+bool isAscii(View text)
+{
+    std::uint32_t bits = 0;
+    for (const auto unit : text) {
+        bits |= static_cast<char16_t>(unit); // a negative char is large
+    }
+    return bits < 0x80;
+}
+
+/// How much of the text's beginning is ASCII: looks at many units at once as long as they are.
+template <typename View>
+std::size_t asciiLength(View text)
+{
+    constexpr std::size_t Block = 32;
+    std::size_t length = 0;
+    while (text.size() - length >= Block && isAscii(text.substr(length, Block))) {
+        length += Block;
+    }
+    while (length < text.size() && isAscii(text.substr(length, 1))) {
+        ++length;
+    }
+    return length;
+}
+
+/// Moves the ASCII at the beginning of a text behind another one, all at once: most texts hold little else.
+template <typename View, typename Text>
+void moveAscii(View& rFrom, Text& rTo)
+{
+    const std::size_t length = asciiLength(rFrom);
+    const std::size_t before = rTo.size();
+    rTo.resize(before + length);
+    std::transform(rFrom.begin(), rFrom.begin() + static_cast<std::ptrdiff_t>(length),
+                   rTo.begin() + static_cast<std::ptrdiff_t>(before),
+                   [](auto unit) { return static_cast<typename Text::value_type>(unit); });
+    rFrom.remove_prefix(length);
 }
 
 /// Where capitals and small letters lie in a stretch of the alphabet.
@@ -167,7 +207,7 @@ String fromUtf8(std::string_view bytes)
 {
     String text;
     text.reserve(bytes.size());
-    while (!bytes.empty()) {
+    for (moveAscii(bytes, text); !bytes.empty(); moveAscii(bytes, text)) {
         const Sequence sequence = readSequence(bytes);
         if (sequence.length == 0) {
             text += Replacement;
@@ -184,13 +224,14 @@ std::string toUtf8(StringView text)
 {
     std::string bytes;
     bytes.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char32_t code = text[i];
-        if (isHighSurrogate(code) && i + 1 < text.size() && isLowSurrogate(text[i + 1])) {
-            code = 0x10000 + ((code - 0xD800) << 10U) + (text[i + 1] - 0xDC00U);
-            ++i;
+    for (moveAscii(text, bytes); !text.empty(); moveAscii(text, bytes)) {
+        char32_t code = text[0];
+        const bool isPair = isHighSurrogate(code) && text.size() > 1 && isLowSurrogate(text[1]);
+        if (isPair) {
+            code = 0x10000 + ((code - 0xD800) << 10U) + (text[1] - 0xDC00U);
         }
         appendUtf8(bytes, code);
+        text.remove_prefix(isPair ? 2 : 1);
     }
     return bytes;
 }
