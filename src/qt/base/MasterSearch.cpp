@@ -75,8 +75,9 @@ std::vector<FoundMaster> findMasters(std::int32_t udpPort, std::chrono::millisec
     QEventLoop loop;
     QTimer::singleShot(patience, &loop, &QEventLoop::quit);
     loop.exec();
-    std::ranges::stable_partition(
-        found, [](const FoundMaster& master) { return !QHostAddress(toQt(master.address)).isLoopback(); });
+    std::stable_partition(found.begin(), found.end(), [](const FoundMaster& master) {
+        return !QHostAddress(toQt(master.address)).isLoopback();
+    });
     return found;
 }
 
