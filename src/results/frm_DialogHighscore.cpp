@@ -92,7 +92,7 @@ void frm_DialogHighscore::build()
     title->frame().canFocus(false);
     const auto commands = form_->control<ctl_CmdBar>(u"bar_Buttons")->BUTTONS();
     commands->Add(String(Reset), u"Zurücksetzen|Reset");
-    commands->Add(String(Confirm), u"OK|OK");
+    commands->Add(String(Confirm), u"OK|OK")->Default(true);
 }
 
 void frm_DialogHighscore::style()

@@ -19,6 +19,8 @@ constexpr Member ButtonTable[] = {
         u"Enabled"),
     members::property<CommandBarButton, bool, &CommandBarButton::Visible, &CommandBarButton::Visible>(
         u"Visible"),
+    members::property<CommandBarButton, bool, &CommandBarButton::Default, &CommandBarButton::Default>(
+        u"Default"),
     members::property<CommandBarButton, PicturePtr, &CommandBarButton::Picture, &CommandBarButton::Picture>(
         u"Picture"),
     members::property<CommandBarButton, String, &CommandBarButton::ToolTipText,
@@ -61,6 +63,13 @@ void CommandBarButton::Enabled(bool value)
 void CommandBarButton::Visible(bool value)
 {
     if (change(visible_, value)) {
+        changed_->emit();
+    }
+}
+
+void CommandBarButton::Default(bool value)
+{
+    if (change(default_, value)) {
         changed_->emit();
     }
 }

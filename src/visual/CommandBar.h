@@ -24,6 +24,10 @@ public:
     void Enabled(bool value);
     bool Visible() const { return visible_; }
     void Visible(bool value);
+    /// Whether the keyboard begins with this button when the bar gets the focus; without such a one that can
+    /// be pressed it begins with the first that can.
+    bool Default() const { return default_; }
+    void Default(bool value);
     PicturePtr Picture() const { return picture_; }
     void Picture(PicturePtr value);
     String ToolTipText() const { return toolTip_; }
@@ -37,6 +41,7 @@ private:
     String caption_;
     bool enabled_ = true;
     bool visible_ = true;
+    bool default_ = false;
     PicturePtr picture_;
     String toolTip_;
     std::shared_ptr<const Event<>> changed_; ///< of the bar's buttons

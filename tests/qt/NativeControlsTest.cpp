@@ -258,6 +258,26 @@ TEST_F(NativeControlsTest, ACommandBarReportsTheKeyOfItsButton)
     EXPECT_EQ(keys, (std::vector<String>{u"DIALOG.CANCEL();", u"DIALOG.OK();"}));
 }
 
+TEST_F(NativeControlsTest, TheFocusOfACommandBarBeginsWithTheDefaultButton)
+{
+    const auto bar = shown<ctl_CmdBar>(u"bar_Commands");
+    const auto reset = bar->BUTTONS()->Add(u"DIALOG.RESET();", u"Reset");
+    const auto confirm = bar->BUTTONS()->Add(u"DIALOG.OK();", u"OK");
+    const QWidget& widget = widgetOf(*bar);
+    const auto first = [&widget] { return dynamic_cast<QPushButton*>(widget.focusProxy())->text(); };
+    EXPECT_EQ(first(), QStringLiteral("Reset"));
+    confirm->Default(true);
+    EXPECT_EQ(first(), QStringLiteral("OK"));
+    confirm->Enabled(false);
+    EXPECT_EQ(first(), QStringLiteral("Reset"));
+    confirm->Default(false);
+    confirm->Enabled(true);
+    reset->Enabled(false);
+    EXPECT_EQ(first(), QStringLiteral("OK"));
+    confirm->Visible(false);
+    EXPECT_EQ(widget.focusProxy(), nullptr);
+}
+
 TEST_F(NativeControlsTest, AHighCommandBarHasButtonsForFingersAsFarAsThereIsRoom)
 {
     const auto bar = shown<ctl_CmdBar>(u"bar_Commands");

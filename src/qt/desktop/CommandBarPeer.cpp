@@ -67,6 +67,21 @@ void CommandBarPeer::show(ControlAspect aspect)
     for (std::size_t at = 0; at < buttons_.size(); ++at) {
         showButton(*buttons_[at], *model_->BUTTONS()->Item(static_cast<std::int32_t>(at) + 1));
     }
+    chooseFirst();
+}
+
+/// The focus that the bar gets goes to the button that the keyboard begins with.
+void CommandBarPeer::chooseFirst()
+{
+    QPushButton* first = nullptr;
+    for (std::size_t at = 0; at < buttons_.size(); ++at) {
+        const auto button = model_->BUTTONS()->Item(static_cast<std::int32_t>(at) + 1);
+        const bool canBePressed = button->Enabled() && button->Visible();
+        if (canBePressed && (!first || button->Default())) {
+            first = buttons_[at];
+        }
+    }
+    bar_.setFocusProxy(first);
 }
 
 void CommandBarPeer::sizeButtons()
@@ -102,7 +117,6 @@ void CommandBarPeer::makeButtons()
         buttons_.push_back(button);
     }
     sizeButtons();
-    bar_.setFocusProxy(buttons_.empty() ? nullptr : buttons_.front());
 }
 
 bool CommandBarPeer::eventFilter(QObject* watched, QEvent* event)

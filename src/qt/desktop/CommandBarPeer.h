@@ -24,6 +24,7 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void makeButtons();
     void sizeButtons();
+    void chooseFirst();
     void moveFocus(const QObject* from, int step);
 
     std::shared_ptr<CommandBar> model_;
