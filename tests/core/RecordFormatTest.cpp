@@ -3,6 +3,7 @@
 #include "core/Checksum.h"
 #include "support/Raises.h"
 #include "support/RandomValues.h"
+#include "support/RecordOf.h"
 
 #include <cmath>
 #include <gmock/gmock.h>
@@ -22,11 +23,7 @@ using namespace std::string_view_literals;
 
 std::string bodyOf(const Values& values)
 {
-    RecordWriter writer;
-    for (const Variant& value : values) {
-        writer.write(value);
-    }
-    return writer.body();
+    return test::recordOf(values).body();
 }
 
 Variant nested(int levels)

@@ -7,6 +7,7 @@
 #include "results/cls_DataEvents.h"
 #include "results/cls_DataScores.h"
 #include "support/MemoryStream.h"
+#include "support/RecordOf.h"
 
 #include <optional>
 
@@ -25,21 +26,12 @@ std::optional<Values> valuesIn(std::string_view body)
     }
 }
 
-std::string bodyOf(const Values& values)
-{
-    RecordWriter writer;
-    for (const Variant& value : values) {
-        writer.write(value);
-    }
-    return writer.body();
-}
-
 template <typename Record>
 std::string storedBody(Record& record)
 {
     test::MemoryStream stream;
     record.DATA()->Store(stream);
-    return bodyOf(stream.values);
+    return test::recordOf(stream.values).body();
 }
 
 template <typename Record>
@@ -71,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto values = valuesIn(body);
     fuzz::require(values.has_value() == ignoringErrors([&] { record_format::firstValueOf(body); }));
     if (values) {
-        fuzz::require(bodyOf(*values) == body);
+        fuzz::require(test::recordOf(*values).body() == body);
         readAndStore<cls_DataScores>(*values);
         readAndStore<cls_DataEvents>(*values);
     }

@@ -3,9 +3,9 @@
 #include "core/Platform.h"
 #include "headless/FaultyFileSystem.h"
 #include "support/Raises.h"
+#include "support/RecordOf.h"
 #include "support/TemporaryFolder.h"
 
-#include <algorithm>
 #include <gmock/gmock.h>
 #include <memory>
 
@@ -26,9 +26,7 @@ protected:
 
     void write(const Values& values, StringView password = {}) const
     {
-        RecordWriter writer;
-        std::ranges::for_each(values, [&](const Variant& value) { writer.write(value); });
-        RecordFiles(platform).write(path, password, writer);
+        RecordFiles(platform).write(path, password, test::recordOf(values));
     }
     Values read(StringView password = {}) const { return RecordFiles(platform).read(path, password); }
 

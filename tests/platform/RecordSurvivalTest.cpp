@@ -6,9 +6,9 @@
 #include "headless/CrashingFileSystem.h"
 #include "support/PowerCuts.h"
 #include "support/RandomValues.h"
+#include "support/RecordOf.h"
 #include "support/TemporaryFolder.h"
 
-#include <algorithm>
 #include <functional>
 #include <gmock/gmock.h>
 #include <set>
@@ -28,16 +28,9 @@ using Values = std::vector<Variant>;
 class RecordSurvival : public ::testing::Test
 {
 protected:
-    static RecordWriter writerOf(const Values& values)
-    {
-        RecordWriter writer;
-        std::ranges::for_each(values, [&](const Variant& value) { writer.write(value); });
-        return writer;
-    }
-
     static std::string fileOf(const Values& values)
     {
-        return record_format::framed(writerOf(values).body(), false);
+        return record_format::framed(test::recordOf(values).body(), false);
     }
 
     RecordFiles recordsOn(std::shared_ptr<FileSystem> files)
@@ -49,7 +42,7 @@ protected:
     Values read() { return recordsOn(std::make_shared<NativeFileSystem>()).read(list, {}); }
     void save(const std::shared_ptr<FileSystem>& files, const Values& values)
     {
-        recordsOn(files).write(list, {}, writerOf(values));
+        recordsOn(files).write(list, {}, test::recordOf(values));
     }
 
     /// Saves over these files with power cuts everywhere.

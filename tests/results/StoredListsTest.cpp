@@ -130,6 +130,28 @@ TEST_F(StoredLists, ADamagedListIsNotLoadedAndIsKeptByTheNextSave)
     EXPECT_EQ(folder.read("items_2.5.qv-hsr.damaged"), bytes);
 }
 
+TEST_F(StoredLists, OfAFileWithAnyDamageNothingIsLoaded)
+{
+    const String file = stored("items_2.5.qv-hsr");
+    const std::string whole = folder.read("items_2.5.qv-hsr");
+    add(list, u"Anna", 3);
+    const std::string before = toUtf8(list.DATA()->Pack());
+    const auto refuses = [&](const std::string& bytes) {
+        folder.write("items_2.5.qv-hsr", bytes);
+        return !list.LOAD(file) && folder.read("items_2.5.qv-hsr") == bytes;
+    };
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+        EXPECT_TRUE(refuses(whole.substr(0, at))) << "cut at " << at;
+        for (int bit = 0; bit < 8; ++bit) {
+            std::string damaged = whole;
+            damaged[at] = static_cast<char>(damaged[at] ^ 1 << bit);
+            EXPECT_TRUE(refuses(damaged)) << "byte " << at << ", bit " << bit;
+        }
+    }
+    EXPECT_EQ(toUtf8(list.DATA()->Pack()), before);
+    EXPECT_THAT(folder.names(), testing::Contains("items_2.5.qv-hsr"));
+}
+
 TEST_F(StoredLists, APasswordNeedsSealing)
 {
     add(list, u"Anna", 3);

@@ -3,6 +3,7 @@
 #include "core/RecordFiles.h"
 #include "sealing/PasswordSeal.h"
 #include "support/Raises.h"
+#include "support/RecordOf.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -26,11 +27,7 @@ protected:
 
     void write(const Values& values, StringView password) const
     {
-        RecordWriter writer;
-        for (const Variant& value : values) {
-            writer.write(value);
-        }
-        RecordFiles(platform).write(path, password, writer);
+        RecordFiles(platform).write(path, password, test::recordOf(values));
     }
     Values read(StringView password) const { return RecordFiles(platform).read(path, password); }
 
@@ -46,6 +43,14 @@ TEST_F(SealedRecords, AreReadWithTheirPasswordOnly)
     EXPECT_RAISES(read(u"anders"), FileAccess);
     EXPECT_RAISES(read(u""), FileAccess);
     EXPECT_EQ(folder.read("list.qv-hsr").find("Anna"), std::string::npos);
+}
+
+TEST_F(SealedRecords, AreReadThoughAnEarlierProgramSealedThem)
+{
+    const std::filesystem::path stored = PHIAL_TEST_VECTORS "/records";
+    const Values values = RecordFiles(platform).read(stored / "sealed.qv-hsr", u"Schlüssel");
+    EXPECT_EQ(values, RecordFiles(platform).read(stored / "items_2.5.qv-hsr", u""));
+    EXPECT_EQ(values.size(), 7U + 2 * 11);
 }
 
 TEST_F(SealedRecords, AFileInClearIsNotTakenForASealedOne)
