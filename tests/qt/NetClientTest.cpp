@@ -3,7 +3,11 @@
 #include "qt/LoopbackMaster.h"
 #include "qt/base/QtEventPump.h"
 #include "qt/base/QtNetClient.h"
+#include "support/AppSession.h"
 #include "support/Raises.h"
+#include "visual/Form.h"
+#include "visual/ListBox.h"
+#include "visual/VisualHost.h"
 
 #include <QElapsedTimer>
 #include <QTcpSocket>
@@ -368,6 +372,29 @@ TEST_F(NetClientTest, EndsAConnectionThatFloodsItWithMessages)
 TEST_F(NetClientTest, ShowsNoMonitorWithoutWindows)
 {
     client_->ShowMonitor();
+}
+
+/// The same with a session that has windows, if only in memory.
+class NetClientMonitorTest : public phial::test::AppSession
+{
+protected:
+    std::shared_ptr<Form> monitor() { return visualHost().forms().Item(u"frm_NetMonitor"); }
+
+    LoopbackMaster master_;
+    std::unique_ptr<QtNetClient> client_ = std::make_unique<QtNetClient>(std::make_shared<DispatchGuard>());
+};
+
+TEST_F(NetClientMonitorTest, ShowsTheTrafficInOneWindowThatEndsWithTheClient)
+{
+    client_->ShowMonitor();
+    client_->ShowMonitor();
+    EXPECT_EQ(visualHost().forms().Count(), 1U);
+    client_->Request(u"SERVER::MODE::", u"127.0.0.1", master_.port(), nullptr, true, NoAnswer);
+    const auto list = monitor()->control<ListBox>(u"lst_Lines");
+    ASSERT_EQ(list->ListCount(), 3); // connected, sent, received
+    EXPECT_NE(list->List(1).find(u"SERVER::MODE::"), String::npos);
+    client_.reset();
+    EXPECT_EQ(monitor(), nullptr);
 }
 
 } // namespace

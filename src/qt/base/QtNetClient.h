@@ -22,6 +22,8 @@ namespace phial::qt
 /// count, the last as the time in which a message that comes in must be complete. Errors of handlers of
 /// `RECEIVED` go to the guard.
 ///
+/// A text that is asked again because its answer did not come goes out under the same id, see RequestIds.
+///
 /// `Close`, and the client's end, end every running `Request` with the error of a lost connection.
 class QtNetClient final : public CoreNetClient
 {
