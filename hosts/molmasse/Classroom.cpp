@@ -56,7 +56,6 @@ void Classroom::join(const phial::FoundMaster& master)
     const auto server = QVAPP()->SERVER();
     server->DISCONNECT();
     takeOver(master.settings, master.address);
-    server->RECHECK();
     logOn();
 }
 
@@ -64,6 +63,9 @@ void Classroom::logOn()
 {
     become(State::Searching);
     const auto server = QVAPP()->SERVER();
+    // Another app on this computer may have the port for messages of the master, which the trainer can do
+    // without; the client has given up then.
+    server->RECHECK();
     // Without a network client there is no master either.
     phial::ignoringErrors([&] {
         if (server->CONNECT() && refreshSettings()) {

@@ -189,28 +189,31 @@ void frm_Molmasse::admit(bool tell)
         return;
     }
     isAsking_ = true;
+    showClassroom();
     const bool allowed = classroom_.allows(tell);
     isAsking_ = false;
-    asking_.Enabled(!allowed && form_->Visible());
-    if (form_->Visible()) {
+    showClassroom();
+    const bool isOpen = form_->Visible();
+    asking_.Enabled(!allowed && isOpen);
+    if (isOpen && (allowed || page_ != Page::Waiting)) {
         show(allowed ? Page::Start : Page::Waiting);
     }
 }
 
-/// The footer, and what must wait for the end of a log-on.
+/// The footer, and what must wait for the master.
 void frm_Molmasse::showClassroom()
 {
     const auto state = classroom_.state();
-    const bool searching = state == Classroom::State::Searching;
+    const bool busy = state == Classroom::State::Searching || isAsking_;
     caption(*form_, u"lab_Classroom", classroomText());
     get<phial::Shape>(u"shp_Classroom")
         ->FillColor(state == Classroom::State::Online ? style::Online : style::Offline);
-    if (searching) {
+    if (busy && page_ == Page::Start) {
         form_->focus(nullptr); // the levels cannot keep it
     }
-    levels_.each([searching](phial::ctl_Button& button, std::int32_t) { button.Enabled(!searching); });
+    levels_.each([busy](phial::ctl_Button& button, std::int32_t) { button.Enabled(!busy); });
     const auto choice = get<phial::ctl_Button>(u"but_Classroom");
-    choice->Enabled(!searching);
+    choice->Enabled(!busy);
     choice->Visible(Classroom::isWanted() && (page_ == Page::Start || page_ == Page::Waiting));
 }
 

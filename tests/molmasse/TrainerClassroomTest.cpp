@@ -1,11 +1,16 @@
+#include "app/cls_AppURL.h"
 #include "app/cls_AppUser.h"
 #include "app/cls_Language.h"
 #include "molmasse/ClassroomTest.h"
+#include "results/cls_DataEvent.h"
+#include "results/cls_DataEvents.h"
 #include "results/cls_DataScores.h"
 #include "server/cls_AppServer.h"
 #include "visual/Label.h"
 
 #include <gmock/gmock.h>
+
+#undef ACTION // of the test library, and a property of events
 
 namespace molmasse
 {
@@ -43,6 +48,14 @@ TEST_F(TrainerClassroom, IsEnteredOnceTheWindowStands)
     EXPECT_EQ(focused(), u"but_Level");
 }
 
+TEST_F(TrainerClassroom, IsEnteredBesideAnotherAppOfThisComputer)
+{
+    outside.network().refusePorts(true);
+    enter();
+
+    EXPECT_EQ(seen(u"lab_Classroom"), u"Im Klassenraum angemeldet (127.0.0.1)");
+}
+
 TEST_F(TrainerClassroom, KnowsThePupilsNameBeforeTheLogOn)
 {
     outside.settings().write(phial::SettingsHive::CurrentUser,
@@ -73,6 +86,32 @@ TEST_F(TrainerClassroom, LetsTheLevelsWaitForTheLogOn)
     EXPECT_TRUE(isSeen(u"pan_Task"));
 }
 
+TEST_F(TrainerClassroom, LetsNoRoundBeginBeforeItIsAllowed)
+{
+    app.clear();
+    int asked = 0;
+    whileAnswering = [&](const String& message) {
+        if (message.starts_with(u"SERVER::MODE::")) {
+            ++asked;
+            EXPECT_FALSE(isSeen(u"but_Level", 0));
+            EXPECT_FALSE(isSeen(u"but_Classroom"));
+        }
+    };
+    outside.dialogs().expect(Box::Error);
+    enter();
+    EXPECT_EQ(asked, 1);
+}
+
+TEST_F(TrainerClassroom, LeavesTheFocusWhereAWaitingPupilHasPutIt)
+{
+    app.clear();
+    outside.dialogs().expect(Box::Error);
+    enter();
+    phial::headless::tab(form());
+    outside.advance(5.1);
+    EXPECT_EQ(focused(), u"but_GiveUp");
+}
+
 TEST_F(TrainerClassroom, IsDoneWithoutWhenNoMasterAnswers)
 {
     isThere = false;
@@ -82,6 +121,21 @@ TEST_F(TrainerClassroom, IsDoneWithoutWhenNoMasterAnswers)
     expectRankBox();
     playRound();
     EXPECT_EQ(outside.dialogs().shown().back().title, u"Kunststück!");
+}
+
+TEST_F(TrainerClassroom, IsReplacedByALogOfThisComputerWithoutAMaster)
+{
+    isThere = false;
+    enter();
+    expectRankBox();
+    playRound();
+
+    phial::cls_DataEvents log;
+    ASSERT_TRUE(log.LOAD(phial::QVAPP()->URL()->DATAHIGHSCORES() + u"event.qv-log"));
+    ASSERT_EQ(log.COUNT(), 2);
+    EXPECT_EQ(log.ITEM(1)->ACTION(), u"RUNDE BEGONNEN");
+    EXPECT_EQ(log.ITEM(2)->ACTION(), u"RUNDE BEENDET");
+    EXPECT_EQ(log.ITEM(2)->ADDITIONAL()->Get(u"PUNKTE"), Variant(20));
 }
 
 TEST_F(TrainerClassroom, GreetsThePupil)
