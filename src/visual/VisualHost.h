@@ -61,7 +61,8 @@ public:
     virtual String clipboardText() const = 0;
     virtual void clipboardText(const String& value) = 0;
 
-    /// Begins a document on the printer; raises 482 when there is none. `title` names the job.
+    /// Begins a document on the printer; raises 482 when there is none. `title` names the job. Ending the
+    /// document may show it to the user first, who may then do without it.
     virtual std::shared_ptr<DrawBackend> openPrinter(PageOrientation orientation, const String& title) = 0;
 
 private:

@@ -169,6 +169,13 @@ TEST_F(DataEvents, AreReadBackPackedAndCopiedWhole)
     EXPECT_EQ(copy.ITEM(1)->ADDITIONAL()->Count(), 1);
 }
 
+TEST_F(DataEvents, PackTheIdAndAnArrayOfTheirOneTextForms)
+{
+    EXPECT_EQ(log.DATA()->Pack(), u"QV1;2;E0=;A2=0;;");
+    log.CREATE();
+    EXPECT_EQ(log.ITEM(1)->DATA()->Pack(), u"QV1;7;E0=;T0=;T0=;T0=;T0=;M1=0;T6=QV1;0;;");
+}
+
 TEST_F(DataEvents, StayAsTheyWereForAnotherVersion)
 {
     fillWithTwo();

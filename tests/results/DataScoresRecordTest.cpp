@@ -137,6 +137,7 @@ TEST_F(DataScoresRecord, PacksSixValuesTheLastWithAllEntries)
     list.DATABASE()->Import(std::make_shared<cls_DataScore>());
     list.DATABASE()->Import(std::make_shared<cls_DataScore>());
     const String entry = list.ITEM(1)->DATA()->Pack();
+    EXPECT_NE(list.DATA()->Pack().find(u"%007BNEXT_ITEM}"), String::npos);
     cls_DataScores unpacked;
     unpacked.DATA()->Unpack(list.DATA()->Pack());
     EXPECT_EQ(unpacked.COUNT(), 2);
@@ -145,6 +146,7 @@ TEST_F(DataScoresRecord, PacksSixValuesTheLastWithAllEntries)
 
 TEST_F(DataScoresRecord, UnpacksAnEmptyListWithoutEntries)
 {
+    EXPECT_EQ(cls_DataScores().DATA()->Pack(), u"QV1;6;E0=;I2=10;B1=0;B1=0;I1=1;T0=;");
     cls_DataScores unpacked;
     fill(unpacked, {1, 2, 3});
     unpacked.DATA()->Unpack(cls_DataScores().DATA()->Pack());
