@@ -142,7 +142,7 @@ std::vector<Sample> listActions(Make make)
                        return make(Entries)->EXPORT() ? say(u"gesichert|saved")
                                                       : say(u"nicht gesichert|not saved");
                    }),
-            printing(u"Drucken|Print", [make] {
+            acting(u"Drucken|Print", [make] { // a preview comes first
                 make(Entries)->PRINTOUT(say(u"Liste der Galerie|List of the gallery"));
                 return String();
             })};

@@ -3,10 +3,14 @@
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "core/Colour.h"
+#include "core/NumberText.h"
 #include "gallery/GalleryTest.h"
+#include "results/ctl_Mark.h"
 #include "visual/Label.h"
 #include "visual/PictureBox.h"
 #include "visual/VisualHost.h"
+
+#include <set>
 
 namespace gallery
 {
@@ -304,6 +308,49 @@ TEST_F(GalleryTest, TheCoverGoesByAKey)
 
     EXPECT_FALSE(cover->Visible());
     EXPECT_TRUE(form().Visible());
+}
+
+TEST_F(GalleryTest, SetsAMarkByItsText)
+{
+    open();
+    show(u"ctl_Mark");
+    set(u"MARKTEXT", u"2-");
+    EXPECT_EQ(get<phial::ctl_Mark>(u"ctl_Mark1")->MARK(), phial::enm_Mark::ID_Mark_2M);
+    EXPECT_EQ(propertyText(u"MARK"), u"MARK = 10");
+}
+
+TEST_F(GalleryTest, TheScaleHasEachMark)
+{
+    open();
+    std::set<phial::enm_Mark> shown;
+    for (const std::size_t half : {0U, 1U}) {
+        show(u"enm_Mark", half);
+        for (int place = 1; place <= 8; ++place) {
+            shown.insert(get<phial::ctl_Mark>(u"ctl_Mark" + phial::plainText(place))->MARK());
+        }
+    }
+    EXPECT_EQ(shown.size(), 16U);
+}
+
+TEST_F(GalleryTest, AHighscoreGoesWithItsExhibit)
+{
+    open();
+    show(u"frm_DialogHighscore", 1);
+    const auto& forms = phial::visualHost().forms();
+    ASSERT_EQ(forms.Count(), 2U);
+    const auto window = forms.Item(1);
+    EXPECT_TRUE(window->Visible());
+    EXPECT_EQ(window->control<phial::Label>(u"lab_Rank", 9)->Caption(), u"10");
+    show(u"Label");
+    EXPECT_FALSE(window->isLoaded());
+}
+
+TEST_F(GalleryTest, TellsWhetherAListWasSaved)
+{
+    open();
+    outside.dialogs().expectSaveFile(u"");
+    show(u"cls_DataScores", 2);
+    EXPECT_EQ(get<phial::ctl_Label>(u"ctl_Label1")->Caption(), u"Antwort: nicht gesichert");
 }
 
 TEST_F(GalleryTest, TheTimerCounts)
