@@ -1,5 +1,6 @@
 #include "qt/base/MasterSearch.h"
 
+#include "qt/base/NetAddress.h"
 #include "qt/base/QtText.h"
 #include "server/Announcement.h"
 
@@ -33,19 +34,11 @@ QList<QHostAddress> placesToAsk()
     return places;
 }
 
-/// The address as people write it, without the long form of an old one.
-String plainAddress(const QHostAddress& address)
-{
-    bool isOld = false;
-    const QHostAddress old(address.toIPv4Address(&isOld));
-    return fromQt((isOld ? old : address).toString());
-}
-
 void note(const QNetworkDatagram& datagram, std::vector<FoundMaster>& found)
 {
     const QByteArray bytes = datagram.data();
     const auto answer = decodeAnnouncement({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    const String address = plainAddress(datagram.senderAddress());
+    const String address = addressText(datagram.senderAddress());
     const bool isKnown =
         std::ranges::any_of(found, [&](const FoundMaster& master) { return master.address == address; });
     if (answer && !answer->isQuestion() && !isKnown && found.size() < MostMasters) {

@@ -1,5 +1,6 @@
 #include "qt/base/NetConnection.h"
 
+#include "core/NumberText.h"
 #include "core/RuntimeError.h"
 #include "qt/base/Milliseconds.h"
 #include "qt/base/NetLimits.h"
@@ -89,7 +90,7 @@ NetConnection::NetConnection(StringView host, std::int32_t port, std::size_t pie
 
 String NetConnection::peerName(StringView host, std::int32_t port)
 {
-    return String(host) + u":" + fromUtf8(std::to_string(port));
+    return String(host) + u":" + plainText(port);
 }
 
 NetConnection::~NetConnection()

@@ -2,20 +2,21 @@
 
 #include "core/RuntimeError.h"
 #include "core/SessionState.h"
+#include "qt/base/NetAddress.h"
 #include "qt/base/NetConnection.h"
 #include "qt/base/NetPort.h"
 #include "qt/base/QtClock.h"
-#include "qt/base/QtText.h"
 #include "server/RequestIds.h"
 #include "server/TrafficLog.h"
 #include "server/frm_NetMonitor.h"
 
 #include <QCoreApplication>
-#include <QHostAddress>
 #include <QRandomGenerator>
 
 #include <algorithm>
 #include <limits>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace phial::qt
@@ -26,14 +27,6 @@ namespace
 
 constexpr std::int32_t LeastPiece = 512;
 constexpr std::int32_t GreatestPiece = 1 << 20;
-
-/// In numbers and dots, also when it came over the newer protocol.
-String addressText(const QHostAddress& address)
-{
-    bool isOld = false;
-    const QHostAddress old(address.toIPv4Address(&isOld));
-    return fromQt((isOld ? old : address).toString());
-}
 
 String peerOf(const QTcpSocket& socket)
 {
