@@ -1,8 +1,6 @@
 #include "master/ClientConnection.h"
 
-#include "qt/base/QtText.h"
-
-#include <QHostAddress>
+#include "qt/base/NetAddress.h"
 
 #include <array>
 
@@ -15,20 +13,14 @@ namespace
 /// What is read at a time; as much again may wait in the socket.
 constexpr qint64 PieceBytes = 16 << 10;
 
-String addressText(const QHostAddress& address)
-{
-    bool isOldForm = false;
-    const quint32 number = address.toIPv4Address(&isOldForm); // also where it is written as a new one
-    return qt::fromQt(isOldForm ? QHostAddress(number).toString() : address.toString());
-}
-
 } // namespace
 
 ClientConnection::ClientConnection(std::unique_ptr<QTcpSocket> socket, const ServerLimits& limits,
                                    std::function<double()> now)
     : socket_(std::move(socket)), limits_(limits), now_(std::move(now)), reader_(limits.messageBytes),
-      logOns_(limits.logOnsPerSecond, limits.logOnsAtOnce), peerAddress_(addressText(socket_->peerAddress())),
-      ownAddress_(addressText(socket_->localAddress())), heard_(now_()), completed_(heard_)
+      logOns_(limits.logOnsPerSecond, limits.logOnsAtOnce),
+      peerAddress_(qt::addressText(socket_->peerAddress())),
+      ownAddress_(qt::addressText(socket_->localAddress())), heard_(now_()), completed_(heard_)
 {
     socket_->setParent(nullptr);
     socket_->setReadBufferSize(PieceBytes);
