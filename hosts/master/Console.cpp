@@ -128,7 +128,7 @@ Console::Outcome Console::run(StringView line)
     }
     const auto table = commands();
     const auto command = std::ranges::find_if(
-        table, [&](const Command& entry) { return equalsIgnoringCase(entry.name, word); });
+        table, [&typed = word](const Command& entry) { return equalsIgnoringCase(entry.name, typed); });
     if (command == table.end()) {
         return refuse(u"\"{1}\" kenne ich nicht; \"help\" zeigt, was es gibt.",
                       u"I do not know \"{1}\"; \"help\" shows what there is.", {word});
