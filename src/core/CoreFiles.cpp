@@ -113,7 +113,8 @@ bool CoreFiles::WriteScratch(StringView pPath, StringView pText)
 
 bool CoreFiles::AppendText(StringView pPath, StringView pText)
 {
-    return ignoringErrors([&] { fileSystem_->append(native(pPath), toUtf8(pText)); });
+    return !endsInSeparator(pPath) &&
+           ignoringErrors([&] { fileSystem_->append(native(pPath), toUtf8(pText)); });
 }
 
 void CoreFiles::Copy(StringView pFrom, StringView pTo)

@@ -116,6 +116,24 @@ TEST_F(CoreFilesTest, AFullDiskKeepsTheOldFile)
     EXPECT_THAT(folder.names(), ElementsAre("a.txt"));
 }
 
+TEST_F(CoreFilesTest, TextIsAddedToTheEnd)
+{
+    EXPECT_TRUE(files.AppendText(path + u"a.log", u"eins\r\n"));
+    EXPECT_TRUE(files.AppendText(path + u"A.LOG", u"zwölf\r\n"));
+    EXPECT_EQ(files.ReadText(path + u"a.log"), u"eins\r\nzwölf\r\n");
+    EXPECT_FALSE(files.AppendText(path + u"missing\\a.log", u"x"));
+    EXPECT_FALSE(files.AppendText(path + u"a.log\\", u"x"));
+    EXPECT_FALSE(files.AppendText(path, u"x"));
+}
+
+TEST_F(CoreFilesTest, OnAFullDiskTheBeginningOfAnAddedTextStays)
+{
+    files.AppendText(path + u"a.log", u"old ");
+    outside.files().freeBytes(2);
+    EXPECT_FALSE(files.AppendText(path + u"a.log", u"new"));
+    EXPECT_EQ(files.ReadText(path + u"a.log"), u"old ne");
+}
+
 TEST_F(CoreFilesTest, AReadOnlyFolderRefusesEveryChange)
 {
     folder.write("a.txt", "old");
