@@ -274,7 +274,7 @@ void cls_AppServer::tryLogon()
         return;
     }
     ignoringErrors([&] {
-        explain(isRight ? u"SERVER:CONNECT Login with errors: " + *reply.error
+        explain(isRight ? u"SERVER:CONNECT Login with errors: " + reply.error.value_or(String())
                         : u"SERVER:CONNECT Incorrect logon answer received: " + asText(reply.value));
     });
 }
@@ -300,21 +300,23 @@ void cls_AppServer::welcome()
     }
 }
 
-/// One request. Nothing is raised: what fails is the pending error of its reply.
+/// One request; nothing is raised.
 cls_AppServer::Reply cls_AppServer::ask(StringView module, StringView command, StringView package)
 {
-    Reply reply;
     lastAnswer_.clear();
-    reply.attempt([&] { note(String(u"REQUEST: ").append(module).append(u":").append(command)); });
+    ignoringErrors([&] { note(String(u"REQUEST: ").append(module).append(u":").append(command)); });
     const auto answer = sendUntilAnswered(requestText(module, command, package), responseTimeout(package));
-    reply.error.reset();
-    if (!answer) {
-        return reply;
-    }
-    reply.attempt([&] { note(u"ANSWER: " + *answer); });
-    reply.attempt([&] { explain(u"SERVER:REQUEST Answer: " + *answer); });
-    reply.attempt([&] { reply.value = answerValue(*answer); });
-    lastAnswer_ = answerPayload(*answer);
+    return answer ? evaluate(*answer) : Reply();
+}
+
+/// What fails is the pending error of the reply.
+cls_AppServer::Reply cls_AppServer::evaluate(const String& answer)
+{
+    Reply reply;
+    reply.attempt([&] { note(u"ANSWER: " + answer); });
+    reply.attempt([&] { explain(u"SERVER:REQUEST Answer: " + answer); });
+    reply.attempt([&] { reply.value = answerValue(answer); });
+    lastAnswer_ = answerPayload(answer);
     reply.attempt([&] { explain(u"SERVER:REQUEST End"); });
     return reply;
 }

@@ -87,6 +87,7 @@ private:
     void welcome();
 
     Reply ask(StringView module, StringView command, StringView package);
+    Reply evaluate(const String& answer);
     double responseTimeout(StringView package) const;
     std::optional<String> sendUntilAnswered(StringView message, double timeout);
     std::optional<String> sendOnce(StringView message);
