@@ -22,16 +22,13 @@ phial::CoreParameters additionalValues(const RoundResult& result)
 
 String certificateText(const RoundResult& result, StringView exercise)
 {
-    return translate(u"hat zu {1} von {2} Formeln die molare Masse bestimmt\r\n"
-                     u"(Schwierigkeit: {3})\r\n"
-                     u"und dabei {4} von {5} Punkten erreicht.\r\n"
-                     u"Note: {6}",
-                     u"has worked out the molar mass of {1} of {2} formulas\r\n"
-                     u"(difficulty: {3})\r\n"
-                     u"and reached {4} of {5} points.\r\n"
-                     u"Mark: {6}",
-                     {number(result.solved), number(result.tasks), String(exercise), number(result.points),
-                      number(result.maximum), markText(result)});
+    return translate(
+        u"hat zu {1} von {2} Formeln (Schwierigkeit: {3}) die molare Masse bestimmt und dabei "
+        u"{4} von {5} Punkten erreicht.\r\nNote: {6}",
+        u"has worked out the molar mass of {1} of {2} formulas (difficulty: {3}) and reached {4} of "
+        u"{5} points.\r\nMark: {6}",
+        {number(result.solved), number(result.tasks), String(exercise), number(result.points),
+         number(result.maximum), markText(result)});
 }
 
 String markText(const RoundResult& result)

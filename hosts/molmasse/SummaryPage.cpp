@@ -125,8 +125,10 @@ void SummaryPage::printCertificate()
 {
     orTell(
         [this] {
+            phial::CoreParameters more;
+            more.Set(u"TITLE", translate(u"Molmassen-Diplom", u"Molar Mass Diploma"));
             QVAPP()->RATE()->PRINTCERTIFICATE(
-                certificateText(result_, translate(germanTitle_, englishTitle_)));
+                certificateText(result_, translate(germanTitle_, englishTitle_)), &more);
         },
         translate(u"Die Urkunde konnte nicht gedruckt werden. Bitte prüfe den Drucker.",
                   u"The certificate could not be printed. Please check the printer."));

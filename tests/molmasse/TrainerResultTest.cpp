@@ -164,7 +164,7 @@ TEST_F(TrainerResult, IsPrintedOnACertificate)
 
 TEST_F(TrainerResult, IsPrintedInTheLanguageInForce)
 {
-    outside.forms().add(certificate(), {{u"text", u"{TEXT}"}});
+    outside.forms().add(certificate(), {{u"text", u"{TEXT}"}, {u"title", u"{TITLE}"}});
     open();
     expectRankBox();
     playRound();
@@ -172,6 +172,7 @@ TEST_F(TrainerResult, IsPrintedInTheLanguageInForce)
     touch(u"but_Certificate");
 
     EXPECT_THAT(phial::toUtf8(outside.forms().printed().front().texts.at(0)), HasSubstr("difficulty: Easy"));
+    EXPECT_EQ(outside.forms().printed().front().texts.at(1), u"Molar Mass Diploma");
 }
 
 TEST_F(TrainerResult, WithoutACertificateFileIsSaid)
