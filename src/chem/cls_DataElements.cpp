@@ -13,8 +13,6 @@
 #include "core/ProgramTitle.h"
 #include "core/RecordFile.h"
 
-#include <algorithm>
-
 namespace phial
 {
 
@@ -22,9 +20,6 @@ namespace
 {
 
 constexpr StringView StoredVersion = u"1.0";
-
-// What a record file may claim to hold; far above any table, far below what would exhaust memory.
-constexpr std::int32_t MaxStoredElements = 100'000;
 
 constexpr Member Table[] = {
     members::readOnly<cls_DataElements, std::int32_t, &cls_DataElements::COUNT>(u"COUNT"),
@@ -177,11 +172,11 @@ double cls_DataElements::MOL(StringView pTerm) const
 {
     double sum = 0;
     for (const AtomCount& atoms : AtomCounts(pTerm)) {
-        const auto found = find(atoms.symbol);
-        if (found == entries_.end()) {
+        const std::int32_t found = find(atoms.symbol);
+        if (found == 0) {
             return askForMass(atoms.symbol, pTerm);
         }
-        sum += (*found)->MOL() * atoms.count;
+        sum += entries_.at(found)->MOL() * atoms.count;
     }
     return sum;
 }
@@ -197,24 +192,14 @@ bool cls_DataElements::DataCopy(tmp_Data& pSource)
     if (!source) {
         return false;
     }
-    std::vector<std::shared_ptr<cls_DataElement>> copies;
-    for (std::int32_t index = 1; index <= source->COUNT(); ++index) {
-        copies.push_back(std::make_shared<cls_DataElement>());
-        copies.back()->DATA()->Copy(*source->ITEM(index));
-    }
     data_.get()->ID(source->data_.get()->ID());
-    entries_ = std::move(copies);
+    entries_.copyFrom(*source->DATABASE());
     return true;
 }
 
-// The array holds each entry in its own one-text form.
 String cls_DataElements::DataPACK()
 {
-    Variant::Array packed;
-    for (std::int32_t index = 1; index <= DatabaseCount(); ++index) {
-        packed.emplace_back(entry(index)->DATA()->Pack());
-    }
-    return CoreValuePacker::Pack({data_.get()->ID(), Variant(std::move(packed))});
+    return CoreValuePacker::Pack({data_.get()->ID(), entries_.packedArray()});
 }
 
 void cls_DataElements::DataUnpack(StringView pText)
@@ -222,21 +207,14 @@ void cls_DataElements::DataUnpack(StringView pText)
     Variant id;
     Variant packed;
     CoreValuePacker::Unpack(pText, {id, packed});
-    std::vector<std::shared_ptr<cls_DataElement>> entries;
-    for (const Variant& text : packed.array()) {
-        entries.push_back(std::make_shared<cls_DataElement>());
-        entries.back()->DATA()->Unpack(text.text());
-    }
+    entries_.unpackArray(packed);
     data_.get()->ID(std::move(id));
-    entries_ = std::move(entries);
 }
 
 void cls_DataElements::DataStore(CoreDataStream& pStream)
 {
-    pStream.Write(StoredVersion, data_.get()->ID(), DatabaseCount());
-    for (std::int32_t index = 1; index <= DatabaseCount(); ++index) {
-        entry(index)->DATA()->Store(pStream);
-    }
+    pStream.Write(StoredVersion, data_.get()->ID());
+    entries_.store(pStream);
 }
 
 void cls_DataElements::DataRead(CoreDataStream& pStream)
@@ -247,16 +225,7 @@ void cls_DataElements::DataRead(CoreDataStream& pStream)
         return;
     }
     data_.get()->ID(pStream.ReadValue());
-    std::int32_t count = 0;
-    pStream.Read(count);
-    if (count < 0 || count > MaxStoredElements) {
-        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
-    }
-    entries_.assign(static_cast<std::size_t>(count), nullptr);
-    for (auto& slot : entries_) {
-        slot = std::make_shared<cls_DataElement>();
-        slot->DATA()->Read(pStream);
-    }
+    entries_.read(pStream);
 }
 
 std::shared_ptr<tmp_Data> cls_DataElements::DataSpawn()
@@ -271,71 +240,43 @@ void cls_DataElements::DatabaseClear()
 
 std::int32_t cls_DataElements::DatabaseCount()
 {
-    return static_cast<std::int32_t>(entries_.size());
+    return entries_.count();
 }
 
 void cls_DataElements::DatabaseImport(const std::shared_ptr<tmp_Data>& pItem, const Variant* pID)
 {
-    auto element = std::dynamic_pointer_cast<cls_DataElement>(pItem);
-    if (!element) {
-        throw RuntimeError(ErrorNumber::TypeMismatch);
-    }
-    if (pID) {
-        element->DATA()->ID(*pID);
-    }
-    entries_.push_back(std::move(element));
+    entries_.import(pItem, pID);
 }
 
 std::shared_ptr<tmp_Data> cls_DataElements::DatabaseItem(std::int32_t pIndex)
 {
-    return entry(pIndex);
+    return entries_.at(pIndex);
 }
 
 ObjectPtr cls_DataElements::DatabaseItemObj(std::int32_t pIndex)
 {
-    return entry(pIndex);
+    return entries_.at(pIndex);
 }
 
 // The last entry takes the place of the removed one, so the order changes.
 void cls_DataElements::DatabaseRemove(std::int32_t pIndex)
 {
-    slot(pIndex) = entries_.back();
-    entries_.pop_back();
+    entries_.removeAndFillWithLast(pIndex);
 }
 
 std::int32_t cls_DataElements::DatabaseSearch(const Variant& pKey)
 {
-    const auto found =
-        pKey.isText() ? find(pKey.text()) : std::ranges::find_if(entries_, [&](const auto& element) {
-            return element && element->id() == pKey;
-        });
-    return found == entries_.end() ? 0 : static_cast<std::int32_t>(found - entries_.begin()) + 1;
+    return pKey.isText()
+               ? find(pKey.text())
+               : entries_.find([&](const cls_DataElement& element) { return element.id() == pKey; });
 }
 
-cls_DataElements::Entries::const_iterator cls_DataElements::find(StringView symbol) const
+std::int32_t cls_DataElements::find(StringView symbol) const
 {
     const StringView key = withoutOuterBlanks(symbol);
-    return std::ranges::find_if(entries_, [&](const auto& element) {
-        return element && element->id().isText() &&
-               equalsIgnoringCase(withoutOuterBlanks(element->id().text()), key);
+    return entries_.find([&](const cls_DataElement& element) {
+        return element.id().isText() && equalsIgnoringCase(withoutOuterBlanks(element.id().text()), key);
     });
-}
-
-std::shared_ptr<cls_DataElement>& cls_DataElements::slot(std::int32_t index)
-{
-    if (index < 1 || index > DatabaseCount()) {
-        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
-    }
-    return entries_[static_cast<std::size_t>(index) - 1];
-}
-
-const std::shared_ptr<cls_DataElement>& cls_DataElements::entry(std::int32_t index)
-{
-    auto& element = slot(index);
-    if (!element) {
-        element = std::make_shared<cls_DataElement>();
-    }
-    return element;
 }
 
 } // namespace phial

@@ -3,12 +3,12 @@
 #include "chem/cls_DataElement.h"
 #include "core/CoreDatabase.h"
 #include "core/CoreTokenList.h"
+#include "core/RecordEntries.h"
 #include "core/tmp_Database.h"
 
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <vector>
 
 namespace phial
 {
@@ -87,9 +87,6 @@ public:
     MemberTable members() const override;
 
 private:
-    // An empty slot is filled with a new element when it is first read.
-    using Entries = std::vector<std::shared_ptr<cls_DataElement>>;
-
     bool DataCopy(tmp_Data& pSource) override;
     String DataPACK() override;
     void DataUnpack(StringView pText) override;
@@ -105,14 +102,12 @@ private:
     void DatabaseRemove(std::int32_t pIndex) override;
     std::int32_t DatabaseSearch(const Variant& pKey) override;
 
-    std::shared_ptr<cls_DataElement>& slot(std::int32_t index);
-    const std::shared_ptr<cls_DataElement>& entry(std::int32_t index);
-    Entries::const_iterator find(StringView symbol) const;
+    std::int32_t find(StringView symbol) const;
     bool import(CoreDataFile& file, ElementFileReader reader);
 
     DataHolder data_;
     DatabaseHolder database_;
-    Entries entries_;
+    RecordEntries<cls_DataElement> entries_;
 };
 
 } // namespace phial

@@ -28,7 +28,7 @@ public:
 
     std::int32_t count() const { return static_cast<std::int32_t>(slots_.size()); }
 
-    const Pointer& at(std::int32_t position)
+    const Pointer& at(std::int32_t position) const
     {
         Pointer& slot = slotAt(position);
         if (!slot) {
@@ -85,7 +85,7 @@ public:
 
     /// The position of the first entry that fits; 0 when none does.
     template <typename Fits>
-    std::int32_t find(const Fits& fits)
+    std::int32_t find(const Fits& fits) const
     {
         for (std::int32_t position = 1; position <= count(); ++position) {
             if (fits(*at(position))) {
@@ -97,7 +97,7 @@ public:
 
     /// Calls `work` for each entry in turn.
     template <typename Work>
-    void forEach(const Work& work)
+    void forEach(const Work& work) const
     {
         for (std::int32_t position = 1; position <= count(); ++position) {
             work(*at(position));
@@ -117,7 +117,7 @@ public:
 
     /// The entries in a stream: their number, then each by its own values. A number that no list has raises
     /// 9; when a later value fails, what was read until then stays.
-    void store(CoreDataStream& stream)
+    void store(CoreDataStream& stream) const
     {
         stream.Write(count());
         forEach([&](Entry& entry) { entry.DATA()->Store(stream); });
@@ -134,7 +134,7 @@ public:
     }
 
     /// The one-text forms of the entries, and new entries from such texts.
-    std::vector<String> packed()
+    std::vector<String> packed() const
     {
         std::vector<String> texts;
         forEach([&](Entry& entry) { texts.push_back(entry.DATA()->Pack()); });
@@ -151,8 +151,23 @@ public:
         slots_ = std::move(entries);
     }
 
+    /// The same as an array of texts; unpacking raises 13 for another value.
+    Variant packedArray() const
+    {
+        const std::vector<String> texts = packed();
+        return Variant::Array(texts.begin(), texts.end());
+    }
+    void unpackArray(const Variant& array)
+    {
+        std::vector<StringView> texts;
+        for (const Variant& text : array.array()) {
+            texts.emplace_back(text.text());
+        }
+        unpack(texts);
+    }
+
 private:
-    Pointer& slotAt(std::int32_t position)
+    Pointer& slotAt(std::int32_t position) const
     {
         if (position < 1 || position > count()) {
             throw RuntimeError(ErrorNumber::IndexOutOfBounds);
@@ -160,7 +175,7 @@ private:
         return slots_[static_cast<std::size_t>(position) - 1];
     }
 
-    std::vector<Pointer> slots_;
+    mutable std::vector<Pointer> slots_; // filled by reading, which nobody can tell
 };
 
 } // namespace phial

@@ -93,12 +93,12 @@ void cls_DataEvent::DataUnpack(StringView pText)
     std::array<Variant, 7> values;
     auto& [id, screenName, userName, computer, action, timeStamp, additional] = values;
     CoreValuePacker::Unpack(pText, {id, screenName, userName, computer, action, timeStamp, additional});
+    ADDITIONAL()->Unpack(additional.toText(), 0, 1);
     screenName_ = screenName.toText();
     userName_ = userName.toText();
     computer_ = computer.toText();
     action_ = action.toText();
     timeStamp_ = timeStamp.toMoment();
-    ADDITIONAL()->Unpack(additional.toText(), 0, 1);
     data_.get()->ID(id);
 }
 

@@ -152,11 +152,9 @@ bool cls_DataEvents::DataCopy(tmp_Data& pSource)
     return true;
 }
 
-// The array holds each entry in its own one-text form.
 String cls_DataEvents::DataPACK()
 {
-    const std::vector<String> texts = entries_.packed();
-    return CoreValuePacker::Pack({data_.get()->ID(), Variant::Array(texts.begin(), texts.end())});
+    return CoreValuePacker::Pack({data_.get()->ID(), entries_.packedArray()});
 }
 
 void cls_DataEvents::DataUnpack(StringView pText)
@@ -164,11 +162,7 @@ void cls_DataEvents::DataUnpack(StringView pText)
     Variant id;
     Variant packed;
     CoreValuePacker::Unpack(pText, {id, packed});
-    std::vector<StringView> texts;
-    for (const Variant& text : packed.array()) {
-        texts.emplace_back(text.text());
-    }
-    entries_.unpack(texts);
+    entries_.unpackArray(packed);
     data_.get()->ID(std::move(id));
 }
 

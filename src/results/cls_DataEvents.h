@@ -19,7 +19,8 @@ namespace phial
 {
 
 /// The log of what users did, in the order of adding until one is removed: the last entry takes the place of
-/// a removed one. A search finds an entry by the ID of its header.
+/// a removed one. A search finds an entry by the ID of its header; the empty text finds the first one without
+/// ID, as `ADD` makes them.
 class cls_DataEvents : public tmp_Data,
                        public tmp_Database,
                        public Object,

@@ -124,6 +124,7 @@ void cls_DataScore::DataUnpack(StringView pText)
     auto& [id, rank, screenName, userName, computer, uebm, points, pointsMax, timeStamp, additional] = values;
     CoreValuePacker::Unpack(
         pText, {id, rank, screenName, userName, computer, uebm, points, pointsMax, timeStamp, additional});
+    ADDITIONAL()->Unpack(additional.toText(), 0, 1);
     rank_ = rank.toWhole();
     screenName_ = screenName.toText();
     userName_ = userName.toText();
@@ -132,7 +133,6 @@ void cls_DataScore::DataUnpack(StringView pText)
     points_ = points.toReal();
     pointsMax_ = pointsMax.toReal();
     timeStamp_ = timeStamp.toMoment();
-    ADDITIONAL()->Unpack(additional.toText(), 0, 1);
     data_.get()->ID(id);
 }
 
