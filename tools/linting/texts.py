@@ -30,6 +30,7 @@ BY_NAME = {"setMember", "trySet"}
 LEAST_LETTERS = 3  # of a text that has to be translated
 TAG = re.compile(r"<[^<>]{1,8}>")
 PLACEHOLDER = re.compile(r"\{\d+\}")
+NAME_IN_CODE = re.compile(r"[a-z]+_\w+")
 WORD = re.compile(r"[^\W\d_]+")
 
 # What marks a text as German: words that no English sentence has, letters, and endings.
@@ -102,7 +103,7 @@ class Judge:
     def problems(self, found):
         constants = {literal.constant for literal in found}
         for literal in found:
-            if not self._meets(self.german_only, literal.text) and _has_letters(literal.text) \
+            if not self._meets(self.german_only, literal.text) and _is_text(literal.text) \
                     and not _has_english_constant(literal, constants):
                 what = self._problem(literal)
                 if what:
@@ -242,6 +243,10 @@ def reads_german(text):
 
 def _is_english(text):
     return bool(WORD.search(_words_only(text))) and not reads_german(text)
+
+
+def _is_text(text):
+    return _has_letters(text) and not NAME_IN_CODE.fullmatch(text)
 
 
 def _has_letters(text):
