@@ -142,8 +142,8 @@ std::shared_ptr<TrafficLog> sampleTraffic()
     add(0, TrafficKind::Note, u"verbunden|connected");
     add(0, TrafficKind::Sent, u"SERVER::LOGON::Anna");
     add(0, TrafficKind::Received, u"008:LOGON:OK");
-    add(2, TrafficKind::Sent, u"PROPERTIES::GET::WELCOMEMESSAGE");
-    add(2, TrafficKind::Received, u"008:Willkommen im Chemieraum!");
+    add(2, TrafficKind::Sent, u"SERVER::GAMEIDENT::");
+    add(2, TrafficKind::Received, u"008:Molmasse");
     add(64, TrafficKind::Sent,
         u"HIGHSCORE::SUBMIT::QV1;7;D1=8;D2=10;T4=Salz;T6=QV1;0;;T4=Anna;T4=PC07;T5=anna7;");
     add(64, TrafficKind::Received, u"008:3");
