@@ -14,6 +14,17 @@ TEST(StringTest, Utf8HoldsEveryLengthOfSequence)
     EXPECT_EQ(fromUtf8("a\xC3\xA4\xE2\x82\xAC\xF0\x9F\xA7\xAA"), u"a\u00E4\u20AC\U0001F9EA");
 }
 
+TEST(StringTest, AnySequenceStandsAnywhereInALongText)
+{
+    for (std::size_t before = 0; before < 100; ++before) {
+        const std::string ascii(before, 'x');
+        const String same(before, u'x');
+        EXPECT_EQ(fromUtf8(ascii + "\xC3\xA4\xF0\x9F\xA7\xAA\xFF" + ascii),
+                  same + u"\u00E4\U0001F9EA\uFFFD" + same);
+        EXPECT_EQ(toUtf8(same + u"\u00E4\U0001F9EA" + same), ascii + "\xC3\xA4\xF0\x9F\xA7\xAA" + ascii);
+    }
+}
+
 TEST(StringTest, LoneSurrogateHalvesComeBack)
 {
     const String halves = {u'a', 0xD83E, u'b', 0xDDEA, 0xDDEA, 0xD83E};
