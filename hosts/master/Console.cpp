@@ -60,6 +60,15 @@ String readable(const String& packed)
     return list.TextLine();
 }
 
+/// A setting's value as a teacher types it.
+String shown(const Variant& value)
+{
+    if (value.kind() == Variant::Kind::Boolean) {
+        return value.toBoolean() ? translated(u"ja", u"yes") : translated(u"nein", u"no");
+    }
+    return value.toText();
+}
+
 /// How many entries are wanted: a number, `all` (`alle`), or nothing for the usual number. No value for
 /// anything else.
 std::optional<std::size_t> wantedCount(StringView argument)
@@ -224,7 +233,7 @@ void Console::showSettings()
         tell(u"Es ist nichts gesetzt.", u"Nothing is set.");
     }
     for (std::int32_t at = 1; at <= all.Count(); ++at) {
-        output_ << toUtf8(all.Name(at)) << " = " << toUtf8(all.Value(at).toText()) << '\n';
+        output_ << toUtf8(all.Name(at)) << " = " << toUtf8(shown(all.Value(at))) << '\n';
     }
 }
 

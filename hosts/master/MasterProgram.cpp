@@ -24,6 +24,7 @@
 #include "qt/base/QtText.h"
 
 #include <QCoreApplication>
+#include <QNetworkInterface>
 
 #include <algorithm>
 #include <filesystem>
@@ -194,15 +195,28 @@ bool remember(const Options& options, const StorePlace& place)
     return true;
 }
 
-void sayWhereItListens(const MasterServer& server, const QHostAddress& address)
+/// The addresses under which other computers find this one, as pupils would type them.
+String ownAddresses()
 {
-    const bool isHereOnly = address.isLoopback();
+    String list;
+    for (const QHostAddress& address : QNetworkInterface::allAddresses()) {
+        if (address.protocol() == QAbstractSocket::IPv4Protocol && !address.isLoopback()) {
+            list.append(list.empty() ? u"" : u", ").append(qt::fromQt(address.toString()));
+        }
+    }
+    return list;
+}
+
+void tellWhereItListens(const MasterServer& server, const QHostAddress& address)
+{
     tell(std::cout, u"Der Master läuft auf {1}, Port {2}.", u"The master is running on {1}, port {2}.",
          {qt::fromQt(address.toString()), std::int32_t{server.port()}});
-    if (isHereOnly) {
+    if (address.isLoopback()) {
         tell(std::cout,
              u"Nur Programme auf diesem Rechner erreichen ihn; --listen 0.0.0.0 öffnet ihn für das Netz.",
              u"Only programs on this computer reach it; --listen 0.0.0.0 opens it to the network.");
+    } else if (address == QHostAddress(QHostAddress::AnyIPv4) || address == QHostAddress(QHostAddress::Any)) {
+        tell(std::cout, u"Adresse für die Schüler: {1}", u"Address for pupils: {1}", {ownAddresses()});
     }
     if (!server.answersQuestions()) {
         tell(std::cout, u"Er lässt sich nicht suchen, seine Adresse muss eingegeben werden.",
@@ -225,6 +239,9 @@ public:
         : console_(console), guard_(guard),
           input_([this](const std::string& line) { guard_.run([&] { take(line); }); }, [] { end(); })
     {
+        if (ConsoleInput::isTerminal()) {
+            tell(std::cout, u"\"help\" zeigt die Befehle.", u"\"help\" lists the commands.");
+        }
         prompt();
     }
 
@@ -249,6 +266,7 @@ private:
     static void end()
     {
         if (ConsoleInput::isTerminal()) {
+            std::cout << std::endl;
             QCoreApplication::quit();
         }
     }
@@ -276,7 +294,7 @@ ExitStatus serve(const Options& options, Classroom& classroom, Console& console,
         complain(server, address);
         return NoPort;
     }
-    sayWhereItListens(server, address.address);
+    tellWhereItListens(server, address.address);
     std::optional<Dialogue> dialogue;
     if (!options.serve) {
         dialogue.emplace(console, guard);

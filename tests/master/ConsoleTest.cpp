@@ -94,7 +94,8 @@ TEST_F(ConsoleTest, SetsAndDeletesValues)
     EXPECT_EQ(answerTo(u"set WelcomeMessage  Guten   Morgen!"), "WELCOMEMESSAGE = Guten   Morgen!\n");
     EXPECT_EQ(answerTo(u"set highscore.max 5"), "HIGHSCORE.MAX = 5\nWELCOMEMESSAGE = Guten   Morgen!\n");
     EXPECT_EQ(answerTo(u"set WELCOMEMESSAGE"), "HIGHSCORE.MAX = 5\n");
-    EXPECT_EQ(store_.committed().settings.size(), 1U);
+    EXPECT_EQ(answerTo(u"set SCREENNAMES no"), "HIGHSCORE.MAX = 5\nSCREENNAMES = nein\n");
+    EXPECT_EQ(store_.committed().settings.size(), 2U);
 }
 
 TEST_F(ConsoleTest, RefusesValuesThatCannotBe)
