@@ -35,19 +35,6 @@ void orTell(Action action, const String& failure)
 
 } // namespace
 
-/// While it lives the page offers nothing that needs the result in the lists.
-class SummaryPage::Submission
-{
-public:
-    explicit Submission(SummaryPage& page) : page_(page) { page_.offer(false); }
-    ~Submission() { page_.offer(true); }
-    Submission(const Submission&) = delete;
-    Submission& operator=(const Submission&) = delete;
-
-private:
-    SummaryPage& page_;
-};
-
 SummaryPage::SummaryPage(phial::Form& form) : form_(form)
 {
     const auto press = [this](StringView button, auto action) {
@@ -73,10 +60,22 @@ void SummaryPage::show(const RoundResult& result, String germanTitle, String eng
 
 void SummaryPage::submit()
 {
-    const Submission submission(*this);
-    const phial::CoreParameters additional = additionalValues(result_);
-    rank_ = QVAPP()->RATE()->SUBMIT(result_.points, result_.maximum, result_.exercise, &additional);
-    TRANSLATE();
+    submitting(true);
+    try {
+        const phial::CoreParameters additional = additionalValues(result_);
+        rank_ = QVAPP()->RATE()->SUBMIT(result_.points, result_.maximum, result_.exercise, &additional);
+    } catch (const phial::RuntimeError&) {
+        submitting(false); // the page goes on whatever happens to the lists
+        throw;
+    }
+    submitting(false);
+}
+
+void SummaryPage::submitting(bool value)
+{
+    isSubmitting_ = value;
+    offer(!value);
+    showRank();
 }
 
 void SummaryPage::offer(bool available)
@@ -110,9 +109,16 @@ void SummaryPage::TRANSLATE()
             translate(u"{1} von {2} Formeln gelöst", u"{1} of {2} formulas solved",
                       {number(result_.solved), number(result_.tasks)}));
     caption(form_, u"lab_Mark", translate(u"Note {1}", u"Mark {1}", {markText(result_)}));
+    showRank();
+}
+
+void SummaryPage::showRank()
+{
     caption(form_, u"lab_Rank",
-            rank_ > 0 ? translate(u"Platz {1} der Bestenliste", u"Number {1} of the best", {number(rank_)})
-                      : String());
+            isSubmitting_
+                ? translate(u"Dein Ergebnis wird eingetragen …", u"Your result is being handed in …")
+            : rank_ > 0 ? translate(u"Platz {1} der Bestenliste", u"Number {1} of the best", {number(rank_)})
+                        : String());
 }
 
 void SummaryPage::showList()

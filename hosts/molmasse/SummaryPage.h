@@ -26,10 +26,10 @@ public:
     void TRANSLATE();
 
 private:
-    class Submission;
-
+    void submitting(bool value);
     void offer(bool available);
     void showMark();
+    void showRank();
     void showList();
     void printCertificate();
     void exportList();
@@ -40,6 +40,7 @@ private:
     phial::String germanTitle_;
     phial::String englishTitle_;
     std::int32_t rank_ = 0; ///< 0 and less: none
+    bool isSubmitting_ = false;
 };
 
 } // namespace molmasse

@@ -271,6 +271,7 @@ TEST_F(TrainerClassroom, OffersOnlyLeavingWhileTheResultIsOnItsWay)
             EXPECT_FALSE(isSeen(u"but_Again"));
             EXPECT_FALSE(isSeen(u"but_List"));
             EXPECT_TRUE(isSeen(u"but_Quit"));
+            EXPECT_EQ(seen(u"lab_Rank"), u"Dein Ergebnis wird eingetragen …");
             type(u"{enter}"); // leaves by intent only
         }
     };
