@@ -32,6 +32,7 @@ struct CoreDataFile::OpenFile {
     std::filesystem::path path;
     DataFileMode mode = DataFileMode::Read;
     String password;
+    OldFile oldFile = OldFile::Replace;
     /// Undecided, a text being read, a text being written, values being read, values being written.
     std::variant<std::monostate, Lines, std::string, Values, RecordWriter> content;
 
@@ -61,7 +62,8 @@ void CoreDataFile::Open(StringView pPath, DataFileMode pMode, StringView pPasswo
     if (pMode == DataFileMode::Read && !std::filesystem::is_regular_file(path, error)) {
         throw RuntimeError(ErrorNumber::FileNotFound, u"file not found: " + String(pPath));
     }
-    file_ = std::make_unique<OpenFile>(OpenFile{std::move(path), pMode, String(pPassword), {}});
+    file_ =
+        std::make_unique<OpenFile>(OpenFile{std::move(path), pMode, String(pPassword), OldFile::Replace, {}});
 }
 
 void CoreDataFile::Close()
@@ -72,7 +74,7 @@ void CoreDataFile::Close()
     }
     const Platform& platform = SessionState::current().platform();
     if (const auto* const values = std::get_if<RecordWriter>(&file->content)) {
-        RecordFiles(platform).write(file->path, file->password, *values);
+        RecordFiles(platform).write(file->path, file->password, *values, file->oldFile);
         return;
     }
     const auto* const text = std::get_if<std::string>(&file->content);
@@ -95,8 +97,16 @@ CoreDataFile::Lines& CoreDataFile::lines()
     });
 }
 
+void CoreDataFile::keepOldFile()
+{
+    opened(DataFileMode::Write).oldFile = OldFile::Keep;
+}
+
 bool CoreDataFile::AtEnd()
 {
+    if (const auto* const values = std::get_if<Values>(&opened(DataFileMode::Read).content)) {
+        return values->next == values->all.size();
+    }
     const Lines& text = lines();
     return text.next >= text.bytes.size();
 }

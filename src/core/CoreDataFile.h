@@ -36,7 +36,11 @@ public:
     /// Nothing happens when none is open.
     void Close();
 
-    /// Whether all lines are read. A line end at the end of the file begins no further line.
+    /// Keeps the values of a file that is open for writing aside when they are replaced, as `RecordFiles`
+    /// does with what it cannot read.
+    void keepOldFile();
+
+    /// Whether all lines, or all values, are read. A line end at the end of the file begins no further line.
     bool AtEnd();
     /// The next line without its end; raises 62 behind the last one.
     String ReadLine();

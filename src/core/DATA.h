@@ -4,7 +4,9 @@
 #include "core/String.h"
 #include "core/Variant.h"
 
+#include <filesystem>
 #include <memory>
+#include <utility>
 
 namespace phial
 {
@@ -43,12 +45,18 @@ public:
     /// A new empty record of the same class.
     std::shared_ptr<tmp_Data> Spawn() const;
 
+    /// The file that `loadRecord` read last without taking all that is in it; empty when there is none.
+    /// `saveRecord` keeps its content aside.
+    const std::filesystem::path& halfReadFile() const { return halfReadFile_; }
+    void halfReadFile(std::filesystem::path file) { halfReadFile_ = std::move(file); }
+
 private:
     friend class DataHolder;
     DataOwner& owner() const;
 
     Variant id_;
     String classTag_;
+    std::filesystem::path halfReadFile_;
     DataOwner* owner_ = nullptr;
 };
 

@@ -64,10 +64,11 @@ std::vector<Variant> RecordFiles::read(const fs::path& file, StringView password
     return *std::move(values);
 }
 
-void RecordFiles::write(const fs::path& file, StringView password, const RecordWriter& values) const
+void RecordFiles::write(const fs::path& file, StringView password, const RecordWriter& values,
+                        OldFile oldFile) const
 {
     const std::string bytes = framed(values.body(), password);
-    keepWhatIsNotReplaced(file, password, values);
+    keepWhatIsNotReplaced(file, password, values, oldFile);
     replaceFile(files_, file, bytes);
 }
 
@@ -120,15 +121,16 @@ std::optional<std::string_view> RecordFiles::markToKeep(std::string_view bytes, 
     return !first || isNewer(*first, values.first()) ? std::optional(KeptMark) : std::nullopt;
 }
 
-void RecordFiles::keepWhatIsNotReplaced(const fs::path& file, StringView password,
-                                        const RecordWriter& values) const
+void RecordFiles::keepWhatIsNotReplaced(const fs::path& file, StringView password, const RecordWriter& values,
+                                        OldFile oldFile) const
 {
     std::error_code error;
     if (!fs::is_regular_file(file, error)) {
         return;
     }
-    if (const auto mark = markToKeep(bytesOf(file), password, values)) {
-        moveAside(files_, file, *mark);
+    const auto mark = markToKeep(bytesOf(file), password, values);
+    if (mark || oldFile == OldFile::Keep) {
+        moveAside(files_, file, mark.value_or(KeptMark));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "core/RecordFormat.h"
 #include "core/String.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -16,6 +17,12 @@ class FileSystem;
 struct Platform;
 class RecordSeal;
 
+/// What becomes of a file that is replaced.
+enum class OldFile : std::uint8_t {
+    Replace,
+    Keep, ///< its content is kept aside, whatever it is
+};
+
 /// Record files on the disk.
 ///
 /// A file is read whole and checked before its first value is handed out, and reading never changes anything.
@@ -25,7 +32,7 @@ class RecordSeal;
 /// - ".damaged", when the file is damaged or no record file;
 /// - ".kept", when it is whole but not ours to replace: of a later format, with a later version (the first
 ///   value, if that is a text such as "2.0"), sealed with another password, or not sealed when it now shall
-///   be.
+///   be; and when the caller wishes it.
 class RecordFiles
 {
 public:
@@ -38,7 +45,8 @@ public:
 
     /// Makes the values the file's content. The empty password leaves it open; any other seals it, which
     /// raises 5 when the platform has no seal. Raises 75 when a step fails; the old file stays then.
-    void write(const std::filesystem::path& file, StringView password, const RecordWriter& values) const;
+    void write(const std::filesystem::path& file, StringView password, const RecordWriter& values,
+               OldFile oldFile = OldFile::Replace) const;
 
 private:
     std::string bytesOf(const std::filesystem::path& file) const;
@@ -50,7 +58,7 @@ private:
     std::optional<std::string_view> markToKeep(std::string_view bytes, StringView password,
                                                const RecordWriter& values) const;
     void keepWhatIsNotReplaced(const std::filesystem::path& file, StringView password,
-                               const RecordWriter& values) const;
+                               const RecordWriter& values, OldFile oldFile) const;
 
     FileSystem& files_;
     RecordSeal* seal_;

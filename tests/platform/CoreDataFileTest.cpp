@@ -111,6 +111,33 @@ TEST_F(CoreDataFileTest, ValuesComeBackInOrderWithTheirTypes)
     EXPECT_RAISES(file.ReadValue(), InputPastEnd);
 }
 
+TEST_F(CoreDataFileTest, TheEndOfTheValuesIsTold)
+{
+    CoreDataFile file;
+    file.Open(folder.path() + u"a.rec", DataFileMode::Write);
+    file.Write(u"2.0", 1);
+    file.Close();
+    file.Open(folder.path() + u"a.rec", DataFileMode::Read);
+    file.ReadValue();
+    EXPECT_FALSE(file.AtEnd());
+    file.ReadValue();
+    EXPECT_TRUE(file.AtEnd());
+}
+
+TEST_F(CoreDataFileTest, TheOldValuesAreKeptOnWish)
+{
+    const String path = folder.path() + u"a.rec";
+    CoreDataFile file;
+    EXPECT_RAISES(file.keepOldFile(), InvalidArgument);
+    for (const StringView version : {u"1.0", u"2.0"}) {
+        file.Open(path, DataFileMode::Write);
+        file.Write(version);
+        file.keepOldFile();
+        file.Close();
+    }
+    EXPECT_THAT(folder.names(), ElementsAre("a.rec", "a.rec.kept"));
+}
+
 TEST_F(CoreDataFileTest, TheFirstCallDecidesBetweenTextAndValues)
 {
     CoreDataFile file;

@@ -1,3 +1,4 @@
+#include "core/CoreDataFile.h"
 #include "core/NativePath.h"
 #include "results/ResultsTest.h"
 #include "results/cls_DataEvents.h"
@@ -150,6 +151,62 @@ TEST_F(StoredLists, OfAFileWithAnyDamageNothingIsLoaded)
     }
     EXPECT_EQ(toUtf8(list.DATA()->Pack()), before);
     EXPECT_THAT(folder.names(), testing::Contains("items_2.5.qv-hsr"));
+}
+
+TEST_F(StoredLists, AListWithItemsOfALaterVersionIsKeptByTheNextSave)
+{
+    const String file = path(u"later.qv-hsr");
+    CoreDataFile later;
+    later.Open(file, DataFileMode::Write);
+    later.Write(u"2.0", u"Molmasse", 10, false, false, 1, 1);
+    later.Write(u"2.6", u"e1", 1, u"Anna", u"anna", u"PC-ANNA", u"Salze", 30.0, 40.0, Moment{45292.75},
+                u"QV1;0;");
+    later.Write(u"of a later program");
+    later.Close();
+    const std::string bytes = folder.read("later.qv-hsr");
+
+    EXPECT_TRUE(list.LOAD(file));
+    add(list, u"Ben", 3);
+    EXPECT_TRUE(list.SAVE(file));
+    EXPECT_EQ(folder.read("later.qv-hsr.kept"), bytes);
+    EXPECT_TRUE(list.SAVE(file));
+    EXPECT_TRUE(list.LOAD(file));
+    EXPECT_TRUE(list.SAVE(file));
+    EXPECT_FALSE(folder.has("later.qv-hsr.kept2"));
+}
+
+TEST_F(StoredLists, AListWhoseLoadFailedIsKeptByTheNextSave)
+{
+    const String file = path(u"short.qv-hsr");
+    CoreDataFile shortList;
+    shortList.Open(file, DataFileMode::Write);
+    shortList.Write(u"2.0", u"Molmasse", 10, false, false, 1, 3, u"2.5", u"f1", 1, u"Anna");
+    shortList.Close();
+    const std::string bytes = folder.read("short.qv-hsr");
+
+    EXPECT_FALSE(list.LOAD(file));
+    EXPECT_TRUE(list.SAVE(file));
+    EXPECT_EQ(folder.read("short.qv-hsr.kept"), bytes);
+}
+
+TEST_F(StoredLists, AListThatTheDiskDidNotGiveIsKeptByTheNextSave)
+{
+    const String file = stored("items_2.5.qv-hsr");
+    const std::string bytes = folder.read("items_2.5.qv-hsr");
+    outside.files().fail(headless::FileStep::Read);
+    EXPECT_FALSE(list.LOAD(file));
+    outside.files().repair();
+    add(list, u"Ben", 3);
+    EXPECT_TRUE(list.SAVE(file));
+    EXPECT_EQ(folder.read("items_2.5.qv-hsr.kept"), bytes);
+}
+
+TEST_F(StoredLists, WhatWasHalfReadElsewhereDoesNotMatter)
+{
+    EXPECT_TRUE(list.LOAD(stored("list_2.1.qv-hsr")));
+    const String other = stored("items_2.5.qv-hsr");
+    EXPECT_TRUE(list.SAVE(other));
+    EXPECT_THAT(folder.names(), ElementsAre("items_2.5.qv-hsr", "list_2.1.qv-hsr"));
 }
 
 TEST_F(StoredLists, APasswordNeedsSealing)
