@@ -164,6 +164,24 @@ TEST_F(NativeControlsTest, ChoosingALineIsToldOnceAndAgainWhenItIsPressedAgain)
     EXPECT_EQ(widget.currentRow(), 0);
 }
 
+TEST_F(NativeControlsTest, ALineThatAHandlerChoosesInsteadIsTheOneThatIsMarked)
+{
+    const auto list = shown<ListBox>(u"lst_Names");
+    list->AddItem(u"KLASSE");
+    list->AddItem(u"Anna");
+    list->AddItem(u"Ben");
+    list->ListIndex(2);
+    const auto connection = list->Click.connect([&] { list->ListIndex(std::max(list->ListIndex(), 1)); });
+    auto& widget = inner<QListWidget>(*list);
+    for (int press = 0; press < 2; ++press) {
+        QTest::mouseClick(widget.viewport(), Qt::LeftButton, Qt::NoModifier,
+                          widget.visualItemRect(widget.item(0)).center());
+        EXPECT_EQ(list->ListIndex(), 1);
+        EXPECT_EQ(widget.currentRow(), 1);
+        EXPECT_EQ(widget.selectedItems(), QList<QListWidgetItem*>{widget.item(1)});
+    }
+}
+
 TEST_F(NativeControlsTest, ArrowKeysChooseInAList)
 {
     const auto list = shown<ListBox>(u"lst_Names");

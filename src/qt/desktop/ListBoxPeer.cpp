@@ -23,6 +23,12 @@ ListBoxPeer::ListBoxPeer(std::shared_ptr<ListBox> model, QListWidget& list)
         chosenByPress_ = QApplication::mouseButtons() != Qt::NoButton;
         choose(row);
     });
+    // The toolkit marks the pressed line after a handler has chosen another one.
+    connect(&list_, &QListWidget::itemPressed, this, [this](QListWidgetItem* item) {
+        if (list_.row(item) != model_->ListIndex()) {
+            modelChanged(ControlAspect::Selection);
+        }
+    });
     // A press on the line that is chosen already changes no row, but counts.
     connect(&list_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
         if (!std::exchange(chosenByPress_, false)) {
