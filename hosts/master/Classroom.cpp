@@ -72,12 +72,15 @@ String Classroom::answer(const Envelope& envelope, StringView text)
 {
     const Moment now = clock_.moment();
     roster_.hear(envelope.id.sender, now);
-    auto request = parseRequest(text);
-    const Rule* rule = request ? ruleFor(*request) : nullptr;
+    const auto request = parseRequest(text);
+    if (!request) {
+        return answerText(NoSense);
+    }
+    const Rule* rule = ruleFor(*request);
     if (rule == nullptr) {
         return answerText(NoSense);
     }
-    const Message message{envelope, std::move(*request), now};
+    const Message message{envelope, *request, now};
     try {
         return rule->once ? answerOnce(*rule, message) : answerText((this->*rule->answer)(message));
     } catch (const RuntimeError&) {
@@ -113,7 +116,7 @@ void Classroom::undo()
 void Classroom::forgetOld()
 {
     const double now = clock_.moment().days;
-    store_.forgetAnswers(Moment{now - AnswersKept});
+    store_.forgetAnswers(Moment{now - AnswersKept}, MaxAnswers);
     store_.forgetLogOns(Moment{now - Roster::GoneAfter});
     store_.commit();
 }

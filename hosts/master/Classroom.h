@@ -41,8 +41,9 @@ struct Envelope {
 class Classroom
 {
 public:
-    /// For how long the answer of a message is kept, in days.
-    static constexpr double AnswersKept = 2;
+    /// For how long the answer of a message is kept, in days, and how many are at most.
+    static constexpr double AnswersKept = 1;
+    static constexpr std::size_t MaxAnswers = 1'000'000;
     static constexpr std::size_t MaxAppLength = 100;
 
     /// Both must outlive the object. Takes up what the store holds.
@@ -70,7 +71,7 @@ public:
 private:
     struct Message {
         const Envelope& envelope;
-        WireRequest request;
+        const WireRequest& request;
         Moment at;
     };
     struct Rule;

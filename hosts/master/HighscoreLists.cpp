@@ -44,12 +44,12 @@ std::optional<String> HighscoreLists::submit(StringView module, const Result& re
     }
     auto list = known(key);
     if (!list) {
-        if (modules_->size() >= MaxModules) {
+        if (modules().size() >= MaxModules) {
             return std::nullopt;
         }
         list = std::make_shared<cls_DataScores>();
         lists_[key] = list;
-        modules_->insert(key);
+        modules().insert(key);
     }
     applySettings(key, *list);
     CoreParameters additional;
@@ -104,11 +104,7 @@ void HighscoreLists::forget()
 
 std::shared_ptr<cls_DataScores> HighscoreLists::known(const String& key)
 {
-    if (!modules_) {
-        const auto stored = store_.modules();
-        modules_.emplace(stored.begin(), stored.end());
-    }
-    if (!modules_->contains(key)) {
+    if (!modules().contains(key)) {
         return nullptr;
     }
     auto& list = lists_[key];
@@ -120,6 +116,15 @@ std::shared_ptr<cls_DataScores> HighscoreLists::known(const String& key)
         list = std::move(loaded);
     }
     return list;
+}
+
+std::set<String>& HighscoreLists::modules()
+{
+    if (!modules_) {
+        const auto stored = store_.modules();
+        modules_.emplace(stored.begin(), stored.end());
+    }
+    return *modules_;
 }
 
 void HighscoreLists::applySettings(const String& key, cls_DataScores& list) const

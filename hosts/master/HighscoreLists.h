@@ -56,6 +56,8 @@ public:
     void forget();
 
 private:
+    /// The names of those that have a list.
+    std::set<String>& modules();
     std::shared_ptr<cls_DataScores> known(const String& key);
     void applySettings(const String& key, cls_DataScores& list) const;
 

@@ -104,7 +104,8 @@ public:
     /// The answer that a message got when it was taken in; none for one that was not.
     virtual std::optional<String> answerTo(const FrameId& id) = 0;
     virtual void keepAnswer(const FrameId& id, const String& answer, Moment at) = 0;
-    virtual void forgetAnswers(Moment before) = 0;
+    /// Drops answers from before that moment, and those beyond the latest `keep`.
+    virtual void forgetAnswers(Moment before, std::size_t keep) = 0;
 
     virtual void addResult(const Result& result) = 0;
     /// A result that was sent for a module's list, with the rank that was answered.

@@ -192,9 +192,9 @@ void SqlStore::keepAnswer(const FrameId& id, const String& answer, Moment at)
                      {signedNumber(id.sender), signedNumber(id.number), momentText(at), text(answer)});
 }
 
-void SqlStore::forgetAnswers(Moment before)
+void SqlStore::forgetAnswers(Moment before, std::size_t keep)
 {
-    database_.change(tables::ForgetAnswers, {momentText(before)});
+    database_.change(tables::ForgetAnswers, {momentText(before), limit(keep)});
 }
 
 void SqlStore::addResult(const Result& result)

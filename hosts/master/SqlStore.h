@@ -30,7 +30,7 @@ public:
 
     std::optional<String> answerTo(const FrameId& id) override;
     void keepAnswer(const FrameId& id, const String& answer, Moment at) override;
-    void forgetAnswers(Moment before) override;
+    void forgetAnswers(Moment before, std::size_t keep) override;
 
     void addResult(const Result& result) override;
     void addSubmission(const String& module, const Result& result, const String& rank) override;

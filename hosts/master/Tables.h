@@ -31,7 +31,9 @@ inline constexpr std::array Create{
 inline constexpr const char* AnswerTo = "SELECT answer FROM messages WHERE client = ? AND number = ?";
 inline constexpr const char* KeepAnswer =
     "INSERT INTO messages (client, number, received, answer) VALUES (?, ?, ?, ?)";
-inline constexpr const char* ForgetAnswers = "DELETE FROM messages WHERE received < ?";
+inline constexpr const char* ForgetAnswers =
+    "DELETE FROM messages WHERE received < ? OR received <= "
+    "(SELECT received FROM messages ORDER BY received DESC LIMIT 1 OFFSET ?)";
 
 inline constexpr const char* LastResult = "SELECT COALESCE(MAX(id), 0) FROM results";
 inline constexpr const char* AddResult =

@@ -37,9 +37,13 @@ void MemoryStore::keepAnswer(const FrameId& id, const String& answer, Moment at)
     content_.answers[id] = {at, answer};
 }
 
-void MemoryStore::forgetAnswers(Moment before)
+void MemoryStore::forgetAnswers(Moment before, std::size_t keep)
 {
     std::erase_if(content_.answers, [&](const auto& entry) { return entry.second.first < before; });
+    while (content_.answers.size() > keep) {
+        content_.answers.erase(std::ranges::min_element(
+            content_.answers, {}, [](const auto& entry) { return entry.second.first; }));
+    }
 }
 
 void MemoryStore::addSubmission(const String& module, const master::Result& result, const String& rank)

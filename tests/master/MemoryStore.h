@@ -42,7 +42,7 @@ public:
 
     std::optional<String> answerTo(const FrameId& id) override;
     void keepAnswer(const FrameId& id, const String& answer, Moment at) override;
-    void forgetAnswers(Moment before) override;
+    void forgetAnswers(Moment before, std::size_t keep) override;
     void addResult(const master::Result& result) override { content_.results.push_back(result); }
     void addSubmission(const String& module, const master::Result& result, const String& rank) override;
     void addEvent(const master::PupilEvent& event) override;

@@ -152,13 +152,26 @@ TEST_F(SqlStoreTest, ForgetsAnswersAndLogOnsBeforeAMoment)
     store.keepAnswer({1, 2}, u"new", at(20));
     store.keepLogOn({1, u"old", u"", at(10)});
     store.keepLogOn({2, u"new", u"", at(20)});
-    store.forgetAnswers(at(15));
+    store.forgetAnswers(at(15), 10);
     store.forgetLogOns(at(15));
     store.commit();
     EXPECT_FALSE(store.answerTo({1, 1}));
     EXPECT_EQ(store.answerTo({1, 2}), u"new");
     ASSERT_EQ(store.logOns().size(), 1U);
     EXPECT_EQ(store.logOns().front().client, 2U);
+}
+
+TEST_F(SqlStoreTest, KeepsTheLatestAnswersWhereThereAreTooMany)
+{
+    for (int second = 1; second <= 5; ++second) {
+        store_->keepAnswer({1, static_cast<std::uint64_t>(second)}, u"008:OK", at(second));
+    }
+    store_->forgetAnswers(at(0), 5);
+    EXPECT_TRUE(store_->answerTo({1, 1}));
+    store_->forgetAnswers(at(0), 2);
+    EXPECT_FALSE(store_->answerTo({1, 3}));
+    EXPECT_TRUE(store_->answerTo({1, 4}));
+    EXPECT_TRUE(store_->answerTo({1, 5}));
 }
 
 TEST_F(SqlStoreTest, AMessageHasOneAnswer)
