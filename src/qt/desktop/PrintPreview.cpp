@@ -66,7 +66,7 @@ class PreviewWindow
 {
 public:
     explicit PreviewWindow(const PrintJob& job)
-        : job_(job), dialog_(QApplication::activeWindow()), sheet_(printerFor(job)),
+        : job_(job), sheet_(printerFor(job)), dialog_(QApplication::activeWindow()),
           pages_(new QPrintPreviewWidget(sheet_.get(), &dialog_)), page_(new QLabel(&dialog_))
     {
         dialog_.setWindowTitle(job.title.isEmpty() ? inLanguage(Preview)
@@ -169,8 +169,8 @@ private:
     }
 
     const PrintJob& job_;
-    QDialog dialog_;
     std::unique_ptr<QPrinter> sheet_; // what the preview measures and paints itself by
+    QDialog dialog_;
     QPrintPreviewWidget* pages_;
     QLabel* page_;
     QPushButton* previous_ = nullptr;
