@@ -1,6 +1,7 @@
 #include "results/ResultsTest.h"
 #include "support/Raises.h"
 
+#include <array>
 #include <gmock/gmock.h>
 #include <random>
 
@@ -127,7 +128,7 @@ TEST_F(DataScores, RankIsMinusOneInAnEmptyListOfOne)
     EXPECT_EQ(add(list, u"Anna", 5), Variant(1));
 }
 
-TEST_F(DataScores, GiveARankBeyondTheEndWhenTheyAreShorterThanTheirLimitTold)
+TEST_F(DataScores, GiveTheRankOfAnEntryThatTheyCutAtOnce)
 {
     fill(list, {5, 4, 3});
     list.MAXIMUM(2);
@@ -223,32 +224,82 @@ TEST_F(DataScores, KeepEarlierEntriesOfANameInAResultList)
     EXPECT_EQ(list.COUNT(), 2);
 }
 
-TEST_F(DataScores, ComeOutOfTiesAsTheExchangesLeaveThem)
+/// The exchange sort word for word.
+template <typename Condition>
+std::vector<std::shared_ptr<cls_DataScore>> exchanged(std::vector<std::shared_ptr<cls_DataScore>> entries,
+                                                      const Condition& isBefore)
 {
-    const auto literal = [](std::vector<std::shared_ptr<cls_DataScore>>& entries) {
-        for (std::size_t i = 0; i < entries.size(); ++i) {
-            for (std::size_t j = i + 1; j < entries.size(); ++j) {
-                if (entries[j]->POINTS() > entries[i]->POINTS()) {
-                    std::swap(entries[i], entries[j]);
-                }
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        for (std::size_t j = i + 1; j < entries.size(); ++j) {
+            if (isBefore(*entries[j], *entries[i])) {
+                std::swap(entries[i], entries[j]);
             }
         }
-    };
-    std::mt19937 random(4);
-    for (int round = 0; round < 50; ++round) {
+    }
+    return entries;
+}
+
+/// Lists of entries most of which have equals, in each order.
+class TiedScores : public DataScores
+{
+protected:
+    int number(int most) { return std::uniform_int_distribution<int>(0, most)(random); }
+
+    std::vector<std::shared_ptr<cls_DataScore>> fillAtRandom()
+    {
+        static constexpr std::array<StringView, 6> Logins = {u"anna", u"Anna", u"änne", u"Zoe", u"b", u""};
         list.CLEAR();
-        std::vector<std::shared_ptr<cls_DataScore>> expected;
-        for (int number = 0; number < 40; ++number) {
-            expected.push_back(std::make_shared<cls_DataScore>());
-            expected.back()->POINTS(std::uniform_int_distribution<int>(0, 6)(random));
-            list.DATABASE()->Import(expected.back());
+        std::vector<std::shared_ptr<cls_DataScore>> entries;
+        for (int count = number(50); count > 0; --count) {
+            const auto& entry = entries.emplace_back(std::make_shared<cls_DataScore>());
+            entry->POINTS(number(6) / 2.0);
+            entry->TIMESTAMP(day(number(6) / 4.0));
+            entry->USERNAME(String(Logins[static_cast<std::size_t>(number(5))]));
+            entry->RANK(-7);
+            list.DATABASE()->Import(entry);
         }
-        literal(expected);
-        list.SORT();
-        for (std::int32_t slot = 1; slot <= list.COUNT(); ++slot) {
-            ASSERT_EQ(list.ITEM(slot), expected[static_cast<std::size_t>(slot) - 1]) << "slot " << slot;
-            ASSERT_EQ(list.ITEM(slot)->RANK(), slot);
+        return entries;
+    }
+
+    template <typename Condition>
+    void expectOrder(const Condition& isBefore)
+    {
+        for (int round = 0; round < 200; ++round) {
+            const auto expected = exchanged(fillAtRandom(), isBefore);
+            list.SORT();
+            for (std::int32_t slot = 1; slot <= list.COUNT(); ++slot) {
+                ASSERT_EQ(list.ITEM(slot), expected[static_cast<std::size_t>(slot) - 1]) << "slot " << slot;
+            }
         }
+    }
+
+    std::mt19937 random{4};
+};
+
+TEST_F(TiedScores, StandAsTheExchangesLeaveThemByPoints)
+{
+    expectOrder([](const auto& left, const auto& right) { return left.POINTS() > right.POINTS(); });
+    for (std::int32_t slot = 1; slot <= list.COUNT(); ++slot) {
+        EXPECT_EQ(list.ITEM(slot)->RANK(), slot);
+    }
+}
+
+TEST_F(TiedScores, StandAsTheExchangesLeaveThemLiveByLogin)
+{
+    list.LIVE(true);
+    expectOrder([](const auto& left, const auto& right) { return left.USERNAME() > right.USERNAME(); });
+    for (std::int32_t slot = 1; slot <= list.COUNT(); ++slot) {
+        EXPECT_EQ(list.ITEM(slot)->RANK(), slot);
+    }
+}
+
+TEST_F(TiedScores, StandAsTheExchangesLeaveThemByMomentAndKeepTheirRanks)
+{
+    list.MODE(enm_ScoreListMode::ID_ScoreList_ResultList);
+    list.LIVE(true);
+    expectOrder([](const auto& left, const auto& right) { return left.TIMESTAMP() > right.TIMESTAMP(); });
+    for (std::int32_t slot = 1; slot <= list.COUNT(); ++slot) {
+        EXPECT_EQ(list.ITEM(slot)->RANK(), -7);
     }
 }
 
