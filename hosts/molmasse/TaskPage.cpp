@@ -11,7 +11,6 @@ namespace molmasse
 {
 
 using phial::String;
-using phial::StringView;
 using phial::Variant;
 
 namespace

@@ -38,7 +38,7 @@ TEST_F(TrainerMasterChoice, TakesATypedAddressAndKeepsIt)
     isThere = false;
     enter();
     isThere = true;
-    choose([this](phial::Form& dialog) {
+    choose([](phial::Form& dialog) {
         EXPECT_EQ(typed(dialog), u"127.0.0.1");
         EXPECT_EQ(found(dialog), u"Keiner hat geantwortet.");
         phial::headless::type(dialog, u" 10.1.2.3 {enter}");
@@ -61,7 +61,7 @@ TEST_F(TrainerMasterChoice, OffersTheMastersThatAnswer)
     isThere = true;
 
     outside.dialogs().expect(Box::Info, u"Hallo!");
-    choose([this](phial::Form& dialog) {
+    choose([](phial::Form& dialog) {
         EXPECT_EQ(found(dialog), u"2 haben geantwortet.");
         const auto list = dialog.control<phial::ListBox>(u"lst_Masters");
         ASSERT_EQ(list->ListCount(), 2);
