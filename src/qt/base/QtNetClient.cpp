@@ -67,11 +67,14 @@ private:
     void messageCame(const Frame& frame, const QTcpSocket& from);
     void tell(const CoreNetMessage& message);
     void log(TrafficKind kind, StringView peer, StringView text);
+    Moment momentOfLine();
 
     QtNetClient* client_; // null from its end on
     std::shared_ptr<DispatchGuard> guard_;
     std::shared_ptr<TrafficLog> traffic_;
     QtClock clock_;
+    Moment asked_; // the time of day when the clock was last asked for it, and that clock's seconds
+    double askedAt_ = -std::numeric_limits<double>::infinity();
     CoreNetOptions options_;
     RequestIds ids_{QRandomGenerator::system()->generate64()};
     std::vector<std::shared_ptr<NetConnection>> connections_;
@@ -200,7 +203,20 @@ void QtNetClient::Exchange::tell(const CoreNetMessage& message)
 
 void QtNetClient::Exchange::log(TrafficKind kind, StringView peer, StringView text)
 {
-    guard_->run([&] { traffic_->add(clock_.moment(), kind, peer, text); });
+    guard_->run([&] { traffic_->add(momentOfLine(), kind, peer, text); });
+}
+
+// The time of day costs a look at the computer's time zone, which a request would pay twice; so it is asked
+// for once a second, and counted on in between.
+Moment QtNetClient::Exchange::momentOfLine()
+{
+    constexpr double SecondsOfDay = 24.0 * 60 * 60;
+    const double now = clock_.seconds();
+    if (now - askedAt_ >= 1) {
+        asked_ = clock_.moment();
+        askedAt_ = now;
+    }
+    return Moment{asked_.days + (now - askedAt_) / SecondsOfDay};
 }
 
 QtNetClient::QtNetClient(std::shared_ptr<DispatchGuard> guard) : traffic_(std::make_shared<TrafficLog>())
