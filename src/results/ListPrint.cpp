@@ -4,7 +4,6 @@
 #include "core/CoreMachine.h"
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
-#include "core/Format.h"
 #include "results/ListRecord.h"
 #include "visual/Printer.h"
 
@@ -124,8 +123,8 @@ private:
     {
         const Moment now = presentMoment();
         const CoreMachine& machine = coreRoot().CoreSystem().CoreMachine();
-        return u"Gedruckt am " + dayText(now) + u" um " + formatPattern(now, u"HH:MM") + u" von " +
-               machine.UserName() + u" an Rechner " + machine.ComputerName();
+        return u"Gedruckt am " + dayText(now) + u" um " + timeText(now) + u" von " + machine.UserName() +
+               u" an Rechner " + machine.ComputerName();
     }
 
     std::span<const ListColumn> columns_;

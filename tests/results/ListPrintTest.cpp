@@ -129,7 +129,7 @@ TEST_F(ListPrint, OfAnEmptyListHasTitleRulesAndFooterWithoutColumns)
                 ElementsAre("text 37.795,37.795 \"Bestenliste\" Arial 14 #000000",
                             "line 37.795,75.591 - 1084.724,75.591 #000000",
                             "line 37.795,88.091 - 1084.724,88.091 #000000",
-                            "text 37.795,100.591 \"Gedruckt am 02.03.2026 um 08:00 von pupil an Rechner "
+                            "text 37.795,100.591 \"Gedruckt am 02.03.2026 um 08:00:00 von pupil an Rechner "
                             "DESK-1\" Arial 10 #000000",
                             "end"));
 }
