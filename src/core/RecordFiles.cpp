@@ -68,8 +68,15 @@ void RecordFiles::write(const fs::path& file, StringView password, const RecordW
                         OldFile oldFile) const
 {
     const std::string bytes = framed(values.body(), password);
-    keepWhatIsNotReplaced(file, password, values, oldFile);
-    replaceFile(files_, file, bytes);
+    const auto aside = keepWhatIsNotReplaced(file, password, values, oldFile);
+    try {
+        replaceFile(files_, file, bytes);
+    } catch (const std::exception&) {
+        if (aside) {
+            ignoringErrors([&] { files_.rename(*aside, file); });
+        }
+        throw;
+    }
 }
 
 std::string RecordFiles::bytesOf(const fs::path& file) const
@@ -121,17 +128,19 @@ std::optional<std::string_view> RecordFiles::markToKeep(std::string_view bytes, 
     return !first || isNewer(*first, values.first()) ? std::optional(KeptMark) : std::nullopt;
 }
 
-void RecordFiles::keepWhatIsNotReplaced(const fs::path& file, StringView password, const RecordWriter& values,
-                                        OldFile oldFile) const
+/// Where the old content has gone; none when it may be replaced or there is none.
+std::optional<fs::path> RecordFiles::keepWhatIsNotReplaced(const fs::path& file, StringView password,
+                                                           const RecordWriter& values, OldFile oldFile) const
 {
     std::error_code error;
     if (!fs::is_regular_file(file, error)) {
-        return;
+        return std::nullopt;
     }
     const auto mark = markToKeep(bytesOf(file), password, values);
-    if (mark || oldFile == OldFile::Keep) {
-        moveAside(files_, file, mark.value_or(KeptMark));
+    if (!mark && oldFile == OldFile::Replace) {
+        return std::nullopt;
     }
+    return moveAside(files_, file, mark.value_or(KeptMark));
 }
 
 } // namespace phial

@@ -44,7 +44,7 @@ public:
     std::vector<Variant> read(const std::filesystem::path& file, StringView password) const;
 
     /// Makes the values the file's content. The empty password leaves it open; any other seals it, which
-    /// raises 5 when the platform has no seal. Raises 75 when a step fails; the old file stays then.
+    /// raises 5 when the platform has no seal. Raises 75 when a step fails; the old file stays in its place.
     void write(const std::filesystem::path& file, StringView password, const RecordWriter& values,
                OldFile oldFile = OldFile::Replace) const;
 
@@ -57,8 +57,10 @@ private:
         -> std::optional<decltype(take(frame.body))>;
     std::optional<std::string_view> markToKeep(std::string_view bytes, StringView password,
                                                const RecordWriter& values) const;
-    void keepWhatIsNotReplaced(const std::filesystem::path& file, StringView password,
-                               const RecordWriter& values, OldFile oldFile) const;
+    std::optional<std::filesystem::path> keepWhatIsNotReplaced(const std::filesystem::path& file,
+                                                               StringView password,
+                                                               const RecordWriter& values,
+                                                               OldFile oldFile) const;
 
     FileSystem& files_;
     RecordSeal* seal_;

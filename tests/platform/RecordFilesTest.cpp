@@ -145,6 +145,19 @@ TEST_F(RecordFilesTest, AFileThatTheDiskDoesNotGiveIsNotReplaced)
     EXPECT_EQ(folder.read("list.qv-hsr"), old);
 }
 
+TEST_F(RecordFilesTest, WhatWasKeptAsideComesBackWhenTheSaveFails)
+{
+    const std::string later = record_format::framed(test::recordOf({u"3.0", u"Anna"}).body(), false);
+    for (const std::string& old : {std::string("damaged"), later}) {
+        folder.write("list.qv-hsr", old);
+        files->fail(FileStep::Write);
+        EXPECT_RAISES(write({u"2.0"}), FileAccess);
+        EXPECT_EQ(folder.read("list.qv-hsr"), old);
+        EXPECT_THAT(folder.names(), ElementsAre("list.qv-hsr"));
+        files->repair();
+    }
+}
+
 TEST_F(RecordFilesTest, WhatCannotBeKeptAsideIsNotReplaced)
 {
     folder.write("list.qv-hsr", "damaged");
