@@ -156,6 +156,26 @@ TEST_F(CertificateFormTest, ATextTooLongForItsBoxIsSmallerAndThenCutAtALine)
     }
 }
 
+TEST_F(CertificateFormTest, WhatTheDrawingHidesIsNotPrinted)
+{
+    const auto document = loadedFrom(drawing("<g style='display:none'><text x='20' y='50'>Ebene</text></g>"
+                                             "<text x='20' y='80' style='display:none'>Versteckt</text>"
+                                             "<text x='20' y='110' opacity='0'>Durchsichtig</text>"
+                                             "<defs><text x='20' y='140'>Vorrat</text></defs>"
+                                             "<g opacity='0.5'><text x='20' y='170'>Blass</text></g>"));
+    EXPECT_EQ(document->Fields(1).Count(), 5);
+    EXPECT_EQ(printed(*document).text().toStdString(), "Blass");
+}
+
+TEST_F(CertificateFormTest, ATextIsPrintedWhateverItsColourIsWrittenLike)
+{
+    const auto document = loadedFrom(drawing("<text x='20' y='50' fill='rgb(20, 83, 45)'>Zahlen</text>"
+                                             "<text x='20' y='80' style='fill:url(#Verlauf)'>Verlauf</text>"
+                                             "<text x='20' y='110' fill='darkgreen'>Name</text>"
+                                             "<text x='20' y='140' fill='none'>Ohne</text>"));
+    EXPECT_EQ(printed(*document).text().toStdString(), "Zahlen Verlauf Name");
+}
+
 TEST_F(CertificateFormTest, TheInstalledCertificateHasEveryPlaceholder)
 {
     const auto document = installedCertificate();

@@ -177,6 +177,29 @@ SvgTextStyle styleOf(const QDomElement& element)
     return style;
 }
 
+/// Whether the element holds parts that are drawn elsewhere or not at all.
+bool isStore(const QDomElement& element)
+{
+    constexpr std::array Stores = {"defs", "symbol", "clipPath", "mask", "pattern", "marker"};
+    return std::ranges::any_of(Stores,
+                               [&](const char* name) { return element.tagName() == QLatin1String(name); });
+}
+
+/// How much of the element shines through all that surrounds it: 0 where the drawing hides it, as editors do
+/// with layers that are switched off.
+double opacityOf(const QDomElement& element)
+{
+    double opacity = 1;
+    for (QDomElement at = element; !at.isNull(); at = at.parentNode().toElement()) {
+        const Properties stated = statedProperties(at);
+        if (isStore(at) || stated.value(QStringLiteral("display")) == QLatin1String("none")) {
+            return 0;
+        }
+        opacity *= std::clamp(number(stated.value(QStringLiteral("opacity"))).value_or(1), 0.0, 1.0);
+    }
+    return opacity;
+}
+
 /// Whether the element begins a line of its own, as editors mark it.
 bool isLine(const QDomElement& span)
 {
@@ -295,6 +318,7 @@ SvgField fieldOf(const QDomElement& text, const Elements& byId)
     if (!line.isNull()) {
         applyProperties(field.style, statedProperties(line));
     }
+    field.style.opacity *= opacityOf(text);
     field.x = place(text, QStringLiteral("x"));
     field.y = place(text, QStringLiteral("y"));
     field.box = boxOf(text, byId);

@@ -20,7 +20,7 @@ struct SvgTextStyle {
     int weight = 400;
     bool italic = false;
     QString fill = QStringLiteral("#000000");
-    double opacity = 1;
+    double opacity = 1; ///< 0 where the drawing hides the text
     enum class Align { Start, Middle, End } align = Align::Start;
     enum class Vertical { Top, Middle, Bottom } vertical = Vertical::Top; ///< within a box
 };

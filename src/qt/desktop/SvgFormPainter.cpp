@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QSvgRenderer>
 #include <QTextLayout>
 
@@ -52,6 +53,33 @@ QStringList familiesOf(const SvgTextStyle& style)
     }
     families.append(general);
     return families;
+}
+
+/// "rgb(20, 83, 45)"; no valid colour for anything else.
+QColor rgbColour(const QString& text)
+{
+    static const QRegularExpression Form(
+        QStringLiteral(R"(^rgb\(\s*(\d{1,3})\s*,\s*(\d{1,3})\s*,\s*(\d{1,3})\s*\)$)"));
+    const QRegularExpressionMatch parts = Form.match(text);
+    return parts.hasMatch()
+               ? QColor(parts.captured(1).toInt(), parts.captured(2).toInt(), parts.captured(3).toInt())
+               : QColor();
+}
+
+/// The colour of a text; none for one that is not to be seen, which is not drawn into a PDF file either. What
+/// is no single colour, such as a gradient, is black, so that no text is lost.
+std::optional<QColor> colourOf(const SvgTextStyle& style)
+{
+    if (style.fill == QLatin1String("none") || style.opacity <= 0) {
+        return std::nullopt;
+    }
+    const QColor rgb = rgbColour(style.fill);
+    QColor colour = rgb.isValid() ? rgb : QColor(style.fill);
+    if (!colour.isValid()) {
+        colour = Qt::black;
+    }
+    colour.setAlphaF(static_cast<float>(colour.alphaF() * style.opacity));
+    return colour;
 }
 
 QFont fontOf(const SvgTextStyle& style, double share)
@@ -207,13 +235,12 @@ void drawAtPoint(QPainter& painter, const SvgField& field, double room)
 
 void drawField(QPainter& painter, const SvgField& field, const QTransform& toPage, const QRectF& page)
 {
-    QColor colour(field.style.fill);
-    if (!colour.isValid()) {
-        return; // "none": a text that is not to be seen
+    const std::optional<QColor> colour = colourOf(field.style);
+    if (!colour) {
+        return;
     }
-    colour.setAlphaF(static_cast<float>(colour.alphaF() * field.style.opacity));
     painter.save();
-    painter.setPen(colour);
+    painter.setPen(*colour);
     painter.setTransform(QTransform::fromScale(1 / Enlargement, 1 / Enlargement) * toPage *
                          painter.transform());
     if (field.box) {
