@@ -8,6 +8,7 @@
 #include "core/NumberText.h"
 #include "core/RuntimeError.h"
 #include "master/CsvExport.h"
+#include "master/Packages.h"
 #include "master/TextTable.h"
 #include "results/Mark.h"
 #include "results/cls_DataScore.h"
@@ -51,13 +52,6 @@ String timeText(Moment moment)
 String numberText(double value)
 {
     return plainText(value, currentLocale().decimalSign);
-}
-
-String readable(const String& packed)
-{
-    CoreParameters list;
-    ignoringErrors([&] { list.Unpack(packed); });
-    return list.TextLine();
 }
 
 /// A setting's value as a teacher types it.
@@ -250,7 +244,8 @@ Console::Outcome Console::results(StringView arguments)
     for (const Result& result : store_.latestResults(*count)) {
         table.add({timeText(result.at), result.sender.screenName, result.sender.computer, result.exercise,
                    numberText(result.points), numberText(result.pointsMax),
-                   String(markFor(result.points, result.pointsMax).school), readable(result.additional)});
+                   String(markFor(result.points, result.pointsMax).school),
+                   shownAdditional(result.additional)});
     }
     if (table.isEmpty()) {
         tell(u"Es gibt noch keine Ergebnisse.", u"There are no results yet.");
@@ -314,7 +309,7 @@ Console::Outcome Console::events(StringView arguments)
                      translated(u"Ereignis", u"Event"), translated(u"Zusatz", u"More")});
     for (const PupilEvent& event : store_.latestEvents(*count)) {
         table.add({timeText(event.at), event.sender.screenName, event.sender.computer, event.action,
-                   readable(event.additional)});
+                   shownAdditional(event.additional)});
     }
     if (table.isEmpty()) {
         tell(u"Es gibt noch keine Ereignisse.", u"There are no events yet.");

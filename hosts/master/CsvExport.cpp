@@ -1,9 +1,9 @@
 #include "master/CsvExport.h"
 
-#include "core/CoreParameters.h"
 #include "core/Format.h"
 #include "core/NumberText.h"
 #include "core/Utf8Text.h"
+#include "master/Packages.h"
 #include "results/Mark.h"
 
 #include <initializer_list>
@@ -33,20 +33,13 @@ String number(double value)
     return plainText(value, u',');
 }
 
-String readable(const String& packed)
-{
-    CoreParameters list;
-    ignoringErrors([&] { list.Unpack(packed); });
-    return list.TextLine();
-}
-
 String lineOf(const Result& result)
 {
     const MarkRow& mark = markFor(result.points, result.pointsMax);
     return line({formatPattern(result.at, u"dd.mm.yyyy"), formatPattern(result.at, u"hh:nn:ss"),
                  csvCell(result.sender.screenName), csvCell(result.sender.userName),
                  csvCell(result.sender.computer), csvCell(result.exercise), number(result.points),
-                 number(result.pointsMax), csvCell(mark.words), csvCell(readable(result.additional))});
+                 number(result.pointsMax), csvCell(mark.words), csvCell(shownAdditional(result.additional))});
 }
 
 } // namespace

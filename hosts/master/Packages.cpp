@@ -119,4 +119,11 @@ PupilEvent unpackEvent(StringView package, Moment at)
             packedAnew(additional)};
 }
 
+String shownAdditional(const String& packed)
+{
+    CoreParameters values;
+    ignoringErrors([&] { values.Unpack(packed); });
+    return values.TextLine();
+}
+
 } // namespace phial::master

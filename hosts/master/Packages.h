@@ -27,4 +27,7 @@ Result unpackResult(StringView package, Moment at);
 /// as above.
 PupilEvent unpackEvent(StringView package, Moment at);
 
+/// Kept additional values for people, on one line; the empty text for what is none of ours.
+String shownAdditional(const String& packed);
+
 } // namespace phial::master
