@@ -21,6 +21,7 @@
 #include "master/Options.h"
 #include "master/SqlStore.h"
 #include "qt/base/BasePlatform.h"
+#include "qt/base/NetAddress.h"
 #include "qt/base/QtText.h"
 
 #include <QCoreApplication>
@@ -143,7 +144,7 @@ void complain(const StoreError& error)
 
 void complain(const MasterServer& server, const MasterServer::Address& address)
 {
-    const Variant::Array where{qt::fromQt(address.address.toString()), std::int32_t{address.port}};
+    const Variant::Array where{qt::addressText(address.address), std::int32_t{address.port}};
     if (server.problem() == QAbstractSocket::AddressInUseError) {
         complain(u"Port {2} ist schon belegt; läuft schon ein Master? --port wählt einen anderen",
                  u"port {2} is in use already; is a master running? --port takes another one", where);
@@ -201,7 +202,7 @@ String ownAddresses()
     String list;
     for (const QHostAddress& address : QNetworkInterface::allAddresses()) {
         if (address.protocol() == QAbstractSocket::IPv4Protocol && !address.isLoopback()) {
-            list.append(list.empty() ? u"" : u", ").append(qt::fromQt(address.toString()));
+            list.append(list.empty() ? u"" : u", ").append(qt::addressText(address));
         }
     }
     return list;
@@ -210,7 +211,7 @@ String ownAddresses()
 void tellWhereItListens(const MasterServer& server, const QHostAddress& address)
 {
     tell(std::cout, u"Der Master läuft auf {1}, Port {2}.", u"The master is running on {1}, port {2}.",
-         {qt::fromQt(address.toString()), std::int32_t{server.port()}});
+         {qt::addressText(address), std::int32_t{server.port()}});
     if (address.isLoopback()) {
         tell(std::cout,
              u"Nur Programme auf diesem Rechner erreichen ihn; --listen 0.0.0.0 öffnet ihn für das Netz.",

@@ -1,6 +1,6 @@
 #include "master/MasterServer.h"
 
-#include "qt/base/QtText.h"
+#include "qt/base/NetAddress.h"
 #include "server/Announcement.h"
 #include "server/WireText.h"
 
@@ -223,7 +223,7 @@ void MasterServer::answerQuestions()
         if (!question || !question->isQuestion() || !questions_.pass(clock_.seconds())) {
             continue;
         }
-        const String own = qt::fromQt(ownAddressFor(datagram).toString());
+        const String own = qt::addressText(ownAddressFor(datagram));
         const std::string bytes = encodeAnnouncement({classroom_.settingsText(placeFor(own))});
         datagrams_.writeDatagram(
             datagram.makeReply(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size()))));
