@@ -82,10 +82,12 @@ class Trainer:
         self._log = folder / "programdata/QV Phial/Logs/network.log"
         self._log.unlink(missing_ok=True)
         port = free_port()
-        self.process = subprocess.Popen(
-            [tree / "apps/Molmasse/molmasse"],
-            env=environment(folder) | {"QT_QPA_PLATFORM": f"vnc:size=1000x760:port={port}"},
-            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self._complaints = folder / "trainer.err"
+        with self._complaints.open("wb") as complaints:
+            self.process = subprocess.Popen(
+                [tree / "apps/Molmasse/molmasse"],
+                env=environment(folder) | {"QT_QPA_PLATFORM": f"vnc:size=1000x760:port={port}"},
+                stdout=subprocess.DEVNULL, stderr=complaints)
         self.screen = RemoteScreen(port)
         self.public = folder / "public/Documents/QV Phial/Highscores/Molmasse"
 
@@ -100,6 +102,9 @@ class Trainer:
         self.screen.type("18,0")
         self.screen.press(RETURN)
         self.screen.press(RETURN)
+
+    def complaints(self):
+        return self._complaints.read_text(encoding="utf-8", errors="replace")
 
     def end(self):
         """The pupil leaves; gives the program's result."""
@@ -191,7 +196,8 @@ class Lesson(unittest.TestCase):
         wait_until(lambda: pupil.has_sent("HIGHSCORE:GET"), "the list of the class opens")
         pupil.screen.settle()
         pupil.screen.press(ESCAPE)
-        self.assertEqual(pupil.end(), 0)
+        result = pupil.end()
+        self.assertEqual(result, 0, pupil.complaints())
         self.assertTrue(pupil.has_sent("SERVER:LOGOFF"))
         master.tells("pupils", "Niemand")
 
@@ -205,7 +211,8 @@ class Lesson(unittest.TestCase):
         pupil.screen.settle()
         pupil.screen.press(RETURN)
         wait_until(lambda: "RUNDE BEENDET" in events.read_bytes().decode("utf-8", "replace"), "the end is noted")
-        self.assertEqual(pupil.end(), 0)
+        result = pupil.end()
+        self.assertEqual(result, 0, pupil.complaints())
         self.assertNotIn("LOGON:OK", pupil.log())
 
 
