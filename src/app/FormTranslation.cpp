@@ -159,15 +159,17 @@ void FormTranslation::visitControl(Object& control, const Visit& visit)
 {
     const String key = keyOf(control);
     for (const StringView property : ControlTexts) {
-        visit(control, String(key).append(u".").append(property), property);
+        if (findMember(control, property)) {
+            visit(control, String(key).append(u".").append(property), property);
+        }
     }
-    visitMembers(control, u"BUTTONS", key + u".BUTTONS", ButtonTexts, visit);
-    visitMembers(control, u"PANELS", key + u".PANELS", ButtonTexts, visit);
-    visitMembers(control, u"ITEMS", key + u".ITEMS", ItemTexts, visit);
-    visitMembers(control, u"COLUMNHEADERS", key + u".COLUMNHEADERS", ColumnTexts, visit);
+    visitMembers(control, u"BUTTONS", key, ButtonTexts, visit);
+    visitMembers(control, u"PANELS", key, ButtonTexts, visit);
+    visitMembers(control, u"ITEMS", key, ItemTexts, visit);
+    visitMembers(control, u"COLUMNHEADERS", key, ColumnTexts, visit);
 }
 
-void FormTranslation::visitMembers(Object& control, StringView collection, StringView keyPart,
+void FormTranslation::visitMembers(Object& control, StringView collection, StringView controlKey,
                                    std::span<const StringView> properties, const Visit& visit)
 {
     const ObjectPtr members = objectOf(control, collection);
@@ -177,7 +179,8 @@ void FormTranslation::visitMembers(Object& control, StringView collection, Strin
         if (!member) {
             continue;
         }
-        const String key = String(keyPart) + u"(" + Variant(i).toText() + u").";
+        const String key =
+            String(controlKey).append(u".").append(collection) + u"(" + Variant(i).toText() + u").";
         for (const StringView property : properties) {
             visit(*member, String(key).append(property), property);
         }

@@ -38,7 +38,7 @@ private:
     void assign();
     std::vector<ObjectPtr> controls();
     static void visitControl(Object& control, const Visit& visit);
-    static void visitMembers(Object& control, StringView collection, StringView keyPart,
+    static void visitMembers(Object& control, StringView collection, StringView controlKey,
                              std::span<const StringView> properties, const Visit& visit);
     void note(StringView key, const String& text);
     void noteUntranslated(StringView key, const String& text);
