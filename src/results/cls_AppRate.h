@@ -33,7 +33,8 @@ public:
 
     /// The highscore of a module, from the master or from this computer; empty when there is none.
     std::shared_ptr<cls_DataScores> HIGHSCORE(StringView pModule = u"HIGHSCORE") const;
-    /// Shows it with a rank stressed. A list of this computer can be reset there.
+    /// Shows it with a rank stressed. A list of this computer can be reset there. It is saved afterwards when
+    /// it was reset, or when no other program has changed its file meanwhile. `pFlags` has no effect.
     void HIGHSCORELIST(StringView pTitle = {}, std::int32_t pRank = -1, StringView pModule = u"HIGHSCORE",
                        const void* pFlags = nullptr) const;
 

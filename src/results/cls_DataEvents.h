@@ -40,22 +40,29 @@ public:
     std::shared_ptr<cls_DataEvent> ITEM(const Variant& pID, bool pForceIndex = true);
     bool EXISTS(const Variant& pID) const { return database_.get()->Exists(pID); }
     std::int32_t COUNT() const { return database_.get()->Count(); }
+    /// Removes the entry with that ID, or with `pForceIndex` the one at a position. False when there is none.
     bool REMOVE(const Variant& pID, bool pForceIndex = false);
 
     /// Adds an entry of this moment, whatever `pTimeStamp` says; empty names as in `cls_DataScores`. The
     /// result is the new entry, which has no ID.
     Variant ADD(StringView pAction, const CoreParameters* pAdditional = nullptr, StringView pUserName = {},
                 StringView pComputerName = {}, StringView pScreenName = {}, Moment pTimeStamp = {});
-    /// Adds an empty entry with that ID.
+    /// Adds an empty entry with that ID, or without one.
     std::shared_ptr<cls_DataEvent> CREATE(const std::optional<Variant>& pID = std::nullopt);
     void CLEAR();
 
+    /// Reads the log from a record file, or writes it. False when any step fails.
     bool LOAD(StringView pFile, StringView pPW = {});
     bool SAVE(StringView pFile, StringView pPW = {});
 
+    /// Shows position, login and action of each entry in a box.
     void DEBUGSHOW();
+    /// The log as a text divided by tabs.
     String TEXT();
+    /// Asks for a file and writes `TEXT` into it, in the dialog of score lists; false when the user does not
+    /// choose one. A failing write is raised.
     bool EXPORT(StringView pFile = {});
+    /// Prints the log in landscape under that title. A printer's failure is raised.
     void PRINTOUT(StringView pName);
 
     StringView typeName() const override { return u"cls_DataEvents"; }
