@@ -1,6 +1,7 @@
 // What pupils were told is stored stays stored, and once, however often the master is killed.
 
 #include "MasterProcess.h"
+#include "StoreSamples.h"
 #include "master/SqlConnection.h"
 #include "support/AppSession.h"
 
@@ -31,6 +32,11 @@ using Submission = std::pair<std::string, std::string>;
 class ExactlyOnceTest : public phial::test::AppSession
 {
 protected:
+    bool startMaster()
+    {
+        return master_.start({QStringLiteral("--database"), QString::fromStdString(place_)});
+    }
+
     void startPupils()
     {
         for (int number = 1; number <= Pupils; ++number) {
@@ -53,7 +59,7 @@ protected:
         for (int kill = 0; kill < Kills; ++kill) {
             QThread::msleep(milliseconds(random)); // the chance of the moment is the point
             master_.kill();
-            ASSERT_TRUE(master_.start()) << master_.output();
+            ASSERT_TRUE(startMaster()) << master_.output();
         }
     }
 
@@ -77,7 +83,7 @@ protected:
     /// How often each submission is stored, and the answer that is stored with it.
     std::map<Submission, std::vector<std::string>> stored() const
     {
-        SqlConnection database(*parseStorePlace(master_.database().string()), StoreUse::Look);
+        SqlConnection database(*parseStorePlace(place_), StoreUse::Look);
         std::map<Submission, std::vector<std::string>> answers;
         const auto take = [&](const QSqlQuery& row) {
             const auto text = [&](int column) { return row.value(column).toString().toStdString(); };
@@ -88,13 +94,14 @@ protected:
         return answers;
     }
 
+    const std::string place_ = phial::test::newStorePlace();
     MasterProcess master_{folder};
     std::vector<std::unique_ptr<QProcess>> pupils_;
 };
 
 TEST_F(ExactlyOnceTest, WhatWasAnsweredIsStoredOnceThroughTenKills)
 {
-    ASSERT_TRUE(master_.start()) << master_.output();
+    ASSERT_TRUE(startMaster()) << master_.output();
     startPupils();
     killOftenWhilePupilsWork();
     const auto answers = confirmed();

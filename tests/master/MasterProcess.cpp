@@ -74,11 +74,6 @@ int MasterProcess::run(const QStringList& arguments, const QByteArray& input)
     return ended ? process.exitCode() : -1;
 }
 
-std::filesystem::path MasterProcess::database() const
-{
-    return std::filesystem::path(folder_.toStdString()) / "master.sqlite";
-}
-
 QProcessEnvironment MasterProcess::environmentIn(const TemporaryFolder& folder)
 {
     const QString home = QString::fromStdString(folder.native().string());

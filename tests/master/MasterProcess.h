@@ -35,8 +35,6 @@ public:
     /// What that run has written, the error stream included.
     const std::string& ranOutput() const { return ranOutput_; }
 
-    std::filesystem::path database() const;
-
     /// The environment that keeps a program within the folder.
     static QProcessEnvironment environmentIn(const TemporaryFolder& folder);
 
