@@ -17,9 +17,11 @@ struct Locale {
     char16_t decimalSign = u',';
     /// The language in force: LanguageGerman or LanguageEnglish. Names of months and days follow it.
     std::int32_t language = LanguageGerman;
-    /// Patterns of a moment turned to text plainly (see formatPattern).
+    /// Patterns of moments (see formatPattern). One turned to text plainly has the short date and the long
+    /// time.
     String shortDate = u"dd.mm.yyyy";
-    String shortTime = u"HH:MM:SS";
+    String shortTime = u"HH:MM";
+    String longTime = u"HH:MM:SS";
 };
 
 /// The locale in force: that of the innermost LocaleBinding, or the defaults of `Locale` without one.

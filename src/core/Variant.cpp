@@ -149,7 +149,7 @@ String plainMoment(Moment moment)
     if (noTime) {
         return formatPattern(moment, locale.shortDate, locale);
     }
-    return formatPattern(moment, noDate ? locale.shortTime : locale.shortDate + u' ' + locale.shortTime,
+    return formatPattern(moment, noDate ? locale.longTime : locale.shortDate + u' ' + locale.longTime,
                          locale);
 }
 

@@ -50,6 +50,14 @@ String highscoreFile(StringView module)
     return QVAPP()->URL()->DATAHIGHSCORES() + String(module) + u".qv-hsr";
 }
 
+/// A list whose load fails half way counts as empty, whatever it holds by then.
+void loadOrEmpty(cls_DataScores& scores, StringView file)
+{
+    if (!scores.LOAD(file)) {
+        scores.CLEAR();
+    }
+}
+
 Variant submitToMaster(const String& result, StringView module, bool showInfo)
 {
     const Variant answer = QVAPP()->SERVER()->REQUEST(module, u"SUBMIT", result);
@@ -134,7 +142,7 @@ std::shared_ptr<cls_DataScores> cls_AppRate::HIGHSCORE(StringView pModule) const
 {
     auto scores = std::make_shared<cls_DataScores>();
     if (!QVAPP()->SERVER()->ONLINE()) {
-        scores->LOAD(highscoreFile(pModule));
+        loadOrEmpty(*scores, highscoreFile(pModule));
         return scores;
     }
     const String answer = QVAPP()->SERVER()->REQUEST(pModule, u"GET").toText();
@@ -182,7 +190,7 @@ std::int32_t cls_AppRate::SUBMIT(double pPoints, double pPointsMax, StringView p
     {
         const String file = highscoreFile(pHSModule);
         const FileLock lock(file);
-        scores.LOAD(file);
+        loadOrEmpty(scores, file);
         scores.ONCE(false);
         scores.MAXIMUM(pLocalMax);
         rank = scores.ADD(pPoints, pPointsMax, pUEBM, pAdditional);
@@ -205,7 +213,7 @@ void cls_AppRate::RESULT(double pPoints, double pPointsMax, StringView pUEBM,
     const String file = resultsFile();
     const FileLock lock(file);
     cls_DataScores scores;
-    scores.LOAD(file);
+    loadOrEmpty(scores, file);
     scores.ADD(pPoints, pPointsMax, pUEBM, pAdditionalData);
     scores.SAVE(file);
 }

@@ -3,6 +3,7 @@
 #include "app/cls_AppURL.h"
 #include "app/cls_AppUser.h"
 #include "app/sys_Global.h"
+#include "core/CoreDataFile.h"
 #include "core/CoreParameters.h"
 #include "core/CoreValuePacker.h"
 #include "core/RuntimeError.h"
@@ -256,6 +257,18 @@ TEST_F(AppRateTest, SubmittingEndsOnceAndSetsTheLimitOfTheStoredList)
     rate().SUBMIT(7, 10, u"", nullptr, u"HIGHSCORE", false, 5);
     EXPECT_FALSE(stored(u"HIGHSCORE.qv-hsr").ONCE());
     EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr").MAXIMUM(), 5);
+}
+
+TEST_F(AppRateTest, AListThatLoadsOnlyHalfCountsAsEmpty)
+{
+    CoreDataFile half;
+    half.Open(path(u"HIGHSCORE.qv-hsr"), DataFileMode::Write);
+    half.Write(u"2.0", u"Molmasse", 10, false, false, 1, 3, u"2.5", u"f1", 1, u"Anna");
+    half.Close();
+    EXPECT_EQ(rate().HIGHSCORE()->COUNT(), 0);
+    EXPECT_EQ(rate().SUBMIT(7, 10, u"", nullptr, u"HIGHSCORE", false), 1);
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr").COUNT(), 1);
+    EXPECT_TRUE(folder.has("HIGHSCORE.qv-hsr.kept"));
 }
 
 TEST_F(AppRateTest, AFailedSaveIsNotReported)
