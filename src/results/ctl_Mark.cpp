@@ -227,6 +227,7 @@ void ctl_Mark::drawSign(ctl_Label& sign, bool holds, std::int64_t neighbour)
     const std::int64_t chosen = wholeMarkOf(mark_);
     stress(sign, holds,
            holds ? CoreColors::Blend(colourOf(chosen), SignShare, colourOf(neighbour)) : BackColor());
+    sign.Visible(holds); // the background's colour would erase what it crosses of the other sign
     const auto cell = static_cast<double>(std::clamp<std::int64_t>(chosen, Best, Worst) - Best);
     sign.Move(cell * CellWidth + SignLeft, sign.Top());
 }

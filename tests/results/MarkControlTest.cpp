@@ -114,6 +114,19 @@ TEST_F(MarkControl, ShowsEachMarkOfTheScale)
     }
 }
 
+TEST_F(MarkControl, PaintsNoUnseenSignOverTheOneThatHolds)
+{
+    show(1);
+    EXPECT_FALSE(plus().Visible());
+    EXPECT_TRUE(minus().Visible());
+    show(3);
+    EXPECT_TRUE(plus().Visible());
+    EXPECT_FALSE(minus().Visible());
+    show(2);
+    EXPECT_FALSE(plus().Visible());
+    EXPECT_FALSE(minus().Visible());
+}
+
 TEST_F(MarkControl, GivesTheChosenMarkItsColourAndBlendsTheOthersWithTheBackground)
 {
     control->BackColor(RGB(10, 20, 30));
