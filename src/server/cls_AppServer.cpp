@@ -300,13 +300,13 @@ void cls_AppServer::welcome()
     }
 }
 
-/// One request; nothing is raised.
+/// One request; nothing is raised. Its value is the empty text where no answer came.
 cls_AppServer::Reply cls_AppServer::ask(StringView module, StringView command, StringView package)
 {
     lastAnswer_.clear();
     ignoringErrors([&] { note(String(u"REQUEST: ").append(module).append(u":").append(command)); });
     const auto answer = sendUntilAnswered(requestText(module, command, package), responseTimeout(package));
-    return answer ? evaluate(*answer) : Reply();
+    return answer ? evaluate(*answer) : Reply{u"", std::nullopt};
 }
 
 /// What fails is the pending error of the reply.

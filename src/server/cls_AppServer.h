@@ -59,7 +59,8 @@ public:
     Variant SETTING(StringView pSettingName, const Variant& pDefaultValue);
     /// Records an event at the master, or without one in the file "event.qv-log" beside the highscores.
     void ACTION(StringView pAction, const CoreParameters* pAdditional = nullptr);
-    /// A request with its answer; empty without one.
+    /// A request with its answer. Without one it is the empty text where a master was asked in vain, and has
+    /// no value where there is none to ask or its answer cannot be read.
     Variant REQUEST(StringView pModule, StringView pCmd, StringView pPackage = {});
     /// A message whose answer is of no interest.
     void COMMAND(StringView pModule, StringView pCmd, StringView pPackage = {});

@@ -52,7 +52,7 @@ TEST_F(ServerRequest, WaitsLongerForLargerPackages)
 TEST_F(ServerRequest, SendsSixTimesWithGrowingTimeouts)
 {
     master.isThere(false);
-    EXPECT_EQ(request(), Variant());
+    EXPECT_EQ(request(), Variant(u""));
     EXPECT_THAT(requestsFrom(1), testing::Each(u"PROPERTIES:GET"));
     EXPECT_THAT(timeoutsFrom(1), ElementsAre(4, 6, 8, 10, 12, 14));
     EXPECT_EQ(options().ResponseTimeout, 4) << "the first one is in force again";
