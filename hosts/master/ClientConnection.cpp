@@ -63,6 +63,10 @@ void ClientConnection::answer(const FrameId& id, const String& text)
     if (!isOpen()) {
         return;
     }
+    if (text.size() > limits_.untakenBytes) {
+        cutOff(); // it takes a byte for each unit at least, and may not even fit into a frame
+        return;
+    }
     const std::string bytes = encodeFrame({FrameKind::Answer, id, text});
     socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
     if (static_cast<std::size_t>(socket_->bytesToWrite()) > limits_.untakenBytes) {

@@ -30,6 +30,7 @@ public:
     std::optional<Frame> nextRequest();
     /// Whether more can be taken without waiting for the client.
     bool hasMore() const;
+    /// Cuts off a client that does not take its answers, and one whose answer is beyond what may wait.
     void answer(const FrameId& id, const String& text);
     /// Whether one more log-on may be taken in.
     bool mayLogOn();

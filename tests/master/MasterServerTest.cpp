@@ -5,6 +5,7 @@
 #include "core/CoreParameters.h"
 #include "core/CoreValuePacker.h"
 #include "core/NumberText.h"
+#include "master/Packages.h"
 #include "qt/Eventually.h"
 #include "qt/base/MasterSearch.h"
 #include "server/Announcement.h"
@@ -264,6 +265,25 @@ TEST_F(MasterServerTest, CutsOffWhoDoesNotTakeHisAnswers)
         client.send(u"PROPERTIES::GET::LONG");
     }
     EXPECT_TRUE(eventually([&] { return server_->connections() == 0; }));
+}
+
+TEST_F(MasterServerTest, CutsOffWhoAsksForAListBeyondAllBoundsAndAnswersTheOthers)
+{
+    constexpr int Entries = 100;
+    classroom_.settings().set(u"LONG.MAX", plainText(Entries));
+    CoreParameters additional;
+    additional.Set(u"Text", String(MaxAdditionalLength - 100, u'\u2082'));
+    for (int entry = 0; entry < Entries; ++entry) {
+        Result result{outside.clock().moment(), {u"Anna", u"anna", u"PC7"}, u"", 5, 10, additional.Pack()};
+        classroom_.highscores().submit(u"LONG", result);
+    }
+    serve();
+    WireClient& greedy = connectAndAsk(1);
+    WireClient& other = connectAndAsk(2);
+    greedy.send(u"LONG::GET::");
+    other.send(u"SERVER::MODE::");
+    EXPECT_TRUE(greedy.isCutOff());
+    EXPECT_TRUE(eventually([&] { return other.answers().size() == 2; }));
 }
 
 TEST_F(MasterServerTest, CutsOffWhoHoldsMostWhenMemoryRunsShort)
