@@ -182,6 +182,26 @@ TEST_F(NativeControlsTest, ALineThatAHandlerChoosesInsteadIsTheOneThatIsMarked)
     }
 }
 
+TEST_F(NativeControlsTest, ALineThatAHandlerChoosesInsteadOfAKeysLineIsTheOneThatIsMarked)
+{
+    const auto list = shown<ListBox>(u"lst_Names");
+    list->AddItem(u"Anna");
+    list->AddItem(u"KLASSE");
+    list->AddItem(u"Ben");
+    list->ListIndex(0);
+    const auto connection = list->Click.connect([&] {
+        if (list->ListIndex() == 1) {
+            list->ListIndex(2);
+        }
+    });
+    auto& widget = inner<QListWidget>(*list);
+    QTest::keyClick(&widget, Qt::Key_Down);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(list->ListIndex(), 2);
+    EXPECT_EQ(widget.currentRow(), 2);
+    EXPECT_EQ(widget.selectedItems(), QList<QListWidgetItem*>{widget.item(2)});
+}
+
 TEST_F(NativeControlsTest, ArrowKeysChooseInAList)
 {
     const auto list = shown<ListBox>(u"lst_Names");

@@ -29,6 +29,16 @@ ListBoxPeer::ListBoxPeer(std::shared_ptr<ListBox> model, QListWidget& list)
             modelChanged(ControlAspect::Selection);
         }
     });
+    // So it does after a key, but tells nobody; the line is set right when the toolkit has finished.
+    connect(
+        &list_, &QListWidget::itemSelectionChanged, this,
+        [this] {
+            const QListWidgetItem* current = list_.currentItem();
+            if (current != nullptr && !current->isSelected()) {
+                modelChanged(ControlAspect::Selection);
+            }
+        },
+        Qt::QueuedConnection);
     // A press on the line that is chosen already changes no row, but counts.
     connect(&list_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
         if (!std::exchange(chosenByPress_, false)) {
