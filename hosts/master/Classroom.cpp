@@ -17,7 +17,7 @@ namespace
 constexpr StringView Done = u"OK";
 constexpr StringView NoSense = u"ERROR";
 /// What stands in a rule for every module that no other rule names.
-constexpr StringView AnyModule = u"";
+constexpr StringView AnyModule;
 constexpr StringView NotInTheList = u"-1";
 
 } // namespace

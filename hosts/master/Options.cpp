@@ -110,7 +110,7 @@ std::pair<Options, std::optional<OptionProblem>> readOptions(std::span<const std
         }
         const std::string& value = arguments[++at];
         if (const Outcome problem = entry->take(options, value)) {
-            return {options, OptionProblem{*problem, argument + ' ' + value}};
+            return {options, OptionProblem{*problem, std::string(argument).append(" ").append(value)}};
         }
     }
     return {options, std::nullopt};

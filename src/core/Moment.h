@@ -25,6 +25,7 @@ struct Moment {
     /// The fields, rounded to the nearest second.
     CalendarTime calendar() const;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): the checker takes the 0 within comparisons for a pointer
     friend auto operator<=>(const Moment&, const Moment&) = default;
 };
 

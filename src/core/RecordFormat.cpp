@@ -15,7 +15,6 @@ namespace
 {
 
 using record_format::Frame;
-using record_format::State;
 
 /// The control sign ends the output of programs that show files as text.
 constexpr std::string_view Magic = "QVR\x1A";

@@ -84,7 +84,7 @@ private:
     }
 
     /// Prints a text in each column; another one can take its place in measuring.
-    void printCells(const std::vector<StringView>& texts, std::vector<StringView> measured)
+    void printCells(const std::vector<StringView>& texts, const std::vector<StringView>& measured)
     {
         const std::vector<double> edges = lefts(measured.empty() ? texts : measured);
         for (std::size_t column = 0; column < columns_.size(); ++column) {
