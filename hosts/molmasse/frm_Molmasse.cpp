@@ -84,9 +84,11 @@ void frm_Molmasse::build()
     // The formula stands in a panel of a page, whose unit is set as soon as it is there.
     for (const auto& item : layout::Contents) {
         phial::applyLayout(*form_, {&item, 1});
-        if (phial::Container* inner = form_->control<phial::Control>(item.name, item.index)->container()) {
+        const auto control = form_->control<phial::Control>(item.name, item.index);
+        if (phial::Container* inner = control->container()) {
             inner->ScaleMode(phial::ScaleUnit::Pixels);
         }
+        control->frame().TabIndex(static_cast<std::int32_t>(&item - std::begin(layout::Contents)));
     }
     buildLevels();
     form_->menu().add(u"mnu_Help", {})->add(u"mnu_HelpInfo", {});
@@ -104,6 +106,7 @@ void frm_Molmasse::buildLevels()
         const auto index = static_cast<std::int32_t>(i);
         const auto button = levels_.has(index) ? levels_(index) : levels_.load(index);
         button->Left(left + static_cast<double>(i) * (first->Width() + 21));
+        button->frame().TabIndex(first->frame().TabIndex());
         button->Visible(true);
     }
     first->Visible(!data_.tasks.levels.empty());

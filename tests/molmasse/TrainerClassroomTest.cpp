@@ -48,6 +48,17 @@ TEST_F(TrainerClassroom, IsEnteredOnceTheWindowStands)
     EXPECT_EQ(focused(), u"but_Level");
 }
 
+TEST_F(TrainerClassroom, IsReachedByTabBehindTheLevels)
+{
+    enter();
+
+    type(u"{tab}");
+    ASSERT_EQ(focused(), u"but_Level");
+    type(u"{enter}");
+
+    EXPECT_EQ(formula(), u"HCl");
+}
+
 TEST_F(TrainerClassroom, IsEnteredBesideAnotherAppOfThisComputer)
 {
     outside.network().refusePorts(true);
