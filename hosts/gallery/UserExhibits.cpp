@@ -3,6 +3,7 @@
 #include "app/ctl_Avatar.h"
 #include "app/frm_DialogUser.h"
 #include "app/sys_Global.h"
+#include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
 
 namespace gallery
@@ -38,6 +39,7 @@ ObjectPtr buildDialog(Stage& stage)
 {
     const auto dialog = std::make_shared<frm_DialogUser>();
     stage.atEnd([dialog] { dialog->form().discard(); });
+    putNote(stage, u"Der Knopf unten öffnet den Dialog.|The button below opens the dialog.");
     return dialog->form().shared_from_this();
 }
 
