@@ -109,12 +109,30 @@ bool Classroom::allows(bool tell)
     return state_ != State::Online || QVAPP()->SERVER()->ALLOWED(tell);
 }
 
+/// The client knows whether it is logged on: any call can find a lost master again.
+void Classroom::followClient()
+{
+    if (state_ == State::Online || state_ == State::Offline) {
+        become(QVAPP()->SERVER()->ONLINE() ? State::Online : State::Offline);
+    }
+}
+
+void Classroom::seeMaster()
+{
+    const auto server = QVAPP()->SERVER();
+    if (state_ == State::Online && server->REQUEST(u"SERVER", u"MODE").toText().empty()) {
+        server->CONNECT();
+        followClient();
+    }
+}
+
 void Classroom::roundStarted(const String& exercise)
 {
     alive_.Enabled(state_ == State::Online);
     phial::CoreParameters about;
     about.Set(Exercise, exercise);
     QVAPP()->SERVER()->ACTION(RoundStarted, &about);
+    followClient();
 }
 
 void Classroom::roundFinished(const RoundResult& result)
@@ -125,6 +143,7 @@ void Classroom::roundFinished(const RoundResult& result)
     about.Set(u"PUNKTE", static_cast<std::int32_t>(result.points));
     about.Set(u"MAXIMUM", static_cast<std::int32_t>(result.maximum));
     QVAPP()->SERVER()->ACTION(RoundFinished, &about);
+    followClient();
 }
 
 /// An answer may take longer than the interval; one sign of life at a time is enough.

@@ -58,10 +58,11 @@ void SummaryPage::show(const RoundResult& result, String germanTitle, String eng
     TRANSLATE();
 }
 
-void SummaryPage::submit()
+void SummaryPage::submit(const std::function<void()>& prepare)
 {
     submitting(true);
     try {
+        prepare();
         const phial::CoreParameters additional = additionalValues(result_);
         rank_ = QVAPP()->RATE()->SUBMIT(result_.points, result_.maximum, result_.exercise, &additional);
     } catch (const phial::RuntimeError&) {

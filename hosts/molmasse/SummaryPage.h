@@ -3,6 +3,8 @@
 #include "molmasse/RoundResult.h"
 #include "visual/Form.h"
 
+#include <functional>
+
 namespace molmasse
 {
 
@@ -19,9 +21,9 @@ public:
 
     /// Shows the result; `germanTitle` and `englishTitle` name the exercise.
     void show(const RoundResult& result, phial::String germanTitle, phial::String englishTitle);
-    /// Hands the result in, which tells the pupil the rank in a box. Events run until the master has answered
-    /// and the box is closed; until then only leaving is offered.
-    void submit();
+    /// Runs `prepare` and hands the result in, which tells the pupil the rank in a box. Events run until the
+    /// master has answered and the box is closed; until then only leaving is offered.
+    void submit(const std::function<void()>& prepare);
     /// Puts the texts that are not of the design in the language in force.
     void TRANSLATE();
 

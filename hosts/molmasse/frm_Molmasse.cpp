@@ -343,7 +343,7 @@ void frm_Molmasse::finishRound()
                              .tasks = round.count()};
     summary_->show(result, level.germanTitle, level.englishTitle);
     show(Page::Summary);
-    summary_->submit();
+    summary_->submit([this] { classroom_.seeMaster(); });
     if (form_->Visible()) {
         firstOf(Page::Summary)->SetFocus();
     }

@@ -2,6 +2,7 @@
 #include "app/cls_AppUser.h"
 #include "app/cls_Language.h"
 #include "molmasse/ClassroomTest.h"
+#include "results/cls_AppRate.h"
 #include "results/cls_DataEvent.h"
 #include "results/cls_DataEvents.h"
 #include "results/cls_DataScores.h"
@@ -269,6 +270,35 @@ TEST_F(TrainerClassroom, GetsTheResultAndGivesTheRank)
     EXPECT_EQ(values.at(2), Variant(u"Leicht"));
     EXPECT_EQ(values.at(4), Variant(u"Maxi"));
     EXPECT_EQ(seen(u"lab_Rank"), u"Platz 4 der Bestenliste");
+}
+
+TEST_F(TrainerClassroom, LosesNoResultToAMasterThatHasGone)
+{
+    enter();
+    touch(u"but_Level", 0);
+    type(u"18,0{enter}{enter}58,4{enter}");
+    isThere = false;
+    expectRankBox();
+    type(u"{enter}");
+
+    EXPECT_EQ(outside.dialogs().shown().back().title, u"Kunststück!");
+    EXPECT_EQ(phial::QVAPP()->RATE()->HIGHSCORE()->COUNT(), 1);
+    EXPECT_EQ(seen(u"lab_Classroom"), u"Kein Klassenraum gefunden, du übst für dich.");
+}
+
+TEST_F(TrainerClassroom, FindsALostMasterAgainWithTheNextRound)
+{
+    enter();
+    touch(u"but_Level", 0);
+    type(u"18,0{enter}{enter}58,4{enter}");
+    isThere = false;
+    expectRankBox();
+    type(u"{enter}");
+    isThere = true;
+    touch(u"but_Again");
+    touch(u"but_Level", 0);
+    EXPECT_NE(seen(u"lab_Classroom"), u"Kein Klassenraum gefunden, du übst für dich.");
+    EXPECT_TRUE(phial::QVAPP()->SERVER()->ONLINE());
 }
 
 TEST_F(TrainerClassroom, OffersOnlyLeavingWhileTheResultIsOnItsWay)

@@ -92,7 +92,8 @@ TEST_F(PrintPreviewTest, SavesAPdfWhoseTextsStandWhereTheyWereDrawn)
     whenShown([](QDialog& preview) { button(preview, "Als PDF speichern …").click(); });
     Printer printer;
     print(printer);
-    EXPECT_EQ(outside().dialogs().shown().front().text, u"Liste 9a_b.pdf");
+    EXPECT_EQ(outside().dialogs().shown().front().text,
+              outside().folders().UserDocuments() + u"Liste 9a_b.pdf");
 
     const PdfPages pages = readPdf(nativePdf());
     ASSERT_EQ(pages.sizes.size(), 2U);

@@ -2,7 +2,6 @@
 
 #include "core/CoreDialogs.h"
 #include "core/CoreRoot.h"
-#include "core/NativePath.h"
 #include "core/RuntimeError.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/BoxParts.h"
@@ -39,7 +38,6 @@ constexpr BoxText Next{u"Nächste Seite", u"Next page"};
 constexpr BoxText Larger{u"Größer", u"Larger"};
 constexpr BoxText Smaller{u"Kleiner", u"Smaller"};
 constexpr BoxText PdfTitle{u"Als PDF-Datei speichern", u"Save as a PDF file"};
-constexpr BoxText PdfFilter{u"PDF-Datei|*.pdf", u"PDF file|*.pdf"};
 constexpr BoxText Saved{u"Gespeichert", u"Saved"};
 
 std::unique_ptr<QPrinter> printerFor(const PrintJob& job)
@@ -48,17 +46,6 @@ std::unique_ptr<QPrinter> printerFor(const PrintJob& job)
     printer->setDocName(job.title);
     printer->setPageLayout(job.layout);
     return printer;
-}
-
-/// A title as a file name: without the signs that file systems refuse.
-QString fileNameOf(QString title)
-{
-    for (QChar& sign : title) {
-        if (sign < QLatin1Char(' ') || QStringLiteral("\\/:*?\"<>|").contains(sign)) {
-            sign = QLatin1Char('_');
-        }
-    }
-    return title + QStringLiteral(".pdf");
 }
 
 /// The window. What the user has chosen is done when it has closed, so that errors reach the caller.
@@ -154,11 +141,9 @@ private:
 
     void chooseFile()
     {
-        const String file = coreRoot().CoreDialogs().SaveFile(
-            fromQt(fileNameOf(job_.title)), fromQt(inLanguage(PdfTitle)), fromQt(inLanguage(PdfFilter)));
-        if (!file.empty()) {
+        if (auto file = chosenPdfFile(job_.title, inLanguage(PdfTitle))) {
             isPdf_ = true;
-            accept(pdfFile(toQt(nativePath(file).u16string()), job_.title));
+            accept(std::move(file));
         }
     }
 

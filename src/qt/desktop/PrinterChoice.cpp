@@ -1,16 +1,36 @@
 #include "qt/desktop/PrinterChoice.h"
 
-#include "app/cls_Language.h"
-#include "app/sys_Global.h"
 #include "core/CoreDialogs.h"
+#include "core/CoreFolders.h"
 #include "core/CoreRoot.h"
+#include "core/CoreSystem.h"
 #include "core/NativePath.h"
 #include "qt/base/QtText.h"
+#include "qt/desktop/BoxParts.h"
 
 #include <QPrinterInfo>
 
 namespace phial::qt
 {
+
+namespace
+{
+
+constexpr BoxText PdfFilter{u"PDF-Datei|*.pdf", u"PDF file|*.pdf"};
+constexpr BoxText NoPrinter{u"Kein Drucker: als PDF-Datei speichern", u"No printer: save as a PDF file"};
+
+/// A title as a file name: without the signs that file systems refuse.
+QString fileNameOf(QString title)
+{
+    for (QChar& sign : title) {
+        if (sign < QLatin1Char(' ') || QStringLiteral("\\/:*?\"<>|").contains(sign)) {
+            sign = QLatin1Char('_');
+        }
+    }
+    return title + QStringLiteral(".pdf");
+}
+
+} // namespace
 
 std::unique_ptr<QPrinter> pdfFile(const QString& file, const QString& title)
 {
@@ -21,6 +41,14 @@ std::unique_ptr<QPrinter> pdfFile(const QString& file, const QString& title)
     return printer;
 }
 
+std::unique_ptr<QPrinter> chosenPdfFile(const QString& title, const QString& dialogTitle)
+{
+    const String place = coreRoot().CoreSystem().CoreFolders().UserDocuments() + fromQt(fileNameOf(title));
+    const String file =
+        coreRoot().CoreDialogs().SaveFile(place, fromQt(dialogTitle), fromQt(inLanguage(PdfFilter)));
+    return file.empty() ? nullptr : pdfFile(toQt(nativePath(file).u16string()), title);
+}
+
 std::unique_ptr<QPrinter> printerOrPdf(const QString& title)
 {
     if (!QPrinterInfo::defaultPrinter().isNull()) {
@@ -28,10 +56,7 @@ std::unique_ptr<QPrinter> printerOrPdf(const QString& title)
         printer->setDocName(title);
         return printer;
     }
-    const String file = coreRoot().CoreDialogs().SaveFile(
-        u"", LNG()->TRANSLATE(u"Kein Drucker: als PDF-Datei speichern", u"No printer: save as a PDF file"),
-        LNG()->TRANSLATE(u"PDF-Datei|*.pdf", u"PDF file|*.pdf"));
-    return file.empty() ? nullptr : pdfFile(toQt(nativePath(file).u16string()), title);
+    return chosenPdfFile(title, inLanguage(NoPrinter));
 }
 
 } // namespace phial::qt
