@@ -38,11 +38,11 @@ constexpr Colour White = RGB(255, 255, 255);
 // In pixels.
 constexpr double CellWidth = 50;
 constexpr double CellHeight = 37;
-constexpr double SignLeft = 32; // from the cell's left edge
+constexpr double SignLeft = 33; // from the cell's left edge
 constexpr double SignWidth = 16;
 
 constexpr double NumberPoints = 17;
-constexpr double SignPoints = 13;
+constexpr double SignPoints = 11;
 constexpr std::int32_t MiddleCentre = 1;
 
 constexpr auto Table = joinMembers(
