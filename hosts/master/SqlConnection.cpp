@@ -23,6 +23,7 @@ namespace fs = std::filesystem;
 
 /// Under this number a server locks for masters.
 constexpr const char* TryServerLock = "SELECT CAST(pg_try_advisory_lock(1348028750) AS INTEGER)";
+constexpr const char* ReleaseServerLock = "SELECT pg_advisory_unlock_all()";
 constexpr const char* ServerTables =
     "SELECT table_name FROM information_schema.tables WHERE table_schema = 'phial_master'";
 constexpr const char* FileTables = "SELECT name FROM sqlite_master WHERE type = 'table'";
@@ -114,6 +115,7 @@ SqlConnection::SqlConnection(StorePlace place, StoreUse use) : place_(std::move(
 SqlConnection::~SqlConnection()
 {
     rollBack();
+    releaseServerLock();
     close();
 }
 
@@ -225,6 +227,19 @@ void SqlConnection::waitForServerLock()
             throw StoreError(place_.shown(), StoreError::Reason::InUse);
         }
         clock->sleep(SecondsBetweenTries);
+    }
+}
+
+/// A server notices a closed connection only a moment later; until then it would keep the next master out.
+void SqlConnection::releaseServerLock() noexcept
+{
+    if (name_.isEmpty() || !place_.isServer()) {
+        return;
+    }
+    try {
+        plain(QLatin1String(ReleaseServerLock));
+    } catch (const StoreError&) {
+        return; // the connection is lost, and the lock with it
     }
 }
 

@@ -77,6 +77,7 @@ private:
     void openFile();
     void openServer();
     void waitForServerLock();
+    void releaseServerLock() noexcept;
     void keepDamagedFile(const std::string& trouble);
     void close();
 
