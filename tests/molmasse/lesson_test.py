@@ -65,6 +65,10 @@ class Master:
         wait_until(lambda: any(all(word in line for word in words) for line in list(self._said)),
                    f"{command} tells of {words}", meanwhile=lambda: self.type(command))
 
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
+
     def end(self):
         if self.process.poll() is None:
             self.type("quit")
@@ -200,6 +204,27 @@ class Lesson(unittest.TestCase):
         self.assertEqual(result, 0, pupil.complaints())
         self.assertTrue(pupil.has_sent("SERVER:LOGOFF"))
         master.tells("pupils", "Niemand")
+
+    def test_keeps_a_result_whose_master_has_gone_on_this_computer(self):
+        master = self.start_master()
+        master.type("app Molmasse")
+        pupil = self.start_trainer()
+        wait_until(lambda: pupil.has_sent("EVENT:ADD"), "the round begins",
+                   meanwhile=lambda: pupil.screen.press(RETURN), pause=1)
+        master.tells("events", "Lena", "RUNDE BEGONNEN")
+        pupil.screen.settle()
+        master.kill()
+        pupil.solve()
+        best = pupil.public / "HIGHSCORE.qv-hsr"
+        wait_until(best.exists, "the result is kept")
+        pupil.screen.settle()
+        pupil.screen.press(RETURN)  # closes the box that tells the rank
+        events = pupil.public / "event.qv-log"
+        wait_until(lambda: events.exists() and "RUNDE BEENDET" in events.read_bytes().decode("utf-8", "replace"),
+                   "the end is noted")
+        self.assertFalse(pupil.has_sent("HIGHSCORE:SUBMIT"))
+        result = pupil.end()
+        self.assertEqual(result, 0, pupil.complaints())
 
     def test_is_kept_on_this_computer_without_a_master(self):
         pupil = self.start_trainer()
