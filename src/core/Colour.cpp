@@ -1,25 +1,10 @@
 #include "core/Colour.h"
 
-#include "core/RuntimeError.h"
-
 #include <array>
 #include <cstddef>
 
 namespace phial
 {
-
-Colour QBColor(int index)
-{
-    static constexpr std::array<Colour, 16> Table = {
-        RGB(0, 0, 0),       RGB(0, 0, 128),   RGB(0, 128, 0),   RGB(0, 128, 128),
-        RGB(128, 0, 0),     RGB(128, 0, 128), RGB(128, 128, 0), RGB(192, 192, 192),
-        RGB(128, 128, 128), RGB(0, 0, 255),   RGB(0, 255, 0),   RGB(0, 255, 255),
-        RGB(255, 0, 0),     RGB(255, 0, 255), RGB(255, 255, 0), RGB(255, 255, 255)};
-    if (index < 0 || index >= static_cast<int>(Table.size())) {
-        throw RuntimeError(ErrorNumber::InvalidArgument);
-    }
-    return Table[static_cast<std::size_t>(index)];
-}
 
 Colour defaultColour(Colour colour)
 {

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "core/RuntimeError.h"
+
+#include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace phial
@@ -46,7 +50,18 @@ constexpr Colour RGB(int red, int green, int blue)
 }
 
 /// The classic table of 16 colours; raises 5 for an index outside 0 to 15.
-Colour QBColor(int index);
+constexpr Colour QBColor(int index)
+{
+    constexpr std::array<Colour, 16> Table = {
+        RGB(0, 0, 0),       RGB(0, 0, 128),   RGB(0, 128, 0),   RGB(0, 128, 128),
+        RGB(128, 0, 0),     RGB(128, 0, 128), RGB(128, 128, 0), RGB(192, 192, 192),
+        RGB(128, 128, 128), RGB(0, 0, 255),   RGB(0, 255, 0),   RGB(0, 255, 255),
+        RGB(255, 0, 0),     RGB(255, 0, 255), RGB(255, 255, 0), RGB(255, 255, 255)};
+    if (index < 0 || index >= static_cast<int>(Table.size())) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+    return Table[static_cast<std::size_t>(index)];
+}
 
 /// What a system slot stands for when no desktop is asked (headless, tests); a plain colour gives itself.
 Colour defaultColour(Colour colour);
