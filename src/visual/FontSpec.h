@@ -24,4 +24,18 @@ struct FontSpec {
     friend bool operator==(const FontSpec&, const FontSpec&) = default;
 };
 
+/// The same in a constant table, which cannot hold a String.
+struct FontDesign {
+    StringView name = u"Tahoma";
+    double size = 8;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+
+    FontSpec traits() const
+    {
+        return {.name = String(name), .size = size, .bold = bold, .italic = italic, .underline = underline};
+    }
+};
+
 } // namespace phial
