@@ -1,31 +1,12 @@
 #include "visual/CommandBar.h"
 
-#include "core/Members.h"
-#include "visual/Change.h"
-
-#include <array>
+#include "visual/PropertyRows.h"
 
 namespace phial
 {
 
 namespace
 {
-
-constexpr Member ButtonTable[] = {
-    members::property<CommandBarButton, String, &CommandBarButton::Key, &CommandBarButton::Key>(u"Key"),
-    members::property<CommandBarButton, String, &CommandBarButton::Caption, &CommandBarButton::Caption>(
-        u"Caption"),
-    members::property<CommandBarButton, bool, &CommandBarButton::Enabled, &CommandBarButton::Enabled>(
-        u"Enabled"),
-    members::property<CommandBarButton, bool, &CommandBarButton::Visible, &CommandBarButton::Visible>(
-        u"Visible"),
-    members::property<CommandBarButton, bool, &CommandBarButton::Default, &CommandBarButton::Default>(
-        u"Default"),
-    members::property<CommandBarButton, PicturePtr, &CommandBarButton::Picture, &CommandBarButton::Picture>(
-        u"Picture"),
-    members::property<CommandBarButton, String, &CommandBarButton::ToolTipText,
-                      &CommandBarButton::ToolTipText>(u"ToolTipText"),
-};
 
 constexpr Member ButtonsTable[] = {
     members::readOnly<CommandBarButtons, std::int32_t, &CommandBarButtons::Count>(u"Count"),
@@ -41,57 +22,43 @@ constexpr Member ButtonsTable[] = {
 
 } // namespace
 
+struct CommandBarButton::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Key">(&CommandBarButton::key_).still(),
+        rows::property<u"Caption">(&CommandBarButton::caption_),
+        rows::property<u"Enabled">(&CommandBarButton::enabled_),
+        rows::property<u"Visible">(&CommandBarButton::visible_),
+        rows::property<u"Default">(&CommandBarButton::default_),
+        rows::property<u"Picture">(&CommandBarButton::picture_),
+        rows::property<u"ToolTipText">(&CommandBarButton::toolTip_),
+    };
+    static constexpr auto Effect = &CommandBarButton::tellChanged;
+};
+
 CommandBarButton::CommandBarButton(String key, String caption, std::shared_ptr<const Event<>> changed)
     : key_(std::move(key)), caption_(std::move(caption)), changed_(std::move(changed))
 {
 }
 
-void CommandBarButton::Caption(String value)
-{
-    if (change(caption_, std::move(value))) {
-        changed_->emit();
-    }
-}
-
-void CommandBarButton::Enabled(bool value)
-{
-    if (change(enabled_, value)) {
-        changed_->emit();
-    }
-}
-
-void CommandBarButton::Visible(bool value)
-{
-    if (change(visible_, value)) {
-        changed_->emit();
-    }
-}
-
-void CommandBarButton::Default(bool value)
-{
-    if (change(default_, value)) {
-        changed_->emit();
-    }
-}
-
-void CommandBarButton::Picture(PicturePtr value)
-{
-    if (change(picture_, std::move(value))) {
-        changed_->emit();
-    }
-}
-
-void CommandBarButton::ToolTipText(String value)
-{
-    if (change(toolTip_, std::move(value))) {
-        changed_->emit();
-    }
-}
-
 MemberTable CommandBarButton::members() const
 {
-    return ButtonTable;
+    return rows::membersOf<Properties>();
 }
+
+void CommandBarButton::tellChanged()
+{
+    changed_->emit();
+}
+
+// One line a setter.
+// clang-format off
+void CommandBarButton::Caption(String value) { rows::set<Properties, u"Caption">(*this, std::move(value)); }
+void CommandBarButton::Enabled(bool value) { rows::set<Properties, u"Enabled">(*this, value); }
+void CommandBarButton::Visible(bool value) { rows::set<Properties, u"Visible">(*this, value); }
+void CommandBarButton::Default(bool value) { rows::set<Properties, u"Default">(*this, value); }
+void CommandBarButton::Picture(PicturePtr value) { rows::set<Properties, u"Picture">(*this, std::move(value)); }
+void CommandBarButton::ToolTipText(String value) { rows::set<Properties, u"ToolTipText">(*this, std::move(value)); }
+// clang-format on
 
 std::shared_ptr<CommandBarButton> CommandBarButtons::Item(std::int32_t index) const
 {
@@ -127,6 +94,20 @@ void CommandBarButtons::Clear()
 MemberTable CommandBarButtons::members() const
 {
     return ButtonsTable;
+}
+
+CommandBarBody::CommandBarBody(ControlFrame& frame)
+    : frame_(frame), buttonsChanged_(buttons_->changed().connect([this] { refresh(); }))
+{
+    frame_.canFocus(true);
+}
+
+void CommandBarBody::press(std::int32_t button, const ButtonEvent& event) const
+{
+    const auto pressed = buttons_->Item(button);
+    if (pressed->Enabled() && pressed->Visible()) {
+        event.emit(frame_.Index(), pressed->Key());
+    }
 }
 
 } // namespace phial

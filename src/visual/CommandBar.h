@@ -37,6 +37,9 @@ public:
     MemberTable members() const override;
 
 private:
+    struct Properties;
+    void tellChanged();
+
     String key_;
     String caption_;
     bool enabled_ = true;
@@ -67,6 +70,25 @@ public:
 private:
     std::shared_ptr<Event<>> changed_ = std::make_shared<Event<>>(); ///< the buttons may live longer
     std::vector<std::shared_ptr<CommandBarButton>> buttons_;
+};
+
+/// What the bars have in common, held by each: its buttons, with the bar's widget told when they change.
+class CommandBarBody
+{
+public:
+    using ButtonEvent = Event<std::int32_t, const String&>;
+
+    explicit CommandBarBody(ControlFrame& frame);
+
+    const std::shared_ptr<CommandBarButtons>& buttons() const { return buttons_; }
+    void refresh() { frame_.report(ControlAspect::Items); }
+    /// Raises the bar's event for a button, counted from 1, unless it is disabled or hidden.
+    void press(std::int32_t button, const ButtonEvent& event) const;
+
+private:
+    ControlFrame& frame_;
+    std::shared_ptr<CommandBarButtons> buttons_ = std::make_shared<CommandBarButtons>();
+    Connection buttonsChanged_;
 };
 
 /// A bar of push buttons: interface of the command bars; the toolkit's own buttons in a row.

@@ -9,10 +9,10 @@ namespace phial
 class ctl_UICommandbar final : public CommandBar
 {
 public:
-    ctl_UICommandbar();
+    ctl_UICommandbar() : frame_(*this), body_(frame_) {}
 
-    std::shared_ptr<CommandBarButtons> BUTTONS() const override { return buttons_; }
-    void REFRESH() override;
+    std::shared_ptr<CommandBarButtons> BUTTONS() const override { return body_.buttons(); }
+    void REFRESH() override { body_.refresh(); }
 
     /// The bar's Index and the button's key text.
     Event<std::int32_t, const String&> BUTTON;
@@ -20,12 +20,13 @@ public:
     StringView typeName() const override { return u"ctl_UICommandbar"; }
     MemberTable members() const override;
     ControlFrame& frame() override { return frame_; }
-    void inputButton(std::int32_t button) override;
+    void inputButton(std::int32_t button) override { body_.press(button, BUTTON); }
 
 private:
+    struct Properties;
+
     ControlFrame frame_;
-    std::shared_ptr<CommandBarButtons> buttons_;
-    Connection buttonsChanged_;
+    CommandBarBody body_;
 };
 
 } // namespace phial
