@@ -1,8 +1,5 @@
 #pragma once
 
-#include "visual/Font.h"
-
-#include <functional>
 #include <utility>
 
 namespace phial
@@ -17,19 +14,6 @@ bool change(Value& field, Value value)
     }
     field = std::move(value);
     return true;
-}
-
-/// Makes a control share a font: `changed` runs now and whenever an attribute of the font changes. Raises 91
-/// for null.
-inline void shareFont(FontPtr& font, Connection& connection, FontPtr value,
-                      const std::function<void()>& changed)
-{
-    if (!value) {
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
-    }
-    font = std::move(value);
-    connection = font->changed.connect(changed);
-    changed();
 }
 
 } // namespace phial

@@ -1,7 +1,7 @@
 #include "visual/ComboBox.h"
 
 #include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 
 namespace phial
 {
@@ -11,41 +11,34 @@ namespace
 
 constexpr std::int32_t PropertyReadOnly = 383;
 
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<ComboBox, ComboStyle, &ComboBox::Style, &ComboBox::Style>(u"Style"),
-        members::readOnly<ComboBox, std::int32_t, &ComboBox::ListCount>(u"ListCount"),
-        members::property<ComboBox, std::int32_t, &ComboBox::ListIndex, &ComboBox::ListIndex>(u"ListIndex"),
-        members::property<ComboBox, String, &ComboBox::Text, &ComboBox::Text>(u"Text"),
-        members::property<ComboBox, FontPtr, &ComboBox::Font, &ComboBox::Font>(u"Font"),
-        members::property<ComboBox, Colour, &ComboBox::BackColor, &ComboBox::BackColor>(u"BackColor"),
-        members::operation<ComboBox, &ComboBox::Clear>(u"Clear"),
-    }));
-
 } // namespace
 
-ComboBox::ComboBox() : frame_(*this), font_(std::make_shared<phial::Font>())
+struct ComboBox::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Style">(&ComboBox::style_),
+        rows::readOnly<u"ListCount">(&ComboBox::ListCount),
+        rows::property<u"ListIndex">(&ComboBox::ListIndex, &ComboBox::ListIndex),
+        rows::property<u"Text">(&ComboBox::Text, &ComboBox::Text),
+        rows::font<u"Font">(&ComboBox::font_),
+        rows::property<u"BackColor">(&ComboBox::backColor_),
+        rows::operation<u"Clear">(&ComboBox::Clear),
+    };
+};
+
+ComboBox::ComboBox() : frame_(*this)
 {
     frame_.canFocus(true);
-    listenToFont();
+    rows::start<Properties>(*this);
 }
 
 MemberTable ComboBox::members() const
 {
-    return Table;
-}
-
-void ComboBox::listenToFont()
-{
-    fontChanged_ = font_->changed.connect([this] { frame_.report(ControlAspect::Style); });
+    return rows::membersOf<Properties>();
 }
 
 void ComboBox::Style(ComboStyle value)
 {
-    if (change(style_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
+    rows::set<Properties, u"Style">(*this, value);
 }
 
 void ComboBox::AddItem(String value, std::int32_t index)
@@ -98,17 +91,11 @@ void ComboBox::Text(String value)
     }
 }
 
-void ComboBox::Font(FontPtr value)
-{
-    shareFont(font_, fontChanged_, std::move(value), [this] { frame_.report(ControlAspect::Style); });
-}
-
-void ComboBox::BackColor(Colour value)
-{
-    if (change(backColor_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
+// One line a setter.
+// clang-format off
+void ComboBox::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
+void ComboBox::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*this, value); }
+// clang-format on
 
 void ComboBox::inputText(const String& text)
 {

@@ -2,8 +2,8 @@
 
 #include "core/Colour.h"
 #include "visual/Control.h"
-#include "visual/Font.h"
 #include "visual/ListItems.h"
+#include "visual/SharedFont.h"
 
 namespace phial
 {
@@ -34,7 +34,7 @@ public:
     /// when there is none.
     String Text() const { return text_; }
     void Text(String value);
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
     Colour BackColor() const { return backColor_; }
@@ -56,14 +56,13 @@ public:
     void lostFocus() override { LostFocus.emit(); }
 
 private:
-    void listenToFont();
+    struct Properties;
 
     ControlFrame frame_;
     ComboStyle style_ = ComboStyle::Editable;
     ListItems items_;
     String text_;
-    FontPtr font_;
-    Connection fontChanged_;
+    SharedFont font_;
     Colour backColor_ = SystemColour::Window;
 };
 

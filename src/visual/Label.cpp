@@ -1,9 +1,8 @@
 #include "visual/Label.h"
 
-#include "visual/Change.h"
-#include "visual/FrameMembers.h"
 #include "visual/Markup.h"
 #include "visual/OneLine.h"
+#include "visual/PropertyRows.h"
 #include "visual/VisualHost.h"
 
 #include <cmath>
@@ -13,19 +12,6 @@ namespace phial
 
 namespace
 {
-
-constexpr auto Table = joinMembers(
-    FrameMembers, std::to_array<Member>({
-                      members::property<Label, String, &Label::Caption, &Label::Caption>(u"Caption"),
-                      members::property<Label, FontPtr, &Label::Font, &Label::Font>(u"Font"),
-                      members::property<Label, Colour, &Label::ForeColor, &Label::ForeColor>(u"ForeColor"),
-                      members::property<Label, Colour, &Label::BackColor, &Label::BackColor>(u"BackColor"),
-                      members::property<Label, BackStyle, &Label::BackStyle, &Label::BackStyle>(u"BackStyle"),
-                      members::property<Label, Alignment, &Label::Alignment, &Label::Alignment>(u"Alignment"),
-                      members::property<Label, bool, &Label::AutoSize, &Label::AutoSize>(u"AutoSize"),
-                      members::property<Label, bool, &Label::WordWrap, &Label::WordWrap>(u"WordWrap"),
-                      members::property<Label, bool, &Label::SingleLine, &Label::SingleLine>(u"SingleLine"),
-                  }));
 
 TextSide sideOf(Alignment alignment)
 {
@@ -42,15 +28,30 @@ TextSide sideOf(Alignment alignment)
 
 } // namespace
 
-Label::Label() : frame_(*this), surface_(*this), font_(std::make_shared<phial::Font>())
+struct Label::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Caption">(&Label::caption_).then(&Label::refresh).spoken(),
+        rows::font<u"Font">(&Label::font_).then(&Label::refresh),
+        rows::property<u"ForeColor">(&Label::foreColor_),
+        rows::property<u"BackColor">(&Label::surface_, &PaintSurface::BackColor, &PaintSurface::BackColor,
+                                     SystemColour::ButtonFace),
+        rows::property<u"BackStyle">(&Label::backStyle_).then(&Label::showGround),
+        rows::property<u"Alignment">(&Label::alignment_),
+        rows::property<u"AutoSize">(&Label::autoSize_).then(&Label::refresh),
+        rows::property<u"WordWrap">(&Label::wordWrap_).then(&Label::refresh),
+        rows::property<u"SingleLine">(&Label::singleLine_).then(&Label::refresh).spoken(),
+    };
+};
+
+Label::Label() : frame_(*this), surface_(*this)
 {
     surface_.transparent(true);
-    fontChanged_ = font_->changed.connect([this] { refresh(); });
+    rows::start<Properties>(*this);
 }
 
 MemberTable Label::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
 void Label::refresh()
@@ -71,72 +72,23 @@ void Label::fitToText()
         {place.left, place.top, wordWrap_ ? place.width : std::ceil(text.width), std::ceil(text.height)});
 }
 
-void Label::Caption(String value)
+void Label::showGround()
 {
-    if (change(caption_, std::move(value))) {
-        refresh();
-        frame_.report(ControlAspect::Accessibility);
-        PropertyChanged.emit(u"Caption");
-    }
+    surface_.transparent(backStyle_ == phial::BackStyle::Transparent);
 }
 
-void Label::Font(FontPtr value)
-{
-    shareFont(font_, fontChanged_, std::move(value), [this] { refresh(); });
-}
-
-void Label::ForeColor(Colour value)
-{
-    if (change(foreColor_, value)) {
-        surface_.invalidate();
-    }
-}
-
-void Label::BackColor(Colour value)
-{
-    if (change(backColor_, value)) {
-        surface_.BackColor(value);
-        surface_.invalidate();
-    }
-}
-
-void Label::BackStyle(phial::BackStyle value)
-{
-    if (change(backStyle_, value)) {
-        surface_.BackColor(backColor_);
-        surface_.transparent(value == phial::BackStyle::Transparent);
-        surface_.invalidate();
-    }
-}
-
-void Label::Alignment(phial::Alignment value)
-{
-    if (change(alignment_, value)) {
-        surface_.invalidate();
-    }
-}
-
-void Label::AutoSize(bool value)
-{
-    if (change(autoSize_, value)) {
-        refresh();
-    }
-}
-
-void Label::WordWrap(bool value)
-{
-    if (change(wordWrap_, value)) {
-        refresh();
-    }
-}
-
-void Label::SingleLine(bool value)
-{
-    if (change(singleLine_, value)) {
-        refresh();
-        frame_.report(ControlAspect::Accessibility);
-    }
-}
+// One line a setter.
+// clang-format off
+void Label::Caption(String value) { rows::set<Properties, u"Caption">(*this, std::move(value)); }
+void Label::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
+void Label::ForeColor(Colour value) { rows::set<Properties, u"ForeColor">(*this, value); }
+void Label::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*this, value); }
+void Label::BackStyle(phial::BackStyle value) { rows::set<Properties, u"BackStyle">(*this, value); }
+void Label::Alignment(phial::Alignment value) { rows::set<Properties, u"Alignment">(*this, value); }
+void Label::AutoSize(bool value) { rows::set<Properties, u"AutoSize">(*this, value); }
+void Label::WordWrap(bool value) { rows::set<Properties, u"WordWrap">(*this, value); }
+void Label::SingleLine(bool value) { rows::set<Properties, u"SingleLine">(*this, value); }
+// clang-format on
 
 String Label::accessibleText() const
 {

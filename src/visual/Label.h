@@ -1,7 +1,7 @@
 #pragma once
 
-#include "visual/Font.h"
 #include "visual/PaintSurface.h"
+#include "visual/SharedFont.h"
 #include "visual/UserControl.h"
 
 namespace phial
@@ -20,12 +20,12 @@ public:
 
     String Caption() const { return caption_; }
     void Caption(String value);
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
     Colour ForeColor() const { return foreColor_; }
     void ForeColor(Colour value);
-    Colour BackColor() const { return backColor_; }
+    Colour BackColor() const { return surface_.BackColor(); }
     void BackColor(Colour value);
     phial::BackStyle BackStyle() const { return backStyle_; }
     void BackStyle(phial::BackStyle value);
@@ -68,18 +68,19 @@ public:
     void lostFocus() override { surface_.invalidate(); }
 
 private:
+    struct Properties;
+
     void refresh();
     void fitToText();
+    void showGround();
     void paintMarkup(DrawDevice& device);
     void paintLine(DrawDevice& device);
 
     ControlFrame frame_;
     PaintSurface surface_;
     String caption_;
-    FontPtr font_;
-    Connection fontChanged_;
+    SharedFont font_;
     Colour foreColor_ = SystemColour::WindowText;
-    Colour backColor_ = SystemColour::ButtonFace;
     phial::BackStyle backStyle_ = phial::BackStyle::Transparent;
     phial::Alignment alignment_ = phial::Alignment::Left;
     bool autoSize_ = false;

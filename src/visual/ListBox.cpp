@@ -1,41 +1,30 @@
 #include "visual/ListBox.h"
 
-#include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 
 namespace phial
 {
 
-namespace
-{
+struct ListBox::Properties {
+    static constexpr rows::Table Table{
+        rows::readOnly<u"ListCount">(&ListBox::ListCount),
+        rows::property<u"ListIndex">(&ListBox::ListIndex, &ListBox::ListIndex),
+        rows::readOnly<u"Text">(&ListBox::Text),
+        rows::font<u"Font">(&ListBox::font_),
+        rows::property<u"BackColor">(&ListBox::backColor_),
+        rows::operation<u"Clear">(&ListBox::Clear),
+    };
+};
 
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::readOnly<ListBox, std::int32_t, &ListBox::ListCount>(u"ListCount"),
-        members::property<ListBox, std::int32_t, &ListBox::ListIndex, &ListBox::ListIndex>(u"ListIndex"),
-        members::readOnly<ListBox, String, &ListBox::Text>(u"Text"),
-        members::property<ListBox, FontPtr, &ListBox::Font, &ListBox::Font>(u"Font"),
-        members::property<ListBox, Colour, &ListBox::BackColor, &ListBox::BackColor>(u"BackColor"),
-        members::operation<ListBox, &ListBox::Clear>(u"Clear"),
-    }));
-
-} // namespace
-
-ListBox::ListBox() : frame_(*this), font_(std::make_shared<phial::Font>())
+ListBox::ListBox() : frame_(*this)
 {
     frame_.canFocus(true);
-    listenToFont();
+    rows::start<Properties>(*this);
 }
 
 MemberTable ListBox::members() const
 {
-    return Table;
-}
-
-void ListBox::listenToFont()
-{
-    fontChanged_ = font_->changed.connect([this] { frame_.report(ControlAspect::Style); });
+    return rows::membersOf<Properties>();
 }
 
 void ListBox::List(std::int32_t index, String value)
@@ -75,17 +64,11 @@ String ListBox::Text() const
     return items_.chosen() < 0 ? String() : items_.line(items_.chosen());
 }
 
-void ListBox::Font(FontPtr value)
-{
-    shareFont(font_, fontChanged_, std::move(value), [this] { frame_.report(ControlAspect::Style); });
-}
-
-void ListBox::BackColor(Colour value)
-{
-    if (change(backColor_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
+// One line a setter.
+// clang-format off
+void ListBox::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
+void ListBox::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*this, value); }
+// clang-format on
 
 void ListBox::inputChoice(std::int32_t index)
 {

@@ -2,8 +2,8 @@
 
 #include "core/Colour.h"
 #include "visual/Control.h"
-#include "visual/Font.h"
 #include "visual/ListItems.h"
+#include "visual/SharedFont.h"
 
 namespace phial
 {
@@ -30,7 +30,7 @@ public:
     void ListIndex(std::int32_t value);
     /// The chosen line's text, or "".
     String Text() const;
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
     Colour BackColor() const { return backColor_; }
@@ -54,12 +54,11 @@ public:
     void lostFocus() override { LostFocus.emit(); }
 
 private:
-    void listenToFont();
+    struct Properties;
 
     ControlFrame frame_;
     ListItems items_;
-    FontPtr font_;
-    Connection fontChanged_;
+    SharedFont font_;
     Colour backColor_ = SystemColour::Window;
 };
 

@@ -1,49 +1,35 @@
 #include "visual/Menu.h"
 
-#include "core/Members.h"
 #include "core/RuntimeError.h"
+#include "visual/PropertyRows.h"
 
 #include <algorithm>
 
 namespace phial
 {
 
+struct Menu::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"NAME">(&Menu::name_).still(), rows::readOnly<u"Index">(&Menu::Index),
+        rows::property<u"Tag">(&Menu::tag_).still(),   rows::property<u"Caption">(&Menu::caption_),
+        rows::property<u"Enabled">(&Menu::enabled_),   rows::property<u"Visible">(&Menu::visible_),
+        rows::property<u"Checked">(&Menu::checked_),
+    };
+    static constexpr auto Effect = &Menu::report;
+};
+
 Menu::Menu(String name, String caption, std::int32_t index)
     : name_(std::move(name)), index_(index), caption_(std::move(caption))
 {
 }
 
-void Menu::Caption(String value)
-{
-    if (caption_ != value) {
-        caption_ = std::move(value);
-        report();
-    }
-}
-
-void Menu::Enabled(bool value)
-{
-    if (enabled_ != value) {
-        enabled_ = value;
-        report();
-    }
-}
-
-void Menu::Visible(bool value)
-{
-    if (visible_ != value) {
-        visible_ = value;
-        report();
-    }
-}
-
-void Menu::Checked(bool value)
-{
-    if (checked_ != value) {
-        checked_ = value;
-        report();
-    }
-}
+// One line a setter.
+// clang-format off
+void Menu::Caption(String value) { rows::set<Properties, u"Caption">(*this, std::move(value)); }
+void Menu::Enabled(bool value) { rows::set<Properties, u"Enabled">(*this, value); }
+void Menu::Visible(bool value) { rows::set<Properties, u"Visible">(*this, value); }
+void Menu::Checked(bool value) { rows::set<Properties, u"Checked">(*this, value); }
+// clang-format on
 
 std::shared_ptr<Menu> Menu::add(const std::shared_ptr<Menu>& entry)
 {
@@ -167,17 +153,7 @@ void Menu::report()
 
 MemberTable Menu::members() const
 {
-    using members::property;
-    static constexpr auto Table = std::to_array<Member>({
-        property<Menu, String, &Menu::NAME, &Menu::NAME>(u"NAME"),
-        members::readOnly<Menu, std::int32_t, &Menu::Index>(u"Index"),
-        property<Menu, String, &Menu::Tag, &Menu::Tag>(u"Tag"),
-        property<Menu, String, &Menu::Caption, &Menu::Caption>(u"Caption"),
-        property<Menu, bool, &Menu::Enabled, &Menu::Enabled>(u"Enabled"),
-        property<Menu, bool, &Menu::Visible, &Menu::Visible>(u"Visible"),
-        property<Menu, bool, &Menu::Checked, &Menu::Checked>(u"Checked"),
-    });
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
 } // namespace phial

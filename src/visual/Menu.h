@@ -66,6 +66,8 @@ public:
     MemberTable members() const override;
 
 private:
+    struct Properties;
+
     std::shared_ptr<Menu> find(StringView name, std::int32_t index) const;
     void report();
 

@@ -1,31 +1,26 @@
 #include "visual/PictureBox.h"
 
-#include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 
 namespace phial
 {
 
-namespace
-{
-
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<PictureBox, ScaleUnit, &PictureBox::ScaleMode, &PictureBox::ScaleMode>(
-            u"ScaleMode"),
-        members::property<PictureBox, bool, &PictureBox::AutoRedraw, &PictureBox::AutoRedraw>(u"AutoRedraw"),
-        members::property<PictureBox, Colour, &PictureBox::BackColor, &PictureBox::BackColor>(u"BackColor"),
-        members::property<PictureBox, bool, &PictureBox::transparent, &PictureBox::transparent>(
-            u"Transparent"),
-        members::property<PictureBox, PicturePtr, &PictureBox::Picture, &PictureBox::Picture>(u"Picture"),
-        members::property<PictureBox, bool, &PictureBox::AutoSize, &PictureBox::AutoSize>(u"AutoSize"),
-        members::property<PictureBox, bool, &PictureBox::border, &PictureBox::border>(u"Border"),
-        members::operation<PictureBox, &PictureBox::Cls>(u"Cls"),
-        members::operation<PictureBox, &PictureBox::Refresh>(u"Refresh"),
-    }));
-
-} // namespace
+struct PictureBox::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"ScaleMode">(&PictureBox::ScaleMode, &PictureBox::ScaleMode),
+        rows::property<u"AutoRedraw">(&PictureBox::surface_, &PaintSurface::retains, &PaintSurface::retains)
+            .still(),
+        rows::property<u"BackColor">(&PictureBox::surface_, &PaintSurface::BackColor,
+                                     &PaintSurface::BackColor),
+        rows::property<u"Transparent">(&PictureBox::surface_, &PaintSurface::transparent,
+                                       &PaintSurface::transparent),
+        rows::property<u"Picture">(&PictureBox::picture_).then(&PictureBox::showPicture),
+        rows::property<u"AutoSize">(&PictureBox::autoSize_).then(&PictureBox::fitToPicture),
+        rows::property<u"Border">(&PictureBox::border_),
+        rows::operation<u"Cls">(&PictureBox::Cls),
+        rows::operation<u"Refresh">(&PictureBox::Refresh),
+    };
+};
 
 PictureBox::PictureBox() : frame_(*this), surface_(*this)
 {
@@ -35,7 +30,7 @@ PictureBox::PictureBox() : frame_(*this), surface_(*this)
 
 MemberTable PictureBox::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
 void PictureBox::ScaleMode(ScaleUnit value)
@@ -46,36 +41,19 @@ void PictureBox::ScaleMode(ScaleUnit value)
     surface_.device().ScaleMode(value);
 }
 
-void PictureBox::AutoRedraw(bool value)
-{
-    if (change(autoRedraw_, value)) {
-        surface_.retains(value);
-    }
-}
+// One line a setter.
+// clang-format off
+void PictureBox::AutoRedraw(bool value) { rows::set<Properties, u"AutoRedraw">(*this, value); }
+void PictureBox::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*this, value); }
+void PictureBox::transparent(bool value) { rows::set<Properties, u"Transparent">(*this, value); }
+void PictureBox::Picture(PicturePtr value) { rows::set<Properties, u"Picture">(*this, std::move(value)); }
+void PictureBox::AutoSize(bool value) { rows::set<Properties, u"AutoSize">(*this, value); }
+// clang-format on
 
-void PictureBox::BackColor(Colour value)
+void PictureBox::showPicture()
 {
-    surface_.BackColor(value);
-}
-
-void PictureBox::transparent(bool value)
-{
-    surface_.transparent(value);
-}
-
-void PictureBox::Picture(PicturePtr value)
-{
-    if (change(picture_, std::move(value))) {
-        fitToPicture();
-        surface_.invalidate();
-    }
-}
-
-void PictureBox::AutoSize(bool value)
-{
-    if (change(autoSize_, value)) {
-        fitToPicture();
-    }
+    fitToPicture();
+    surface_.invalidate();
 }
 
 void PictureBox::fitToPicture()
@@ -88,9 +66,7 @@ void PictureBox::fitToPicture()
 
 void PictureBox::border(bool value)
 {
-    if (change(border_, value)) {
-        surface_.invalidate();
-    }
+    rows::set<Properties, u"Border">(*this, value);
 }
 
 void PictureBox::Cls()
@@ -100,7 +76,7 @@ void PictureBox::Cls()
 
 void PictureBox::Refresh()
 {
-    if (autoRedraw_) {
+    if (AutoRedraw()) {
         frame_.report(ControlAspect::Picture);
     } else {
         surface_.invalidate();
@@ -130,7 +106,7 @@ void PictureBox::layBackground()
 void PictureBox::paint()
 {
     layBackground();
-    if (!autoRedraw_) {
+    if (!AutoRedraw()) {
         Paint.emit();
     }
 }

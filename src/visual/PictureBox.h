@@ -18,7 +18,7 @@ public:
     ScaleUnit ScaleMode() const { return surface_.device().ScaleMode(); }
     void ScaleMode(ScaleUnit value);
     /// True: what is drawn stays, and Paint is not raised. False: Paint is raised whenever the image is made.
-    bool AutoRedraw() const { return autoRedraw_; }
+    bool AutoRedraw() const { return surface_.retains(); }
     void AutoRedraw(bool value);
     Colour BackColor() const { return surface_.BackColor(); }
     /// Clears what was drawn.
@@ -86,13 +86,15 @@ public:
     void textDropped(const String& text) override { TextDropped.emit(text); }
 
 private:
+    struct Properties;
+
     void layBackground();
+    void showPicture();
     void fitToPicture();
 
     ControlFrame frame_;
     PaintSurface surface_;
     PicturePtr picture_;
-    bool autoRedraw_ = true;
     bool autoSize_ = false;
     bool border_ = false;
 };

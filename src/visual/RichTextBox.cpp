@@ -1,51 +1,34 @@
 #include "visual/RichTextBox.h"
 
 #include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 #include "visual/RichText.h"
 #include "visual/TextSelection.h"
 
 namespace phial
 {
 
-namespace
-{
+struct RichTextBox::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Text">(&RichTextBox::Text, &RichTextBox::Text),
+        rows::property<u"TextRTF">(&RichTextBox::TextRTF, &RichTextBox::TextRTF),
+        rows::property<u"SelStart">(&RichTextBox::SelStart, &RichTextBox::SelStart),
+        rows::property<u"SelLength">(&RichTextBox::SelLength, &RichTextBox::SelLength),
+        rows::property<u"Locked">(&RichTextBox::locked_),
+        rows::font<u"Font">(&RichTextBox::font_),
+        rows::property<u"BackColor">(&RichTextBox::backColor_),
+    };
+};
 
-constexpr Member RichTextMember = {
-    u"TextRTF", [](Object& object) { return Variant(static_cast<RichTextBox&>(object).TextRTF()); },
-    [](Object& object, const Variant& value) { static_cast<RichTextBox&>(object).TextRTF(value.toText()); }};
-
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<RichTextBox, String, &RichTextBox::Text, &RichTextBox::Text>(u"Text"),
-        RichTextMember,
-        members::property<RichTextBox, std::int32_t, &RichTextBox::SelStart, &RichTextBox::SelStart>(
-            u"SelStart"),
-        members::property<RichTextBox, std::int32_t, &RichTextBox::SelLength, &RichTextBox::SelLength>(
-            u"SelLength"),
-        members::property<RichTextBox, bool, &RichTextBox::Locked, &RichTextBox::Locked>(u"Locked"),
-        members::property<RichTextBox, FontPtr, &RichTextBox::Font, &RichTextBox::Font>(u"Font"),
-        members::property<RichTextBox, Colour, &RichTextBox::BackColor, &RichTextBox::BackColor>(
-            u"BackColor"),
-    }));
-
-} // namespace
-
-RichTextBox::RichTextBox() : frame_(*this), font_(std::make_shared<phial::Font>())
+RichTextBox::RichTextBox() : frame_(*this)
 {
     frame_.canFocus(true);
-    listenToFont();
+    rows::start<Properties>(*this);
 }
 
 MemberTable RichTextBox::members() const
 {
-    return Table;
-}
-
-void RichTextBox::listenToFont()
-{
-    fontChanged_ = font_->changed.connect([this] { frame_.report(ControlAspect::Style); });
+    return rows::membersOf<Properties>();
 }
 
 void RichTextBox::Text(String value)
@@ -82,24 +65,12 @@ void RichTextBox::SelLength(std::int32_t value)
     frame_.report(ControlAspect::Selection);
 }
 
-void RichTextBox::Locked(bool value)
-{
-    if (change(locked_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
-
-void RichTextBox::Font(FontPtr value)
-{
-    shareFont(font_, fontChanged_, std::move(value), [this] { frame_.report(ControlAspect::Style); });
-}
-
-void RichTextBox::BackColor(Colour value)
-{
-    if (change(backColor_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
+// One line a setter.
+// clang-format off
+void RichTextBox::Locked(bool value) { rows::set<Properties, u"Locked">(*this, value); }
+void RichTextBox::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
+void RichTextBox::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*this, value); }
+// clang-format on
 
 void RichTextBox::inputText(const String& text, std::int32_t selStart, std::int32_t selLength)
 {

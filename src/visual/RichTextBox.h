@@ -2,7 +2,7 @@
 
 #include "core/Colour.h"
 #include "visual/Control.h"
-#include "visual/Font.h"
+#include "visual/SharedFont.h"
 
 namespace phial
 {
@@ -27,7 +27,7 @@ public:
     void SelLength(std::int32_t value);
     bool Locked() const { return locked_; }
     void Locked(bool value);
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
     Colour BackColor() const { return backColor_; }
@@ -56,15 +56,14 @@ public:
     void lostFocus() override { LostFocus.emit(); }
 
 private:
-    void listenToFont();
+    struct Properties;
 
     ControlFrame frame_;
     String text_;
     std::int32_t selStart_ = 0;
     std::int32_t selLength_ = 0;
     bool locked_ = false;
-    FontPtr font_;
-    Connection fontChanged_;
+    SharedFont font_;
     Colour backColor_ = SystemColour::Window;
 };
 

@@ -1,7 +1,7 @@
 #include "visual/ScrollBar.h"
 
 #include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 
 #include <algorithm>
 
@@ -13,26 +13,21 @@ namespace
 
 constexpr std::int32_t InvalidPropertyValue = 380;
 
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<ScrollBar, std::int32_t, &ScrollBar::Min, &ScrollBar::Min>(u"Min"),
-        members::property<ScrollBar, std::int32_t, &ScrollBar::Max, &ScrollBar::Max>(u"Max"),
-        members::property<ScrollBar, std::int32_t, &ScrollBar::Value, &ScrollBar::Value>(u"Value"),
-        members::property<ScrollBar, std::int32_t, &ScrollBar::SmallChange, &ScrollBar::SmallChange>(
-            u"SmallChange"),
-        members::property<ScrollBar, std::int32_t, &ScrollBar::LargeChange, &ScrollBar::LargeChange>(
-            u"LargeChange"),
-    }));
-
-void requireStep(std::int32_t value)
-{
-    if (value < 1) {
-        throw RuntimeError(ErrorNumber::InvalidArgument);
-    }
-}
-
 } // namespace
+
+struct ScrollBar::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Min">(&ScrollBar::min_).then(&ScrollBar::rangeChanged),
+        rows::property<u"Max">(&ScrollBar::max_).then(&ScrollBar::rangeChanged),
+        rows::property<u"Value">(&ScrollBar::Value, &ScrollBar::Value),
+        rows::property<u"SmallChange">(&ScrollBar::smallChange_)
+            .raisingUnless(rows::isPositive)
+            .reports(ControlAspect::Range),
+        rows::property<u"LargeChange">(&ScrollBar::largeChange_)
+            .raisingUnless(rows::isPositive)
+            .reports(ControlAspect::Range),
+    };
+};
 
 ScrollBar::ScrollBar(ScrollDirection direction) : frame_(*this), direction_(direction)
 {
@@ -41,7 +36,7 @@ ScrollBar::ScrollBar(ScrollDirection direction) : frame_(*this), direction_(dire
 
 MemberTable ScrollBar::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
 std::int32_t ScrollBar::limited(std::int32_t value) const
@@ -62,19 +57,11 @@ void ScrollBar::Direction(ScrollDirection value)
     }
 }
 
-void ScrollBar::Min(std::int32_t value)
-{
-    if (change(min_, value)) {
-        rangeChanged();
-    }
-}
-
-void ScrollBar::Max(std::int32_t value)
-{
-    if (change(max_, value)) {
-        rangeChanged();
-    }
-}
+// One line a setter.
+// clang-format off
+void ScrollBar::Min(std::int32_t value) { rows::set<Properties, u"Min">(*this, value); }
+void ScrollBar::Max(std::int32_t value) { rows::set<Properties, u"Max">(*this, value); }
+// clang-format on
 
 void ScrollBar::Value(std::int32_t value)
 {
@@ -87,21 +74,11 @@ void ScrollBar::Value(std::int32_t value)
     }
 }
 
-void ScrollBar::SmallChange(std::int32_t value)
-{
-    requireStep(value);
-    if (change(smallChange_, value)) {
-        frame_.report(ControlAspect::Range);
-    }
-}
-
-void ScrollBar::LargeChange(std::int32_t value)
-{
-    requireStep(value);
-    if (change(largeChange_, value)) {
-        frame_.report(ControlAspect::Range);
-    }
-}
+// One line a setter.
+// clang-format off
+void ScrollBar::SmallChange(std::int32_t value) { rows::set<Properties, u"SmallChange">(*this, value); }
+void ScrollBar::LargeChange(std::int32_t value) { rows::set<Properties, u"LargeChange">(*this, value); }
+// clang-format on
 
 void ScrollBar::inputScroll(std::int32_t value)
 {

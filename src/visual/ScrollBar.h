@@ -44,6 +44,8 @@ public:
     ControlFrame& frame() override { return frame_; }
 
 private:
+    struct Properties;
+
     std::int32_t limited(std::int32_t value) const;
     void rangeChanged();
 

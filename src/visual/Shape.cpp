@@ -1,7 +1,6 @@
 #include "visual/Shape.h"
 
-#include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,16 +14,6 @@ namespace
 
 constexpr double Pi = 3.14159265358979;
 constexpr double LargestRadius = 12; // of rounded corners, in pixels
-
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<Shape, ShapeKind, &Shape::Kind, &Shape::Kind>(u"Shape"),
-        members::property<Shape, Colour, &Shape::BorderColor, &Shape::BorderColor>(u"BorderColor"),
-        members::property<Shape, std::int32_t, &Shape::BorderWidth, &Shape::BorderWidth>(u"BorderWidth"),
-        members::property<Shape, Colour, &Shape::FillColor, &Shape::FillColor>(u"FillColor"),
-        members::property<Shape, FillStyle, &Shape::FillStyle, &Shape::FillStyle>(u"FillStyle"),
-    }));
 
 /// The largest square in the middle of an area.
 PixelRectangle squareIn(const PixelRectangle& area)
@@ -68,6 +57,16 @@ std::vector<PixelPoint> roundedOutline(const PixelRectangle& area)
 
 } // namespace
 
+struct Shape::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Shape">(&Shape::kind_),
+        rows::property<u"BorderColor">(&Shape::borderColor_),
+        rows::property<u"BorderWidth">(&Shape::borderWidth_).raisingUnless(rows::isNotNegative),
+        rows::property<u"FillColor">(&Shape::fillColor_),
+        rows::property<u"FillStyle">(&Shape::fillStyle_),
+    };
+};
+
 Shape::Shape() : frame_(*this), surface_(*this)
 {
     surface_.transparent(true);
@@ -76,46 +75,17 @@ Shape::Shape() : frame_(*this), surface_(*this)
 
 MemberTable Shape::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
-void Shape::Kind(ShapeKind value)
-{
-    if (change(kind_, value)) {
-        surface_.invalidate();
-    }
-}
-
-void Shape::BorderColor(Colour value)
-{
-    if (change(borderColor_, value)) {
-        surface_.invalidate();
-    }
-}
-
-void Shape::BorderWidth(std::int32_t value)
-{
-    if (value < 0) {
-        throw RuntimeError(ErrorNumber::InvalidArgument);
-    }
-    if (change(borderWidth_, value)) {
-        surface_.invalidate();
-    }
-}
-
-void Shape::FillColor(Colour value)
-{
-    if (change(fillColor_, value)) {
-        surface_.invalidate();
-    }
-}
-
-void Shape::FillStyle(phial::FillStyle value)
-{
-    if (change(fillStyle_, value)) {
-        surface_.invalidate();
-    }
-}
+// One line a setter.
+// clang-format off
+void Shape::Kind(ShapeKind value) { rows::set<Properties, u"Shape">(*this, value); }
+void Shape::BorderColor(Colour value) { rows::set<Properties, u"BorderColor">(*this, value); }
+void Shape::BorderWidth(std::int32_t value) { rows::set<Properties, u"BorderWidth">(*this, value); }
+void Shape::FillColor(Colour value) { rows::set<Properties, u"FillColor">(*this, value); }
+void Shape::FillStyle(phial::FillStyle value) { rows::set<Properties, u"FillStyle">(*this, value); }
+// clang-format on
 
 void Shape::paint()
 {

@@ -34,6 +34,8 @@ public:
     void resized() override { surface_.resized(); }
 
 private:
+    struct Properties;
+
     ControlFrame frame_;
     PaintSurface surface_;
     ShapeKind kind_ = ShapeKind::Rectangle;

@@ -1,47 +1,37 @@
 #include "visual/TextBox.h"
 
 #include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 #include "visual/TextSelection.h"
 
 namespace phial
 {
 
-namespace
-{
+struct TextBox::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Text">(&TextBox::Text, &TextBox::Text),
+        rows::property<u"SelStart">(&TextBox::SelStart, &TextBox::SelStart),
+        rows::property<u"SelLength">(&TextBox::SelLength, &TextBox::SelLength),
+        rows::property<u"Locked">(&TextBox::locked_),
+        rows::property<u"MaxLength">(&TextBox::maxLength_).raisingUnless(rows::isNotNegative),
+        rows::property<u"MultiLine">(&TextBox::multiLine_),
+        rows::property<u"PasswordChar">(&TextBox::passwordChar_),
+        rows::property<u"Alignment">(&TextBox::alignment_),
+        rows::font<u"Font">(&TextBox::font_),
+        rows::property<u"ForeColor">(&TextBox::foreColor_),
+        rows::property<u"BackColor">(&TextBox::backColor_),
+    };
+};
 
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<TextBox, String, &TextBox::Text, &TextBox::Text>(u"Text"),
-        members::property<TextBox, std::int32_t, &TextBox::SelStart, &TextBox::SelStart>(u"SelStart"),
-        members::property<TextBox, std::int32_t, &TextBox::SelLength, &TextBox::SelLength>(u"SelLength"),
-        members::property<TextBox, bool, &TextBox::Locked, &TextBox::Locked>(u"Locked"),
-        members::property<TextBox, std::int32_t, &TextBox::MaxLength, &TextBox::MaxLength>(u"MaxLength"),
-        members::property<TextBox, bool, &TextBox::MultiLine, &TextBox::MultiLine>(u"MultiLine"),
-        members::property<TextBox, String, &TextBox::PasswordChar, &TextBox::PasswordChar>(u"PasswordChar"),
-        members::property<TextBox, Alignment, &TextBox::Alignment, &TextBox::Alignment>(u"Alignment"),
-        members::property<TextBox, FontPtr, &TextBox::Font, &TextBox::Font>(u"Font"),
-        members::property<TextBox, Colour, &TextBox::ForeColor, &TextBox::ForeColor>(u"ForeColor"),
-        members::property<TextBox, Colour, &TextBox::BackColor, &TextBox::BackColor>(u"BackColor"),
-    }));
-
-} // namespace
-
-TextBox::TextBox() : frame_(*this), font_(std::make_shared<phial::Font>())
+TextBox::TextBox() : frame_(*this)
 {
     frame_.canFocus(true);
-    listenToFont();
+    rows::start<Properties>(*this);
 }
 
 MemberTable TextBox::members() const
 {
-    return Table;
-}
-
-void TextBox::listenToFont()
-{
-    fontChanged_ = font_->changed.connect([this] { frame_.report(ControlAspect::Style); });
+    return rows::membersOf<Properties>();
 }
 
 void TextBox::Text(String value)
@@ -87,62 +77,17 @@ void TextBox::SelText(StringView value)
     }
 }
 
-void TextBox::Locked(bool value)
-{
-    if (change(locked_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
-
-void TextBox::MaxLength(std::int32_t value)
-{
-    if (value < 0) {
-        throw RuntimeError(ErrorNumber::InvalidArgument);
-    }
-    if (change(maxLength_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
-
-void TextBox::MultiLine(bool value)
-{
-    if (change(multiLine_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
-
-void TextBox::PasswordChar(String value)
-{
-    if (change(passwordChar_, std::move(value))) {
-        frame_.report(ControlAspect::Style);
-    }
-}
-
-void TextBox::Alignment(phial::Alignment value)
-{
-    if (change(alignment_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
-
-void TextBox::Font(FontPtr value)
-{
-    shareFont(font_, fontChanged_, std::move(value), [this] { frame_.report(ControlAspect::Style); });
-}
-
-void TextBox::ForeColor(Colour value)
-{
-    if (change(foreColor_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
-
-void TextBox::BackColor(Colour value)
-{
-    if (change(backColor_, value)) {
-        frame_.report(ControlAspect::Style);
-    }
-}
+// One line a setter.
+// clang-format off
+void TextBox::Locked(bool value) { rows::set<Properties, u"Locked">(*this, value); }
+void TextBox::MaxLength(std::int32_t value) { rows::set<Properties, u"MaxLength">(*this, value); }
+void TextBox::MultiLine(bool value) { rows::set<Properties, u"MultiLine">(*this, value); }
+void TextBox::PasswordChar(String value) { rows::set<Properties, u"PasswordChar">(*this, std::move(value)); }
+void TextBox::Alignment(phial::Alignment value) { rows::set<Properties, u"Alignment">(*this, value); }
+void TextBox::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
+void TextBox::ForeColor(Colour value) { rows::set<Properties, u"ForeColor">(*this, value); }
+void TextBox::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*this, value); }
+// clang-format on
 
 void TextBox::inputText(const String& text, std::int32_t selStart, std::int32_t selLength)
 {

@@ -2,8 +2,8 @@
 
 #include "core/Colour.h"
 #include "visual/Control.h"
-#include "visual/Font.h"
 #include "visual/Label.h"
+#include "visual/SharedFont.h"
 
 namespace phial
 {
@@ -39,7 +39,7 @@ public:
     void PasswordChar(String value);
     phial::Alignment Alignment() const { return alignment_; }
     void Alignment(phial::Alignment value);
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
     Colour ForeColor() const { return foreColor_; }
@@ -77,7 +77,7 @@ public:
     void lostFocus() override { LostFocus.emit(); }
 
 private:
-    void listenToFont();
+    struct Properties;
 
     ControlFrame frame_;
     String text_;
@@ -88,8 +88,7 @@ private:
     bool multiLine_ = false;
     String passwordChar_;
     phial::Alignment alignment_ = phial::Alignment::Left;
-    FontPtr font_;
-    Connection fontChanged_;
+    SharedFont font_;
     Colour foreColor_ = SystemColour::WindowText;
     Colour backColor_ = SystemColour::Window;
 };

@@ -2,7 +2,7 @@
 
 #include "core/Colour.h"
 #include "visual/Control.h"
-#include "visual/Font.h"
+#include "visual/SharedFont.h"
 
 namespace phial
 {
@@ -18,7 +18,7 @@ public:
     /// Shown before the caption; null for none.
     PicturePtr Picture() const { return picture_; }
     void Picture(PicturePtr value);
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
     /// Stands out as the one to press.
@@ -38,13 +38,12 @@ public:
     void lostFocus() override { LostFocus.emit(); }
 
 private:
-    void listenToFont();
+    struct Properties;
 
     ControlFrame frame_;
     String caption_;
     PicturePtr picture_;
-    FontPtr font_;
-    Connection fontChanged_;
+    SharedFont font_;
     bool accent_ = false;
 };
 

@@ -1,8 +1,7 @@
 #include "visual/ctl_Frame.h"
 
-#include "visual/Change.h"
-#include "visual/FrameMembers.h"
 #include "visual/Markup.h"
+#include "visual/PropertyRows.h"
 #include "visual/VisualHost.h"
 
 namespace phial
@@ -14,59 +13,37 @@ namespace
 constexpr double CaptionLeft = 9; // of the caption, in pixels
 constexpr double CaptionGap = 3;  // between caption and line
 
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<ctl_Frame, String, &ctl_Frame::Caption, &ctl_Frame::Caption>(u"Caption"),
-        members::property<ctl_Frame, FontPtr, &ctl_Frame::Font, &ctl_Frame::Font>(u"Font"),
-        members::property<ctl_Frame, Colour, &ctl_Frame::ForeColor, &ctl_Frame::ForeColor>(u"ForeColor"),
-        members::property<ctl_Frame, Colour, &ctl_Frame::BackColor, &ctl_Frame::BackColor>(u"BackColor"),
-    }));
-
 } // namespace
 
-ctl_Frame::ctl_Frame() : frame_(*this), surface_(*this), font_(std::make_shared<phial::Font>())
+struct ctl_Frame::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Caption">(&ctl_Frame::caption_).kept().spoken(),
+        rows::font<u"Font">(&ctl_Frame::font_),
+        rows::property<u"ForeColor">(&ctl_Frame::foreColor_, SystemColour::WindowText).kept(),
+        rows::property<u"BackColor">(&ctl_Frame::surface_, &PaintSurface::BackColor, &PaintSurface::BackColor,
+                                     SystemColour::ButtonFace)
+            .kept(),
+    };
+};
+
+ctl_Frame::ctl_Frame() : frame_(*this), surface_(*this)
 {
-    surface_.BackColor(SystemColour::ButtonFace);
     surface_.children().ScaleMode(ScaleUnit::Twips);
-    fontChanged_ = font_->changed.connect([this] { surface_.invalidate(); });
+    rows::start<Properties>(*this);
 }
 
 MemberTable ctl_Frame::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
-void ctl_Frame::Caption(String value)
-{
-    if (change(caption_, std::move(value))) {
-        surface_.invalidate();
-        frame_.report(ControlAspect::Accessibility);
-        PropertyChanged.emit(u"Caption");
-    }
-}
-
-void ctl_Frame::Font(FontPtr value)
-{
-    shareFont(font_, fontChanged_, std::move(value), [this] { surface_.invalidate(); });
-}
-
-void ctl_Frame::ForeColor(Colour value)
-{
-    if (change(foreColor_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"ForeColor");
-    }
-}
-
-void ctl_Frame::BackColor(Colour value)
-{
-    if (surface_.BackColor() != value) {
-        surface_.BackColor(value);
-        surface_.invalidate();
-        PropertyChanged.emit(u"BackColor");
-    }
-}
+// One line a setter.
+// clang-format off
+void ctl_Frame::Caption(String value) { rows::set<Properties, u"Caption">(*this, std::move(value)); }
+void ctl_Frame::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
+void ctl_Frame::ForeColor(Colour value) { rows::set<Properties, u"ForeColor">(*this, value); }
+void ctl_Frame::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*this, value); }
+// clang-format on
 
 String ctl_Frame::accessibleText() const
 {
@@ -75,21 +52,13 @@ String ctl_Frame::accessibleText() const
 
 void ctl_Frame::readProperties(const PropertyBag& bag)
 {
-    const ctl_Frame fresh;
-    caption_ = bag.ReadProperty(u"CAPTION", u"").toText();
-    foreColor_ =
-        members::fromVariant<Colour>(bag.ReadProperty(u"FORECOLOR", members::toVariant(fresh.foreColor_)));
-    surface_.BackColor(
-        members::fromVariant<Colour>(bag.ReadProperty(u"BACKCOLOR", members::toVariant(fresh.BackColor()))));
+    rows::read<Properties>(*this, bag);
     surface_.invalidate();
 }
 
 void ctl_Frame::writeProperties(PropertyBag& bag)
 {
-    const ctl_Frame fresh;
-    bag.WriteProperty(u"CAPTION", caption_, u"");
-    bag.WriteProperty(u"FORECOLOR", members::toVariant(foreColor_), members::toVariant(fresh.foreColor_));
-    bag.WriteProperty(u"BACKCOLOR", members::toVariant(BackColor()), members::toVariant(fresh.BackColor()));
+    rows::write<Properties>(*this, bag);
 }
 
 void ctl_Frame::paint()

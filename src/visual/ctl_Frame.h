@@ -1,7 +1,7 @@
 #pragma once
 
-#include "visual/Font.h"
 #include "visual/PaintSurface.h"
+#include "visual/SharedFont.h"
 #include "visual/UserControl.h"
 
 namespace phial
@@ -16,7 +16,7 @@ public:
     /// Persisted under "CAPTION".
     String Caption() const { return caption_; }
     void Caption(String value);
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
     /// Persisted under "FORECOLOR" and "BACKCOLOR".
@@ -38,12 +38,13 @@ public:
     void resized() override { surface_.resized(); }
 
 private:
+    struct Properties;
+
     ControlFrame frame_;
     PaintSurface surface_;
     String caption_;
-    FontPtr font_;
-    Connection fontChanged_;
-    Colour foreColor_ = SystemColour::WindowText;
+    SharedFont font_;
+    Colour foreColor_;
 };
 
 } // namespace phial

@@ -1,7 +1,6 @@
 #include "visual/ctl_Gradient.h"
 
-#include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 
 namespace phial
 {
@@ -11,61 +10,42 @@ namespace
 
 constexpr int Steps = 256;
 
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<ctl_Gradient, Colour, &ctl_Gradient::Color1, &ctl_Gradient::Color1>(u"Color1"),
-        members::property<ctl_Gradient, Colour, &ctl_Gradient::Color2, &ctl_Gradient::Color2>(u"Color2"),
-        members::property<ctl_Gradient, double, &ctl_Gradient::Angle, &ctl_Gradient::Angle>(u"Angle"),
-    }));
-
 } // namespace
 
-ctl_Gradient::ctl_Gradient() : frame_(*this), surface_(*this) {}
+struct ctl_Gradient::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Color1">(&ctl_Gradient::from_, RGB(255, 255, 255)).kept(),
+        rows::property<u"Color2">(&ctl_Gradient::to_, RGB(192, 208, 224)).kept(),
+        rows::property<u"Angle">(&ctl_Gradient::angle_, 90).kept(),
+    };
+};
+
+ctl_Gradient::ctl_Gradient() : frame_(*this), surface_(*this)
+{
+    rows::start<Properties>(*this);
+}
 
 MemberTable ctl_Gradient::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
-void ctl_Gradient::Color1(Colour value)
-{
-    if (change(from_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"Color1");
-    }
-}
-
-void ctl_Gradient::Color2(Colour value)
-{
-    if (change(to_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"Color2");
-    }
-}
-
-void ctl_Gradient::Angle(double value)
-{
-    if (change(angle_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"Angle");
-    }
-}
+// One line a setter.
+// clang-format off
+void ctl_Gradient::Color1(Colour value) { rows::set<Properties, u"Color1">(*this, value); }
+void ctl_Gradient::Color2(Colour value) { rows::set<Properties, u"Color2">(*this, value); }
+void ctl_Gradient::Angle(double value) { rows::set<Properties, u"Angle">(*this, value); }
+// clang-format on
 
 void ctl_Gradient::readProperties(const PropertyBag& bag)
 {
-    from_ = members::fromVariant<Colour>(bag.ReadProperty(u"COLOR1", members::toVariant(from_)));
-    to_ = members::fromVariant<Colour>(bag.ReadProperty(u"COLOR2", members::toVariant(to_)));
-    angle_ = bag.ReadProperty(u"ANGLE", angle_).toReal();
+    rows::read<Properties>(*this, bag);
     surface_.invalidate();
 }
 
 void ctl_Gradient::writeProperties(PropertyBag& bag)
 {
-    const ctl_Gradient fresh;
-    bag.WriteProperty(u"COLOR1", members::toVariant(from_), members::toVariant(fresh.from_));
-    bag.WriteProperty(u"COLOR2", members::toVariant(to_), members::toVariant(fresh.to_));
-    bag.WriteProperty(u"ANGLE", angle_, fresh.angle_);
+    rows::write<Properties>(*this, bag);
 }
 
 void ctl_Gradient::paint()

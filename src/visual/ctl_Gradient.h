@@ -35,11 +35,13 @@ public:
     void click() override { CLICK.emit(); }
 
 private:
+    struct Properties;
+
     ControlFrame frame_;
     PaintSurface surface_;
-    Colour from_ = RGB(255, 255, 255);
-    Colour to_ = RGB(192, 208, 224);
-    double angle_ = 90;
+    Colour from_;
+    Colour to_;
+    double angle_{};
 };
 
 } // namespace phial

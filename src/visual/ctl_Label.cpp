@@ -1,7 +1,6 @@
 #include "visual/ctl_Label.h"
 
-#include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 #include "visual/VisualHost.h"
 
 #include <cmath>
@@ -13,20 +12,6 @@ namespace
 {
 
 constexpr std::int32_t TopLeft = 4;
-
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<ctl_Label, String, &ctl_Label::Caption, &ctl_Label::Caption>(u"Caption"),
-        members::property<ctl_Label, FontPtr, &ctl_Label::Font, &ctl_Label::Font>(u"Font"),
-        members::property<ctl_Label, Colour, &ctl_Label::ForeColor, &ctl_Label::ForeColor>(u"ForeColor"),
-        members::property<ctl_Label, std::int32_t, &ctl_Label::Alignment, &ctl_Label::Alignment>(
-            u"Alignment"),
-        members::property<ctl_Label, bool, &ctl_Label::AutoSize, &ctl_Label::AutoSize>(u"AutoSize"),
-        members::property<ctl_Label, bool, &ctl_Label::PlainText, &ctl_Label::PlainText>(u"PlainText"),
-        members::property<ctl_Label, bool, &ctl_Label::Raised, &ctl_Label::Raised>(u"Raised"),
-        members::property<ctl_Label, bool, &ctl_Label::Flat, &ctl_Label::Flat>(u"Flat"),
-    }));
 
 /// Where a text stands for an alignment code; see the class comment.
 struct TextPlace {
@@ -46,20 +31,28 @@ TextPlace placeOf(std::int32_t alignment)
 
 } // namespace
 
-ctl_Label::ctl_Label() : frame_(*this), surface_(*this), font_(std::make_shared<phial::Font>())
+struct ctl_Label::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Caption">(&ctl_Label::caption_).kept(u"text").then(&ctl_Label::refresh).spoken(),
+        rows::font<u"Font">(&ctl_Label::font_).then(&ctl_Label::refresh),
+        rows::property<u"ForeColor">(&ctl_Label::foreColor_),
+        rows::property<u"Alignment">(&ctl_Label::alignment_),
+        rows::property<u"AutoSize">(&ctl_Label::autoSize_).then(&ctl_Label::refresh),
+        rows::property<u"PlainText">(&ctl_Label::plain_).then(&ctl_Label::refresh).spoken(),
+        rows::property<u"Raised">(&ctl_Label::raised_),
+        rows::property<u"Flat">(&ctl_Label::flat_),
+    };
+};
+
+ctl_Label::ctl_Label() : frame_(*this), surface_(*this)
 {
     surface_.transparent(true);
-    listenToFont();
+    rows::start<Properties>(*this);
 }
 
 MemberTable ctl_Label::members() const
 {
-    return Table;
-}
-
-void ctl_Label::listenToFont()
-{
-    fontChanged_ = font_->changed.connect([this] { refresh(); });
+    return rows::membersOf<Properties>();
 }
 
 void ctl_Label::refresh()
@@ -83,68 +76,17 @@ MarkupLayout ctl_Label::layOut(double width) const
     return {caption_, font_->traits(), visualHost().metrics(), width, form};
 }
 
-void ctl_Label::Caption(String value)
-{
-    if (change(caption_, std::move(value))) {
-        refresh();
-        frame_.report(ControlAspect::Accessibility);
-        PropertyChanged.emit(u"Caption");
-    }
-}
-
-void ctl_Label::Font(FontPtr value)
-{
-    shareFont(font_, fontChanged_, std::move(value), [this] { refresh(); });
-}
-
-void ctl_Label::ForeColor(Colour value)
-{
-    if (change(foreColor_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"ForeColor");
-    }
-}
-
-void ctl_Label::Alignment(std::int32_t value)
-{
-    if (change(alignment_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"Alignment");
-    }
-}
-
-void ctl_Label::AutoSize(bool value)
-{
-    if (change(autoSize_, value)) {
-        refresh();
-        PropertyChanged.emit(u"AutoSize");
-    }
-}
-
-void ctl_Label::PlainText(bool value)
-{
-    if (change(plain_, value)) {
-        refresh();
-        frame_.report(ControlAspect::Accessibility);
-        PropertyChanged.emit(u"PlainText");
-    }
-}
-
-void ctl_Label::Raised(bool value)
-{
-    if (change(raised_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"Raised");
-    }
-}
-
-void ctl_Label::Flat(bool value)
-{
-    if (change(flat_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"Flat");
-    }
-}
+// One line a setter.
+// clang-format off
+void ctl_Label::Caption(String value) { rows::set<Properties, u"Caption">(*this, std::move(value)); }
+void ctl_Label::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
+void ctl_Label::ForeColor(Colour value) { rows::set<Properties, u"ForeColor">(*this, value); }
+void ctl_Label::Alignment(std::int32_t value) { rows::set<Properties, u"Alignment">(*this, value); }
+void ctl_Label::AutoSize(bool value) { rows::set<Properties, u"AutoSize">(*this, value); }
+void ctl_Label::PlainText(bool value) { rows::set<Properties, u"PlainText">(*this, value); }
+void ctl_Label::Raised(bool value) { rows::set<Properties, u"Raised">(*this, value); }
+void ctl_Label::Flat(bool value) { rows::set<Properties, u"Flat">(*this, value); }
+// clang-format on
 
 String ctl_Label::accessibleText() const
 {
@@ -153,13 +95,13 @@ String ctl_Label::accessibleText() const
 
 void ctl_Label::readProperties(const PropertyBag& bag)
 {
-    caption_ = bag.ReadProperty(u"text", u"").toText();
+    rows::read<Properties>(*this, bag);
     refresh();
 }
 
 void ctl_Label::writeProperties(PropertyBag& bag)
 {
-    bag.WriteProperty(u"text", caption_, u"");
+    rows::write<Properties>(*this, bag);
 }
 
 void ctl_Label::resized()

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "visual/Font.h"
 #include "visual/Markup.h"
 #include "visual/PaintSurface.h"
+#include "visual/SharedFont.h"
 #include "visual/UserControl.h"
 
 namespace phial
@@ -21,7 +21,7 @@ public:
     /// Persisted under "text".
     String Caption() const { return caption_; }
     void Caption(String value);
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
     Colour ForeColor() const { return foreColor_; }
@@ -63,16 +63,16 @@ public:
     void doubleClick() override { DblClick.emit(); }
 
 private:
+    struct Properties;
+
     void refresh();
     void fitToText();
     MarkupLayout layOut(double width) const;
-    void listenToFont();
 
     ControlFrame frame_;
     PaintSurface surface_;
     String caption_;
-    FontPtr font_;
-    Connection fontChanged_;
+    SharedFont font_;
     Colour foreColor_ = SystemColour::WindowText;
     std::int32_t alignment_ = 0;
     bool autoSize_ = false;

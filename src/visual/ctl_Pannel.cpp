@@ -1,8 +1,7 @@
 #include "visual/ctl_Pannel.h"
 
-#include "visual/Change.h"
-#include "visual/FrameMembers.h"
 #include "visual/Markup.h"
+#include "visual/PropertyRows.h"
 #include "visual/VisualHost.h"
 
 namespace phial
@@ -13,69 +12,39 @@ namespace
 
 constexpr double Margin = 4; // between edge and text, in pixels
 
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<ctl_Pannel, String, &ctl_Pannel::Caption, &ctl_Pannel::Caption>(u"Caption"),
-        members::property<ctl_Pannel, FontPtr, &ctl_Pannel::Font, &ctl_Pannel::Font>(u"Font"),
-        members::property<ctl_Pannel, Colour, &ctl_Pannel::ForeColor, &ctl_Pannel::ForeColor>(u"ForeColor"),
-        members::property<ctl_Pannel, Colour, &ctl_Pannel::BackColor, &ctl_Pannel::BackColor>(u"BackColor"),
-        members::property<ctl_Pannel, Colour, &ctl_Pannel::BorderColor, &ctl_Pannel::BorderColor>(
-            u"BorderColor"),
-    }));
-
 } // namespace
 
-ctl_Pannel::ctl_Pannel() : frame_(*this), surface_(*this), font_(std::make_shared<phial::Font>())
+struct ctl_Pannel::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Caption">(&ctl_Pannel::caption_).kept(u"TEXT").spoken(),
+        rows::font<u"Font">(&ctl_Pannel::font_),
+        rows::property<u"ForeColor">(&ctl_Pannel::foreColor_, SystemColour::WindowText).kept(),
+        rows::property<u"BackColor">(&ctl_Pannel::surface_, &PaintSurface::BackColor,
+                                     &PaintSurface::BackColor, SystemColour::ButtonFace)
+            .kept(),
+        rows::property<u"BorderColor">(&ctl_Pannel::borderColor_, SystemColour::ButtonShadow).kept(),
+    };
+};
+
+ctl_Pannel::ctl_Pannel() : frame_(*this), surface_(*this)
 {
-    surface_.BackColor(SystemColour::ButtonFace);
     surface_.children().ScaleMode(ScaleUnit::Twips);
-    fontChanged_ = font_->changed.connect([this] { surface_.invalidate(); });
+    rows::start<Properties>(*this);
 }
 
 MemberTable ctl_Pannel::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
-void ctl_Pannel::Caption(String value)
-{
-    if (change(caption_, std::move(value))) {
-        surface_.invalidate();
-        frame_.report(ControlAspect::Accessibility);
-        PropertyChanged.emit(u"Caption");
-    }
-}
-
-void ctl_Pannel::Font(FontPtr value)
-{
-    shareFont(font_, fontChanged_, std::move(value), [this] { surface_.invalidate(); });
-}
-
-void ctl_Pannel::ForeColor(Colour value)
-{
-    if (change(foreColor_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"ForeColor");
-    }
-}
-
-void ctl_Pannel::BackColor(Colour value)
-{
-    if (surface_.BackColor() != value) {
-        surface_.BackColor(value);
-        surface_.invalidate();
-        PropertyChanged.emit(u"BackColor");
-    }
-}
-
-void ctl_Pannel::BorderColor(Colour value)
-{
-    if (change(borderColor_, value)) {
-        surface_.invalidate();
-        PropertyChanged.emit(u"BorderColor");
-    }
-}
+// One line a setter.
+// clang-format off
+void ctl_Pannel::Caption(String value) { rows::set<Properties, u"Caption">(*this, std::move(value)); }
+void ctl_Pannel::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
+void ctl_Pannel::ForeColor(Colour value) { rows::set<Properties, u"ForeColor">(*this, value); }
+void ctl_Pannel::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*this, value); }
+void ctl_Pannel::BorderColor(Colour value) { rows::set<Properties, u"BorderColor">(*this, value); }
+// clang-format on
 
 String ctl_Pannel::accessibleText() const
 {
@@ -84,25 +53,13 @@ String ctl_Pannel::accessibleText() const
 
 void ctl_Pannel::readProperties(const PropertyBag& bag)
 {
-    const ctl_Pannel fresh;
-    const auto colour = [&bag](StringView key, Colour standard) {
-        return members::fromVariant<Colour>(bag.ReadProperty(key, members::toVariant(standard)));
-    };
-    caption_ = bag.ReadProperty(u"TEXT", u"").toText();
-    foreColor_ = colour(u"FORECOLOR", fresh.foreColor_);
-    borderColor_ = colour(u"BORDERCOLOR", fresh.borderColor_);
-    surface_.BackColor(colour(u"BACKCOLOR", fresh.BackColor()));
+    rows::read<Properties>(*this, bag);
     surface_.invalidate();
 }
 
 void ctl_Pannel::writeProperties(PropertyBag& bag)
 {
-    const ctl_Pannel fresh;
-    bag.WriteProperty(u"TEXT", caption_, u"");
-    bag.WriteProperty(u"FORECOLOR", members::toVariant(foreColor_), members::toVariant(fresh.foreColor_));
-    bag.WriteProperty(u"BACKCOLOR", members::toVariant(BackColor()), members::toVariant(fresh.BackColor()));
-    bag.WriteProperty(u"BORDERCOLOR", members::toVariant(borderColor_),
-                      members::toVariant(fresh.borderColor_));
+    rows::write<Properties>(*this, bag);
 }
 
 void ctl_Pannel::paint()

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "visual/Font.h"
 #include "visual/PaintSurface.h"
+#include "visual/SharedFont.h"
 #include "visual/UserControl.h"
 
 namespace phial
@@ -16,7 +16,7 @@ public:
     /// Persisted under "TEXT"; with the markup of Markup.h.
     String Caption() const { return caption_; }
     void Caption(String value);
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
     /// Persisted under "FORECOLOR", "BACKCOLOR" and "BORDERCOLOR".
@@ -43,13 +43,14 @@ public:
     void click() override { CLICK.emit(); }
 
 private:
+    struct Properties;
+
     ControlFrame frame_;
     PaintSurface surface_;
     String caption_;
-    FontPtr font_;
-    Connection fontChanged_;
-    Colour foreColor_ = SystemColour::WindowText;
-    Colour borderColor_ = SystemColour::ButtonShadow;
+    SharedFont font_;
+    Colour foreColor_;
+    Colour borderColor_;
 };
 
 } // namespace phial

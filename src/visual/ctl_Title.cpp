@@ -4,7 +4,7 @@
 #include "core/Locale.h"
 #include "core/SessionState.h"
 #include "visual/Change.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 
 #include <algorithm>
 
@@ -18,59 +18,35 @@ constexpr double Margin = 10;    // left and right, in pixels
 constexpr double IconSize = 24;  // greatest edge of the icon
 constexpr double CrossSize = 10; // edge of the sign to close with
 
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<ctl_Title, String, &ctl_Title::Title, &ctl_Title::Title>(u"Title"),
-        members::property<ctl_Title, PicturePtr, &ctl_Title::Icon, &ctl_Title::Icon>(u"Icon"),
-        members::property<ctl_Title, bool, &ctl_Title::Closable, &ctl_Title::Closable>(u"Closable"),
-        members::property<ctl_Title, FontPtr, &ctl_Title::Font, &ctl_Title::Font>(u"Font"),
-    }));
-
 } // namespace
 
-ctl_Title::ctl_Title()
-    : frame_(*this), surface_(*this),
-      font_(std::make_shared<phial::Font>(FontSpec{.name = u"Tahoma", .size = 11, .bold = true}))
+struct ctl_Title::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"Title">(&ctl_Title::title_).kept().spoken(),
+        rows::property<u"Icon">(&ctl_Title::icon_),
+        rows::property<u"Closable">(&ctl_Title::closable_, true).kept().spoken(),
+        rows::font<u"Font">(&ctl_Title::font_, {.size = 11, .bold = true}),
+    };
+};
+
+ctl_Title::ctl_Title() : frame_(*this), surface_(*this)
 {
     frame_.canFocus(true);
-    fontChanged_ = font_->changed.connect([this] { surface_.invalidate(); });
+    rows::start<Properties>(*this);
 }
 
 MemberTable ctl_Title::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
-void ctl_Title::Title(String value)
-{
-    if (change(title_, std::move(value))) {
-        surface_.invalidate();
-        frame_.report(ControlAspect::Accessibility);
-        PropertyChanged.emit(u"Title");
-    }
-}
-
-void ctl_Title::Icon(PicturePtr value)
-{
-    if (change(icon_, std::move(value))) {
-        surface_.invalidate();
-    }
-}
-
-void ctl_Title::Closable(bool value)
-{
-    if (change(closable_, value)) {
-        surface_.invalidate();
-        frame_.report(ControlAspect::Accessibility);
-        PropertyChanged.emit(u"Closable");
-    }
-}
-
-void ctl_Title::Font(FontPtr value)
-{
-    shareFont(font_, fontChanged_, std::move(value), [this] { surface_.invalidate(); });
-}
+// One line a setter.
+// clang-format off
+void ctl_Title::Title(String value) { rows::set<Properties, u"Title">(*this, std::move(value)); }
+void ctl_Title::Icon(PicturePtr value) { rows::set<Properties, u"Icon">(*this, std::move(value)); }
+void ctl_Title::Closable(bool value) { rows::set<Properties, u"Closable">(*this, value); }
+void ctl_Title::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
+// clang-format on
 
 PixelRectangle ctl_Title::closeArea() const
 {
@@ -128,15 +104,13 @@ void ctl_Title::pointerLeave()
 
 void ctl_Title::readProperties(const PropertyBag& bag)
 {
-    title_ = bag.ReadProperty(u"TITLE", u"").toText();
-    closable_ = bag.ReadProperty(u"CLOSABLE", true).toBoolean();
+    rows::read<Properties>(*this, bag);
     surface_.invalidate();
 }
 
 void ctl_Title::writeProperties(PropertyBag& bag)
 {
-    bag.WriteProperty(u"TITLE", title_, u"");
-    bag.WriteProperty(u"CLOSABLE", closable_, true);
+    rows::write<Properties>(*this, bag);
 }
 
 void ctl_Title::paint()

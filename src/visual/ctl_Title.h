@@ -1,7 +1,7 @@
 #pragma once
 
-#include "visual/Font.h"
 #include "visual/PaintSurface.h"
+#include "visual/SharedFont.h"
 #include "visual/UserControl.h"
 
 namespace phial
@@ -21,7 +21,7 @@ public:
     /// Whether the sign to close with is there; it is at first. Persisted under "CLOSABLE".
     bool Closable() const { return closable_; }
     void Closable(bool value);
-    FontPtr Font() const { return font_; }
+    FontPtr Font() const { return font_.pointer(); }
     /// Shares the font object; null raises 91.
     void Font(FontPtr value);
 
@@ -46,6 +46,8 @@ public:
     void pointerLeave() override;
 
 private:
+    struct Properties;
+
     PixelRectangle closeArea() const;
     void hover(bool value);
 
@@ -53,9 +55,8 @@ private:
     PaintSurface surface_;
     String title_;
     PicturePtr icon_;
-    bool closable_ = true;
-    FontPtr font_;
-    Connection fontChanged_;
+    bool closable_{};
+    SharedFont font_;
     bool hovered_ = false;
     bool pressed_ = false;
 };
