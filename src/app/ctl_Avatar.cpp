@@ -2,8 +2,8 @@
 
 #include "app/RecentNames.h"
 #include "app/screen/Avatars.h"
-#include "visual/FrameMembers.h"
 #include "visual/OneLine.h"
+#include "visual/PropertyRows.h"
 
 #include <algorithm>
 
@@ -22,63 +22,45 @@ constexpr int White = 15; // of the classic table of colours
 constexpr int Grey = 7;
 constexpr int DarkGrey = 8;
 
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<ctl_Avatar, Colour, &ctl_Avatar::TEXTCOLOR, &ctl_Avatar::TEXTCOLOR>(u"TEXTCOLOR"),
-        members::property<ctl_Avatar, bool, &ctl_Avatar::CENTER, &ctl_Avatar::CENTER>(u"CENTER"),
-        members::operation<ctl_Avatar, &ctl_Avatar::UPDATE>(u"UPDATE"),
-    }));
-
 } // namespace
 
-ctl_Avatar::ctl_Avatar() : frame_(*this), surface_(*this), textColour_(QBColor(White))
+struct ctl_Avatar::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"TEXTCOLOR">(&ctl_Avatar::textColour_, QBColor(White)).kept(),
+        rows::property<u"CENTER">(&ctl_Avatar::centre_).kept(),
+        rows::operation<u"UPDATE">(&ctl_Avatar::UPDATE),
+    };
+    static constexpr bool Always = true;
+    static constexpr auto Effect = &ctl_Avatar::UPDATE;
+};
+
+ctl_Avatar::ctl_Avatar() : frame_(*this), surface_(*this)
 {
     frame_.canFocus(true);
     surface_.BackColor(Ground);
+    rows::start<Properties>(*this);
 }
 
 MemberTable ctl_Avatar::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
-void ctl_Avatar::TEXTCOLOR(Colour value)
-{
-    textColour_ = value;
-    changed(u"TEXTCOLOR");
-}
-
-void ctl_Avatar::CENTER(bool value)
-{
-    centre_ = value;
-    changed(u"CENTER");
-}
-
-void ctl_Avatar::changed(StringView property)
-{
-    PropertyChanged.emit(String(property));
-    UPDATE();
-}
-
-void ctl_Avatar::initProperties()
-{
-    textColour_ = QBColor(White);
-    UPDATE();
-}
+// One line a setter.
+// clang-format off
+void ctl_Avatar::TEXTCOLOR(Colour value) { rows::set<Properties, u"TEXTCOLOR">(*this, value); }
+void ctl_Avatar::CENTER(bool value) { rows::set<Properties, u"CENTER">(*this, value); }
+// clang-format on
 
 void ctl_Avatar::readProperties(const PropertyBag& bag)
 {
-    centre_ = bag.ReadProperty(u"CENTER", false).toBoolean();
-    textColour_ =
-        members::fromVariant<Colour>(bag.ReadProperty(u"TEXTCOLOR", members::toVariant(QBColor(White))));
+    rows::read<Properties>(*this, bag);
     UPDATE();
 }
 
 void ctl_Avatar::writeProperties(PropertyBag& bag)
 {
-    bag.WriteProperty(u"CENTER", centre_, false);
-    bag.WriteProperty(u"TEXTCOLOR", members::toVariant(textColour_), members::toVariant(QBColor(White)));
+    rows::write<Properties>(*this, bag);
 }
 
 void ctl_Avatar::resized()

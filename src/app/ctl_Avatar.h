@@ -34,7 +34,7 @@ public:
     PartRole role() const override { return PartRole::Button; }
     String accessibleText() const override { return name_; }
     bool wantsKey(Key key) const override { return key == Key::Return; }
-    void initProperties() override;
+    void initProperties() override { UPDATE(); }
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
     void shown() override { UPDATE(); }
@@ -46,7 +46,8 @@ public:
     void lostFocus() override { UPDATE(); }
 
 private:
-    void changed(StringView property);
+    struct Properties;
+
     void readName();
     void paintFrame();
     void paintUser();
@@ -54,7 +55,7 @@ private:
     ControlFrame frame_;
     PaintSurface surface_;
     Colour textColour_;
-    bool centre_ = false;
+    bool centre_{};
     String name_;
     String avatar_;
 };
