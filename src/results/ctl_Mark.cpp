@@ -3,8 +3,8 @@
 #include "core/CoreColors.h"
 #include "core/Locale.h"
 #include "core/Variant.h"
-#include "visual/FrameMembers.h"
 #include "visual/Markup.h"
+#include "visual/PropertyRows.h"
 #include "visual/VisualHost.h"
 
 #include <algorithm>
@@ -44,17 +44,6 @@ constexpr double SignWidth = 16;
 constexpr double NumberPoints = 17;
 constexpr double SignPoints = 11;
 constexpr std::int32_t MiddleCentre = 1;
-
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::property<ctl_Mark, enm_Mark, &ctl_Mark::MARK, &ctl_Mark::MARK>(u"MARK"),
-        {u"MARKTEXT", [](Object& object) { return Variant(static_cast<ctl_Mark&>(object).MARKTEXT()); },
-         [](Object& object, const Variant& value) {
-             static_cast<ctl_Mark&>(object).MARKTEXT(value.toText());
-         }},
-        members::property<ctl_Mark, Colour, &ctl_Mark::BackColor, &ctl_Mark::BackColor>(u"BackColor"),
-    }));
 
 enum class Sign : std::uint8_t { None, Plus, Minus };
 
@@ -129,16 +118,26 @@ void paintEdge(DrawDevice& device, ctl_Label& label, std::int32_t reach)
 
 } // namespace
 
+struct ctl_Mark::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"MARK">(&ctl_Mark::mark_).always().then(&ctl_Mark::draw).spoken(),
+        rows::property<u"MARKTEXT">(&ctl_Mark::MARKTEXT, &ctl_Mark::MARKTEXT),
+        rows::property<u"BackColor">(&ctl_Mark::surface_, &PaintSurface::BackColor, &PaintSurface::BackColor,
+                                     SystemColour::ButtonFace)
+            .then(&ctl_Mark::draw),
+    };
+};
+
 ctl_Mark::ctl_Mark() : frame_(*this), surface_(*this)
 {
-    surface_.BackColor(SystemColour::ButtonFace);
+    rows::start<Properties>(*this);
     build();
     draw();
 }
 
 MemberTable ctl_Mark::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
 void ctl_Mark::build()
@@ -162,10 +161,7 @@ void ctl_Mark::build()
 
 void ctl_Mark::MARK(enm_Mark value)
 {
-    mark_ = value;
-    draw();
-    frame_.report(ControlAspect::Accessibility);
-    PropertyChanged.emit(u"MARK");
+    rows::set<Properties, u"MARK">(*this, value);
 }
 
 String ctl_Mark::MARKTEXT() const
@@ -185,11 +181,7 @@ void ctl_Mark::MARKTEXT(StringView value)
 
 void ctl_Mark::BackColor(Colour value)
 {
-    if (surface_.BackColor() != value) {
-        surface_.BackColor(value);
-        draw();
-        PropertyChanged.emit(u"BackColor");
-    }
+    rows::set<Properties, u"BackColor">(*this, value);
 }
 
 String ctl_Mark::accessibleText() const

@@ -52,6 +52,8 @@ public:
     void paint() override;
 
 private:
+    struct Properties;
+
     void build();
     void draw();
     void drawWholeMark(std::int32_t wholeMark);
