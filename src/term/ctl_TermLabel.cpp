@@ -5,7 +5,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
 #include "visual/Container.h"
-#include "visual/FrameMembers.h"
+#include "visual/PropertyRows.h"
 
 namespace phial
 {
@@ -15,23 +15,6 @@ namespace
 
 constexpr int Grey = 8; // of the classic table of colours
 constexpr int Black = 0;
-
-constexpr auto Table = joinMembers(
-    FrameMembers,
-    std::to_array<Member>({
-        members::readOnly<ctl_TermLabel, String, &ctl_TermLabel::CTRLID>(u"CTRLID"),
-        members::property<ctl_TermLabel, bool, &ctl_TermLabel::AUTOSIZE, &ctl_TermLabel::AUTOSIZE>(
-            u"AUTOSIZE"),
-        members::property<ctl_TermLabel, String, &ctl_TermLabel::Term, &ctl_TermLabel::Term>(u"Term"),
-        members::property<ctl_TermLabel, TEXTALIGN, &ctl_TermLabel::TEXTALIGN, &ctl_TermLabel::TEXTALIGN>(
-            u"TEXTALIGN"),
-        members::lazyProperty<ctl_TermLabel, FontPtr, &ctl_TermLabel::TEXTFONT, &ctl_TermLabel::TEXTFONT>(
-            u"TEXTFONT"),
-        members::property<ctl_TermLabel, Colour, &ctl_TermLabel::TEXTCOLOR, &ctl_TermLabel::TEXTCOLOR>(
-            u"TEXTCOLOR"),
-        members::operation<ctl_TermLabel, &ctl_TermLabel::UserControl_Initialize>(u"UserControl_Initialize"),
-        members::operation<ctl_TermLabel, &ctl_TermLabel::REDRAW>(u"REDRAW"),
-    }));
 
 /// The anchor point of an alignment on a surface of that width or height: its start, middle or end.
 double anchorX(TEXTALIGN align, double width)
@@ -68,14 +51,30 @@ double anchorY(TEXTALIGN align, double height)
 
 } // namespace
 
+struct ctl_TermLabel::Properties {
+    static constexpr rows::Table Table{
+        rows::readOnly<u"CTRLID">(&ctl_TermLabel::CTRLID),
+        rows::property<u"AUTOSIZE">(&ctl_TermLabel::autoSize_).kept(),
+        rows::property<u"Term">(&ctl_TermLabel::term_, u"H2O").kept().spoken(),
+        rows::property<u"TEXTALIGN">(&ctl_TermLabel::align_).kept(),
+        rows::font<u"TEXTFONT">(&ctl_TermLabel::font_).kept().nullGivesDefault(),
+        rows::property<u"TEXTCOLOR">(&ctl_TermLabel::textColour_).kept(),
+        rows::operation<u"UserControl_Initialize">(&ctl_TermLabel::UserControl_Initialize),
+        rows::operation<u"REDRAW">(&ctl_TermLabel::REDRAW),
+    };
+    static constexpr bool Always = true;
+    static constexpr auto Effect = &ctl_TermLabel::REDRAW;
+};
+
 ctl_TermLabel::ctl_TermLabel() : frame_(*this), surface_(*this)
 {
+    rows::start<Properties>(*this);
     UserControl_Initialize();
 }
 
 MemberTable ctl_TermLabel::members() const
 {
-    return Table;
+    return rows::membersOf<Properties>();
 }
 
 void ctl_TermLabel::UserControl_Initialize()
@@ -83,79 +82,24 @@ void ctl_TermLabel::UserControl_Initialize()
     ignoringErrors([this] { id_ = coreRoot().CoreSystem().CoreMachine().NewUniqueID(); });
 }
 
-void ctl_TermLabel::changed(StringView property)
-{
-    PropertyChanged.emit(String(property));
-    REDRAW();
-}
-
-void ctl_TermLabel::AUTOSIZE(bool value)
-{
-    autoSize_ = value;
-    changed(u"AUTOSIZE");
-}
-
-void ctl_TermLabel::Term(String value)
-{
-    term_ = std::move(value);
-    frame_.report(ControlAspect::Accessibility);
-    changed(u"Term");
-}
-
-void ctl_TermLabel::TEXTALIGN(phial::TEXTALIGN value)
-{
-    align_ = value;
-    changed(u"TEXTALIGN");
-}
-
-FontPtr ctl_TermLabel::TEXTFONT()
-{
-    if (!font_) {
-        font_ = std::make_shared<Font>(FontSpec{.name = u"Tahoma", .size = 8});
-        fontChanged_ = font_->changed.connect([this] { changed(u"TEXTFONT"); });
-    }
-    return font_;
-}
-
-void ctl_TermLabel::TEXTFONT(FontPtr value)
-{
-    font_ = std::move(value);
-    fontChanged_ = font_ ? font_->changed.connect([this] { changed(u"TEXTFONT"); }) : Connection();
-    changed(u"TEXTFONT");
-}
-
-void ctl_TermLabel::TEXTCOLOR(Colour value)
-{
-    textColour_ = value;
-    changed(u"TEXTCOLOR");
-}
-
-void ctl_TermLabel::initProperties()
-{
-    TEXTFONT();
-}
+// One line a setter.
+// clang-format off
+void ctl_TermLabel::AUTOSIZE(bool value) { rows::set<Properties, u"AUTOSIZE">(*this, value); }
+void ctl_TermLabel::Term(String value) { rows::set<Properties, u"Term">(*this, std::move(value)); }
+void ctl_TermLabel::TEXTALIGN(phial::TEXTALIGN value) { rows::set<Properties, u"TEXTALIGN">(*this, value); }
+void ctl_TermLabel::TEXTFONT(FontPtr value) { rows::set<Properties, u"TEXTFONT">(*this, std::move(value)); }
+void ctl_TermLabel::TEXTCOLOR(Colour value) { rows::set<Properties, u"TEXTCOLOR">(*this, value); }
+// clang-format on
 
 void ctl_TermLabel::readProperties(const PropertyBag& bag)
 {
-    term_ = bag.ReadProperty(u"TERM", u"H2O").toText();
-    align_ = static_cast<phial::TEXTALIGN>(bag.ReadProperty(u"TEXTALIGN", 0).toWhole());
-    autoSize_ = bag.ReadProperty(u"AUTOSIZE", false).toBoolean();
-    textColour_ = members::fromVariant<Colour>(bag.ReadProperty(u"TEXTCOLOR", 0));
-    const Variant font = bag.ReadProperty(u"TEXTFONT");
-    font_ = nullptr;
-    if (!font.isEmpty()) {
-        TEXTFONT()->assign(members::fromVariant<FontPtr>(font)->traits());
-    }
+    rows::read<Properties>(*this, bag);
     REDRAW();
 }
 
 void ctl_TermLabel::writeProperties(PropertyBag& bag)
 {
-    bag.WriteProperty(u"TERM", term_, u"H2O");
-    bag.WriteProperty(u"TEXTALIGN", members::toVariant(align_), 0);
-    bag.WriteProperty(u"AUTOSIZE", autoSize_, false);
-    bag.WriteProperty(u"TEXTCOLOR", members::toVariant(textColour_), 0);
-    bag.WriteProperty(u"TEXTFONT", ObjectPtr(TEXTFONT()->clone()));
+    rows::write<Properties>(*this, bag);
 }
 
 Colour ctl_TermLabel::maskColour() const
@@ -170,7 +114,7 @@ void ctl_TermLabel::REDRAW()
     const Colour mask = maskColour();
     surface_.BackColor(mask);
     device.MaskColor(mask);
-    device.font(TEXTFONT()->traits());
+    device.font(font_->traits());
     device.Cls();
     device.ForeColor(textColour_);
     std::int32_t width = 0;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "term/TermDraw.h"
-#include "visual/Font.h"
 #include "visual/PaintSurface.h"
+#include "visual/SharedFont.h"
 #include "visual/UserControl.h"
 
 namespace phial
@@ -28,8 +28,8 @@ public:
     void Term(String value);
     phial::TEXTALIGN TEXTALIGN() const { return align_; }
     void TEXTALIGN(phial::TEXTALIGN value);
-    /// Made at first use; a change of its attributes shows at once.
-    FontPtr TEXTFONT();
+    /// A change of its attributes shows at once; null brings back the font of a fresh label.
+    FontPtr TEXTFONT() const { return font_.pointer(); }
     void TEXTFONT(FontPtr value);
     Colour TEXTCOLOR() const { return textColour_; }
     void TEXTCOLOR(Colour value);
@@ -46,7 +46,6 @@ public:
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::StaticText; }
     String accessibleText() const override { return term_; }
-    void initProperties() override;
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
     void shown() override { REDRAW(); }
@@ -55,19 +54,19 @@ public:
     void click() override { CLICK.emit(); }
 
 private:
-    void changed(StringView property);
+    struct Properties;
+
     Colour maskColour() const;
     void fitToTerm(std::int32_t width);
 
     ControlFrame frame_;
     PaintSurface surface_;
     String id_;
-    String term_ = u"H2O";
-    phial::TEXTALIGN align_ = phial::TEXTALIGN::MiddleLeft;
-    bool autoSize_ = false;
+    String term_;
+    phial::TEXTALIGN align_{};
+    bool autoSize_{};
     Colour textColour_;
-    FontPtr font_;
-    Connection fontChanged_;
+    SharedFont font_;
 };
 
 } // namespace phial
