@@ -11,7 +11,7 @@
 namespace molmasse
 {
 
-namespace layout = master_choice_layout;
+namespace choice_layout = master_choice_layout;
 
 using phial::String;
 
@@ -47,9 +47,9 @@ void frm_MasterChoice::build()
 {
     form_->ScaleMode(phial::ScaleUnit::Pixels);
     form_->BorderStyle(phial::BorderStyle::FixedDialog);
-    form_->innerSize({layout::Width, layout::Height});
+    form_->innerSize({choice_layout::Width, choice_layout::Height});
     form_->centred(true);
-    for (const phial::LayoutItem& item : layout::Items) {
+    for (const phial::LayoutItem& item : choice_layout::Items) {
         phial::applyLayout(*form_, {&item, 1});
         if (phial::Container* inner = form_->control<phial::Control>(item.name)->container()) {
             inner->ScaleMode(phial::ScaleUnit::Pixels);
@@ -93,7 +93,7 @@ void frm_MasterChoice::connect()
 void frm_MasterChoice::TRANSLATE()
 {
     form_->Caption(translate(u"Klassenraum", u"Classroom"));
-    for (const phial::LayoutItem& item : layout::Items) {
+    for (const phial::LayoutItem& item : choice_layout::Items) {
         if (!item.text.empty()) {
             phial::setMember(*form_->find(item.name), u"Caption", phial::LNG()->TRANSLATEAUTO(item.text));
         }

@@ -10,13 +10,13 @@ namespace phial
 namespace
 {
 
-constexpr StringView SettingName = u"Config\\ScreenNameMRU";
+constexpr StringView NamesSetting = u"Config\\ScreenNameMRU";
 constexpr char16_t Divider = u':';
 
 CoreStringList storedEntries()
 {
     return coreRoot().CoreRegistry().CoreRegistryRead().ReadList(SettingsHive::CurrentUser,
-                                                                 settings::path(SettingName));
+                                                                 settings::path(NamesSetting));
 }
 
 RecentName divided(const String& entry)
@@ -48,7 +48,7 @@ void rememberName(const RecentName& chosen)
     }
     entries.Insert(entry, 1);
     coreRoot().CoreRegistry().CoreRegistryWrite().WriteList(SettingsHive::CurrentUser,
-                                                            settings::path(SettingName), entries);
+                                                            settings::path(NamesSetting), entries);
 }
 
 } // namespace phial

@@ -17,7 +17,7 @@ namespace phial
 namespace
 {
 
-constexpr StringView Separator = u"mnu_FileMRUSep";
+constexpr StringView MenuSeparator = u"mnu_FileMRUSep";
 constexpr StringView EntryArray = u"mnu_FileMRU";
 constexpr std::int32_t CaptionLength = 50;
 
@@ -76,7 +76,7 @@ void cls_AppMRU::UPDATE()
     if (!device_) {
         return;
     }
-    ignoringErrors([this] { device_->control<Menu>(Separator)->Visible(false); });
+    ignoringErrors([this] { device_->control<Menu>(MenuSeparator)->Visible(false); });
     ignoringErrors([this] {
         const auto first = device_->control<Menu>(EntryArray, 0);
         Menu& holder = *first->above();
@@ -87,7 +87,7 @@ void cls_AppMRU::UPDATE()
         }
     });
     if (entries_->Count() > 0) {
-        ignoringErrors([this] { device_->control<Menu>(Separator)->Visible(true); });
+        ignoringErrors([this] { device_->control<Menu>(MenuSeparator)->Visible(true); });
     }
 }
 

@@ -19,7 +19,7 @@ namespace phial
 namespace
 {
 
-constexpr StringView SettingName = u"Language";
+constexpr StringView LanguageSetting = u"Language";
 constexpr StringView StoredGerman = u"DE";
 constexpr StringView StoredEnglish = u"EN";
 
@@ -68,7 +68,7 @@ void translateOpenForms()
 cls_Language::cls_Language()
 {
     const String choice = coreRoot().CoreRegistry().CoreRegistryRead().ReadString(
-        SettingsHive::CurrentUser, settings::path(SettingName), {}, settings::TextLimit);
+        SettingsHive::CurrentUser, settings::path(LanguageSetting), {}, settings::TextLimit);
     if (choice.empty()) {
         detect();
     } else if (choice == StoredGerman) {
@@ -109,7 +109,7 @@ void cls_Language::apply()
     CoreRoot& core = coreRoot();
     core.CoreLocale().SetLanguage(effective_ == ID_Language_English ? LanguageEnglish : LanguageGerman);
     core.CoreRegistry().CoreRegistryWrite().WriteString(SettingsHive::CurrentUser,
-                                                        settings::path(SettingName), stored(current_));
+                                                        settings::path(LanguageSetting), stored(current_));
 }
 
 String cls_Language::TRANSLATE(StringView pGerman, StringView pEnglisch, const Variant::Array& pVars) const

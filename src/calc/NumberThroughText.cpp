@@ -17,7 +17,7 @@ namespace
 /// The powers of ten that a double holds exactly.
 constexpr std::array PowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                                  1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-constexpr int SignificantDigits = 15;
+constexpr int DigitsOfText = 15;
 constexpr double SmallestOfSixteenDigits = 1e15;
 
 double throughWrittenText(double value)
@@ -34,7 +34,7 @@ std::size_t decimalsThatCount(double magnitude)
     int binaryExponent = 0;
     std::frexp(magnitude, &binaryExponent);
     // 1233 / 4096 is log10(2) closely enough to be wrong by one at most.
-    int decimals = SignificantDigits - 1 - ((binaryExponent - 1) * 1233 >> 12);
+    int decimals = DigitsOfText - 1 - ((binaryExponent - 1) * 1233 >> 12);
     decimals = decimals < 0 ? 0 : decimals > 22 ? 22 : decimals;
     if (magnitude * PowersOfTen[static_cast<std::size_t>(decimals)] >= SmallestOfSixteenDigits) {
         --decimals;
@@ -63,16 +63,11 @@ std::optional<double> roundedExactly(double magnitude)
     return digits / power;
 }
 
-bool isDigit(char16_t unit)
-{
-    return unit >= u'0' && unit <= u'9';
-}
-
 /// Digits, and perhaps a decimal sign with digits behind it; at most 15 digits, so that they are exact as a
 /// whole number.
 std::optional<double> plainDecimal(StringView token)
 {
-    if (token.empty() || token.size() > SignificantDigits + 1) {
+    if (token.empty() || token.size() > DigitsOfText + 1) {
         return std::nullopt;
     }
     std::int64_t digits = 0;
@@ -81,7 +76,7 @@ std::optional<double> plainDecimal(StringView token)
         digits = digits * 10 + (token[position] - u'0');
     }
     if (position == token.size()) {
-        return position > SignificantDigits ? std::nullopt : std::optional(static_cast<double>(digits));
+        return position > DigitsOfText ? std::nullopt : std::optional(static_cast<double>(digits));
     }
     if (position == 0 || (token[position] != u'.' && token[position] != u',')) {
         return std::nullopt;

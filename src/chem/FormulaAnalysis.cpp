@@ -14,10 +14,6 @@ namespace phial
 namespace
 {
 
-constexpr bool isDigit(char16_t unit)
-{
-    return unit >= u'0' && unit <= u'9';
-}
 constexpr bool isCapital(char16_t unit)
 {
     return unit >= u'A' && unit <= u'Z';

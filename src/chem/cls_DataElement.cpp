@@ -21,11 +21,11 @@ constexpr std::array<StringView, 11> Gases = {u"H",  u"N",  u"O",  u"F",  u"Cl",
 constexpr std::array<StringView, 3> Liquids = {u"Hg", u"Br", u"Cn"};
 constexpr std::array<StringView, 7> TwoAtomMolecules = {u"H", u"N", u"O", u"F", u"Cl", u"Br", u"I"};
 
-constexpr StringView StoredVersion = u"1.1";
+constexpr StringView ElementVersion = u"1.1";
 constexpr StringView OldestVersion = u"1.0";
 constexpr StringView FirstVersionWithAlternatives = u"1.1";
 
-constexpr Member Table[] = {
+constexpr Member ElementMembers[] = {
     {u"NAME", [](Object& object) { return Variant(static_cast<cls_DataElement&>(object).NAME()); },
      [](Object& object, const Variant& value) {
          static_cast<cls_DataElement&>(object).NAME(value.toText());
@@ -136,7 +136,7 @@ bool cls_DataElement::DOUBLEATOMS() const
 
 MemberTable cls_DataElement::members() const
 {
-    return Table;
+    return ElementMembers;
 }
 
 bool cls_DataElement::DataCopy(tmp_Data& pSource)
@@ -177,7 +177,7 @@ void cls_DataElement::DataUnpack(StringView pText)
 
 void cls_DataElement::DataStore(CoreDataStream& pStream)
 {
-    pStream.Write(StoredVersion, data_.get()->ID(), name_, mass_, protons_);
+    pStream.Write(ElementVersion, data_.get()->ID(), name_, mass_, protons_);
     storeList(pStream, *NAMEALT());
 }
 
@@ -186,7 +186,7 @@ void cls_DataElement::DataRead(CoreDataStream& pStream)
     String version;
     pStream.Read(version);
     version = upperCase(version);
-    if (version < OldestVersion || version > StoredVersion) {
+    if (version < OldestVersion || version > ElementVersion) {
         return;
     }
     data_.get()->ID(pStream.ReadValue());

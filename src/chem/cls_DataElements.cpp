@@ -19,9 +19,9 @@ namespace phial
 namespace
 {
 
-constexpr StringView StoredVersion = u"1.0";
+constexpr StringView ElementsVersion = u"1.0";
 
-constexpr Member Table[] = {
+constexpr Member ElementsMembers[] = {
     members::readOnly<cls_DataElements, std::int32_t, &cls_DataElements::COUNT>(u"COUNT"),
 };
 
@@ -183,7 +183,7 @@ double cls_DataElements::MOL(StringView pTerm) const
 
 MemberTable cls_DataElements::members() const
 {
-    return Table;
+    return ElementsMembers;
 }
 
 bool cls_DataElements::DataCopy(tmp_Data& pSource)
@@ -213,7 +213,7 @@ void cls_DataElements::DataUnpack(StringView pText)
 
 void cls_DataElements::DataStore(CoreDataStream& pStream)
 {
-    pStream.Write(StoredVersion, data_.get()->ID());
+    pStream.Write(ElementsVersion, data_.get()->ID());
     entries_.store(pStream);
 }
 
@@ -221,7 +221,7 @@ void cls_DataElements::DataRead(CoreDataStream& pStream)
 {
     String version;
     pStream.Read(version);
-    if (upperCase(version) != StoredVersion) {
+    if (upperCase(version) != ElementsVersion) {
         return;
     }
     data_.get()->ID(pStream.ReadValue());

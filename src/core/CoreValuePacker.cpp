@@ -18,12 +18,12 @@ namespace phial
 namespace
 {
 
-constexpr StringView Head = u"QV1;";
-constexpr StringView AlsoEscaped = u"{|:";
+constexpr StringView PackHead = u"QV1;";
+constexpr StringView EscapedInPacks = u"{|:";
 constexpr std::size_t ShortestValue = 4; // "E0=;"
 
 /// The letter before a value's length.
-enum class Tag : char16_t {
+enum class ValueTag : char16_t {
     Empty = u'E',
     Boolean = u'B',
     Whole = u'I',
@@ -35,14 +35,9 @@ enum class Tag : char16_t {
     Record = u'R',
 };
 
-[[noreturn]] void raiseDamaged()
+[[noreturn]] void raiseDamagedPack()
 {
     throw RuntimeError(ErrorNumber::InvalidArgument, u"Invalid argument: no packed values");
-}
-
-[[noreturn]] void raiseTypeMismatch()
-{
-    throw RuntimeError(ErrorNumber::TypeMismatch);
 }
 
 /// The number, or damage where the text was none.
@@ -50,7 +45,7 @@ template <typename Number>
 Number required(std::optional<Number> number)
 {
     if (!number) {
-        raiseDamaged();
+        raiseDamagedPack();
     }
     return *number;
 }
@@ -93,25 +88,25 @@ private:
     {
         switch (value.kind()) {
         case Variant::Kind::Empty:
-            return append(Tag::Empty, {});
+            return append(ValueTag::Empty, {});
         case Variant::Kind::Boolean:
-            return append(Tag::Boolean, value.toBoolean() ? u"-1" : u"0");
+            return append(ValueTag::Boolean, value.toBoolean() ? u"-1" : u"0");
         case Variant::Kind::Whole:
-            return append(Tag::Whole, plainText(value.toWhole()));
+            return append(ValueTag::Whole, plainText(value.toWhole()));
         case Variant::Kind::Real:
-            return append(Tag::Real, exactText(value.toReal()));
+            return append(ValueTag::Real, exactText(value.toReal()));
         case Variant::Kind::Moment:
-            return append(Tag::Moment, exactText(value.toMoment().days));
+            return append(ValueTag::Moment, exactText(value.toMoment().days));
         case Variant::Kind::Text:
-            return append(Tag::Text, escapedText(value.text(), AlsoEscaped));
+            return append(ValueTag::Text, escapedText(value.text(), EscapedInPacks));
         case Variant::Kind::Array:
-            return append(Tag::Array, Writer(nesting_ + 1).list(value.array()));
+            return append(ValueTag::Array, Writer(nesting_ + 1).list(value.array()));
         case Variant::Kind::Object:
-            return value.object() ? append(Tag::Record, record(value)) : append(Tag::NoObject, {});
+            return value.object() ? append(ValueTag::Record, record(value)) : append(ValueTag::NoObject, {});
         }
     }
 
-    void append(Tag tag, StringView content)
+    void append(ValueTag tag, StringView content)
     {
         text_ += static_cast<char16_t>(tag);
         text_ += countText(content.size());
@@ -124,7 +119,7 @@ private:
     {
         tmp_Data* data = recordIn(value);
         if (data == nullptr) {
-            raiseTypeMismatch();
+            throw RuntimeError(ErrorNumber::TypeMismatch);
         }
         const std::array<Variant, 2> parts = {data->DATA()->ClassTag(), data->DATA()->Pack()};
         return Writer(nesting_ + 1).list(parts);
@@ -142,16 +137,16 @@ struct PackedRecord {
 };
 
 /// Reads values one after the other. Everything is bounded by the text that is really there.
-class Reader
+class PackReader
 {
 public:
-    explicit Reader(StringView text) : rest_(text) {}
+    explicit PackReader(StringView text) : rest_(text) {}
 
     std::vector<Variant> list()
     {
         const auto count = required(exactCount(take(u';')));
         if (count > rest_.size() / ShortestValue) {
-            raiseDamaged();
+            raiseDamagedPack();
         }
         std::vector<Variant> values;
         values.reserve(count);
@@ -163,7 +158,7 @@ public:
             }
         }
         if (!rest_.empty()) {
-            raiseDamaged();
+            raiseDamagedPack();
         }
         return values;
     }
@@ -171,10 +166,10 @@ public:
     const std::vector<PackedRecord>& records() const { return records_; }
 
 private:
-    Reader(StringView text, int nesting) : rest_(text), nesting_(nesting)
+    PackReader(StringView text, int nesting) : rest_(text), nesting_(nesting)
     {
         if (nesting > CoreValuePacker::MaxNesting) {
-            raiseDamaged();
+            raiseDamagedPack();
         }
     }
 
@@ -182,7 +177,7 @@ private:
     {
         const std::size_t length = rest_.find(end);
         if (length == StringView::npos) {
-            raiseDamaged();
+            raiseDamagedPack();
         }
         const StringView taken = rest_.substr(0, length);
         rest_.remove_prefix(length + 1);
@@ -192,50 +187,50 @@ private:
     Variant value()
     {
         if (rest_.empty()) {
-            raiseDamaged();
+            raiseDamagedPack();
         }
-        const auto tag = static_cast<Tag>(rest_.front());
+        const auto tag = static_cast<ValueTag>(rest_.front());
         rest_.remove_prefix(1);
         const auto length = required(exactCount(take(u'=')));
         if (length >= rest_.size() || rest_[length] != u';') {
-            raiseDamaged();
+            raiseDamagedPack();
         }
         const StringView content = rest_.substr(0, length);
         rest_.remove_prefix(std::size_t{length} + 1);
         return valueOf(tag, content);
     }
 
-    Variant valueOf(Tag tag, StringView content)
+    Variant valueOf(ValueTag tag, StringView content)
     {
         switch (tag) {
-        case Tag::Empty:
-        case Tag::NoObject:
+        case ValueTag::Empty:
+        case ValueTag::NoObject:
             if (!content.empty()) {
-                raiseDamaged();
+                raiseDamagedPack();
             }
-            return tag == Tag::Empty ? Variant() : Variant(ObjectPtr());
-        case Tag::Boolean:
+            return tag == ValueTag::Empty ? Variant() : Variant(ObjectPtr());
+        case ValueTag::Boolean:
             return boolean(content);
-        case Tag::Whole:
+        case ValueTag::Whole:
             return required(exactWhole(content));
-        case Tag::Real:
+        case ValueTag::Real:
             return required(exactReal(content));
-        case Tag::Moment:
+        case ValueTag::Moment:
             return phial::Moment{required(exactReal(content))};
-        case Tag::Text:
+        case ValueTag::Text:
             return text(content);
-        case Tag::Array:
-            return Variant::Array(Reader(content, nesting_ + 1).list());
-        case Tag::Record:
+        case ValueTag::Array:
+            return Variant::Array(PackReader(content, nesting_ + 1).list());
+        case ValueTag::Record:
             return record(content);
         }
-        raiseTypeMismatch();
+        throw RuntimeError(ErrorNumber::TypeMismatch);
     }
 
     static bool boolean(StringView content)
     {
         if (content != u"-1" && content != u"0") {
-            raiseDamaged();
+            raiseDamagedPack();
         }
         return content == u"-1";
     }
@@ -244,7 +239,7 @@ private:
     {
         auto text = unescapedText(content);
         if (!text) {
-            raiseDamaged();
+            raiseDamagedPack();
         }
         return *std::move(text);
     }
@@ -253,11 +248,11 @@ private:
     Variant record(StringView content)
     {
         if (nesting_ > 0) {
-            raiseTypeMismatch(); // no target holds a record that could be filled
+            throw RuntimeError(ErrorNumber::TypeMismatch); // no target holds a record that could be filled
         }
-        const std::vector<Variant> parts = Reader(content, nesting_ + 1).list();
+        const std::vector<Variant> parts = PackReader(content, nesting_ + 1).list();
         if (parts.size() != 2 || !parts[0].isText() || !parts[1].isText()) {
-            raiseDamaged();
+            raiseDamagedPack();
         }
         record_ = PackedRecord{0, parts[0].text(), parts[1].text()};
         return ObjectPtr();
@@ -270,19 +265,19 @@ private:
 };
 
 /// A reader behind the head of a packed text.
-Reader readerOf(StringView text)
+PackReader readerOf(StringView text)
 {
     if (text.size() > CoreValuePacker::MaxLength || !CoreValuePacker::isPacked(text)) {
-        raiseDamaged();
+        raiseDamagedPack();
     }
-    return Reader(text.substr(Head.size()));
+    return PackReader(text.substr(PackHead.size()));
 }
 
 } // namespace
 
 String CoreValuePacker::Pack(std::span<const Variant> pValues)
 {
-    return String(Head) + Writer(0).list(pValues);
+    return String(PackHead) + Writer(0).list(pValues);
 }
 
 String CoreValuePacker::Pack(std::initializer_list<Variant> pValues)
@@ -292,16 +287,16 @@ String CoreValuePacker::Pack(std::initializer_list<Variant> pValues)
 
 void CoreValuePacker::Unpack(StringView pText, std::span<const Target> pTargets)
 {
-    Reader reader = readerOf(pText);
+    PackReader reader = readerOf(pText);
     std::vector<Variant> values = reader.list();
     if (values.size() != pTargets.size()) {
-        raiseDamaged();
+        raiseDamagedPack();
     }
     for (const PackedRecord& packed : reader.records()) {
         Variant& target = pTargets[packed.position];
         tmp_Data* record = recordIn(target);
         if (record == nullptr || record->DATA()->ClassTag() != packed.classTag) {
-            raiseTypeMismatch();
+            throw RuntimeError(ErrorNumber::TypeMismatch);
         }
         values[packed.position] = target;
     }
@@ -320,15 +315,15 @@ void CoreValuePacker::Unpack(StringView pText, std::initializer_list<Target> pTa
 
 bool CoreValuePacker::isPacked(StringView text)
 {
-    return text.starts_with(Head);
+    return text.starts_with(PackHead);
 }
 
 std::vector<Variant> CoreValuePacker::unpackAll(StringView text)
 {
-    Reader reader = readerOf(text);
+    PackReader reader = readerOf(text);
     std::vector<Variant> values = reader.list();
     if (!reader.records().empty()) {
-        raiseTypeMismatch();
+        throw RuntimeError(ErrorNumber::TypeMismatch);
     }
     return values;
 }

@@ -13,26 +13,16 @@ namespace
 constexpr char16_t EscapeSign = u'%';
 constexpr std::size_t EscapeDigits = 4;
 
-bool isHighHalf(char16_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-bool isLowHalf(char16_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
 /// Whether a unit, unless it is half of a surrogate pair, cannot stand in a line.
 bool breaksLine(char16_t unit)
 {
     const bool control = unit < 0x20 || (unit >= 0x7F && unit <= 0x9F) || unit == 0x2028 || unit == 0x2029;
-    return control || isHighHalf(unit) || isLowHalf(unit);
+    return control || isHighSurrogate(unit) || isLowSurrogate(unit);
 }
 
 bool isPairAt(StringView text, std::size_t at)
 {
-    return isHighHalf(text[at]) && at + 1 < text.size() && isLowHalf(text[at + 1]);
+    return isHighSurrogate(text[at]) && at + 1 < text.size() && isLowSurrogate(text[at + 1]);
 }
 
 void appendDigits(String& out, char16_t unit)

@@ -99,11 +99,6 @@ struct Notation {
     bool lettersInExponent = false;
 };
 
-bool isDigit(char16_t unit)
-{
-    return unit >= u'0' && unit <= u'9';
-}
-
 /// Reads the number at a text's beginning and puts it into the form that std::from_chars reads.
 class NumberReader
 {

@@ -31,7 +31,7 @@ constexpr StringView EntryEnds = u";\r\n";
 constexpr StringView BetweenEntries = u" \t;\r\n";
 constexpr StringView WordEnds = u" \t;\r\n,]";
 
-[[noreturn]] void raiseDamaged()
+[[noreturn]] void raiseDamagedParameters()
 {
     throw RuntimeError(ErrorNumber::InvalidArgument, u"Invalid argument: no text of parameters");
 }
@@ -132,10 +132,10 @@ String valueText(const Variant& value, int nesting)
 }
 
 /// Reads entries one after the other.
-class Reader
+class ParameterReader
 {
 public:
-    explicit Reader(StringView text) : rest_(text) {}
+    explicit ParameterReader(StringView text) : rest_(text) {}
 
     CoreParameters parameters()
     {
@@ -146,7 +146,7 @@ public:
             parameters.Set(entryName, value(0));
             skip(Blanks);
             if (!rest_.empty() && EntryEnds.find(rest_.front()) == StringView::npos) {
-                raiseDamaged();
+                raiseDamagedParameters();
             }
         }
         return parameters;
@@ -173,7 +173,7 @@ private:
     void require(char16_t sign)
     {
         if (!take(sign)) {
-            raiseDamaged();
+            raiseDamagedParameters();
         }
     }
 
@@ -188,7 +188,7 @@ private:
     {
         auto text = takeQuotedText(rest_);
         if (!text) {
-            raiseDamaged();
+            raiseDamagedParameters();
         }
         return *std::move(text);
     }
@@ -201,7 +201,7 @@ private:
         const auto end = std::ranges::find_if_not(rest_, isNameUnit);
         const StringView bare = takeUnits(static_cast<std::size_t>(end - rest_.begin()));
         if (bare.empty()) {
-            raiseDamaged();
+            raiseDamagedParameters();
         }
         return String(bare);
     }
@@ -260,7 +260,7 @@ private:
         const bool days = text.starts_with(DaysSign);
         const auto number = exactReal(days ? text.substr(1) : text);
         if (!number) {
-            raiseDamaged();
+            raiseDamagedParameters();
         }
         return days ? Variant(Moment{*number}) : Variant(*number);
     }
@@ -279,9 +279,9 @@ String parameterText(StringView name, const Variant& value)
 CoreParameters parametersOfText(StringView text)
 {
     if (text.size() > CoreValuePacker::MaxLength) {
-        raiseDamaged();
+        raiseDamagedParameters();
     }
-    return Reader(text).parameters();
+    return ParameterReader(text).parameters();
 }
 
 } // namespace phial

@@ -24,7 +24,7 @@ constexpr std::size_t ChecksumAt = 16;
 constexpr std::size_t HeadSize = 20;
 
 /// The byte before a value.
-enum class Tag : std::uint8_t {
+enum class RecordTag : std::uint8_t {
     Empty = 0,
     False = 1,
     True = 2,
@@ -39,7 +39,7 @@ enum class Tag : std::uint8_t {
 
 constexpr char16_t LastNarrowUnit = 0xFF;
 
-[[noreturn]] void raiseDamaged()
+[[noreturn]] void raiseDamagedRecord()
 {
     throw RuntimeError(ErrorNumber::InvalidArgument, u"Invalid argument: no record values");
 }
@@ -83,85 +83,85 @@ bool isNarrow(StringView text)
 }
 
 /// Takes values from the front of a body.
-class Reader
+class RecordReader
 {
 public:
-    explicit Reader(std::string_view body) : rest_(body) {}
+    explicit RecordReader(std::string_view body) : rest_(body) {}
 
     bool atEnd() const { return rest_.empty(); }
 
     Variant value(int nesting)
     {
         countValue();
-        switch (static_cast<Tag>(number<std::uint8_t>())) {
-        case Tag::Empty:
+        switch (static_cast<RecordTag>(number<std::uint8_t>())) {
+        case RecordTag::Empty:
             return {};
-        case Tag::False:
+        case RecordTag::False:
             return Variant(false);
-        case Tag::True:
+        case RecordTag::True:
             return Variant(true);
-        case Tag::Whole:
+        case RecordTag::Whole:
             return std::bit_cast<std::int32_t>(number<std::uint32_t>());
-        case Tag::Real:
+        case RecordTag::Real:
             return std::bit_cast<double>(number<std::uint64_t>());
-        case Tag::Moment:
+        case RecordTag::Moment:
             return Moment{std::bit_cast<double>(number<std::uint64_t>())};
-        case Tag::NarrowText:
+        case RecordTag::NarrowText:
             return narrowText();
-        case Tag::WideText:
+        case RecordTag::WideText:
             return wideText();
-        case Tag::Array:
+        case RecordTag::Array:
             return array(nesting + 1);
-        case Tag::NoObject:
+        case RecordTag::NoObject:
             return ObjectPtr();
         }
-        raiseDamaged();
+        raiseDamagedRecord();
     }
 
     /// Checks a value and passes over it.
     void skip(int nesting)
     {
         countValue();
-        switch (static_cast<Tag>(number<std::uint8_t>())) {
-        case Tag::Empty:
-        case Tag::False:
-        case Tag::True:
-        case Tag::NoObject:
+        switch (static_cast<RecordTag>(number<std::uint8_t>())) {
+        case RecordTag::Empty:
+        case RecordTag::False:
+        case RecordTag::True:
+        case RecordTag::NoObject:
             return;
-        case Tag::Whole:
+        case RecordTag::Whole:
             take(sizeof(std::uint32_t));
             return;
-        case Tag::Real:
-        case Tag::Moment:
+        case RecordTag::Real:
+        case RecordTag::Moment:
             take(sizeof(std::uint64_t));
             return;
-        case Tag::NarrowText:
+        case RecordTag::NarrowText:
             take(number<std::uint32_t>());
             return;
-        case Tag::WideText:
+        case RecordTag::WideText:
             wideText();
             return;
-        case Tag::Array:
+        case RecordTag::Array:
             for (std::uint32_t items = arrayCount(nesting + 1); items > 0; --items) {
                 skip(nesting + 1);
             }
             return;
         }
-        raiseDamaged();
+        raiseDamagedRecord();
     }
 
 private:
     void countValue()
     {
         if (++values_ > record_format::MaxValues) {
-            raiseDamaged();
+            raiseDamagedRecord();
         }
     }
 
     std::string_view take(std::size_t count)
     {
         if (count > rest_.size()) {
-            raiseDamaged();
+            raiseDamagedRecord();
         }
         const std::string_view bytes = rest_.substr(0, count);
         rest_.remove_prefix(count);
@@ -191,7 +191,7 @@ private:
             text[at] = numberAt<std::uint16_t>(bytes, 2 * at);
         }
         if (isNarrow(text)) {
-            raiseDamaged();
+            raiseDamagedRecord();
         }
         return text;
     }
@@ -200,7 +200,7 @@ private:
     {
         const auto count = number<std::uint32_t>();
         if (nesting > record_format::MaxNesting || count > rest_.size()) {
-            raiseDamaged();
+            raiseDamagedRecord();
         }
         return count;
     }
@@ -256,7 +256,7 @@ Frame record_format::frameOf(std::string_view bytes) noexcept
 std::vector<Variant> record_format::valuesOf(std::string_view body)
 {
     std::vector<Variant> values;
-    Reader reader(body);
+    RecordReader reader(body);
     while (!reader.atEnd()) {
         values.push_back(reader.value(0));
     }
@@ -265,7 +265,7 @@ std::vector<Variant> record_format::valuesOf(std::string_view body)
 
 Variant record_format::firstValueOf(std::string_view body)
 {
-    Reader reader(body);
+    RecordReader reader(body);
     Variant first = reader.atEnd() ? Variant() : reader.value(0);
     while (!reader.atEnd()) {
         reader.skip(0);
@@ -283,35 +283,35 @@ void RecordWriter::write(const Variant& value)
 
 void RecordWriter::write(const Variant& value, int nesting)
 {
-    const auto begin = [&](Tag tag) { body_ += static_cast<char>(tag); };
+    const auto begin = [&](RecordTag tag) { body_ += static_cast<char>(tag); };
     if (++values_ > record_format::MaxValues || body_.size() > record_format::MaxBytes) {
         raiseTooLarge();
     }
     switch (value.kind()) {
     case Variant::Kind::Empty:
-        return begin(Tag::Empty);
+        return begin(RecordTag::Empty);
     case Variant::Kind::Boolean:
-        return begin(value.toBoolean() ? Tag::True : Tag::False);
+        return begin(value.toBoolean() ? RecordTag::True : RecordTag::False);
     case Variant::Kind::Whole:
-        begin(Tag::Whole);
+        begin(RecordTag::Whole);
         return append(body_, std::bit_cast<std::uint32_t>(value.toWhole()));
     case Variant::Kind::Real:
-        begin(Tag::Real);
+        begin(RecordTag::Real);
         return append(body_, std::bit_cast<std::uint64_t>(value.toReal()));
     case Variant::Kind::Moment:
-        begin(Tag::Moment);
+        begin(RecordTag::Moment);
         return append(body_, std::bit_cast<std::uint64_t>(value.toMoment().days));
     case Variant::Kind::Text:
-        begin(isNarrow(value.text()) ? Tag::NarrowText : Tag::WideText);
+        begin(isNarrow(value.text()) ? RecordTag::NarrowText : RecordTag::WideText);
         return text(value.text());
     case Variant::Kind::Array:
-        begin(Tag::Array);
+        begin(RecordTag::Array);
         return array(value.array(), nesting + 1);
     case Variant::Kind::Object:
         if (value.object()) {
             throw RuntimeError(ErrorNumber::TypeMismatch);
         }
-        return begin(Tag::NoObject);
+        return begin(RecordTag::NoObject);
     }
 }
 

@@ -18,7 +18,7 @@ constexpr StringView BooleanTag = u"boolean:";
 constexpr StringView ListTag = u"list:";
 
 constexpr char16_t ItemSign = u'|';
-constexpr StringView AlsoEscaped = u"|";
+constexpr StringView EscapedInSettings = u"|";
 constexpr StringView AlsoEscapedInKeys = u"|/";
 
 std::optional<Variant> decodeNumber(StringView encoded)
@@ -60,7 +60,7 @@ String listLine(const Variant::Array& items)
     String line(ListTag);
     for (const Variant& item : items) {
         line += ItemSign;
-        line += escapedText(item.text(), AlsoEscaped);
+        line += escapedText(item.text(), EscapedInSettings);
     }
     return line;
 }
@@ -84,7 +84,7 @@ String encodeSetting(const Variant& value)
         break;
     }
     String line(TextTag);
-    line += escapedText(value.text(), AlsoEscaped);
+    line += escapedText(value.text(), EscapedInSettings);
     return line;
 }
 

@@ -13,16 +13,6 @@ namespace
 
 constexpr char16_t Replacement = 0xFFFD;
 
-bool isHighSurrogate(char32_t code)
-{
-    return code >= 0xD800 && code <= 0xDBFF;
-}
-
-bool isLowSurrogate(char32_t code)
-{
-    return code >= 0xDC00 && code <= 0xDFFF;
-}
-
 /// A well-formed sequence at the beginning of some bytes; length 0 when there is none.
 struct Sequence {
     char32_t code = 0;

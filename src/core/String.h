@@ -11,6 +11,22 @@ namespace phial
 using String = std::u16string;
 using StringView = std::u16string_view;
 
+/// Halves of a pair that stands for one character beyond U+FFFF.
+constexpr bool isHighSurrogate(char32_t code)
+{
+    return code >= 0xD800 && code <= 0xDBFF;
+}
+constexpr bool isLowSurrogate(char32_t code)
+{
+    return code >= 0xDC00 && code <= 0xDFFF;
+}
+
+/// One of the ten signs 0 to 9.
+constexpr bool isDigit(char16_t unit)
+{
+    return unit >= u'0' && unit <= u'9';
+}
+
 /// UTF-8 to text. Ill-formed bytes become U+FFFD each; a surrogate half encoded in three bytes comes back as
 /// that half, so that `fromUtf8(toUtf8(text)) == text` holds for every text.
 String fromUtf8(std::string_view bytes);

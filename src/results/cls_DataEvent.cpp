@@ -14,9 +14,9 @@ namespace phial
 namespace
 {
 
-constexpr StringView StoredVersion = u"2.0";
+constexpr StringView EventVersion = u"2.0";
 
-constexpr Member Table[] = {
+constexpr Member EventMembers[] = {
     members::textProperty<cls_DataEvent, &cls_DataEvent::SCREENNAME, &cls_DataEvent::SCREENNAME>(
         u"SCREENNAME"),
     members::textProperty<cls_DataEvent, &cls_DataEvent::USERNAME, &cls_DataEvent::USERNAME>(u"USERNAME"),
@@ -63,7 +63,7 @@ String cls_DataEvent::TEXTLINE()
 
 MemberTable cls_DataEvent::members() const
 {
-    return Table;
+    return EventMembers;
 }
 
 bool cls_DataEvent::DataCopy(tmp_Data& pSource)
@@ -104,7 +104,7 @@ void cls_DataEvent::DataUnpack(StringView pText)
 
 void cls_DataEvent::DataStore(CoreDataStream& pStream)
 {
-    pStream.Write(StoredVersion, data_.get()->ID(), screenName_, userName_, computer_, action_, timeStamp_,
+    pStream.Write(EventVersion, data_.get()->ID(), screenName_, userName_, computer_, action_, timeStamp_,
                   ADDITIONAL()->Pack());
 }
 
@@ -112,7 +112,7 @@ void cls_DataEvent::DataRead(CoreDataStream& pStream)
 {
     String version;
     pStream.Read(version);
-    if (upperCase(version) != StoredVersion) {
+    if (upperCase(version) != EventVersion) {
         return;
     }
     data_.get()->ID(pStream.ReadValue());

@@ -18,13 +18,13 @@ namespace phial
 namespace
 {
 
-constexpr StringView StoredVersion = u"2.0";
+constexpr StringView EventsVersion = u"2.0";
 
 // The lines have no running number, so that each title stands one column to the right.
-constexpr std::array<StringView, 8> TextTitles = {u"LfdNr.", u"Name", u"Login",  u"Computer",
+constexpr std::array<StringView, 8> EventTitles = {u"LfdNr.", u"Name", u"Login",  u"Computer",
                                                   u"Datum",  u"Zeit", u"Aktion", u"Zusatz"};
 
-constexpr std::array<ListColumn, 7> PrintedColumns = {{
+constexpr std::array<ListColumn, 7> EventColumns = {{
     {0, u"Lfd.Nr."},
     {0.05, u"Name"},
     {0.25, u"Login"},
@@ -47,7 +47,7 @@ std::vector<String> printedRow(std::int32_t position, cls_DataEvent& event)
     };
 }
 
-constexpr Member Table[] = {
+constexpr Member EventsMembers[] = {
     members::readOnly<cls_DataEvents, std::int32_t, &cls_DataEvents::COUNT>(u"COUNT"),
 };
 
@@ -120,7 +120,7 @@ void cls_DataEvents::DEBUGSHOW()
 
 String cls_DataEvents::TEXT()
 {
-    String text = headerLine(TextTitles);
+    String text = headerLine(EventTitles);
     entries_.forEach([&](cls_DataEvent& event) { text += event.TEXTLINE() + u"\r\n"; });
     return text;
 }
@@ -132,13 +132,13 @@ bool cls_DataEvents::EXPORT(StringView pFile)
 
 void cls_DataEvents::PRINTOUT(StringView pName)
 {
-    printList(pName, PrintedColumns, entries_.count(),
+    printList(pName, EventColumns, entries_.count(),
               [&](std::int32_t position) { return printedRow(position, *entries_.at(position)); });
 }
 
 MemberTable cls_DataEvents::members() const
 {
-    return Table;
+    return EventsMembers;
 }
 
 bool cls_DataEvents::DataCopy(tmp_Data& pSource)
@@ -168,7 +168,7 @@ void cls_DataEvents::DataUnpack(StringView pText)
 
 void cls_DataEvents::DataStore(CoreDataStream& pStream)
 {
-    pStream.Write(StoredVersion, data_.get()->ID());
+    pStream.Write(EventsVersion, data_.get()->ID());
     entries_.store(pStream);
 }
 
@@ -176,7 +176,7 @@ void cls_DataEvents::DataRead(CoreDataStream& pStream)
 {
     String version;
     pStream.Read(version);
-    if (upperCase(version) != StoredVersion) {
+    if (upperCase(version) != EventsVersion) {
         return;
     }
     data_.get()->ID(pStream.ReadValue());

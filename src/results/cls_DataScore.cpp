@@ -15,10 +15,10 @@ namespace phial
 namespace
 {
 
-constexpr StringView StoredVersion = u"2.5";
+constexpr StringView ScoreVersion = u"2.5";
 constexpr StringView VersionWithoutExercise = u"2.0";
 
-constexpr Member Table[] = {
+constexpr Member ScoreMembers[] = {
     {u"ID", [](Object& object) { return Variant(static_cast<cls_DataScore&>(object).ID()); },
      [](Object& object, const Variant& value) { static_cast<cls_DataScore&>(object).ID(value.toText()); }},
     members::property<cls_DataScore, double, &cls_DataScore::POINTS, &cls_DataScore::POINTS>(u"POINTS"),
@@ -90,7 +90,7 @@ String cls_DataScore::TEXTLINE()
 
 MemberTable cls_DataScore::members() const
 {
-    return Table;
+    return ScoreMembers;
 }
 
 bool cls_DataScore::DataCopy(tmp_Data& pSource)
@@ -138,7 +138,7 @@ void cls_DataScore::DataUnpack(StringView pText)
 
 void cls_DataScore::DataStore(CoreDataStream& pStream)
 {
-    pStream.Write(StoredVersion, data_.get()->ID(), rank_, screenName_, userName_, computer_, uebm_, points_,
+    pStream.Write(ScoreVersion, data_.get()->ID(), rank_, screenName_, userName_, computer_, uebm_, points_,
                   pointsMax_, timeStamp_, ADDITIONAL()->Pack());
 }
 
@@ -147,7 +147,7 @@ void cls_DataScore::DataRead(CoreDataStream& pStream)
     String version;
     pStream.Read(version);
     version = upperCase(version);
-    if (version != StoredVersion && version != VersionWithoutExercise) {
+    if (version != ScoreVersion && version != VersionWithoutExercise) {
         return;
     }
     data_.get()->ID(pStream.ReadValue());

@@ -23,19 +23,19 @@ namespace phial
 namespace
 {
 
-constexpr StringView StoredVersion = u"2.0";
-constexpr StringView Separator = u"{NEXT_ITEM}";
+constexpr StringView ScoresVersion = u"2.0";
+constexpr StringView ItemSeparator = u"{NEXT_ITEM}";
 
 constexpr std::int32_t NoRank = -1;
 constexpr std::int32_t LimitOfTheList = -1;
 
 // One title more than a line has fields: titles behind "Punkte" stand one column to the right.
-constexpr std::array<StringView, 11> TextTitles = {u"Rang",  u"Name",      u"Login", u"Computer",
+constexpr std::array<StringView, 11> ScoreTitles = {u"Rang",  u"Name",      u"Login", u"Computer",
                                                    u"Datum", u"Zeit",      u"Score", u"Punkte",
                                                    u"Note",  u"Notentext", u"Zusatz"};
 
 // "Score" stands where "Punkte" would end.
-constexpr std::array<ListColumn, 9> PrintedColumns = {{
+constexpr std::array<ListColumn, 9> ScoreColumns = {{
     {0, u"Rang"},
     {0.05, u"Name"},
     {0.25, u"Login"},
@@ -62,7 +62,7 @@ std::vector<String> printedRow(cls_DataScore& score)
     };
 }
 
-constexpr Member Table[] = {
+constexpr Member ScoresMembers[] = {
     members::property<cls_DataScores, enm_ScoreListMode, &cls_DataScores::MODE, &cls_DataScores::MODE>(
         u"MODE"),
     members::property<cls_DataScores, std::int32_t, &cls_DataScores::MAXIMUM, &cls_DataScores::MAXIMUM>(
@@ -211,7 +211,7 @@ void cls_DataScores::DEBUGSHOW()
 
 String cls_DataScores::TEXT()
 {
-    String text = headerLine(TextTitles);
+    String text = headerLine(ScoreTitles);
     entries_.forEach([&](cls_DataScore& score) { text += score.TEXTLINE() + u"\r\n"; });
     return text;
 }
@@ -223,13 +223,13 @@ bool cls_DataScores::EXPORT(StringView pFile)
 
 void cls_DataScores::PRINTOUT(StringView pName)
 {
-    printList(pName, PrintedColumns, entries_.count(),
+    printList(pName, ScoreColumns, entries_.count(),
               [&](std::int32_t position) { return printedRow(*entries_.at(position)); });
 }
 
 MemberTable cls_DataScores::members() const
 {
-    return Table;
+    return ScoresMembers;
 }
 
 bool cls_DataScores::DataCopy(tmp_Data& pSource)
@@ -251,7 +251,7 @@ String cls_DataScores::DataPACK()
 {
     String items;
     for (const String& item : entries_.packed()) {
-        items += items.empty() ? StringView() : Separator;
+        items += items.empty() ? StringView() : ItemSeparator;
         items += item;
     }
     return CoreValuePacker::Pack(
@@ -267,7 +267,7 @@ void cls_DataScores::DataUnpack(StringView pText)
     Variant mode;
     Variant items;
     CoreValuePacker::Unpack(pText, {id, maximum, once, live, mode, items});
-    entries_.unpack(CoreCmdParser::Split(items.toText(), Separator));
+    entries_.unpack(CoreCmdParser::Split(items.toText(), ItemSeparator));
     maximum_ = maximum.toWhole();
     once_ = once.toBoolean();
     live_ = live.toBoolean();
@@ -277,7 +277,7 @@ void cls_DataScores::DataUnpack(StringView pText)
 
 void cls_DataScores::DataStore(CoreDataStream& pStream)
 {
-    pStream.Write(StoredVersion, data_.get()->ID(), maximum_, once_, live_, static_cast<std::int32_t>(mode_));
+    pStream.Write(ScoresVersion, data_.get()->ID(), maximum_, once_, live_, static_cast<std::int32_t>(mode_));
     entries_.store(pStream);
 }
 
@@ -285,7 +285,7 @@ void cls_DataScores::DataRead(CoreDataStream& pStream)
 {
     String version;
     pStream.Read(version);
-    if (upperCase(version) != StoredVersion) {
+    if (upperCase(version) != ScoresVersion) {
         return;
     }
     data_.get()->ID(pStream.ReadValue());

@@ -9,13 +9,13 @@ namespace
 {
 
 // Three letters and the version; what follows is the text.
-constexpr std::string_view Head = "QVA\1";
+constexpr std::string_view AnnouncementHead = "QVA\1";
 
 } // namespace
 
 std::string encodeAnnouncement(const Announcement& announcement)
 {
-    std::string bytes(Head);
+    std::string bytes(AnnouncementHead);
     bytes += toUtf8(announcement.settings);
     if (bytes.size() > MaxAnnouncementBytes) {
         throw RuntimeError(ErrorNumber::InvalidArgument, u"The settings are too long to be announced");
@@ -25,10 +25,10 @@ std::string encodeAnnouncement(const Announcement& announcement)
 
 std::optional<Announcement> decodeAnnouncement(std::string_view datagram)
 {
-    if (datagram.size() > MaxAnnouncementBytes || !datagram.starts_with(Head)) {
+    if (datagram.size() > MaxAnnouncementBytes || !datagram.starts_with(AnnouncementHead)) {
         return std::nullopt;
     }
-    return Announcement{fromUtf8(datagram.substr(Head.size()))};
+    return Announcement{fromUtf8(datagram.substr(AnnouncementHead.size()))};
 }
 
 } // namespace phial

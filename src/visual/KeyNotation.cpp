@@ -40,7 +40,7 @@ constexpr auto NamedKeys = std::to_array<NamedKey>({
 
 constexpr std::size_t GreatestCount = 1000;
 
-[[noreturn]] void refuse()
+[[noreturn]] void refuseNotation()
 {
     throw RuntimeError(ErrorNumber::InvalidArgument);
 }
@@ -70,11 +70,11 @@ std::size_t readCount(StringView digits)
     std::size_t count = 0;
     for (const char16_t digit : digits) {
         if (digit < u'0' || digit > u'9') {
-            refuse();
+            refuseNotation();
         }
         count = count * 10 + static_cast<std::size_t>(digit - u'0');
         if (count > GreatestCount) {
-            refuse();
+            refuseNotation();
         }
     }
     return count;
@@ -93,7 +93,7 @@ public:
             readSign();
         }
         if (!groups_.empty()) {
-            refuse();
+            refuseNotation();
         }
         return std::move(strokes_);
     }
@@ -125,7 +125,7 @@ private:
             readBrace();
             break;
         case u'}':
-            refuse();
+            refuseNotation();
         case u'~':
         case u'\r':
             strike({0, Key::Return, 0});
@@ -144,7 +144,7 @@ private:
     void endGroup()
     {
         if (groups_.empty()) {
-            refuse();
+            refuseNotation();
         }
         held_ = groups_.back();
         groups_.pop_back();
@@ -155,7 +155,7 @@ private:
     {
         const auto end = rest_.find(u'}', 1);
         if (end == StringView::npos) {
-            refuse();
+            refuseNotation();
         }
         StringView inside = rest_.substr(0, end);
         rest_.remove_prefix(end + 1);
@@ -186,7 +186,7 @@ private:
         if (const auto function = functionKey(name)) {
             return {0, *function, 0};
         }
-        refuse();
+        refuseNotation();
     }
 
     void strike(KeyStroke stroke)

@@ -12,20 +12,20 @@ namespace
 constexpr double SmallSize = 0.75;   // of raised and lowered text, by the font's size
 constexpr double LoweredShare = 0.3; // of the line's height, from the line's top
 
-enum class Tag : std::int32_t { LineEnd, Bold, Italic, Lowered, Raised };
+enum class MarkupTag : std::int32_t { LineEnd, Bold, Italic, Lowered, Raised };
 
 struct TagName {
     StringView name;
-    Tag tag;
+    MarkupTag tag;
 };
 
 constexpr auto TagNames = std::to_array<TagName>({
-    {u"br", Tag::LineEnd},
-    {u"br/", Tag::LineEnd},
-    {u"b", Tag::Bold},
-    {u"i", Tag::Italic},
-    {u"sub", Tag::Lowered},
-    {u"sup", Tag::Raised},
+    {u"br", MarkupTag::LineEnd},
+    {u"br/", MarkupTag::LineEnd},
+    {u"b", MarkupTag::Bold},
+    {u"i", MarkupTag::Italic},
+    {u"sub", MarkupTag::Lowered},
+    {u"sup", MarkupTag::Raised},
 });
 
 /// Reads markup into runs: a run goes on as long as its look does.
@@ -78,7 +78,7 @@ private:
             return false;
         }
         rest_.remove_prefix(end + 1);
-        if (known->tag == Tag::LineEnd) {
+        if (known->tag == MarkupTag::LineEnd) {
             endRun(true);
         } else {
             endRun(false);
@@ -87,7 +87,7 @@ private:
         return true;
     }
 
-    void close(Tag tag)
+    void close(MarkupTag tag)
     {
         const auto last = std::ranges::find(open_.rbegin(), open_.rend(), tag);
         if (last != open_.rend()) {
@@ -101,17 +101,17 @@ private:
             return;
         }
         MarkupRun run{std::exchange(text_, {}), false, false, 0, lineEnd};
-        for (const Tag tag : open_) {
-            run.bold = run.bold || tag == Tag::Bold;
-            run.italic = run.italic || tag == Tag::Italic;
-            run.level = tag == Tag::Lowered ? -1 : tag == Tag::Raised ? 1 : run.level;
+        for (const MarkupTag tag : open_) {
+            run.bold = run.bold || tag == MarkupTag::Bold;
+            run.italic = run.italic || tag == MarkupTag::Italic;
+            run.level = tag == MarkupTag::Lowered ? -1 : tag == MarkupTag::Raised ? 1 : run.level;
         }
         runs_.push_back(std::move(run));
     }
 
     StringView rest_;
     TextForm form_;
-    std::vector<Tag> open_;
+    std::vector<MarkupTag> open_;
     String text_;
     std::vector<MarkupRun> runs_;
 };
@@ -253,7 +253,7 @@ private:
     /// The length, with the second half of a pair of units if it would be parted.
     static std::size_t wholeLetters(StringView text, std::size_t length)
     {
-        const bool parts = length < text.size() && text[length] >= 0xDC00 && text[length] <= 0xDFFF;
+        const bool parts = length < text.size() && isLowSurrogate(text[length]);
         return !parts ? length : length > 1 ? length - 1 : length + 1;
     }
 

@@ -7,16 +7,6 @@
 namespace phial
 {
 
-namespace
-{
-
-bool isSecondHalf(char16_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
-} // namespace
-
 String oneLine(String text)
 {
     constexpr char16_t Blank = u' ';
@@ -33,7 +23,7 @@ String fittedLine(DrawDevice& device, String text, double room)
     }
     text.resize(std::min(text.size(), MostShown));
     while (!text.empty() && device.TextWidth(text + u"\u2026") > room) {
-        const bool isPair = isSecondHalf(text.back());
+        const bool isPair = isLowSurrogate(text.back());
         text.pop_back();
         if (isPair && !text.empty()) {
             text.pop_back();

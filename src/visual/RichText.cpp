@@ -25,14 +25,9 @@ constexpr std::array<char16_t, 32> WesternSigns = {
 constexpr std::array<StringView, 9> Destinations = {
     u"fonttbl", u"colortbl", u"stylesheet", u"info", u"pict", u"header", u"footer", u"object", u"generator"};
 
-bool isLetter(char16_t c)
+bool isWordLetter(char16_t c)
 {
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
-}
-
-bool isDigit(char16_t c)
-{
-    return c >= u'0' && c <= u'9';
 }
 
 int hexValue(char16_t c)
@@ -114,12 +109,12 @@ private:
         if (at_ == document_.size()) {
             return;
         }
-        if (!isLetter(document_[at_])) {
+        if (!isWordLetter(document_[at_])) {
             readSymbol(document_[at_++]);
             return;
         }
         const std::size_t start = at_;
-        while (at_ < document_.size() && isLetter(document_[at_])) {
+        while (at_ < document_.size() && isWordLetter(document_[at_])) {
             ++at_;
         }
         const StringView word = document_.substr(start, at_ - start);

@@ -8,7 +8,7 @@
 #include "visual/VisualHost.h"
 #include "visual/ctl_CmdBar.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {

@@ -4,7 +4,7 @@
 #include "support/Texts.h"
 #include "visual/Form.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 
 namespace phial
 {

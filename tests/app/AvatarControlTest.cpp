@@ -4,7 +4,7 @@
 #include "headless/Hand.h"
 #include "visual/Form.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {

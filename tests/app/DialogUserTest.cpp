@@ -6,7 +6,7 @@
 #include "visual/Shape.h"
 #include "visual/ctl_CmdBar.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <string>
 
 namespace phial

@@ -3,9 +3,10 @@
 #include "app/UserTest.h"
 #include "app/cls_Language.h"
 #include "headless/Hand.h"
+#include "support/Places.h"
 #include "support/VisibleTexts.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <set>
 
 namespace phial
@@ -83,7 +84,7 @@ TEST_F(LibraryFormsTest, EachFormOfTheSourcesHasARow)
         listed.emplace(row.name);
     }
     std::set<String> present;
-    const std::filesystem::path sources = std::filesystem::path(PHIAL_TEST_VECTORS) / ".." / ".." / "src";
+    const std::filesystem::path sources = test::sourceFolder() / "src";
     for (const auto& file : std::filesystem::recursive_directory_iterator(sources)) {
         const std::filesystem::path name = file.path().filename();
         if (name.string().starts_with("frm_") && name.extension() == ".h") {

@@ -2,7 +2,7 @@
 #include "core/CoreValuePacker.h"
 #include "support/MemoryStream.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 namespace phial

@@ -1,6 +1,7 @@
 #include "chem/cls_DataElements.h"
 #include "core/NativePath.h"
 #include "support/HeadlessSession.h"
+#include "support/Places.h"
 #include "support/Raises.h"
 
 #include <gtest/gtest.h>
@@ -158,7 +159,7 @@ class InstalledElements : public ElementImport
 protected:
     static String installed(StringView name)
     {
-        return systemPath(PHIAL_TEST_TREE) + u"\\Resources\\data\\" + String(name);
+        return systemPath(test::treeFolder()) + u"\\Resources\\data\\" + String(name);
     }
 };
 

@@ -3,7 +3,7 @@
 #include "support/Raises.h"
 
 #include <cmath>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 #include <map>
 #include <vector>

@@ -4,6 +4,7 @@
 #include "support/CaseTable.h"
 #include "support/FormulaReference.h"
 #include "support/HeadlessSession.h"
+#include "support/Places.h"
 #include "support/Raises.h"
 
 #include <gtest/gtest.h>
@@ -40,7 +41,7 @@ String listed(const CoreTokenList& tokens)
 class Formula : public test::HeadlessSession
 {
 protected:
-    Formula() { table.IMPORT2(systemPath(PHIAL_TEST_TREE) + u"\\Resources\\data\\elements2.dat"); }
+    Formula() { table.IMPORT2(systemPath(test::treeFolder()) + u"\\Resources\\data\\elements2.dat"); }
 
     cls_DataElements table;
 };

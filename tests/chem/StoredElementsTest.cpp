@@ -3,8 +3,9 @@
 #include "core/CoreStringList.h"
 #include "core/NativePath.h"
 #include "support/HeadlessSession.h"
+#include "support/Places.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {
@@ -17,7 +18,7 @@ class StoredElements : public test::HeadlessSession
 protected:
     static String stored(StringView name)
     {
-        return systemPath(PHIAL_TEST_VECTORS) + u"\\records\\" + String(name);
+        return systemPath(test::vectorsFolder()) + u"\\records\\" + String(name);
     }
 
     /// A record file with these values.

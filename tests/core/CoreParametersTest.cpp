@@ -2,6 +2,7 @@
 
 #include "core/CoreValuePacker.h"
 #include "core/NumberText.h"
+#include "support/OddValues.h"
 #include "support/Raises.h"
 #include "support/RandomValues.h"
 
@@ -345,19 +346,10 @@ TEST(CoreParametersTest, EveryTruncationOfTheTextIsDamageOrFewerEntries)
     }
 }
 
-Variant nested(int depth)
-{
-    Variant value = u"innermost";
-    for (int i = 0; i < depth; ++i) {
-        value = Variant::Array{value};
-    }
-    return value;
-}
-
 TEST(CoreParametersTest, ArraysNestToTheLimitInEveryForm)
 {
-    expectEveryFormComesBack(withValue(nested(CoreValuePacker::MaxNesting)));
-    const CoreParameters tooDeep = withValue(nested(CoreValuePacker::MaxNesting + 1));
+    expectEveryFormComesBack(withValue(test::nested(CoreValuePacker::MaxNesting)));
+    const CoreParameters tooDeep = withValue(test::nested(CoreValuePacker::MaxNesting + 1));
     EXPECT_RAISES(tooDeep.Pack(), InvalidArgument);
     EXPECT_RAISES(tooDeep.Text(), InvalidArgument);
     EXPECT_RAISES(tooDeep.TextLine(), InvalidArgument);
@@ -365,17 +357,9 @@ TEST(CoreParametersTest, ArraysNestToTheLimitInEveryForm)
     EXPECT_RAISES(read.Unpack(u"a = " + String(1'000'000, u'[')), InvalidArgument);
 }
 
-/// An object that is no record.
-class Something : public Object
-{
-public:
-    StringView typeName() const override { return u"Something"; }
-    MemberTable members() const override { return {}; }
-};
-
 TEST(CoreParametersTest, AnObjectIsNamedButNotRead)
 {
-    const CoreParameters parameters = withValue(ObjectPtr(std::make_shared<Something>()));
+    const CoreParameters parameters = withValue(ObjectPtr(std::make_shared<test::Something>()));
     EXPECT_EQ(parameters.TextLine(), u"before = 1; VALUE = <Something>; behind = \"end\"");
     CoreParameters read = certificate();
     EXPECT_RAISES(read.Unpack(parameters.TextLine()), TypeMismatch);

@@ -4,6 +4,7 @@
 #include "core/DataOwner.h"
 #include "core/NumberText.h"
 #include "core/tmp_Data.h"
+#include "support/OddValues.h"
 #include "support/Raises.h"
 #include "support/RandomValues.h"
 
@@ -148,20 +149,11 @@ TEST(CoreValuePackerTest, EveryListComesBack)
     }
 }
 
-Variant nested(int depth)
-{
-    Variant value = u"innermost";
-    for (int i = 0; i < depth; ++i) {
-        value = Variant::Array{value};
-    }
-    return value;
-}
-
 TEST(CoreValuePackerTest, ArraysNestToTheLimit)
 {
-    const Variant deepest = nested(CoreValuePacker::MaxNesting);
+    const Variant deepest = test::nested(CoreValuePacker::MaxNesting);
     EXPECT_EQ(roundTrip(deepest), deepest);
-    EXPECT_RAISES(CoreValuePacker::Pack({nested(CoreValuePacker::MaxNesting + 1)}), InvalidArgument);
+    EXPECT_RAISES(CoreValuePacker::Pack({test::nested(CoreValuePacker::MaxNesting + 1)}), InvalidArgument);
 }
 
 /// The packed text of empty arrays within each other.
@@ -276,14 +268,6 @@ private:
     DataHolder data_{*this};
 };
 
-/// An object that is no record.
-class Something : public Object
-{
-public:
-    StringView typeName() const override { return u"Something"; }
-    MemberTable members() const override { return {}; }
-};
-
 TEST(CoreValuePackerTest, ARecordFillsTheRecordInItsTarget)
 {
     const String packed = CoreValuePacker::Pack({u"before", ObjectPtr(std::make_shared<Score>(u"Anna|Ben"))});
@@ -318,7 +302,7 @@ TEST(CoreValuePackerTest, ARecordNeedsATargetOfItsClass)
 
 TEST(CoreValuePackerTest, OtherObjectsHaveNoTextForm)
 {
-    EXPECT_RAISES(CoreValuePacker::Pack({ObjectPtr(std::make_shared<Something>())}), TypeMismatch);
+    EXPECT_RAISES(CoreValuePacker::Pack({ObjectPtr(std::make_shared<test::Something>())}), TypeMismatch);
 }
 
 } // namespace

@@ -16,7 +16,7 @@ namespace
 {
 
 // Columns of typed_numbers.txt.
-enum Column : std::size_t { Typed, Value, Rest, ColumnCount };
+enum NumberColumn : std::size_t { Typed, Value, Rest, NumberColumnCount };
 
 class TypedNumbers : public testing::TestWithParam<test::CaseRow>
 {
@@ -41,7 +41,7 @@ TEST_P(TypedNumbers, AreReadAsWritten)
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, TypedNumbers,
-                         testing::ValuesIn(test::readCaseTable("typed_numbers.txt", ColumnCount)),
+                         testing::ValuesIn(test::readCaseTable("typed_numbers.txt", NumberColumnCount)),
                          test::caseName<testing::TestParamInfo<test::CaseRow>>);
 
 TEST(NumberTextTest, PlainTextDropsTrailingZeros)

@@ -1,12 +1,13 @@
 #include "core/RecordFormat.h"
 
 #include "core/Checksum.h"
+#include "support/OddValues.h"
 #include "support/Raises.h"
 #include "support/RandomValues.h"
 #include "support/RecordOf.h"
 
 #include <cmath>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <limits>
 
 namespace phial
@@ -24,15 +25,6 @@ using namespace std::string_view_literals;
 std::string bodyOf(const Values& values)
 {
     return test::recordOf(values).body();
-}
-
-Variant nested(int levels)
-{
-    Variant value;
-    for (; levels > 0; --levels) {
-        value = Variant::Array{value};
-    }
-    return value;
 }
 
 TEST(Checksum, HasTheValuesOfItsStandard)
@@ -132,20 +124,14 @@ TEST(RecordFormat, TheFirstValueIsGivenWhenAllAreSound)
 
 TEST(RecordFormat, AnObjectThatIsSetCannotBeWritten)
 {
-    class Flask : public Object
-    {
-    public:
-        StringView typeName() const override { return u"Flask"; }
-        MemberTable members() const override { return {}; }
-    };
-    EXPECT_RAISES(bodyOf({ObjectPtr(std::make_shared<Flask>())}), TypeMismatch);
+    EXPECT_RAISES(bodyOf({ObjectPtr(std::make_shared<test::Something>())}), TypeMismatch);
 }
 
 TEST(RecordFormat, NestingIsLimitedOnBothSides)
 {
-    const Values deepest = {nested(record_format::MaxNesting)};
+    const Values deepest = {test::nested(record_format::MaxNesting)};
     EXPECT_EQ(valuesOf(bodyOf(deepest)), deepest);
-    EXPECT_RAISES(bodyOf({nested(record_format::MaxNesting + 1)}), InvalidArgument);
+    EXPECT_RAISES(bodyOf({test::nested(record_format::MaxNesting + 1)}), InvalidArgument);
     std::string tooDeep;
     for (int level = 0; level <= record_format::MaxNesting; ++level) {
         tooDeep += "\x08\x01\0\0\0"sv;

@@ -1,5 +1,6 @@
 #include "core/Variant.h"
 
+#include "support/OddValues.h"
 #include "support/Raises.h"
 
 #include <gtest/gtest.h>
@@ -9,13 +10,6 @@ namespace phial
 {
 namespace
 {
-
-class Something : public Object
-{
-public:
-    StringView typeName() const override { return u"Something"; }
-    MemberTable members() const override { return {}; }
-};
 
 TEST(VariantTest, KindFollowsTheExactType)
 {
@@ -132,9 +126,9 @@ TEST(VariantTest, ArraysAreEqualByContentAndObjectsByIdentity)
 {
     EXPECT_EQ(Variant(Variant::Array{1, u"a"}), Variant(Variant::Array{1.0, u"a"}));
     EXPECT_NE(Variant(Variant::Array{1}), Variant(Variant::Array{1, 2}));
-    const auto one = std::make_shared<Something>();
+    const auto one = std::make_shared<test::Something>();
     EXPECT_EQ(Variant(ObjectPtr(one)), Variant(ObjectPtr(one)));
-    EXPECT_NE(Variant(ObjectPtr(one)), Variant(ObjectPtr(std::make_shared<Something>())));
+    EXPECT_NE(Variant(ObjectPtr(one)), Variant(ObjectPtr(std::make_shared<test::Something>())));
 }
 
 } // namespace

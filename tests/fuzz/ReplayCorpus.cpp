@@ -1,16 +1,18 @@
-// Runs a fuzz target without libFuzzer over every file of the folders named on the command line, so that each
+// Runs a fuzz target, the first argument, without libFuzzer over every file of the folders that follow, so that each
 // input that once broke something stays a test in every build.
 
+#include "ReplayTargets.h"
+
 #include <algorithm>
-#include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
+#include <string>
+#include <string_view>
 #include <vector>
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace
 {
@@ -41,22 +43,33 @@ Bytes contentOf(const fs::path& file)
 
 // An exception that leaves the target is a finding, as it is under libFuzzer; the input's name is printed
 // first.
-void replay(const fs::path& file)
+void replay(const ReplayTarget& target, const fs::path& file)
 {
     const Bytes content = contentOf(file);
     std::printf("%s (%zu bytes)\n", file.c_str(), content.size());
     std::fflush(stdout);
-    LLVMFuzzerTestOneInput(content.data(), content.size());
+    target.run(content.data(), content.size());
+}
+
+const ReplayTarget& targetNamed(std::string_view name)
+{
+    const auto* const found = std::find_if(std::begin(ReplayTargets), std::end(ReplayTargets),
+                                           [name](const ReplayTarget& target) { return name == target.name; });
+    if (found == std::end(ReplayTargets)) {
+        throw std::invalid_argument("there is no fuzz target " + std::string(name));
+    }
+    return *found;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 try {
+    const ReplayTarget& target = targetNamed(argc > 1 ? argv[1] : "");
     std::size_t count = 0;
-    for (int i = 1; i < argc; ++i) {
+    for (int i = 2; i < argc; ++i) {
         for (const fs::path& file : filesBelow(argv[i])) {
-            replay(file);
+            replay(target, file);
             ++count;
         }
     }

@@ -2,7 +2,7 @@
 // can be shown on a line, and the same message again changes nothing.
 
 #include "FuzzInput.h"
-#include "MemoryStore.h"
+#include "master/MemoryStore.h"
 #include "app/Session.h"
 #include "core/CoreParameters.h"
 #include "core/RuntimeError.h"

@@ -7,7 +7,7 @@
 #include "results/cls_DataScores.h"
 #include "support/AppSession.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 using namespace phial;
 using namespace phial::master;

@@ -17,9 +17,7 @@
 #include "server/cls_AppServerConfig.h"
 #include "support/AppSession.h"
 
-#include <gmock/gmock.h>
-
-#undef ACTION // gmock's macro, of which nothing here makes use
+#include <gmock/gmock-more-matchers.h>
 
 using namespace phial;
 using phial::test::MemoryStore;

@@ -6,7 +6,7 @@
 #include "core/CoreParameters.h"
 #include "support/AppSession.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <sstream>
 
 using namespace phial;

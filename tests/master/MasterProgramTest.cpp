@@ -8,7 +8,7 @@
 
 #include <QTcpServer>
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 using namespace phial;
 using phial::test::MasterProcess;

@@ -14,7 +14,7 @@
 #include <QUdpSocket>
 
 #include <deque>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <optional>
 
 using namespace phial;

@@ -1,6 +1,6 @@
 #include "master/Options.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 using namespace phial;
 using namespace phial::master;

@@ -5,7 +5,7 @@
 #include "StoreSamples.h"
 #include "support/AppSession.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 #include <limits>
 #include <memory>
 

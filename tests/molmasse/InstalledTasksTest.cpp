@@ -4,6 +4,7 @@
 #include "core/NativePath.h"
 #include "molmasse/TaskList.h"
 #include "support/HeadlessSession.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -21,7 +22,7 @@ class InstalledTasks : public test::HeadlessSession
 protected:
     InstalledTasks()
     {
-        const String tree = systemPath(PHIAL_TEST_TREE);
+        const String tree = systemPath(test::treeFolder());
         elements.IMPORT2(tree + u"\\Resources\\data\\elements2.dat");
         tasks = readTaskList(coreRoot().CoreFiles().ReadText(tree + u"\\apps\\Molmasse\\data\\formeln.txt"));
     }

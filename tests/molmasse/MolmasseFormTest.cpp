@@ -1,7 +1,7 @@
 #include "app/cls_Language.h"
 #include "molmasse/TrainerTest.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace molmasse
 {

@@ -9,9 +9,7 @@
 #include "server/cls_AppServer.h"
 #include "visual/Label.h"
 
-#include <gmock/gmock.h>
-
-#undef ACTION // of the test library, and a property of events
+#include <gmock/gmock-matchers.h>
 
 namespace molmasse
 {

@@ -8,7 +8,7 @@
 #include "results/ctl_Mark.h"
 #include "visual/Label.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace molmasse
 {

@@ -4,7 +4,7 @@
 #include "app/ctl_Avatar.h"
 #include "molmasse/TrainerTest.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace molmasse
 {

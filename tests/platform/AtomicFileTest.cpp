@@ -6,7 +6,7 @@
 #include "support/Raises.h"
 #include "support/TemporaryFolder.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 namespace phial

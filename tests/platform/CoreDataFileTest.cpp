@@ -3,7 +3,7 @@
 #include "support/HeadlessSession.h"
 #include "support/Raises.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {

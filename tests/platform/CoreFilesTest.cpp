@@ -8,7 +8,7 @@
 #include "support/Texts.h"
 
 #include <chrono>
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 
 namespace phial
 {

@@ -3,7 +3,7 @@
 #include "support/HeadlessSession.h"
 #include "support/Texts.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 
 namespace phial
 {

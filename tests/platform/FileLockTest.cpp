@@ -3,7 +3,7 @@
 #include "support/ChildProgram.h"
 #include "support/HeadlessSession.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 #include <optional>
 
 namespace phial

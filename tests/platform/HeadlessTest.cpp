@@ -5,7 +5,7 @@
 #include "support/HeadlessSession.h"
 #include "support/Raises.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 
 namespace phial::headless
 {

@@ -6,7 +6,7 @@
 #include "support/RecordOf.h"
 #include "support/TemporaryFolder.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <memory>
 
 namespace phial

@@ -10,7 +10,7 @@
 #include "support/TemporaryFolder.h"
 
 #include <functional>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <set>
 
 namespace phial

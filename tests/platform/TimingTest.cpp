@@ -3,7 +3,7 @@
 #include "core/TimerQueue.h"
 #include "support/HeadlessSession.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {

@@ -4,6 +4,7 @@
 #include "qt/base/QtText.h"
 #include "qt/desktop/SvgForm.h"
 #include "qt/desktop/SvgFormDocument.h"
+#include "support/Places.h"
 #include "support/Raises.h"
 
 #include <QFile>
@@ -24,9 +25,9 @@ protected:
     }
     std::shared_ptr<CoreFormDocument> installedCertificate()
     {
-        return loaded(PHIAL_TEST_TREE "/Resources/Forms/Urkunde.zr-frm");
+        return loaded(test::treeFolder() / "Resources" / "Forms" / "Urkunde.zr-frm");
     }
-    std::shared_ptr<CoreFormDocument> loaded(const char* file)
+    std::shared_ptr<CoreFormDocument> loaded(const std::filesystem::path& file)
     {
         auto document = newDocument();
         EXPECT_TRUE(document->Load(systemPath(file)));
@@ -76,7 +77,7 @@ QByteArray drawing(const QByteArray& content)
 
 TEST_F(CertificateFormTest, EveryTextOfTheDrawingIsAField)
 {
-    const auto document = loaded(PHIAL_TEST_DATA "/editor_form.svg");
+    const auto document = loaded(test::dataFolder() / "editor_form.svg");
     CoreFormFields& fields = document->Fields(1);
     ASSERT_EQ(fields.Count(), 2);
     EXPECT_EQ(fields.Item(1).Name(), u"text1232");
@@ -87,7 +88,7 @@ TEST_F(CertificateFormTest, EveryTextOfTheDrawingIsAField)
 
 TEST_F(CertificateFormTest, PositionsOfFieldsAndPagesCountFromOne)
 {
-    const auto document = loaded(PHIAL_TEST_DATA "/editor_form.svg");
+    const auto document = loaded(test::dataFolder() / "editor_form.svg");
     EXPECT_RAISES(document->Fields(2), IndexOutOfBounds);
     EXPECT_RAISES(document->Fields(1).Item(0), IndexOutOfBounds);
     EXPECT_RAISES(document->Fields(1).Item(3), IndexOutOfBounds);
@@ -102,7 +103,7 @@ TEST_F(CertificateFormTest, ADocumentWithoutAFormHasNoFieldsAndDoesNotPrint)
 
 TEST_F(CertificateFormTest, ATextInAFrameOfTheEditorFillsIt)
 {
-    const auto document = loaded(PHIAL_TEST_DATA "/editor_form.svg");
+    const auto document = loaded(test::dataFolder() / "editor_form.svg");
     field(*document, u"{TEXT}")
         .Text(u"Anfang und so viele weitere Worte, dass die Zeile nicht reicht und Ende");
     const PdfPages pages = printed(*document);
@@ -119,7 +120,7 @@ TEST_F(CertificateFormTest, ATextInAFrameOfTheEditorFillsIt)
 
 TEST_F(CertificateFormTest, LinesOfACentredTextStandOneBelowTheOther)
 {
-    const auto document = loaded(PHIAL_TEST_DATA "/editor_form.svg");
+    const auto document = loaded(test::dataFolder() / "editor_form.svg");
     field(*document, u"Diplom für\r\n{NAME}").Text(u"Diplom\r\nMia");
     const PdfPages pages = printed(*document);
     EXPECT_NEAR(pages.word(u"Diplom"_qs).area.center().x(), 148.5, 0.5);
@@ -225,7 +226,7 @@ TEST_F(CertificateFormTest, ADrawingThatMeansHarmDoesNotLoad)
 TEST_F(CertificateFormTest, AUserWhoDoesNotWantToPrintIsHeard)
 {
     const auto document = newSvgFormDocument([](const QString&) { return nullptr; });
-    ASSERT_TRUE(document->Load(systemPath(PHIAL_TEST_DATA "/editor_form.svg")));
+    ASSERT_TRUE(document->Load(systemPath(test::dataFolder() / "editor_form.svg")));
     EXPECT_FALSE(document->Print(1));
 }
 

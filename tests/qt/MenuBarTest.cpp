@@ -6,7 +6,7 @@
 
 #include <QMenuBar>
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial::qt
 {

@@ -1,6 +1,7 @@
 #include "qt/base/SettingsFile.h"
 
 #include "qt/base/QtSettingsStore.h"
+#include "support/Places.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -162,7 +163,7 @@ TEST_F(SettingsFileTest, AStoreThatCannotBeWrittenLastsAsLongAsTheProgram)
 
 TEST_F(SettingsFileTest, ReadsEveryStoredHostileFileWithoutHarm)
 {
-    QDir corpus(QStringLiteral(PHIAL_FUZZ_CORPUS "/settings_file"));
+    QDir corpus(test::corpusFolder() / "settings_file");
     const QStringList names = corpus.entryList(QDir::Files);
     ASSERT_FALSE(names.isEmpty());
     for (const QString& name : names) {

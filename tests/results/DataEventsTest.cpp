@@ -3,9 +3,7 @@
 #include "support/MemoryStream.h"
 #include "support/Raises.h"
 
-#include <gmock/gmock.h>
-
-#undef ACTION // gmock's macro, of which nothing here makes use
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {

@@ -2,7 +2,7 @@
 #include "support/MemoryStream.h"
 #include "support/Raises.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 namespace phial

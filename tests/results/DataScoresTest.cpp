@@ -2,7 +2,7 @@
 #include "support/Raises.h"
 
 #include <array>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <random>
 
 namespace phial

@@ -2,7 +2,7 @@
 
 #include "core/String.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>

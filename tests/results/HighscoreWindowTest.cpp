@@ -11,7 +11,7 @@
 #include "visual/ctl_Pannel.h"
 #include "visual/ctl_Title.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {

@@ -3,7 +3,7 @@
 #include "support/Raises.h"
 
 #include <fstream>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <iterator>
 
 namespace phial

@@ -3,7 +3,7 @@
 #include "support/Raises.h"
 
 #include <cstdio>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {

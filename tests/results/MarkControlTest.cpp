@@ -7,7 +7,7 @@
 #include "support/AppSession.h"
 #include "visual/Form.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <limits>
 
 namespace phial

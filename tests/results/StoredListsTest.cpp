@@ -2,10 +2,9 @@
 #include "core/NativePath.h"
 #include "results/ResultsTest.h"
 #include "results/cls_DataEvents.h"
+#include "support/Places.h"
 
-#include <gmock/gmock.h>
-
-#undef ACTION // gmock's macro, of which nothing here makes use
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {
@@ -21,7 +20,7 @@ protected:
     /// A copy of a stored file in the test's folder.
     String stored(const std::string& name) const
     {
-        std::filesystem::copy_file(std::filesystem::path(PHIAL_TEST_VECTORS) / "records" / name,
+        std::filesystem::copy_file(test::vectorsFolder() / "records" / name,
                                    folder.native() / name);
         return path(fromUtf8(name));
     }

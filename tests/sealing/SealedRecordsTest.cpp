@@ -2,11 +2,12 @@
 #include "core/Platform.h"
 #include "core/RecordFiles.h"
 #include "sealing/PasswordSeal.h"
+#include "support/Places.h"
 #include "support/Raises.h"
 #include "support/RecordOf.h"
 #include "support/TemporaryFolder.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {
@@ -47,7 +48,7 @@ TEST_F(SealedRecords, AreReadWithTheirPasswordOnly)
 
 TEST_F(SealedRecords, AreReadThoughAnEarlierProgramSealedThem)
 {
-    const std::filesystem::path stored = PHIAL_TEST_VECTORS "/records";
+    const std::filesystem::path stored = test::vectorsFolder() / "records";
     const Values values = RecordFiles(platform).read(stored / "sealed.qv-hsr", u"Schlüssel");
     EXPECT_EQ(values, RecordFiles(platform).read(stored / "items_2.5.qv-hsr", u""));
     EXPECT_EQ(values.size(), 7U + 2 * 11);

@@ -6,6 +6,7 @@
 #include "server/WireText.h"
 #include "server/cls_AppServerConfig.h"
 #include "support/AppSession.h"
+#include "support/Places.h"
 
 #include <fstream>
 #include <sstream>
@@ -21,7 +22,7 @@ namespace
 /// The page's lines that stand indented, without the indent.
 std::vector<std::string> examples()
 {
-    std::ifstream page(PHIAL_TEST_VECTORS "/../../docs/protocol.md");
+    std::ifstream page(test::sourceFolder() / "docs" / "protocol.md");
     std::vector<std::string> found;
     for (std::string line; std::getline(page, line);) {
         if (line.starts_with("    ")) {

@@ -8,14 +8,14 @@ using namespace phial;
 namespace
 {
 
-constexpr StringView Master = u"127.0.0.1:10049";
+constexpr StringView Address = u"127.0.0.1:10049";
 constexpr StringView Submission = u"RESULTS::SUBMIT::QV1;0;";
 
 class RequestIdsTest : public testing::Test
 {
 protected:
-    FrameId take(StringView text, double now = 100) { return ids_.take(Master, text, now); }
-    void unanswered(StringView text, FrameId id, double now = 100) { ids_.unanswered(Master, text, id, now); }
+    FrameId take(StringView text, double now = 100) { return ids_.take(Address, text, now); }
+    void unanswered(StringView text, FrameId id, double now = 100) { ids_.unanswered(Address, text, id, now); }
 
     RequestIds ids_{77};
 };

@@ -10,8 +10,6 @@
 #include <memory>
 #include <string>
 
-#undef ACTION // gmock's macro, of which nothing here makes use
-
 namespace phial
 {
 

@@ -13,7 +13,7 @@
 #include "support/ScriptedMaster.h"
 #include "visual/Form.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/String.h"
+#include "support/Places.h"
 
 #include <cstddef>
 #include <fstream>
@@ -64,7 +65,7 @@ inline std::vector<std::string_view> columnsOf(std::string_view line)
 /// shape.
 inline std::vector<CaseRow> readCaseTable(const std::string& fileName, std::size_t columnCount)
 {
-    std::ifstream file(std::string(PHIAL_TEST_VECTORS) + "/" + fileName);
+    std::ifstream file(vectorsFolder() / fileName);
     std::vector<CaseRow> rows;
     int number = 0;
     for (std::string line; std::getline(file, line);) {

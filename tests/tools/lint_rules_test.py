@@ -5,7 +5,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
 
-from linting import files, includes, sources, texts, words  # noqa: E402
+from linting import commits, files, includes, sources, texts, words  # noqa: E402
 
 
 class MadeUpTree(files.Tree):
@@ -34,12 +34,20 @@ class Includes(unittest.TestCase):
         self.assertEqual(self.problems("src/core/Mass.cpp", '#include "term/Term.h"\n'),
                          ['src/core/Mass.cpp:1: "term/Term.h" is not below src/core'])
 
-    def test_a_source_may_include_a_neighbouring_subsystem(self):
-        self.assertEqual(self.problems("src/chem/Mass.cpp", '#include "term/Term.h"\n'), [])
+    def test_a_source_may_include_a_subsystem_before_its_own(self):
+        self.assertEqual(self.problems("src/calc/Mass.cpp", '#include "term/Term.h"\n'), [])
 
     def test_a_header_may_not(self):
-        self.assertEqual(self.problems("src/chem/Mass.h", '#pragma once\n#include "term/Term.h"\n'),
-                         ['src/chem/Mass.h:2: "term/Term.h" is not below src/chem'])
+        self.assertEqual(self.problems("src/calc/Mass.h", '#pragma once\n#include "term/Term.h"\n'),
+                         ['src/calc/Mass.h:2: "term/Term.h" is not below src/calc'])
+
+    def test_a_source_may_not_include_a_later_subsystem(self):
+        self.assertEqual(self.problems("src/chem/Mass.cpp", '#include "term/Term.h"\n'),
+                         ['src/chem/Mass.cpp:1: "term/Term.h" is not below src/chem'])
+
+    def test_the_root_and_its_sub_objects_may_include_every_subsystem(self):
+        for path in ("src/app/cls_App.cpp", "src/app/cls_AppTools.cpp", "src/app/StartUp.cpp", "src/results/cls_AppRate.cpp"):
+            self.assertEqual(self.problems(path, '#include "term/Term.h"\n'), [], path)
 
     def test_the_adapter_without_a_display_knows_nothing_of_the_one_with_it(self):
         tree = {"src/qt/desktop/Window.h": "#pragma once\n", "src/qt/base/Clock.cpp": '#include "qt/desktop/Window.h"\n'}
@@ -75,6 +83,19 @@ class Sources(unittest.TestCase):
                 "tests/fuzz/terms.cpp": "", "tests/fuzz/masses.cpp": "", "tests/fuzz/corpus/terms/water": "H2O"}
         self.assertEqual(sources.check(MadeUpTree(tree)), [
             "tests/fuzz/CMakeLists.txt:1: fuzz target masses has no files in tests/fuzz/corpus/masses"])
+
+
+class Commits(unittest.TestCase):
+    def problems(self, subject):
+        return list(commits._problems_of(subject, {"core", "docs"}))
+
+    def test_a_sentence_behind_its_area_is_fine(self):
+        self.assertEqual(self.problems("core: read the last line of a file, too"), [])
+
+    def test_other_subjects_are_found(self):
+        for subject in ("mend the lists", "core:no blank", "core: ends with a dot.", "attic: sweep the floor",
+                        "core: " + "a" * 70):
+            self.assertEqual(len(self.problems(subject)), 1, subject)
 
 
 class Words(unittest.TestCase):

@@ -4,7 +4,7 @@
 #include "headless/RecordingBackend.h"
 #include "visual/DrawDevice.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>

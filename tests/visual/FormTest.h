@@ -9,7 +9,7 @@
 #include "visual/VisualHost.h"
 #include "visual/ctl_Button.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 #include <string>
 #include <vector>
 

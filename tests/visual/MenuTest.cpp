@@ -2,7 +2,7 @@
 
 #include "support/Raises.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial::test
 {

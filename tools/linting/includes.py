@@ -1,9 +1,12 @@
 """The direction of includes: hosts and adapter above the subsystems, these above visual, visual above core."""
+import re
 
-SUBSYSTEMS = ("app", "results", "server", "media", "chem", "term", "periodic", "calc", "mascot", "dialogs")
+# Each may use those before it. The root and its sub-objects use all of them, since they hand them out.
+SUBSYSTEMS = ("app", "chem", "term", "calc", "media", "results", "server", "mascot", "periodic", "dialogs")
+ROOTS_OWN = re.compile(r"(cls_App\w*|StartUp|Session)\.cpp$")
 SYSTEM = ("core", "visual", *SUBSYSTEMS)
 # What each folder of src/ may include besides itself. Subsystems reach each other through the root; their .cpp
-# files may include neighbours for that, their headers may not.
+# files may include earlier neighbours for that, their headers may not.
 BELOW = {
     "core": (),
     "visual": ("core",),
@@ -53,7 +56,9 @@ def _may_include(path, folder, target):
     below = BELOW.get(folder, ())
     if target == folder or target in below:
         return True
-    return path.suffix == ".cpp" and folder in SUBSYSTEMS and target in SUBSYSTEMS
+    if path.suffix != ".cpp" or folder not in SUBSYSTEMS or target not in SUBSYSTEMS:
+        return False
+    return SUBSYSTEMS.index(target) < SUBSYSTEMS.index(folder) or bool(ROOTS_OWN.fullmatch(path.name))
 
 
 def _is_qt(name):

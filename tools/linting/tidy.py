@@ -1,7 +1,8 @@
-"""clang-tidy over the product's source files in the tidy preset's build; tests are held to the compilers' warnings.
+"""clang-tidy over all sources in the tidy preset's build: the product with .clang-tidy, the tests with tests/.clang-tidy.
 
-A file that was found good is not read again until it, a header of this repository that it includes, the checks or
-the tool change: a stamp named after the hash of all these lies in the user's cache, which all checkouts share.
+The build puts several sources into one unit, so that headers are read and searched once for all of them. A unit that was
+found good is not read again until one of its sources, a header of this repository that it includes, the checks or the
+tool change: a stamp named after the hash of all these lies in the user's cache, which all checkouts share.
 """
 import concurrent.futures
 import hashlib
@@ -10,12 +11,49 @@ import os
 import pathlib
 import re
 import subprocess
+import time
 
 from .files import ROOT
 
 BUILD = ROOT / "build" / "tidy"
 STAMPS = pathlib.Path(os.environ.get("XDG_CACHE_HOME") or pathlib.Path.home() / ".cache") / "phial-lint"
+STAMPS_KEPT_SECONDS = 30 * 24 * 3600
 FINDING = re.compile(r"^/.*:\d+:\d+: (?:error|warning): ")
+SOURCE_OF_UNIT = re.compile(r'^#include "(.+)"$', re.MULTILINE)
+# What only a unit of several sources brings about.
+OF_UNITS = "-bugprone-suspicious-include"
+
+
+class Unit:
+    """A file that clang-tidy reads: a source, or one made by the build that includes several."""
+
+    def __init__(self, file, sources):
+        self.file = file
+        self.sources = sources
+        is_test = any(str(source).startswith("tests/") for source in sources)
+        self.settings = ROOT / ("tests/.clang-tidy" if is_test else ".clang-tidy")
+
+    def problems(self):
+        """What clang-tidy finds."""
+        result = _run("clang-tidy", "--quiet", "-p", str(BUILD), f"--config-file={self.settings}", f"--checks={OF_UNITS}",
+                      str(self.file))
+        findings = [line.replace(f"{ROOT}/", "") for line in result.stdout.splitlines() if FINDING.match(line)]
+        if result.returncode != 0 and not findings:
+            return [f"{self.file}: clang-tidy failed: {result.stderr.strip()}"]
+        return findings
+
+    def fingerprint(self, tree, tool):
+        """A hash of everything that decides what clang-tidy finds."""
+        digest = hashlib.sha256(tool + OF_UNITS.encode() + self.settings.read_bytes())
+        reached, open_ends = set(self.sources), list(self.sources)
+        while open_ends:
+            current = open_ends.pop()
+            targets = {tree.resolve(current, name) for _, kind, name in tree.includes(current) if kind == "quoted"}
+            open_ends += targets - reached - {None}
+            reached |= targets - {None}
+        for each in sorted(reached):
+            digest.update(str(each).encode() + b"\0" + (tree.text(each) or "").encode() + b"\0")
+        return digest.hexdigest()
 
 
 def check(tree):
@@ -23,20 +61,19 @@ def check(tree):
     if failure:
         return failure
     STAMPS.mkdir(parents=True, exist_ok=True)
-    settings = (ROOT / ".clang-tidy").read_bytes() + _run("clang-tidy", "--version").stdout.encode()
-
-    waiting = {path: STAMPS / _fingerprint(tree, path, settings) for path in _compiled(tree)}
-    waiting = {path: stamp for path, stamp in waiting.items() if not stamp.exists()}
-    print(f"lint: tidy: reading {len(waiting)} changed files", flush=True)
+    _forget_old_stamps()
+    tool = _run("clang-tidy", "--version").stdout.encode()
+    waiting = {unit: STAMPS / unit.fingerprint(tree, tool) for unit in _units(tree)}
+    waiting = {unit: stamp for unit, stamp in waiting.items() if not stamp.exists()}
+    print(f"lint: tidy: reading {sum(len(unit.sources) for unit in waiting)} changed files and their neighbours", flush=True)
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        results = pool.map(lambda item: _check_file(*item), waiting.items())
+        results = pool.map(lambda item: _check_unit(*item), waiting.items())
         return sorted({problem for problems in results for problem in problems})
 
 
 def _prepare_build():
     """Configures the build and lets it generate what sources include; returns the problems of that."""
-    steps = [["cmake", "--preset", "tidy"]]
-    result = _run(*steps[0])
+    result = _run("cmake", "--preset", "tidy")
     if result.returncode == 0:
         targets = _run("ninja", "-C", str(BUILD), "-t", "targets", "all").stdout
         generators = re.findall(r"^(\w+_autogen): phony", targets, re.MULTILINE)
@@ -44,34 +81,30 @@ def _prepare_build():
     return [] if result.returncode == 0 else [f"tidy: {result.stdout}{result.stderr}"]
 
 
-def _compiled(tree):
-    """The repository's files among the commands of the build."""
-    known = {ROOT / path: path for path in tree.cpp(".cpp") if not str(path).startswith("tests/")}
-    commands = json.loads((BUILD / "compile_commands.json").read_text())
-    files = (pathlib.Path(command["directory"], command["file"]) for command in commands)
-    return sorted({known[file] for file in files if file in known})
+def _forget_old_stamps():
+    for stamp in STAMPS.iterdir():
+        if time.time() - stamp.stat().st_mtime > STAMPS_KEPT_SECONDS:
+            stamp.unlink(missing_ok=True)
 
 
-def _fingerprint(tree, path, settings):
-    digest = hashlib.sha256(settings)
-    reached, open_ends = {path}, [path]
-    while open_ends:
-        current = open_ends.pop()
-        targets = {tree.resolve(current, name) for _, kind, name in tree.includes(current) if kind == "quoted"}
-        open_ends += targets - reached - {None}
-        reached |= targets - {None}
-    for each in sorted(reached):
-        digest.update(str(each).encode() + b"\0" + (tree.text(each) or "").encode() + b"\0")
-    return digest.hexdigest()
+def _units(tree):
+    """What the build compiles of the repository's files, each file once."""
+    known = {str(ROOT / path): path for path in tree.cpp(".cpp")}
+    seen = set()
+    for command in json.loads((BUILD / "compile_commands.json").read_text()):
+        file = pathlib.Path(command["directory"], command["file"])
+        names = [str(file)] if str(file) in known else SOURCE_OF_UNIT.findall(file.read_text())
+        sources = tuple(known[name] for name in names if name in known)
+        if sources and not seen.issuperset(sources):
+            seen.update(sources)
+            yield Unit(file, sources)
 
 
-def _check_file(path, stamp):
-    result = _run("clang-tidy", "--quiet", "-p", str(BUILD), str(ROOT / path))
-    findings = [line.replace(f"{ROOT}/", "") for line in result.stdout.splitlines() if FINDING.match(line)]
-    if result.returncode == 0 and not findings:
+def _check_unit(unit, stamp):
+    problems = unit.problems()
+    if not problems:
         stamp.touch()
-        return []
-    return findings or [f"{path}: clang-tidy failed: {result.stderr.strip()}"]
+    return problems
 
 
 def _run(*command):

@@ -16,7 +16,7 @@ namespace phial::qt
 namespace
 {
 
-constexpr qint64 ReadAheadBytes = 16 * 1024;
+constexpr qint64 RequestReadAhead = 16 * 1024;
 
 } // namespace
 
@@ -67,7 +67,7 @@ void NetPort::add(QTcpSocket& socket)
     }
     callers_.push_back(std::make_unique<Caller>(socket, limits_));
     Caller& caller = *callers_.back();
-    socket.setReadBufferSize(ReadAheadBytes);
+    socket.setReadBufferSize(RequestReadAhead);
     QObject::connect(caller.patience, &QTimer::timeout, &socket, [this, &caller] { drop(caller); });
     QObject::connect(&socket, &QTcpSocket::readyRead, &socket, [this, &caller] { hear(caller); });
     QObject::connect(&socket, &QTcpSocket::disconnected, &socket, [this, &caller] {
