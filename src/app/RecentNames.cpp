@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr StringView NamesSetting = u"Config\\ScreenNameMRU";
-constexpr char16_t Divider = u':';
+constexpr char16_t NameDivider = u':';
 
 CoreStringList storedEntries()
 {
@@ -21,7 +21,7 @@ CoreStringList storedEntries()
 
 RecentName divided(const String& entry)
 {
-    const std::size_t end = entry.find(Divider);
+    const std::size_t end = entry.find(NameDivider);
     if (end == String::npos) {
         return {entry, {}};
     }
@@ -41,7 +41,7 @@ std::vector<RecentName> recentNames()
 
 void rememberName(const RecentName& chosen)
 {
-    const String entry = chosen.name + Divider + chosen.avatar;
+    const String entry = chosen.name + NameDivider + chosen.avatar;
     CoreStringList entries = storedEntries();
     while (entries.Exists(entry)) {
         entries.Remove(entry);

@@ -18,8 +18,8 @@ std::size_t findDelimiter(StringView text, StringView delimiter)
 /// The greatest length up to `length` at which a cut parts no pair of surrogates.
 std::size_t unpairedCut(StringView text, std::size_t length)
 {
-    const bool insidePair = length > 0 && length < text.size() &&
-                            isHighSurrogate(text[length - 1]) && isLowSurrogate(text[length]);
+    const bool insidePair = length > 0 && length < text.size() && isHighSurrogate(text[length - 1]) &&
+                            isLowSurrogate(text[length]);
     return insidePair ? length - 1 : length;
 }
 

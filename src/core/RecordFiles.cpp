@@ -16,7 +16,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-using record_format::Frame;
 using record_format::State;
 
 constexpr std::string_view DamagedMark = ".damaged";
@@ -53,7 +52,7 @@ RecordFiles::RecordFiles(const Platform& platform) : files_(*platform.files), se
 std::vector<Variant> RecordFiles::read(const fs::path& file, StringView password) const
 {
     const std::string bytes = bytesOf(file);
-    const Frame frame = record_format::frameOf(bytes);
+    const record_format::Frame frame = record_format::frameOf(bytes);
     if (frame.state != State::Whole) {
         throw RuntimeError(ErrorNumber::InvalidArgument, u"Invalid argument: no whole record file");
     }
@@ -100,7 +99,7 @@ std::string RecordFiles::framed(const std::string& body, StringView password) co
 }
 
 template <typename Take>
-auto RecordFiles::fromBody(const Frame& frame, StringView password, const Take& take) const
+auto RecordFiles::fromBody(const record_format::Frame& frame, StringView password, const Take& take) const
     -> std::optional<decltype(take(frame.body))>
 {
     if (frame.isSealed == password.empty()) {
@@ -117,7 +116,7 @@ auto RecordFiles::fromBody(const Frame& frame, StringView password, const Take& 
 std::optional<std::string_view> RecordFiles::markToKeep(std::string_view bytes, StringView password,
                                                         const RecordWriter& values) const
 {
-    const Frame frame = record_format::frameOf(bytes);
+    const record_format::Frame frame = record_format::frameOf(bytes);
     if (frame.state != State::Whole) {
         return frame.state == State::Newer ? KeptMark : DamagedMark;
     }

@@ -14,8 +14,6 @@ namespace phial
 namespace
 {
 
-using record_format::Frame;
-
 /// The control sign ends the output of programs that show files as text.
 constexpr std::string_view Magic = "QVR\x1A";
 constexpr std::uint16_t FormatVersion = 1;
@@ -236,7 +234,7 @@ std::string record_format::framed(std::string_view body, bool isSealed)
     return bytes;
 }
 
-Frame record_format::frameOf(std::string_view bytes) noexcept
+record_format::Frame record_format::frameOf(std::string_view bytes) noexcept
 {
     if (bytes.size() < HeadSize || !bytes.starts_with(Magic)) {
         return {};

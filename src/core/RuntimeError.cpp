@@ -24,6 +24,7 @@ constexpr Description Descriptions[] = {
     {ErrorNumber::FileNotFound, u"File not found"},
     {ErrorNumber::DeviceUnavailable, u"Device unavailable"},
     {ErrorNumber::ObjectNotSet, u"Object not set"},
+    {ErrorNumber::InvalidPropertyValue, u"Invalid property value"},
     {ErrorNumber::NoSuchMember, u"No such member"},
 };
 

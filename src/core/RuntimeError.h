@@ -20,6 +20,7 @@ enum class ErrorNumber : std::int32_t {
     DeviceUnavailable = 68,
     FileAccess = 75,
     ObjectNotSet = 91,
+    InvalidPropertyValue = 380,
     NoSuchMember = 438,
 };
 

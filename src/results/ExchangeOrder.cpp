@@ -79,9 +79,9 @@ std::vector<Group> groupsOf(std::span<const std::size_t> ranks)
 /// by the number of greater entries behind it; without it the one before it stands likewise, and so on.
 void arrange(const Group& group, std::size_t greater, std::span<std::size_t> slots)
 {
-    Tally open(slots.size());
+    Tally stillOpen(slots.size());
     for (std::size_t slot = 0; slot < slots.size(); ++slot) {
-        open.add(slot, 1);
+        stillOpen.add(slot, 1);
     }
     std::size_t beginning = 0; // counted in the slots that are still open
     for (std::size_t size = slots.size(); size > 0; --size) {
@@ -89,9 +89,9 @@ void arrange(const Group& group, std::size_t greater, std::span<std::size_t> slo
         greater = group.greaterBefore[size - 1];
         beginning = (beginning + size - turns % size) % size;
         const std::size_t last = (beginning + size - 1) % size;
-        const std::size_t slot = open.indexOf(last);
+        const std::size_t slot = stillOpen.indexOf(last);
         slots[slot] = group.members[size - 1];
-        open.add(slot, -1);
+        stillOpen.add(slot, -1);
         beginning = last < beginning ? beginning - 1 : 0;
     }
 }

@@ -13,7 +13,7 @@ using enum enm_Mark;
 
 constexpr double PointsMaxIfNone = 100;
 
-constexpr std::array<MarkRow, 16> Rows = {{
+constexpr std::array<MarkRow, 16> MarkRows = {{
     {ID_Mark_6, u"6", u"Ungenügend", 0.10},
     {ID_Mark_5M, u"5-", u"Mangelhaft minus", 0.20},
     {ID_Mark_5, u"5", u"Mangelhaft", 0.30},
@@ -34,8 +34,9 @@ constexpr std::array<MarkRow, 16> Rows = {{
 
 constexpr bool riseTogether()
 {
-    for (std::size_t row = 1; row < Rows.size(); ++row) {
-        if (static_cast<std::size_t>(Rows[row].mark) != row || Rows[row].below <= Rows[row - 1].below) {
+    for (std::size_t row = 1; row < MarkRows.size(); ++row) {
+        if (static_cast<std::size_t>(MarkRows[row].mark) != row ||
+            MarkRows[row].below <= MarkRows[row - 1].below) {
             return false;
         }
     }
@@ -58,8 +59,8 @@ const MarkRow& markFor(double points, double pointsMax)
     }
     const double ratio = points / pointsMax;
     const auto* const found =
-        std::ranges::find_if(Rows, [ratio](const MarkRow& row) { return ratio < row.below; });
-    return found != Rows.end() ? *found : Rows.back();
+        std::ranges::find_if(MarkRows, [ratio](const MarkRow& row) { return ratio < row.below; });
+    return found != MarkRows.end() ? *found : MarkRows.back();
 }
 
 } // namespace phial

@@ -22,7 +22,7 @@ constexpr StringView EventsVersion = u"2.0";
 
 // The lines have no running number, so that each title stands one column to the right.
 constexpr std::array<StringView, 8> EventTitles = {u"LfdNr.", u"Name", u"Login",  u"Computer",
-                                                  u"Datum",  u"Zeit", u"Aktion", u"Zusatz"};
+                                                   u"Datum",  u"Zeit", u"Aktion", u"Zusatz"};
 
 constexpr std::array<ListColumn, 7> EventColumns = {{
     {0, u"Lfd.Nr."},

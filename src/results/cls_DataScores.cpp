@@ -31,8 +31,8 @@ constexpr std::int32_t LimitOfTheList = -1;
 
 // One title more than a line has fields: titles behind "Punkte" stand one column to the right.
 constexpr std::array<StringView, 11> ScoreTitles = {u"Rang",  u"Name",      u"Login", u"Computer",
-                                                   u"Datum", u"Zeit",      u"Score", u"Punkte",
-                                                   u"Note",  u"Notentext", u"Zusatz"};
+                                                    u"Datum", u"Zeit",      u"Score", u"Punkte",
+                                                    u"Note",  u"Notentext", u"Zusatz"};
 
 // "Score" stands where "Punkte" would end.
 constexpr std::array<ListColumn, 9> ScoreColumns = {{

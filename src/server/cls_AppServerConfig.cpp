@@ -26,7 +26,7 @@ constexpr std::int32_t DefaultUdpPort = 10050;
 constexpr std::int32_t DefaultClientPort = 10051;
 constexpr std::int32_t DefaultTimeout = 30;
 
-constexpr StringView PackHead = u"QV_PHIAL_MASTER";
+constexpr StringView SettingsHead = u"QV_PHIAL_MASTER";
 constexpr StringView PackVersion = u"1.0";
 
 /// The fields of a packed text, which raise 9 where there are none.
@@ -109,7 +109,7 @@ void cls_AppServerConfig::SAVE()
 
 String cls_AppServerConfig::PACK()
 {
-    String text(PackHead);
+    String text(SettingsHead);
     text.append(u"|").append(PackVersion).append(u"|").append(serverIp_);
     for (const std::int32_t number : {serverPort_, serverUdp_, clientPort_, timeout_}) {
         text.append(u"|").append(plainText(number));
@@ -120,7 +120,7 @@ String cls_AppServerConfig::PACK()
 void cls_AppServerConfig::PACK(StringView value)
 {
     const PackFields fields(value);
-    if (fields.isEmpty() || fields.text(0) != PackHead || fields.text(1) != PackVersion) {
+    if (fields.isEmpty() || fields.text(0) != SettingsHead || fields.text(1) != PackVersion) {
         return;
     }
     serverIp_ = fields.text(2);

@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr int Grey = 8; // of the classic table of colours
-constexpr int Black = 0;
+constexpr int BlackIndex = 0;
 
 /// The anchor point of an alignment on a surface of that width or height: its start, middle or end.
 double anchorX(TEXTALIGN align, double width)
@@ -105,7 +105,7 @@ void ctl_TermLabel::writeProperties(PropertyBag& bag)
 Colour ctl_TermLabel::maskColour() const
 {
     const Colour grey = QBColor(Grey);
-    return textColour_ == grey ? QBColor(Black) : grey;
+    return textColour_ == grey ? QBColor(BlackIndex) : grey;
 }
 
 void ctl_TermLabel::REDRAW()

@@ -5,11 +5,6 @@
 namespace phial
 {
 
-namespace
-{
-constexpr std::int32_t InvalidPropertyValue = 380;
-}
-
 std::size_t ListItems::checked(std::int32_t index) const
 {
     if (index < 0 || index >= count()) {
@@ -69,7 +64,7 @@ void ListItems::clear()
 bool ListItems::choose(std::int32_t index)
 {
     if (index < -1 || index >= count()) {
-        throw RuntimeError(InvalidPropertyValue, u"Invalid property value");
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     }
     const bool differs = chosen_ != index;
     chosen_ = index;

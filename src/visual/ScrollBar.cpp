@@ -8,13 +8,6 @@
 namespace phial
 {
 
-namespace
-{
-
-constexpr std::int32_t InvalidPropertyValue = 380;
-
-} // namespace
-
 struct ScrollBar::Properties {
     static constexpr rows::Table Table{
         rows::property<u"Min">(&ScrollBar::min_).then(&ScrollBar::rangeChanged),
@@ -66,7 +59,7 @@ void ScrollBar::Max(std::int32_t value) { rows::set<Properties, u"Max">(*this, v
 void ScrollBar::Value(std::int32_t value)
 {
     if (limited(value) != value) {
-        throw RuntimeError(InvalidPropertyValue, u"Invalid property value");
+        throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     }
     if (change(value_, value)) {
         frame_.report(ControlAspect::Value);

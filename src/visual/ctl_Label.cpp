@@ -23,10 +23,10 @@ TextPlace placeOf(std::int32_t alignment)
 {
     constexpr std::int32_t CodesPerRow = 4;
     constexpr TextSide Sides[] = {TextSide::Near, TextSide::Middle, TextSide::Far};
-    constexpr TextSide Rows[] = {TextSide::Middle, TextSide::Near, TextSide::Far};
+    constexpr TextSide Heights[] = {TextSide::Middle, TextSide::Near, TextSide::Far};
     const bool known = alignment >= 0 && alignment <= 10 && alignment % CodesPerRow != 3;
     const std::int32_t code = known ? alignment : TopLeft;
-    return {Sides[code % CodesPerRow], Rows[code / CodesPerRow]};
+    return {Sides[code % CodesPerRow], Heights[code / CodesPerRow]};
 }
 
 } // namespace

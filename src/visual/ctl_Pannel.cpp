@@ -10,7 +10,7 @@ namespace phial
 namespace
 {
 
-constexpr double Margin = 4; // between edge and text, in pixels
+constexpr double TextMargin = 4; // between edge and text, in pixels
 
 } // namespace
 
@@ -68,7 +68,8 @@ void ctl_Pannel::paint()
     device.Cls();
     const PixelSize size = surface_.size();
     if (!caption_.empty()) {
-        const PixelRectangle inside{Margin, Margin, size.width - 2 * Margin, size.height - 2 * Margin};
+        const PixelRectangle inside{TextMargin, TextMargin, size.width - 2 * TextMargin,
+                                    size.height - 2 * TextMargin};
         device.ForeColor(foreColor_);
         MarkupLayout(caption_, font_->traits(), visualHost().metrics(), inside.width)
             .draw(device, inside, TextSide::Middle, TextSide::Middle);

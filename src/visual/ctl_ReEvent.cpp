@@ -8,7 +8,7 @@ namespace phial
 namespace
 {
 
-constexpr Member Table[] = {
+constexpr Member ReEventMembers[] = {
     members::property<ctl_ReEvent, String, &ctl_ReEvent::NAME, &ctl_ReEvent::NAME>(u"NAME"),
     {u"REPEAT", nullptr, nullptr,
      [](Object& object, std::span<const Variant> arguments) {
@@ -25,7 +25,7 @@ constexpr Member Table[] = {
 
 MemberTable ctl_ReEvent::members() const
 {
-    return Table;
+    return ReEventMembers;
 }
 
 void ctl_ReEvent::REPEAT(const String& pName, const Variant::Array& pArguments)

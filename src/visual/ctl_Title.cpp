@@ -14,9 +14,9 @@ namespace phial
 namespace
 {
 
-constexpr double Margin = 10;    // left and right, in pixels
-constexpr double IconSize = 24;  // greatest edge of the icon
-constexpr double CrossSize = 10; // edge of the sign to close with
+constexpr double SideMargin = 10; // left and right, in pixels
+constexpr double IconSize = 24;   // greatest edge of the icon
+constexpr double CrossSize = 10;  // edge of the sign to close with
 
 } // namespace
 
@@ -120,11 +120,11 @@ void ctl_Title::paint()
     const PixelSize size = surface_.size();
     surface_.BackColor(theme.Colour(ThemeSlot::Frame));
     device.Cls();
-    double left = Margin;
+    double left = SideMargin;
     if (icon_) {
         const double edge = std::min(IconSize, size.height);
         device.PaintPicture(icon_, left, (size.height - edge) / 2, edge, edge);
-        left += edge + Margin;
+        left += edge + SideMargin;
     }
     device.font(font_->traits());
     device.ForeColor(theme.Colour(ThemeSlot::FrameText));

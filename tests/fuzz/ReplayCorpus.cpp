@@ -1,5 +1,5 @@
-// Runs a fuzz target, the first argument, without libFuzzer over every file of the folders that follow, so that each
-// input that once broke something stays a test in every build.
+// Runs a fuzz target, the first argument, without libFuzzer over every file of the folders that follow, so
+// that each input that once broke something stays a test in every build.
 
 #include "ReplayTargets.h"
 
@@ -53,8 +53,9 @@ void replay(const ReplayTarget& target, const fs::path& file)
 
 const ReplayTarget& targetNamed(std::string_view name)
 {
-    const auto* const found = std::find_if(std::begin(ReplayTargets), std::end(ReplayTargets),
-                                           [name](const ReplayTarget& target) { return name == target.name; });
+    const auto* const found =
+        std::find_if(std::begin(ReplayTargets), std::end(ReplayTargets),
+                     [name](const ReplayTarget& target) { return name == target.name; });
     if (found == std::end(ReplayTargets)) {
         throw std::invalid_argument("there is no fuzz target " + std::string(name));
     }

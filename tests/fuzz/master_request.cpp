@@ -2,12 +2,12 @@
 // can be shown on a line, and the same message again changes nothing.
 
 #include "FuzzInput.h"
-#include "master/MemoryStore.h"
 #include "app/Session.h"
 #include "core/CoreParameters.h"
 #include "core/RuntimeError.h"
 #include "headless/HeadlessPlatform.h"
 #include "master/Classroom.h"
+#include "master/MemoryStore.h"
 #include "master/Packages.h"
 #include "results/cls_DataScores.h"
 

@@ -20,8 +20,7 @@ protected:
     /// A copy of a stored file in the test's folder.
     String stored(const std::string& name) const
     {
-        std::filesystem::copy_file(test::vectorsFolder() / "records" / name,
-                                   folder.native() / name);
+        std::filesystem::copy_file(test::vectorsFolder() / "records" / name, folder.native() / name);
         return path(fromUtf8(name));
     }
 

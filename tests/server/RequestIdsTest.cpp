@@ -15,7 +15,10 @@ class RequestIdsTest : public testing::Test
 {
 protected:
     FrameId take(StringView text, double now = 100) { return ids_.take(Address, text, now); }
-    void unanswered(StringView text, FrameId id, double now = 100) { ids_.unanswered(Address, text, id, now); }
+    void unanswered(StringView text, FrameId id, double now = 100)
+    {
+        ids_.unanswered(Address, text, id, now);
+    }
 
     RequestIds ids_{77};
 };

@@ -5,7 +5,8 @@
 namespace phial::test
 {
 
-/// Where things lie that tests read. One source file knows it, so that all others compile alike in every checkout.
+/// Where things lie that tests read. One source file knows it, so that all others compile alike in every
+/// checkout.
 
 /// The case tables, with stored files below.
 std::filesystem::path vectorsFolder();
