@@ -11,44 +11,64 @@ namespace
 {
 
 constexpr char16_t Backslash = u'\\';
+constexpr StringView Separators = u"\\/";
+
+bool isSeparator(char16_t unit)
+{
+    return Separators.find(unit) != StringView::npos;
+}
+
+String withBackslashes(StringView path)
+{
+    String text(path);
+    std::ranges::replace_if(text, isSeparator, Backslash);
+    return text;
+}
+
+/// Where the last component begins.
+std::size_t nameBegin(StringView path)
+{
+    const std::size_t separator = path.find_last_of(Separators);
+    return separator == StringView::npos ? 0 : separator + 1;
+}
 
 bool isDrive(StringView path)
 {
-    return path.size() >= 2 && path[1] == u':' && path[0] != Backslash;
+    return path.size() >= 2 && path[1] == u':' && !isSeparator(path[0]);
 }
 
-/// The length of the drive or share at a path's beginning, without a backslash behind it.
+/// The length of the drive or share at a path's beginning, without a separator behind it.
 std::size_t driveLength(StringView path)
 {
     if (isDrive(path)) {
         return 2;
     }
-    if (!path.starts_with(u"\\\\")) {
+    if (path.size() < 2 || !isSeparator(path[0]) || !isSeparator(path[1])) {
         return 0;
     }
-    const std::size_t server = path.find(Backslash, 2);
+    const std::size_t server = path.find_first_of(Separators, 2);
     if (server == StringView::npos) {
         return path.size();
     }
-    return std::min(path.find(Backslash, server + 1), path.size());
+    return std::min(path.find_first_of(Separators, server + 1), path.size());
 }
 
-/// The length of a path's root: drive or share and the backslash behind them, each as far as it is there.
+/// The length of a path's root: drive or share and the separator behind them, each as far as it is there.
 std::size_t rootLength(StringView path)
 {
     const std::size_t drive = driveLength(path);
-    return drive < path.size() && path[drive] == Backslash ? drive + 1 : drive;
+    return drive < path.size() && isSeparator(path[drive]) ? drive + 1 : drive;
 }
 
 /// A folder taken apart, "." and ".." carried out.
 struct FolderParts {
     String root;
-    std::vector<StringView> parts;
+    std::vector<String> parts;
 
     String text() const
     {
         String result = root;
-        for (const StringView part : parts) {
+        for (const String& part : parts) {
             result += part;
             result += Backslash;
         }
@@ -59,8 +79,9 @@ struct FolderParts {
 FolderParts takenApart(StringView folder)
 {
     const std::size_t root = rootLength(folder);
-    FolderParts result{String(folder.substr(0, root)), {}};
-    for (const StringView part : split(folder.substr(root), u"\\")) {
+    FolderParts result{withBackslashes(folder.substr(0, root)), {}};
+    const String rest = withBackslashes(folder.substr(root));
+    for (const StringView part : split(rest, u"\\")) {
         if (part.empty() || part == u".") {
             continue;
         }
@@ -68,7 +89,7 @@ FolderParts takenApart(StringView folder)
         if (climbs && !result.parts.empty() && result.parts.back() != u"..") {
             result.parts.pop_back();
         } else if (!climbs || root == 0) {
-            result.parts.push_back(part);
+            result.parts.emplace_back(part);
         }
     }
     return result;
@@ -77,8 +98,7 @@ FolderParts takenApart(StringView folder)
 /// The place of the point before the extension; the path's length when there is none.
 std::size_t extensionPoint(StringView path)
 {
-    const std::size_t backslash = path.rfind(Backslash);
-    const std::size_t name = backslash == StringView::npos ? 0 : backslash + 1;
+    const std::size_t name = nameBegin(path);
     const std::size_t point = path.rfind(u'.');
     const bool isExtension = point != StringView::npos && point > name && path.substr(name) != u"..";
     return isExtension ? point : path.size();
@@ -88,7 +108,7 @@ std::size_t extensionPoint(StringView path)
 
 String CorePathText::WithBackslash(StringView pText)
 {
-    const std::size_t last = pText.find_last_not_of(Backslash);
+    const std::size_t last = pText.find_last_not_of(Separators);
     return String(pText.substr(0, last == StringView::npos ? 0 : last + 1)) + Backslash;
 }
 
@@ -99,14 +119,12 @@ String CorePathText::Drive(StringView pPath)
 
 String CorePathText::Folder(StringView pPath)
 {
-    const std::size_t backslash = pPath.rfind(Backslash);
-    return backslash == StringView::npos ? String() : String(pPath.substr(0, backslash + 1));
+    return withBackslashes(pPath.substr(0, nameBegin(pPath)));
 }
 
 String CorePathText::FileName(StringView pPath)
 {
-    const std::size_t backslash = pPath.rfind(Backslash);
-    return String(backslash == StringView::npos ? pPath : pPath.substr(backslash + 1));
+    return String(pPath.substr(nameBegin(pPath)));
 }
 
 String CorePathText::BaseName(StringView pPath)
@@ -152,7 +170,7 @@ String CorePathText::Absolute(StringView pBase, StringView pRelative)
     if (driveLength(pRelative) > 0) {
         return takenApart(pRelative).text();
     }
-    if (pRelative.starts_with(Backslash)) {
+    if (!pRelative.empty() && isSeparator(pRelative.front())) {
         return takenApart(Drive(pBase) + String(pRelative)).text();
     }
     const String base = pBase.empty() ? String() : WithBackslash(pBase);

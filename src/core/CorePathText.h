@@ -6,8 +6,9 @@ namespace phial
 {
 
 /// Paths as text: parts are divided by backslashes, folders end in one, so that paths are joined by putting
-/// texts together. Nothing is looked up on disk. A root is a drive (`C:`), a share (`\\server\share`) or a
-/// leading backslash. Comparison disregards case.
+/// texts together. Slashes divide parts too; folders that are given back have backslashes. Nothing is looked
+/// up on disk. A root is a drive (`C:`), a share (`\\server\share`) or a leading separator. Comparison
+/// disregards case.
 class CorePathText
 {
 public:
@@ -15,9 +16,9 @@ public:
     static String WithBackslash(StringView pText);
     /// "C:" or "\\server\share", else empty.
     static String Drive(StringView pPath);
-    /// The path up to its last backslash, that included; empty without one.
+    /// The path up to its last separator, that included; empty without one.
     static String Folder(StringView pPath);
-    /// What follows the last backslash.
+    /// What follows the last separator.
     static String FileName(StringView pPath);
     /// The file name without its extension. A point at the very beginning of a name begins no extension.
     static String BaseName(StringView pPath);

@@ -75,6 +75,13 @@ TEST_F(ElementImport, GoesByTheLastPartOfThePathAlone)
     EXPECT_EQ(table.COUNT(), 2);
 }
 
+TEST_F(ElementImport, TakesSlashesForSeparators)
+{
+    folder.write("data/elements2.dat", FiveLines);
+    EXPECT_TRUE(table.IMPORT(fromUtf8((folder.native() / "data/elements2.dat").string())));
+    EXPECT_EQ(table.COUNT(), 2);
+}
+
 TEST_F(ElementImport, SkipsCommentsBetweenTheLinesOfAnElement)
 {
     table.IMPORT2(

@@ -92,6 +92,28 @@ TEST(CorePathTextTest, ARelativePathWithARootStandsAlone)
     EXPECT_EQ(CorePathText::Absolute(u"\\home\\anna\\", u"\\usr\\"), u"\\usr\\");
 }
 
+TEST(CorePathTextTest, SlashesDivideAsBackslashesDo)
+{
+    EXPECT_EQ(CorePathText::WithBackslash(u"C:/Daten/"), u"C:/Daten\\");
+    EXPECT_EQ(CorePathText::WithBackslash(u"C:/Daten\\/"), u"C:/Daten\\");
+    EXPECT_EQ(CorePathText::Drive(u"C:/Daten/a.txt"), u"C:");
+    EXPECT_EQ(CorePathText::Drive(u"//server/share/a.txt"), u"//server/share");
+    EXPECT_EQ(CorePathText::Drive(u"/:/a.txt"), u"");
+    EXPECT_EQ(CorePathText::Drive(u"/home"), u"");
+    EXPECT_EQ(CorePathText::Folder(u"/home/anna/b.txt"), u"\\home\\anna\\");
+    EXPECT_EQ(CorePathText::FileName(u"/home/anna/b.txt"), u"b.txt");
+    EXPECT_EQ(CorePathText::FileName(u"a/b\\c.txt"), u"c.txt");
+    EXPECT_EQ(CorePathText::FileName(u"a\\b/c.txt"), u"c.txt");
+    EXPECT_EQ(CorePathText::BaseName(u"sfx/a.b.wav"), u"a.b");
+    EXPECT_EQ(CorePathText::Extension(u"v1.0/readme"), u"");
+    EXPECT_EQ(CorePathText::WithoutExtension(u"v1.0/readme.txt"), u"v1.0/readme");
+    EXPECT_EQ(CorePathText::Relative(u"C:/base/sub/f.txt", u"C:\\base\\"), u"sub\\");
+    EXPECT_EQ(CorePathText::Relative(u"/home/anna/f.txt", u"/home/ben/"), u"..\\anna\\");
+    EXPECT_EQ(CorePathText::Absolute(u"C:/base", u"../x/./y"), u"C:\\x\\y\\");
+    EXPECT_EQ(CorePathText::Absolute(u"C:\\base\\", u"/x"), u"C:\\x\\");
+    EXPECT_EQ(CorePathText::Absolute(u"C:\\base\\", u"//server/share/x/.."), u"\\\\server\\share\\");
+}
+
 TEST(CorePathTextTest, RelativeAndAbsoluteLeadBack)
 {
     constexpr StringView Folders[] = {u"C:\\", u"C:\\a\\", u"C:\\a\\b\\", u"C:\\c\\d\\e\\", u"D:\\a\\"};

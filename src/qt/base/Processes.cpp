@@ -11,7 +11,7 @@ namespace phial::qt
 
 bool startProcess(StringView program, std::span<const String> arguments)
 {
-    const bool isPath = program.find(u'\\') != StringView::npos;
+    const bool isPath = program.find_first_of(u"\\/") != StringView::npos;
     const QString native = isPath ? toQt(nativePath(program).u16string()) : toQt(program);
     QStringList list;
     for (const String& argument : arguments) {
