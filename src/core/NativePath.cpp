@@ -55,10 +55,11 @@ void appendComponents(std::vector<String>& components, StringView path)
     }
 }
 
+/// What cannot be asked for counts as there, so that its name stays as it was written.
 bool isThere(const fs::path& path)
 {
     std::error_code ignored;
-    return fs::exists(fs::symlink_status(path, ignored));
+    return fs::symlink_status(path, ignored).type() != fs::file_type::not_found;
 }
 
 /// The entry of a folder whose name differs from the given one in case only.
@@ -108,6 +109,9 @@ fs::path existingCase(const std::vector<String>& components)
 
 fs::path nativePath(StringView path, StringView currentFolder)
 {
+    if (path.find(u'\0') != StringView::npos) {
+        return {};
+    }
     if constexpr (NativeIsBackslash) {
         return (fs::path(String(currentFolder)) / fs::path(String(path))).lexically_normal();
     }

@@ -17,7 +17,7 @@ namespace phial
 /// | `\home\x\a.txt` | `/home/x/a.txt` |
 /// | `data\a.txt`, with the current folder `\home\x\` | `/home/x/data/a.txt` |
 /// | `..\a.txt`, with the same | `/home/a.txt` |
-/// | `E:\a.txt`, `\\server\a.txt` | the empty path, which no file has |
+/// | `E:\a.txt`, `\\server\a.txt`, a path with NUL in it | the empty path, which no file has |
 ///
 /// "." and ".." are resolved in the text, before links are followed. Where a component does not exist as
 /// written but one exists that differs only in case, that one is meant (the first in order of its text if

@@ -41,6 +41,20 @@ TEST(NativePath, ANetworkShareOrDriveIsNowhere)
     EXPECT_TRUE(nativePath(u"\\\\server\\share\\a.txt", u"\\").empty());
 }
 
+TEST(NativePath, APathWithNulIsNowhere)
+{
+    EXPECT_TRUE(nativePath(StringView(u"\\home\\a\0.txt", 12), u"\\").empty());
+    EXPECT_TRUE(nativePath(StringView(u"\0", 1), u"\\home\\").empty());
+}
+
+TEST(NativePath, WhatCannotBeAskedForStaysAsWritten)
+{
+    const TemporaryFolder folder;
+    std::filesystem::create_symlink("Loop", folder.native() / "Loop");
+    folder.write("LIST.dat", "x");
+    EXPECT_EQ(nativePath(folder.path() + u"Loop\\list.dat", u"\\"), folder.native() / "Loop/list.dat");
+}
+
 TEST(NativePath, EachComponentIsFoundWhateverItsCase)
 {
     const TemporaryFolder folder;
