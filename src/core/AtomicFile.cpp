@@ -7,6 +7,7 @@
 #include <charconv>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace phial
@@ -61,17 +62,51 @@ void clearLeftOvers(FileSystem& files, const fs::path& target)
 fs::path withLinksFollowed(const fs::path& target)
 {
     std::error_code error;
-    if (!fs::is_symlink(target, error)) {
+    const fs::file_type type = fs::symlink_status(target, error).type();
+    if (error && !meansAbsent(error)) {
+        raiseFileError(error, u"cannot be asked for", target);
+    }
+    if (type != fs::file_type::symlink) {
         return target;
     }
     fs::path followed = fs::weakly_canonical(target, error);
     return error ? target : followed;
 }
 
+void writeTemporary(FileSystem& files, const fs::path& temporary, const fs::path& file,
+                    std::string_view bytes, const std::optional<std::int64_t>& time)
+{
+    if (files.status(file).kind == FileStatus::Kind::File) {
+        files.writeLike(file, temporary, bytes);
+    } else {
+        files.write(temporary, bytes);
+    }
+    if (time) {
+        ignoringErrors([&] { files.setTime(temporary, *time); });
+    }
+    files.flush(temporary);
+}
+
+void putBack(FileSystem& files, std::optional<fs::path>& rAside, const fs::path& file)
+{
+    if (rAside && ignoringErrors([&] { files.rename(*rAside, file); })) {
+        rAside.reset();
+    }
+}
+
+/// Whether a name is free; one that cannot be asked for counts as taken.
+bool isFree(const fs::path& path)
+{
+    std::error_code error;
+    return fs::symlink_status(path, error).type() == fs::file_type::not_found;
+}
+
 } // namespace
 
-void replaceFile(FileSystem& files, const fs::path& target, std::string_view bytes)
+void replaceFile(FileSystem& files, const fs::path& target, std::string_view bytes, const Replacement& wishes,
+                 std::optional<fs::path>& rAside)
 {
+    rAside.reset();
     if (target.empty()) {
         throw RuntimeError(ErrorNumber::FileNotFound);
     }
@@ -79,27 +114,46 @@ void replaceFile(FileSystem& files, const fs::path& target, std::string_view byt
     clearLeftOvers(files, file);
     const fs::path temporary = temporaryFor(file);
     try {
-        files.write(temporary, bytes);
-        files.flush(temporary);
+        writeTemporary(files, temporary, file, bytes, wishes.time);
+        if (!wishes.keepOldAs.empty()) {
+            rAside = moveAside(files, file, wishes.keepOldAs);
+        }
         files.rename(temporary, file);
     } catch (const std::exception&) {
         ignoringErrors([&] { files.remove(temporary); });
+        putBack(files, rAside, file);
         throw;
     }
-    files.flushFolder(file.parent_path());
+    // The file is replaced now, whatever becomes of this.
+    ignoringErrors([&] { files.flushFolder(file.parent_path()); });
+}
+
+void replaceFile(FileSystem& files, const fs::path& target, std::string_view bytes, const Replacement& wishes)
+{
+    std::optional<fs::path> aside;
+    replaceFile(files, target, bytes, wishes, aside);
 }
 
 fs::path moveAside(FileSystem& files, const fs::path& file, std::string_view mark)
 {
-    std::error_code error;
+    constexpr int MostNames = 1000;
     fs::path aside = file;
     aside += mark;
-    for (int number = 2; fs::exists(fs::symlink_status(aside, error)); ++number) {
+    for (int number = 2; !isFree(aside); ++number) {
+        if (number > MostNames) {
+            throw RuntimeError(ErrorNumber::FileAccess, u"too many files are kept aside");
+        }
         aside = file;
         aside += std::string(mark) + std::to_string(number);
     }
     files.rename(file, aside);
-    files.flushFolder(file.parent_path());
+    try {
+        files.flushFolder(file.parent_path());
+    } catch (const std::exception&) {
+        if (ignoringErrors([&] { files.rename(aside, file); })) {
+            throw;
+        }
+    }
     return aside;
 }
 

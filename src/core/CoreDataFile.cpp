@@ -58,8 +58,8 @@ void CoreDataFile::Open(StringView pPath, DataFileMode pMode, StringView pPasswo
 {
     Close();
     auto path = nativePath(pPath);
-    std::error_code error;
-    if (pMode == DataFileMode::Read && !std::filesystem::is_regular_file(path, error)) {
+    if (pMode == DataFileMode::Read &&
+        SessionState::current().platform().files->status(path).kind != FileStatus::Kind::File) {
         throw RuntimeError(ErrorNumber::FileNotFound, u"file not found: " + String(pPath));
     }
     file_ =
@@ -72,9 +72,11 @@ void CoreDataFile::Close()
     if (!file || file->mode == DataFileMode::Read) {
         return;
     }
-    const Platform& platform = SessionState::current().platform();
+    SessionState& session = SessionState::current();
+    const Platform& platform = session.platform();
     if (const auto* const values = std::get_if<RecordWriter>(&file->content)) {
-        RecordFiles(platform).write(file->path, file->password, *values, file->oldFile);
+        RecordFiles(platform, &session.keptRecords())
+            .write(file->path, file->password, *values, file->oldFile);
         return;
     }
     const auto* const text = std::get_if<std::string>(&file->content);

@@ -27,8 +27,9 @@ public:
     CoreDataFile(const CoreDataFile&) = delete;
     CoreDataFile& operator=(const CoreDataFile&) = delete;
 
-    /// Opens a file of the open session; one that is open is closed first. To be read it must exist (53). The
-    /// two flags are always true, the object is always null. The password concerns values only.
+    /// Opens a file of the open session; one that is open is closed first. To be read it must exist (53), and
+    /// 75 is raised where that cannot be told. The two flags are always true, the object is always null. The
+    /// password concerns values only.
     void Open(StringView pPath, DataFileMode pMode, StringView pPassword = {}, bool pExclusive = true,
               bool pBinary = true, const void* pMore = nullptr);
 

@@ -9,7 +9,6 @@
 #include "core/RuntimeError.h"
 #include "core/Utf8Text.h"
 
-#include <chrono>
 #include <vector>
 
 namespace phial
@@ -47,14 +46,12 @@ fs::path CoreFiles::native(StringView path) const
 
 bool CoreFiles::Exists(StringView pPath) const
 {
-    std::error_code error;
-    return !endsInSeparator(pPath) && fs::is_regular_file(native(pPath), error);
+    return !endsInSeparator(pPath) && status(pPath).kind == FileStatus::Kind::File;
 }
 
 bool CoreFiles::FolderExists(StringView pPath) const
 {
-    std::error_code error;
-    return fs::is_directory(native(pPath), error);
+    return status(pPath).kind == FileStatus::Kind::Folder;
 }
 
 void CoreFiles::CreateFolder(StringView pPath, bool pIsFile)
@@ -119,19 +116,25 @@ bool CoreFiles::AppendText(StringView pPath, StringView pText)
 
 void CoreFiles::Copy(StringView pFrom, StringView pTo)
 {
-    replaceFile(*fileSystem_, native(pTo), fileSystem_->read(native(pFrom)));
+    const fs::path from = native(pFrom);
+    // Asked for before the content is read: a change in between makes the copy an old one, not a current one.
+    const FileStatus found = fileSystem_->status(from);
+    replaceFile(*fileSystem_, native(pTo), fileSystem_->read(from), {.time = found.time});
+}
+
+/// What cannot be asked for counts as missing.
+FileStatus CoreFiles::status(StringView path) const
+{
+    FileStatus found;
+    ignoringErrors([&] { found = fileSystem_->status(native(path)); });
+    return found;
 }
 
 FileStamp CoreFiles::Changed(StringView pPath) const
 {
-    const fs::path file = native(pPath);
-    std::error_code error;
-    const auto size = fs::file_size(file, error);
-    if (error) {
-        return {};
-    }
-    const auto time = fs::last_write_time(file, error);
-    return error ? FileStamp() : FileStamp{true, std::int64_t{time.time_since_epoch().count()}, size};
+    const FileStatus found = status(pPath);
+    const bool exists = found.kind == FileStatus::Kind::File;
+    return exists ? FileStamp{true, found.time, found.size} : FileStamp();
 }
 
 CoreStringList CoreFiles::List(StringView pPattern, bool pFolders, bool pPaths, bool pFlat) const

@@ -13,6 +13,7 @@ namespace phial
 class CoreStringList;
 class CurrentFolder;
 class FileSystem;
+struct FileStatus;
 
 /// When and how a file last changed; compared for equality only.
 struct FileStamp {
@@ -24,7 +25,8 @@ struct FileStamp {
 };
 
 /// Files and folders. Paths are as the system writes them (see NativePath.h), patterns have `*` and `?` in
-/// their last component, which match without regard to case; "*.*" matches every name.
+/// their last component, which match without regard to case; "*.*" matches every name. The questions whether
+/// something is there, and how it last changed, take what cannot be asked for as missing.
 class CoreFiles
 {
 public:
@@ -59,7 +61,8 @@ public:
     /// whether it was written. For logs.
     bool AppendText(StringView pPath, StringView pText);
 
-    /// Copies a file, replacing the target as `WriteText` does. Raises 53 or 75.
+    /// Copies a file with the time of its last change, replacing the target as `WriteText` does. Raises 53
+    /// or 75.
     void Copy(StringView pFrom, StringView pTo);
 
     /// A missing file has a stamp of its own that equals that of any other missing file.
@@ -85,6 +88,8 @@ public:
     std::filesystem::path native(StringView path) const;
 
 private:
+    FileStatus status(StringView path) const;
+
     std::shared_ptr<FileSystem> fileSystem_;
     std::shared_ptr<const CurrentFolder> currentFolder_;
 };

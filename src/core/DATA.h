@@ -1,15 +1,32 @@
 #pragma once
 
 #include "core/DataOwner.h"
+#include "core/FileSystem.h"
 #include "core/String.h"
 #include "core/Variant.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <utility>
 
 namespace phial
 {
+
+/// The file from which a record was loaded, or to which it was saved, last.
+struct LoadedFile {
+    enum class State : std::uint8_t {
+        None,   ///< it was neither
+        Absent, ///< there was none
+        Gone,   ///< there was none although the session has seen it before
+        Partly, ///< there is one of which not all was taken in, or nothing
+        Whole,  ///< the record held what the file does
+    };
+
+    State state = State::None;
+    std::filesystem::path path = {};
+    FileStatus status = {}; ///< of the file then
+};
 
 /// The header of a record: its ID, its class tag, and the operations that every record has.
 ///
@@ -45,10 +62,10 @@ public:
     /// A new empty record of the same class.
     std::shared_ptr<tmp_Data> Spawn() const;
 
-    /// The file that `loadRecord` read last without taking all that is in it; empty when there is none.
-    /// `saveRecord` keeps its content aside.
-    const std::filesystem::path& halfReadFile() const { return halfReadFile_; }
-    void halfReadFile(std::filesystem::path file) { halfReadFile_ = std::move(file); }
+    /// `loadRecord` and `saveRecord` keep this. A save puts the file aside unless it was whole and is still
+    /// the same.
+    const LoadedFile& loadedFile() const { return loadedFile_; }
+    void loadedFile(LoadedFile file) { loadedFile_ = std::move(file); }
 
 private:
     friend class DataHolder;
@@ -56,7 +73,7 @@ private:
 
     Variant id_;
     String classTag_;
-    std::filesystem::path halfReadFile_;
+    LoadedFile loadedFile_;
     DataOwner* owner_ = nullptr;
 };
 

@@ -1,6 +1,8 @@
 #include "core/FileLock.h"
 
 #include "core/Clock.h"
+#include "core/EventPump.h"
+#include "core/FileSystem.h"
 #include "core/NativePath.h"
 #include "core/RuntimeError.h"
 #include "core/SessionState.h"
@@ -62,23 +64,25 @@ fs::path lockPathOf(StringView file)
 
 std::shared_ptr<FileLock::LockFile> FileLock::take(const fs::path& path)
 {
-    if (const auto own = LockFile::list().find(path); own != LockFile::list().end()) {
-        return own->second.lock();
+    const Platform& platform = SessionState::current().platform();
+    const double end = platform.clock->seconds() + std::chrono::duration<double>(MaxWait).count();
+    for (;;) {
+        // A handler that runs during the wait may have taken it for this process.
+        if (const auto own = LockFile::list().find(path); own != LockFile::list().end()) {
+            return own->second.lock();
+        }
+        SystemLock lock;
+        const SystemLock::Try tried = platform.files->lock(lock, path);
+        if (tried == SystemLock::Try::Taken) {
+            auto taken = std::make_shared<LockFile>(path, std::move(lock));
+            LockFile::list().insert_or_assign(path, taken);
+            return taken;
+        }
+        if (tried == SystemLock::Try::Impossible || platform.clock->seconds() >= end) {
+            return nullptr;
+        }
+        platform.pump->pumpFor(SecondsBetweenTries);
     }
-    Clock& clock = *SessionState::current().platform().clock;
-    const double end = clock.seconds() + std::chrono::duration<double>(MaxWait).count();
-    SystemLock lock;
-    SystemLock::Try tried = lock.take(path);
-    while (tried == SystemLock::Try::Busy && clock.seconds() < end) {
-        clock.sleep(SecondsBetweenTries);
-        tried = lock.take(path);
-    }
-    if (tried != SystemLock::Try::Taken) {
-        return nullptr;
-    }
-    auto taken = std::make_shared<LockFile>(path, std::move(lock));
-    LockFile::list().insert_or_assign(path, taken);
-    return taken;
 }
 
 FileLock::FileLock(StringView file)

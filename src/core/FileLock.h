@@ -25,9 +25,10 @@ public:
     /// The longest wait for another program.
     static constexpr std::chrono::milliseconds MaxWait{3000};
 
-    /// `file` as the system writes it; it need not exist, its folder must. Waits on the session's clock,
-    /// without running events, while another living program holds it, at most `MaxWait`. Raises nothing:
-    /// `held` is false when time ran out or the lock file cannot be made, and callers then go on without.
+    /// `file` as the system writes it; it need not exist, its folder must. While another living program holds
+    /// it, events run, at most for `MaxWait`: handlers may take and let go the same lock meanwhile. Raises
+    /// nothing: `held` is false when time ran out or the lock file cannot be made, and callers then go on
+    /// without.
     explicit FileLock(StringView file);
     /// Releases.
     ~FileLock();

@@ -23,7 +23,8 @@ class RecordEntries
 public:
     using Pointer = std::shared_ptr<Entry>;
 
-    /// What a record file may claim to hold: far above any list, far below what would exhaust memory.
+    /// What a record file may claim to hold before its entries are read: above what the values of any file
+    /// make, far below what would exhaust memory.
     static constexpr std::int32_t MaxStored = 1'000'000;
 
     std::int32_t count() const { return static_cast<std::int32_t>(slots_.size()); }

@@ -2,24 +2,61 @@
 
 #include "core/CoreDataFile.h"
 #include "core/DATA.h"
+#include "core/FileSystem.h"
 #include "core/NativePath.h"
 #include "core/RuntimeError.h"
+#include "core/SessionState.h"
 
 namespace phial
 {
 
+namespace
+{
+
+using State = LoadedFile::State;
+
+FileSystem& fileSystem()
+{
+    return *SessionState::current().platform().files;
+}
+
+/// What a load begins with. Raises 53 where there is no file, 75 where that cannot be told.
+void find(LoadedFile& rLoaded)
+{
+    rLoaded.status = fileSystem().status(rLoaded.path);
+    if (rLoaded.status.kind == FileStatus::Kind::File) {
+        keptRecords().saw(rLoaded.path);
+        return;
+    }
+    rLoaded.state = keptRecords().missed(rLoaded.path) ? State::Gone : State::Absent;
+    throw RuntimeError(ErrorNumber::FileNotFound);
+}
+
+/// Whether the record holds what is in that file now; of a file that has gone there is nothing to hold.
+bool isAllRead(const LoadedFile& loaded)
+{
+    if (loaded.state != State::Whole) {
+        return false;
+    }
+    const FileStatus now = fileSystem().status(loaded.path);
+    return now == loaded.status || now.kind == FileStatus::Kind::Absent;
+}
+
+} // namespace
+
 bool loadRecord(DATA& data, StringView file, StringView password)
 {
-    return ignoringErrors([&] {
+    LoadedFile loaded{State::Partly, nativePath(file), {}};
+    const bool done = ignoringErrors([&] {
+        find(loaded);
         CoreDataFile stream;
         stream.Open(file, DataFileMode::Read, password);
-        data.halfReadFile(nativePath(file));
         data.Read(stream);
-        if (stream.AtEnd()) {
-            data.halfReadFile({});
-        }
+        loaded.state = stream.AtEnd() ? State::Whole : State::Partly;
         stream.Close();
     });
+    data.loadedFile(std::move(loaded));
+    return done;
 }
 
 bool saveRecord(DATA& data, StringView file, StringView password)
@@ -28,11 +65,17 @@ bool saveRecord(DATA& data, StringView file, StringView password)
         CoreDataFile stream;
         stream.Open(file, DataFileMode::Write, password);
         data.Store(stream);
-        if (data.halfReadFile() == nativePath(file)) {
+        const auto path = nativePath(file);
+        if (data.loadedFile().path == path && !isAllRead(data.loadedFile())) {
             stream.keepOldFile();
         }
         stream.Close();
-        data.halfReadFile({});
+        LoadedFile saved{State::Whole, path, {}};
+        if (!ignoringErrors([&] { saved.status = fileSystem().status(path); })) {
+            saved = {};
+        }
+        keptRecords().saw(path);
+        data.loadedFile(std::move(saved));
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/AtomicFile.h"
 #include "core/FileSystem.h"
+#include "core/NativePath.h"
 #include "core/Platform.h"
 #include "core/RecordSeal.h"
 #include "core/RuntimeError.h"
@@ -18,8 +19,10 @@ namespace
 namespace fs = std::filesystem;
 using record_format::State;
 
-constexpr std::string_view DamagedMark = ".damaged";
-constexpr std::string_view KeptMark = ".kept";
+std::string_view markFor(KeptRecord::Reason reason)
+{
+    return reason == KeptRecord::Reason::Damaged ? ".damaged" : ".kept";
+}
 
 /// Two numbers with a point between them, the form of versions.
 std::optional<std::pair<unsigned, unsigned>> versionIn(const Variant& value)
@@ -47,11 +50,14 @@ bool isNewer(const Variant& stored, const Variant& written)
 
 } // namespace
 
-RecordFiles::RecordFiles(const Platform& platform) : files_(*platform.files), seal_(platform.seal.get()) {}
+RecordFiles::RecordFiles(const Platform& platform, KeptRecords* kept)
+    : files_(*platform.files), seal_(platform.seal.get()), kept_(kept)
+{
+}
 
 std::vector<Variant> RecordFiles::read(const fs::path& file, StringView password) const
 {
-    const std::string bytes = bytesOf(file);
+    const std::string bytes = bytesOf(file, files_.status(file).size);
     const record_format::Frame frame = record_format::frameOf(bytes);
     if (frame.state != State::Whole) {
         throw RuntimeError(ErrorNumber::InvalidArgument, u"Invalid argument: no whole record file");
@@ -67,21 +73,26 @@ void RecordFiles::write(const fs::path& file, StringView password, const RecordW
                         OldFile oldFile) const
 {
     const std::string bytes = framed(values.body(), password);
-    const auto aside = keepWhatIsNotReplaced(file, password, values, oldFile);
-    try {
-        replaceFile(files_, file, bytes);
-    } catch (const std::exception&) {
-        if (aside) {
-            ignoringErrors([&] { files_.rename(*aside, file); });
+    const auto reason = reasonToKeep(file, password, values, oldFile);
+    std::optional<fs::path> aside;
+    const auto note = [&] {
+        if (aside && kept_ != nullptr) {
+            kept_->add({*reason, systemPath(file), systemPath(*aside)});
         }
+    };
+    try {
+        const std::string_view mark = reason ? markFor(*reason) : std::string_view();
+        replaceFile(files_, file, bytes, {.keepOldAs = mark}, aside);
+    } catch (const std::exception&) {
+        note();
         throw;
     }
+    note();
 }
 
-std::string RecordFiles::bytesOf(const fs::path& file) const
+std::string RecordFiles::bytesOf(const fs::path& file, std::uintmax_t size) const
 {
-    std::error_code error;
-    if (fs::file_size(file, error) > record_format::MaxBytes && !error) {
+    if (size > record_format::MaxBytes) {
         return {}; // as if damaged
     }
     return files_.read(file);
@@ -112,34 +123,31 @@ auto RecordFiles::fromBody(const record_format::Frame& frame, StringView passwor
     return body ? std::optional(take(*body)) : std::nullopt;
 }
 
-/// The end of the name under which a file's old content is kept; none when it may be replaced.
-std::optional<std::string_view> RecordFiles::markToKeep(std::string_view bytes, StringView password,
-                                                        const RecordWriter& values) const
+/// Why old content is not simply replaced; none when it may be, or there is none.
+std::optional<KeptRecord::Reason> RecordFiles::reasonToKeep(const fs::path& file, StringView password,
+                                                            const RecordWriter& values, OldFile oldFile) const
 {
+    const FileStatus found = files_.status(file);
+    if (found.kind != FileStatus::Kind::File) {
+        return std::nullopt;
+    }
+    const auto reason = reasonToKeep(bytesOf(file, found.size), password, values);
+    return reason || oldFile == OldFile::Replace ? reason : std::optional(KeptRecord::Reason::NotRead);
+}
+
+std::optional<KeptRecord::Reason> RecordFiles::reasonToKeep(std::string_view bytes, StringView password,
+                                                            const RecordWriter& values) const
+{
+    using enum KeptRecord::Reason;
     const record_format::Frame frame = record_format::frameOf(bytes);
     if (frame.state != State::Whole) {
-        return frame.state == State::Newer ? KeptMark : DamagedMark;
+        return frame.state == State::Newer ? NotRead : Damaged;
     }
     std::optional<Variant> first;
     if (!ignoringErrors([&] { first = fromBody(frame, password, record_format::firstValueOf); })) {
-        return DamagedMark;
+        return Damaged;
     }
-    return !first || isNewer(*first, values.first()) ? std::optional(KeptMark) : std::nullopt;
-}
-
-/// Where the old content has gone; none when it may be replaced or there is none.
-std::optional<fs::path> RecordFiles::keepWhatIsNotReplaced(const fs::path& file, StringView password,
-                                                           const RecordWriter& values, OldFile oldFile) const
-{
-    std::error_code error;
-    if (!fs::is_regular_file(file, error)) {
-        return std::nullopt;
-    }
-    const auto mark = markToKeep(bytesOf(file), password, values);
-    if (!mark && oldFile == OldFile::Replace) {
-        return std::nullopt;
-    }
-    return moveAside(files_, file, mark.value_or(KeptMark));
+    return !first || isNewer(*first, values.first()) ? std::optional(NotRead) : std::nullopt;
 }
 
 } // namespace phial

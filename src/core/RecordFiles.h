@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/KeptRecords.h"
 #include "core/RecordFormat.h"
 #include "core/String.h"
 
@@ -26,8 +27,8 @@ enum class OldFile : std::uint8_t {
 /// Record files on the disk.
 ///
 /// A file is read whole and checked before its first value is handed out, and reading never changes anything.
-/// Writing replaces the file in one step. What it would replace without having read it is kept aside first,
-/// under the file's name with
+/// Writing replaces the file in one step. What it would replace without having read it is kept aside, and
+/// noted for people, under the file's name with
 ///
 /// - ".damaged", when the file is damaged or no record file;
 /// - ".kept", when it is whole but not ours to replace: of a later format, with a later version (the first
@@ -36,8 +37,9 @@ enum class OldFile : std::uint8_t {
 class RecordFiles
 {
 public:
-    /// Works on the files and with the seal of a platform, which must outlive this object.
-    explicit RecordFiles(const Platform& platform);
+    /// Works on the files and with the seal of a platform, and notes what is kept aside unless that is null.
+    /// Both must outlive this object.
+    explicit RecordFiles(const Platform& platform, KeptRecords* kept = nullptr);
 
     /// All values of a file. Raises 53 when there is none, 75 when it cannot be read or was not written with
     /// that password, 5 when it is damaged or of a later format.
@@ -49,21 +51,20 @@ public:
                OldFile oldFile = OldFile::Replace) const;
 
 private:
-    std::string bytesOf(const std::filesystem::path& file) const;
+    std::string bytesOf(const std::filesystem::path& file, std::uintmax_t size) const;
     std::string framed(const std::string& body, StringView password) const;
     /// What `take` makes of the body; none when the password is not the one that the file was written with.
     template <typename Take>
     auto fromBody(const record_format::Frame& frame, StringView password, const Take& take) const
         -> std::optional<decltype(take(frame.body))>;
-    std::optional<std::string_view> markToKeep(std::string_view bytes, StringView password,
-                                               const RecordWriter& values) const;
-    std::optional<std::filesystem::path> keepWhatIsNotReplaced(const std::filesystem::path& file,
-                                                               StringView password,
-                                                               const RecordWriter& values,
-                                                               OldFile oldFile) const;
+    std::optional<KeptRecord::Reason> reasonToKeep(const std::filesystem::path& file, StringView password,
+                                                   const RecordWriter& values, OldFile oldFile) const;
+    std::optional<KeptRecord::Reason> reasonToKeep(std::string_view bytes, StringView password,
+                                                   const RecordWriter& values) const;
 
     FileSystem& files_;
     RecordSeal* seal_;
+    KeptRecords* kept_;
 };
 
 } // namespace phial

@@ -3,6 +3,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreTheme.h"
 #include "core/CurrentFolder.h"
+#include "core/KeptRecords.h"
 #include "core/Locale.h"
 #include "core/Platform.h"
 
@@ -12,7 +13,7 @@ namespace phial
 {
 
 /// The state of the process that is not an object's own: the platform, the core library's root, the language
-/// and number format in force, the theme, and the current folder.
+/// and number format in force, the theme, the current folder, and what became of record files.
 ///
 /// A program or a test opens it with a platform and ends it by letting it go; one is open at a time, and the
 /// next starts afresh. Everything else reaches it through `current`.
@@ -35,6 +36,7 @@ public:
     phial::Locale& locale() { return locale_; }
     CoreTheme& theme() { return theme_; }
     phial::CurrentFolder& currentFolder() { return *currentFolder_; }
+    KeptRecords& keptRecords() { return keptRecords_; }
 
 private:
     phial::Platform platform_;
@@ -42,6 +44,7 @@ private:
     LocaleBinding localeBinding_{locale_};
     CoreTheme theme_;
     std::shared_ptr<phial::CurrentFolder> currentFolder_;
+    KeptRecords keptRecords_;
     CoreRoot root_;
 };
 

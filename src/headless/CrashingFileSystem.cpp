@@ -145,10 +145,21 @@ void CrashingFileSystem::write(const fs::path& file, std::string_view bytes)
     put(file, {}, bytes);
 }
 
+void CrashingFileSystem::writeLike(const fs::path& /*model*/, const fs::path& file, std::string_view bytes)
+{
+    put(file, {}, bytes);
+}
+
 void CrashingFileSystem::append(const fs::path& file, std::string_view bytes)
 {
     const auto known = names_.find(file);
     put(file, known == names_.end() ? std::string() : std::string(known->second->written), bytes);
+}
+
+void CrashingFileSystem::setTime(const fs::path& file, std::int64_t time)
+{
+    begin();
+    real_.setTime(file, time);
 }
 
 void CrashingFileSystem::flush(const fs::path& file)

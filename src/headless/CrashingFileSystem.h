@@ -35,14 +35,23 @@ public:
     /// Leaves the folder as that case has it, from 0, with all of it on the disk; the power is back.
     void restart(int outcome);
 
+    FileStatus status(const std::filesystem::path& path) override { return real_.status(path); }
+    bool mayReplace(const std::filesystem::path& file) override { return real_.mayReplace(file); }
     std::string read(const std::filesystem::path& file) override;
     void write(const std::filesystem::path& file, std::string_view bytes) override;
+    void writeLike(const std::filesystem::path& model, const std::filesystem::path& file,
+                   std::string_view bytes) override;
     void append(const std::filesystem::path& file, std::string_view bytes) override;
+    void setTime(const std::filesystem::path& file, std::int64_t time) override;
     void flush(const std::filesystem::path& file) override;
     void flushFolder(const std::filesystem::path& folder) override;
     void rename(const std::filesystem::path& from, const std::filesystem::path& to) override;
     void remove(const std::filesystem::path& file) override;
     void createFolder(const std::filesystem::path& folder) override;
+    SystemLock::Try lock(SystemLock& lock, const std::filesystem::path& file) override
+    {
+        return real_.lock(lock, file);
+    }
 
 private:
     /// A file's content, whatever its name.

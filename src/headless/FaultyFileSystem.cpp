@@ -24,8 +24,9 @@ FaultyFileSystem::FaultyFileSystem(std::shared_ptr<FileSystem> behind) : behind_
 
 void FaultyFileSystem::failChanges()
 {
-    for (const FileStep step : {FileStep::Write, FileStep::Append, FileStep::Flush, FileStep::FlushFolder,
-                                FileStep::Rename, FileStep::Remove, FileStep::CreateFolder}) {
+    using enum FileStep;
+    for (const FileStep step :
+         {MayReplace, Write, Append, SetTime, Flush, FlushFolder, Rename, Remove, CreateFolder, Lock}) {
         fail(step);
     }
 }
@@ -38,32 +39,67 @@ void FaultyFileSystem::protect(std::filesystem::path folder)
 void FaultyFileSystem::repair()
 {
     failing_.clear();
+    once_.reset();
+    locksBusy_ = false;
     protected_.clear();
     stepsLeft_.reset();
     bytesLeft_.reset();
 }
 
-void FaultyFileSystem::begin(FileStep step)
+std::error_code FaultyFileSystem::faultOf(FileStep step)
 {
-    ++steps_;
-    const bool ended = stepsLeft_ && (*stepsLeft_)-- <= 0;
-    if (ended || failing_.contains(step)) {
-        throw RuntimeError(ErrorNumber::FileAccess, u"injected fault");
+    const int number = steps_++;
+    if (once_ && once_->step == number) {
+        return std::make_error_code(once_->code);
     }
+    if (stepsLeft_ && (*stepsLeft_)-- <= 0) {
+        return std::make_error_code(std::errc::io_error);
+    }
+    const auto failing = failing_.find(step);
+    return failing == failing_.end() ? std::error_code() : std::make_error_code(failing->second);
+}
+
+void FaultyFileSystem::begin(FileStep step, const std::filesystem::path& path)
+{
+    if (const std::error_code fault = faultOf(step)) {
+        raiseFileError(fault, u"injected fault", path);
+    }
+}
+
+bool FaultyFileSystem::isProtected(const std::filesystem::path& path) const
+{
+    const auto [protectedEnd, pathEnd] = std::ranges::mismatch(protected_, path);
+    return !protected_.empty() && protectedEnd == protected_.end();
 }
 
 void FaultyFileSystem::change(FileStep step, const std::filesystem::path& path)
 {
-    begin(step);
-    const auto [protectedEnd, pathEnd] = std::ranges::mismatch(protected_, path);
-    if (!protected_.empty() && protectedEnd == protected_.end()) {
+    begin(step, path);
+    if (isProtected(path)) {
         throw RuntimeError(ErrorNumber::FileAccess, u"injected fault: protected folder");
     }
 }
 
+FileStatus FaultyFileSystem::status(const std::filesystem::path& path)
+{
+    const std::error_code fault = faultOf(FileStep::Status);
+    if (meansAbsent(fault)) {
+        return {};
+    }
+    if (fault) {
+        raiseFileError(fault, u"injected fault", path);
+    }
+    return behind_->status(path);
+}
+
+bool FaultyFileSystem::mayReplace(const std::filesystem::path& file)
+{
+    return !faultOf(FileStep::MayReplace) && !isProtected(file) && behind_->mayReplace(file);
+}
+
 std::string FaultyFileSystem::read(const std::filesystem::path& file)
 {
-    begin(FileStep::Read);
+    begin(FileStep::Read, file);
     return behind_->read(file);
 }
 
@@ -86,12 +122,27 @@ void FaultyFileSystem::write(const std::filesystem::path& file, std::string_view
     raiseIfCut(fitting, bytes);
 }
 
+void FaultyFileSystem::writeLike(const std::filesystem::path& model, const std::filesystem::path& file,
+                                 std::string_view bytes)
+{
+    change(FileStep::Write, file);
+    const std::string_view fitting = whatFits(bytes);
+    behind_->writeLike(model, file, fitting);
+    raiseIfCut(fitting, bytes);
+}
+
 void FaultyFileSystem::append(const std::filesystem::path& file, std::string_view bytes)
 {
     change(FileStep::Append, file);
     const std::string_view fitting = whatFits(bytes);
     behind_->append(file, fitting);
     raiseIfCut(fitting, bytes);
+}
+
+void FaultyFileSystem::setTime(const std::filesystem::path& file, std::int64_t time)
+{
+    change(FileStep::SetTime, file);
+    behind_->setTime(file, time);
 }
 
 void FaultyFileSystem::flush(const std::filesystem::path& file)
@@ -122,6 +173,14 @@ void FaultyFileSystem::createFolder(const std::filesystem::path& folder)
 {
     change(FileStep::CreateFolder, folder);
     behind_->createFolder(folder);
+}
+
+SystemLock::Try FaultyFileSystem::lock(SystemLock& lock, const std::filesystem::path& file)
+{
+    if (faultOf(FileStep::Lock) || isProtected(file)) {
+        return SystemLock::Try::Impossible;
+    }
+    return locksBusy_ ? SystemLock::Try::Busy : behind_->lock(lock, file);
 }
 
 } // namespace phial::headless

@@ -3,6 +3,7 @@
 #include "core/NativePath.h"
 #include "core/Process.h"
 #include "headless/FaultyFileSystem.h"
+#include "support/EveryFault.h"
 #include "support/Raises.h"
 #include "support/TemporaryFolder.h"
 
@@ -80,6 +81,85 @@ TEST_F(AtomicFile, TemporaryFilesOfEndedProgramsAreClearedAtTheNextSave)
     EXPECT_THAT(folder.names(), ElementsAre("list.dat", running, other));
 }
 
+TEST_F(AtomicFile, TheRightsOfTheOldFileStay)
+{
+    using enum std::filesystem::perms;
+    for (const std::filesystem::perms rights : {owner_read | owner_write, owner_all | group_all | others_all,
+                                                owner_read, owner_read | owner_write | group_read}) {
+        folder.write("list.dat", "old");
+        std::filesystem::permissions(target, rights);
+        replaceFile(files, target, "new");
+        EXPECT_EQ(folder.read("list.dat"), "new");
+        EXPECT_EQ(std::filesystem::status(target).permissions(), rights);
+        std::filesystem::remove(target);
+    }
+}
+
+TEST_F(AtomicFile, AFileIsReplacedAlthoughTheFolderCannotBeFlushed)
+{
+    folder.write("list.dat", "old");
+    files.fail(FileStep::FlushFolder);
+    replaceFile(files, target, "new");
+    EXPECT_EQ(folder.read("list.dat"), "new");
+}
+
+TEST_F(AtomicFile, GetsTheTimeThatIsWished)
+{
+    constexpr std::int64_t Time = 1'600'000'000'000'000'005;
+    replaceFile(files, target, "new", {.time = Time});
+    EXPECT_EQ(files.status(target).time, Time);
+    files.fail(FileStep::SetTime);
+    replaceFile(files, target, "newer", {.time = Time});
+    EXPECT_EQ(folder.read("list.dat"), "newer");
+    EXPECT_NE(files.status(target).time, Time);
+}
+
+TEST_F(AtomicFile, TheOldFileIsKeptOnWish)
+{
+    folder.write("list.dat", "old");
+    std::optional<std::filesystem::path> aside;
+    replaceFile(files, target, "new", {.keepOldAs = ".kept"}, aside);
+    EXPECT_EQ(aside, folder.native() / "list.dat.kept");
+    EXPECT_EQ(folder.read("list.dat.kept"), "old");
+    EXPECT_EQ(folder.read("list.dat"), "new");
+}
+
+TEST_F(AtomicFile, WhatIsKeptGoesBackWhenTheReplacementFails)
+{
+    std::optional<std::filesystem::path> aside;
+    const auto prepare = [&] {
+        std::filesystem::remove(folder.native() / "list.dat.kept");
+        folder.write("list.dat", "old");
+    };
+    bool isReplaced = false;
+    const auto work = [&] {
+        isReplaced =
+            ignoringErrors([&] { replaceFile(files, target, "new", {.keepOldAs = ".kept"}, aside); });
+    };
+    const int faults = test::withEveryFault(files, prepare, work, [&] {
+        EXPECT_EQ(folder.read("list.dat"), isReplaced ? "new" : "old");
+        EXPECT_EQ(folder.has("list.dat.kept"), isReplaced);
+        EXPECT_EQ(aside.has_value(), isReplaced);
+        EXPECT_THAT(folder.names(), ::testing::SizeIs(isReplaced ? 2 : 1));
+    });
+    EXPECT_GE(faults, 30);
+}
+
+TEST_F(AtomicFile, SaysWhatIsKeptWhereItCannotGoBack)
+{
+    folder.write("list.dat", "old");
+    std::optional<std::filesystem::path> aside;
+    int steps = files.steps();
+    replaceFile(files, folder.native() / "other.dat", "x", {}, aside);
+    steps = files.steps() - steps;
+    // All works until the old file is aside; then the disk has gone.
+    files.failAfter(steps);
+    EXPECT_RAISES(replaceFile(files, target, "new", {.keepOldAs = ".kept"}, aside), FileAccess);
+    files.repair();
+    EXPECT_EQ(folder.read("list.dat.kept"), "old");
+    EXPECT_EQ(aside, folder.native() / "list.dat.kept");
+}
+
 TEST_F(AtomicFile, ALinkIsFollowedAndStays)
 {
     folder.write("real/list.dat", "old");
@@ -103,6 +183,34 @@ TEST_F(AtomicFile, DamagedFilesAreKeptUnderFreeNames)
     EXPECT_EQ(moveAside(files, target), folder.native() / "list.dat.damaged2");
     EXPECT_THAT(folder.names(), ElementsAre("list.dat.damaged", "list.dat.damaged2"));
     EXPECT_EQ(folder.read("list.dat.damaged"), "first");
+}
+
+TEST_F(AtomicFile, AThousandNamesAreEnough)
+{
+    folder.write("list.dat", "old");
+    folder.write("list.dat.damaged", "x");
+    for (int number = 2; number <= 999; ++number) {
+        folder.write("list.dat.damaged" + std::to_string(number), "x");
+    }
+    EXPECT_EQ(moveAside(files, target), folder.native() / "list.dat.damaged1000");
+    folder.write("list.dat", "newer");
+    EXPECT_RAISES(moveAside(files, target), FileAccess);
+    EXPECT_EQ(folder.read("list.dat"), "newer");
+}
+
+TEST_F(AtomicFile, WhatIsMovedAsideStaysWhereTheFolderCannotBeFlushed)
+{
+    folder.write("list.dat", "old");
+    files.fail(FileStep::FlushFolder);
+    EXPECT_RAISES(moveAside(files, target), FileAccess);
+    EXPECT_THAT(folder.names(), ElementsAre("list.dat"));
+}
+
+TEST_F(AtomicFile, ALinkThatLeadsInACircleIsNotReplaced)
+{
+    std::filesystem::create_symlink("list.dat", target);
+    EXPECT_RAISES(replaceFile(files, target, "new"), FileAccess);
+    EXPECT_TRUE(std::filesystem::is_symlink(target));
 }
 
 TEST(Process, ThisOneRunsAndNumberZeroDoesNot)

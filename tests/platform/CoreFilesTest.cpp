@@ -181,6 +181,40 @@ TEST_F(CoreFilesTest, CopyReplacesTheTargetInOneStep)
     EXPECT_RAISES(files.Copy(path + u"missing.txt", path + u"b.txt"), FileNotFound);
 }
 
+TEST_F(CoreFilesTest, CopyKeepsTheTimeOfTheLastChange)
+{
+    folder.write("a.txt", "new");
+    std::filesystem::last_write_time(folder.native() / "a.txt",
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(48));
+    files.Copy(path + u"a.txt", path + u"b.txt");
+    EXPECT_EQ(files.Changed(path + u"b.txt"), files.Changed(path + u"a.txt"));
+    folder.write("a.txt", "newer");
+    EXPECT_NE(files.Changed(path + u"b.txt"), files.Changed(path + u"a.txt"));
+    files.Copy(path + u"a.txt", path + u"b.txt");
+    EXPECT_EQ(files.Changed(path + u"b.txt"), files.Changed(path + u"a.txt"));
+}
+
+TEST_F(CoreFilesTest, APathWithNulIsNone)
+{
+    const String nul(u"a\0b.txt", 7);
+    folder.write("a", "x");
+    EXPECT_FALSE(files.Exists(path + nul));
+    EXPECT_FALSE(files.WriteText(path + nul, u"x"));
+    EXPECT_FALSE(files.Delete(path + nul));
+    EXPECT_RAISES(files.ReadText(path + nul), FileNotFound);
+    EXPECT_RAISES(files.CreateFolder(path + nul), FileAccess);
+    EXPECT_THAT(folder.names(), testing::ElementsAre("a"));
+}
+
+TEST_F(CoreFilesTest, WhatCannotBeAskedForCountsAsMissing)
+{
+    folder.write("a.txt", "x");
+    outside.files().fail(FileStep::Status);
+    EXPECT_FALSE(files.Exists(path + u"a.txt"));
+    EXPECT_FALSE(files.FolderExists(path));
+    EXPECT_EQ(files.Changed(path + u"a.txt"), FileStamp());
+}
+
 TEST_F(CoreFilesTest, TheStampDiffersAfterAChange)
 {
     folder.write("a.txt", "x");

@@ -1,5 +1,7 @@
 #include "core/FileLock.h"
 
+#include "core/EventPump.h"
+#include "core/RuntimeError.h"
 #include "support/ChildProgram.h"
 #include "support/HeadlessSession.h"
 
@@ -74,6 +76,60 @@ TEST_F(FileLocks, AnotherProgramIsWaitedForToALimit)
     ASSERT_EQ(other.readLine(), "held");
     EXPECT_FALSE(FileLock(list()).held());
     EXPECT_NEAR(waited(), std::chrono::duration<double>(FileLock::MaxWait).count(), 0.02);
+}
+
+TEST_F(FileLocks, EventsRunDuringTheWait)
+{
+    test::ChildProgram other = otherProgram();
+    ASSERT_EQ(other.readLine(), "held");
+    int ticks = 0;
+    const Connection ticking = session.platform().pump->startTimer(100, [&] { ++ticks; });
+    EXPECT_FALSE(FileLock(list()).held());
+    EXPECT_NEAR(ticks, 30, 1);
+}
+
+TEST_F(FileLocks, AHandlerMayTakeTheSameLockDuringTheWait)
+{
+    test::ChildProgram other = otherProgram();
+    ASSERT_EQ(other.readLine(), "held");
+    std::optional<FileLock> inner;
+    const Connection ticking = session.platform().pump->startTimer(1000, [&] {
+        other.finish();
+        inner.emplace(list());
+    });
+    const FileLock outer(list());
+    ASSERT_TRUE(inner.has_value());
+    EXPECT_TRUE(inner->held());
+    EXPECT_TRUE(outer.held());
+    EXPECT_NEAR(waited(), 1, 0.02);
+}
+
+TEST_F(FileLocks, WhereNoneCanBeMadeNobodyWaits)
+{
+    outside.files().fail(headless::FileStep::Lock);
+    EXPECT_FALSE(FileLock(list()).held());
+    EXPECT_EQ(waited(), 0);
+}
+
+/// A loop that fails where it is run.
+class BrokenPump : public EventPump
+{
+public:
+    void pumpFor(double) override { throw RuntimeError(ErrorNumber::InvalidArgument); }
+    Connection startTimer(std::int32_t, std::function<void()>) override { return {}; }
+    void post(std::function<void()>) override {}
+};
+
+TEST(FileLock, AWaitThatFailsEndsWithoutTheLock)
+{
+    const test::TemporaryFolder folder;
+    const auto files = std::make_shared<headless::FaultyFileSystem>(std::make_shared<NativeFileSystem>());
+    files->keepLocksBusy();
+    Platform platform;
+    platform.pump = std::make_shared<BrokenPump>();
+    platform.files = files;
+    const SessionState session(platform);
+    EXPECT_FALSE(FileLock(folder.path() + u"list").held());
 }
 
 TEST_F(FileLocks, WhatAnotherProgramLetGoIsHeld)
