@@ -42,8 +42,8 @@ Platform HeadlessPlatform::platform() const
     platform.environment = environment_;
     platform.random = random_;
     platform.files = files_;
-    platform.newNetClient = [network = network_, pump = pump_] {
-        return std::make_shared<ScriptedNetClient>(network, pump);
+    platform.newNetClient = [network = network_, pump = pump_, clock = clock_] {
+        return std::make_shared<ScriptedNetClient>(network, pump, clock);
     };
     platform.newFormDocument = [forms = forms_] { return forms->newDocument(); };
     platform.newInterCom = [interCom = interCom_] { return interCom; };

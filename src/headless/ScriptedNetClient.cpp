@@ -8,8 +8,8 @@ namespace phial::headless
 {
 
 ScriptedNetClient::ScriptedNetClient(std::shared_ptr<ScriptedNetwork> network,
-                                     std::shared_ptr<EventPump> pump)
-    : network_(std::move(network)), pump_(std::move(pump)),
+                                     std::shared_ptr<EventPump> pump, std::shared_ptr<Clock> clock)
+    : network_(std::move(network)), pump_(std::move(pump)), clock_(std::move(clock)),
       messages_(network_->messages_.connect(
           [this](const String& text, bool& rHandled) { rHandled = receive(text) || rHandled; }))
 {
@@ -49,14 +49,17 @@ String ScriptedNetClient::Request(StringView pMessage, StringView pIP, std::int3
     if (!pWait) {
         return {};
     }
+    const String withoutAnswer(pTimeoutAnswer); // handlers may change what the view shows
+    const MasterPatience::Wait wait(patience_, *clock_);
     const double delay = network_->answerDelay_;
     if (!answer || delay > timeout) {
-        pump_->pumpFor(timeout);
-        return String(pTimeoutAnswer);
+        pump_->pumpFor(patience_.allowed(timeout));
+        return withoutAnswer;
     }
     if (delay > 0) {
         pump_->pumpFor(delay);
     }
+    patience_.signOfLife(clock_->seconds());
     return *answer;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "core/Clock.h"
 #include "core/CoreNetClient.h"
 #include "core/EventPump.h"
+#include "server/MasterPatience.h"
 
 #include <cstdint>
 #include <functional>
@@ -64,11 +66,12 @@ private:
 };
 
 /// A network client whose far side is scripted. Where no answer comes, the response time-out passes on the
-/// clock, with events pumped.
+/// clock, with events pumped, as far as `MasterPatience` allows.
 class ScriptedNetClient : public CoreNetClient
 {
 public:
-    ScriptedNetClient(std::shared_ptr<ScriptedNetwork> network, std::shared_ptr<EventPump> pump);
+    ScriptedNetClient(std::shared_ptr<ScriptedNetwork> network, std::shared_ptr<EventPump> pump,
+                      std::shared_ptr<Clock> clock);
 
     /// Lets a message come in; gives whether a handler took it. Nothing comes in before `EnableReceive`.
     bool receive(const String& text);
@@ -84,6 +87,8 @@ public:
 private:
     std::shared_ptr<ScriptedNetwork> network_;
     std::shared_ptr<EventPump> pump_;
+    std::shared_ptr<Clock> clock_;
+    MasterPatience patience_;
     CoreNetOptions options_;
     bool receiving_ = false;
     Connection messages_;

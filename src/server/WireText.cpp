@@ -157,6 +157,11 @@ Variant answerValue(StringView answer)
     return unpackedValue(payload);
 }
 
+bool isRefusal(const Variant& value)
+{
+    return value == Variant(u"ERROR");
+}
+
 StringView answerPayload(StringView answer)
 {
     return answer.substr(std::min(PayloadStart, answer.size()));

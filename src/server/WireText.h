@@ -3,6 +3,7 @@
 #include "core/String.h"
 #include "core/Variant.h"
 
+#include <cstddef>
 #include <optional>
 
 namespace phial
@@ -23,6 +24,9 @@ struct WireRequest {
     friend bool operator==(const WireRequest&, const WireRequest&) = default;
 };
 
+/// A result whose package is longer than so many units is not handed in: a master refuses it.
+inline constexpr std::size_t MaxResultUnits = 65'536;
+
 String requestText(StringView module, StringView command, StringView package);
 
 /// The parts of a request's text. The first two "::" divide it, so that a package may hold further ones; no
@@ -37,6 +41,9 @@ String answerText(const Variant& value);
 /// beyond the type's range, and what CoreValuePacker::unpackAll raises; 5 for a packed text that does not
 /// hold exactly one value.
 Variant answerValue(StringView answer);
+
+/// Whether a value is the word with which a master refuses: an answer that says nothing.
+bool isRefusal(const Variant& value);
 
 /// What follows the type and the separator.
 StringView answerPayload(StringView answer);

@@ -37,7 +37,6 @@ namespace
 
 constexpr StringView NoAnswer = u"ERR:Timeout";
 constexpr StringView LogonAccepted = u"LOGON:OK";
-constexpr StringView Refusal = u"ERROR";
 
 // Seconds.
 constexpr double PumpTime = 0.05;
@@ -68,9 +67,9 @@ double randomTime(double longest)
 }
 
 /// Whether a master's answer says nothing: the word for an error, the empty text, or no value.
-bool isNoAnswer(const Variant& answer)
+bool saysNothing(const Variant& answer)
 {
-    return answer.isEmpty() || answer == Variant(u"") || answer == Variant(Refusal);
+    return answer.isEmpty() || answer == Variant(u"") || isRefusal(answer);
 }
 
 /// An answer as a number, 0 for what is none.
@@ -109,6 +108,7 @@ private:
 struct cls_AppServer::Reply {
     Variant value;
     std::optional<String> error;
+    bool isAnswer = true;
 
     template <typename Statement>
     void attempt(Statement&& statement)
@@ -306,7 +306,7 @@ cls_AppServer::Reply cls_AppServer::ask(StringView module, StringView command, S
     lastAnswer_.clear();
     ignoringErrors([&] { note(String(u"REQUEST: ").append(module).append(u":").append(command)); });
     const auto answer = sendUntilAnswered(requestText(module, command, package), responseTimeout(package));
-    return answer ? evaluate(*answer) : Reply{u"", std::nullopt};
+    return answer ? evaluate(*answer) : Reply{u"", std::nullopt, false};
 }
 
 /// What fails is the pending error of the reply.
@@ -404,22 +404,54 @@ Variant cls_AppServer::REQUEST(StringView pModule, StringView pCmd, StringView p
     return ask(pModule, pCmd, pPackage).value;
 }
 
-void cls_AppServer::COMMAND(StringView pModule, StringView pCmd, StringView pPackage)
+std::optional<Variant> cls_AppServer::answerTo(StringView module, StringView command, StringView package)
 {
     const auto alive = keptAlive();
     if (!online_ && !CONNECT()) {
-        return;
+        return std::nullopt;
     }
-    note(String(u"COMMAND: ").append(pModule).append(u":").append(pCmd));
-    ignoringErrors([&] { send(requestText(pModule, pCmd, pPackage)); });
+    Reply reply = ask(module, command, package);
+    return reply.isAnswer ? std::optional(std::move(reply.value)) : std::nullopt;
+}
+
+void cls_AppServer::COMMAND(StringView pModule, StringView pCmd, StringView pPackage)
+{
+    deliver(pModule, pCmd, pPackage);
+}
+
+cls_AppServer::Delivery cls_AppServer::deliver(StringView module, StringView command, StringView package)
+{
+    const auto alive = keptAlive();
+    if (!online_ && !CONNECT()) {
+        return Delivery::Unanswered;
+    }
+    note(String(u"COMMAND: ").append(module).append(u":").append(command));
+    String answer(NoAnswer);
+    ignoringErrors([&] { answer = send(requestText(module, command, package)); });
+    if (answer == NoAnswer) {
+        return Delivery::Unanswered;
+    }
+    return isRefusal(answerPayload(answer)) ? Delivery::Refused : Delivery::Taken;
+}
+
+bool cls_AppServer::isStillThere()
+{
+    const auto alive = keptAlive();
+    if (!ONLINE()) {
+        return AVAILABLE();
+    }
+    return deliver(u"SERVER", u"MODE") != Delivery::Unanswered || CONNECT();
 }
 
 void cls_AppServer::DISCONNECT()
 {
+    const auto alive = keptAlive();
+    if (offlineEvents_) {
+        offlineEvents_->saveRest();
+    }
     if (!online_) {
         return;
     }
-    const auto alive = keptAlive();
     ignoringErrors([this] { COMMAND(u"SERVER", u"LOGOFF", QVAPP()->USER()->SCREENNAME()); });
     for (int closing = 0; closing < 2; ++closing) {
         ignoringErrors([this] { networkClient().Close(); });
@@ -441,7 +473,7 @@ Variant cls_AppServer::SETTING(StringView pSettingName, const Variant& pDefaultV
     }
     Variant value;
     ignoringErrors([&] { value = REQUEST(u"PROPERTIES", u"GET", pSettingName); });
-    return isNoAnswer(value) ? pDefaultValue : value;
+    return saysNothing(value) ? pDefaultValue : value;
 }
 
 void cls_AppServer::ACTION(StringView pAction, const CoreParameters* pAdditional)
@@ -476,7 +508,7 @@ bool cls_AppServer::ALLOWED(bool pShowInfo)
         return false;
     };
     const Variant mode = askForMode();
-    if (isNoAnswer(mode)) {
+    if (saysNothing(mode)) {
         return refuse(u"Der Master antwortet leider nicht!");
     }
     if (asNumber(mode) == 0) {
@@ -484,7 +516,7 @@ bool cls_AppServer::ALLOWED(bool pShowInfo)
                       u"ausgewählt wurde!");
     }
     const Variant chosen = REQUEST(u"SERVER", u"GAMEIDENT");
-    if (isNoAnswer(chosen)) {
+    if (saysNothing(chosen)) {
         return refuse(u"Der Master antwortet nicht");
     }
     const std::shared_ptr<cls_AppConfig>& app = QVAPP()->CONFIG();
@@ -501,7 +533,7 @@ Variant cls_AppServer::askForMode()
 {
     for (int request = 1;; ++request) {
         Variant mode = REQUEST(u"SERVER", u"MODE");
-        if (!isNoAnswer(mode) || request == ModeRequests) {
+        if (!saysNothing(mode) || request == ModeRequests) {
             return mode;
         }
         wait(PauseBeforeNextModeRequest);

@@ -5,6 +5,7 @@
 #include "core/Variant.h"
 #include "server/NetLog.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 
@@ -50,7 +51,7 @@ public:
     /// Logs on under the user's screen name, for which the user is asked if there is none. Raises 91 without
     /// a network client.
     bool CONNECT();
-    /// Logs off, if logged on; may be called again.
+    /// Saves the events that could not be saved before. Logs off, if logged on; may be called again.
     void DISCONNECT();
     /// Lets the next call try again after the client has given up.
     void RECHECK() { offlineFixed_ = false; }
@@ -64,6 +65,21 @@ public:
     Variant REQUEST(StringView pModule, StringView pCmd, StringView pPackage = {});
     /// A message whose answer is of no interest.
     void COMMAND(StringView pModule, StringView pCmd, StringView pPackage = {});
+
+    /// What became of a message.
+    enum class Delivery : std::uint8_t {
+        Unanswered, ///< the master may have it or not
+        Refused,    ///< it has answered with its word for that
+        Taken,
+    };
+    /// `COMMAND` for senders that must know whether the message has come in.
+    Delivery deliver(StringView module, StringView command, StringView package = {});
+    /// `REQUEST` for askers that must tell an empty answer from none: no value where no answer has come.
+    std::optional<Variant> answerTo(StringView module, StringView command, StringView package = {});
+    /// Whether a master can be used and is there at this moment: asks it something small, once, and logs on
+    /// anew where no answer comes, so that the client is offline afterwards when the master has gone.
+    bool isStillThere();
+
     /// Tells a master that this client is still there; nothing while not logged on.
     void ALIVE();
     /// Whether this app may run now; `pShowInfo` tells the user why not.

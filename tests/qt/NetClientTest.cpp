@@ -13,9 +13,16 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+#include <array>
 #include <gtest/gtest.h>
 #include <optional>
 #include <vector>
+
+#ifdef __linux__
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+#endif
 
 using namespace phial;
 using namespace phial::qt;
@@ -297,6 +304,89 @@ TEST_F(NetClientTest, ConnectsAnewAfterTwoWaitsWithoutASignOfLife)
     echo();
     EXPECT_EQ(ask(u"x"), u"x");
     EXPECT_EQ(master_.connectionsMade(), 2);
+}
+
+#ifdef __linux__
+
+/// A computer that takes no connection and does not say so: its queue of those that wait is full.
+class DeafComputer
+{
+public:
+    DeafComputer() : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    {
+        sockaddr_in place = {};
+        place.sin_family = AF_INET;
+        place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        auto* const address = reinterpret_cast<sockaddr*>(&place);
+        socklen_t size = sizeof place;
+        isDeaf_ = ::bind(socket_, address, size) == 0 && ::listen(socket_, 0) == 0 &&
+                  ::getsockname(socket_, address, &size) == 0;
+        port_ = ntohs(place.sin_port);
+        for (int& waiting : waiting_) {
+            waiting = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+            ::connect(waiting, address, size);
+        }
+    }
+    ~DeafComputer()
+    {
+        for (const int waiting : waiting_) {
+            ::close(waiting);
+        }
+        ::close(socket_);
+    }
+    DeafComputer(const DeafComputer&) = delete;
+    DeafComputer& operator=(const DeafComputer&) = delete;
+
+    bool isDeaf() const { return isDeaf_; }
+    std::int32_t port() const { return port_; }
+
+private:
+    int socket_;
+    std::array<int, 3> waiting_ = {};
+    bool isDeaf_ = false;
+    std::int32_t port_ = 0;
+};
+
+TEST_F(NetClientTest, TheTimeToConnectIsPartOfTheTimeToAnswer)
+{
+    const DeafComputer computer;
+    ASSERT_TRUE(computer.isDeaf());
+    options().ConnectTimeout = 30;
+    options().ResponseTimeout = Brief;
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_RAISES(client_->Request(u"x", u"127.0.0.1", computer.port(), nullptr, true, NoAnswer),
+                  DeviceUnavailable);
+    EXPECT_LT(timer.elapsed(), 10'000);
+}
+
+TEST_F(NetClientTest, AComputerThatHasVanishedIsWaitedForToALimitInAll)
+{
+    const DeafComputer computer;
+    ASSERT_TRUE(computer.isDeaf());
+    client_ = std::make_unique<QtNetClient>(guard_, MasterPatience::Limits{.silence = Brief, .knock = 0.001});
+    options().ConnectTimeout = 30;
+    options().ResponseTimeout = 30;
+    QElapsedTimer timer;
+    timer.start();
+    for (int request = 0; request < 6; ++request) {
+        EXPECT_RAISES(client_->Request(u"x", u"127.0.0.1", computer.port(), nullptr, true, NoAnswer),
+                      DeviceUnavailable);
+    }
+    EXPECT_LT(timer.elapsed(), 10'000);
+}
+
+#endif
+
+TEST_F(NetClientTest, IsPatientAgainWithAMasterThatGivesASignOfLife)
+{
+    client_ = std::make_unique<QtNetClient>(guard_, MasterPatience::Limits{.silence = 0.5, .knock = 0});
+    for (double waited = 0; waited < 0.6; waited += Brief) {
+        silence();
+        EXPECT_EQ(askBriefly(u"one"), NoAnswer);
+        echo();
+        EXPECT_EQ(ask(u"two"), u"two");
+    }
 }
 
 TEST_F(NetClientTest, EndsWaitsWhenItIsClosed)

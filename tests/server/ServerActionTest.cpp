@@ -1,5 +1,7 @@
 #include "app/cls_AppURL.h"
 #include "core/CoreValuePacker.h"
+#include "core/EventPump.h"
+#include "core/SessionState.h"
 #include "results/cls_DataEvent.h"
 #include "results/cls_DataEvents.h"
 #include "server/ServerTest.h"
@@ -167,6 +169,63 @@ TEST_F(ServerAction, StandsBehindThoseOfOthersWhereItCouldNotBeSaved)
     addByAnother(u"other");
     server().ACTION(u"mine 3");
     EXPECT_THAT(stored(), ElementsAre(u"mine 1", u"other", u"mine 2", u"mine 3"));
+}
+
+TEST_F(ServerAction, IsSavedAtTheEndWhereTheDiskWasFull)
+{
+    beOffline();
+    server().ACTION(u"1");
+    outside.files().failChanges();
+    server().ACTION(u"2");
+    outside.files().repair();
+    addByAnother(u"other");
+    server().DISCONNECT();
+    EXPECT_THAT(stored(), ElementsAre(u"1", u"other", u"2"));
+    const int steps = outside.files().steps();
+    server().DISCONNECT();
+    EXPECT_EQ(outside.files().steps(), steps);
+}
+
+TEST_F(ServerAction, KeepsADamagedLogAside)
+{
+    beOffline();
+    folder.write("highscores/event.qv-log", "half a fi");
+    server().ACTION(u"1");
+    EXPECT_THAT(stored(), ElementsAre(u"1"));
+    EXPECT_EQ(folder.read("highscores/event.qv-log.damaged"), "half a fi");
+    server().ACTION(u"2");
+    EXPECT_THAT(stored(), ElementsAre(u"1", u"2"));
+    EXPECT_FALSE(folder.has("highscores/event.qv-log.kept"));
+}
+
+TEST_F(ServerAction, WaitsWhileTheLogCannotBeRead)
+{
+    beOffline();
+    addByAnother(u"earlier");
+    outside.files().fail(headless::FileStep::Read, std::errc::permission_denied);
+    server().ACTION(u"1");
+    server().ACTION(u"2");
+    outside.files().repair();
+    EXPECT_THAT(stored(), ElementsAre(u"earlier"));
+    server().ACTION(u"3");
+    EXPECT_THAT(stored(), ElementsAre(u"earlier", u"1", u"2", u"3"));
+    EXPECT_FALSE(folder.has("highscores/event.qv-log.kept"));
+}
+
+TEST_F(ServerAction, MayBeCalledWhileItWaitsForTheLock)
+{
+    beOffline();
+    server().CONNECT();
+    outside.files().keepLocksBusy();
+    int inner = 0;
+    const Connection ticking = SessionState::current().platform().pump->startTimer(1000, [&] {
+        outside.files().repair();
+        server().ACTION(u"inner");
+        ++inner;
+    });
+    server().ACTION(u"outer");
+    EXPECT_EQ(inner, 1);
+    EXPECT_THAT(stored(), ElementsAre(u"inner", u"outer"));
 }
 
 TEST_F(ServerAction, SavesAllItKnowsWhereTheFileHasGone)

@@ -103,6 +103,18 @@ TEST_F(ServerQuestions, TheModeIsAskedForThreeTimes)
     EXPECT_EQ(seconds(), 2 * 0.5);
 }
 
+TEST_F(ServerQuestions, AMasterThatHasVanishedIsAskedForAboutAMinuteInAll)
+{
+    logOn();
+    master.isThere(false);
+    expectRefusal(NoAnswerAtAll);
+    EXPECT_EQ(requestsFrom(1).size(), 3U * 6U);
+    EXPECT_LT(seconds(), 66);
+    const double before = seconds();
+    server().DISCONNECT();
+    EXPECT_LT(seconds() - before, 1);
+}
+
 TEST_F(ServerQuestions, TheThirdAnswerCounts)
 {
     logOn();

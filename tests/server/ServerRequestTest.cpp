@@ -171,6 +171,49 @@ TEST_F(ServerRequest, DropsTheAnswerAndTheFailureOfACommand)
     EXPECT_EQ(server().lastAnswer(), before);
 }
 
+TEST_F(ServerRequest, TellsWhatBecameOfAMessage)
+{
+    using Delivery = cls_AppServer::Delivery;
+    for (const StringView taken : {u"008:OK", u"008:", u"003:7", u"008:ERRORS", u"OK"}) {
+        master.answersOne(String(taken));
+        EXPECT_EQ(server().deliver(u"A", u"B"), Delivery::Taken) << toUtf8(taken);
+    }
+    EXPECT_EQ(server().deliver(u"A", u"B", u"refused"), Delivery::Refused);
+    master.missesOne();
+    EXPECT_EQ(server().deliver(u"A", u"B"), Delivery::Unanswered);
+    master.breaksOne();
+    EXPECT_EQ(server().deliver(u"A", u"B"), Delivery::Unanswered);
+}
+
+TEST_F(ServerRequest, TellsAnEmptyAnswerFromNone)
+{
+    master.knows(u"A:B", u"");
+    EXPECT_EQ(server().answerTo(u"A", u"B"), Variant(u""));
+    EXPECT_EQ(server().answerTo(u"A", u"C"), Variant(u"ERROR"));
+    master.isThere(false);
+    EXPECT_EQ(server().answerTo(u"A", u"B"), std::nullopt);
+    QVAPP()->SERVER(nullptr);
+    server().INIT();
+    EXPECT_EQ(server().answerTo(u"A", u"B"), std::nullopt);
+    EXPECT_EQ(server().deliver(u"A", u"B"), cls_AppServer::Delivery::Unanswered);
+}
+
+TEST_F(ServerRequest, FindsOutWhetherTheMasterIsStillThere)
+{
+    EXPECT_TRUE(server().isStillThere());
+    EXPECT_THAT(requestsFrom(1), ElementsAre(u"SERVER:MODE"));
+    master.missesOne();
+    EXPECT_TRUE(server().isStillThere()) << "it has logged on anew";
+    EXPECT_EQ(master.requests().back(), u"SERVER:LOGON");
+    master.isThere(false);
+    EXPECT_FALSE(server().isStillThere());
+    EXPECT_FALSE(server().ONLINE());
+    EXPECT_LT(seconds(), 70);
+    master.isThere(true);
+    EXPECT_TRUE(server().isStillThere());
+    EXPECT_TRUE(server().ONLINE());
+}
+
 TEST_F(ServerRequest, TellsThatItIsAlive)
 {
     server().ALIVE();

@@ -163,6 +163,7 @@ void NetConnection::opened()
     state_ = State::Open;
     socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
     socket_.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+    reports_.signOfLife();
     reports_.traffic(TrafficKind::Note, peer_, u"verbunden|connected");
     if (!unsent_.empty()) {
         socket_.write(unsent_.data(), static_cast<qint64>(unsent_.size()));
@@ -186,6 +187,7 @@ void NetConnection::read()
             return;
         }
         silentWaits_ = 0;
+        reports_.signOfLife();
         reader_.feed(std::string_view(piece_).substr(0, static_cast<std::size_t>(count)));
         for (auto frame = reader_.next(); frame && state_ == State::Open; frame = reader_.next()) {
             take(*std::move(frame));

@@ -33,6 +33,8 @@ public:
         std::function<void(const Frame& frame, const QTcpSocket& from)> message;
         /// A note is "German|English".
         std::function<void(TrafficKind kind, StringView peer, StringView text)> traffic;
+        /// The connection is there, or something has come over it.
+        std::function<void()> signOfLife;
     };
 
     /// Begins to connect; host and port as a request names them. `pieceBytes` are taken from the socket at a

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -40,8 +41,9 @@ String peerOf(const QTcpSocket& socket)
 class QtNetClient::Exchange : public std::enable_shared_from_this<Exchange>
 {
 public:
-    Exchange(QtNetClient& client, std::shared_ptr<DispatchGuard> guard, std::shared_ptr<TrafficLog> traffic)
-        : client_(&client), guard_(std::move(guard)), traffic_(std::move(traffic))
+    Exchange(QtNetClient& client, std::shared_ptr<DispatchGuard> guard, std::shared_ptr<TrafficLog> traffic,
+             const MasterPatience::Limits& patience)
+        : client_(&client), guard_(std::move(guard)), traffic_(std::move(traffic)), limits_(patience)
     {
     }
 
@@ -61,8 +63,9 @@ private:
         std::int32_t port;
     };
 
+    MasterPatience& patienceWith(const Master& master);
     std::optional<String> answerTo(const Frame& frame, const Master& master);
-    std::optional<String> ask(NetConnection& connection, const Frame& frame) const;
+    std::optional<String> ask(NetConnection& connection, const Frame& frame, double end) const;
     std::shared_ptr<NetConnection> connectionTo(const Master& master);
     void messageCame(const Frame& frame, const QTcpSocket& from);
     void tell(const CoreNetMessage& message);
@@ -72,11 +75,13 @@ private:
     QtNetClient* client_; // null from its end on
     std::shared_ptr<DispatchGuard> guard_;
     std::shared_ptr<TrafficLog> traffic_;
+    MasterPatience::Limits limits_;
     QtClock clock_;
     Moment asked_; // the time of day when the clock was last asked for it, and that clock's seconds
     double askedAt_ = -std::numeric_limits<double>::infinity();
     CoreNetOptions options_;
     RequestIds ids_{QRandomGenerator::system()->generate64()};
+    std::map<String, MasterPatience> patience_; // by the master's name; connections report to it
     std::vector<std::shared_ptr<NetConnection>> connections_;
     std::unique_ptr<NetPort> port_;
     bool receiving_ = false;
@@ -135,28 +140,39 @@ String QtNetClient::Exchange::request(StringView message, StringView host, std::
     return *std::move(answer);
 }
 
+MasterPatience& QtNetClient::Exchange::patienceWith(const Master& master)
+{
+    return patience_.try_emplace(NetConnection::peerName(master.host, master.port), limits_).first->second;
+}
+
 // A master that has been started again has closed the connection that was kept, which may show only now.
 // Asking once more does no harm: a master that has taken the request already knows it by its id.
 std::optional<String> QtNetClient::Exchange::answerTo(const Frame& frame, const Master& master)
 {
     const auto connection = connectionTo(master);
     const bool wasKept = connection->isOpen();
+    MasterPatience& patience = patienceWith(master);
+    const MasterPatience::Wait wait(patience, clock_);
+    const double end = clock_.seconds() + patience.allowed(options_.ResponseTimeout);
     try {
-        return ask(*connection, frame);
+        return ask(*connection, frame, end);
     } catch (const RuntimeError&) {
         if (!wasKept || !connection->wasClosedThere()) {
             throw;
         }
     }
-    return ask(*connectionTo(master), frame);
+    return ask(*connectionTo(master), frame, end);
 }
 
-std::optional<String> QtNetClient::Exchange::ask(NetConnection& connection, const Frame& frame) const
+// The time to connect is part of the time to answer.
+std::optional<String> QtNetClient::Exchange::ask(NetConnection& connection, const Frame& frame,
+                                                 double end) const
 {
+    const auto left = [&] { return std::max(end - clock_.seconds(), 0.0); };
     const auto kept = connection.shared_from_this();
-    kept->waitUntilOpen(options_.ConnectTimeout);
+    kept->waitUntilOpen(std::min(options_.ConnectTimeout, left()));
     kept->send(frame);
-    return kept->waitForAnswer(frame.id, options_.ResponseTimeout);
+    return kept->waitForAnswer(frame.id, left());
 }
 
 std::shared_ptr<NetConnection> QtNetClient::Exchange::connectionTo(const Master& master)
@@ -175,7 +191,8 @@ std::shared_ptr<NetConnection> QtNetClient::Exchange::connectionTo(const Master&
         master.host, master.port, static_cast<std::size_t>(piece),
         NetConnection::Reports{
             guard_, [this](const Frame& frame, const QTcpSocket& from) { messageCame(frame, from); },
-            [this](TrafficKind kind, StringView about, StringView text) { log(kind, about, text); }}));
+            [this](TrafficKind kind, StringView about, StringView text) { log(kind, about, text); },
+            [this, &patience = patienceWith(master)] { patience.signOfLife(clock_.seconds()); }}));
     return connections_.back();
 }
 
@@ -219,9 +236,10 @@ Moment QtNetClient::Exchange::momentOfLine()
     return Moment{asked_.days + (now - askedAt_) / SecondsOfDay};
 }
 
-QtNetClient::QtNetClient(std::shared_ptr<DispatchGuard> guard) : traffic_(std::make_shared<TrafficLog>())
+QtNetClient::QtNetClient(std::shared_ptr<DispatchGuard> guard, const MasterPatience::Limits& patience)
+    : traffic_(std::make_shared<TrafficLog>())
 {
-    exchange_ = std::make_shared<Exchange>(*this, std::move(guard), traffic_);
+    exchange_ = std::make_shared<Exchange>(*this, std::move(guard), traffic_, patience);
 }
 
 QtNetClient::~QtNetClient()

@@ -2,6 +2,7 @@
 
 #include "core/CoreNetClient.h"
 #include "qt/base/DispatchGuard.h"
+#include "server/MasterPatience.h"
 
 #include <cstdint>
 #include <memory>
@@ -22,13 +23,16 @@ namespace phial::qt
 /// count, the last as the time in which a message that comes in must be complete. Errors of handlers of
 /// `RECEIVED` go to the guard.
 ///
+/// A request takes at most `ResponseTimeout`, the time to connect included, and no longer than
+/// `MasterPatience` allows.
+///
 /// A text that is asked again because its answer did not come goes out under the same id, see RequestIds.
 ///
 /// `Close`, and the client's end, end every running `Request` with the error of a lost connection.
 class QtNetClient final : public CoreNetClient
 {
 public:
-    explicit QtNetClient(std::shared_ptr<DispatchGuard> guard);
+    explicit QtNetClient(std::shared_ptr<DispatchGuard> guard, const MasterPatience::Limits& patience = {});
     ~QtNetClient() override;
     QtNetClient(const QtNetClient&) = delete;
     QtNetClient& operator=(const QtNetClient&) = delete;
