@@ -25,6 +25,11 @@ void CoreRegistryWrite::WriteList(SettingsHive pHive, StringView pPath, const Co
     writeChanged(pHive, pPath, Variant::Array(pList.begin(), pList.end()));
 }
 
+void CoreRegistryWrite::writeTrace(SettingsHive hive, StringView path, StringView text)
+{
+    store_->writeTrace(hive, path, text);
+}
+
 void CoreRegistryWrite::writeChanged(SettingsHive hive, StringView path, const Variant& value)
 {
     const auto stored = store_->read(hive, path);

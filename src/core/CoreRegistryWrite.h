@@ -21,6 +21,8 @@ public:
     void WriteLong(SettingsHive pHive, StringView pPath, std::int32_t pNumber);
     void WriteBool(SettingsHive pHive, StringView pPath, bool pValue);
     void WriteList(SettingsHive pHive, StringView pPath, const CoreStringList& pList);
+    /// A text that only shows how far a run got, see `SettingsStore::writeTrace`.
+    void writeTrace(SettingsHive hive, StringView path, StringView text);
 
 private:
     void writeChanged(SettingsHive hive, StringView path, const Variant& value);

@@ -30,6 +30,14 @@ public:
 
     /// Stores a value. A store that cannot be written keeps it for this run at most; no failure is raised.
     virtual void write(SettingsHive hive, StringView path, const Variant& value) = 0;
+
+    /// The same for a value that changes often and need not outlive every crash: a store with a file may keep
+    /// it in memory until the next other value is written, for a minute at most while events run, or until
+    /// its end. It is read like any other.
+    virtual void writeTrace(SettingsHive hive, StringView path, const Variant& value)
+    {
+        write(hive, path, value);
+    }
 };
 
 } // namespace phial

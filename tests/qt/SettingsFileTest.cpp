@@ -1,8 +1,10 @@
 #include "qt/base/SettingsFile.h"
 
+#include "qt/Eventually.h"
 #include "qt/base/QtSettingsStore.h"
 #include "support/Places.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -18,6 +20,7 @@ namespace
 {
 
 constexpr StringView SoundPath = u"Software\\QV Brunnhof\\Phial\\Config\\Sound";
+constexpr StringView TracePath = u"Software\\QV Brunnhof\\Phial\\DebugPos";
 constexpr StringView LanguagePath = u"Software\\QV Brunnhof\\Phial\\Language";
 
 class SettingsFileTest : public testing::Test
@@ -64,6 +67,56 @@ TEST_F(SettingsFileTest, KeepsEveryTypeBeyondItsOwnEnd)
     EXPECT_EQ(settings.read(u"A\\List"), list);
     EXPECT_EQ(settings.read(u"A\\Nothing"), Variant(Variant::Array{}));
     EXPECT_EQ(settings.read(u"A\\Half"), Variant(String(1, char16_t{0xD800})));
+}
+
+TEST_F(SettingsFileTest, TracesReachTheFileWithTheNextChange)
+{
+    SettingsFile settings(file());
+    for (int mark = 1; mark <= 29; ++mark) {
+        settings.writeTrace(TracePath, u"PLAYCATEGORY-" + Variant(mark).toText());
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(settings.read(TracePath), Variant(u"PLAYCATEGORY-29"));
+    EXPECT_FALSE(QFile::exists(file()));
+    settings.write(SoundPath, false);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(bytes().contains("PLAYCATEGORY-29"));
+    settings.writeTrace(TracePath, u"PLAYCATEGORY-30");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(bytes().contains("PLAYCATEGORY-29"));
+    settings.flush();
+    EXPECT_TRUE(bytes().contains("PLAYCATEGORY-30"));
+}
+
+TEST_F(SettingsFileTest, TracesReachTheFileAtTheEnd)
+{
+    {
+        SettingsFile settings(file());
+        settings.writeTrace(TracePath, u"PLAYCATEGORY-1");
+        settings.writeTrace({}, u"nowhere");
+        settings.writeTrace(LanguagePath, String(MaxSettingLength, u'x'));
+    }
+    EXPECT_TRUE(bytes().contains("PLAYCATEGORY-1"));
+    EXPECT_FALSE(bytes().contains("nowhere"));
+    EXPECT_EQ(SettingsFile(file()).read(LanguagePath), std::nullopt);
+}
+
+TEST_F(SettingsFileTest, TracesReachTheFileBehindTheirDelay)
+{
+    SettingsFile settings(file(), std::chrono::milliseconds(1));
+    settings.writeTrace(TracePath, u"PLAYCATEGORY-1");
+    EXPECT_TRUE(test::eventually([this] { return QFile::exists(file()); }));
+    EXPECT_TRUE(bytes().contains("PLAYCATEGORY-1"));
+}
+
+TEST_F(SettingsFileTest, AnEntryReplacesItsTrace)
+{
+    SettingsFile settings(file());
+    settings.writeTrace(TracePath, u"trace");
+    settings.write(TracePath, u"entry");
+    EXPECT_EQ(settings.read(TracePath), Variant(u"entry"));
+    settings.flush();
+    EXPECT_FALSE(bytes().contains("trace"));
 }
 
 TEST_F(SettingsFileTest, DisregardsTheCaseOfAPath)

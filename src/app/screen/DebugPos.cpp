@@ -9,8 +9,8 @@ namespace phial
 
 void DebugPos(StringView pText)
 {
-    coreRoot().CoreRegistry().CoreRegistryWrite().WriteString(SettingsHive::CurrentUser,
-                                                              settings::path(u"DebugPos"), pText);
+    coreRoot().CoreRegistry().CoreRegistryWrite().writeTrace(SettingsHive::CurrentUser,
+                                                             settings::path(u"DebugPos"), pText);
 }
 
 } // namespace phial

@@ -33,6 +33,11 @@ void QtSettingsStore::write(SettingsHive hive, StringView path, const Variant& v
     hiveOf(hive).opened().write(path, value);
 }
 
+void QtSettingsStore::writeTrace(SettingsHive hive, StringView path, const Variant& value)
+{
+    hiveOf(hive).opened().writeTrace(path, value);
+}
+
 void QtSettingsStore::flush()
 {
     for (const Hive* hive : {&user_, &machine_}) {

@@ -17,6 +17,7 @@ public:
 
     std::optional<Variant> read(SettingsHive hive, StringView path) const override;
     void write(SettingsHive hive, StringView path, const Variant& value) override;
+    void writeTrace(SettingsHive hive, StringView path, const Variant& value) override;
     /// Writes changes to the disk and reads what other programs have written.
     void flush();
 

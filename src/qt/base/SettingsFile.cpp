@@ -3,6 +3,7 @@
 #include "qt/base/QtText.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QFile>
 #include <QLockFile>
 #include <QSettings>
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace phial::qt
 {
@@ -75,17 +77,27 @@ void moveAsideIfDamaged(const QString& path)
 
 } // namespace
 
-SettingsFile::SettingsFile(const QString& path)
+SettingsFile::SettingsFile(const QString& path, std::chrono::milliseconds traceDelay)
 {
     moveAsideIfDamaged(path);
     settings_ = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    delay_.setSingleShot(true);
+    delay_.setInterval(traceDelay);
+    QObject::connect(&delay_, &QTimer::timeout, &delay_, [this] { putTraces(); });
 }
 
-SettingsFile::~SettingsFile() = default;
+SettingsFile::~SettingsFile()
+{
+    putTraces();
+}
 
 std::optional<Variant> SettingsFile::read(StringView path) const
 {
-    const QVariant entry = settings_->value(toQt(settingKey(path)));
+    const String key = settingKey(path);
+    if (const auto trace = traces_.find(key); trace != traces_.end()) {
+        return decodeSetting(trace->second);
+    }
+    const QVariant entry = settings_->value(toQt(key));
     if (entry.typeId() != QMetaType::QString) {
         return std::nullopt;
     }
@@ -97,12 +109,41 @@ void SettingsFile::write(StringView path, const Variant& value)
     const String key = settingKey(path);
     const String line = encodeSetting(value);
     if (!key.empty() && line.size() <= MaxSettingLength && read(path) != value) {
-        settings_->setValue(toQt(key), toQt(line));
+        traces_.erase(key);
+        put(key, line);
+        putTraces();
+    }
+}
+
+void SettingsFile::writeTrace(StringView path, const Variant& value)
+{
+    const String key = settingKey(path);
+    String line = encodeSetting(value);
+    if (key.empty() || line.size() > MaxSettingLength) {
+        return;
+    }
+    traces_.insert_or_assign(key, std::move(line));
+    if (!delay_.isActive() && QCoreApplication::instance() != nullptr) {
+        delay_.start();
+    }
+}
+
+void SettingsFile::put(const String& key, const String& line)
+{
+    settings_->setValue(toQt(key), toQt(line));
+}
+
+void SettingsFile::putTraces()
+{
+    delay_.stop();
+    for (const auto& [key, line] : std::exchange(traces_, {})) {
+        put(key, line);
     }
 }
 
 void SettingsFile::flush()
 {
+    putTraces();
     settings_->sync();
 }
 

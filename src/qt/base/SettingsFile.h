@@ -3,7 +3,10 @@
 #include "core/SettingsEncoding.h"
 
 #include <QString>
+#include <QTimer>
 
+#include <chrono>
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -23,8 +26,9 @@ namespace phial::qt
 class SettingsFile
 {
 public:
-    /// The file need not exist; its folder is made when something is first written.
-    explicit SettingsFile(const QString& path);
+    /// The file need not exist; its folder is made when something is first written. Traces wait so long.
+    explicit SettingsFile(const QString& path,
+                          std::chrono::milliseconds traceDelay = std::chrono::minutes(1));
     ~SettingsFile();
     SettingsFile(const SettingsFile&) = delete;
     SettingsFile& operator=(const SettingsFile&) = delete;
@@ -34,11 +38,18 @@ public:
     std::optional<Variant> read(StringView path) const;
     /// Stores the entry; a value equal to the stored one changes nothing, the file's date included.
     void write(StringView path, const Variant& value);
+    /// The same, but the file follows only with the next other entry, behind the delay, or at the end.
+    void writeTrace(StringView path, const Variant& value);
     /// Writes changes to the disk and reads what others have written.
     void flush();
 
 private:
+    void put(const String& key, const String& line);
+    void putTraces();
+
     std::unique_ptr<QSettings> settings_;
+    std::map<String, String> traces_; // lines by their keys, which are not in the file yet
+    QTimer delay_;
 };
 
 /// Where the settings of this user and of this machine lie.
