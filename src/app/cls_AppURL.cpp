@@ -13,6 +13,7 @@
 #include "core/CoreStringList.h"
 #include "core/CoreSystem.h"
 #include "core/Environment.h"
+#include "core/FileSystem.h"
 #include "core/RuntimeError.h"
 #include "core/SessionState.h"
 
@@ -71,6 +72,15 @@ void createMissing(std::initializer_list<StringView> folders)
     }
 }
 
+/// Whether a file is not there for certain.
+bool isMissing(const String& file)
+{
+    FileStatus found{.kind = FileStatus::Kind::Other};
+    const auto native = coreRoot().CoreFiles().native(file);
+    ignoringErrors([&] { found = SessionState::current().platform().files->status(native); });
+    return found.kind == FileStatus::Kind::Absent;
+}
+
 /// Whether a file can be written, read back and deleted in the folder.
 bool isWritable(const String& folder)
 {
@@ -83,6 +93,21 @@ bool isWritable(const String& folder)
             files.WriteScratch(probe, Content) && files.ReadText(probe) == Content && files.Delete(probe);
     });
     return deleted;
+}
+
+/// Whether each list that is there can be read and replaced, which a folder can deny to one user although
+/// others made files in it.
+bool letsListsBeReplaced(const String& folder)
+{
+    const CoreFiles& files = coreRoot().CoreFiles();
+    FileSystem& fileSystem = *SessionState::current().platform().files;
+    for (const String& file : files.List(folder + u"*.qv-*", false, true, true)) {
+        const bool isList = CorePathText::Extension(file).starts_with(u"qv-");
+        if (isList && !fileSystem.mayReplace(files.native(file))) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -116,7 +141,8 @@ void cls_AppURL::INITROOT(StringView pRoot, bool pInitData)
     }
     setAppFolders(ident);
     createMissing({dataApp_, dataHighscores_, configApp_});
-    if (!isWritable(dataHighscores_)) {
+    usesOwnFolder_ = !isWritable(dataHighscores_) || !letsListsBeReplaced(dataHighscores_);
+    if (usesOwnFolder_) {
         fallBackToUserDocuments(ident);
     }
     transferOldData();
@@ -188,7 +214,8 @@ void cls_AppURL::transferOldData() const
 {
     CoreFiles& files = coreRoot().CoreFiles();
     const String target = SHAREDFILES();
-    if (files.Exists(target + String(TransferMarker))) {
+    // Once more would put old files over those that have been written since.
+    if (!isMissing(target + String(TransferMarker))) {
         return;
     }
     const String source = coreRoot().CoreSystem().CoreFolders().CommonAppData() + u"QV Phial\\";

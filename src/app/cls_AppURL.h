@@ -9,9 +9,10 @@ namespace phial
 ///
 /// The suite is installed once and several programs share it: read-only resources below an installation root,
 /// shared writable data in a public folder, settings of the user in the user's own data. A shared folder that
-/// turns out not to be writable is replaced by one in the user's documents, without a word. Every folder ends
-/// in a backslash, so paths are joined by writing them one after the other. Any caller may replace any
-/// folder; the next INIT sets them anew.
+/// turns out not to be writable, or to hold lists that this user cannot replace, is replaced by one in the
+/// user's documents, without a word; `usesOwnFolder` tells it. Every folder ends in a backslash, so paths are
+/// joined by writing them one after the other. Any caller may replace any folder; the next INIT sets them
+/// anew.
 class cls_AppURL
 {
 public:
@@ -54,6 +55,9 @@ public:
     /// The program's score lists, shared by all users where that is possible.
     const String& DATAHIGHSCORES() const { return dataHighscores_; }
     void DATAHIGHSCORES(String value) { dataHighscores_ = std::move(value); }
+
+    /// Whether the shared folder for score lists has refused this user, so that the lists are the user's own.
+    bool usesOwnFolder() const { return usesOwnFolder_; }
 
     /// Data that users make, shared.
     const String& DATAUSER() const { return dataUser_; }
@@ -100,6 +104,7 @@ private:
     void transferOldData() const;
 
     bool onlyLocal_ = false;
+    bool usesOwnFolder_ = false;
     String root_;
     String dataApp_;
     String dataShared_;

@@ -112,7 +112,28 @@ TEST_F(AppUrlFolders, FallsBackToTheUsersDocumentsWhenTheSharedFolderIsReadOnly)
     EXPECT_EQ(url.DATAUSER(), shared + u"datauser\\");
     EXPECT_TRUE(folderExists(url.DATAHIGHSCORES()));
     EXPECT_TRUE(folderExists(url.CONFIGUSER()));
+    EXPECT_TRUE(url.usesOwnFolder());
     EXPECT_FALSE(fileExists(shared + u"Highscores\\Molmasse\\test.dat"));
+}
+
+TEST_F(AppUrlFolders, FallsBackWhenAListCannotBeReplacedByThisUser)
+{
+    const String list = shared + u"Highscores\\Molmasse\\HIGHSCORE.qv-hsr";
+    makeFile(u"public\\Documents\\QV Phial\\Highscores\\Molmasse\\HIGHSCORE.qv-hsr", u"of another user");
+    makeFile(u"public\\Documents\\QV Phial\\Highscores\\Molmasse\\HIGHSCORE.qv-hsr.kept", u"old");
+    url.INIT();
+    EXPECT_FALSE(url.usesOwnFolder());
+    EXPECT_EQ(url.DATAHIGHSCORES(), shared + u"Highscores\\Molmasse\\");
+
+    outside.files().fail(headless::FileStep::MayReplace);
+    url.INIT();
+    EXPECT_TRUE(url.usesOwnFolder());
+    EXPECT_EQ(url.DATAHIGHSCORES(), documents + u"Highscores\\Molmasse\\");
+    EXPECT_EQ(readFile(list), u"of another user");
+
+    std::filesystem::remove(nativePath(list)); // what is kept aside is nobody's to replace
+    url.INIT();
+    EXPECT_FALSE(url.usesOwnFolder());
 }
 
 TEST_F(AppUrlFolders, FallsBackWhenTheDiskIsFull)

@@ -48,6 +48,17 @@ TEST_F(DataTransfer, MovesNothingOnceTheMarkIsThere)
     EXPECT_FALSE(fileExists(newFolder + u"late.txt"));
 }
 
+TEST_F(DataTransfer, MovesNothingWhereTheMarkCannotBeAskedFor)
+{
+    cls_AppURL().INIT();
+    makeFile(u"CommonAppData\\QV Phial\\a.txt", u"old");
+    makeFile(u"public\\Documents\\QV Phial\\a.txt", u"written since");
+    outside.files().fail(headless::FileStep::Status);
+    cls_AppURL().INITROOT(path(u"installed\\"));
+    EXPECT_EQ(readFile(newFolder + u"a.txt"), u"written since");
+    EXPECT_EQ(readFile(oldFolder + u"a.txt"), u"old");
+}
+
 TEST_F(DataTransfer, DeletesTheSourceOfAFailedCopyAllTheSame)
 {
     makeFile(u"CommonAppData\\QV Phial\\blocked\\a.txt", u"a");
