@@ -5,6 +5,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
 #include "results/ListRecord.h"
+#include "visual/OneLine.h"
 #include "visual/Printer.h"
 
 #include <algorithm>
@@ -48,11 +49,12 @@ public:
         page_.FontSize(TextSize);
     }
 
-    void addRow(const std::vector<String>& texts)
+    void addRow(std::vector<String> texts)
     {
         if (!begun_ || page_.CurrentY() > height_ - LowerMargin) {
             beginColumns();
         }
+        std::ranges::transform(texts, texts.begin(), oneLine);
         printCells({texts.begin(), texts.end()}, {});
         page_.PrintLine();
         page_.CurrentY(page_.CurrentY() + GapOfRows);
@@ -148,7 +150,7 @@ void printList(StringView title, std::span<const ListColumn> columns, std::int32
 
 String printedMoment(Moment moment)
 {
-    return timeText(moment) + u' ' + dayText(moment);
+    return momentText(moment, u"HH:MM:SS dd.mm.yyyy");
 }
 
 } // namespace phial

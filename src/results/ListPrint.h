@@ -28,11 +28,12 @@ struct ListColumn {
 using ListRow = std::function<std::vector<String>(std::int32_t position)>;
 
 /// Prints a list on the system's printer, in landscape: the title, the rows under the columns' titles, which
-/// every page repeats, and a line that tells when and by whom it was printed. A text that is too long for its
-/// column is clipped where the next one begins. A printer's failure is raised.
+/// every page repeats, and a line that tells when and by whom it was printed. Line ends and tabs in a text
+/// are blanks; one that is too long for its column is clipped where the next one begins. A printer's failure
+/// is raised.
 void printList(StringView title, std::span<const ListColumn> columns, std::int32_t rows, const ListRow& row);
 
-/// A moment as lists print it: "HH:MM:SS dd.mm.yyyy".
+/// A moment as lists print it: "HH:MM:SS dd.mm.yyyy", or empty for one that the calendar does not have.
 String printedMoment(Moment moment);
 
 } // namespace phial

@@ -8,7 +8,11 @@
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
 #include "core/Format.h"
+#include "core/RuntimeError.h"
 #include "core/SessionState.h"
+#include "visual/OneLine.h"
+
+#include <cmath>
 
 namespace phial
 {
@@ -28,6 +32,13 @@ EntryNames completed(EntryNames given)
     return given;
 }
 
+void requireFinite(double points, double pointsMax)
+{
+    if (!std::isfinite(points) || !std::isfinite(pointsMax)) {
+        throw RuntimeError(ErrorNumber::InvalidArgument, u"points must be finite numbers");
+    }
+}
+
 Moment presentMoment()
 {
     return SessionState::current().platform().clock->moment();
@@ -41,14 +52,21 @@ const std::shared_ptr<CoreParameters>& madeIfMissing(std::shared_ptr<CoreParamet
     return additional;
 }
 
+String momentText(Moment moment, StringView pattern)
+{
+    String text;
+    ignoringErrors([&] { text = formatPattern(moment, pattern); });
+    return text;
+}
+
 String dayText(Moment moment)
 {
-    return formatPattern(moment, u"dd.mm.yyyy");
+    return momentText(moment, u"dd.mm.yyyy");
 }
 
 String timeText(Moment moment)
 {
-    return formatPattern(moment, u"HH:MM:SS");
+    return momentText(moment, u"HH:MM:SS");
 }
 
 SearchKey::SearchKey(const Variant& key) : key_(&key), text_(key.isText() ? trimmed(key.text()) : String()) {}
@@ -67,7 +85,7 @@ String tabbed(std::span<const String> fields)
 {
     String line;
     for (const String& field : fields) {
-        line += field;
+        line += oneLine(field);
         line += u'\t';
     }
     return line;

@@ -23,12 +23,17 @@ struct EntryNames {
 /// The names as given; in place of an empty one that of the login, of the computer, and of `cls_AppUser`.
 EntryNames completed(EntryNames given);
 
+/// Raises 5 for points that are no finite number: no list could rank them.
+void requireFinite(double points, double pointsMax);
+
 /// Date and time on the session's clock.
 Moment presentMoment();
 
 /// An entry's further values, made when they are first needed.
 const std::shared_ptr<CoreParameters>& madeIfMissing(std::shared_ptr<CoreParameters>& additional);
 
+/// A moment of an entry by a pattern; empty for one that the calendar does not have.
+String momentText(Moment moment, StringView pattern);
 /// Day and time of an entry: "dd.mm.yyyy", "HH:MM:SS".
 String dayText(Moment moment);
 String timeText(Moment moment);
@@ -48,7 +53,8 @@ private:
     String text_;
 };
 
-/// The fields of a line, each with a tab behind it, the last one too.
+/// The fields of a line, each with a tab behind it, the last one too. Line ends, tabs and other controls
+/// within a field are blanks.
 String tabbed(std::span<const String> fields);
 /// The titles of the columns with tabs between them, and a line end.
 String headerLine(std::span<const StringView> titles);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace phial
 {
@@ -48,6 +49,9 @@ static_assert(riseTogether());
 
 const MarkRow& markFor(double points, double pointsMax)
 {
+    if (!std::isfinite(points) || !std::isfinite(pointsMax)) {
+        return Rows.front();
+    }
     if (pointsMax == 0) {
         pointsMax = PointsMaxIfNone;
     }

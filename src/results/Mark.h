@@ -40,7 +40,8 @@ struct MarkRow {
 };
 
 /// The mark for points out of those reachable: 0 reachable points count as 100, points are kept between 0
-/// and the reachable ones. Negative reachable points give the worst mark.
+/// and the reachable ones. Negative reachable points give the worst mark, and so does what is no finite
+/// number.
 const MarkRow& markFor(double points, double pointsMax);
 
 } // namespace phial

@@ -1,28 +1,18 @@
 #include "results/cls_AppRate.h"
 
 #include "app/cls_App.h"
-#include "app/cls_AppConfig.h"
-#include "app/cls_AppURL.h"
-#include "app/cls_AppUser.h"
 #include "app/sys_Global.h"
 #include "core/Arithmetic.h"
-#include "core/Clock.h"
-#include "core/CoreDialogs.h"
-#include "core/CoreFiles.h"
-#include "core/CoreFormDocument.h"
-#include "core/CoreMachine.h"
-#include "core/CoreParameters.h"
-#include "core/CoreRoot.h"
-#include "core/CoreStringOps.h"
-#include "core/CoreSystem.h"
-#include "core/CoreValuePacker.h"
 #include "core/FileLock.h"
-#include "core/Format.h"
-#include "core/NumberText.h"
+#include "core/FileSystem.h"
+#include "core/RuntimeError.h"
 #include "core/SessionState.h"
+#include "results/Certificate.h"
+#include "results/LocalLists.h"
 #include "results/Mark.h"
-#include "results/SubmissionMessages.h"
+#include "results/ResultDelivery.h"
 #include "results/cls_DataScores.h"
+#include "server/WireText.h"
 #include "server/cls_AppServer.h"
 
 namespace phial
@@ -31,77 +21,17 @@ namespace phial
 namespace
 {
 
-/// Whose result it is, for the master: what a file's entry gets from `cls_DataScores.ADD`.
-String packedResult(double points, double pointsMax, StringView exercise, const CoreParameters* additional)
+/// Whether the file is still as this list has taken it in, or is missing as it was then.
+bool isAsLoaded(cls_DataScores& scores)
 {
-    const CoreMachine& machine = coreRoot().CoreSystem().CoreMachine();
-    return CoreValuePacker::Pack({points, pointsMax, exercise,
-                                  additional != nullptr ? additional->Pack() : CoreParameters().Pack(),
-                                  QVAPP()->USER()->SCREENNAME(), machine.ComputerName(), machine.UserName()});
-}
-
-String resultsFile()
-{
-    return QVAPP()->URL()->DATAHIGHSCORES() + u"results.qv-rsl";
-}
-
-String highscoreFile(StringView module)
-{
-    return QVAPP()->URL()->DATAHIGHSCORES() + String(module) + u".qv-hsr";
-}
-
-/// A list whose load fails half way counts as empty, whatever it holds by then.
-void loadOrEmpty(cls_DataScores& scores, StringView file)
-{
-    if (!scores.LOAD(file)) {
-        scores.CLEAR();
-    }
-}
-
-Variant submitToMaster(const String& result, StringView module, bool showInfo)
-{
-    const Variant answer = QVAPP()->SERVER()->REQUEST(module, u"SUBMIT", result);
-    if (showInfo) {
-        show(messageForAnswer(CoreStringOps::After(answer.toText(), u":")));
-    }
-    return answer;
-}
-
-/// A number at the beginning of the rank's text, so that "3. Platz" is rank 3 and the empty value 0.
-std::int32_t rankNumber(const Variant& rank)
-{
-    return toWhole(numberAtStart(rank.toText()).value);
-}
-
-/// What the placeholders of a certificate stand for before the caller adds to them.
-CoreParameters certificateValues()
-{
-    const CoreMachine& machine = coreRoot().CoreSystem().CoreMachine();
-    const Variant now = SessionState::current().platform().clock->moment();
-    const String name = QVAPP()->CONFIG()->NAME();
-    CoreParameters values;
-    values.Set(u"DATUM", formatPattern(now, u"dd. mmmm yyyy"));
-    values.Set(u"COMPUTER", machine.ComputerName());
-    values.Set(u"USER", machine.UserName());
-    values.Set(u"NAME", QVAPP()->USER()->SCREENNAME());
-    values.Set(u"ZEIT", formatPattern(now, u"HH:MM"));
-    values.Set(u"APP", name);
-    values.Set(u"TITLE", name + u"-Diplom");
-    values.Set(u"FILE", u"Urkunde.zr-frm");
-    return values;
-}
-
-/// Puts the values in for their placeholders, value by value, so that a value may bring in the placeholder of
-/// a later one.
-void fillIn(CoreFormField& field, const CoreParameters& values)
-{
-    if (field.Text().find(u'{') == String::npos) {
-        return;
-    }
-    for (std::int32_t entry = 1; entry <= values.Count(); ++entry) {
-        const String placeholder = u"{" + values.Name(entry) + u"}";
-        field.Text(replaced(field.Text(), placeholder, values.Value(entry).toText()));
-    }
+    const LoadedFile& loaded = scores.DATA()->loadedFile();
+    const bool isKnown =
+        loaded.state == LoadedFile::State::Whole || loaded.state == LoadedFile::State::Absent;
+    bool isSame = false;
+    ignoringErrors([&] {
+        isSame = isKnown && SessionState::current().platform().files->status(loaded.path) == loaded.status;
+    });
+    return isSame;
 }
 
 } // namespace
@@ -145,9 +75,9 @@ std::shared_ptr<cls_DataScores> cls_AppRate::HIGHSCORE(StringView pModule) const
         loadOrEmpty(*scores, highscoreFile(pModule));
         return scores;
     }
-    const String answer = QVAPP()->SERVER()->REQUEST(pModule, u"GET").toText();
-    if (!answer.empty()) {
-        scores->DATA()->Unpack(answer);
+    const Variant answer = QVAPP()->SERVER()->REQUEST(pModule, u"GET");
+    if (const String text = answer.toText(); !text.empty() && !isRefusal(answer)) {
+        scores->DATA()->Unpack(text);
     }
     return scores;
 }
@@ -155,20 +85,23 @@ std::shared_ptr<cls_DataScores> cls_AppRate::HIGHSCORE(StringView pModule) const
 void cls_AppRate::HIGHSCORELIST(StringView pTitle, std::int32_t pRank, StringView pModule,
                                 const void* /*pFlags*/) const
 {
-    const String file = highscoreFile(pModule);
-    const CoreFiles& files = coreRoot().CoreFiles();
-    const FileStamp before = files.Changed(file);
-    const auto scores = HIGHSCORE(pModule);
-    if (QVAPP()->SERVER()->ONLINE()) {
+    const std::shared_ptr<cls_AppServer> server = QVAPP()->SERVER();
+    const bool isMasters = server->ONLINE();
+    std::shared_ptr<cls_DataScores> scores = HIGHSCORE(pModule);
+    if (server->ONLINE()) {
         scores->SHOW(pTitle, pRank, true);
         return;
     }
+    if (isMasters) {
+        scores = HIGHSCORE(pModule); // the master has gone while it was asked
+    }
+    const String file = highscoreFile(pModule);
     const std::int32_t shown = scores->COUNT();
     scores->SHOWLOCAL(pTitle, pRank, true);
     const bool reset = shown > 0 && scores->COUNT() == 0;
     // The window stood open without a lock: what another program has entered meanwhile must not be lost.
     const FileLock lock(file);
-    if (reset || files.Changed(file) == before) {
+    if (reset || (lock.held() && isAsLoaded(*scores))) {
         scores->SAVE(file);
     }
 }
@@ -177,68 +110,34 @@ std::int32_t cls_AppRate::SUBMIT(double pPoints, double pPointsMax, StringView p
                                  const CoreParameters* pAdditional, StringView pHSModule, bool pShowInfo,
                                  std::int32_t pLocalMax) const
 {
-    RESULT(pPoints, pPointsMax, pUEBM, pAdditional);
-    if (pHSModule == u"RESULT" || pHSModule == u"RESULTS") {
-        return 0;
+    const FinishedExercise exercise(pPoints, pPointsMax, pUEBM, pAdditional);
+    const bool withMaster = QVAPP()->SERVER()->AVAILABLE();
+    return submitResult(exercise, {String(pHSModule), pShowInfo, pLocalMax}, withMaster).rank;
+}
+
+HandedIn cls_AppRate::handIn(double points, double pointsMax, StringView exercise,
+                             const CoreParameters* additional, StringView module, bool showInfo,
+                             std::int32_t localMax) const
+{
+    const FinishedExercise finished(points, pointsMax, exercise, additional);
+    const bool withMaster = QVAPP()->SERVER()->isStillThere();
+    const HandedIn result = submitResult(finished, {String(module), showInfo, localMax}, withMaster);
+    if (result.wasUnanswered) {
+        QVAPP()->SERVER()->isStillThere();
     }
-    if (QVAPP()->SERVER()->AVAILABLE()) {
-        return rankNumber(
-            submitToMaster(packedResult(pPoints, pPointsMax, pUEBM, pAdditional), pHSModule, pShowInfo));
-    }
-    cls_DataScores scores;
-    Variant rank;
-    {
-        const String file = highscoreFile(pHSModule);
-        const FileLock lock(file);
-        loadOrEmpty(scores, file);
-        scores.ONCE(false);
-        scores.MAXIMUM(pLocalMax);
-        rank = scores.ADD(pPoints, pPointsMax, pUEBM, pAdditional);
-        scores.SAVE(file);
-    }
-    if (pShowInfo) {
-        show(messageForRank(rank, pLocalMax, scores.COUNT()));
-    }
-    return rankNumber(rank);
+    return result;
 }
 
 void cls_AppRate::RESULT(double pPoints, double pPointsMax, StringView pUEBM,
                          const CoreParameters* pAdditionalData) const
 {
-    if (QVAPP()->SERVER()->AVAILABLE()) {
-        QVAPP()->SERVER()->COMMAND(u"RESULTS", u"SUBMIT",
-                                   packedResult(pPoints, pPointsMax, pUEBM, pAdditionalData));
-        return;
-    }
-    const String file = resultsFile();
-    const FileLock lock(file);
-    cls_DataScores scores;
-    loadOrEmpty(scores, file);
-    scores.ADD(pPoints, pPointsMax, pUEBM, pAdditionalData);
-    scores.SAVE(file);
+    const FinishedExercise exercise(pPoints, pPointsMax, pUEBM, pAdditionalData);
+    recordResult(exercise, QVAPP()->SERVER()->AVAILABLE());
 }
 
 bool cls_AppRate::PRINTCERTIFICATE(StringView pText, const CoreParameters* pMore) const
 {
-    CoreParameters values = certificateValues();
-    if (pMore != nullptr) {
-        values.Merge(*pMore);
-    }
-    values.Set(u"TEXT", replaced(pText, u"\r\n", u"\r\n\r\n"));
-
-    const auto form = SessionState::current().platform().newFormDocument();
-    const String path = QVAPP()->URL()->ROOT() + u"Resources\\Forms\\" + values.Get(u"FILE").toText();
-    if (!form->Load(path)) {
-        coreRoot().CoreDialogs().Error(
-            u"Leider konnte ich die Urkunden-Datei nicht finden, daher kann ich die "
-            u"Urkunde nicht drucken!");
-        return false;
-    }
-    CoreFormFields& fields = form->Fields(1);
-    for (std::int32_t field = 1; field <= fields.Count(); ++field) {
-        fillIn(fields.Item(field), values);
-    }
-    return form->Print(1);
+    return printCertificate(pText, pMore);
 }
 
 } // namespace phial

@@ -5,6 +5,7 @@
 #include "core/Members.h"
 #include "core/ProgramTitle.h"
 #include "results/ListRecord.h"
+#include "visual/OneLine.h"
 
 #include <array>
 
@@ -37,12 +38,12 @@ const std::shared_ptr<CoreParameters>& cls_DataEvent::ADDITIONAL()
 
 String cls_DataEvent::TEXT()
 {
-    String text = u"Name: \t" + screenName_ + u"\r\n";
-    text += u"Login: \t" + userName_ + u"\r\n";
-    text += u"Rechner: \t" + computer_ + u"\r\n";
+    String text = u"Name: \t" + oneLine(screenName_) + u"\r\n";
+    text += u"Login: \t" + oneLine(userName_) + u"\r\n";
+    text += u"Rechner: \t" + oneLine(computer_) + u"\r\n";
     text += u"Datum: \t" + dayText(timeStamp_) + u"\r\n";
     text += u"Uhrzeit: \t" + timeText(timeStamp_) + u"\r\n";
-    text += u"Aktion: \t" + action_ + u"\r\n";
+    text += u"Aktion: \t" + oneLine(action_) + u"\r\n";
     text += u"Zusatz: \t" + ADDITIONAL()->Text() + u"\r\n";
     return text;
 }

@@ -9,6 +9,7 @@
 #include "results/ListExport.h"
 #include "results/ListPrint.h"
 #include "results/ListRecord.h"
+#include "visual/OneLine.h"
 
 #include <array>
 
@@ -113,7 +114,8 @@ void cls_DataEvents::DEBUGSHOW()
     String text;
     std::int32_t position = 0;
     entries_.forEach([&](const cls_DataEvent& event) {
-        text += Variant(++position).toText() + u". " + event.USERNAME() + u" " + event.ACTION() + u"\r\n";
+        text += Variant(++position).toText() + u". " + oneLine(event.USERNAME()) + u" " +
+                oneLine(event.ACTION()) + u"\r\n";
     });
     coreRoot().CoreDialogs().Text(text, u"Info:");
 }

@@ -6,6 +6,7 @@
 #include "core/ProgramTitle.h"
 #include "results/ListRecord.h"
 #include "results/Mark.h"
+#include "visual/OneLine.h"
 
 #include <array>
 
@@ -56,9 +57,9 @@ const std::shared_ptr<CoreParameters>& cls_DataScore::ADDITIONAL()
 String cls_DataScore::TEXT()
 {
     String text = u"Rang: \t" + Variant(rank_).toText() + u"\r\n";
-    text += u"Name: \t" + screenName_ + u"\r\n";
-    text += u"Login: \t" + userName_ + u"\r\n";
-    text += u"Rechner: \t" + computer_ + u"\r\n";
+    text += u"Name: \t" + oneLine(screenName_) + u"\r\n";
+    text += u"Login: \t" + oneLine(userName_) + u"\r\n";
+    text += u"Rechner: \t" + oneLine(computer_) + u"\r\n";
     text += u"Datum: \t" + dayText(timeStamp_) + u"\r\n";
     text += u"Uhrzeit: \t" + timeText(timeStamp_) + u"\r\n";
     text += u"Punkte: \t" + Variant(points_).toText();

@@ -14,6 +14,7 @@
 #include "results/ListPrint.h"
 #include "results/ListRecord.h"
 #include "results/Mark.h"
+#include "visual/OneLine.h"
 
 #include <array>
 
@@ -92,6 +93,7 @@ Variant cls_DataScores::ADD(double pPoints, double pPointsMax, StringView pUEBM,
                             const CoreParameters* pAdditional, StringView pUserName, StringView pComputerName,
                             StringView pScreenName, Moment pTimeStamp)
 {
+    requireFinite(pPoints, pPointsMax);
     EntryNames names = completed({String(pUserName), String(pComputerName), String(pScreenName)});
     const Variant name = names.screen;
     const String id = coreRoot().CoreSystem().CoreMachine().NewUniqueID();
@@ -203,7 +205,7 @@ void cls_DataScores::DEBUGSHOW()
 {
     String text;
     entries_.forEach([&](const cls_DataScore& score) {
-        text += Variant(score.RANK()).toText() + u". " + score.SCREENNAME() + u" " +
+        text += Variant(score.RANK()).toText() + u". " + oneLine(score.SCREENNAME()) + u" " +
                 Variant(score.POINTS()).toText() + u"\r\n";
     });
     coreRoot().CoreDialogs().Text(text, u"Info:");

@@ -60,7 +60,8 @@ public:
 
     /// Adds an entry; empty names are those of the login, the computer and `cls_AppUser`, moment 0 is now.
     /// Gives the slot in which it stands then; when the list does not keep it, its rank (-1, or one beyond
-    /// the end); the empty value when `ONCE` keeps a better one of that name, and nothing has changed.
+    /// the end); the empty value when `ONCE` keeps a better one of that name, and nothing has changed. Raises
+    /// 5 for points that are no finite number.
     Variant ADD(double pPoints, double pPointsMax, StringView pUEBM,
                 const CoreParameters* pAdditional = nullptr, StringView pUserName = {},
                 StringView pComputerName = {}, StringView pScreenName = {}, Moment pTimeStamp = {});

@@ -5,8 +5,8 @@
 #include "core/Arithmetic.h"
 #include "core/CoreDialogs.h"
 #include "core/CoreRoot.h"
-#include "core/Format.h"
 #include "results/DialogHighscoreLayout.h"
+#include "results/ListRecord.h"
 #include "results/cls_DataScores.h"
 
 #include <algorithm>
@@ -47,7 +47,7 @@ String wholePoints(double points)
 String shortMoment(Moment moment)
 {
     const Locale& locale = currentLocale();
-    return formatPattern(moment, locale.shortDate) + u" " + formatPattern(moment, locale.shortTime);
+    return momentText(moment, locale.shortDate + u" " + locale.shortTime);
 }
 
 } // namespace
@@ -155,6 +155,7 @@ void frm_DialogHighscore::TRANSLATE()
 {
     LNG()->Form(*form_, texts_);
     showTitle();
+    showWhyEmpty();
 }
 
 void frm_DialogHighscore::showTitle()
@@ -164,10 +165,21 @@ void frm_DialogHighscore::showTitle()
     }
 }
 
+/// A list that could not be read is not empty.
+void frm_DialogHighscore::showWhyEmpty()
+{
+    if (scores_ && scores_->DATA()->loadedFile().state == LoadedFile::State::Partly) {
+        form_->control<ctl_Pannel>(u"bar_Empty")
+            ->Caption(LNG()->TRANSLATE(u"Diese Liste lässt sich nicht lesen. Sie bleibt, wie sie ist.",
+                                       u"This list cannot be read. It stays as it is."));
+    }
+}
+
 void frm_DialogHighscore::load()
 {
     const auto list = copyOfList();
     showTitle();
+    showWhyEmpty();
     more_->Enabled(false);
     less_->Enabled(false);
     clearRows();

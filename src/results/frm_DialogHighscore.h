@@ -66,6 +66,7 @@ private:
     void connect();
     void load();
     void showTitle();
+    void showWhyEmpty();
     void nextPage();
     void previousPage();
     std::shared_ptr<cls_DataScores> copyOfList() const;

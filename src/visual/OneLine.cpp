@@ -7,11 +7,21 @@
 namespace phial
 {
 
+namespace
+{
+
+/// Controls and the separators of lines and paragraphs.
+bool isControl(char16_t unit)
+{
+    return unit < u' ' || (unit >= u'\u007F' && unit <= u'\u009F') || unit == u'\u2028' || unit == u'\u2029';
+}
+
+} // namespace
+
 String oneLine(String text)
 {
     constexpr char16_t Blank = u' ';
-    std::ranges::replace_if(
-        text, [](char16_t unit) { return unit < Blank; }, Blank);
+    std::ranges::replace_if(text, isControl, Blank);
     return text;
 }
 

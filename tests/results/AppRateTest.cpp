@@ -2,6 +2,7 @@
 #include "app/cls_AppConfig.h"
 #include "app/cls_AppURL.h"
 #include "app/cls_AppUser.h"
+#include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "core/CoreDataFile.h"
 #include "core/CoreParameters.h"
@@ -11,12 +12,16 @@
 #include "results/Mark.h"
 #include "results/cls_AppRate.h"
 #include "results/cls_DataScores.h"
+#include "server/WireText.h"
 #include "server/cls_AppServer.h"
 #include "support/AppSession.h"
 #include "support/ChildProgram.h"
 #include "support/Raises.h"
 #include "visual/Form.h"
+#include "visual/Label.h"
 #include "visual/ctl_CmdBar.h"
+
+#include <limits>
 
 namespace phial
 {
@@ -347,6 +352,56 @@ TEST_F(LocalListTest, AFailedSaveOfTheListIsNotReported)
     EXPECT_EQ(storedCount(), 1);
 }
 
+TEST_F(LocalListTest, AMasterThatGoesWhileItIsAskedLeavesTheListOfThisComputer)
+{
+    fill({5, 6, 7});
+    logOn(u"");
+    outside.network().answerWith([](const String&) -> std::optional<String> {
+        QVAPP()->CONFIG()->PARAMETERS()->Set(u"NONETWORK", true);
+        QVAPP()->SERVER()->CONNECT();
+        return std::nullopt;
+    });
+    show([](Form& form) {
+        EXPECT_EQ(form.control<Label>(u"lab_Points", 0)->Caption(), u"7");
+        click(form, u"DIALOG.OK();");
+    });
+    EXPECT_EQ(storedCount(), 3);
+}
+
+TEST_F(LocalListTest, AListThatCannotBeReadIsNotReplacedByLooking)
+{
+    fill({5, 6});
+    outside.files().fail(headless::FileStep::Read);
+    show([](Form& form) { click(form, u"DIALOG.OK();"); });
+    outside.files().repair();
+    EXPECT_EQ(storedCount(), 2);
+    EXPECT_FALSE(folder.has("HIGHSCORE.qv-hsr.kept"));
+}
+
+TEST_F(LocalListTest, AListOfALaterVersionIsNotReplacedByLooking)
+{
+    CoreDataFile later;
+    later.Open(path(u"HIGHSCORE.qv-hsr"), DataFileMode::Write);
+    later.Write(u"2.1", u"of a later program");
+    later.Close();
+    const std::string bytes = folder.read("HIGHSCORE.qv-hsr");
+    show([](Form& form) { click(form, u"DIALOG.OK();"); });
+    EXPECT_EQ(folder.read("HIGHSCORE.qv-hsr"), bytes);
+    EXPECT_FALSE(folder.has("HIGHSCORE.qv-hsr.kept"));
+}
+
+TEST_F(LocalListTest, WithoutTheLockLookingChangesNothingAndAResetCounts)
+{
+    fill({5, 6});
+    outside.files().fail(headless::FileStep::Lock);
+    const auto before = std::filesystem::last_write_time(folder.native() / "HIGHSCORE.qv-hsr");
+    show([](Form& form) { click(form, u"DIALOG.OK();"); });
+    EXPECT_EQ(std::filesystem::last_write_time(folder.native() / "HIGHSCORE.qv-hsr"), before);
+    outside.dialogs().expectYesNo(DialogAnswer::Yes);
+    show([](Form& form) { click(form, u"DIALOG.RESET();"); });
+    EXPECT_EQ(storedCount(), 0);
+}
+
 TEST_F(LocalListTest, AListOfTheMasterIsNotSavedHere)
 {
     cls_DataScores scores;
@@ -401,6 +456,143 @@ TEST_F(AppRateTest, AMastersRefusalIsComforted)
     expectMessage(u"Info", u"Leider war das nichts! \rDu warst schon besser!");
 }
 
+TEST_F(AppRateTest, AMasterThatRefusesLeavesTheResultHere)
+{
+    logOn(u"ERROR");
+    EXPECT_EQ(submit(7), 1);
+    EXPECT_EQ(outside.dialogs().shown().back().title, u"Kunststück!");
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr").COUNT(), 1);
+    EXPECT_EQ(stored(u"results.qv-rsl").COUNT(), 1);
+    EXPECT_TRUE(QVAPP()->SERVER()->ONLINE());
+}
+
+TEST_F(AppRateTest, AMasterThatIsSilentLeavesTheResultHere)
+{
+    logOn(u"3");
+    fill({9, 8});
+    outside.network().answerWith({});
+    EXPECT_EQ(submit(7), 3);
+    EXPECT_EQ(outside.dialogs().shown().back().title, u"Naja...");
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr").COUNT(), 3);
+    EXPECT_EQ(stored(u"results.qv-rsl").COUNT(), 1);
+    EXPECT_LT(outside.clock().seconds(), 65);
+}
+
+TEST_F(AppRateTest, WhatTheMasterHasTakenInDoesNotStandHere)
+{
+    logOn(u"3");
+    EXPECT_EQ(submit(7), 3);
+    EXPECT_FALSE(folder.has("HIGHSCORE.qv-hsr"));
+    EXPECT_FALSE(folder.has("results.qv-rsl"));
+}
+
+TEST_F(AppRateTest, AResultThatIsTooLongForTheMasterStaysHereWithAWord)
+{
+    logOn(u"3");
+    LNG()->CURRENT(ID_Language_German);
+    CoreParameters more;
+    more.Set(u"Weg", String(MaxResultUnits, u'x'));
+    const std::size_t asked = outside.network().requests().size();
+    outside.dialogs().expect(
+        Box::Info, u"Dein Ergebnis ist zu lang für den Klassenraum. Es bleibt auf diesem Computer.");
+    outside.dialogs().expect(Box::Info);
+    EXPECT_EQ(rate().SUBMIT(7, 10, u"Salze", &more), 1);
+    EXPECT_EQ(outside.network().requests().size(), asked);
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr").ITEM(1)->ADDITIONAL()->Get(u"Weg").text().size(), MaxResultUnits);
+    EXPECT_EQ(stored(u"results.qv-rsl").COUNT(), 1);
+}
+
+TEST_F(AppRateTest, AResultGoesToTheMasterUpToTheBound)
+{
+    logOn(u"3");
+    CoreParameters more;
+    more.Set(u"Weg", u"");
+    const String empty = CoreValuePacker::Pack(
+        {7.0, 10.0, u"Salze", more.Pack(), QVAPP()->USER()->SCREENNAME(), u"DESK-1", u"pupil"});
+    constexpr std::size_t LengthsInDigits = 4 + 4; // both lengths grow from one digit to five
+    const std::size_t room = MaxResultUnits - empty.size() - LengthsInDigits + 1;
+    more.Set(u"Weg", String(room, u'x'));
+    EXPECT_EQ(rate().handIn(7, 10, u"Salze", &more, u"HIGHSCORE", false).listed, ResultPlace::Master);
+    EXPECT_EQ(outside.network().requests().back().message.size(),
+              MaxResultUnits + StringView(u"HIGHSCORE::SUBMIT::").size());
+    more.Set(u"Weg", String(room + 1, u'x'));
+    EXPECT_EQ(rate().handIn(7, 10, u"Salze", &more, u"HIGHSCORE", false).listed, ResultPlace::ThisComputer);
+}
+
+TEST_F(AppRateTest, PointsThatAreNoNumberAreRefusedAndNotStored)
+{
+    constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+    constexpr double Infinite = std::numeric_limits<double>::infinity();
+    for (const double points : {NotANumber, Infinite, -Infinite}) {
+        EXPECT_RAISES(rate().SUBMIT(points, 10), InvalidArgument);
+        EXPECT_RAISES(rate().SUBMIT(7, points), InvalidArgument);
+        EXPECT_RAISES(rate().RESULT(points, 10, u""), InvalidArgument);
+        EXPECT_RAISES(cls_DataScores().ADD(points, 10, u""), InvalidArgument);
+        EXPECT_EQ(rate().MARKPOINTS(points, 10, u""), 0);
+        EXPECT_EQ(rate().MARKPOINTS(7, points, u""), 0);
+    }
+    EXPECT_TRUE(folder.names().empty() || !folder.has("HIGHSCORE.qv-hsr"));
+    logOn(u"3");
+    const std::size_t asked = outside.network().requests().size();
+    EXPECT_RAISES(rate().handIn(NotANumber, 10), InvalidArgument);
+    EXPECT_EQ(outside.network().requests().size(), asked);
+}
+
+TEST_F(AppRateTest, HandingInLeavesTheClientOfflineWhereTheMasterHasGone)
+{
+    logOn(u"3");
+    outside.network().answerWith({});
+    const HandedIn result = rate().handIn(7, 10, u"", nullptr, u"HIGHSCORE", false);
+    EXPECT_FALSE(QVAPP()->SERVER()->ONLINE());
+    EXPECT_EQ(result.recorded, ResultPlace::ThisComputer);
+    EXPECT_EQ(result.listed, ResultPlace::ThisComputer);
+    EXPECT_EQ(result.rank, 1);
+    EXPECT_EQ(rate().HIGHSCORE()->COUNT(), 1);
+    EXPECT_LT(outside.clock().seconds(), 70);
+}
+
+TEST_F(AppRateTest, HandingInFindsOutWhenTheMasterGoesInTheMiddleOfIt)
+{
+    logOn(u"3");
+    outside.network().answerWith([this](const String& message) -> std::optional<String> {
+        if (message.starts_with(u"RESULTS")) {
+            outside.network().answerWith({});
+        }
+        return u"008:OK";
+    });
+    const HandedIn result = rate().handIn(7, 10, u"", nullptr, u"HIGHSCORE", false);
+    EXPECT_EQ(result.recorded, ResultPlace::Master);
+    EXPECT_EQ(result.listed, ResultPlace::ThisComputer);
+    EXPECT_TRUE(result.isKept());
+    EXPECT_FALSE(QVAPP()->SERVER()->ONLINE());
+    EXPECT_LT(outside.clock().seconds(), 70);
+}
+
+TEST_F(AppRateTest, HandingInToAMasterThatIsThereIsSubmitting)
+{
+    logOn(u"3");
+    const HandedIn result = rate().handIn(7, 10, u"Salze", nullptr, u"HIGHSCORE", false);
+    EXPECT_EQ(result.rank, 3);
+    EXPECT_EQ(result.recorded, ResultPlace::Master);
+    EXPECT_EQ(result.listed, ResultPlace::Master);
+    EXPECT_FALSE(result.wasUnanswered);
+    EXPECT_EQ(rate().handIn(7, 10, u"Salze", nullptr, u"RESULTS").listed, ResultPlace::Master);
+}
+
+TEST_F(AppRateTest, HandingInSaysWhatCouldNotBeKept)
+{
+    outside.files().failChanges();
+    HandedIn result = rate().handIn(7, 10, u"", nullptr, u"HIGHSCORE", false);
+    EXPECT_EQ(result.recorded, ResultPlace::Nowhere);
+    EXPECT_EQ(result.listed, ResultPlace::Nowhere);
+    EXPECT_FALSE(result.isKept());
+    outside.files().repair();
+    folder.write("results.qv-rsl/in the way", "x");
+    result = rate().handIn(7, 10, u"", nullptr, u"HIGHSCORE", false);
+    EXPECT_EQ(result.listed, ResultPlace::ThisComputer);
+    EXPECT_FALSE(result.isKept());
+}
+
 TEST_F(AppRateTest, AMastersRankIsTheNumberAtItsBeginning)
 {
     logOn(u"2,5");
@@ -423,6 +615,12 @@ TEST_F(AppRateTest, TheMastersHighscoreComesAsOneText)
 TEST_F(AppRateTest, AnEmptyAnswerLeavesTheHighscoreEmpty)
 {
     logOn(u"");
+    EXPECT_EQ(rate().HIGHSCORE()->COUNT(), 0);
+}
+
+TEST_F(AppRateTest, AMastersWordForAnErrorLeavesTheHighscoreEmpty)
+{
+    logOn(u"ERROR");
     EXPECT_EQ(rate().HIGHSCORE()->COUNT(), 0);
 }
 
@@ -482,6 +680,27 @@ TEST_F(CertificateTest, TheCallerReplacesWhatHeWantsButTheText)
     more.Set(u"FILE", u"Andere.zr-frm");
     EXPECT_TRUE(rate().PRINTCERTIFICATE(u"given", &more));
     EXPECT_EQ(printedTexts().front(), u"Tom/given/9b");
+}
+
+TEST_F(CertificateTest, NoSpellingOfItsNameReplacesTheText)
+{
+    form({{u"a", u"{TEXT}{B}"}});
+    CoreParameters more;
+    more.Set(u"text", u"of the caller");
+    more.Set(u"Text", u"of the caller");
+    more.Set(u"B", u"!");
+    EXPECT_TRUE(rate().PRINTCERTIFICATE(u"given", &more));
+    EXPECT_EQ(printedTexts().front(), u"given!");
+}
+
+TEST_F(CertificateTest, TheTextStandsBehindAllOtherValues)
+{
+    form({{u"a", u"{TEXT}"}});
+    CoreParameters more;
+    more.Set(u"text", u"of the caller");
+    more.Set(u"later", u"filled in");
+    EXPECT_TRUE(rate().PRINTCERTIFICATE(u"{later}", &more));
+    EXPECT_EQ(printedTexts().front(), u"{later}");
 }
 
 TEST_F(CertificateTest, NamesOfPlaceholdersCountTheirCase)

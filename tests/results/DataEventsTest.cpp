@@ -226,6 +226,22 @@ TEST_F(DataEvents, AreWrittenWithoutARunningNumber)
                           u"Ben\tb.huber\tPC-08\t02.03.2026\t08:01:00\tEnde\t\t\r\n");
 }
 
+TEST_F(DataEvents, LineEndsAndTabsInThemAreBlanks)
+{
+    log.ADD(u"Start\r\nZeile\t2", nullptr, u"a\nb", u"PC\t7", u"An\rna");
+    log.ITEM(1)->TIMESTAMP(Moment{1e12});
+    EXPECT_EQ(log.ITEM(1)->TEXTLINE(), u"An na\ta b\tPC 7\t\t\tStart  Zeile 2\t\t");
+    EXPECT_EQ(log.ITEM(1)->TEXT(), u"Name: \tAn na\r\n"
+                                   u"Login: \ta b\r\n"
+                                   u"Rechner: \tPC 7\r\n"
+                                   u"Datum: \t\r\n"
+                                   u"Uhrzeit: \t\r\n"
+                                   u"Aktion: \tStart  Zeile 2\r\n"
+                                   u"Zusatz: \t\r\n");
+    outside.dialogs().expect(headless::Box::Text, u"1. a b Start  Zeile 2\r\n");
+    log.DEBUGSHOW();
+}
+
 TEST_F(DataEvents, TellThemselvesInLines)
 {
     fillWithTwo();

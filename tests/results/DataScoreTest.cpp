@@ -4,6 +4,7 @@
 
 #include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace phial
 {
@@ -215,6 +216,42 @@ TEST(cls_DataScore, TellsItselfInTenFieldsEachWithATab)
     fill(score);
     EXPECT_EQ(score.TEXTLINE(), u"3\tAnna | {B}\ta.meier\tPC-07\t02.03.2026\t18:05:09\t7,5\t10\tGut\t"
                                 u"Fehler = 2\t");
+}
+
+TEST(cls_DataScore, AMomentThatTheCalendarDoesNotHaveIsEmpty)
+{
+    for (const double days : {std::numeric_limits<double>::quiet_NaN(), 1e300, -1e9, 3e6}) {
+        cls_DataScore score;
+        fill(score);
+        score.TIMESTAMP(Moment{days});
+        EXPECT_EQ(score.TEXTLINE(), u"3\tAnna | {B}\ta.meier\tPC-07\t\t\t7,5\t10\tGut\tFehler = 2\t");
+        EXPECT_THAT(toUtf8(score.TEXT()), testing::HasSubstr("Datum: \t\r\nUhrzeit: \t\r\n"));
+    }
+}
+
+TEST(cls_DataScore, LineEndsAndTabsInNamesAreBlanks)
+{
+    cls_DataScore score;
+    fill(score);
+    score.SCREENNAME(u"An\r\nna\tB");
+    score.USERNAME(u"a\u2028b");
+    score.COMPUTER(u"PC\u00857");
+    EXPECT_EQ(score.TEXTLINE(), u"3\tAn  na B\ta b\tPC 7\t02.03.2026\t18:05:09\t7,5\t10\tGut\t"
+                                u"Fehler = 2\t");
+    EXPECT_THAT(toUtf8(score.TEXT()),
+                testing::HasSubstr("Name: \tAn  na B\r\nLogin: \ta b\r\nRechner: \tPC 7\r\n"));
+    EXPECT_EQ(score.SCREENNAME(), u"An\r\nna\tB");
+}
+
+TEST(cls_DataScore, PointsThatAreNoNumberAreTheWorstMark)
+{
+    cls_DataScore score;
+    fill(score);
+    for (const double points :
+         {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+        score.POINTS(points);
+        EXPECT_THAT(toUtf8(score.TEXT()), testing::HasSubstr("Note: \tUngenügend\r\n"));
+    }
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include "visual/ctl_Title.h"
 
 #include <gmock/gmock-matchers.h>
+#include <limits>
 
 namespace phial
 {
@@ -117,6 +118,31 @@ protected:
     cls_DataScores list;
     std::shared_ptr<Form> window;
 };
+
+TEST_F(HighscoreWindow, AMomentOrPointsThatAreNoneDisturbNoOtherRow)
+{
+    addEntries(2);
+    list.ITEM(1)->TIMESTAMP(Moment{std::numeric_limits<double>::quiet_NaN()});
+    list.ITEM(2)->POINTS(std::numeric_limits<double>::quiet_NaN());
+    show([this] {
+        EXPECT_EQ(names(), namesOf(1, 2));
+        EXPECT_EQ(text(u"lab_time", 0), u"");
+        EXPECT_NE(text(u"lab_time", 1), u"");
+    });
+}
+
+TEST_F(HighscoreWindow, SaysThatAListCannotBeRead)
+{
+    folder.write("list.qv-hsr", "half a fi");
+    EXPECT_FALSE(list.LOAD(path(u"list.qv-hsr")));
+    showLocal([this] {
+        EXPECT_TRUE(isEmptyShown());
+        EXPECT_EQ(get<ctl_Pannel>(u"bar_Empty")->Caption(),
+                  u"Diese Liste lässt sich nicht lesen. Sie bleibt, wie sie ist.");
+        LNG()->CURRENT(ID_Language_English);
+        EXPECT_EQ(get<ctl_Pannel>(u"bar_Empty")->Caption(), u"This list cannot be read. It stays as it is.");
+    });
+}
 
 TEST_F(HighscoreWindow, ShowsAnEntryInItsRow)
 {

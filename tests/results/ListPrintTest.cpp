@@ -1,3 +1,5 @@
+#include "results/ListPrint.h"
+
 #include "results/ResultsTest.h"
 #include "results/cls_DataEvents.h"
 #include "support/Raises.h"
@@ -145,6 +147,15 @@ TEST_F(ListPrint, HasBoldTitlesOverItsColumns)
                             at(column(0.75), "Datum"), at(column(0.9), "Zusatz")));
     EXPECT_NEAR(text("Rang").y, 30, Rounding);
     EXPECT_NEAR(text("Zusatz").y, 30, Rounding);
+}
+
+TEST_F(ListPrint, LineEndsAndTabsInNamesAreBlanks)
+{
+    add(list, u"An\r\nna\tB", 7.5);
+    list.ITEM(1)->TIMESTAMP(Moment{1e12});
+    list.PRINTOUT(u"Bestenliste");
+    EXPECT_EQ(text("An  na B").text, "An  na B");
+    EXPECT_EQ(printedMoment(list.ITEM(1)->TIMESTAMP()), u"");
 }
 
 TEST_F(ListPrint, HasARowForEachEntry)

@@ -1,10 +1,14 @@
 #include "core/CoreDataFile.h"
 #include "core/NativePath.h"
+#include "core/RecordFormat.h"
 #include "results/ResultsTest.h"
 #include "results/cls_DataEvents.h"
+#include "support/MemoryStream.h"
 #include "support/Places.h"
 
+#include <fstream>
 #include <gmock/gmock-matchers.h>
+#include <iterator>
 
 namespace phial
 {
@@ -205,6 +209,33 @@ TEST_F(StoredLists, WhatWasHalfReadElsewhereDoesNotMatter)
     const String other = stored("items_2.5.qv-hsr");
     EXPECT_TRUE(list.SAVE(other));
     EXPECT_THAT(folder.names(), ElementsAre("items_2.5.qv-hsr", "list_2.1.qv-hsr"));
+}
+
+/// The values of a record with that many entries.
+template <typename List, typename Entry>
+std::size_t valuesOf(int entries)
+{
+    List list;
+    for (int entry = 0; entry < entries; ++entry) {
+        list.DATABASE()->Import(std::make_shared<Entry>());
+    }
+    test::MemoryStream stream;
+    list.DATA()->Store(stream);
+    return stream.values.size();
+}
+
+TEST_F(StoredLists, TheBoundsOnTheirEntriesAreThoseOfTheDocumentation)
+{
+    const auto most = [](std::size_t ofNone, std::size_t ofOne) {
+        return (record_format::MaxValues - ofNone) / (ofOne - ofNone);
+    };
+    EXPECT_EQ(most(valuesOf<cls_DataScores, cls_DataScore>(0), valuesOf<cls_DataScores, cls_DataScore>(1)),
+              381'299U);
+    EXPECT_EQ(most(valuesOf<cls_DataEvents, cls_DataEvent>(0), valuesOf<cls_DataEvents, cls_DataEvent>(1)),
+              524'287U);
+    std::ifstream stream(PHIAL_TEST_VECTORS "/../../docs/formats.md");
+    const std::string page{std::istreambuf_iterator<char>(stream), {}};
+    EXPECT_THAT(page, testing::HasSubstr("381 299 scores or 524 287 events"));
 }
 
 TEST_F(StoredLists, APasswordNeedsSealing)
