@@ -117,15 +117,6 @@ void Classroom::followClient()
     }
 }
 
-void Classroom::seeMaster()
-{
-    const auto server = QVAPP()->SERVER();
-    if (state_ == State::Online && server->REQUEST(u"SERVER", u"MODE").toText().empty()) {
-        server->CONNECT();
-        followClient();
-    }
-}
-
 void Classroom::roundStarted(const String& exercise)
 {
     alive_.Enabled(state_ == State::Online);

@@ -42,10 +42,6 @@ public:
     /// Whether the trainer may run now; with `tell` the pupil is told why not.
     bool allows(bool tell);
 
-    /// Before a result is handed in: a master that has gone since the log-on would take nothing, so the
-    /// trainer goes on without it then, and the result stays on this computer. Asks only while Online.
-    void seeMaster();
-
     void roundStarted(const phial::String& exercise);
     void roundFinished(const RoundResult& result);
     /// The round will not be finished.

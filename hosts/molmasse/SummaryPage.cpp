@@ -5,6 +5,7 @@
 #include "core/CoreDialogs.h"
 #include "core/CoreRoot.h"
 #include "core/RuntimeError.h"
+#include "molmasse/ListNotices.h"
 #include "molmasse/TrainerTexts.h"
 #include "results/cls_AppRate.h"
 #include "results/cls_DataScores.h"
@@ -58,18 +59,20 @@ void SummaryPage::show(const RoundResult& result, String germanTitle, String eng
     TRANSLATE();
 }
 
-void SummaryPage::submit(const std::function<void()>& prepare)
+void SummaryPage::submit()
 {
     submitting(true);
+    phial::HandedIn handedIn;
     try {
-        prepare();
         const phial::CoreParameters additional = additionalValues(result_);
-        rank_ = QVAPP()->RATE()->SUBMIT(result_.points, result_.maximum, result_.exercise, &additional);
+        handedIn = QVAPP()->RATE()->handIn(result_.points, result_.maximum, result_.exercise, &additional);
     } catch (const phial::RuntimeError&) {
         submitting(false); // the page goes on whatever happens to the lists
         throw;
     }
+    rank_ = handedIn.rank;
     submitting(false);
+    tellAboutLists(handedIn);
 }
 
 void SummaryPage::submitting(bool value)
@@ -126,6 +129,7 @@ void SummaryPage::showList()
 {
     QVAPP()->RATE()->HIGHSCORELIST(translate(u"Die besten Runden", u"The best rounds"),
                                    rank_ > 0 ? rank_ : -1);
+    tellAboutKeptLists();
 }
 
 void SummaryPage::printCertificate()

@@ -3,8 +3,6 @@
 #include "molmasse/RoundResult.h"
 #include "visual/Form.h"
 
-#include <functional>
-
 namespace molmasse
 {
 
@@ -21,9 +19,9 @@ public:
 
     /// Shows the result; `germanTitle` and `englishTitle` name the exercise.
     void show(const RoundResult& result, phial::String germanTitle, phial::String englishTitle);
-    /// Runs `prepare` and hands the result in, which tells the pupil the rank in a box. Events run until the
-    /// master has answered and the box is closed; until then only leaving is offered.
-    void submit(const std::function<void()>& prepare);
+    /// Hands the result in, which tells the pupil the rank in a box, and what else became of the lists.
+    /// Events run until the master has answered and the boxes are closed; until then only leaving is offered.
+    void submit();
     /// Puts the texts that are not of the design in the language in force.
     void TRANSLATE();
 

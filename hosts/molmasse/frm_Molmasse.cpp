@@ -10,6 +10,7 @@
 #include "app/sys_Global.h"
 #include "core/RandomSource.h"
 #include "core/SessionState.h"
+#include "molmasse/ListNotices.h"
 #include "molmasse/MolmasseLayout.h"
 #include "molmasse/MolmasseStyle.h"
 #include "molmasse/TrainerTexts.h"
@@ -64,6 +65,7 @@ void frm_Molmasse::welcome()
     if (page_ == Page::Missing) {
         return;
     }
+    tellAboutOwnFolder();
     if (phial::recentNames().empty()) {
         askForUser();
     }
@@ -343,11 +345,12 @@ void frm_Molmasse::finishRound()
                              .tasks = round.count()};
     summary_->show(result, level.germanTitle, level.englishTitle);
     show(Page::Summary);
-    summary_->submit([this] { classroom_.seeMaster(); });
+    summary_->submit();
     if (form_->Visible()) {
         firstOf(Page::Summary)->SetFocus();
     }
     classroom_.roundFinished(result); // last: the pupil may go on while the master answers
+    tellAboutKeptLists();
 }
 
 void frm_Molmasse::keyDown(phial::KeyEvent& event)
