@@ -92,6 +92,13 @@ TEST(TermDrawTest, RestoresTheDeviceAndStaysBehindTheTerm)
     EXPECT_EQ(device.CurrentX(), 10 + 49);
 }
 
+TEST(TermDrawTest, AnIndexAtTheEndLeavesTheFontSizeAsItWas)
+{
+    TermPicture picture;
+    TermDraw(picture.device(), u"SO4", 10, 20, TEXTALIGN::TopLeft);
+    EXPECT_EQ(picture.device().FontSize(), TermPicture::Size);
+}
+
 TEST(TermDrawTest, AFractionAddsNoWidthSoACentredTermStandsOffItsAnchor)
 {
     TermPicture picture;
