@@ -28,8 +28,9 @@ enum class TEXTALIGN : std::int32_t {
 ///
 ///     digits behind a symbol or ")"   lowered      H2O, Ca(OH)2
 ///     a sign that nothing follows     raised       Na+, Fe3+
-///     ^ and µ                         raise and lower what follows, from the last place in the line
-///     #                               ends raising and lowering
+///     ^ and µ                         raise and lower what follows, from behind the last letter, digit or
+///                                     "]" in the line: back over an index, but over a ")" too
+///     #                               ends raising and lowering; #^ raises from here: c(NH3)#^2, 10^2#^3
 ///     (a)/(b)                         a fraction, numerator and denominator left-aligned
 ///     -> <- ~~ * =^                   arrows, approximation sign, middle dot, sign for correspondence
 ///     §                               all that follows is red
