@@ -3,6 +3,7 @@
 // itself included in neither.
 
 #include "CountedMemory.h"
+#include "KeptMemory.h"
 #include "chem/cls_DataElements.h"
 #include "qt/desktop/PictureBackend.h"
 #include "qt/desktop/QtTextMetrics.h"
@@ -12,7 +13,6 @@
 #include <QGuiApplication>
 
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 #include <memory>
 
 namespace
@@ -93,20 +93,11 @@ void NestedFractions(benchmark::State& state)
 }
 BENCHMARK(NestedFractions)->RangeMultiplier(10)->Range(100, 10'000);
 
-// Memory given back to the system comes again page by page, which costs more than the work and sets in at
-// some length; here it is kept.
-void keepFreedMemory()
-{
-    constexpr int Kept = 32 * 1024 * 1024; // bytes
-    mallopt(M_MMAP_THRESHOLD, Kept);
-    mallopt(M_TRIM_THRESHOLD, Kept);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    keepFreedMemory();
+    bench::keepFreedMemory();
     const QGuiApplication application(argc, argv);
     bench::CountedMemory memory;
     benchmark::RegisterMemoryManager(&memory);

@@ -6,6 +6,7 @@
 #include "core/NumberText.h"
 #include "core/RuntimeError.h"
 
+#include <algorithm>
 #include <array>
 
 namespace phial
@@ -67,6 +68,7 @@ TermEvaluation::Result TermEvaluation::evaluate(StringView term, char16_t decima
     wordBegin_ = 0;
     calls_.assign(1, {});
 
+    makeRoomFor(term);
     readTerm(term);
     while (!isOutermost()) {
         closeBracket();
@@ -74,6 +76,19 @@ TermEvaluation::Result TermEvaluation::evaluate(StringView term, char16_t decima
     endWord();
     const double value = valueOfCall();
     return {value, std::move(error_)};
+}
+
+/// The tokens of a long term take far more memory than the term, and a list that grows while it is filled
+/// touches several times as much as it holds in the end. So they are counted first: an operator has a value
+/// on each side.
+void TermEvaluation::makeRoomFor(StringView term)
+{
+    constexpr std::size_t LongTerm = 1024;
+    if (term.size() >= LongTerm) {
+        const auto operators =
+            std::ranges::count_if(term, [](char16_t unit) { return kindOf(unit) == UnitKind::Operator; });
+        tokens_.reserve(2 * static_cast<std::size_t>(operators) + 1);
+    }
 }
 
 void TermEvaluation::readTerm(StringView term)

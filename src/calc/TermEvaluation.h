@@ -56,6 +56,7 @@ private:
 
     enum class Level : unsigned char { None, Power, Product, Sum };
 
+    void makeRoomFor(StringView term);
     void readTerm(StringView term);
     void readUnit(char16_t unit);
     void passOver(char16_t unit);

@@ -1,4 +1,5 @@
 #include "calc/ExpressionSolver.h"
+#include "calc/LargeAllocations.h"
 
 #include <gtest/gtest.h>
 
@@ -120,6 +121,17 @@ TEST(LargeTerms, VariableNameOfAMillionCharacters)
 {
     const String name = repeated(u"x", Million);
     EXPECT_EQ(valueOf(u"5*" + name, {name, 3.0}), 15);
+}
+
+TEST(LargeTerms, TokensOfALongTermTakeTheirMemoryOnce)
+{
+    const String term = repeated(u"1+", HundredThousand) + u"1";
+    ExpressionSolver solver;
+    const std::size_t before = largeAllocations();
+    EXPECT_EQ(solver.SolveTerm(term), HundredThousand + 1);
+    EXPECT_EQ(largeAllocations() - before, 1U);
+    solver.SolveTerm(term);
+    EXPECT_EQ(largeAllocations() - before, 1U) << "the solver keeps its memory";
 }
 
 } // namespace
