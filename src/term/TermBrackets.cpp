@@ -20,7 +20,7 @@ TermBrackets::TermBrackets(StringView term) : term_(term)
         }
     }
     if (term.find(u' ') != StringView::npos) {
-        nextBlank_.assign(term.size(), term.size());
+        nextBlank_.assign(term.size() + 1, term.size());
         std::size_t blank = term.size();
         for (std::size_t i = term.size(); i-- > 0;) {
             blank = term[i] == u' ' ? i : blank;
@@ -45,10 +45,7 @@ TermFraction TermBrackets::fractionAt(std::size_t open, std::size_t end) const
 
 std::size_t TermBrackets::firstBlank(TermRange part) const
 {
-    if (nextBlank_.empty() || part.begin >= part.end) {
-        return part.end;
-    }
-    return std::min(nextBlank_[part.begin], part.end);
+    return nextBlank_.empty() ? part.end : std::min(nextBlank_[part.begin], part.end);
 }
 
 } // namespace phial

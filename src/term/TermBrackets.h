@@ -41,7 +41,7 @@ private:
 
     StringView term_;
     std::vector<std::size_t> closing_;   // for each "(" the position of its ")", else None
-    std::vector<std::size_t> nextBlank_; // for each position the next blank at or behind it
+    std::vector<std::size_t> nextBlank_; // for each position, the end too, the next blank at or behind it
 };
 
 } // namespace phial

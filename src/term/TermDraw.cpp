@@ -8,6 +8,7 @@
 #include "visual/DrawDevice.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace phial
@@ -16,6 +17,7 @@ namespace phial
 namespace
 {
 
+constexpr std::int32_t NoCaret = -1;
 constexpr std::size_t LongestNumber = 32; // no number in canonical form has more characters
 
 /// Whether turning the text into a number and back gives the same text.
@@ -32,21 +34,24 @@ struct SavedState {
     double currentY;
 };
 
+/// A fraction whose numerator and denominator are being drawn.
+struct PendingFraction {
+    TermFraction parts;
+    double x;
+    std::optional<std::int32_t> numeratorWidth; // none until it has been drawn
+};
+
 /// A term, numerator or denominator being drawn. Fractions nest as entries of a list, not as calls, so that
 /// no term exhausts the stack.
 struct Frame {
     TermLine line;
-    double x = 0;
-    double y = 0;
-    TEXTALIGN align = TEXTALIGN::TopLeft;
+    double x;
+    double y;
+    TEXTALIGN align;
     SavedState saved;
-    double width = 0;
     TermWalk walk;
-    // The fraction that this part waits for.
-    TermFraction fraction;
-    double fractionX = 0;
-    std::int32_t numeratorWidth = 0;
-    bool numeratorDone = false;
+    double width; // of the measuring walk
+    PendingFraction fraction;
 };
 
 class TermPainter
@@ -57,9 +62,12 @@ public:
     {
     }
 
-    std::int32_t draw(double x, double y, TEXTALIGN align)
+    /// Draws at that anchor point; -1 stands for the device's current position. Gives the width in the
+    /// measuring walk.
+    std::int32_t draw(std::int32_t x, std::int32_t y, TEXTALIGN align)
     {
-        open({0, term_.size()}, x, y, align);
+        open({0, term_.size()}, x == -1 ? toWhole(device_.CurrentX()) : x,
+             y == -1 ? toWhole(device_.CurrentY()) : y, align);
         while (!frames_.empty()) {
             Frame& frame = frames_.back();
             if (frame.walk.position < frame.line.part.end) {
@@ -74,6 +82,7 @@ public:
         return width_;
     }
 
+    // -1 when the caret is not drawn.
     std::int32_t caretX = -1;
     std::int32_t previousIndex = -1;
     std::int32_t nextIndex = -1;
@@ -81,30 +90,29 @@ public:
 private:
     void open(TermRange part, double x, double y, TEXTALIGN align)
     {
-        Frame frame;
-        frame.line = {part, device_.FontName(), device_.FontSize(), device_.TextHeight(u"A")};
-        frame.saved = {device_.ForeColor(), device_.FontBold(), device_.CurrentY()};
-        frame.x = x;
-        frame.y = y;
-        frame.align = align;
-        frames_.push_back(std::move(frame));
+        frames_.push_back({.line = {part, device_.FontName(), device_.FontSize(), device_.TextHeight(u"A")},
+                           .x = x,
+                           .y = y,
+                           .align = align,
+                           .saved = {device_.ForeColor(), device_.FontBold(), device_.CurrentY()},
+                           .walk = {},
+                           .width = {},
+                           .fraction = {}});
         begin(frames_.back(), false);
     }
 
     /// Starts the measuring or the drawing walk of a part.
     void begin(Frame& frame, bool drawing)
     {
-        device_.FontName(frame.line.fontName);
         device_.ForeColor(frame.saved.foreColor);
         device_.FontBold(frame.saved.fontBold || startsWithCoefficient(frame.line.part));
         const double startX = drawing ? alignedX(frame) : frame.x;
-        frame.walk = TermWalk();
-        frame.walk.drawing = drawing;
-        frame.walk.position = frame.line.part.begin;
-        frame.walk.base = toWhole(drawing ? alignedY(frame) : frame.y);
-        frame.walk.anchor = startX;
+        const double startY = drawing ? alignedY(frame) : frame.y;
+        frame.walk = {.drawing = drawing,
+                      .position = frame.line.part.begin,
+                      .base = static_cast<double>(toWhole(startY)),
+                      .anchor = startX};
         device_.CurrentX(startX);
-        device_.CurrentY(frame.walk.base);
         if (drawing && isWholeTerm() && caret_ == 0) {
             drawCaret();
         }
@@ -154,9 +162,7 @@ private:
     void close(Frame& frame)
     {
         if (frame.walk.stroke) {
-            const double endX = device_.CurrentX();
-            device_.Line(frame.walk.strokeX, frame.walk.strokeY, endX, device_.CurrentY());
-            device_.CurrentX(endX);
+            device_.Line(frame.walk.stroke->x, frame.walk.stroke->y, device_.CurrentX(), device_.CurrentY());
         }
         device_.FontSize(frame.line.fontSize);
         device_.ForeColor(frame.saved.foreColor);
@@ -195,10 +201,9 @@ private:
             frame.walk.position = fraction.next;
             return;
         }
-        frame.fraction = fraction;
-        frame.fractionX = device_.CurrentX();
-        frame.numeratorDone = false;
-        openPart(fraction.numerator, frame.fractionX, frame.walk.base - frame.line.height / 2);
+        const double x = device_.CurrentX();
+        frame.fraction = {fraction, x, std::nullopt};
+        openPart(fraction.numerator, x, frame.walk.base - frame.line.height / 2);
     }
 
     void openPart(TermRange part, double x, double y)
@@ -208,18 +213,16 @@ private:
 
     void continueFraction(Frame& frame, std::int32_t partWidth)
     {
+        PendingFraction& fraction = frame.fraction;
         const double middle = frame.walk.base + frame.line.height / 2;
-        if (!frame.numeratorDone) {
-            frame.numeratorDone = true;
-            frame.numeratorWidth = partWidth;
-            device_.CurrentX(frame.fractionX);
-            openPart(frame.fraction.denominator, frame.fractionX, middle);
+        if (!fraction.numeratorWidth) {
+            fraction.numeratorWidth = partWidth;
+            openPart(fraction.parts.denominator, fraction.x, middle);
             return;
         }
-        const double endX = frame.fractionX + std::max(frame.numeratorWidth, partWidth);
-        device_.Line(frame.fractionX, middle, endX, middle);
-        device_.CurrentX(endX);
-        frame.walk.position = frame.fraction.next;
+        const double endX = fraction.x + std::max(*fraction.numeratorWidth, partWidth);
+        device_.Line(fraction.x, middle, endX, middle);
+        frame.walk.position = fraction.parts.next;
         placeCaret(frame);
     }
 
@@ -237,7 +240,6 @@ private:
         const double y = device_.CurrentY();
         const double gap = device_.ScaleY(3, ScaleUnit::Pixels, device_.ScaleMode());
         device_.Line(x, gap, x, device_.ScaleHeight() - 1 - gap);
-        device_.CurrentX(x);
         device_.CurrentY(y);
         caretX = toWhole(x);
         previousIndex = caret_ - 1;
@@ -259,14 +261,8 @@ std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX, st
                       TEXTALIGN pAlign, bool pCalcOnly, std::int32_t pCaret, std::int32_t& rCaretX,
                       std::int32_t& rPrevIndex, std::int32_t& rNextIndex)
 {
-    rCaretX = rPrevIndex = rNextIndex = -1;
-    if (pCalcOnly) {
-        return 0;
-    }
-    const double x = pX == -1 ? toWhole(pDevice.CurrentX()) : pX;
-    const double y = pY == -1 ? toWhole(pDevice.CurrentY()) : pY;
     TermPainter painter(pDevice, pText, pCaret);
-    const std::int32_t width = painter.draw(x, y, pAlign);
+    const std::int32_t width = pCalcOnly ? 0 : painter.draw(pX, pY, pAlign);
     rCaretX = painter.caretX;
     rPrevIndex = painter.previousIndex;
     rNextIndex = painter.nextIndex;
@@ -276,10 +272,7 @@ std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX, st
 std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX, std::int32_t pY,
                       TEXTALIGN pAlign)
 {
-    std::int32_t caretX = -1;
-    std::int32_t previousIndex = -1;
-    std::int32_t nextIndex = -1;
-    return TermDraw(pDevice, pText, pX, pY, pAlign, false, -1, caretX, previousIndex, nextIndex);
+    return TermPainter(pDevice, pText, NoCaret).draw(pX, pY, pAlign);
 }
 
 } // namespace phial

@@ -6,44 +6,36 @@ namespace phial
 namespace
 {
 
-enum class Mode { Superscript, Normal, Subscript };
+/// The tag in which a character stands; none for one in the line.
+using Tag = StringView;
+constexpr Tag InTheLine = u"";
+constexpr Tag Raised = u"sup";
+constexpr Tag Lowered = u"sub";
 
-StringView openingTag(Mode mode)
+void open(String& html, Tag tag)
 {
-    switch (mode) {
-    case Mode::Superscript:
-        return u"<sup>";
-    case Mode::Subscript:
-        return u"<sub>";
-    case Mode::Normal:
-        break;
+    if (tag != InTheLine) {
+        html.append(u"<").append(tag).append(u">");
     }
-    return {};
 }
 
-StringView closingTag(Mode mode)
+void close(String& html, Tag tag)
 {
-    switch (mode) {
-    case Mode::Superscript:
-        return u"</sup>";
-    case Mode::Subscript:
-        return u"</sub>";
-    case Mode::Normal:
-        break;
+    if (tag != InTheLine) {
+        html.append(u"</").append(tag).append(u">");
     }
-    return {};
 }
 
-/// The mode that a character is written in, given the mode of the one before it.
-Mode modeOf(char16_t c, Mode before)
+/// The tag of a character, given that of the one before it.
+Tag tagOf(char16_t c, Tag before)
 {
     if (c == u'+' || c == u'-') {
-        return Mode::Superscript;
+        return Raised;
     }
     if (StringView(u"0123456789,.").find(c) != StringView::npos) {
-        return before == Mode::Normal ? Mode::Subscript : before;
+        return before == InTheLine ? Lowered : before;
     }
-    return Mode::Normal;
+    return InTheLine;
 }
 
 } // namespace
@@ -52,20 +44,22 @@ String termToHtml(StringView term)
 {
     const String walked = String(term) + u' ';
     String html;
-    html.reserve(walked.size() * 4);
-    Mode mode = Mode::Normal;
+    Tag tag = InTheLine;
     for (std::size_t i = 0; i < walked.size(); ++i) {
         const char16_t c = walked[i];
         if (c == u'^' || c == u'µ') {
-            const Mode single = c == u'^' ? Mode::Superscript : Mode::Subscript;
+            const Tag single = c == u'^' ? Raised : Lowered;
             ++i; // a blank stands behind the term, so there is a next character
-            html.append(openingTag(single)).append(1, walked[i]).append(closingTag(single));
+            open(html, single);
+            html += walked[i];
+            close(html, single);
             continue;
         }
-        const Mode next = modeOf(c, mode);
-        if (next != mode) {
-            html.append(closingTag(mode)).append(openingTag(next));
-            mode = next;
+        const Tag next = tagOf(c, tag);
+        if (next != tag) {
+            close(html, tag);
+            open(html, next);
+            tag = next;
         }
         html += c;
     }

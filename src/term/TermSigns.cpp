@@ -107,9 +107,7 @@ std::size_t TermSigns::jumpToAnchor(TermWalk& walk, TermLevel mode)
 
 std::size_t TermSigns::startStroke(TermWalk& walk)
 {
-    walk.stroke = true;
-    walk.strokeX = device_.CurrentX();
-    walk.strokeY = device_.CurrentY() + device_.TextHeight(u"|");
+    walk.stroke = PixelPoint{device_.CurrentX(), device_.CurrentY() + device_.TextHeight(u"|")};
     return 1;
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "term/TermBrackets.h"
+#include "visual/Geometry.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace phial
 {
@@ -14,24 +16,22 @@ enum class TermLevel : std::int8_t { Superscript = -1, Normal = 0, Subscript = 1
 
 /// One walk through a term or a part of it.
 struct TermWalk {
-    bool drawing = false; // the first walk measures, the second draws
-    std::size_t position = 0;
-    double base = 0; // top of the line, a whole number
+    bool drawing; // the first walk measures, the second draws
+    std::size_t position;
+    double base;   // top of the line, a whole number
+    double anchor; // X behind the last character in normal mode
     TermLevel mode = TermLevel::Normal;
     bool forced = false;
     bool plain = true;
-    double anchor = 0; // X behind the last character in normal mode
-    bool stroke = false;
-    double strokeX = -1;
-    double strokeY = -1;
+    std::optional<PixelPoint> stroke = std::nullopt; // where it begins
 };
 
 /// The line in which a part of a term is written.
 struct TermLine {
     TermRange part;
     String fontName;
-    double fontSize = 0;
-    double height = 0;
+    double fontSize;
+    double height;
 };
 
 /// The rules by which the single characters and signs of a term are written, all but the fraction.

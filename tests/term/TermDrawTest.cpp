@@ -76,6 +76,23 @@ TEST(TermDrawTest, MinusOneStandsForTheCurrentPosition)
     EXPECT_EQ(picture.runs(), "A@30,40");
 }
 
+TEST(TermDrawTest, ATermThatBeginsRaisedBeginsAtItsAnchor)
+{
+    TermPicture picture;
+    TermDraw(picture.device(), u"^2H", 100, 0, TEXTALIGN::TopLeft);
+    EXPECT_EQ(picture.runs(), "2@100^ H@109");
+}
+
+TEST(TermDrawTest, NothingBehindTheTermIsLookedAt)
+{
+    const StringView more = u"(a)/(b)";
+    for (std::size_t length = 1; length < 5; ++length) {
+        TermPicture picture;
+        TermDraw(picture.device(), more.substr(0, length), 0, 0, TEXTALIGN::TopLeft);
+        EXPECT_EQ(picture.runs(), toUtf8(more.substr(0, length)) + "@0");
+    }
+}
+
 TEST(TermDrawTest, RestoresTheDeviceAndStaysBehindTheTerm)
 {
     TermPicture picture;
