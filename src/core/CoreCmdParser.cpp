@@ -71,15 +71,23 @@ NamedValue interpreted(StringView parameter)
 CoreTokenList CoreCmdParser::Parse(StringView pCommandLine)
 {
     CoreTokenList tokens;
-    StringView rest = pCommandLine;
-    while (!rest.empty()) {
-        const String parameter = takeParameter(rest);
-        if (!parameter.empty()) {
-            NamedValue entry = interpreted(parameter);
-            tokens.Add(entry.name, Variant(std::move(entry.value)));
-        }
+    for (const String& parameter : Words(pCommandLine)) {
+        NamedValue entry = interpreted(parameter);
+        tokens.Add(entry.name, Variant(std::move(entry.value)));
     }
     return tokens;
+}
+
+std::vector<String> CoreCmdParser::Words(StringView pCommandLine)
+{
+    std::vector<String> words;
+    while (!pCommandLine.empty()) {
+        String parameter = takeParameter(pCommandLine);
+        if (!parameter.empty()) {
+            words.push_back(std::move(parameter));
+        }
+    }
+    return words;
 }
 
 CoreStringList CoreCmdParser::Split(StringView pText, StringView pSeparator)

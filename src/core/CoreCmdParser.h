@@ -4,6 +4,8 @@
 #include "core/CoreTokenList.h"
 #include "core/String.h"
 
+#include <vector>
+
 namespace phial
 {
 
@@ -24,6 +26,9 @@ public:
     ///
     /// Names are the same whatever their case; a repeated name takes the later value.
     static CoreTokenList Parse(StringView pCommandLine);
+
+    /// The parameters as typed, divided and without their quotes as above: what a program is started with.
+    static std::vector<String> Words(StringView pCommandLine);
 
     /// The pieces between separators, empty ones included; the empty text gives none.
     static CoreStringList Split(StringView pText, StringView pSeparator);

@@ -25,7 +25,7 @@ struct CoreRoot::Facets {
     Facets(const Platform& platform, Locale& sessionLocale,
            const std::shared_ptr<const CurrentFolder>& currentFolder)
         : locale(sessionLocale), timing(platform.clock, platform.pump), ui(platform.textBoxes),
-          system(platform.folders, platform.machine, platform.windows, platform.shell),
+          system(platform.folders, platform.machine, platform.windows, platform.shell, platform.pump),
           registry(platform.settings), files(platform.files, currentFolder), dialogs(platform.dialogs),
           sound(platform.sound), display(platform.display), cursors(platform.cursors)
     {

@@ -77,7 +77,8 @@ class NoShell : public Shell
 {
 public:
     bool open(WindowHandle, StringView) override { return false; }
-    bool start(StringView, std::span<const String>) override { return false; }
+    std::int64_t start(const ProgramCall&) override { return 0; }
+    std::unique_ptr<RunningProgram> startWatched(const ProgramCall&) override { return nullptr; }
 };
 
 class NoNetwork : public CoreNetClient

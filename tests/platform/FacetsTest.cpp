@@ -55,11 +55,27 @@ TEST_F(Facets, AddressesAndProgramsGoToTheShell)
 {
     CoreSystem& system = coreRoot().CoreSystem();
     EXPECT_TRUE(system.ShellOpen(WindowHandle::None, u"https://example.org/"));
-    EXPECT_TRUE(system.StartProgram(u"viewer", std::vector<String>{u"a b"}));
+    EXPECT_NE(system.StartProgram({u"viewer", {u"a b"}, u"\\data\\"}), 0);
     outside.shell().answer(false);
     EXPECT_FALSE(system.ShellOpen(WindowHandle::None, u"nonsense"));
+    EXPECT_EQ(system.StartProgram({u"nonsense"}), 0);
+    EXPECT_FALSE(system.RunProgram({u"nonsense"}));
     EXPECT_THAT(outside.shell().opened(), ElementsAre(u"https://example.org/", u"nonsense"));
-    EXPECT_THAT(outside.shell().started(), ElementsAre(headless::StartedProgram{u"viewer", {u"a b"}}));
+    EXPECT_THAT(outside.shell().started(), ElementsAre(ProgramCall{u"viewer", {u"a b"}, u"\\data\\"},
+                                                       ProgramCall{u"nonsense"}, ProgramCall{u"nonsense"}));
+}
+
+TEST_F(Facets, EventsRunUntilAProgramThatIsAwaitedEnds)
+{
+    outside.shell().keepRunning();
+    int ticks = 0;
+    const Connection timer = session.platform().pump->startTimer(1000, [&] {
+        if (++ticks == 3) {
+            outside.shell().endPrograms(7);
+        }
+    });
+    EXPECT_EQ(coreRoot().CoreSystem().RunProgram({u"viewer"}), 7);
+    EXPECT_EQ(ticks, 3);
 }
 
 TEST_F(Facets, ThePointerIsGivenByPartsAndWhole)

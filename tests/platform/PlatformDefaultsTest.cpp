@@ -40,7 +40,8 @@ TEST_F(PlatformDefaults, TheRestDoesNoHarm)
 {
     EXPECT_FALSE(coreRoot().CoreSoundFacet().Play(u"a.wav", true));
     EXPECT_FALSE(coreRoot().CoreSystem().ShellOpen(WindowHandle::None, u"https://example.org/"));
-    EXPECT_FALSE(coreRoot().CoreSystem().StartProgram(u"viewer"));
+    EXPECT_EQ(coreRoot().CoreSystem().StartProgram({u"viewer"}), 0);
+    EXPECT_FALSE(coreRoot().CoreSystem().RunProgram({u"viewer"}));
     EXPECT_EQ(coreRoot().CoreSystem().CoreWindowOps().ScreenBottom(WindowHandle{1}), 0);
     EXPECT_EQ(coreRoot().CoreDisplay().CursorX(), 0);
     EXPECT_FALSE(coreRoot().CoreDisplay().TextHeight());

@@ -9,15 +9,76 @@
 namespace phial::qt
 {
 
-bool startProcess(StringView program, std::span<const String> arguments)
+namespace
+{
+
+QString nativeProgram(StringView program)
 {
     const bool isPath = program.find_first_of(u"\\/") != StringView::npos;
-    const QString native = isPath ? toQt(nativePath(program).u16string()) : toQt(program);
-    QStringList list;
-    for (const String& argument : arguments) {
-        list += toQt(argument);
+    return isPath ? toQt(nativePath(program).u16string()) : toQt(program);
+}
+
+/// A process that reads nothing from the terminal, and writes where this one does.
+std::unique_ptr<QProcess> preparedProcess(const ProgramCall& call)
+{
+    auto process = std::make_unique<QProcess>();
+    process->setProgram(nativeProgram(call.program));
+    QStringList arguments;
+    for (const String& argument : call.arguments) {
+        arguments += toQt(argument);
     }
-    return !native.isEmpty() && QProcess::startDetached(native, list);
+    process->setArguments(arguments);
+    if (!call.folder.empty()) {
+        process->setWorkingDirectory(toQt(nativePath(call.folder).u16string()));
+    }
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    return process;
+}
+
+class WatchedProcess final : public RunningProgram
+{
+public:
+    explicit WatchedProcess(std::unique_ptr<QProcess> process) : process_(std::move(process)) {}
+    ~WatchedProcess() override
+    {
+        if (isRunning()) {
+            // The toolkit's object kills the program if it goes first.
+            QProcess* process = process_.release();
+            QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+        }
+    }
+    WatchedProcess(const WatchedProcess&) = delete;
+    WatchedProcess& operator=(const WatchedProcess&) = delete;
+
+    bool isRunning() const override { return process_->state() != QProcess::NotRunning; }
+    std::int32_t result() const override
+    {
+        return process_->exitStatus() == QProcess::NormalExit ? process_->exitCode() : Broken;
+    }
+
+private:
+    std::unique_ptr<QProcess> process_;
+};
+
+} // namespace
+
+std::int64_t startProcess(const ProgramCall& call)
+{
+    const auto process = preparedProcess(call);
+    qint64 number = 0;
+    return !process->program().isEmpty() && process->startDetached(&number) ? number : 0;
+}
+
+std::unique_ptr<RunningProgram> startWatchedProcess(const ProgramCall& call)
+{
+    auto process = preparedProcess(call);
+    if (process->program().isEmpty()) {
+        return nullptr;
+    }
+    process->start();
+    // The program itself runs at once; what is awaited is only that the system has found it.
+    return process->waitForStarted() ? std::make_unique<WatchedProcess>(std::move(process)) : nullptr;
 }
 
 } // namespace phial::qt

@@ -166,9 +166,14 @@ bool DesktopShell::open(WindowHandle /*window*/, StringView address)
     return url.isValid() && QDesktopServices::openUrl(url);
 }
 
-bool DesktopShell::start(StringView program, std::span<const String> arguments)
+std::int64_t DesktopShell::start(const ProgramCall& call)
 {
-    return startProcess(program, arguments);
+    return startProcess(call);
+}
+
+std::unique_ptr<RunningProgram> DesktopShell::startWatched(const ProgramCall& call)
+{
+    return startWatchedProcess(call);
 }
 
 } // namespace phial::qt

@@ -57,7 +57,8 @@ class DesktopShell final : public Shell
 {
 public:
     bool open(WindowHandle window, StringView address) override;
-    bool start(StringView program, std::span<const String> arguments) override;
+    std::int64_t start(const ProgramCall& call) override;
+    std::unique_ptr<RunningProgram> startWatched(const ProgramCall& call) override;
 };
 
 } // namespace phial::qt
