@@ -1,0 +1,1 @@
+"""Molecule models from structural formulas; see tools/make_molecules."""
