@@ -108,6 +108,14 @@ Colour ctl_TermLabel::maskColour() const
     return textColour_ == grey ? QBColor(BlackIndex) : grey;
 }
 
+void ctl_TermLabel::resized()
+{
+    surface_.resized();
+    if (autoSize_) {
+        REDRAW(); // which gives it back its own size; else it is drawn when it is seen
+    }
+}
+
 void ctl_TermLabel::REDRAW()
 {
     DrawDevice& device = surface_.device();

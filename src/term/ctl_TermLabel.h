@@ -49,7 +49,7 @@ public:
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
     void shown() override { REDRAW(); }
-    void resized() override { surface_.resized(); }
+    void resized() override;
     void paint() override { REDRAW(); }
     void click() override { CLICK.emit(); }
 

@@ -95,10 +95,8 @@ TEST_F(TermLabelTest, AutoSizeMovesTheLabelWhenOneSideDiffers)
 {
     label->AUTOSIZE(true);
     label->Height(40);
-    label->REDRAW();
     EXPECT_EQ(label->Height(), 25);
     label->Width(40);
-    label->REDRAW();
     EXPECT_EQ(label->Width(), 29);
 }
 
