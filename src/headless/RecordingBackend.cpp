@@ -1,6 +1,7 @@
 #include "headless/RecordingBackend.h"
 
 #include "headless/FixedTextMetrics.h"
+#include "visual/BitMerge.h"
 
 #include <algorithm>
 #include <array>
@@ -53,13 +54,16 @@ std::string inkText(Ink ink)
     return ink.cut ? "cut" : colourText(ink.colour);
 }
 
-std::string modeText(RasterMode mode)
+std::string rasterText(const Raster& raster)
 {
-    switch (mode) {
+    const std::string holes = raster.hole ? " holes " + colourText(*raster.hole) : "";
+    switch (raster.mode) {
     case RasterMode::And:
-        return " and";
+        return " and" + holes;
     case RasterMode::Xor:
-        return " xor";
+        return " xor" + holes;
+    case RasterMode::Copy:
+        return " copy";
     case RasterMode::Paint:
         break;
     }
@@ -69,14 +73,14 @@ std::string modeText(RasterMode mode)
 std::string strokeText(const Stroke& stroke)
 {
     return inkText(stroke.ink) + (stroke.width == 1 ? "" : " w" + number(stroke.width)) +
-           modeText(stroke.mode);
+           rasterText(stroke.raster);
 }
 
 std::string areaInk(const std::optional<Fill>& fill, const std::optional<Stroke>& outline)
 {
     std::string text;
     if (fill) {
-        text += " fill " + inkText(fill->ink) + modeText(fill->mode);
+        text += " fill " + inkText(fill->ink) + rasterText(fill->raster);
     }
     if (outline) {
         text += " line " + strokeText(*outline);
@@ -94,14 +98,69 @@ std::string fontText(const FontSpec& font)
     return text;
 }
 
-std::uint32_t opaque(Colour colour)
+std::uint32_t rgb(Colour colour)
 {
     const Colour plain = defaultColour(colour);
-    return 0xFF000000U | (std::uint32_t{plain.red()} << 16U) | (std::uint32_t{plain.green()} << 8U) |
-           plain.blue();
+    return (std::uint32_t{plain.red()} << 16U) | (std::uint32_t{plain.green()} << 8U) | plain.blue();
+}
+
+/// The pixel that ink leaves.
+std::uint32_t pixelOf(Ink ink)
+{
+    return ink.cut ? 0 : 0xFF000000U | rgb(ink.colour);
+}
+
+/// The pixel at which an edge stands; one that is far away or no number stands somewhere outside.
+std::ptrdiff_t edge(double value)
+{
+    constexpr double Far = 1e9;
+    const double held = value > -Far ? std::min(value, Far) : -Far;
+    return static_cast<std::ptrdiff_t>(std::round(held));
+}
+
+bool isSeeThrough(std::uint32_t pixel)
+{
+    return pixel >> 24U == 0;
+}
+
+/// What becomes of `held` when `drawn` meets it.
+std::uint32_t met(std::uint32_t held, std::uint32_t drawn, const Raster& raster)
+{
+    switch (raster.mode) {
+    case RasterMode::Copy:
+        return drawn;
+    case RasterMode::Paint:
+        return isSeeThrough(drawn) ? held : drawn;
+    case RasterMode::And:
+    case RasterMode::Xor:
+        break;
+    }
+    std::optional<std::uint32_t> hole;
+    if (raster.hole) {
+        hole = rgb(*raster.hole);
+    }
+    return isSeeThrough(drawn) ? held : BitMerge(raster.mode, hole)(held, drawn);
 }
 
 } // namespace
+
+// Calls `change(held, column, row)` for each pixel of the box, columns and rows counted from the box's
+// corner, and puts what it gives in the pixel's place.
+template <typename Change>
+void RecordingBackend::changePixels(const PixelRectangle& box, Change&& change)
+{
+    const std::ptrdiff_t left = edge(box.left);
+    const std::ptrdiff_t top = edge(box.top);
+    const auto columns = static_cast<std::ptrdiff_t>(picture_->columns());
+    const auto rows = static_cast<std::ptrdiff_t>(picture_->rows());
+    for (std::ptrdiff_t y = std::max<std::ptrdiff_t>(top, 0); y < std::min(edge(box.bottom()), rows); ++y) {
+        for (std::ptrdiff_t x = std::max<std::ptrdiff_t>(left, 0); x < std::min(edge(box.right()), columns);
+             ++x) {
+            std::uint32_t& held = picture_->pixels()[static_cast<std::size_t>(y * columns + x)];
+            held = change(held, static_cast<std::size_t>(x - left), static_cast<std::size_t>(y - top));
+        }
+    }
+}
 
 RecordingBackend::RecordingBackend(PixelSize size, std::shared_ptr<TextMetrics> metrics)
     : size_(size), metrics_(std::move(metrics)), picture_(std::make_shared<Picture>(size))
@@ -120,15 +179,18 @@ std::string RecordingBackend::text() const
 void RecordingBackend::clear(Ink ink)
 {
     lines_.push_back("clear " + inkText(ink));
-    fillPixels({0, 0, size_.width, size_.height}, ink);
+    changePixels({0, 0, size_.width, size_.height}, [ink](auto, auto, auto) { return pixelOf(ink); });
 }
 
 void RecordingBackend::rectangle(const PixelRectangle& box, std::optional<Fill> fill,
                                  std::optional<Stroke> outline)
 {
     lines_.push_back("box " + area(box) + areaInk(fill, outline));
-    if (fill && fill->mode == RasterMode::Paint) {
-        fillPixels(box, fill->ink);
+    if (fill) {
+        const std::uint32_t drawn = pixelOf(fill->ink);
+        changePixels(box, [&](std::uint32_t held, auto, auto) {
+            return fill->ink.cut ? drawn : met(held, drawn, fill->raster);
+        });
     }
 }
 
@@ -164,26 +226,31 @@ void RecordingBackend::text(PixelPoint topLeft, StringView text, const FontFace&
 }
 
 void RecordingBackend::image(const Picture& picture, const PixelRectangle& source,
-                             const PixelRectangle& target, RasterMode mode)
+                             const PixelRectangle& target, Raster raster)
 {
     lines_.push_back("image " + extent(picture.Width(), picture.Height()) + " from " + area(source) + " to " +
-                     area(target) + modeText(mode));
+                     area(target) + rasterText(raster));
     const bool stretched = source.width != target.width || source.height != target.height;
-    if (stretched || mode != RasterMode::Paint || picture.pixelRatio() != 1) {
+    if (stretched || picture.pixelRatio() != 1) {
         return;
     }
-    for (double y = 0; y < source.height; ++y) {
-        for (double x = 0; x < source.width; ++x) {
-            const PixelPoint from{source.left + x, source.top + y};
-            if (!picture.isSeeThrough(from)) {
-                const auto argb =
-                    picture.at(static_cast<std::size_t>(from.x), static_cast<std::size_t>(from.y));
-                fillPixels({target.left + x, target.top + y, 1, 1},
-                           {RGB(static_cast<int>((argb >> 16U) & 0xFFU),
-                                static_cast<int>((argb >> 8U) & 0xFFU), static_cast<int>(argb & 0xFFU))});
-            }
-        }
-    }
+    const PicturePtr before = picture.copy(); // it may be the one that is drawn in
+    const auto left = static_cast<std::size_t>(std::max(0.0, std::round(source.left)));
+    const auto top = static_cast<std::size_t>(std::max(0.0, std::round(source.top)));
+    changePixels(target, [&](std::uint32_t held, std::size_t column, std::size_t row) {
+        const bool inside = left + column < before->columns() && top + row < before->rows();
+        return inside ? met(held, before->at(left + column, top + row), raster) : held;
+    });
+}
+
+void RecordingBackend::hatch(const PixelRectangle& box, Ink ink, HatchStart start)
+{
+    lines_.push_back("hatch " + area(box) + " " + inkText(ink) +
+                     (start == HatchStart::BesideCorner ? " beside" : ""));
+    const std::size_t first = start == HatchStart::BesideCorner ? 1 : 0;
+    changePixels(box, [=](std::uint32_t held, std::size_t column, std::size_t row) {
+        return (column + row) % 2 == first ? pixelOf(ink) : held;
+    });
 }
 
 void RecordingBackend::gradient(const PixelRectangle& box, Colour from, Colour to, double angle, int steps)
@@ -205,20 +272,6 @@ std::optional<Colour> RecordingBackend::pixel(PixelPoint place) const
 void RecordingBackend::clip(std::optional<PixelRectangle> box)
 {
     lines_.push_back("clip " + (box ? area(*box) : "none"));
-}
-
-void RecordingBackend::fillPixels(const PixelRectangle& box, Ink ink)
-{
-    const auto edge = [](double value, std::size_t limit) {
-        return static_cast<std::size_t>(std::clamp(std::round(value), 0.0, static_cast<double>(limit)));
-    };
-    const std::uint32_t value = ink.cut ? 0 : opaque(ink.colour);
-    const auto left = edge(box.left, picture_->columns());
-    const auto right = std::max(left, edge(box.right(), picture_->columns()));
-    for (auto row = edge(box.top, picture_->rows()); row < edge(box.bottom(), picture_->rows()); ++row) {
-        const auto start = picture_->pixels().subspan(row * picture_->columns() + left, right - left);
-        std::ranges::fill(start, value);
-    }
 }
 
 } // namespace phial::headless

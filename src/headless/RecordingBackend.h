@@ -18,12 +18,14 @@ namespace phial::headless
 ///     polygon 0,0 8,4 0,8 fill #FFFF96 line #808000
 ///     text 3,4 "H" Tahoma 8 bold #FF0000
 ///     image 32x32 from 0,0 32x32 to 4,4 32x32 xor
+///     image 32x32 from 0,0 32x32 to 4,4 32x32 and holes #FF00FF
 ///     gradient 0,0 32x32 #FFFFFF to #808080 45 256
+///     hatch 0,0 100x60 cut beside                     (not through the corner)
 ///     clip 0,0 10x10 | clip none | page | end
 ///
 /// Numbers have up to three decimals. System colours are written by what they stand for without a desktop.
-/// The picture is kept as far as tests of holes and of `Point` need it: clearing, filled boxes and
-/// unstretched images take effect at ratio 1, everything else is only written down.
+/// The picture is kept as far as tests of holes and of `Point` need it: clearing, filled boxes, hatches and
+/// unstretched images take effect at ratio 1, in every mode; everything else is only written down.
 class RecordingBackend final : public DrawBackend
 {
 public:
@@ -47,15 +49,17 @@ public:
                  std::optional<Stroke> outline) override;
     void text(PixelPoint topLeft, StringView text, const FontFace& face, Ink ink) override;
     void image(const Picture& picture, const PixelRectangle& source, const PixelRectangle& target,
-               RasterMode mode) override;
+               Raster raster) override;
     void gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps) override;
+    void hatch(const PixelRectangle& area, Ink ink, HatchStart start) override;
     std::optional<Colour> pixel(PixelPoint point) const override;
     void clip(std::optional<PixelRectangle> area) override;
     void newPage() override { lines_.emplace_back("page"); }
     void endDocument() override { lines_.emplace_back("end"); }
 
 private:
-    void fillPixels(const PixelRectangle& area, Ink ink);
+    template <typename Change>
+    void changePixels(const PixelRectangle& area, Change&& change);
 
     PixelSize size_;
     std::shared_ptr<TextMetrics> metrics_;

@@ -20,14 +20,27 @@ struct Ink {
     friend bool operator==(const Ink&, const Ink&) = default;
 };
 
-/// How what is drawn meets what is there. And and Xor work bit by bit on the colours and leave alpha alone.
-enum class RasterMode : std::int32_t { Paint, And, Xor };
+/// How what is drawn meets what is there.
+enum class RasterMode : std::int32_t {
+    Paint, ///< lies upon it; what is see-through in a picture lets it through
+    And,   ///< bit by bit on the colours, see BitMerge
+    Xor,   ///< the same
+    Copy,  ///< a picture takes its place, see-through parts included; ink is painted
+};
+
+/// The mode, and for And and Xor the colour as which a hole counts. Without one holes stay holes.
+struct Raster {
+    RasterMode mode = RasterMode::Paint;
+    std::optional<Colour> hole;
+
+    friend bool operator==(const Raster&, const Raster&) = default;
+};
 
 /// The pen of an outline; `width` in logical pixels, at least 1.
 struct Stroke {
     Ink ink;
     double width = 1;
-    RasterMode mode = RasterMode::Paint;
+    Raster raster;
 
     friend bool operator==(const Stroke&, const Stroke&) = default;
 };
@@ -35,7 +48,7 @@ struct Stroke {
 /// The brush of an area.
 struct Fill {
     Ink ink;
-    RasterMode mode = RasterMode::Paint;
+    Raster raster;
 
     friend bool operator==(const Fill&, const Fill&) = default;
 };
@@ -54,6 +67,12 @@ struct Arc {
     Shape shape = Shape::Whole;
     double start = 0;
     double sweep = 0;
+};
+
+/// Which diagonals of an area a hatch takes.
+enum class HatchStart : std::int32_t {
+    AtCorner,     ///< that through the area's upper left pixel, and every second one from there
+    BesideCorner, ///< the others
 };
 
 /// The pixel primitives under DrawDevice. All places are logical pixels and name whole pixels: the pixel (x,
@@ -85,10 +104,13 @@ public:
     virtual void text(PixelPoint topLeft, StringView text, const FontFace& face, Ink ink) = 0;
     /// The part `source` of the picture (its logical pixels) into `target`, stretched where sizes differ.
     virtual void image(const Picture& picture, const PixelRectangle& source, const PixelRectangle& target,
-                       RasterMode mode) = 0;
+                       Raster raster) = 0;
     /// `steps` bands from one colour to the other; `angle` in degrees, 0 from left to right, 90 from top to
     /// bottom.
     virtual void gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps) = 0;
+    /// Every second diagonal of the area, from the upper left to the lower right, each one pixel of the
+    /// device wide: half of the device's pixels at every ratio.
+    virtual void hatch(const PixelRectangle& area, Ink ink, HatchStart start) = 0;
 
     /// The colour at a pixel; none outside and where the surface is see-through.
     virtual std::optional<Colour> pixel(PixelPoint point) const = 0;

@@ -183,15 +183,27 @@ std::optional<Fill> DrawDevice::fill() const
     if (fillStyle_ != FillStyle::Solid) {
         return std::nullopt;
     }
-    return Fill{ink(fillColor_), rasterMode()};
+    return Fill{penInk(fillColor_), raster(penMode())};
 }
 
 Stroke DrawDevice::stroke(Colour colour) const
 {
-    return {ink(colour), drawWidth_, rasterMode()};
+    return {penInk(colour), drawWidth_, raster(penMode())};
 }
 
-RasterMode DrawDevice::rasterMode() const
+// Only what is painted cuts holes; combined bits are those of the mask colour.
+Ink DrawDevice::penInk(Colour colour) const
+{
+    return penMode() == RasterMode::Paint ? ink(colour) : Ink{colour};
+}
+
+Raster DrawDevice::raster(RasterMode mode) const
+{
+    const bool bitwise = mode == RasterMode::And || mode == RasterMode::Xor;
+    return {mode, bitwise ? maskColor_ : std::nullopt};
+}
+
+RasterMode DrawDevice::penMode() const
 {
     switch (drawMode_) {
     case DrawMode::XorPen:
@@ -277,7 +289,7 @@ void DrawDevice::PSet(double x, double y, std::optional<Colour> colour)
 {
     draw([&] {
         current_ = {x, y};
-        canvas().rectangle(box(x, y, x, y), Fill{ink(colour.value_or(foreColor_)), rasterMode()},
+        canvas().rectangle(box(x, y, x, y), Fill{penInk(colour.value_or(foreColor_)), raster(penMode())},
                            std::nullopt);
     });
 }
@@ -296,7 +308,7 @@ void DrawDevice::Line(double x1, double y1, double x2, double y2, std::optional<
             canvas().rectangle(box(x1, y1, x2, y2), std::nullopt, stroke(pen));
             break;
         case LineShape::Filled:
-            canvas().rectangle(box(x1, y1, x2, y2), Fill{ink(pen), rasterMode()}, std::nullopt);
+            canvas().rectangle(box(x1, y1, x2, y2), Fill{penInk(pen), raster(penMode())}, std::nullopt);
             break;
         }
     });
@@ -382,6 +394,16 @@ void DrawDevice::Gradient(double left, double top, double width, double height, 
     });
 }
 
+void DrawDevice::Hatch(double left, double top, double width, double height, Colour colour, HatchStart start)
+{
+    draw([&] {
+        const PixelRectangle area{toPixels(left), toPixels(top), toPixels(width), toPixels(height)};
+        if (!area.isEmpty()) {
+            canvas().hatch(area, ink(colour), start);
+        }
+    });
+}
+
 void DrawDevice::PaintPicture(const PicturePtr& picture, double x, double y, RasterMode mode)
 {
     draw([&] {
@@ -412,7 +434,7 @@ void DrawDevice::PaintPicture(const PicturePtr& picture, const PixelRectangle& s
         }
         const PixelRectangle target{toPixels(x), toPixels(y), toPixels(width), toPixels(height)};
         if (!target.isEmpty() && !source.isEmpty()) {
-            canvas().image(*picture, source, target, mode);
+            canvas().image(*picture, source, target, raster(mode));
         }
     });
 }

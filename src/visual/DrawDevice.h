@@ -56,9 +56,10 @@ struct CircleAngles {
 ///
 /// Places and sizes are in scale units (ScaleMode); sizes of fonts are points, DrawWidth is pixels. `Line`,
 /// `Circle`, `PSet` and `Print` move the current point. Colours drawn in the mask colour cut holes, see
-/// MaskColor. Where a statement below raises, a device that swallows errors leaves it without effect instead.
-/// A fresh device has the font Tahoma 8, black on white, FillStyle transparent, DrawWidth 1,
-/// DrawMode CopyPen and pixels as its unit.
+/// MaskColor; where bits are combined (DrawMode, RasterMode) it is a colour like others and a hole has it.
+/// Where a statement below raises, a device that swallows errors leaves it without effect instead. A fresh
+/// device has the font Tahoma 8, black on white, FillStyle transparent, DrawWidth 1, DrawMode CopyPen and
+/// pixels as its unit.
 class DrawDevice
 {
 public:
@@ -149,6 +150,10 @@ public:
     /// Bands of colour over a rectangle; see DrawBackend.
     void Gradient(double left, double top, double width, double height, Colour from, Colour to, double angle,
                   int steps);
+    /// Every second diagonal of a rectangle, as fine as the device's pixels; see DrawBackend. In the mask
+    /// colour it lets half of what lies below through.
+    void Hatch(double left, double top, double width, double height, Colour colour,
+               HatchStart start = HatchStart::AtCorner);
 
     // Pictures.
     /// The whole picture at (x, y), in its own size unless a size is given.
@@ -180,7 +185,9 @@ private:
     Ink ink(Colour colour) const;
     std::optional<Fill> fill() const;
     Stroke stroke(Colour colour) const;
-    RasterMode rasterMode() const;
+    Raster raster(RasterMode mode) const;
+    RasterMode penMode() const;
+    Ink penInk(Colour colour) const;
     double toPixels(double value) const { return value / unitsPerPixel_; }
     double fromPixels(double value) const { return value * unitsPerPixel_; }
     PixelPoint pixel(double x, double y) const { return {toPixels(x), toPixels(y)}; }

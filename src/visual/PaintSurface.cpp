@@ -73,7 +73,7 @@ void PaintSurface::remake(double pixelRatio)
     }
     if (before) {
         const PixelRectangle area{0, 0, before->Width(), before->Height()};
-        backend_->image(*before, area, area, RasterMode::Paint);
+        backend_->image(*before, area, area, {});
     }
 }
 

@@ -1,4 +1,5 @@
 #include "DesktopSession.h"
+#include "qt/desktop/GradientImage.h"
 #include "qt/desktop/PictureBackend.h"
 #include "qt/desktop/PrinterBackend.h"
 #include "qt/desktop/PrinterChoice.h"
@@ -18,6 +19,7 @@ namespace
 constexpr std::uint32_t White = 0xFFFFFFFF;
 constexpr std::uint32_t Black = 0xFF000000;
 constexpr std::uint32_t Hole = 0;
+constexpr double Ratios[] = {1, 1.25, 1.5, 2, 3};
 
 class PainterTest : public DesktopSession
 {
@@ -205,7 +207,122 @@ TEST_F(PainterTest, AndWithTheMaskThenXorWithTheSpriteShowsTheSprite)
     EXPECT_EQ(ground.at(0, 0), White);
 }
 
-TEST_F(PainterTest, BitwiseInkLeavesSeeThroughPixelsSeeThrough)
+TEST_F(PainterTest, ASpriteIsSeenOnEveryGroundAtEveryRatio)
+{
+    const Surface mask = white({8, 8});
+    mask.device->Line(2, 2, 5, 5, QBColor(0), LineShape::Filled);
+    const Surface sprite = empty({8, 8});
+    sprite.backend->clear({QBColor(0)});
+    sprite.device->Line(2, 2, 5, 5, RGB(10, 200, 30), LineShape::Filled);
+    for (const double ratio : Ratios) {
+        const Surface ground = empty({40, 20}, ratio);
+        ground.device->MaskColor(QBColor(13));
+        ground.device->FillStyle(FillStyle::Solid);
+        ground.device->FillColor(QBColor(11));
+        ground.device->Circle(20, 10, 7, QBColor(11)); // with soft edges
+        const auto soft = [](std::uint32_t pixel) { return pixel >> 24U != 0 && pixel >> 24U != 0xFFU; };
+        const auto pixels = std::as_const(*ground.picture).pixels();
+        ASSERT_TRUE(std::any_of(pixels.begin(), pixels.end(), soft));
+        for (double left = 2; left < 32; left += 3) {
+            ground.device->PaintPicture(mask.picture, left, 6, RasterMode::And);
+            ground.device->PaintPicture(sprite.picture, left, 6, RasterMode::Xor);
+            for (const double x : {3.0, 4.0}) {
+                EXPECT_EQ(ground.device->Point(left + x, 10), RGB(10, 200, 30)) << ratio << " at " << left;
+            }
+        }
+        EXPECT_EQ(ground.device->Point(2, 6), std::nullopt) << "the sprite's corner on a hole";
+    }
+}
+
+TEST_F(PainterTest, XorTwiceBringsAHoleBack)
+{
+    const Surface surface = empty({20, 20});
+    surface.device->MaskColor(QBColor(13));
+    surface.device->DrawMode(DrawMode::XorPen);
+    surface.device->FillStyle(FillStyle::Solid);
+    for (int times = 0; times < 2; ++times) {
+        surface.device->Line(2, 2, 17, 17, QBColor(15), LineShape::Filled);
+        EXPECT_EQ(surface.at(5, 5), times == 0 ? 0xFF00FF00U : Hole);
+        surface.device->Circle(10, 10, 5, QBColor(9));
+    }
+    EXPECT_EQ(surface.count(Hole), 400U);
+}
+
+TEST_F(PainterTest, ACopyTakesItsHolesAlongAtEveryRatio)
+{
+    for (const double ratio : Ratios) {
+        const Surface source = empty({10, 10}, ratio);
+        source.device->Line(0, 0, 4, 9, QBColor(12), LineShape::Filled);
+        const Surface ground = white({30, 20}, ratio);
+        ground.device->PaintPicture(source.picture, 8, 4, RasterMode::Copy);
+        EXPECT_EQ(ground.device->Point(8, 4), QBColor(12)) << ratio;
+        EXPECT_EQ(ground.device->Point(12, 13), QBColor(12)) << ratio;
+        EXPECT_EQ(ground.device->Point(14, 13), std::nullopt) << ratio;
+        EXPECT_EQ(ground.device->Point(17, 4), std::nullopt) << ratio;
+        EXPECT_EQ(ground.device->Point(18, 13), QBColor(15)) << ratio;
+        ground.device->Circle(25, 10, 3, QBColor(12)); // paints on as before
+        EXPECT_EQ(ground.device->Point(25, 10), QBColor(15)) << ratio;
+    }
+}
+
+TEST_F(PainterTest, AStretchedCopyKeepsSoftEdges)
+{
+    const Surface source = empty({10, 10});
+    source.device->Line(0, 0, 4, 9, QBColor(12), LineShape::Filled);
+    const Surface ground = white({40, 40}, 1.5);
+    ground.device->PaintPicture(source.picture, 0, 0, 30, 30, RasterMode::Copy);
+    EXPECT_EQ(ground.device->Point(2, 2), QBColor(12));
+    EXPECT_EQ(ground.device->Point(27, 27), std::nullopt);
+    const std::uint32_t edge = ground.at(22, 20);
+    EXPECT_GT(edge >> 24U, 0U);
+    EXPECT_LT(edge >> 24U, 0xFFU);
+}
+
+TEST_F(PainterTest, AHatchCutsHalfOfTheDevicesPixelsAtEveryRatio)
+{
+    for (const double ratio : Ratios) {
+        for (const HatchStart start : {HatchStart::AtCorner, HatchStart::BesideCorner}) {
+            const Surface surface = white({60, 40}, ratio);
+            surface.device->MaskColor(QBColor(13));
+            surface.device->Hatch(5, 3, 41, 31, QBColor(13), start);
+            const auto area = std::round(46 * ratio) - std::round(5 * ratio);
+            const auto pixels = area * (std::round(34 * ratio) - std::round(3 * ratio));
+            EXPECT_NEAR(static_cast<double>(surface.count(Hole)) / pixels, 0.5, 0.001) << ratio;
+            EXPECT_EQ(surface.count(Hole) + surface.count(White), surface.picture->pixels().size());
+            const auto left = static_cast<std::size_t>(std::lround(5 * ratio));
+            const auto top = static_cast<std::size_t>(std::lround(3 * ratio));
+            const bool atCorner = start == HatchStart::AtCorner;
+            EXPECT_EQ(surface.at(left, top), atCorner ? Hole : White) << ratio;
+            EXPECT_EQ(surface.at(left + 1, top), atCorner ? White : Hole) << ratio;
+            EXPECT_EQ(surface.at(left + 1, top + 1), surface.at(left, top)) << "along the diagonal";
+            EXPECT_EQ(surface.at(left + 20, top + 20), surface.at(left, top)) << ratio;
+            EXPECT_EQ(surface.at(left - 1, top), White) << ratio;
+            EXPECT_EQ(surface.at(left, top - 1), White) << ratio;
+        }
+    }
+}
+
+TEST_F(PainterTest, AHatchInAColourLetsTheOtherHalfBe)
+{
+    const Surface surface = white({20, 20}, 1.5);
+    surface.device->Hatch(0, 0, 20, 20, QBColor(0));
+    EXPECT_EQ(surface.count(Black), 450U);
+    EXPECT_EQ(surface.count(White), 450U);
+    surface.device->Hatch(0, 0, 20, 20, QBColor(0), HatchStart::BesideCorner);
+    EXPECT_EQ(surface.count(Black), 900U);
+}
+
+TEST_F(PainterTest, AHatchKeepsToTheClip)
+{
+    const Surface surface = white({20, 20});
+    surface.device->MaskColor(QBColor(13));
+    surface.device->clip(5, 5, 9, 9);
+    surface.device->Hatch(0, 0, 20, 20, QBColor(13));
+    EXPECT_EQ(surface.count(Hole), 13U);
+    EXPECT_EQ(surface.at(5, 5), Hole);
+}
+
+TEST_F(PainterTest, BitwiseInkLeavesSeeThroughPixelsSeeThroughWithoutAMaskColour)
 {
     const Surface surface = empty({8, 8});
     surface.device->DrawMode(DrawMode::XorPen);
@@ -246,6 +363,84 @@ TEST_F(PainterTest, AGradientHasItsColoursAtBothEndsAndNoSeams)
     EXPECT_EQ(surface.count(White), 0U);
     for (std::size_t column = 1; column < 40; ++column) {
         EXPECT_GE(surface.at(column, 2), surface.at(column - 1, 2));
+    }
+}
+
+TEST_F(PainterTest, AGradientLooksTheSameAtEveryRatio)
+{
+    for (const double ratio : Ratios) {
+        const Surface surface = white({40, 40}, ratio);
+        surface.device->Gradient(4, 4, 32, 32, RGB(255, 255, 255), RGB(55, 0, 0), 45, 256);
+        const std::size_t edge = surface.picture->columns();
+        const auto first = static_cast<std::size_t>(std::lround(4 * ratio));
+        const auto last = static_cast<std::size_t>(std::lround(36 * ratio)) - 1;
+        const auto red = [&](std::size_t x, std::size_t y) { return (surface.at(x, y) >> 16U) & 0xFFU; };
+        EXPECT_GE(red(first, first), 250U) << ratio;
+        EXPECT_LE(red(last, last), 60U) << ratio;
+        EXPECT_NEAR(red(first, last), 155, 4) << ratio;
+        EXPECT_EQ(red(first, last), red(last, first)) << "across the direction: " << ratio;
+        EXPECT_EQ(red(first + 3, last - 3), red(first, last)) << ratio;
+        EXPECT_EQ(surface.at(first - 1, first), White) << ratio;
+        EXPECT_EQ(surface.at(edge - 1, edge - 1), White) << ratio;
+    }
+}
+
+TEST_F(PainterTest, AGradientHasAsManyBandsAsItIsGiven)
+{
+    const Surface surface = white({40, 4});
+    surface.device->Gradient(0, 0, 40, 4, RGB(0, 0, 0), RGB(255, 0, 0), 0, 4);
+    for (std::size_t column = 0; column < 40; ++column) {
+        EXPECT_EQ(surface.at(column, 1), 0xFF000000U | (static_cast<std::uint32_t>(column / 10 * 85) << 16U))
+            << column;
+    }
+    surface.device->Gradient(0, 0, 40, 4, RGB(0, 0, 0), RGB(255, 0, 0), 180, 1);
+    EXPECT_EQ(surface.count(Black), 160U) << "one band has the first colour";
+    surface.device->Gradient(0, 0, 40, 4, RGB(0, 0, 0), RGB(255, 0, 0), 180, 2000000000);
+    EXPECT_GT(surface.at(0, 0), surface.at(39, 0)) << "from right to left";
+}
+
+TEST_F(PainterTest, AGradientDrawnAgainWithAnotherTraitIsAnotherOne)
+{
+    const auto drawn = [](double width, Colour from, Colour to, double angle, int steps) {
+        Surface surface = white({40, 40});
+        surface.device->Gradient(0, 0, width, 30, from, to, angle, steps);
+        return surface;
+    };
+    const auto usual = [&] { return drawn(30, QBColor(9), QBColor(12), 45, 16); };
+    const Surface first = usual();
+    EXPECT_TRUE(same(first, usual())) << "kept";
+    EXPECT_FALSE(same(first, drawn(31, QBColor(9), QBColor(12), 45, 16)));
+    EXPECT_FALSE(same(first, drawn(30, QBColor(10), QBColor(12), 45, 16)));
+    EXPECT_FALSE(same(first, drawn(30, QBColor(9), QBColor(10), 45, 16)));
+    EXPECT_FALSE(same(first, drawn(30, QBColor(9), QBColor(12), 90, 16)));
+    EXPECT_FALSE(same(first, drawn(30, QBColor(9), QBColor(12), 45, 17)));
+    EXPECT_TRUE(same(first, usual()));
+}
+
+TEST_F(PainterTest, AGradientKeepsToTheClip)
+{
+    const Surface surface = white({40, 40});
+    surface.device->clip(10, 10, 19, 19);
+    surface.device->Gradient(0, 0, 40, 40, QBColor(0), RGB(40, 0, 0), 45, 8);
+    EXPECT_EQ(surface.count(White), 1500U);
+}
+
+TEST_F(PainterTest, APageHasTheSameBandsAsAPicture)
+{
+    const GradientBands bands({{40, 20}, qRgb(0, 0, 0), qRgb(200, 100, 50), 30, 8});
+    const QImage image = gradientImage({{40, 20}, qRgb(0, 0, 0), qRgb(200, 100, 50), 30, 8});
+    ASSERT_EQ(bands.count(), 8);
+    EXPECT_EQ(bands.colour(0), qRgb(0, 0, 0));
+    EXPECT_EQ(bands.colour(7), qRgb(200, 100, 50));
+    for (int y = 0; y < 20; ++y) {
+        for (int x = 0; x < 40; ++x) {
+            const QPointF place(x + 0.5 - 20, y + 0.5 - 10);
+            const double distance = QPointF::dotProduct(place, bands.direction());
+            const int band = bands.bandAt(distance);
+            EXPECT_EQ(image.pixel(x, y), bands.colour(band));
+            EXPECT_GE(distance, bands.start(band) - 1e-6);
+            EXPECT_LE(distance, band == 7 ? 99 : bands.start(band + 1) + 1e-6);
+        }
     }
 }
 

@@ -256,6 +256,102 @@ TEST_F(DrawDeviceHoles, TransparentBackgroundIsClearedToAHole)
     EXPECT_EQ(drawn(), "clear cut\n");
 }
 
+TEST_F(DrawDeviceHoles, CombinedBitsOfTheMaskColourAreThoseOfAColour)
+{
+    device.MaskColor(QBColor(13));
+    device.FillStyle(FillStyle::Solid);
+    device.FillColor(QBColor(13));
+    device.DrawMode(DrawMode::XorPen);
+    device.Line(0, 0, 3, 3, QBColor(13), LineShape::Filled);
+    device.PSet(1, 1, QBColor(13));
+    device.Circle(9, 9, 2, Red);
+    device.DrawMode(DrawMode::MaskPen);
+    device.Line(0, 9, 3, 9, QBColor(13));
+    EXPECT_EQ(drawn(), "box 0,0 4x4 fill #FF00FF xor holes #FF00FF\n"
+                       "box 1,1 1x1 fill #FF00FF xor holes #FF00FF\n"
+                       "arc 9,9 r2x2 fill #FF00FF xor holes #FF00FF line #FF0000 xor holes #FF00FF\n"
+                       "line 0,9 - 3,9 #FF00FF and holes #FF00FF\n");
+    EXPECT_EQ(device.Point(0, 0), QBColor(0)) << "a hole against its own colour";
+    EXPECT_EQ(device.Point(1, 1), std::nullopt) << "twice";
+    EXPECT_EQ(device.Point(5, 5), std::nullopt);
+}
+
+TEST_F(DrawDeviceHoles, AHatchCutsEverySecondDiagonal)
+{
+    device.MaskColor(QBColor(13));
+    device.BackColor(Red);
+    device.Cls();
+    device.Hatch(10, 20, 4, 3, QBColor(13));
+    device.Hatch(40, 20, 4, 3, QBColor(13), HatchStart::BesideCorner);
+    device.ScaleMode(ScaleUnit::Twips);
+    device.Hatch(15, 15, 30, 30, QBColor(9));
+    EXPECT_EQ(drawn(), "clear #FF0000\n"
+                       "hatch 10,20 4x3 cut\n"
+                       "hatch 40,20 4x3 cut beside\n"
+                       "hatch 1,1 2x2 #0000FF\n");
+    device.ScaleMode(ScaleUnit::Pixels);
+    const auto row = [&](double left, double top) {
+        std::string holes;
+        for (double x = left - 1; x <= left + 4; ++x) {
+            holes += device.Point(x, top) ? '#' : '.';
+        }
+        return holes;
+    };
+    EXPECT_EQ(row(10, 19), "######");
+    EXPECT_EQ(row(10, 20), "#.#.##");
+    EXPECT_EQ(row(10, 21), "##.#.#");
+    EXPECT_EQ(row(10, 22), "#.#.##");
+    EXPECT_EQ(row(10, 23), "######");
+    EXPECT_EQ(row(40, 20), "##.#.#");
+    EXPECT_EQ(row(40, 21), "#.#.##");
+    EXPECT_EQ(device.Point(2, 2), QBColor(9));
+    EXPECT_EQ(device.Point(2, 1), Red);
+}
+
+TEST_F(DrawDeviceHoles, AHatchOfNothingIsNotDrawn)
+{
+    device.Hatch(3, 3, 0, 5, Red);
+    device.Hatch(3, 3, 5, -1, Red);
+    EXPECT_EQ(drawn(), "");
+}
+
+TEST_F(DrawDevicePictures, ACopyTakesItsHolesAlong)
+{
+    const auto picture = std::make_shared<Picture>(PixelSize{4, 4});
+    picture->pixels()[0] = 0xFF123456;
+    device.BackColor(Red);
+    device.Cls();
+    device.PaintPicture(picture, 10, 10);
+    EXPECT_EQ(device.Point(10, 10), RGB(0x12, 0x34, 0x56));
+    EXPECT_EQ(device.Point(11, 10), Red);
+    device.PaintPicture(picture, 10, 10, RasterMode::Copy);
+    EXPECT_EQ(device.Point(10, 10), RGB(0x12, 0x34, 0x56));
+    EXPECT_EQ(device.Point(11, 10), std::nullopt);
+    EXPECT_EQ(device.Point(14, 10), Red);
+    EXPECT_EQ(recorder->lines().back(), "image 4x4 from 0,0 4x4 to 10,10 4x4 copy");
+}
+
+TEST_F(DrawDevicePictures, AMaskAndItsSpriteAreSeenOnHolesToo)
+{
+    const auto mask = std::make_shared<Picture>(PixelSize{2, 1});
+    mask->pixels()[0] = 0xFF000000;
+    mask->pixels()[1] = 0xFFFFFFFF;
+    const auto sprite = std::make_shared<Picture>(PixelSize{2, 1});
+    sprite->pixels()[0] = 0xFF0AC81E;
+    sprite->pixels()[1] = 0xFF000000;
+    device.MaskColor(QBColor(13));
+    device.Line(0, 0, 9, 9, Red, LineShape::Filled);
+    for (const double left : {5.0, 50.0}) {
+        device.PaintPicture(mask, left, 5, RasterMode::And);
+        device.PaintPicture(sprite, left, 5, RasterMode::Xor);
+    }
+    EXPECT_EQ(device.Point(5, 5), RGB(0x0A, 0xC8, 0x1E));
+    EXPECT_EQ(device.Point(6, 5), Red);
+    EXPECT_EQ(device.Point(50, 5), RGB(0x0A, 0xC8, 0x1E));
+    EXPECT_EQ(device.Point(51, 5), std::nullopt);
+    EXPECT_EQ(recorder->lines().back(), "image 2x1 from 0,0 2x1 to 50,5 2x1 xor holes #FF00FF");
+}
+
 TEST_F(DrawDevicePictures, AreDrawnWholeInPartStretchedAndCombined)
 {
     const auto picture = std::make_shared<Picture>(PixelSize{16, 8});

@@ -57,16 +57,21 @@ void PageRecorder::text(PixelPoint topLeft, StringView text, const FontFace& fac
 
 // The picture may go on to change.
 void PageRecorder::image(const Picture& picture, const PixelRectangle& source, const PixelRectangle& target,
-                         RasterMode mode)
+                         Raster raster)
 {
-    primitives_.emplace_back([copy = picture.copy(), source, target, mode](DrawBackend& page) {
-        page.image(*copy, source, target, mode);
+    primitives_.emplace_back([copy = picture.copy(), source, target, raster](DrawBackend& page) {
+        page.image(*copy, source, target, raster);
     });
 }
 
 void PageRecorder::gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps)
 {
     primitives_.emplace_back([=](DrawBackend& page) { page.gradient(area, from, to, angle, steps); });
+}
+
+void PageRecorder::hatch(const PixelRectangle& area, Ink ink, HatchStart start)
+{
+    primitives_.emplace_back([=](DrawBackend& page) { page.hatch(area, ink, start); });
 }
 
 void PageRecorder::clip(std::optional<PixelRectangle> area)

@@ -32,8 +32,9 @@ public:
                  std::optional<Stroke> outline) override;
     void text(PixelPoint topLeft, StringView text, const FontFace& face, Ink ink) override;
     void image(const Picture& picture, const PixelRectangle& source, const PixelRectangle& target,
-               RasterMode mode) override;
+               Raster raster) override;
     void gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps) override;
+    void hatch(const PixelRectangle& area, Ink ink, HatchStart start) override;
     std::optional<Colour> pixel(PixelPoint) const override { return std::nullopt; }
     void clip(std::optional<PixelRectangle> area) override;
     void newPage() override;

@@ -1,6 +1,7 @@
 #include "qt/desktop/PainterBackend.h"
 
 #include "qt/desktop/DesktopColours.h"
+#include "qt/desktop/GradientImage.h"
 #include "qt/desktop/PictureImage.h"
 #include "qt/desktop/QtFontFace.h"
 
@@ -52,10 +53,28 @@ QPainterPath pathOf(const Arc& arc, QPointF centre, double ratio)
     return path;
 }
 
-QColor mixed(const QColor& from, const QColor& to, double share)
+// None where ink and pictures are simply painted.
+std::optional<BitMerge> mergeOf(const Raster& raster)
 {
-    const auto part = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
-    return {part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue())};
+    if (raster.mode != RasterMode::And && raster.mode != RasterMode::Xor) {
+        return std::nullopt;
+    }
+    std::optional<std::uint32_t> hole;
+    if (raster.hole) {
+        hole = toQColor(*raster.hole).rgb() & RGB_MASK;
+    }
+    return BitMerge(raster.mode, hole);
+}
+
+// Two by two pixels, of which one diagonal is see-through.
+QBrush hatchBrush(const QColor& colour, HatchStart start)
+{
+    QImage pattern(2, 2, QImage::Format_ARGB32_Premultiplied);
+    pattern.fill(Qt::transparent);
+    const int first = start == HatchStart::AtCorner ? 0 : 1;
+    pattern.setPixelColor(first, 0, colour);
+    pattern.setPixelColor(1 - first, 1, colour);
+    return {pattern};
 }
 
 } // namespace
@@ -95,36 +114,36 @@ void PainterBackend::clip(std::optional<PixelRectangle> area)
 }
 
 // Smooth shapes are painted; holes and bitwise ink take the same shape without smoothing.
-void PainterBackend::apply(const Ink& ink, RasterMode mode, const QRectF& bounds, const Drawing& drawing)
+void PainterBackend::apply(const Ink& ink, const Raster& raster, const QRectF& bounds, const Drawing& drawing)
 {
-    if (!ink.cut && mode == RasterMode::Paint) {
+    const std::optional<BitMerge> merge = mergeOf(raster);
+    if (!ink.cut && !merge) {
         painter_.setRenderHint(QPainter::Antialiasing, true);
         drawing(painter_);
         return;
     }
-    const Combine how = ink.cut ? Combine::Cut : mode == RasterMode::And ? Combine::And : Combine::Xor;
-    combine(how, bounds.toAlignedRect().adjusted(-1, -1, 1, 1), drawing);
+    combine(merge, bounds.toAlignedRect().adjusted(-1, -1, 1, 1), drawing);
 }
 
 void PainterBackend::fillShape(const QPainterPath& path, const Fill& fill)
 {
-    apply(fill.ink, fill.mode, path.boundingRect(),
+    apply(fill.ink, fill.raster, path.boundingRect(),
           [&](QPainter& painter) { painter.fillPath(path, toQColor(fill.ink.colour)); });
 }
 
 void PainterBackend::strokeShape(const QPainterPath& path, const Stroke& stroke)
 {
     const double margin = stroke.width * ratio_;
-    apply(stroke.ink, stroke.mode, path.boundingRect().adjusted(-margin, -margin, margin, margin),
+    apply(stroke.ink, stroke.raster, path.boundingRect().adjusted(-margin, -margin, margin, margin),
           [&](QPainter& painter) { painter.strokePath(path, penOf(stroke, ratio_)); });
 }
 
-void PainterBackend::fillBox(const QRect& box, const Ink& ink, RasterMode mode)
+void PainterBackend::fillBox(const QRect& box, const Ink& ink, const Raster& raster)
 {
     if (box.isEmpty()) {
         return;
     }
-    apply(ink, mode, box, [&](QPainter& painter) { painter.fillRect(box, toQColor(ink.colour)); });
+    apply(ink, raster, box, [&](QPainter& painter) { painter.fillRect(box, toQColor(ink.colour)); });
 }
 
 void PainterBackend::clear(Ink ink)
@@ -139,7 +158,7 @@ void PainterBackend::rectangle(const PixelRectangle& area, std::optional<Fill> f
 {
     const QRect box = snapped(area);
     if (fill) {
-        fillBox(box, fill->ink, fill->mode);
+        fillBox(box, fill->ink, fill->raster);
     }
     if (!outline) {
         return;
@@ -147,7 +166,7 @@ void PainterBackend::rectangle(const PixelRectangle& area, std::optional<Fill> f
     const int pen = std::max(1, static_cast<int>(std::lround(outline->width * ratio_)));
     const QRect inner = box.adjusted(pen, pen, -pen, -pen);
     if (!inner.isValid()) {
-        fillBox(box, outline->ink, outline->mode);
+        fillBox(box, outline->ink, outline->raster);
         return;
     }
     const QRect edges[] = {
@@ -157,7 +176,7 @@ void PainterBackend::rectangle(const PixelRectangle& area, std::optional<Fill> f
         {inner.right() + 1, inner.top(), pen, inner.height()},
     };
     for (const QRect& edge : edges) {
-        fillBox(edge, outline->ink, outline->mode);
+        fillBox(edge, outline->ink, outline->raster);
     }
 }
 
@@ -186,7 +205,7 @@ void PainterBackend::straightLine(PixelPoint from, PixelPoint to, const Stroke& 
     } else {
         std::tie(area.top, area.height) = span(from.y, to.y);
     }
-    fillBox(snapped(area), stroke.ink, stroke.mode);
+    fillBox(snapped(area), stroke.ink, stroke.raster);
 }
 
 // A thin line is moved back by half a pixel, so that it covers its first pixel and leaves out its last one. A
@@ -252,7 +271,7 @@ void PainterBackend::text(PixelPoint topLeft, StringView text, const FontFace& f
     // Slanted letters reach out of their boxes.
     const double reach = known.height() * ratio_;
     const QRectF box(topLeft.x * ratio_, topLeft.y * ratio_, known.width(text) * ratio_, reach);
-    combine(Combine::Cut, box.adjusted(-reach, -reach, reach, reach).toAlignedRect(), drawing);
+    combine(std::nullopt, box.adjusted(-reach, -reach, reach, reach).toAlignedRect(), drawing);
 }
 
 void PainterBackend::drawLine(QPainter& painter, QPointF baseLine, StringView text, const QtFontFace& face)
@@ -293,7 +312,7 @@ void PainterBackend::drawTextLines(QPainter& painter, QPointF baseLine, double w
 }
 
 void PainterBackend::image(const Picture& picture, const PixelRectangle& source, const PixelRectangle& target,
-                           RasterMode mode)
+                           Raster raster)
 {
     const QRect box = snapped(target);
     const QRectF part(source.left * picture.pixelRatio(), source.top * picture.pixelRatio(),
@@ -301,12 +320,26 @@ void PainterBackend::image(const Picture& picture, const PixelRectangle& source,
     const bool own = this->picture().get() == &picture;
     const QImage image = own ? imageOf(picture).copy() : imageOf(picture);
     const auto draw = [&](QPainter& painter) { painter.drawImage(QRectF(box), image, part); };
-    if (mode == RasterMode::Paint) {
-        painter_.setRenderHint(QPainter::SmoothPixmapTransform, true);
-        draw(painter_);
-    } else {
-        combine(mode == RasterMode::And ? Combine::And : Combine::Xor, box, draw);
+    if (const auto merge = mergeOf(raster)) {
+        combine(merge, box, draw);
+        return;
     }
+    painter_.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    if (raster.mode == RasterMode::Copy) {
+        painter_.setCompositionMode(QPainter::CompositionMode_Source);
+    }
+    draw(painter_);
+    painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+void PainterBackend::hatch(const PixelRectangle& area, Ink ink, HatchStart start)
+{
+    const QRect box = snapped(area);
+    apply(ink, {}, box, [&](QPainter& painter) {
+        painter.setBrushOrigin(box.topLeft());
+        painter.fillRect(box, hatchBrush(toQColor(ink.colour), start));
+        painter.setBrushOrigin(0, 0);
+    });
 }
 
 void PainterBackend::gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps)
@@ -315,26 +348,21 @@ void PainterBackend::gradient(const PixelRectangle& area, Colour from, Colour to
     if (box.isEmpty()) {
         return;
     }
-    const int bands = std::max(1, steps);
-    const double turn = angle / DegreesPerRadian;
-    const QPointF along(std::cos(turn), std::sin(turn));
-    const QPointF across(-along.y(), along.x());
-    const double reach = (std::abs(along.x()) * box.width() + std::abs(along.y()) * box.height()) / 2;
+    const GradientBands bands({box.size(), toQColor(from).rgb(), toQColor(to).rgb(), angle, steps});
     const double side = box.width() + box.height();
     const QPointF middle = QRectF(box).center();
+    const QPointF along = bands.direction();
+    const QPointF across(-along.y() * side, along.x() * side);
 
     painter_.save();
     painter_.setClipRect(box, clip_ ? Qt::IntersectClip : Qt::ReplaceClip);
     painter_.setRenderHint(QPainter::Antialiasing, false);
     painter_.setPen(Qt::NoPen);
-    for (int band = 0; band < bands; ++band) {
-        const double share = bands == 1 ? 0 : static_cast<double>(band) / (bands - 1);
-        const QPointF near = middle + along * (reach * (2.0 * band / bands - 1));
-        const QPointF far =
-            middle + along * (band + 1 == bands ? side : reach * (2.0 * (band + 1) / bands - 1));
-        painter_.setBrush(mixed(toQColor(from), toQColor(to), share));
-        painter_.drawPolygon(QPolygonF(
-            {near - across * side, near + across * side, far + across * side, far - across * side}));
+    for (int band = 0; band < bands.count(); ++band) {
+        const QPointF near = middle + along * bands.start(band);
+        const QPointF far = middle + along * (band + 1 == bands.count() ? side : bands.start(band + 1));
+        painter_.setBrush(QColor(bands.colour(band)));
+        painter_.drawPolygon(QPolygonF({near - across, near + across, far + across, far - across}));
     }
     painter_.restore();
 }

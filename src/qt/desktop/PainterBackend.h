@@ -1,5 +1,6 @@
 #pragma once
 
+#include "visual/BitMerge.h"
 #include "visual/DrawBackend.h"
 
 #include <QGlyphRun>
@@ -34,13 +35,12 @@ public:
                  std::optional<Stroke> outline) override;
     void text(PixelPoint topLeft, StringView text, const FontFace& face, Ink ink) override;
     void image(const Picture& picture, const PixelRectangle& source, const PixelRectangle& target,
-               RasterMode mode) override;
+               Raster raster) override;
     void gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps) override;
+    void hatch(const PixelRectangle& area, Ink ink, HatchStart start) override;
     void clip(std::optional<PixelRectangle> area) override;
 
 protected:
-    /// How drawn pixels change the surface when they are not simply painted.
-    enum class Combine { And, Xor, Cut };
     using Drawing = std::function<void(QPainter&)>;
 
     /// `device` holds `ratio` pixels for a logical one in each direction.
@@ -53,14 +53,16 @@ protected:
     /// The area in device pixels, with rounded edges and at least one pixel wide and high unless it is empty.
     QRect snapped(const PixelRectangle& area) const;
 
-    /// Lets what `drawing` draws inside of `bounds` change the surface. A device without pixels ignores it.
-    virtual void combine(Combine how, const QRect& bounds, const Drawing& drawing) = 0;
+    /// Lets what `drawing` draws inside of `bounds` meet the surface bit by bit, or cut holes into it where
+    /// there is no merge. A device without pixels ignores it.
+    virtual void combine(const std::optional<BitMerge>& merge, const QRect& bounds,
+                         const Drawing& drawing) = 0;
 
 private:
     void fillShape(const QPainterPath& path, const Fill& fill);
     void strokeShape(const QPainterPath& path, const Stroke& stroke);
-    void fillBox(const QRect& box, const Ink& ink, RasterMode mode);
-    void apply(const Ink& ink, RasterMode mode, const QRectF& bounds, const Drawing& drawing);
+    void fillBox(const QRect& box, const Ink& ink, const Raster& raster);
+    void apply(const Ink& ink, const Raster& raster, const QRectF& bounds, const Drawing& drawing);
     void straightLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
     void slantedLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
     void drawLine(QPainter& painter, QPointF baseLine, StringView text, const QtFontFace& face);

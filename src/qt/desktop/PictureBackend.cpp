@@ -1,6 +1,7 @@
 #include "qt/desktop/PictureBackend.h"
 
 #include "qt/desktop/DesktopColours.h"
+#include "qt/desktop/GradientImage.h"
 
 #include <cmath>
 
@@ -10,8 +11,6 @@ namespace phial::qt
 namespace
 {
 
-constexpr std::uint32_t AlphaMask = 0xFF000000U;
-constexpr std::uint32_t ColourMask = 0x00FFFFFFU;
 constexpr unsigned HalfCovered = 128;
 
 QImage writableImageOf(Picture& picture)
@@ -57,9 +56,9 @@ QRect PictureBackend::visible(const QRect& bounds) const
     return clipping() ? inside.intersected(*clipping()) : inside;
 }
 
-// The drawing goes to a layer of its own, which tells the pixels that are meant. See-through pixels stay so
-// when bits are combined; bits of a colour stay below its alpha.
-void PictureBackend::combine(Combine how, const QRect& bounds, const Drawing& drawing)
+// The drawing goes to a layer of its own, which tells the pixels that are meant.
+void PictureBackend::combine(const std::optional<BitMerge>& merge, const QRect& bounds,
+                             const Drawing& drawing)
 {
     const QRect area = visible(bounds);
     if (area.isEmpty()) {
@@ -79,21 +78,19 @@ void PictureBackend::combine(Combine how, const QRect& bounds, const Drawing& dr
                               static_cast<std::size_t>(area.top() + row) * picture_->columns() +
                               static_cast<std::size_t>(area.left());
         for (int column = 0; column < area.width(); ++column, ++drawn, ++held) {
-            if (static_cast<unsigned>(qAlpha(*drawn)) < HalfCovered) {
-                continue;
-            }
-            switch (how) {
-            case Combine::Cut:
-                *held = 0;
-                break;
-            case Combine::And:
-                *held &= *drawn | AlphaMask;
-                break;
-            case Combine::Xor:
-                *held ^= (*held & AlphaMask) == AlphaMask ? *drawn & ColourMask : 0;
-                break;
+            if (static_cast<unsigned>(qAlpha(*drawn)) >= HalfCovered) {
+                *held = merge ? (*merge)(*held, *drawn) : 0;
             }
         }
+    }
+}
+
+void PictureBackend::gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps)
+{
+    const QRect box = snapped(area);
+    if (!box.isEmpty()) {
+        painter().drawImage(box.topLeft(), gradientImage({box.size(), toQColor(from).rgb(),
+                                                          toQColor(to).rgb(), angle, steps}));
     }
 }
 

@@ -16,9 +16,10 @@ public:
 
     PicturePtr picture() const override { return picture_; }
     std::optional<Colour> pixel(PixelPoint point) const override;
+    void gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps) override;
 
 private:
-    void combine(Combine how, const QRect& bounds, const Drawing& drawing) override;
+    void combine(const std::optional<BitMerge>& merge, const QRect& bounds, const Drawing& drawing) override;
     QRect visible(const QRect& bounds) const;
 
     PicturePtr picture_;

@@ -22,7 +22,7 @@ public:
     void endDocument() override;
 
 private:
-    void combine(Combine, const QRect&, const Drawing&) override {}
+    void combine(const std::optional<BitMerge>&, const QRect&, const Drawing&) override {}
 
     QPrinter& printer_;
 };
