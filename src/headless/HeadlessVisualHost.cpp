@@ -148,9 +148,12 @@ void HeadlessVisualHost::runModal(Form& form)
     }
 }
 
-PixelSize HeadlessVisualHost::screenSize() const
+std::vector<PixelRectangle> HeadlessVisualHost::screens() const
 {
-    return {static_cast<double>(display_->Width()), static_cast<double>(display_->Height())};
+    std::vector<PixelRectangle> all{
+        {0, 0, static_cast<double>(display_->Width()), static_cast<double>(display_->Height())}};
+    all.insert(all.end(), otherScreens_.begin(), otherScreens_.end());
+    return all;
 }
 
 void HeadlessVisualHost::sendKeys(std::span<const KeyStroke> keys)

@@ -60,6 +60,8 @@ public:
     /// The pictures of files, by native path; others are looked at in the file system, see decodePicture.
     void addPicture(const std::filesystem::path& file, PicturePtr picture);
     void pixelRatio(double value) { pixelRatio_ = value; }
+    /// Further screens of the desktop, beside the display's own, which begins at (0, 0).
+    void addScreen(const PixelRectangle& screen) { otherScreens_.push_back(screen); }
     const std::vector<PrintedDocument>& printed() const { return printed_; }
     /// From now on there is no printer, or one again.
     void hasPrinter(bool value) { hasPrinter_ = value; }
@@ -73,7 +75,7 @@ public:
     PicturePtr decodePicture(const std::filesystem::path& file) override;
     std::unique_ptr<FormPeer> openWindow(Form& form, bool modal) override;
     void runModal(Form& form) override;
-    PixelSize screenSize() const override;
+    std::vector<PixelRectangle> screens() const override;
     void screenPointerChanged(MousePointer pointer) override { screenPointer_ = pointer; }
     void sendKeys(std::span<const KeyStroke> keys) override;
     String clipboardText() const override { return clipboard_; }
@@ -96,6 +98,7 @@ private:
     std::vector<std::weak_ptr<RecordingBackend>> surfaces_;
     std::map<std::filesystem::path, PicturePtr> pictures_;
     std::vector<PrintedDocument> printed_;
+    std::vector<PixelRectangle> otherScreens_;
     double pixelRatio_ = 1;
     bool hasPrinter_ = true;
     MousePointer screenPointer_ = MousePointer::Default;

@@ -135,6 +135,12 @@ void Form::WindowState(phial::WindowState value)
 
 void Form::Move(double left, double top, double width, double height)
 {
+    hasPlace_ = true;
+    take(left, top, width, height);
+}
+
+void Form::take(double left, double top, double width, double height)
+{
     if (!(width >= 0 && height >= 0)) {
         throw RuntimeError(ErrorNumber::InvalidArgument);
     }
@@ -174,7 +180,7 @@ PixelSize Form::innerSize() const
 
 void Form::innerSize(PixelSize value)
 {
-    Move(left_, top_, (value.width + decoration_.width) * TwipsPerPixel,
+    take(left_, top_, (value.width + decoration_.width) * TwipsPerPixel,
          (value.height + decoration_.height) * TwipsPerPixel);
 }
 
@@ -326,15 +332,22 @@ void Form::openWindow(FormShow how)
         host.forms().modalBegun(shared_from_this());
     }
     if (centred_) {
-        const PixelSize screen = host.screenSize();
-        place((screen.width * TwipsPerPixel - width_) / 2, (screen.height * TwipsPerPixel - height_) / 2,
-              width_, height_);
+        centre();
     }
     peer_ = host.openWindow(*this, how == FormShow::Modal);
     Resize.emit();
     tellSeen();
     inputActivate();
     focusFirst();
+}
+
+void Form::centre()
+{
+    const auto target = visualHost().forms().ActiveForm();
+    const PixelRectangle screen = target ? visualHost().screen().of(*target) : visualHost().screen().first();
+    hasPlace_ = true;
+    place(screen.left * TwipsPerPixel + (screen.width * TwipsPerPixel - width_) / 2,
+          screen.top * TwipsPerPixel + (screen.height * TwipsPerPixel - height_) / 2, width_, height_);
 }
 
 void Form::focusFirst()

@@ -54,12 +54,15 @@ public:
     double Top() const { return top_; }
     void Top(double value) { Move(left_, value, width_, height_); }
     double Width() const { return width_; }
-    void Width(double value) { Move(left_, top_, value, height_); }
+    void Width(double value) { take(left_, top_, value, height_); }
     double Height() const { return height_; }
-    void Height(double value) { Move(left_, top_, width_, value); }
+    void Height(double value) { take(left_, top_, width_, value); }
     /// Raises Resize when the size changes; a negative size raises 5.
     void Move(double left, double top, double width, double height);
     void Move(double left, double top) { Move(left, top, width_, height_); }
+    /// Whether it has been given a place. Without one the desktop puts a window with a frame where it sees
+    /// fit.
+    bool hasPlace() const { return hasPlace_; }
     /// Twips or pixels.
     ScaleUnit ScaleMode() const override { return container_.ScaleMode(); }
     void ScaleMode(ScaleUnit value) { container_.ScaleMode(value); }
@@ -70,7 +73,7 @@ public:
     void innerSize(PixelSize value);
     /// For the adapter: what title and borders take, in pixels. Width and Height follow.
     void decoration(PixelSize value);
-    /// In the middle of the screen when it is first shown.
+    /// In the middle of the screen when it is shown: that of the form that is active then, or the first one.
     bool centred() const { return centred_; }
     void centred(bool value) { centred_ = value; }
 
@@ -92,6 +95,10 @@ public:
     void translucency(phial::Translucency value);
     bool Enabled() const { return enabled_; }
     void Enabled(bool value);
+    /// It lies behind the program's other windows: it never is the active form, whoever activates it gets the
+    /// others back in front, and the program ends without waiting for it. Set before it is shown.
+    bool backdrop() const { return backdrop_; }
+    void backdrop(bool value) { backdrop_ = value; }
 
     // What stands on it.
     phial::Container& container() { return container_; }
@@ -227,6 +234,9 @@ private:
     void change(Value& field, Value value, FormAspect aspect);
     /// Gives whether the size differs.
     bool place(double left, double top, double width, double height);
+    /// `place` by the program: tells the window and raises Resize.
+    void take(double left, double top, double width, double height);
+    void centre();
     void place(const ControlPtr& control, phial::Container& into);
     void removeControl(Control& control);
     void report(FormAspect aspect) const;
@@ -248,6 +258,7 @@ private:
     double width_ = 4800;
     double height_ = 3600;
     PixelSize decoration_;
+    bool hasPlace_ = false;
     bool centred_ = false;
     Colour backColor_ = SystemColour::ButtonFace;
     PicturePtr picture_;
@@ -257,6 +268,7 @@ private:
     phial::MousePointer pointer_ = phial::MousePointer::Default;
     phial::Translucency translucency_;
     bool enabled_ = true;
+    bool backdrop_ = false;
     bool keyPreview_ = false;
 
     phial::Container container_;

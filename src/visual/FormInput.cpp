@@ -16,6 +16,10 @@ void Form::inputActivate()
     }
     const auto self = shared_from_this();
     Forms& forms = visualHost().forms();
+    if (backdrop_) {
+        forms.bringBack();
+        return;
+    }
     if (const auto previous = forms.ActiveForm(); previous && previous != self) {
         previous->inputDeactivate();
     }
@@ -43,6 +47,7 @@ void Form::inputDeactivate()
 
 void Form::inputGeometry(double left, double top, double width, double height)
 {
+    hasPlace_ = hasPlace_ || left != left_ || top != top_;
     if (place(left, top, width, height)) {
         Resize.emit();
     }

@@ -70,6 +70,20 @@ void Forms::deactivated(const Form& form)
     }
 }
 
+void Forms::bringBack() const
+{
+    const auto loaded = loaded_;
+    for (const auto& form : loaded) {
+        if (!form->backdrop()) {
+            form->ZOrder();
+        }
+    }
+    if (const auto latest = latest_.lock(); latest && latest->Visible()) {
+        latest->ZOrder();
+        latest->SetFocus();
+    }
+}
+
 void Forms::modalBegun(const std::shared_ptr<Form>& form)
 {
     modal_.push_back(form);

@@ -35,7 +35,9 @@ private:
     friend class Form;
     void loaded(const std::shared_ptr<Form>& form);
     void unloaded(const Form& form);
-    void activated(const std::shared_ptr<Form>& form) { active_ = form; }
+    void activated(const std::shared_ptr<Form>& form) { active_ = latest_ = form; }
+    /// Puts all shown forms in front of the backdrops, and the focus where it was last.
+    void bringBack() const;
     void deactivated(const Form& form);
     void modalBegun(const std::shared_ptr<Form>& form);
     void modalEnded(const Form& form);
@@ -43,6 +45,7 @@ private:
     std::vector<std::shared_ptr<Form>> loaded_;
     std::vector<std::weak_ptr<Form>> modal_;
     std::weak_ptr<Form> active_;
+    std::weak_ptr<Form> latest_; ///< the one that was active last, or still is
 };
 
 } // namespace phial

@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <memory>
 #include <span>
+#include <vector>
 
 namespace phial
 {
@@ -50,8 +51,9 @@ public:
     /// Runs events until `form.isModal()` is false. Loops nest; the innermost ends first.
     virtual void runModal(Form& form) = 0;
 
-    /// The screen's size, in pixels.
-    virtual PixelSize screenSize() const = 0;
+    /// The screens, in pixels of the desktop that they make up; the one on which programs begin comes first.
+    /// Empty without any.
+    virtual std::vector<PixelRectangle> screens() const = 0;
     /// The pointer has got another shape for all windows.
     virtual void screenPointerChanged(MousePointer pointer) = 0;
 

@@ -109,6 +109,74 @@ TEST_F(FormLife, CentredFormStandsInTheMiddleOfTheScreen)
     EXPECT_EQ(form->Top(), 5250);
 }
 
+TEST_F(FormLife, AFormHasAPlaceWhenItIsGivenOneTheDesktopsCornerToo)
+{
+    EXPECT_FALSE(form->hasPlace());
+    form->Width(3000);
+    form->Height(1500);
+    form->innerSize({200, 100});
+    EXPECT_FALSE(form->hasPlace()) << "a size is no place";
+    form->Move(0, 0);
+    EXPECT_TRUE(form->hasPlace());
+}
+
+TEST_F(FormLife, EachWayOfPlacingAFormCounts)
+{
+    const auto hasPlaceBehind = [](const std::function<void(Form&)>& act) {
+        const auto placed = std::make_shared<Form>(u"frm_Placed");
+        act(*placed);
+        const bool result = placed->hasPlace();
+        placed->discard();
+        return result;
+    };
+    EXPECT_TRUE(hasPlaceBehind([](Form& placed) { placed.Left(0); }));
+    EXPECT_TRUE(hasPlaceBehind([](Form& placed) { placed.Top(0); }));
+    EXPECT_TRUE(hasPlaceBehind([](Form& placed) { placed.Move(0, 0, 100, 100); }));
+    EXPECT_TRUE(hasPlaceBehind([](Form& placed) {
+        placed.centred(true);
+        placed.Show();
+    }));
+    EXPECT_TRUE(hasPlaceBehind([](Form& placed) { placed.inputGeometry(15, 0, 4800, 3600); }));
+    EXPECT_TRUE(hasPlaceBehind([](Form& placed) { placed.inputGeometry(0, 15, 4800, 3600); }));
+    EXPECT_FALSE(hasPlaceBehind([](Form& placed) { placed.inputGeometry(0, 0, 1500, 1500); }));
+}
+
+TEST_F(FormActivation, ABackdropIsNeverTheActiveForm)
+{
+    const auto backdrop = std::make_shared<Form>(u"frm_Backdrop");
+    backdrop->backdrop(true);
+    logs(backdrop->Activate, "backdrop");
+    backdrop->Show();
+    EXPECT_EQ(visualHost().forms().ActiveForm(), nullptr);
+    form->Show();
+    backdrop->inputActivate();
+    EXPECT_EQ(visualHost().forms().ActiveForm(), form);
+    EXPECT_THAT(log, IsEmpty());
+    backdrop->discard();
+}
+
+TEST_F(FormActivation, WhoActivatesABackdropGetsTheFormThatWasActiveLast)
+{
+    const auto backdrop = std::make_shared<Form>(u"frm_Backdrop");
+    backdrop->backdrop(true);
+    backdrop->Show();
+    const auto other = std::make_shared<Form>(u"frm_Other");
+    form->Show();
+    other->Show();
+    form->inputActivate();
+    form->inputDeactivate(); // another program has come
+    logs(form->Activate, "form");
+    logs(other->Activate, "other");
+    backdrop->inputActivate();
+    EXPECT_THAT(log, ElementsAre("form"));
+    EXPECT_EQ(visualHost().forms().ActiveForm(), form);
+    form->Hide();
+    backdrop->inputActivate();
+    EXPECT_THAT(log, ElementsAre("form")) << "what is not shown stays away";
+    other->discard();
+    backdrop->discard();
+}
+
 TEST_F(ModalForms, ShowReturnsWhenTheFormIsUnloadedAndResultsAreReadBehind)
 {
     const auto box = form->add<TextBox>(u"txt_Input");

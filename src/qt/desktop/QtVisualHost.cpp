@@ -168,11 +168,14 @@ void QtVisualHost::windowClosed(const Form& form)
     }
 }
 
-PixelSize QtVisualHost::screenSize() const
+std::vector<PixelRectangle> QtVisualHost::screens() const
 {
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const QSize size = screen ? screen->size() : QSize();
-    return {static_cast<double>(size.width()), static_cast<double>(size.height())};
+    std::vector<PixelRectangle> all;
+    for (const QScreen* screen : QGuiApplication::screens()) { // the primary one comes first
+        const QRectF place = screen->geometry();
+        all.push_back({place.x(), place.y(), place.width(), place.height()});
+    }
+    return all;
 }
 
 void QtVisualHost::screenPointerChanged(MousePointer pointer)

@@ -28,7 +28,7 @@ public:
     PicturePtr decodePicture(const std::filesystem::path& file) override;
     std::unique_ptr<FormPeer> openWindow(Form& form, bool modal) override;
     void runModal(Form& form) override;
-    PixelSize screenSize() const override;
+    std::vector<PixelRectangle> screens() const override;
     void screenPointerChanged(MousePointer pointer) override;
     void sendKeys(std::span<const KeyStroke> keys) override;
     String clipboardText() const override;
