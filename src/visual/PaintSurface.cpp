@@ -112,7 +112,10 @@ void PaintSurface::transparent(bool value)
 
 void PaintSurface::MaskPicture(PicturePtr value)
 {
-    mask_ = std::move(value);
+    if (mask_ != value) {
+        mask_ = std::move(value);
+        reported_ = false; // another shape is told whatever has been told of the picture
+    }
     drawn();
 }
 

@@ -20,13 +20,15 @@ namespace phial::qt
 {
 
 /// A fresh session for each test, with real windows on the display in memory and the rest of the outside
-/// scripted. An error that ends at the dispatch fails the test unless it takes it over.
-class DesktopSession : public testing::Test
+/// scripted. An error that ends at the dispatch fails the test unless it takes it over. `State` is the
+/// session's class: SessionState, or Session for a run with a root.
+template <typename State>
+class DesktopTest : public testing::Test
 {
 public:
     static void fail(const String& description) { ADD_FAILURE() << toUtf8(description); }
 
-    ~DesktopSession() override
+    ~DesktopTest() override
     {
         visualHost().forms().unloadAll();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -34,15 +36,17 @@ public:
     }
 
 protected:
-    DesktopSession() : DesktopSession(previewAndPrint) {}
+    DesktopTest() : DesktopTest(previewAndPrint) {}
     /// `outlet` takes what the test prints.
-    explicit DesktopSession(PrintOutlet outlet) : outlet_(std::move(outlet))
+    explicit DesktopTest(PrintOutlet outlet) : outlet_(std::move(outlet))
     {
         dispatchGuard()->setReporter(fail);
     }
 
     /// The scripted part of the outside.
     headless::HeadlessPlatform& outside() { return outside_; }
+    /// A folder for the test's files.
+    const test::TemporaryFolder& folder() const { return folder_; }
 
     static QWidget& widgetOf(const Form& form) { return *qt::widgetOf(form.hWnd()); }
     static QWidget& widgetOf(const Control& control) { return *qt::widgetOf(control.hWnd()); }
@@ -53,10 +57,13 @@ protected:
     {
         QElapsedTimer timer;
         timer.start();
-        while (!condition() && timer.elapsed() < 5000) {
+        while (!condition()) {
+            if (timer.elapsed() >= 5000) {
+                return false;
+            }
             QApplication::processEvents(QEventLoop::AllEvents, 20);
         }
-        return condition();
+        return true;
     }
 
 private:
@@ -72,7 +79,9 @@ private:
     PrintOutlet outlet_;
     test::TemporaryFolder folder_;
     headless::HeadlessPlatform outside_{folder_.path(), fail};
-    SessionState session_{platform()};
+    State session_{platform()};
 };
+
+using DesktopSession = DesktopTest<SessionState>;
 
 } // namespace phial::qt

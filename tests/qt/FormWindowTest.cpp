@@ -2,10 +2,12 @@
 
 #include "DesktopSession.h"
 #include "qt/desktop/ShotBook.h"
+#include "qt/desktop/WindowShape.h"
 #include "visual/PictureBox.h"
 #include "visual/TextBox.h"
 #include "visual/ctl_Button.h"
 
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -298,6 +300,178 @@ TEST_F(FormWindowTest, TheColourKeyMakesHolesInTheWindow)
     EXPECT_TRUE(eventually([&] { return !widgetOf(*form).mask().isEmpty(); }));
     EXPECT_FALSE(widgetOf(*form).mask().contains(QPoint(10, 10)));
     EXPECT_TRUE(widgetOf(*form).mask().contains(QPoint(110, 110)));
+}
+
+/// A form that is a hole but for a box in its middle.
+class ShapedWindowTest : public FormWindowTest
+{
+protected:
+    ShapedWindowTest()
+    {
+        form_->BorderStyle(BorderStyle::None);
+        form_->BackColor(Key);
+        form_->translucency({255, Key, nullptr});
+        box_->BackColor(QBColor(15));
+        form_->Show();
+        EXPECT_TRUE(shapeIs(QRect(100, 100, 120, 40)));
+    }
+
+    bool shapeIs(const QRegion& expected) const
+    {
+        return eventually([&] { return widgetOf(*form_).mask() == expected; });
+    }
+    /// Whether the window has looked for its holes again since the test put a mask of its own.
+    bool isShapedAnew() const
+    {
+        QApplication::processEvents();
+        return widgetOf(*form_).mask() != QRegion(Marker);
+    }
+    void mark() const
+    {
+        QApplication::processEvents();
+        widgetOf(*form_).setMask(Marker);
+    }
+
+    static constexpr Colour Key = RGB(255, 0, 255);
+    static constexpr QRect Marker{0, 0, 7, 7};
+    const std::shared_ptr<Form> form_ = makeForm();
+    const std::shared_ptr<PictureBox> box_ = place<PictureBox>(*form_, u"pic_Shown", 100, 100);
+};
+
+TEST_F(ShapedWindowTest, IsNotShapedAnewWhileItMoves)
+{
+    mark();
+    for (int step = 0; step < 10; ++step) {
+        form_->Move(step * 150, step * 30);
+    }
+    EXPECT_FALSE(isShapedAnew());
+    EXPECT_EQ(widgetOf(*form_).pos(), QPoint(90, 18));
+}
+
+TEST_F(ShapedWindowTest, IsShapedAnewWhenItsHolesMayHaveChanged)
+{
+    const auto change = [&](const char* what, const std::function<void()>& act) {
+        mark();
+        act();
+        EXPECT_TRUE(isShapedAnew()) << what;
+    };
+    change("size", [&] { form_->innerSize({500, 350}); });
+    change("picture", [&] { form_->Picture(std::make_shared<Picture>(PixelSize{10, 10})); });
+    change("key colour", [&] { form_->translucency({255, Key, nullptr}); });
+    change("a control moves", [&] { box_->Left(120); });
+    change("a control goes out of sight", [&] { box_->Visible(false); });
+    change("and comes back", [&] { box_->Visible(true); });
+    change("a control comes", [&] { place<TextBox>(*form_, u"txt_New", 10, 10); });
+    change("a shaped control is drawn", [&] {
+        box_->transparent(true);
+        box_->Cls();
+        box_->MaskPicture(box_->Image());
+    });
+}
+
+TEST_F(ShapedWindowTest, AControlIsPaintedWithoutALookForHoles)
+{
+    mark();
+    box_->device().Line(0, 0, 9, 9, QBColor(12), LineShape::Filled);
+    EXPECT_FALSE(isShapedAnew());
+}
+
+TEST_F(ShapedWindowTest, HasNoHolesWithoutAKeyColour)
+{
+    form_->translucency({});
+    EXPECT_TRUE(eventually([&] { return widgetOf(*form_).mask().isEmpty(); }));
+}
+
+TEST_F(ShapedWindowTest, ItsPictureHasSoftEdges)
+{
+    ASSERT_TRUE(widgetOf(*form_).testAttribute(Qt::WA_TranslucentBackground));
+    const auto picture = std::make_shared<Picture>(PixelSize{20, 10});
+    std::ranges::fill(picture->pixels(), 0x40400000U); // a quarter of red
+    form_->Picture(picture);
+    EXPECT_TRUE(shapeIs(QRegion(100, 100, 120, 40).united(QRect(0, 0, 20, 10))));
+    const PicturePtr shown = grabForm(*form_, 1);
+    EXPECT_EQ(shown->at(5, 5), 0x40400000U) << "nothing of the key colour in it";
+    EXPECT_EQ(shown->at(50, 50), 0U);
+}
+
+TEST_F(ShapedWindowTest, AMaskPictureSoftensTheGround)
+{
+    const auto mask = std::make_shared<Picture>(PixelSize{400, 300});
+    std::ranges::fill(mask->pixels().subspan(0, 400 * 20), 0xFF000000U);
+    std::ranges::fill(mask->pixels().subspan(400 * 20, 400 * 10), 0x80000000U);
+    form_->BackColor(RGB(255, 0, 0));
+    form_->translucency({255, std::nullopt, mask});
+    EXPECT_TRUE(shapeIs(QRect(0, 0, 400, 30)));
+    const PicturePtr shown = grabForm(*form_, 1);
+    EXPECT_EQ(shown->at(5, 5), 0xFFFF0000U);
+    EXPECT_EQ(shown->at(5, 25), 0x80800000U);
+    EXPECT_EQ(shown->at(5, 60), 0U);
+}
+
+TEST(WindowShape, APictureIsHardenedWhereTheDesktopKnowsNoSoftEdges)
+{
+    Picture picture({4, 1});
+    const std::uint32_t soft[] = {0x00000000, 0x7F7F0000, 0x80800000, 0xFF112233};
+    std::ranges::copy(soft, picture.pixels().begin());
+    const QImage hard = hardened(picture);
+    EXPECT_EQ(qAlpha(hard.pixel(0, 0)), 0);
+    EXPECT_EQ(qAlpha(hard.pixel(1, 0)), 0);
+    EXPECT_EQ(hard.pixel(2, 0), 0xFFFF0000U);
+    EXPECT_EQ(hard.pixel(3, 0), 0xFF112233U);
+}
+
+TEST_F(FormWindowTest, AFormMovedToTheCornerStandsThere)
+{
+    const auto form = makeForm();
+    form->Show();
+    widgetOf(*form).move(300, 200);
+    EXPECT_TRUE(eventually([&] { return form->Left() == 4500; }));
+    form->Move(0, 0);
+    EXPECT_TRUE(eventually([&] { return widgetOf(*form).pos() == QPoint(0, 0); }));
+    EXPECT_EQ(form->Left(), 0);
+}
+
+TEST_F(FormWindowTest, AMaximizedFormFillsItsScreenWhateverItsBorder)
+{
+    for (const BorderStyle border :
+         {BorderStyle::None, BorderStyle::FixedSingle, BorderStyle::Sizable, BorderStyle::FixedDialog}) {
+        const auto form = makeForm();
+        form->BorderStyle(border);
+        form->WindowState(phial::WindowState::Maximized);
+        form->Show();
+        const QWidget& window = widgetOf(*form);
+        EXPECT_TRUE(eventually([&] { return form->innerSize().width >= 700; })) << window.width();
+        form->WindowState(phial::WindowState::Normal);
+        EXPECT_TRUE(eventually([&] {
+            return form->innerSize() == PixelSize{400, 300};
+        })) << form->innerSize().width;
+        const bool fixed = border != BorderStyle::Sizable;
+        EXPECT_EQ(window.maximumSize() == QSize(400, 300), fixed);
+        form->WindowState(phial::WindowState::Maximized);
+        EXPECT_TRUE(eventually([&] { return form->innerSize().width >= 700; })) << "and again";
+        form->innerSize({200, 100});
+        EXPECT_TRUE(eventually([&] { return form->innerSize().width >= 700; })) << "it stays that large";
+    }
+}
+
+TEST_F(FormWindowTest, AnotherBorderLeavesTheWindowOpen)
+{
+    const auto form = makeForm();
+    form->Show();
+    for (const BorderStyle border : {BorderStyle::FixedDialog, BorderStyle::None, BorderStyle::Sizable}) {
+        form->BorderStyle(border);
+        EXPECT_TRUE(widgetOf(*form).isVisible());
+        EXPECT_EQ(widgetOf(*form).windowFlags().testFlag(Qt::FramelessWindowHint),
+                  border == BorderStyle::None);
+        EXPECT_EQ(widgetOf(*form).maximumSize() == QSize(400, 300), border != BorderStyle::Sizable);
+    }
+}
+
+TEST_F(FormWindowTest, TheScreensAreThoseOfTheDesktop)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const PixelRectangle first = visualHost().screen().first();
+    EXPECT_EQ(QRectF(first.left, first.top, first.width, first.height), QRectF(screen));
 }
 
 TEST_F(FormWindowTest, PicturesOfAFormHaveTheirScale)

@@ -94,6 +94,9 @@ void ControlWidget::modelChanged(ControlAspect aspect)
     switch (aspect) {
     case ControlAspect::Picture:
         update();
+        if (control_->surface().MaskPicture()) {
+            tellShape(*this);
+        }
         break;
     case ControlAspect::Children:
     case ControlAspect::ZOrder:

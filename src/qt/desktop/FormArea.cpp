@@ -2,15 +2,18 @@
 
 #include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/Dispatch.h"
+#include "qt/desktop/FormWindow.h"
 #include "qt/desktop/InputCodes.h"
 #include "qt/desktop/PictureImage.h"
+#include "qt/desktop/WindowShape.h"
 
 #include <QPainter>
 
 namespace phial::qt
 {
 
-FormArea::FormArea(std::shared_ptr<Form> form, QWidget& window) : QWidget(&window), form_(std::move(form))
+FormArea::FormArea(std::shared_ptr<Form> form, FormWindow& window)
+    : QWidget(&window), form_(std::move(form)), window_(window)
 {
     setMouseTracking(true);
 }
@@ -18,10 +21,36 @@ FormArea::FormArea(std::shared_ptr<Form> form, QWidget& window) : QWidget(&windo
 void FormArea::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), toQColor(form_->BackColor()));
-    if (const PicturePtr picture = form_->Picture()) {
+    paintGround(painter);
+    const PicturePtr mask = form_->translucency().mask;
+    if (window_.isSoft() && mask) {
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        painter.drawImage(QPointF(0, 0), imageForPainting(*mask));
+    }
+}
+
+void FormArea::paintGround(QPainter& painter)
+{
+    const bool isHole = form_->translucency().colourKey == form_->BackColor();
+    if (!(isHole && window_.isSoft())) {
+        painter.fillRect(rect(), toQColor(form_->BackColor()));
+    }
+    const PicturePtr picture = form_->Picture();
+    if (picture && isHole && !window_.isSoft()) {
+        paintHard(painter, picture); // no edge may mix with the key colour
+    } else if (picture) {
         painter.drawImage(QPointF(0, 0), imageForPainting(*picture));
     }
+}
+
+void FormArea::paintHard(QPainter& painter, const PicturePtr& picture)
+{
+    if (hardOf_ != picture) {
+        hardOf_ = picture;
+        hard_ = hardened(*picture);
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    painter.drawImage(QPointF(0, 0), hard_);
 }
 
 void FormArea::mousePressEvent(QMouseEvent* event)

@@ -16,7 +16,6 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScopedValueRollback>
-#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -29,17 +28,27 @@ namespace
 {
 
 constexpr double SolidOpacity = 255;
+// Milliseconds in which what a desktop says of a window's state can be about an earlier wish of the program.
+constexpr int SettlingTime = 1000;
 
+bool fillsScreen(const Form& form)
+{
+    return form.WindowState() == phial::WindowState::Maximized;
+}
+
+// Desktops maximize no window that has no button for it.
 Qt::WindowFlags flagsFor(const Form& form)
 {
+    const Qt::WindowFlags maximize = fillsScreen(form) ? Qt::WindowMaximizeButtonHint : Qt::WindowFlags();
     switch (form.BorderStyle()) {
     case BorderStyle::None:
         return Qt::Window | Qt::FramelessWindowHint;
     case BorderStyle::FixedDialog:
-        return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+        return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+               maximize;
     case BorderStyle::FixedSingle:
         return Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-               Qt::WindowMinimizeButtonHint;
+               Qt::WindowMinimizeButtonHint | maximize;
     case BorderStyle::Sizable:
         break;
     }
@@ -57,14 +66,18 @@ QSize innerSize(const Form& form)
     return {static_cast<int>(std::lround(size.width)), static_cast<int>(std::lround(size.height))};
 }
 
+bool keepsProgram(const QWidget* window)
+{
+    const auto* own = qobject_cast<const FormWindow*>(window);
+    return window->isVisible() && !(own && own->form().backdrop());
+}
+
 /// Ends the program when its last window has gone. The toolkit would see that by the close events, which
 /// these windows leave to their models.
 void endWithoutWindows()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
-    const bool anyVisible = std::any_of(windows.begin(), windows.end(),
-                                        [](const QWidget* window) { return window->isVisible(); });
-    if (!anyVisible) {
+    if (std::none_of(windows.begin(), windows.end(), keepsProgram)) {
         QCoreApplication::quit();
     }
 }
@@ -73,8 +86,12 @@ void endWithoutWindows()
 
 FormWindow::FormWindow(const std::shared_ptr<Form>& form)
     : QWidget(nullptr, flagsFor(*form)), form_(form), menuBar_(new QMenuBar(this)),
-      area_(new FormArea(form, *this))
+      area_(new FormArea(form, *this)), border_(form->BorderStyle()), flags_(flagsFor(*form)),
+      soft_(hasHoles(form->translucency()) && desktopComposes())
 {
+    setAttribute(Qt::WA_TranslucentBackground, soft_); // before the desktop's window is made
+    settling_.setSingleShot(true);
+    connect(&settling_, &QTimer::timeout, this, &FormWindow::tellState);
     registerWindow(form_->hWnd(), *this);
     controls_ = std::make_unique<ContainerWidgets>(form_->container(), *area_);
 }
@@ -120,7 +137,17 @@ void FormWindow::showAll()
 
 void FormWindow::modelChanged(FormAspect aspect)
 {
-    const QScopedValueRollback<bool> showing(showing_, true);
+    {
+        const QScopedValueRollback<bool> showing(showing_, true);
+        show(aspect);
+    }
+    if (aspect == FormAspect::WindowState || (aspect == FormAspect::Geometry && fillsScreen(*form_))) {
+        tellGeometry(); // what the desktop has made of it
+    }
+}
+
+void FormWindow::show(FormAspect aspect)
+{
     switch (aspect) {
     case FormAspect::Caption:
         setWindowTitle(toQt(form_->Caption()));
@@ -129,6 +156,9 @@ void FormWindow::modelChanged(FormAspect aspect)
         showGeometry();
         break;
     case FormAspect::WindowState:
+        showFrame();
+        showState();
+        break;
     case FormAspect::Visibility:
         showState();
         break;
@@ -140,10 +170,12 @@ void FormWindow::modelChanged(FormAspect aspect)
         break;
     case FormAspect::Children:
         controls_->synchronise();
+        scheduleShape();
         break;
     case FormAspect::Menu:
         showMenu(*menuBar_, form_->menu());
         showGeometry();
+        scheduleShape();
         break;
     case FormAspect::Focus:
         showFocus();
@@ -151,22 +183,38 @@ void FormWindow::modelChanged(FormAspect aspect)
     case FormAspect::ZOrder:
         controls_->synchronise();
         raise();
+        scheduleShape();
         break;
     }
-    scheduleShape();
+}
+
+// Another frame takes the window off the screen, so a button that it has got to be maximized stays.
+void FormWindow::showFrame()
+{
+    const Qt::WindowFlags wanted = flagsFor(*form_);
+    const bool sameBorder = border_ == form_->BorderStyle();
+    if (sameBorder && (wanted == flags_ || !wanted.testFlag(Qt::WindowMaximizeButtonHint))) {
+        return;
+    }
+    border_ = form_->BorderStyle();
+    flags_ = wanted;
+    setWindowFlags(flags_);
+    showGeometry();
+    showState();
 }
 
 void FormWindow::showStyle()
 {
-    if (windowFlags().testFlag(Qt::FramelessWindowHint) != (form_->BorderStyle() == BorderStyle::None)) {
-        setWindowFlags(flagsFor(*form_));
-        setVisible(open_);
-    }
+    showFrame();
     setWindowIcon(form_->Icon() ? iconOf(form_->Icon()) : QApplication::windowIcon());
     setWindowOpacity(std::clamp(form_->translucency().opacity / SolidOpacity, 0.0, 1.0));
     setCursor(cursorFor(form_->MousePointer(), nullptr));
     area_->update();
-    scheduleShape();
+    if (hasHoles(form_->translucency())) {
+        scheduleShape();
+    } else {
+        clearMask();
+    }
 }
 
 QSize FormWindow::menuSize() const
@@ -177,17 +225,36 @@ QSize FormWindow::menuSize() const
 void FormWindow::showGeometry()
 {
     const QSize size = innerSize(*form_) + menuSize();
-    if (form_->BorderStyle() == BorderStyle::Sizable) {
-        resize(size);
-    } else {
-        setFixedSize(size);
+    if (isVisible() && fillsScreen(*form_)) {
+        return; // it keeps the screen's
     }
-    // Without a place of its own the desktop puts a framed window where it sees fit.
-    const bool placed = form_->Left() != 0 || form_->Top() != 0 || form_->BorderStyle() == BorderStyle::None;
-    if (placed) {
-        move(toPixels(form_->Left()), toPixels(form_->Top()));
-    }
+    normal_ = QRect(QPoint(toPixels(form_->Left()), toPixels(form_->Top())), size);
+    takeNormalPlace();
     arrange();
+}
+
+// The size comes first: limits would resize the window where it stands.
+void FormWindow::takeNormalPlace()
+{
+    const QRect place = normal_;
+    resize(place.size());
+    if (form_->hasPlace() || form_->BorderStyle() == BorderStyle::None) {
+        move(place.topLeft());
+    }
+    limitSize(place.size());
+}
+
+// A window that the user cannot resize has its size as its limits, but not while it fills the screen:
+// desktops keep the limits.
+void FormWindow::limitSize(QSize size)
+{
+    const bool fixed = form_->BorderStyle() != BorderStyle::Sizable && !fillsScreen(*form_);
+    const QSize least = fixed ? size : QSize(0, 0);
+    const QSize most = fixed ? size : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    if (minimumSize() != least || maximumSize() != most) {
+        setMinimumSize(least);
+        setMaximumSize(most);
+    }
 }
 
 void FormWindow::arrange()
@@ -202,14 +269,17 @@ void FormWindow::showState()
     if (!open_) {
         return;
     }
+    settling_.start(SettlingTime);
     switch (form_->WindowState()) {
     case phial::WindowState::Normal:
         showNormal();
+        takeNormalPlace(); // not every desktop knows where a window was that began as large as the screen
         break;
     case phial::WindowState::Minimized:
         showMinimized();
         break;
     case phial::WindowState::Maximized:
+        limitSize(size());
         form_->BorderStyle() == BorderStyle::None ? showFullScreen() : showMaximized();
         break;
     }
@@ -223,8 +293,7 @@ void FormWindow::showFocus()
 
 void FormWindow::scheduleShape()
 {
-    const Translucency& translucency = form_->translucency();
-    if (shapeScheduled_ || !(translucency.colourKey || translucency.mask)) {
+    if (shapeScheduled_ || !hasHoles(form_->translucency())) {
         return;
     }
     shapeScheduled_ = true;
@@ -237,7 +306,7 @@ void FormWindow::scheduleShape()
 void FormWindow::showShape()
 {
     if (open_) {
-        applyShape(*this, *area_, form_->translucency());
+        applyShape(*this, *area_, form_->translucency(), soft_);
     }
 }
 
@@ -249,6 +318,9 @@ void FormWindow::tellGeometry()
     }
     const QSize around = frameGeometry().size() - geometry().size() + menuSize();
     const QRect frame = frameGeometry();
+    if (!isMaximized() && !isFullScreen()) {
+        normal_ = QRect(frame.topLeft(), size());
+    }
     dispatch([&] {
         form_->decoration({static_cast<double>(around.width()), static_cast<double>(around.height())});
         form_->inputGeometry(frame.left() * TwipsPerPixel, frame.top() * TwipsPerPixel,
@@ -267,17 +339,29 @@ void FormWindow::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     arrange();
     tellGeometry();
-    scheduleShape();
+    scheduleShape(); // of the new size
 }
 
 void FormWindow::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange && open_ && !showing_) {
-        const bool maximized = isMaximized() || isFullScreen();
-        form_->inputWindowState(isMinimized() ? phial::WindowState::Minimized
-                                : maximized   ? phial::WindowState::Maximized
-                                              : phial::WindowState::Normal);
+    if (event->type() == QEvent::WindowStateChange && !showing_ && !settling_.isActive()) {
+        tellState();
+    }
+}
+
+void FormWindow::tellState()
+{
+    const bool maximized = isMaximized() || isFullScreen();
+    const phial::WindowState told = isMinimized() ? phial::WindowState::Minimized
+                                    : maximized   ? phial::WindowState::Maximized
+                                                  : phial::WindowState::Normal;
+    if (!open_ || told == form_->WindowState()) {
+        return;
+    }
+    form_->inputWindowState(told);
+    if (told == phial::WindowState::Normal && form_->BorderStyle() != BorderStyle::Sizable) {
+        takeNormalPlace();
     }
 }
 

@@ -3,6 +3,7 @@
 #include "qt/desktop/ContainerWidgets.h"
 #include "visual/Form.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class QMenuBar;
@@ -35,8 +36,10 @@ public:
     Form& form() const { return *form_; }
     /// Where the controls stand.
     QWidget& area() { return *area_; }
-    /// The window's holes may have changed.
+    /// A control on it has come, gone, moved, or got another shape: the window's holes may have changed.
     void scheduleShape();
+    /// Whether the desktop lets the window be partly see-through, so that its holes have soft edges.
+    bool isSoft() const { return soft_; }
 
 protected:
     bool event(QEvent* event) override;
@@ -50,12 +53,17 @@ protected:
 
 private:
     void showAll();
+    void show(FormAspect aspect);
     void showStyle();
+    void showFrame();
     void showGeometry();
+    void takeNormalPlace();
+    void limitSize(QSize size);
     void showState();
     void showShape();
     void showFocus();
     void tellGeometry();
+    void tellState();
     void arrange();
     QSize menuSize() const;
 
@@ -63,6 +71,11 @@ private:
     QMenuBar* menuBar_;
     QWidget* area_;
     std::unique_ptr<ContainerWidgets> controls_;
+    BorderStyle border_; ///< as shown
+    Qt::WindowFlags flags_;
+    QRect normal_;    ///< corner of the frame and size of the inside while it does not fill the screen
+    QTimer settling_; ///< runs while what the desktop says of the state may be late
+    bool soft_;
     bool open_ = false;
     bool showing_ = false; ///< the model is being shown; what the window says of itself is an echo
     bool shapeScheduled_ = false;

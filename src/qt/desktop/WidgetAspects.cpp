@@ -2,6 +2,7 @@
 
 #include "qt/base/QtText.h"
 #include "qt/desktop/Cursors.h"
+#include "qt/desktop/FormWindow.h"
 
 #include <QWidget>
 
@@ -39,13 +40,18 @@ void applyPointer(QWidget& widget, const ControlFrame& frame)
 
 } // namespace
 
-void applyGeometry(QWidget& widget, const Control& control)
+QRect pixelPlace(const Control& control)
 {
     const PixelRectangle place = control.frame().pixelRectangle();
     const QPoint corner(static_cast<int>(std::lround(place.left)), static_cast<int>(std::lround(place.top)));
     const QPoint end(static_cast<int>(std::lround(place.right())),
                      static_cast<int>(std::lround(place.bottom())));
-    widget.setGeometry(QRect(corner, QSize(end.x() - corner.x(), end.y() - corner.y())));
+    return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
+}
+
+void applyGeometry(QWidget& widget, const Control& control)
+{
+    widget.setGeometry(pixelPlace(control));
 }
 
 void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)
@@ -54,9 +60,11 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)
     switch (aspect) {
     case ControlAspect::Geometry:
         applyGeometry(widget, control);
+        tellShape(widget);
         break;
     case ControlAspect::Visibility:
         widget.setVisible(frame.Visible());
+        tellShape(widget);
         break;
     case ControlAspect::Enabled:
         widget.setEnabled(frame.Enabled());
@@ -84,6 +92,13 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)
     case ControlAspect::Picture:
     case ControlAspect::Drag:
         break;
+    }
+}
+
+void tellShape(QWidget& widget)
+{
+    if (auto* window = qobject_cast<FormWindow*>(widget.window())) {
+        window->scheduleShape();
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "visual/Control.h"
 
+class QRect;
 class QWidget;
 
 namespace phial::qt
@@ -15,8 +16,13 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect);
 /// Place and all the rest, for a fresh widget.
 void applyFrame(QWidget& widget, Control& control);
 
-/// The widget's place: the control's rectangle with its edges rounded to pixels.
+/// The control's rectangle with its edges rounded to pixels.
+QRect pixelPlace(const Control& control);
+/// Puts the widget there.
 void applyGeometry(QWidget& widget, const Control& control);
+
+/// Tells a form's window that the widget lets through another part of it.
+void tellShape(QWidget& widget);
 
 /// Gives the field in a holder the names of the holder, since that is what screen readers come to.
 void passNames(const QWidget& holder, QWidget& field);
