@@ -43,6 +43,7 @@ public:
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     Container* container() override { return &surface_.children(); }
+    bool keepsOwnSize() const override { return true; }
     PartRole role() const override { return PartRole::StaticText; }
     /// Such as "Note 2 plus" or "Mark 2 plus", in the language in force.
     String accessibleText() const override;

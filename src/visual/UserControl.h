@@ -44,6 +44,9 @@ public:
     /// controls call it themselves, too.
     virtual void paint() = 0;
 
+    /// Whether its size is its own, whatever it is given; a layout leaves it that size.
+    virtual bool keepsOwnSize() const { return false; }
+
     /// The parts that can be named, in reading order. Empty: the control itself is the only part.
     virtual std::vector<NamedPart> parts() const { return {}; }
     /// Does the part's action, as a click would.

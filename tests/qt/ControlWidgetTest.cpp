@@ -260,6 +260,131 @@ TEST_F(ControlWidgetTest, AControlOfItsOwnSizeKeepsItInALayout)
     EXPECT_EQ(mark->frame().pixelRectangle().width, own.width);
     EXPECT_EQ(mark->frame().pixelRectangle().height, own.height);
     EXPECT_EQ(widget->sizeHint(), QSizeF(own.width, own.height).toSize());
+    EXPECT_EQ(widget->size(), widget->sizeHint()) << "the layout leaves it its size";
+    const PixelRectangle place = mark->frame().pixelRectangle();
+    EXPECT_EQ(QPointF(place.left, place.top), widget->pos()) << "and tells it its place";
+}
+
+/// A control that decides on its size when it is told to, and notes what it lives through.
+class Balloon final : public UserControl
+{
+public:
+    StringView typeName() const override { return u"ctl_Balloon"; }
+    MemberTable members() const override { return {}; }
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    void shown() override { diary.push_back("shown"); }
+    void hidden() override { diary.push_back("hidden"); }
+    void ended() override { diary.push_back("ended"); }
+    void resized() override
+    {
+        surface_.resized();
+        diary.push_back("resized");
+        if (least > 0 && frame_.Width() < least) {
+            frame_.Width(least);
+        }
+    }
+    void paint() override {}
+
+    std::vector<std::string> diary;
+    double least = 0;
+
+private:
+    ControlFrame frame_{*this};
+    PaintSurface surface_{*this};
+};
+
+/// A window of plain Qt with a layout, over which a control floats.
+class FloatingControl : public ControlWidgetTest
+{
+protected:
+    FloatingControl()
+    {
+        auto* layout = new QVBoxLayout(&window_);
+        layout->addWidget(new ControlWidget(pictureBox(50, 50)));
+        window_.resize(400, 300);
+    }
+
+    ControlWidget& floating()
+    {
+        balloon_->frame().pixelRectangle({20, 30, 100, 60});
+        return *new ControlWidget(balloon_, &window_, ControlWidget::Placement::Floating);
+    }
+
+    QWidget window_;
+    const std::shared_ptr<Balloon> balloon_ = makeControl<Balloon>();
+};
+
+TEST_F(FloatingControl, StandsWhereItsOwnFrameSays)
+{
+    const QWidget& widget = floating();
+    window_.show();
+    EXPECT_EQ(widget.geometry(), QRect(20, 30, 100, 60));
+    balloon_->Move(40.4, 50, 200, 80.2);
+    EXPECT_EQ(widget.geometry(), QRect(40, 50, 200, 80));
+    window_.resize(600, 500);
+    QApplication::processEvents();
+    EXPECT_EQ(widget.geometry(), QRect(40, 50, 200, 80)) << "no layout moves it";
+    EXPECT_EQ(balloon_->Left(), 40.4) << "nor rounds its place";
+}
+
+TEST_F(FloatingControl, IsShownAndHiddenAsItSaysAndHearsOfIt)
+{
+    balloon_->Visible(false);
+    const QWidget& widget = floating();
+    window_.show();
+    EXPECT_FALSE(widget.isVisible());
+    balloon_->diary.clear();
+    balloon_->Visible(true);
+    EXPECT_TRUE(widget.isVisible());
+    balloon_->Visible(false);
+    EXPECT_EQ(balloon_->diary, (std::vector<std::string>{"shown", "hidden"}));
+    window_.hide();
+    window_.show();
+    EXPECT_FALSE(widget.isVisible());
+    EXPECT_EQ(balloon_->diary.size(), 2U);
+}
+
+TEST_F(FloatingControl, FindsTheControlsOfItsWindow)
+{
+    QWidget& widget = floating();
+    widget.setObjectName("bub_Help");
+    window_.show();
+    ASSERT_TRUE(balloon_->frame().Parent());
+    EXPECT_EQ(balloon_->frame().Parent()->controlCount(), 2U);
+    EXPECT_EQ(balloon_->NAME(), u"bub_Help");
+}
+
+TEST_F(FloatingControl, FollowsWhatTheProgramDoesToItsWidget)
+{
+    QWidget& widget = floating();
+    window_.show();
+    widget.move(5, 6);
+    EXPECT_EQ(balloon_->frame().pixelRectangle(), (PixelRectangle{5, 6, 100, 60}));
+    widget.resize(150, 70);
+    EXPECT_EQ(balloon_->frame().pixelRectangle(), (PixelRectangle{5, 6, 150, 70}));
+    widget.hide();
+    EXPECT_FALSE(balloon_->Visible());
+    widget.show();
+    EXPECT_TRUE(balloon_->Visible());
+    window_.hide();
+    EXPECT_TRUE(balloon_->Visible()) << "it is the window that has gone";
+}
+
+TEST_F(FloatingControl, KeepsTheSizeOnWhichItInsists)
+{
+    QWidget& widget = floating();
+    window_.show();
+    balloon_->least = 90;
+    widget.resize(40, 40);
+    EXPECT_EQ(balloon_->Width(), 90);
+    EXPECT_EQ(widget.size(), QSize(90, 40));
+}
+
+TEST_F(FloatingControl, EndsWithItsWidget)
+{
+    delete &floating();
+    EXPECT_EQ(balloon_->diary.back(), "ended");
 }
 
 TEST_F(ControlWidgetTest, TheSpaceBarPressesThePartThatTheArrowsHaveReached)

@@ -35,7 +35,7 @@ constexpr Maker NativeMakers[] = {
 QWidget* makeControlWidget(const ControlPtr& control, QWidget& holder)
 {
     if (auto painted = std::dynamic_pointer_cast<UserControl>(control)) {
-        return new ControlWidget(std::move(painted), &holder, ControlWidget::Placement::ByControl);
+        return new ControlWidget(std::move(painted), &holder, ControlWidget::Placement::OnForm);
     }
     for (const Maker make : NativeMakers) {
         if (QWidget* widget = make(control, holder)) {

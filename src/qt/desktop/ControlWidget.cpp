@@ -20,6 +20,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPalette>
+#include <QScopedValueRollback>
 #include <QWheelEvent>
 
 namespace phial::qt
@@ -61,11 +62,15 @@ ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* pare
     if (Container* inner = control_->container()) {
         children_ = std::make_unique<ContainerWidgets>(*inner, *this);
     }
-    if (!isForeign()) {
+    if (placement_ == Placement::ByLayout) {
+        setFocusPolicy(control_->frame().canFocus() ? Qt::StrongFocus : Qt::NoFocus);
+        takePolicy();
+    } else {
         applyFrame(*this, *control_);
+    }
+    if (!isForeign()) {
         return;
     }
-    setFocusPolicy(control_->frame().canFocus() ? Qt::StrongFocus : Qt::NoFocus);
     connect(this, &QObject::objectNameChanged, this,
             [this](const QString& name) { control_->frame().NAME(fromQt(name)); });
     findParent();
@@ -108,13 +113,10 @@ void ControlWidget::modelChanged(ControlAspect aspect)
         beginDrag();
         break;
     case ControlAspect::Geometry:
-        if (isForeign()) {
-            if (!following_) {
-                updateGeometry();
-            }
-            break;
+        if (!following_) {
+            takePlace();
         }
-        [[fallthrough]];
+        break;
     default:
         applyFrameAspect(*this, *control_, aspect);
         break;
@@ -149,16 +151,50 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/)
     });
 }
 
-void ControlWidget::resizeEvent(QResizeEvent* /*event*/)
+// The control's place has changed by itself.
+void ControlWidget::takePlace()
 {
-    if (!isForeign()) {
+    if (placement_ == Placement::ByLayout) {
+        takePolicy();
+        updateGeometry();
+    } else {
+        applyFrameAspect(*this, *control_, ControlAspect::Geometry);
+    }
+}
+
+// A layout leaves a control its size where that is its own; otherwise the policy is the program's.
+void ControlWidget::takePolicy()
+{
+    if (control_->keepsOwnSize()) {
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
+}
+
+// The widget's place has changed by the layout's or the program's hand.
+void ControlWidget::followWidget()
+{
+    if (!isForeign() || following_ || pixelPlace(*control_) == geometry()) {
         return;
     }
-    following_ = true;
-    dispatch([&] {
-        control_->frame().pixelRectangle({double(x()), double(y()), double(width()), double(height())});
-    });
-    following_ = false;
+    {
+        const QScopedValueRollback<bool> following(following_, true);
+        dispatch([&] {
+            control_->frame().pixelRectangle({double(x()), double(y()), double(width()), double(height())});
+        });
+    }
+    if (placement_ == Placement::Floating) {
+        applyGeometry(*this, *control_); // which may have taken another size
+    }
+}
+
+void ControlWidget::moveEvent(QMoveEvent* /*event*/)
+{
+    followWidget();
+}
+
+void ControlWidget::resizeEvent(QResizeEvent* /*event*/)
+{
+    followWidget();
 }
 
 void ControlWidget::showEvent(QShowEvent* event)
@@ -166,7 +202,10 @@ void ControlWidget::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     if (isForeign()) {
         findParent();
-        dispatch([&] { control_->shown(); });
+        dispatch([&] {
+            control_->frame().Visible(true);
+            control_->shown();
+        });
     }
 }
 
@@ -174,7 +213,10 @@ void ControlWidget::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
     if (isForeign()) {
-        dispatch([&] { control_->hidden(); });
+        dispatch([&] {
+            control_->frame().Visible(!isHidden()); // not when the window alone has gone
+            control_->hidden();
+        });
     }
 }
 

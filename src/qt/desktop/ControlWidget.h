@@ -26,6 +26,11 @@ class ContainerWidgets;
 ///     widget->setObjectName("lab_Term");
 ///     layout->addWidget(widget);
 ///
+/// The control follows the size that the layout gives it, unless its size is its own; then the layout leaves
+/// it that size. A control that floats, such as a speech bubble, stands in no layout, takes its parent
+/// widget's pixels as places, and is where, as large, and shown or hidden as its frame says; the program may
+/// move, resize and hide the widget as well.
+///
 /// The picture is painted at the screen's pixel ratio. A press where the control lets through what lies below
 /// goes there. The named parts of the control are shown to screen readers; the arrow keys go through those
 /// with an action, and the space bar does it.
@@ -34,9 +39,11 @@ class ControlWidget final : public QWidget
     Q_OBJECT
 
 public:
-    /// Who decides on place and size: the window's layout, which the control follows, or the control, which
-    /// stands on a form.
-    enum class Placement { ByLayout, ByControl };
+    enum class Placement {
+        ByLayout, ///< in a window of plain Qt, whose layout decides on place and size
+        Floating, ///< in such a window; the control decides
+        OnForm,   ///< on one of the system's forms; the control decides
+    };
 
     explicit ControlWidget(std::shared_ptr<UserControl> control, QWidget* parent = nullptr,
                            Placement placement = Placement::ByLayout);
@@ -56,6 +63,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -77,7 +85,10 @@ private:
 
     void modelChanged(ControlAspect aspect);
     void findParent();
-    bool isForeign() const { return placement_ == Placement::ByLayout; }
+    bool isForeign() const { return placement_ != Placement::OnForm; }
+    void takePlace();
+    void followWidget();
+    void takePolicy();
     QWidget* widgetBelow(QPoint place) const;
     bool passOn(QMouseEvent& event);
     void press(const QMouseEvent& event, bool second);
@@ -94,7 +105,7 @@ private:
     std::optional<std::size_t> currentPart_;
     bool pressed_ = false;
     bool secondPress_ = false;
-    bool following_ = false; ///< the control's size is being set to the widget's
+    bool following_ = false; ///< the control's place is being set to the widget's
 };
 
 } // namespace phial::qt
