@@ -17,7 +17,8 @@ class CoreDialogs
 public:
     virtual ~CoreDialogs() = default;
 
-    /// An information box. `pIcon` is the path of a picture below the resources; empty for the usual sign.
+    /// An information box. `pIcon` is the path of a picture, below the resources' pictures where it does not
+    /// begin at a root; the usual sign stands in for one that is empty or leads to no picture.
     virtual void Info(StringView pText, StringView pTitle = {}, StringView pIcon = {}) = 0;
 
     virtual void Error(StringView pText, StringView pTitle = {}) = 0;

@@ -39,6 +39,13 @@ TEST_F(Cover, FillsTheScreenAlmostSolidInAnEmbeddedRun)
     EXPECT_EQ(outside.windows().translucencies(), expected);
 }
 
+TEST_F(Cover, StaysBehindTheProgram)
+{
+    start(u"EMBEDDED");
+    EXPECT_TRUE(cover()->form().backdrop());
+    EXPECT_EQ(visualHost().screen().ActiveForm(), nullptr);
+}
+
 TEST_F(Cover, LetsTheActiveFormComeBackInFront)
 {
     const auto own = std::make_shared<Form>(u"frm_Own");

@@ -1,4 +1,4 @@
-#include "DesktopSession.h"
+#include "DesktopRun.h"
 #include "qt/desktop/DesktopDialogs.h"
 #include "qt/desktop/ShotBook.h"
 #include "qt/desktop/ShotDialogs.h"
@@ -55,6 +55,50 @@ TEST_F(DialogsTest, AQuestionIsAnsweredInTheLanguageOfTheSession)
     SessionState::current().locale().language = English;
     whenShown([](QDialog& box) { button(box, QStringLiteral("No")).click(); });
     EXPECT_EQ(dialogs_.YesNo(u"Go on?", {}), DialogAnswer::No);
+}
+
+class RunDialogsTest : public DesktopRun
+{
+protected:
+    /// The icon of the information box that comes up with it, as it is painted.
+    QImage shownIcon(StringView icon)
+    {
+        QImage shown;
+        QTimer::singleShot(0, qApp, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            shown = box->iconPixmap().toImage();
+            box->close();
+        });
+        DesktopDialogs().Info(u"Willkommen!", {}, icon);
+        return shown;
+    }
+
+    void saveIcon(const char* place, Qt::GlobalColor colour) const
+    {
+        QImage icon(32, 32, QImage::Format_RGB32);
+        icon.fill(colour);
+        const auto file = folder().native() / place;
+        std::filesystem::create_directories(file.parent_path());
+        ASSERT_TRUE(icon.save(QString::fromStdU16String(file.u16string())));
+    }
+};
+
+TEST_F(RunDialogsTest, AnIconLiesBelowTheResourcesPicturesWhateverTheCurrentFolderIs)
+{
+    saveIcon("tree/Resources/gfx/ico/32/Sign.png", Qt::red);
+    saveIcon("elsewhere/Ico/32/Sign.png", Qt::blue);
+    SessionState::current().currentFolder().change(folder().path() + u"elsewhere\\");
+    EXPECT_EQ(shownIcon(u"Ico\\32\\Sign.png").pixelColor(5, 5), QColor(Qt::red));
+    EXPECT_EQ(shownIcon(folder().path() + u"elsewhere\\Ico\\32\\Sign.png").pixelColor(5, 5),
+              QColor(Qt::blue));
+}
+
+TEST_F(RunDialogsTest, TheUsualSignStandsInForAnIconThatIsNotThere)
+{
+    const QImage usual = shownIcon({});
+    EXPECT_FALSE(usual.isNull());
+    EXPECT_EQ(shownIcon(u"Ico\\32\\Missing.ico"), usual);
 }
 
 TEST_F(DialogsTest, ClosingAQuestionAnswersNo)

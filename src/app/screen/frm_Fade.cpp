@@ -11,6 +11,7 @@ frm_Fade::frm_Fade() : form_(std::make_shared<Form>(u"frm_Fade"))
 {
     form_->Caption(u"Form1");
     form_->BackColor(RGB(0, 106, 181));
+    form_->backdrop(true);
     onLoad_ = form_->Load.connect([this] { load(); });
 }
 

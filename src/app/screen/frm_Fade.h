@@ -10,7 +10,8 @@ namespace phial
 class Form;
 
 /// The cover behind a program that another one has embedded: a form without controls that fills the screen
-/// and lets a little of the desktop through. Made and kept by the session.
+/// and lets a little of the desktop through. It stays behind the program's windows and the program ends
+/// without waiting for it. Made and kept by the session.
 class frm_Fade
 {
 public:

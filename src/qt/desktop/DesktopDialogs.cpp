@@ -1,7 +1,11 @@
 #include "qt/desktop/DesktopDialogs.h"
 
+#include "app/cls_App.h"
+#include "app/cls_AppURL.h"
+#include "app/sys_Global.h"
 #include "core/CorePathText.h"
 #include "core/NativePath.h"
+#include "core/RuntimeError.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/BoxParts.h"
 #include "qt/desktop/SystemBox.h"
@@ -40,6 +44,19 @@ constexpr BoxText Save{u"Speichern", u"Save"};
 constexpr BoxText LookIn{u"Ordner:", u"Folder:"};
 constexpr BoxText FileName{u"Dateiname:", u"File name:"};
 constexpr BoxText FileType{u"Dateityp:", u"File type:"};
+
+// Null for none and for a file that is no picture.
+QPixmap iconOfBox(StringView path)
+{
+    if (path.empty()) {
+        return {};
+    }
+    String folder;
+    if (CorePathText::Drive(path).empty() && !path.starts_with(u'\\')) {
+        ignoringErrors([&] { folder = QVAPP()->URL()->RESOURCEGFX(); });
+    }
+    return QPixmap(toQt(nativePath(folder + String(path)).u16string()));
+}
 
 QPushButton* addButton(QMessageBox& box, const BoxText& text, QMessageBox::ButtonRole role)
 {
@@ -96,7 +113,7 @@ void DesktopDialogs::Info(StringView pText, StringView pTitle, StringView pIcon)
 {
     QMessageBox box(QApplication::activeWindow());
     prepare(box, pText, pTitle);
-    const QPixmap icon(pIcon.empty() ? QString() : toQt(nativePath(pIcon).u16string()));
+    const QPixmap icon = iconOfBox(pIcon);
     if (icon.isNull()) {
         box.setIcon(QMessageBox::Information);
     } else {

@@ -5,7 +5,6 @@
 #include "core/SessionState.h"
 #include "qt/base/Processes.h"
 #include "qt/base/QtText.h"
-#include "qt/desktop/FontCatalogue.h"
 #include "qt/desktop/PictureImage.h"
 #include "qt/desktop/WindowHandles.h"
 #include "visual/Form.h"
@@ -14,7 +13,7 @@
 
 #include <QCursor>
 #include <QDesktopServices>
-#include <QFontMetricsF>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QScreen>
@@ -30,7 +29,18 @@ namespace phial::qt
 namespace
 {
 
-constexpr double StandardDotsPerInch = 96;
+constexpr double PointsPerInch = 72;
+
+// The toolkit divides the zoom that the user has set out of the dots to an inch; on macOS the ratio is the
+// screen's nature and not the user's wish.
+double userZoom(const QScreen& screen)
+{
+#ifdef Q_OS_MACOS
+    return static_cast<void>(screen), 1;
+#else
+    return screen.devicePixelRatio();
+#endif
+}
 
 QRect placeOnScreen(WindowHandle handle)
 {
@@ -82,9 +92,19 @@ std::optional<std::int32_t> DesktopDisplay::TextHeight() const
     if (!screen) {
         return std::nullopt;
     }
-    const double height = QFontMetricsF(fontCatalogue().font(FontSpec())).height();
-    return static_cast<std::int32_t>(
-        std::lround(height * StandardDotsPerInch / screen->logicalDotsPerInch()));
+    const double dotsPerInch = screen->logicalDotsPerInch();
+    const QFont text = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    const double points =
+        text.pointSizeF() > 0 ? text.pointSizeF() : text.pixelSize() * PointsPerInch / dotsPerInch;
+    return textHeightOf(points, dotsPerInch * userZoom(*screen));
+}
+
+std::int32_t textHeightOf(double points, double dotsPerInch)
+{
+    constexpr double UsualText = 11 * 96;
+    constexpr double UsualHeight = 16;
+    constexpr double Hair = 1e-9;
+    return static_cast<std::int32_t>(std::ceil(points * dotsPerInch * UsualHeight / UsualText - Hair));
 }
 
 std::int32_t DesktopWindowOps::ScreenTop(WindowHandle pWindow) const

@@ -19,10 +19,13 @@ public:
     std::int32_t CursorY() const override;
     std::int32_t Width() const override;
     std::int32_t Height() const override;
-    /// Of the system's standard font, brought back to 96 dots to an inch: a desktop's own zoom makes no
-    /// difference, a larger font does.
+    /// Of the desktop's own text as the user has set it: by its font, by dots to an inch, or by a zoom.
     std::optional<std::int32_t> TextHeight() const override;
 };
+
+/// What CoreDisplay::TextHeight gives for text of that size. The largest text with which desktops come, 11
+/// points at 96 dots to an inch, counts as 16, so that whatever is larger has been made so.
+std::int32_t textHeightOf(double points, double dotsPerInch);
 
 class DesktopWindowOps final : public CoreWindowOps
 {
