@@ -54,6 +54,13 @@ public:
     const String& COPYRIGHT() const { return copyright_; }
     void COPYRIGHT(String value) { copyright_ = std::move(value); }
 
+    /// Web addresses of who makes the program and of the product, to which the same window leads. It shows no
+    /// link for one that is empty. Default: empty.
+    const String& makerAddress() const { return makerAddress_; }
+    void makerAddress(String value) { makerAddress_ = std::move(value); }
+    const String& productAddress() const { return productAddress_; }
+    void productAddress(String value) { productAddress_ = std::move(value); }
+
     /// Default: ID_SoundMode_User.
     enm_SoundMode SOUNDMODE() const { return soundMode_; }
     void SOUNDMODE(enm_SoundMode value) { soundMode_ = value; }
@@ -81,6 +88,8 @@ private:
     String name_ = u"QV Phial";
     String version_ = u"5.0";
     String copyright_ = u"Copyright (c) the QV Phial contributors";
+    String makerAddress_;
+    String productAddress_;
     enm_SoundMode soundMode_ = ID_SoundMode_User;
     bool sound_ = true;
     bool touchMode_ = false;

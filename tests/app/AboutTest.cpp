@@ -30,6 +30,8 @@ protected:
         config.NAME(u"Molmassen-Trainer");
         config.VERSION(u"5.1.2");
         config.COPYRIGHT(u"(c) Somebody");
+        config.makerAddress(u"https://maker.example/");
+        config.productAddress(u"https://maker.example/phial/");
     }
 
     /// Opens the box and lets `look` see it before it is closed.
@@ -123,12 +125,53 @@ TEST_F(About, EachLinkOpensItsSite)
     open([this](Form& form) {
         headless::click(*form.control<Label>(u"lab_TDR"));
         headless::click(*form.control<Label>(u"lab_Hyperlink"));
-        ASSERT_EQ(outside.shell().opened().size(), 2U);
-        EXPECT_THAT(outside.shell().opened(), ::testing::Each(::testing::Truly([](const String& address) {
-                        return address.starts_with(u"https://");
-                    })));
-        EXPECT_NE(outside.shell().opened()[0], outside.shell().opened()[1]);
+        EXPECT_THAT(outside.shell().opened(),
+                    ElementsAre(u"https://maker.example/", u"https://maker.example/phial/"));
     });
+}
+
+TEST_F(About, ShowsNoLinkWithoutAnAddress)
+{
+    QVAPP()->CONFIG()->makerAddress(u"");
+    QVAPP()->CONFIG()->productAddress(u"");
+    open([this](Form& form) {
+        const auto maker = form.control<Label>(u"lab_TDR");
+        EXPECT_TRUE(maker->Visible()) << "the name stays";
+        EXPECT_FALSE(maker->Font()->Underline());
+        EXPECT_EQ(maker->ForeColor(), form.control<Label>(u"Descript", 0)->ForeColor());
+        EXPECT_FALSE(maker->frame().TabStop());
+        headless::click(*maker);
+        EXPECT_FALSE(form.control<Label>(u"lab_Hyperlink")->Visible());
+        EXPECT_FALSE(form.control<Label>(u"lab_Hyperlink")->frame().TabStop());
+        EXPECT_FALSE(form.control<Label>(u"Descript", 1)->Visible());
+        EXPECT_TRUE(outside.shell().opened().empty());
+    });
+}
+
+TEST_F(About, ShowsTheOneLinkThatHasAnAddress)
+{
+    QVAPP()->CONFIG()->makerAddress(u"");
+    open([](Form& form) {
+        EXPECT_FALSE(form.control<Label>(u"lab_TDR")->Font()->Underline());
+        EXPECT_TRUE(form.control<Label>(u"lab_Hyperlink")->Visible());
+        EXPECT_TRUE(form.control<Label>(u"Descript", 1)->Visible());
+    });
+    QVAPP()->CONFIG()->makerAddress(u"https://maker.example/");
+    QVAPP()->CONFIG()->productAddress(u"");
+    open([](Form& form) {
+        EXPECT_TRUE(form.control<Label>(u"lab_TDR")->Font()->Underline());
+        EXPECT_NE(form.control<Label>(u"lab_TDR")->ForeColor(),
+                  form.control<Label>(u"Descript", 0)->ForeColor());
+        EXPECT_FALSE(form.control<Label>(u"lab_Hyperlink")->Visible());
+        EXPECT_FALSE(form.control<Label>(u"Descript", 1)->Visible());
+    });
+}
+
+TEST_F(About, AProgramHasNoAddressesUnlessItSetsThem)
+{
+    const cls_AppConfig config;
+    EXPECT_EQ(config.makerAddress(), u"");
+    EXPECT_EQ(config.productAddress(), u"");
 }
 
 TEST_F(About, ALinkThatCannotBeOpenedIsPassedOverInSilence)

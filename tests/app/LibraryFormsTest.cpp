@@ -60,6 +60,7 @@ protected:
         config.NAME(u"Molmasse");
         config.VERSION(u"5.1.2");
         config.COPYRIGHT(u"(c) Somebody");
+        config.productAddress(u"https://maker.example/phial/"); // else its link is not shown
         makeFolder(u"installed\\apps\\Molmasse");
         goTo(path(u"installed\\apps\\Molmasse"));
         LNG()->CURRENT(ID_Language_German);

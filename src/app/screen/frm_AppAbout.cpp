@@ -23,9 +23,6 @@ namespace layout = app_about_layout;
 namespace
 {
 
-constexpr StringView MakerSite = u"https://www.qv-brunnhof.example/";
-constexpr StringView ProductSite = u"https://www.qv-brunnhof.example/phial/";
-
 constexpr StringView HandUp = u"hand up.ico";
 constexpr StringView HandClosed = u"hand closed.ico";
 
@@ -102,9 +99,22 @@ void frm_AppAbout::style()
         text->WordWrap(false);
         text->AutoSize(true);
     }
-    for (const auto* link : {u"lab_TDR", u"lab_Hyperlink"}) {
-        label(link)->frame().canFocus(true);
-    }
+    showLinks();
+}
+
+// Without an address the maker's name is plain text, and the line about the product falls away.
+void frm_AppAbout::showLinks()
+{
+    const auto& config = *QVAPP()->CONFIG();
+    const bool hasMaker = !config.makerAddress().empty();
+    const bool hasProduct = !config.productAddress().empty();
+    const auto maker = label(u"lab_TDR");
+    maker->Font()->Underline(hasMaker);
+    maker->ForeColor(hasMaker ? Blue : TextColour);
+    maker->frame().canFocus(hasMaker);
+    label(u"lab_Hyperlink")->frame().canFocus(hasProduct);
+    label(u"lab_Hyperlink")->Visible(hasProduct);
+    label(u"Descript", 1)->Visible(hasProduct);
 }
 
 void frm_AppAbout::connect()
@@ -118,8 +128,8 @@ void frm_AppAbout::connect()
         form_->control<ctl_CmdBar>(u"ctl_CmdBar1")->BUTTON.connect([this](std::int32_t, const String&) {
             form_->Unload();
         });
-    connections_ += label(u"lab_TDR")->Click.connect([this] { open(MakerSite); });
-    connections_ += hyperlink->Click.connect([this] { open(ProductSite); });
+    connections_ += label(u"lab_TDR")->Click.connect([this] { open(QVAPP()->CONFIG()->makerAddress()); });
+    connections_ += hyperlink->Click.connect([this] { open(QVAPP()->CONFIG()->productAddress()); });
     connections_ +=
         hyperlink->MouseDown.connect([this](const PointerEvent&) { hyperlinkCursor(HandClosed); });
     connections_ += hyperlink->MouseUp.connect([this](const PointerEvent&) { hyperlinkCursor(HandUp); });
@@ -185,6 +195,9 @@ void frm_AppAbout::hyperlinkCursor(StringView file)
 
 void frm_AppAbout::open(StringView address)
 {
+    if (address.empty()) {
+        return;
+    }
     coreRoot().CoreSystem().ShellOpen(form_->hWnd(), address);
 }
 

@@ -17,7 +17,8 @@ struct KeyEvent;
 /// and where more is to be read, and where it runs. Made anew for each time it is shown, see
 /// cls_AppDialog::ABOUT.
 ///
-/// Its links open in the browser; they can be reached by the Tab key. Escape closes like the button.
+/// Its links lead to the addresses of the settings and open in the browser; they can be reached by the Tab
+/// key. What has no address is no link. Escape closes like the button.
 class frm_AppAbout
 {
 public:
@@ -36,6 +37,7 @@ public:
 private:
     void build();
     void style();
+    void showLinks();
     void connect();
     void load();
     void placeLinks();
