@@ -2,6 +2,7 @@
 
 #include "app/FormTranslation.h"
 #include "app/Settings.h"
+#include "core/CoreMachine.h"
 #include "core/CoreRegistry.h"
 #include "core/CoreRoot.h"
 #include "core/CoreText.h"
@@ -37,17 +38,34 @@ StringView stored(enm_LanguageC choice)
     return {};
 }
 
-/// The user's language as the desktop names it in the environment: German is "de", alone or with a country.
-bool systemSpeaksGerman()
+/// Whether a locale's name is that of the language, alone or with a country.
+bool names(StringView locale, StringView language)
 {
-    const Environment& environment = *SessionState::current().platform().environment;
-    for (const StringView name : {u"LC_ALL", u"LC_MESSAGES", u"LANG"}) {
-        const String value = environment.variable(name);
-        if (!value.empty()) {
-            return equalsIgnoringCase(value.substr(0, value.find_first_of(u"_.@-")), u"de");
+    return equalsIgnoringCase(locale.substr(0, locale.find_first_of(u"_.@-")), language);
+}
+
+/// The first of the languages, divided by ":", that this system speaks.
+bool prefersGerman(StringView languages)
+{
+    for (const StringView locale : split(languages, u":")) {
+        if (names(locale, u"de") || names(locale, u"en")) {
+            return names(locale, u"de");
         }
     }
     return false;
+}
+
+/// The user's language: as the environment names it, and where it names none as the desktop does.
+bool systemSpeaksGerman()
+{
+    const Platform& platform = SessionState::current().platform();
+    for (const StringView name : {u"LANGUAGE", u"LC_ALL", u"LC_MESSAGES", u"LANG"}) {
+        const String value = platform.environment->variable(name);
+        if (!value.empty()) {
+            return prefersGerman(value);
+        }
+    }
+    return platform.machine && platform.machine->UserLanguage() == LanguageGerman;
 }
 
 /// Asks each open form to translate itself. The list is copied, since a form may open or close others.

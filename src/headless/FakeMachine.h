@@ -20,6 +20,9 @@ public:
     String OSVersion() const override { return osVersion_; }
     void OSVersion(String value) { osVersion_ = std::move(value); }
 
+    std::int32_t UserLanguage() const override { return userLanguage_; }
+    void UserLanguage(std::int32_t value) { userLanguage_ = value; }
+
     /// "ID-1", "ID-2" and so on.
     String NewUniqueID(std::int32_t /*pKind*/, std::int32_t /*pOptions*/) override
     {
@@ -30,6 +33,7 @@ private:
     String userName_ = u"pupil";
     String computerName_ = u"DESK-1";
     String osVersion_ = u"6.1";
+    std::int32_t userLanguage_ = 0;
     int lastId_ = 0;
 };
 

@@ -31,6 +31,44 @@ TEST_F(Language, AsksTheVariablesInTheirOrder)
     EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English);
 }
 
+TEST_F(Language, TakesTheFirstLanguageThatItSpeaksFromTheUsersOwnList)
+{
+    variable(u"LC_ALL", u"en_GB.UTF-8");
+    for (const StringView list : {u"de", u"de_CH:en", u"fr:de:en", u"nds:de_AT"}) {
+        variable(u"LANGUAGE", String(list));
+        EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_German) << toUtf8(list);
+    }
+    variable(u"LC_ALL", u"de_DE.UTF-8");
+    for (const StringView list : {u"en", u"en_US:de", u"fr", u"fr:en_GB:de", u":"}) {
+        variable(u"LANGUAGE", String(list));
+        EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English) << toUtf8(list);
+    }
+    variable(u"LANGUAGE", u"");
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_German);
+}
+
+TEST_F(Language, AsksTheDesktopWhereTheEnvironmentNamesNone)
+{
+    outside.machine().UserLanguage(LanguageGerman);
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_German);
+    outside.machine().UserLanguage(LanguageEnglish);
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English);
+    outside.machine().UserLanguage(0);
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English);
+    outside.machine().UserLanguage(LanguageGerman);
+    variable(u"LANG", u"fr_FR.UTF-8");
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English);
+}
+
+TEST_F(Language, SpeaksEnglishOnAMachineThatTellsNothing)
+{
+    session.reset();
+    Platform bare = outside.platform();
+    bare.machine = nullptr;
+    session.emplace(bare);
+    EXPECT_EQ(cls_Language().EFFECTIVE(), ID_Language_English);
+}
+
 TEST_F(Language, TakesNoOtherLanguageThatBeginsAlikeForGerman)
 {
     variable(u"LANG", u"den_CA");

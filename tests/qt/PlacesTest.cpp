@@ -1,4 +1,5 @@
 #include "ScopedVariable.h"
+#include "core/Locale.h"
 #include "qt/base/QtEnvironment.h"
 #include "qt/base/QtFolders.h"
 #include "qt/base/QtMachine.h"
@@ -81,6 +82,21 @@ TEST(QtMachine, KnowsTheUser)
     const ScopedVariable windowsName("USERNAME", {});
     const ScopedVariable name("USER", "anna");
     EXPECT_EQ(QtMachine().UserName(), u"anna");
+}
+
+TEST(QtMachine, KnowsInWhichLanguageTheDesktopSpeaks)
+{
+    const ScopedVariable language("LANGUAGE", {});
+    const ScopedVariable all("LC_ALL", {});
+    const ScopedVariable messages("LC_MESSAGES", {});
+    const auto languageFor = [](const char* value) {
+        const ScopedVariable lang("LANG", value);
+        return QtMachine().UserLanguage();
+    };
+    EXPECT_EQ(languageFor("de_AT.UTF-8"), LanguageGerman);
+    EXPECT_EQ(languageFor("en_GB.UTF-8"), LanguageEnglish);
+    EXPECT_EQ(languageFor("fr_FR.UTF-8"), 0);
+    EXPECT_NE(languageFor(nullptr), LanguageGerman);
 }
 
 TEST(QtMachine, AnswersOneVersionOutsideOfWindows)

@@ -1,9 +1,11 @@
 #include "qt/base/QtMachine.h"
 
+#include "core/Locale.h"
 #include "qt/base/QtText.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QOperatingSystemVersion>
 #include <QSysInfo>
 #include <QUuid>
@@ -35,6 +37,19 @@ String QtMachine::OSVersion() const
 #else
     return u"6.1";
 #endif
+}
+
+std::int32_t QtMachine::UserLanguage() const
+{
+    const QStringList languages = QLocale::system().uiLanguages(); // the preferred one comes first
+    switch (languages.isEmpty() ? QLocale::C : QLocale(languages.constFirst()).language()) {
+    case QLocale::German:
+        return LanguageGerman;
+    case QLocale::English:
+        return LanguageEnglish;
+    default:
+        return 0;
+    }
 }
 
 String QtMachine::NewUniqueID(std::int32_t /*pKind*/, std::int32_t /*pOptions*/)
