@@ -52,6 +52,8 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    static Qt::WindowFlags flagsFor(const Form& form);
+
     void showAll();
     void show(FormAspect aspect);
     void showStyle();
@@ -65,6 +67,7 @@ private:
     void tellGeometry();
     void tellState();
     void arrange();
+    bool fillsScreen() const;
     QSize menuSize() const;
 
     std::shared_ptr<Form> form_;

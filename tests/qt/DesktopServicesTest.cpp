@@ -1,0 +1,35 @@
+#include "qt/desktop/DesktopServices.h"
+
+#include <gtest/gtest.h>
+
+using namespace phial::qt;
+
+namespace
+{
+
+TEST(TextHeight, IsSmallForTheTextWithWhichDesktopsCome)
+{
+    EXPECT_EQ(textHeightOf(11, 96), 16);
+    EXPECT_LE(textHeightOf(10, 96), 16);
+    EXPECT_LE(textHeightOf(9, 96), 16);
+    EXPECT_LE(textHeightOf(13, 72), 16) << "macOS";
+    EXPECT_GT(textHeightOf(9, 96), 0);
+}
+
+TEST(TextHeight, IsLargeForTextThatTheUserHasEnlarged)
+{
+    EXPECT_EQ(textHeightOf(9, 120), 17) << "a quarter more dots to an inch";
+    EXPECT_GE(textHeightOf(9, 144), 17);
+    EXPECT_GE(textHeightOf(12, 96), 17);
+    EXPECT_GE(textHeightOf(20, 96), 17);
+    EXPECT_EQ(textHeightOf(11.01, 96), 17) << "whatever is larger";
+}
+
+TEST(TextHeight, GrowsWithFontAndDotsAlike)
+{
+    EXPECT_EQ(textHeightOf(22, 96), 32);
+    EXPECT_EQ(textHeightOf(11, 192), 32);
+    EXPECT_EQ(textHeightOf(5.5, 96), 8);
+}
+
+} // namespace
