@@ -4,6 +4,7 @@
 #include "core/CoreValuePacker.h"
 #include "core/RuntimeError.h"
 #include "core/Variant.h"
+#include "master/CodePoints.h"
 
 #include <cmath>
 
@@ -18,16 +19,6 @@ constexpr char16_t Replacement = u'\uFFFD';
 bool isControl(char16_t unit)
 {
     return unit < u' ' || (unit >= u'\u007F' && unit <= u'\u009F') || unit == u'\u2028' || unit == u'\u2029';
-}
-
-bool isHighHalf(char16_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-bool isLowHalf(char16_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
 /// The beginning of a text, which never ends within a sign.

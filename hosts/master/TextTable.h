@@ -9,11 +9,12 @@
 namespace phial::master
 {
 
-/// Rows of texts in aligned columns, for a terminal. A cell that is too long ends in `…`.
+/// Rows of texts in aligned columns, for a terminal. What a cell holds stays in it: it is shown safely, on
+/// its own writing direction, and one that is too long ends in `…`.
 class TextTable
 {
 public:
-    /// In characters.
+    /// In columns of the terminal.
     static constexpr std::size_t MaxCell = 32;
 
     explicit TextTable(std::vector<String> header);
