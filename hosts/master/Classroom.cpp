@@ -1,12 +1,13 @@
 #include "master/Classroom.h"
 
+#include "core/NumberText.h"
 #include "core/RuntimeError.h"
 #include "master/Packages.h"
-#include "results/cls_DataScores.h"
 #include "server/cls_AppServerConfig.h"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace phial::master
 {
@@ -18,15 +19,29 @@ constexpr StringView Done = u"OK";
 constexpr StringView NoSense = u"ERROR";
 /// What stands in a rule for every module that no other rule names.
 constexpr StringView AnyModule;
-constexpr StringView NotInTheList = u"-1";
+
+AnswerText answerOf(StringView text)
+{
+    return std::make_shared<const String>(answerText(text));
+}
+
+void tellOfPoints(const Result& result, std::vector<NoticeCase>& rNotices)
+{
+    if (isImplausible(result.points, result.pointsMax)) {
+        rNotices.push_back(
+            {Notice::ImplausiblePoints,
+             {result.sender.screenName, plainText(result.points, u'.'), plainText(result.pointsMax, u'.')}});
+    }
+}
 
 } // namespace
 
-/// One kind of message and what answers it.
+/// One kind of message and what answers it: at once, or when the class book has done it.
 struct Classroom::Rule {
     StringView module;
     StringView command;
-    String (Classroom::*answer)(const Message&);
+    String (Classroom::*atOnce)(const Message&) = nullptr;
+    StoreJob (Classroom::*later)(const Message&) = nullptr;
     /// Whether the message adds something, so that a repeated one must not be taken in again.
     bool once = false;
 };
@@ -41,11 +56,11 @@ std::span<const Classroom::Rule> Classroom::rules()
         Rule{u"SERVER", u"GAMEIDENT", &Classroom::gameIdent},
         Rule{u"SERVER", u"PACK", &Classroom::settingsFor},
         Rule{u"PROPERTIES", u"GET", &Classroom::property},
-        Rule{u"EVENT", u"ADD", &Classroom::addEvent, true},
-        Rule{u"RESULTS", u"SUBMIT", &Classroom::submitResult, true},
-        Rule{u"RESULTS", u"GET", &Classroom::scores},
-        Rule{AnyModule, u"GET", &Classroom::scores},
-        Rule{AnyModule, u"SUBMIT", &Classroom::submitScore, true},
+        Rule{u"EVENT", u"ADD", nullptr, &Classroom::addEvent, true},
+        Rule{u"RESULTS", u"SUBMIT", nullptr, &Classroom::submitResult, true},
+        Rule{u"RESULTS", u"GET", nullptr, &Classroom::scores},
+        Rule{AnyModule, u"GET", nullptr, &Classroom::scores},
+        Rule{AnyModule, u"SUBMIT", nullptr, &Classroom::submitScore, true},
     };
     return Table;
 }
@@ -62,70 +77,86 @@ const Classroom::Rule* Classroom::ruleFor(const WireRequest& request)
     return rule == table.end() ? nullptr : &*rule;
 }
 
-Classroom::Classroom(MasterStore& store, const Clock& clock)
-    : store_(store), clock_(clock), app_(store.app()), settings_(store), highscores_(store, settings_.all())
+Classroom::Classroom(StoreDesk& desk, const Clock& clock, Notices& notices, RoomState room,
+                     const std::vector<LogOn>& logOns, std::size_t pupilsOfComputer)
+    : desk_(desk), clock_(clock), notices_(notices), room_(std::move(room)), roster_(pupilsOfComputer)
 {
-    takeUpLogOns();
+    desk_.onNewRoomState([this](const RoomState& state) { room_ = state; });
+    const Moment oldest{clock_.moment().days - Roster::GoneAfter};
+    for (const LogOn& logOn : logOns) {
+        if (logOn.since >= oldest) {
+            roster_.logOn(logOn);
+        }
+    }
 }
 
-String Classroom::answer(const Envelope& envelope, StringView text)
+void Classroom::receive(const Envelope& envelope, StringView text, Reply reply)
 {
     const Moment now = clock_.moment();
     roster_.hear(envelope.id.sender, now);
     const auto request = parseRequest(text);
-    if (!request) {
-        return answerText(NoSense);
-    }
-    const Rule* rule = ruleFor(*request);
+    const Rule* rule = request ? ruleFor(*request) : nullptr;
     if (rule == nullptr) {
-        return answerText(NoSense);
+        reply(answerOf(NoSense));
+        return;
     }
     const Message message{envelope, *request, now};
     try {
-        return rule->once ? answerOnce(*rule, message) : answerText((this->*rule->answer)(message));
-    } catch (const RuntimeError&) {
-        return answerText(NoSense); // the package is none of this message's
+        if (rule->atOnce != nullptr) {
+            reply(answerOf((this->*rule->atOnce)(message)));
+            return;
+        }
+        StoreJob job = (this->*rule->later)(message);
+        job.at = now;
+        if (rule->once) {
+            job.once = envelope.id;
+        }
+        handOn(std::move(job), text.size() * sizeof(char16_t), std::move(reply));
+    } catch (const RuntimeError& error) {
+        tellWhyRefused(message, error); // the package is none of this message's
+        reply(answerOf(NoSense));
     }
 }
 
-String Classroom::answerOnce(const Rule& rule, const Message& message)
+void Classroom::handOn(StoreJob job, std::size_t bytes, Reply reply)
 {
-    const FrameId& id = message.envelope.id;
-    if (auto given = store_.answerTo(id)) {
-        return *std::move(given);
-    }
-    String answer = answerText((this->*rule.answer)(message));
-    store_.keepAnswer(id, answer, message.at);
-    return answer;
+    desk_.add(std::move(job), bytes, [reply = std::move(reply)](const JobOutcome& outcome) {
+        reply(outcome.answer ? outcome.answer : answerOf(NoSense));
+    });
 }
 
-void Classroom::commit()
+void Classroom::tellWhyRefused(const Message& message, const RuntimeError& error)
 {
-    highscores_.store();
-    store_.commit();
-}
-
-void Classroom::undo()
-{
-    store_.rollBack();
-    highscores_.forget();
-    app_ = store_.app();
-    settings_.load();
+    const bool isImpossible = error.Number() == static_cast<std::int32_t>(ErrorNumber::Overflow);
+    notices_.tell({isImpossible ? Notice::ImpossiblePoints : Notice::NoPackage, {message.envelope.address}});
 }
 
 void Classroom::forgetOld()
 {
-    const double now = clock_.moment().days;
-    store_.forgetAnswers(Moment{now - AnswersKept}, MaxAnswers);
-    store_.forgetLogOns(Moment{now - Roster::GoneAfter});
-    store_.commit();
+    const auto isMore = std::make_shared<bool>(false);
+    StoreJob job;
+    job.work = [isMore, now = clock_.moment()](ClassBook& book, auto&) -> AnswerText {
+        *isMore = book.forgetOld(now);
+        return nullptr;
+    };
+    desk_.add(std::move(job), 0, [this, isMore](const JobOutcome& outcome) {
+        if (outcome.isDone && *isMore) {
+            forgetOld(); // those who have come meanwhile go first
+        }
+    });
 }
 
-void Classroom::chooseApp(StringView app)
+void Classroom::lookForChanges()
 {
-    String chosen = cleaned(app, MaxAppLength);
-    store_.keepApp(chosen);
-    app_ = std::move(chosen);
+    if (std::exchange(isLooking_, true)) {
+        return;
+    }
+    StoreJob job;
+    job.work = [](ClassBook& book, auto&) -> AnswerText {
+        book.lookForChanges();
+        return nullptr;
+    };
+    desk_.add(std::move(job), 0, [this](const JobOutcome&) { isLooking_ = false; });
 }
 
 String Classroom::settingsText(const MasterPlace& place) const
@@ -135,7 +166,7 @@ String Classroom::settingsText(const MasterPlace& place) const
     config.SERVERIP(place.address);
     config.SERVERPORT(place.port);
     config.SERVERUDP(place.udpPort);
-    config.SETTINGS(settings_.handedOut());
+    config.SETTINGS(room_.settings.handedOut());
     return config.PACK();
 }
 
@@ -144,10 +175,12 @@ String Classroom::logOn(const Message& message)
     const Envelope& envelope = message.envelope;
     const LogOn logOn{envelope.id.sender, cleaned(message.request.package, MaxNameLength), envelope.address,
                       message.at};
-    for (const std::uint64_t replaced : roster_.logOn(logOn)) {
-        store_.forgetLogOn(replaced);
-    }
-    store_.keepLogOn(logOn);
+    StoreJob job;
+    job.work = [logOn, replaced = roster_.logOn(logOn)](ClassBook& book, auto&) -> AnswerText {
+        book.keepLogOn(logOn, replaced);
+        return nullptr;
+    };
+    desk_.add(std::move(job), 0, {});
     return u"LOGON:OK";
 }
 
@@ -155,7 +188,12 @@ String Classroom::logOff(const Message& message)
 {
     const std::uint64_t client = message.envelope.id.sender;
     roster_.logOff(client);
-    store_.forgetLogOn(client);
+    StoreJob job;
+    job.work = [client](ClassBook& book, auto&) -> AnswerText {
+        book.forgetLogOn(client);
+        return nullptr;
+    };
+    desk_.add(std::move(job), 0, {});
     return String(Done);
 }
 
@@ -166,12 +204,12 @@ String Classroom::keepAlive(const Message& /*message*/)
 
 String Classroom::mode(const Message& /*message*/)
 {
-    return app_.empty() ? u"0" : u"1";
+    return room_.app.empty() ? u"0" : u"1";
 }
 
 String Classroom::gameIdent(const Message& /*message*/)
 {
-    return app_.empty() ? String(NoSense) : app_;
+    return room_.app.empty() ? String(NoSense) : room_.app;
 }
 
 String Classroom::settingsFor(const Message& message)
@@ -181,46 +219,49 @@ String Classroom::settingsFor(const Message& message)
 
 String Classroom::property(const Message& message)
 {
-    const auto value = settings_.value(trimmed(message.request.package));
+    const auto value = room_.settings.value(trimmed(message.request.package));
     return value ? value->toText() : String(NoSense);
 }
 
-String Classroom::addEvent(const Message& message)
+StoreJob Classroom::addEvent(const Message& message)
 {
-    store_.addEvent(unpackEvent(message.request.package, message.at));
-    return String(Done);
+    StoreJob job;
+    job.work = [event = unpackEvent(message.request.package, message.at)](ClassBook& book, auto&) {
+        book.addEvent(event);
+        return answerOf(Done);
+    };
+    return job;
 }
 
-String Classroom::submitResult(const Message& message)
+StoreJob Classroom::submitResult(const Message& message)
 {
-    store_.addResult(unpackResult(message.request.package, message.at));
-    return String(Done);
+    StoreJob job;
+    job.work = [result = unpackResult(message.request.package, message.at)](
+                   ClassBook& book, std::vector<NoticeCase>& rNotices) {
+        book.addResult(result);
+        tellOfPoints(result, rNotices);
+        return answerOf(Done);
+    };
+    return job;
 }
 
-String Classroom::scores(const Message& message)
+StoreJob Classroom::submitScore(const Message& message)
 {
-    return highscores_.list(message.request.module)->DATA()->Pack();
+    StoreJob job;
+    job.work = [result = unpackResult(message.request.package, message.at), module = message.request.module,
+                address = message.envelope.address](ClassBook& book, std::vector<NoticeCase>& rNotices) {
+        const auto rank = book.submit(module, result, address, rNotices);
+        tellOfPoints(result, rNotices);
+        return rank ? answerOf(*rank) : nullptr;
+    };
+    return job;
 }
 
-String Classroom::submitScore(const Message& message)
+StoreJob Classroom::scores(const Message& message)
 {
-    const Result result = unpackResult(message.request.package, message.at);
-    const auto rank = highscores_.submit(message.request.module, result);
-    if (!rank) {
-        return String(NotInTheList);
-    }
-    store_.addSubmission(HighscoreLists::nameOf(message.request.module), result, *rank);
-    return *rank;
-}
-
-void Classroom::takeUpLogOns()
-{
-    const Moment oldest{clock_.moment().days - Roster::GoneAfter};
-    for (const LogOn& logOn : store_.logOns()) {
-        if (logOn.since >= oldest) {
-            roster_.logOn(logOn);
-        }
-    }
+    StoreJob job;
+    job.work = [module = message.request.module](ClassBook& book, auto&) { return book.scoreList(module); };
+    return job;
 }
 
 } // namespace phial::master

@@ -2,14 +2,16 @@
 
 #include "core/Clock.h"
 #include "core/String.h"
-#include "master/HighscoreLists.h"
-#include "master/MasterSettings.h"
-#include "master/MasterStore.h"
+#include "master/AppCatalogue.h"
+#include "master/ClassBook.h"
+#include "master/Notices.h"
 #include "master/Roster.h"
+#include "master/StoreDesk.h"
 #include "server/Frame.h"
 #include "server/WireText.h"
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -32,39 +34,38 @@ struct Envelope {
     MasterPlace master;
 };
 
-/// What the master knows and decides, without sockets: who is logged on, which learning app is chosen, what
-/// each message means and how it is answered (docs/protocol.md has the table of messages).
+/// What the master knows and decides, without sockets and without waiting: who is logged on, which learning
+/// app is chosen, what each message means and how it is answered (docs/protocol.md has the table of
+/// messages).
 ///
-/// Messages that add something are taken in once: one whose id was answered before gets the same answer
-/// again and changes nothing. Changes become lasting with `commit`; an answer may go out only after that.
-/// Where the store fails StoreError is raised, and `undo` goes back to what the store holds.
+/// What it knows itself it answers at once, so that a store that is slow or out of reach holds nobody up who
+/// does not need it. Everything else is a job for the desk, and the answer comes when that is done; a job
+/// that the desk refuses is answered with `ERROR`. Messages that add something are taken in once.
 class Classroom
 {
 public:
-    /// For how long the answer of a message is kept, in days, and how many are at most.
-    static constexpr double AnswersKept = 1;
-    static constexpr std::size_t MaxAnswers = 1'000'000;
     static constexpr std::size_t MaxAppLength = 100;
 
-    /// Both must outlive the object. Takes up what the store holds.
-    Classroom(MasterStore& store, const Clock& clock);
+    /// Desk, clock and notices must outlive the object. `room` and `logOns` are what the class book holds.
+    Classroom(StoreDesk& desk, const Clock& clock, Notices& notices, RoomState room,
+              const std::vector<LogOn>& logOns, std::size_t pupilsOfComputer = 64);
 
-    /// The answer to a message's text. A message that makes no sense is answered with the text `ERROR`.
-    String answer(const Envelope& envelope, StringView text);
+    using Reply = std::function<void(const AnswerText&)>;
+    /// Takes a message's text and replies, at once or later. A message that makes no sense is answered with
+    /// the text `ERROR`.
+    void receive(const Envelope& envelope, StringView text, Reply reply);
 
-    void commit();
-    void undo();
-
-    /// Drops answers that nobody will ask for again, and log-ons of other days, and commits.
+    /// Drops what is old from the class book.
     void forgetOld();
+    /// Takes over what another program has set in the database.
+    void lookForChanges();
 
     /// The identifier or name of the chosen learning app; empty for none.
-    const String& app() const { return app_; }
-    void chooseApp(StringView app);
-
-    MasterSettings& settings() { return settings_; }
-    HighscoreLists& highscores() { return highscores_; }
-    std::vector<Pupil> pupils() const { return roster_.pupils(); }
+    const String& app() const { return room_.app; }
+    const MasterSettings& settings() const { return room_.settings; }
+    std::vector<Pupil> pupils() const { return roster_.pupils(clock_.moment()); }
+    /// Connections over which a client sends.
+    Roster& roster() { return roster_; }
     /// The settings text that clients of that place take over.
     String settingsText(const MasterPlace& place) const;
 
@@ -78,7 +79,7 @@ private:
     static std::span<const Rule> rules();
     static const Rule* ruleFor(const WireRequest& request);
 
-    String answerOnce(const Rule& rule, const Message& message);
+    // Answered at once.
     String logOn(const Message& message);
     String logOff(const Message& message);
     String keepAlive(const Message& message);
@@ -86,18 +87,21 @@ private:
     String gameIdent(const Message& message);
     String settingsFor(const Message& message);
     String property(const Message& message);
-    String addEvent(const Message& message);
-    String submitResult(const Message& message);
-    String scores(const Message& message);
-    String submitScore(const Message& message);
-    void takeUpLogOns();
+    // Answered when the class book has done it.
+    StoreJob addEvent(const Message& message);
+    StoreJob submitResult(const Message& message);
+    StoreJob submitScore(const Message& message);
+    StoreJob scores(const Message& message);
 
-    MasterStore& store_;
+    void handOn(StoreJob job, std::size_t bytes, Reply reply);
+    void tellWhyRefused(const Message& message, const RuntimeError& error);
+
+    StoreDesk& desk_;
     const Clock& clock_;
-    String app_;
-    MasterSettings settings_;
-    HighscoreLists highscores_;
+    Notices& notices_;
+    RoomState room_;
     Roster roster_;
+    bool isLooking_ = false;
 };
 
 } // namespace phial::master

@@ -3,6 +3,7 @@
 #include "qt/base/NetAddress.h"
 
 #include <array>
+#include <utility>
 
 namespace phial::master
 {
@@ -10,71 +11,98 @@ namespace phial::master
 namespace
 {
 
-/// What is read at a time; as much again may wait in the socket.
-constexpr qint64 PieceBytes = 16 << 10;
+/// What is read at a time.
+constexpr std::size_t PieceBytes = std::size_t{16} << 10;
 
 } // namespace
 
-ClientConnection::ClientConnection(std::unique_ptr<QTcpSocket> socket, const ServerLimits& limits,
+ClientConnection::ClientConnection(std::unique_ptr<StreamSocket> socket, const ServerLimits& limits,
                                    std::function<double()> now)
     : socket_(std::move(socket)), limits_(limits), now_(std::move(now)), reader_(limits.messageBytes),
       logOns_(limits.logOnsPerSecond, limits.logOnsAtOnce),
       peerAddress_(qt::addressText(socket_->peerAddress())),
-      ownAddress_(qt::addressText(socket_->localAddress())), heard_(now_()), completed_(heard_)
+      ownAddress_(qt::addressText(socket_->ownAddress())), heard_(now_()), completed_(heard_)
 {
-    socket_->setParent(nullptr);
-    socket_->setReadBufferSize(PieceBytes);
-    socket_->setSocketOption(QAbstractSocket::LowDelayOption, 1);
 }
 
-void ClientConnection::onReadable(std::function<void()> readable)
+void ClientConnection::onReports(Reports reports)
 {
-    QObject::connect(socket_.get(), &QTcpSocket::readyRead, socket_.get(), std::move(readable));
+    reports_ = std::move(reports);
+    socket_->onReadable([this] {
+        mayRead_ = true;
+        reports_.readable();
+    });
+    socket_->onWritten([this] { closeWhenDone(); });
+    socket_->awaitReadable();
 }
 
 std::optional<Frame> ClientConnection::nextRequest()
 {
-    while (true) {
-        auto frame = reader_.next();
-        if (!frame && reader_.problem() == FrameProblem::None && socket_->bytesAvailable() > 0) {
-            feed();
-            continue;
-        }
-        hasTakenAll_ = !frame;
-        if (reader_.problem() != FrameProblem::None || (frame && frame->kind != FrameKind::Request)) {
-            cutOff();
-            return std::nullopt;
-        }
-        if (frame) {
-            completed_ = now_();
-            hasAsked_ = true;
-        }
+    if (!isOpen() || underWay_ >= limits_.underWay) {
+        return std::nullopt;
+    }
+    auto frame = reader_.next();
+    while (!frame && reader_.problem() == FrameProblem::None && feed()) {
+        frame = reader_.next();
+    }
+    hasTakenAll_ = !frame;
+    if (frame && frame->kind == FrameKind::Request) {
+        completed_ = now_();
+        hasAsked_ = true;
+        ++underWay_;
         return frame;
     }
+    if (frame || reader_.problem() != FrameProblem::None) {
+        cutOff(reader_.problem() == FrameProblem::TooLong ? Notice::TooLong : Notice::NoRequest);
+    }
+    closeWhenDone();
+    return std::nullopt;
+}
+
+/// Whether something has come.
+bool ClientConnection::feed()
+{
+    if (!mayRead_) {
+        return false;
+    }
+    std::array<char, PieceBytes> piece; // NOLINT(*-member-init): what is read fills it
+    const std::size_t count = socket_->read(piece);
+    if (count == 0) {
+        mayRead_ = false;
+        socket_->awaitReadable();
+        return false;
+    }
+    heard_ = now_();
+    if (reader_.pendingBytes() == 0) {
+        completed_ = heard_; // a new message begins
+    }
+    reader_.feed({piece.data(), count});
+    return true;
 }
 
 bool ClientConnection::hasMore() const
 {
-    return isOpen() && (!hasTakenAll_ || socket_->bytesAvailable() > 0);
+    return isOpen() && underWay_ < limits_.underWay && (!hasTakenAll_ || mayRead_);
 }
 
 void ClientConnection::answer(const FrameId& id, const String& text)
 {
-    if (!isOpen()) {
-        return;
+    if (isOpen() && text.size() > limits_.untakenBytes) {
+        cutOff(Notice::AnswersUntaken); // it takes a byte for each unit at least
     }
-    if (text.size() > limits_.untakenBytes) {
-        cutOff(); // it takes a byte for each unit at least, and may not even fit into a frame
-        return;
-    }
-    const std::string bytes = encodeFrame({FrameKind::Answer, id, text});
-    socket_->write(bytes.data(), static_cast<qint64>(bytes.size()));
-    if (static_cast<std::size_t>(socket_->bytesToWrite()) > limits_.untakenBytes) {
-        socket_->flush();
-        if (static_cast<std::size_t>(socket_->bytesToWrite()) > limits_.untakenBytes) {
-            cutOff();
+    if (isOpen()) {
+        socket_->write(encodeFrame({FrameKind::Answer, id, text}));
+        if (socket_->unwritten() > limits_.untakenBytes) {
+            cutOff(Notice::AnswersUntaken);
         }
     }
+    drop();
+}
+
+void ClientConnection::drop()
+{
+    --underWay_;
+    closeWhenDone();
 }
 
 bool ClientConnection::mayLogOn()
@@ -82,41 +110,44 @@ bool ClientConnection::mayLogOn()
     return logOns_.pass(now_());
 }
 
-void ClientConnection::cutOff()
+void ClientConnection::makeRoom()
 {
-    socket_->abort();
+    close(std::nullopt, false);
+}
+
+void ClientConnection::cutOff(Notice reason)
+{
+    close(reason, false);
 }
 
 void ClientConnection::checkTimes()
 {
     const double now = now_();
-    const bool isUnfinished =
-        (reader_.pendingBytes() > 0 || !hasAsked_) && now - completed_ > limits_.unfinishedSeconds;
-    if (isUnfinished || now - heard_ > limits_.silentSeconds) {
-        cutOff();
+    const bool isUnfinished = reader_.pendingBytes() > 0 && now - completed_ > limits_.unfinishedSeconds;
+    const bool saysNothing = !hasAsked_ && now - completed_ > limits_.unfinishedSeconds;
+    const bool takesNothing = socket_->hasEnded() && !isBusy() && now - heard_ > limits_.unfinishedSeconds;
+    if (isOpen() && isUnfinished && hasTakenAll_) {
+        cutOff(Notice::TooSlow);
+    } else if (saysNothing || takesNothing || now - heard_ > limits_.silentSeconds) {
+        makeRoom();
     }
 }
 
-bool ClientConnection::isOpen() const
+void ClientConnection::closeWhenDone()
 {
-    return socket_->state() == QAbstractSocket::ConnectedState;
+    if (socket_->hasEnded() && hasTakenAll_ && !isBusy() && socket_->unwritten() == 0) {
+        close(std::nullopt, true);
+    }
 }
 
-std::size_t ClientConnection::heldBytes() const
+void ClientConnection::close(std::optional<Notice> reason, bool hasLeft)
 {
-    return reader_.pendingBytes() + static_cast<std::size_t>(socket_->bytesToWrite());
-}
-
-void ClientConnection::feed()
-{
-    std::array<char, PieceBytes> piece{};
-    const qint64 length = socket_->read(piece.data(), static_cast<qint64>(piece.size()));
-    if (length > 0) {
-        if (reader_.pendingBytes() == 0 && hasAsked_) {
-            completed_ = now_(); // from here on the next message has its time
-        }
-        heard_ = now_();
-        reader_.feed({piece.data(), static_cast<std::size_t>(length)});
+    if (!isOpen()) {
+        return;
+    }
+    socket_->close();
+    if (reports_.closed) {
+        reports_.closed(reason, hasLeft);
     }
 }
 

@@ -2,23 +2,19 @@
 
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
-#include "core/AtomicFile.h"
-#include "core/CoreParameters.h"
-#include "core/Format.h"
 #include "core/NumberText.h"
 #include "core/RuntimeError.h"
-#include "master/CsvExport.h"
 #include "master/Packages.h"
-#include "master/TextTable.h"
-#include "results/Mark.h"
-#include "results/cls_DataScore.h"
-#include "results/cls_DataScores.h"
+#include "master/Reports.h"
+#include "master/ShownText.h"
+#include "master/StoreWords.h"
+#include "master/TypedText.h"
 
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <limits>
 #include <ostream>
+#include <utility>
 
 namespace phial::master
 {
@@ -27,58 +23,20 @@ namespace
 {
 
 constexpr std::size_t ShownUnlessTold = 20;
-constexpr std::size_t UsageWidth = 20;
-constexpr std::array<StringView, 2> AllWords{u"alle", u"all"};
-constexpr StringView TimePattern = u"dd.mm.yyyy hh:nn:ss";
+constexpr std::size_t UsageWidth = 29;
+constexpr std::array<StringView, 3> MissingWords{u"--missing", u"missing", u"fehlend"};
+constexpr std::array<StringView, 2> FromWords{u"--from", u"--von"};
+constexpr StringView ResultsModule = u"RESULTS";
 
-/// The first word of a line, and what follows it.
-std::pair<String, String> firstWord(StringView line)
+template <std::size_t Count>
+bool isOneOf(StringView text, const std::array<StringView, Count>& words)
 {
-    const String text = replaced(trimmed(line), u"\t", u" ");
-    const std::size_t end = std::min(text.find(u' '), text.size());
-    return {text.substr(0, end), trimmed(StringView(text).substr(end))};
+    return std::ranges::any_of(words, [text](StringView word) { return equalsIgnoringCase(text, word); });
 }
 
 String translated(StringView german, StringView english)
 {
     return LNG()->TRANSLATE(german, english);
-}
-
-String timeText(Moment moment)
-{
-    return formatPattern(moment, TimePattern);
-}
-
-String numberText(double value)
-{
-    return plainText(value, currentLocale().decimalSign);
-}
-
-/// A setting's value as a teacher types it.
-String shown(const Variant& value)
-{
-    if (value.kind() == Variant::Kind::Boolean) {
-        return value.toBoolean() ? translated(u"ja", u"yes") : translated(u"nein", u"no");
-    }
-    return value.toText();
-}
-
-/// How many entries are wanted: a number, `all` (`alle`), or nothing for the usual number. No value for
-/// anything else.
-std::optional<std::size_t> wantedCount(StringView argument)
-{
-    if (argument.empty()) {
-        return ShownUnlessTold;
-    }
-    if (std::ranges::any_of(AllWords, [&](StringView word) { return equalsIgnoringCase(argument, word); })) {
-        return std::numeric_limits<std::size_t>::max();
-    }
-    const NumberAtStart number = numberAtStart(argument);
-    if (number.length != argument.size() || number.value < 1 ||
-        number.value > std::numeric_limits<int>::max()) {
-        return std::nullopt;
-    }
-    return static_cast<std::size_t>(number.value);
 }
 
 } // namespace
@@ -89,27 +47,36 @@ struct Console::Command {
     StringView englishArguments;
     StringView german;
     StringView english;
-    Outcome (Console::*run)(StringView arguments);
+    Answer (Console::*run)(StringView arguments, const Finish& finish);
 };
 
 std::span<const Console::Command> Console::commands()
 {
     static constexpr std::array Table{
         Command{u"help", u"", u"", u"zeigt diese Liste", u"shows this list", &Console::help},
-        Command{u"pupils", u"", u"", u"zeigt, wer angemeldet ist", u"shows who is logged on",
-                &Console::pupils},
+        Command{u"pupils", u"", u"", u"zeigt, wer da ist, wer still ist und wer weg ist",
+                u"shows who is there, who is silent and who has gone", &Console::pupils},
         Command{u"app", u"IDENT|none", u"IDENT|none", u"wählt die Lern-App, die laufen darf; none: keine",
                 u"chooses the learning app that may run; none: no app", &Console::app},
         Command{u"set", u"NAME [WERT]", u"NAME [VALUE]", u"setzt einen Wert; ohne Wert wird er gelöscht",
                 u"sets a value; without a value it is deleted", &Console::set},
-        Command{u"results", u"[N|all]", u"[N|all]", u"zeigt die letzten Ergebnisse",
-                u"shows the latest results", &Console::results},
+        Command{u"results", u"[N|all|--missing]", u"[N|all|--missing]",
+                u"zeigt die letzten Ergebnisse; --missing: wer noch nicht abgegeben hat",
+                u"shows the latest results; --missing: who has not handed in", &Console::results},
         Command{u"highscore", u"[MODUL]", u"[MODULE]", u"zeigt eine Bestenliste, oder welche es gibt",
                 u"shows a highscore, or which there are", &Console::highscore},
-        Command{u"reset", u"MODUL", u"MODULE", u"leert eine Bestenliste", u"empties a highscore",
-                &Console::reset},
         Command{u"events", u"[N|all]", u"[N|all]", u"zeigt die letzten Ereignisse",
                 u"shows the latest events", &Console::events},
+        Command{u"rename", u"\"ALT\" \"NEU\"", u"\"OLD\" \"NEW\"", u"berichtigt einen Namen überall",
+                u"corrects a name everywhere", &Console::rename},
+        Command{u"remove", u"MODUL RANG", u"MODULE RANK",
+                u"entfernt einen Eintrag; remove RESULTS NR ein Ergebnis",
+                u"takes an entry away; remove RESULTS NO a result", &Console::remove},
+        Command{u"reset", u"MODUL|--from RECHNER", u"MODULE|--from COMPUTER",
+                u"entfernt eine Bestenliste, oder alle, die ein Rechner begonnen hat",
+                u"takes a highscore away, or all that a computer has begun", &Console::reset},
+        Command{u"changes", u"[N|all]", u"[N|all]", u"zeigt, was so geändert worden ist",
+                u"shows what has been changed so", &Console::changes},
         Command{u"export", u"DATEI.csv", u"FILE.csv",
                 u"schreibt alle Ergebnisse für eine Tabellenkalkulation",
                 u"writes all results for a spreadsheet", &Console::exportResults},
@@ -118,39 +85,72 @@ std::span<const Console::Command> Console::commands()
     return Table;
 }
 
-Console::Console(Classroom& classroom, MasterStore& store, FileSystem& files, std::ostream& output)
-    : classroom_(classroom), store_(store), files_(files), output_(output)
+Console::Console(Classroom& classroom, StoreDesk& desk, const AppCatalogue& apps, const Clock& clock,
+                 FileSystem& files, std::ostream& output)
+    : classroom_(classroom), desk_(desk), apps_(apps), clock_(clock), files_(files), output_(output)
 {
 }
 
-Console::Outcome Console::run(StringView line)
+void Console::run(StringView line, Finish finish)
 {
     const auto [word, arguments] = firstWord(line);
     if (word.empty()) {
-        return Outcome::Done;
+        finish(Outcome::Done);
+        return;
     }
+    const Finish flushed = [this, finish = std::move(finish)](Outcome outcome) {
+        output_.flush();
+        finish(outcome);
+    };
     const auto table = commands();
     const auto command = std::ranges::find_if(
         table, [&typed = word](const Command& entry) { return equalsIgnoringCase(entry.name, typed); });
     if (command == table.end()) {
-        return refuse(u"\"{1}\" kenne ich nicht; \"help\" zeigt, was es gibt.",
-                      u"I do not know \"{1}\"; \"help\" shows what there is.", {word});
+        flushed(refuse(u"\"{1}\" kenne ich nicht; \"help\" zeigt, was es gibt.",
+                       u"I do not know \"{1}\"; \"help\" shows what there is.", {word}));
+        return;
     }
-    Outcome outcome = Outcome::Failed;
+    Answer outcome;
     try {
-        outcome = (this->*command->run)(arguments);
-    } catch (const StoreError& error) {
-        ignoringErrors([this] { classroom_.undo(); });
-        refuse(u"Die Datenbank meldet einen Fehler: {1}", u"The database reports an error: {1}",
-               {fromUtf8(error.what())});
+        outcome = (this->*command->run)(arguments, flushed);
     } catch (const RuntimeError& error) {
-        refuse(u"Das ging nicht: {1}", u"That did not work: {1}", {error.Description()});
+        outcome = refuse(u"Das ging nicht: {1}", u"That did not work: {1}", {error.Description()});
     }
-    output_.flush();
-    return outcome;
+    if (outcome) {
+        flushed(*outcome);
+    }
 }
 
-Console::Outcome Console::help(StringView /*arguments*/)
+/// Has the class book do something and goes on with what that has given; what it cannot do is told.
+template <typename Work, typename Then>
+Console::Answer Console::ask(Work work, Then then, const Finish& finish)
+{
+    using Given = decltype(work(std::declval<ClassBook&>()));
+    const auto given = std::make_shared<std::optional<Given>>();
+    StoreJob job;
+    job.work = [given, work = std::move(work)](ClassBook& book, auto&) -> AnswerText {
+        *given = work(book);
+        return nullptr;
+    };
+    desk_.add(
+        std::move(job), 0,
+        [this, given, then = std::move(then), finish](const JobOutcome& outcome) {
+            finish(outcome.isDone ? then(**given) : storeTroubles(outcome));
+        },
+        StoreDesk::Urgency::Impatient);
+    desk_.start();
+    return std::nullopt;
+}
+
+Console::Outcome Console::storeTroubles(const JobOutcome& outcome)
+{
+    if (outcome.trouble) {
+        return refuse(u"Das ging nicht: {1}", u"That did not work: {1}", {storeWords(*outcome.trouble)});
+    }
+    return refuse(u"Die Datenbank antwortet nicht.", u"The database does not answer.");
+}
+
+Console::Answer Console::help(StringView /*arguments*/, const Finish& /*finish*/)
 {
     for (const Command& command : commands()) {
         String usage(command.name);
@@ -162,28 +162,46 @@ Console::Outcome Console::help(StringView /*arguments*/)
     return Outcome::Done;
 }
 
-Console::Outcome Console::pupils(StringView /*arguments*/)
+Console::Answer Console::pupils(StringView /*arguments*/, const Finish& /*finish*/)
 {
-    TextTable table({u"Name", translated(u"Rechner", u"Computer"), translated(u"Angemeldet", u"Logged on"),
-                     translated(u"Zuletzt gehört", u"Last heard of")});
-    for (const Pupil& pupil : classroom_.pupils()) {
-        table.add(
-            {pupil.logOn.name, pupil.logOn.address, timeText(pupil.logOn.since), timeText(pupil.heard)});
-    }
-    if (table.isEmpty()) {
-        tell(u"Niemand ist angemeldet.", u"Nobody is logged on.");
-    } else {
-        table.write(output_);
-    }
+    writePupils(output_, classroom_.pupils());
     return Outcome::Done;
 }
 
-Console::Outcome Console::app(StringView arguments)
+Console::Answer Console::app(StringView arguments, const Finish& finish)
 {
-    if (!arguments.empty()) {
-        classroom_.chooseApp(equalsIgnoringCase(arguments, u"none") ? StringView() : arguments);
-        classroom_.commit();
+    if (arguments.empty()) {
+        return tellApp();
     }
+    String chosen = cleaned(arguments, Classroom::MaxAppLength);
+    if (const LearningApp* known = apps_.find(chosen)) {
+        chosen = known->ident;
+    } else if (equalsIgnoringCase(chosen, u"none")) {
+        chosen.clear();
+    } else {
+        warnOfUnknownApp(chosen);
+    }
+    return ask(
+        [chosen](ClassBook& book) {
+            book.chooseApp(chosen);
+            return true;
+        },
+        [this](bool) { return tellApp(); }, finish);
+}
+
+/// It may be right all the same: on the pupils' computers there may be apps that are not here.
+void Console::warnOfUnknownApp(const String& chosen)
+{
+    tell(u"Achtung: Die Lern-App \"{1}\" gibt es auf diesem Rechner nicht.",
+         u"Mind: there is no learning app \"{1}\" on this computer.", {chosen});
+    if (!apps_.apps().empty()) {
+        tell(u"Bekannt sind:", u"Those known are:");
+        writeApps(output_, apps_.apps());
+    }
+}
+
+Console::Outcome Console::tellApp()
+{
     if (classroom_.app().empty()) {
         tell(u"Es ist keine Lern-App ausgewählt.", u"No learning app is chosen.");
     } else {
@@ -192,18 +210,25 @@ Console::Outcome Console::app(StringView arguments)
     return Outcome::Done;
 }
 
-Console::Outcome Console::set(StringView arguments)
+Console::Answer Console::set(StringView arguments, const Finish& finish)
 {
-    using Problem = MasterSettings::Problem;
     if (arguments.empty()) {
-        showSettings();
+        writeSettings(output_, classroom_.settings());
         return Outcome::Done;
     }
     const auto [name, value] = firstWord(arguments);
-    switch (classroom_.settings().set(name, value)) {
+    return ask(
+        [name = name, value = value](ClassBook& book) { return book.set(name, value); },
+        [this, name = name](MasterSettings::Problem problem) { return tellAboutSetting(problem, name); },
+        finish);
+}
+
+Console::Outcome Console::tellAboutSetting(MasterSettings::Problem problem, const String& name)
+{
+    using Problem = MasterSettings::Problem;
+    switch (problem) {
     case Problem::None:
-        classroom_.commit();
-        showSettings();
+        writeSettings(output_, classroom_.settings());
         return Outcome::Done;
     case Problem::Name:
         return refuse(u"Der Name ist zu lang.", u"The name is too long.");
@@ -215,128 +240,199 @@ Console::Outcome Console::set(StringView arguments)
         return refuse(u"{1} kann ja oder nein sein.", u"{1} can be yes or no.", {name});
     case Problem::NoListLength:
         return refuse(u"{1} kann 1 bis {2} sein.", u"{1} can be 1 to {2}.",
-                      {name, HighscoreLists::MaxListLength});
+                      {name, MasterSettings::MaxListLength});
     }
     return Outcome::Failed;
 }
 
-void Console::showSettings()
+Console::Answer Console::results(StringView arguments, const Finish& finish)
 {
-    const CoreParameters& all = classroom_.settings().all();
-    if (all.Count() == 0) {
-        tell(u"Es ist nichts gesetzt.", u"Nothing is set.");
+    if (isOneOf(arguments, MissingWords)) {
+        return missing(finish);
     }
-    for (std::int32_t at = 1; at <= all.Count(); ++at) {
-        output_ << toUtf8(all.Name(at)) << " = " << toUtf8(shown(all.Value(at))) << '\n';
-    }
-}
-
-Console::Outcome Console::results(StringView arguments)
-{
-    const auto count = wantedCount(arguments);
+    const auto count = wantedCount(arguments, ShownUnlessTold);
     if (!count) {
         return refuse(u"Das ist keine Anzahl: {1}", u"This is no number: {1}", {arguments});
     }
-    TextTable table({translated(u"Zeit", u"Time"), u"Name", translated(u"Rechner", u"Computer"),
-                     translated(u"Übung", u"Exercise"), translated(u"Punkte", u"Points"),
-                     translated(u"von", u"of"), translated(u"Note", u"Mark"),
-                     translated(u"Zusatz", u"More")});
-    for (const Result& result : store_.latestResults(*count)) {
-        table.add({timeText(result.at), result.sender.screenName, result.sender.computer, result.exercise,
-                   numberText(result.points), numberText(result.pointsMax),
-                   String(markFor(result.points, result.pointsMax).school),
-                   shownAdditional(result.additional)});
-    }
-    if (table.isEmpty()) {
-        tell(u"Es gibt noch keine Ergebnisse.", u"There are no results yet.");
-    } else {
-        table.write(output_);
-    }
-    return Outcome::Done;
+    return ask([count = *count](ClassBook& book) { return book.latestResults(count); },
+               [this](const std::vector<KeptResult>& results) {
+                   writeResults(output_, results);
+                   return Outcome::Done;
+               },
+               finish);
 }
 
-Console::Outcome Console::highscore(StringView arguments)
+Console::Answer Console::missing(const Finish& finish)
 {
-    if (arguments.empty()) {
-        showModules();
+    const auto pupils = classroom_.pupils();
+    if (pupils.empty()) {
+        writePupils(output_, pupils);
         return Outcome::Done;
     }
-    const auto list = classroom_.highscores().list(arguments);
-    TextTable table({translated(u"Rang", u"Rank"), u"Name", translated(u"Punkte", u"Points"),
-                     translated(u"von", u"of"), translated(u"Übung", u"Exercise"),
-                     translated(u"Zeit", u"Time")});
-    for (std::int32_t at = 1; at <= list->COUNT(); ++at) {
-        const auto entry = list->ITEM(at);
-        table.add({plainText(entry->RANK()), entry->SCREENNAME(), numberText(entry->POINTS()),
-                   numberText(entry->POINTSMAX()), entry->UEBM(), timeText(entry->TIMESTAMP())});
-    }
-    if (table.isEmpty()) {
-        tell(u"Diese Bestenliste ist leer.", u"This highscore is empty.");
-    } else {
-        table.write(output_);
-    }
-    return Outcome::Done;
+    const Moment since =
+        std::ranges::min_element(pupils, {}, [](const Pupil& one) { return one.first.days; })->first;
+    return ask([since](ClassBook& book) { return book.handedInSince(since); },
+               [this, pupils](const std::vector<HandedIn>& handedIn) {
+                   writeMissing(output_, withoutResult(pupils, handedIn));
+                   return Outcome::Done;
+               },
+               finish);
 }
 
-void Console::showModules()
+Console::Answer Console::events(StringView arguments, const Finish& finish)
 {
-    const auto modules = store_.modules();
-    if (modules.empty()) {
-        tell(u"Es gibt noch keine Bestenliste.", u"There is no highscore yet.");
-    }
-    for (const String& module : modules) {
-        output_ << toUtf8(module) << '\n';
-    }
-}
-
-Console::Outcome Console::reset(StringView arguments)
-{
-    if (!classroom_.highscores().reset(arguments)) {
-        return refuse(u"Diese Bestenliste gibt es nicht.", u"There is no such highscore.");
-    }
-    classroom_.commit();
-    tell(u"Die Bestenliste ist jetzt leer.", u"The highscore is empty now.");
-    return Outcome::Done;
-}
-
-Console::Outcome Console::events(StringView arguments)
-{
-    const auto count = wantedCount(arguments);
+    const auto count = wantedCount(arguments, ShownUnlessTold);
     if (!count) {
         return refuse(u"Das ist keine Anzahl: {1}", u"This is no number: {1}", {arguments});
     }
-    TextTable table({translated(u"Zeit", u"Time"), u"Name", translated(u"Rechner", u"Computer"),
-                     translated(u"Ereignis", u"Event"), translated(u"Zusatz", u"More")});
-    for (const PupilEvent& event : store_.latestEvents(*count)) {
-        table.add({timeText(event.at), event.sender.screenName, event.sender.computer, event.action,
-                   shownAdditional(event.additional)});
-    }
-    if (table.isEmpty()) {
-        tell(u"Es gibt noch keine Ereignisse.", u"There are no events yet.");
-    } else {
-        table.write(output_);
-    }
-    return Outcome::Done;
+    return ask([count = *count](ClassBook& book) { return book.latestEvents(count); },
+               [this](const std::vector<PupilEvent>& events) {
+                   writeEvents(output_, events);
+                   return Outcome::Done;
+               },
+               finish);
 }
 
-Console::Outcome Console::exportResults(StringView arguments)
+Console::Answer Console::changes(StringView arguments, const Finish& finish)
+{
+    const auto count = wantedCount(arguments, ShownUnlessTold);
+    if (!count) {
+        return refuse(u"Das ist keine Anzahl: {1}", u"This is no number: {1}", {arguments});
+    }
+    return ask([count = *count](ClassBook& book) { return book.latestChanges(count); },
+               [this](const std::vector<Change>& changes) {
+                   writeChanges(output_, changes);
+                   return Outcome::Done;
+               },
+               finish);
+}
+
+Console::Answer Console::highscore(StringView arguments, const Finish& finish)
+{
+    if (arguments.empty()) {
+        return ask([](ClassBook& book) { return book.lists(); },
+                   [this](const std::vector<ListOrigin>& lists) {
+                       writeLists(output_, lists);
+                       return Outcome::Done;
+                   },
+                   finish);
+    }
+    return ask([module = String(arguments)](ClassBook& book) { return book.highscore(module); },
+               [this](const std::vector<HighscoreRow>& rows) {
+                   writeHighscore(output_, rows);
+                   return Outcome::Done;
+               },
+               finish);
+}
+
+Console::Answer Console::reset(StringView arguments, const Finish& finish)
+{
+    const Moment now = clock_.moment();
+    const auto [word, address] = firstWord(arguments);
+    if (isOneOf(word, FromWords)) {
+        return ask([address = address, now](ClassBook& book) { return book.resetListsFrom(address, now); },
+                   [this](std::size_t count) {
+                       tell(u"Entfernte Bestenlisten: {1}", u"Highscores taken away: {1}",
+                            {static_cast<std::int32_t>(count)});
+                       return Outcome::Done;
+                   },
+                   finish);
+    }
+    return ask([module = String(arguments), now](ClassBook& book) { return book.resetList(module, now); },
+               [this](bool isDone) {
+                   if (!isDone) {
+                       return refuse(u"Diese Bestenliste gibt es nicht.", u"There is no such highscore.");
+                   }
+                   tell(u"Die Bestenliste ist jetzt leer.", u"The highscore is empty now.");
+                   return Outcome::Done;
+               },
+               finish);
+}
+
+Console::Answer Console::remove(StringView arguments, const Finish& finish)
+{
+    const Moment now = clock_.moment();
+    const auto [module, last] = lastWord(arguments);
+    const auto number = positiveNumber(last);
+    if (module.empty() || !number) {
+        return refuse(u"Bitte Modul und Rang angeben, oder RESULTS und die Nummer: remove HIGHSCORE 3",
+                      u"Please give module and rank, or RESULTS and the number: remove HIGHSCORE 3");
+    }
+    const auto told = [this](const std::optional<String>& name) {
+        if (!name) {
+            return refuse(u"Diesen Eintrag gibt es nicht.", u"There is no such entry.");
+        }
+        tell(u"Entfernt: ein Eintrag von {1}", u"Taken away: an entry of {1}",
+             {isolated(shownSafely(*name))});
+        return Outcome::Done;
+    };
+    if (equalsIgnoringCase(module, ResultsModule)) {
+        return ask(
+            [number = *number, now](ClassBook& book) {
+                const auto result = book.removeResult(number, now);
+                return result ? std::optional(result->sender.screenName) : std::nullopt;
+            },
+            told, finish);
+    }
+    return ask(
+        [module = module, number = *number, now](ClassBook& book) {
+            const auto row = book.removeEntry(module, number, now);
+            return row ? std::optional(row->name) : std::nullopt;
+        },
+        told, finish);
+}
+
+Console::Answer Console::rename(StringView arguments, const Finish& finish)
+{
+    const auto words = wordsOf(arguments);
+    if (words.size() != 2 || cleaned(words.back(), MaxNameLength).empty()) {
+        return refuse(u"Bitte den alten und den neuen Namen angeben: rename \"Ana B\" \"Anna B\"",
+                      u"Please give the old name and the new one: rename \"Ana B\" \"Anna B\"");
+    }
+    const Moment now = clock_.moment();
+    return ask([from = words.front(), to = words.back(),
+                now](ClassBook& book) { return book.rename(from, to, now); },
+               [this, from = words.front(), to = words.back()](std::size_t count) {
+                   if (count == 0) {
+                       return refuse(u"{1} hat nichts abgegeben.", u"{1} has handed in nothing.", {from});
+                   }
+                   classroom_.roster().rename(from, to);
+                   tell(u"{1} heißt jetzt {2}.", u"{1} is called {2} now.", {from, to});
+                   return Outcome::Done;
+               },
+               finish);
+}
+
+Console::Answer Console::exportResults(StringView arguments, const Finish& finish)
 {
     if (arguments.empty()) {
         return refuse(u"Bitte den Namen der Datei angeben: export DATEI.csv",
                       u"Please give the file's name: export FILE.csv");
     }
-    const auto file = std::filesystem::absolute(std::filesystem::path(toUtf8(arguments)));
-    try {
-        replaceFile(files_, file, resultsAsCsv(store_));
-    } catch (const RuntimeError&) {
-        return refuse(u"{1} lässt sich nicht schreiben.", u"{1} cannot be written.",
-                      {fromUtf8(file.string())});
-    }
-    tell(u"Geschrieben: {1}", u"Written: {1}", {fromUtf8(file.string())});
-    return Outcome::Done;
+    const auto file = typedPath(arguments);
+    ResultExport::begin(desk_, files_, file, [this, finish, file](auto outcome, const JobOutcome& lastJob) {
+        finish(tellAboutExport(outcome, file, lastJob));
+    });
+    return std::nullopt;
 }
 
-Console::Outcome Console::quit(StringView /*arguments*/)
+Console::Outcome Console::tellAboutExport(ResultExport::Outcome outcome, const std::filesystem::path& file,
+                                          const JobOutcome& lastJob)
+{
+    const Variant::Array values{fromUtf8(file.string())};
+    switch (outcome) {
+    case ResultExport::Outcome::Written:
+        tell(u"Geschrieben: {1}", u"Written: {1}", values);
+        return Outcome::Done;
+    case ResultExport::Outcome::NotWritable:
+        return refuse(u"{1} lässt sich nicht schreiben.", u"{1} cannot be written.", values);
+    case ResultExport::Outcome::Refused:
+        return storeTroubles(lastJob);
+    }
+    return Outcome::Failed;
+}
+
+Console::Answer Console::quit(StringView /*arguments*/, const Finish& /*finish*/)
 {
     return Outcome::Quit;
 }

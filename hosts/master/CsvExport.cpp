@@ -4,6 +4,7 @@
 #include "core/NumberText.h"
 #include "core/Utf8Text.h"
 #include "master/Packages.h"
+#include "master/ShownText.h"
 #include "results/Mark.h"
 
 #include <initializer_list>
@@ -33,30 +34,41 @@ String number(double value)
     return plainText(value, u',');
 }
 
-String lineOf(const Result& result)
+/// What a teacher should look at.
+String remarkOn(const Result& result)
 {
-    const MarkRow& mark = markFor(result.points, result.pointsMax);
-    return line({formatPattern(result.at, u"dd.mm.yyyy"), formatPattern(result.at, u"hh:nn:ss"),
-                 csvCell(result.sender.screenName), csvCell(result.sender.userName),
-                 csvCell(result.sender.computer), csvCell(result.exercise), number(result.points),
-                 number(result.pointsMax), csvCell(mark.words), csvCell(shownAdditional(result.additional))});
+    String remark = isImplausible(result.points, result.pointsMax) ? u"mehr Punkte als erreichbar" : u"";
+    if (isDoubtful(result.sender.screenName)) {
+        remark.append(remark.empty() ? u"" : u", ").append(u"Name fraglich");
+    }
+    return remark;
 }
 
 } // namespace
 
 String csvCell(StringView text)
 {
-    const bool isFormula = !text.empty() && FormulaSigns.find(text.front()) != StringView::npos;
-    return u"\"" + String(isFormula ? u"'" : u"") + replaced(text, u"\"", u"\"\"") + u"\"";
+    const String shown = shownSafely(text);
+    const bool isFormula = !shown.empty() && FormulaSigns.find(shown.front()) != StringView::npos;
+    return u"\"" + String(isFormula ? u"'" : u"") + replaced(shown, u"\"", u"\"\"") + u"\"";
 }
 
-std::string resultsAsCsv(MasterStore& store)
+std::string csvHead()
 {
-    std::string csv(Utf8Mark);
-    csv += toUtf8(line({u"Datum", u"Zeit", u"Name", u"Login", u"Computer", u"\u00DCbung", u"Punkte",
-                        u"Erreichbar", u"Note", u"Zusatz"}));
-    store.visitResults([&](const Result& result) { csv += toUtf8(lineOf(result)); });
-    return csv;
+    return std::string(Utf8Mark) +
+           toUtf8(line({u"Datum", u"Zeit", u"Name", u"Login", u"Computer", u"\u00DCbung", u"Punkte",
+                        u"Erreichbar", u"Note", u"Zusatz", u"Hinweis"}));
+}
+
+std::string csvLine(const Result& result)
+{
+    const MarkRow& mark = markFor(result.points, result.pointsMax);
+    const Sender& sender = result.sender;
+    return toUtf8(
+        line({formatPattern(result.at, u"dd.mm.yyyy"), formatPattern(result.at, u"hh:nn:ss"),
+              csvCell(sender.screenName), csvCell(sender.userName), csvCell(sender.computer),
+              csvCell(result.exercise), number(result.points), number(result.pointsMax), csvCell(mark.words),
+              csvCell(shownAdditional(result.additional)), csvCell(remarkOn(result))}));
 }
 
 } // namespace phial::master

@@ -5,7 +5,6 @@
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
 #include "app/cls_AppURL.h"
-#include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "core/CoreRegistry.h"
 #include "core/CoreRegistryRead.h"
@@ -13,13 +12,14 @@
 #include "core/CoreRoot.h"
 #include "core/NativePath.h"
 #include "core/SessionState.h"
-#include "master/Classroom.h"
-#include "master/Console.h"
-#include "master/ConsoleInput.h"
+#include "master/Dialogue.h"
+#include "master/EndSignals.h"
 #include "master/MasterServer.h"
 #include "master/OpenFiles.h"
 #include "master/Options.h"
-#include "master/SqlStore.h"
+#include "master/ProgramWords.h"
+#include "master/Room.h"
+#include "master/TypedText.h"
 #include "qt/base/BasePlatform.h"
 #include "qt/base/NetAddress.h"
 #include "qt/base/QtText.h"
@@ -28,8 +28,10 @@
 #include <QNetworkInterface>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <memory>
 #include <optional>
 
 namespace phial::master
@@ -45,140 +47,43 @@ enum ExitStatus : int { Success = 0, Failed = 1, WrongUse = 2, NoStore = 3, NoPo
 constexpr StringView DatabaseSetting = u"Master\\Database";
 constexpr StringView DatabaseName = u"master.sqlite";
 
-constexpr StringView HelpGerman =
-    u"master [Optionen]\n"
-    u"\n"
-    u"Der Master für den Unterricht: Lern-Apps melden sich bei ihm an, schicken ihm Ergebnisse und\n"
-    u"fragen ihn nach Bestenlisten. Er nimmt Befehle an; \"help\" zeigt sie.\n"
-    u"\n"
-    u"  --listen ADRESSE   nimmt Schüler von dort an: 0.0.0.0 für alle Netze; ohne Angabe nur diesen "
-    u"Rechner\n"
-    u"  --port NUMMER      Port für Anfragen (10049)\n"
-    u"  --udp NUMMER       Port, auf dem der Master gefunden wird (10050); 0 für keinen\n"
-    u"  --database ORT     Datei der Datenbank, oder postgresql://[Benutzer@]Rechner[:Port]/Datenbank\n"
-    u"  --remember         merkt sich diese Datenbank für die nächsten Starts\n"
-    u"  --data ORDNER      Ordner der Datenbank, wenn keine genannt ist\n"
-    u"  --app IDENT        wählt die Lern-App, die laufen darf; none: keine\n"
-    u"  --set NAME=WERT    setzt einen Wert, zum Beispiel WELCOMEMESSAGE=\"Guten Morgen!\"\n"
-    u"  --pupils, --results, --events, --highscore MODUL\n"
-    u"                     zeigt, was gespeichert ist, und endet\n"
-    u"  --export DATEI     schreibt alle Ergebnisse in eine CSV-Datei und endet\n"
-    u"  --serve            nimmt keine Befehle an und läuft, bis er beendet wird\n"
-    u"  --help             zeigt diesen Text\n";
-
-constexpr StringView HelpEnglish =
-    u"master [options]\n"
-    u"\n"
-    u"The classroom's master: learning apps log on to it, send it results and ask it for highscores.\n"
-    u"It takes commands; \"help\" lists them.\n"
-    u"\n"
-    u"  --listen ADDRESS   takes pupils in from there: 0.0.0.0 for all networks; else this computer alone\n"
-    u"  --port NUMBER      port for requests (10049)\n"
-    u"  --udp NUMBER       port on which the master is found (10050); 0 for none\n"
-    u"  --database PLACE   file of the database, or postgresql://[user@]computer[:port]/database\n"
-    u"  --remember         keeps this database for the next starts\n"
-    u"  --data FOLDER      folder of the database when none is named\n"
-    u"  --app IDENT        chooses the learning app that may run; none: no app\n"
-    u"  --set NAME=VALUE   sets a value, such as WELCOMEMESSAGE=\"Good morning!\"\n"
-    u"  --pupils, --results, --events, --highscore MODULE\n"
-    u"                     shows what is stored, and ends\n"
-    u"  --export FILE      writes all results into a CSV file, and ends\n"
-    u"  --serve            takes no commands and runs until it is ended\n"
-    u"  --help             shows this text\n";
-
-void tell(std::ostream& output, StringView german, StringView english, const Variant::Array& values = {})
+/// Without an installation there are shared files all the same.
+void findInstallation()
 {
-    output << toUtf8(LNG()->TRANSLATE(german, english, values)) << std::endl;
-}
-
-/// What is said goes to the error stream, with the program's name in front.
-void complain(StringView german, StringView english, const Variant::Array& values = {})
-{
-    tell(std::cerr, u"master: " + String(german), u"master: " + String(english), values);
-}
-
-void complain(const OptionProblem& problem)
-{
-    const String argument = fromUtf8(problem.argument);
-    switch (problem.kind) {
-    case OptionProblem::Kind::Unknown:
-        complain(u"unbekannte Option {1}; --help zeigt alle", u"unknown option {1}; --help lists all",
-                 {argument});
-        break;
-    case OptionProblem::Kind::NoValue:
-        complain(u"hinter {1} fehlt die Angabe", u"the value behind {1} is missing", {argument});
-        break;
-    case OptionProblem::Kind::NoPort:
-        complain(u"das ist kein Port: {1}", u"this is no port: {1}", {argument});
-        break;
-    case OptionProblem::Kind::NoAssignment:
-        complain(u"erwartet wird NAME=WERT: {1}", u"NAME=VALUE is expected: {1}", {argument});
-        break;
-    }
-}
-
-void complain(const StoreError& error)
-{
-    const String text = fromUtf8(error.what());
-    switch (error.reason()) {
-    case StoreError::Reason::Database:
-        complain(u"die Datenbank meldet einen Fehler: {1}", u"the database reports an error: {1}", {text});
-        break;
-    case StoreError::Reason::InUse:
-        complain(u"ein anderer Master benutzt {1}, oder der Ordner ist nicht beschreibbar",
-                 u"another master is using {1}, or the folder cannot be written", {text});
-        break;
-    case StoreError::Reason::Missing:
-        complain(u"noch leer: {1}", u"still empty: {1}", {text});
-        break;
-    case StoreError::Reason::OtherProgram:
-        complain(u"das ist die Datenbank eines anderen Programms: {1}",
-                 u"this is the database of another program: {1}", {text});
-        break;
-    case StoreError::Reason::LaterVersion:
-        complain(u"die Datenbank ist von einer neueren Version des Masters: {1}",
-                 u"the database is of a later version of the master: {1}", {text});
-        break;
-    }
-}
-
-void complain(const MasterServer& server, const MasterServer::Address& address)
-{
-    const Variant::Array where{qt::addressText(address.address), std::int32_t{address.port}};
-    if (server.problem() == QAbstractSocket::AddressInUseError) {
-        complain(u"Port {2} ist schon belegt; läuft schon ein Master? --port wählt einen anderen",
-                 u"port {2} is in use already; is a master running? --port takes another one", where);
-    } else if (server.problem() == QAbstractSocket::SocketAddressNotAvailableError) {
-        complain(u"dieser Rechner hat die Adresse {1} nicht", u"this computer does not have the address {1}",
-                 where);
-    } else {
-        complain(u"Port {2} lässt sich nicht öffnen: {3}", u"port {2} cannot be opened: {3}",
-                 {where[0], where[1], qt::fromQt(server.problemText())});
-    }
+    ignoringErrors([] { QVAPP()->URL()->INITROOT({}, false); });
 }
 
 /// The folder of the score lists, which all users of the computer share where that is possible.
 fs::path usualFolder()
 {
     const auto& url = QVAPP()->URL();
-    ignoringErrors([&] { url->INITROOT({}, false); }); // without an installation there are still shared files
     const String folder = url->DATAHIGHSCORES();
     return nativePath(folder.empty() ? url->SHAREDFILES() + u"Highscores\\Master\\" : folder);
+}
+
+/// A file's name may begin with `~` where the shell has not seen it.
+std::optional<StorePlace> placeOf(const std::string& text)
+{
+    auto place = parseStorePlace(text);
+    if (place && !place->isServer()) {
+        place->file = typedPath(fromUtf8(text));
+    }
+    return place;
 }
 
 std::optional<StorePlace> databasePlace(const Options& options)
 {
     if (options.database) {
-        return parseStorePlace(*options.database);
+        return placeOf(*options.database);
     }
     if (!options.dataFolder) {
         const String stored = coreRoot().CoreRegistry().CoreRegistryRead().ReadString(
             SettingsHive::CurrentUser, settings::path(DatabaseSetting), {}, settings::TextLimit);
         if (!stored.empty()) {
-            return parseStorePlace(toUtf8(stored));
+            return placeOf(toUtf8(stored));
         }
     }
-    const fs::path folder = options.dataFolder ? fs::path(*options.dataFolder) : usualFolder();
+    const fs::path folder = options.dataFolder ? typedPath(fromUtf8(*options.dataFolder)) : usualFolder();
     return parseStorePlace((folder / toUtf8(DatabaseName)).string());
 }
 
@@ -225,59 +130,17 @@ void tellWhereItListens(const MasterServer& server, const QHostAddress& address)
     }
 }
 
-/// Commands one after the other, until one fails.
-bool runAll(Console& console, const std::vector<String>& commands)
+ServerLimits limitsOf(const Options& options)
 {
-    return std::ranges::all_of(
-        commands, [&](const String& command) { return console.run(command) == Console::Outcome::Done; });
+    constexpr std::size_t FilesOfItsOwn = 64;
+    ServerLimits limits;
+    limits.connections = std::min(limits.connections, allowManyOpenFiles() - FilesOfItsOwn);
+    limits.ofAddress = options.perComputer.value_or(limits.ofAddress);
+    return limits;
 }
 
-/// Reads commands until there is an end to them.
-class Dialogue
-{
-public:
-    Dialogue(Console& console, qt::DispatchGuard& guard)
-        : console_(console), guard_(guard),
-          input_([this](const std::string& line) { guard_.run([&] { take(line); }); }, [] { end(); })
-    {
-        if (ConsoleInput::isTerminal()) {
-            tell(std::cout, u"\"help\" zeigt die Befehle.", u"\"help\" lists the commands.");
-        }
-        prompt();
-    }
-
-private:
-    void take(const std::string& line)
-    {
-        if (console_.run(fromUtf8(line)) == Console::Outcome::Quit) {
-            QCoreApplication::quit();
-        } else {
-            prompt();
-        }
-    }
-
-    static void prompt()
-    {
-        if (ConsoleInput::isTerminal()) {
-            std::cout << "> " << std::flush;
-        }
-    }
-
-    /// A teacher who ends the input is done; a script whose input has ended is not.
-    static void end()
-    {
-        if (ConsoleInput::isTerminal()) {
-            std::cout << std::endl;
-            QCoreApplication::quit();
-        }
-    }
-
-    Console& console_;
-    qt::DispatchGuard& guard_;
-    ConsoleInput input_;
-};
-
-ExitStatus serve(const Options& options, Classroom& classroom, Console& console, qt::DispatchGuard& guard)
+ExitStatus serve(const Options& options, Room& room, const StorePlace& place,
+                 std::optional<Dialogue>& rDialogue, qt::DispatchGuard& guard)
 {
     MasterServer::Address address;
     address.port = options.port.value_or(address.port);
@@ -286,44 +149,79 @@ ExitStatus serve(const Options& options, Classroom& classroom, Console& console,
         complain(u"das ist keine Adresse: {1}", u"this is no address: {1}", {fromUtf8(*options.listen)});
         return WrongUse;
     }
-    constexpr std::size_t FilesOfItsOwn = 64;
-    ServerLimits limits;
-    limits.connections = std::min(limits.connections, allowManyOpenFiles() - FilesOfItsOwn);
-    const auto complainOnce = [](const std::string& trouble) { complain(StoreError(trouble)); };
-    MasterServer server(classroom, *SessionState::current().platform().clock, limits, guard, complainOnce);
+    MasterServer server(room.classroom(), room.desk(), *SessionState::current().platform().clock,
+                        limitsOf(options), room.notices(), guard);
     if (!server.listen(address)) {
         complain(server, address);
         return NoPort;
     }
     tellWhereItListens(server, address.address);
-    std::optional<Dialogue> dialogue;
+    tell(std::cout, u"Gespeichert wird in {1}", u"Everything is kept in {1}", {fromUtf8(place.shown())});
+    const EndSignals signals([] { QCoreApplication::quit(); });
     if (!options.serve) {
-        dialogue.emplace(console, guard);
+        rDialogue.emplace(room.console(), guard);
     }
+    room.keepHouse();
     QCoreApplication::exec();
+    server.stopListening();
+    room.finish();
+    rDialogue.reset(); // its last command may have been under way
     return Success;
 }
 
-ExitStatus runWith(const Options& options, const StorePlace& place, qt::DispatchGuard& guard)
+/// The room, also beside a master that runs when there is only something to be set or looked at.
+std::unique_ptr<Room> roomFor(const Options& options, const StorePlace& place, qt::DispatchGuard& guard,
+                              const Room::Say& say)
 {
+    const std::size_t ofComputer = limitsOf(options).ofAddress;
     const bool changes = options.servesAfterwards() || !options.settings.empty();
-    SqlStore store(place, changes ? StoreUse::Serve : StoreUse::Look);
-    if (!store.keptAside().empty()) {
+    try {
+        return std::make_unique<Room>(place, changes ? StoreUse::Serve : StoreUse::Look, ofComputer, guard,
+                                      say);
+    } catch (const StoreError& error) {
+        if (options.servesAfterwards() || error.reason() != StoreError::Reason::InUse) {
+            throw;
+        }
+    }
+    return std::make_unique<Room>(place, StoreUse::Change, ofComputer, guard, say);
+}
+
+ExitStatus runIn(Room& room, const Options& options, const StorePlace& place,
+                 std::optional<Dialogue>& rDialogue, qt::DispatchGuard& guard)
+{
+    if (!room.keptAside().empty()) {
         complain(u"die Datenbank ist beschädigt und wird aufgehoben als {1}; der Master beginnt eine neue",
                  u"the database is damaged and is kept as {1}; the master begins a new one",
-                 {fromUtf8(store.keptAside().string())});
+                 {fromUtf8(room.keptAside().string())});
     }
-    const Platform& platform = SessionState::current().platform();
-    Classroom classroom(store, *platform.clock);
-    Console console(classroom, store, *platform.files, std::cout);
-    if (!runAll(console, options.settings) || !runAll(console, options.reports)) {
+    if (!room.runAll(options.settings) || !room.runAll(options.reports)) {
         return Failed;
     }
     if (!options.servesAfterwards()) {
         return Success;
     }
-    classroom.forgetOld();
-    return serve(options, classroom, console, guard);
+    return serve(options, room, place, rDialogue, guard);
+}
+
+ExitStatus runWith(const Options& options, const StorePlace& place, qt::DispatchGuard& guard)
+{
+    std::optional<Dialogue> dialogue;
+    const auto say = [&dialogue](const String& line) {
+        if (dialogue) {
+            dialogue->say(line);
+        } else {
+            complain(line, line);
+        }
+    };
+    const auto room = roomFor(options, place, guard, say);
+    const ExitStatus status = runIn(*room, options, place, dialogue, guard);
+    if (!room->close()) {
+        complain(u"die Datenbank antwortet nicht; was Schülern bestätigt wurde, ist gespeichert",
+                 u"the database does not answer; what pupils were told is stored is stored");
+        std::cout.flush();
+        std::_Exit(status); // its thread waits for it still
+    }
+    return status;
 }
 
 } // namespace
@@ -339,9 +237,10 @@ int runMaster(std::span<const std::string> arguments)
         return WrongUse;
     }
     if (options.help) {
-        std::cout << toUtf8(LNG()->TRANSLATE(HelpGerman, HelpEnglish));
+        tellHelp(std::cout);
         return Success;
     }
+    findInstallation();
     const auto place = databasePlace(options);
     if (!place) {
         complain(u"das ist weder eine Datei noch eine Datenbank auf einem Server",

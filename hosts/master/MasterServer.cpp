@@ -1,5 +1,8 @@
 #include "master/MasterServer.h"
 
+#include "core/NumberText.h"
+#include "master/Seats.h"
+#include "master/StreamSocket.h"
 #include "qt/base/NetAddress.h"
 #include "server/Announcement.h"
 #include "server/WireText.h"
@@ -18,9 +21,7 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr std::size_t MaxBatch = 1000;
 constexpr auto CheckInterval = 1s;
-constexpr auto ForgettingInterval = 1h;
 
 bool isLogOn(const String& text)
 {
@@ -31,10 +32,23 @@ bool isLogOn(const String& text)
 
 } // namespace
 
-MasterServer::MasterServer(Classroom& classroom, const Clock& clock, const ServerLimits& limits,
-                           qt::DispatchGuard& guard, std::function<void(const std::string&)> tell)
-    : classroom_(classroom), clock_(clock), limits_(limits), guard_(guard), tell_(std::move(tell)),
-      questions_(limits.questionsPerSecond, limits.questionsAtOnce)
+struct MasterServer::Client {
+    Client(std::unique_ptr<StreamSocket> socket, const ServerLimits& limits, std::function<double()> now)
+        : connection(std::move(socket), limits, std::move(now))
+    {
+    }
+
+    ClientConnection connection;
+    /// Who sends over it.
+    std::optional<std::uint64_t> sender;
+    bool isScheduled = false;
+};
+
+MasterServer::MasterServer(Classroom& classroom, StoreDesk& desk, const Clock& clock,
+                           const ServerLimits& limits, Notices& notices, qt::DispatchGuard& guard)
+    : classroom_(classroom), desk_(desk), clock_(clock), limits_(limits), notices_(notices), guard_(guard),
+      questions_(limits.questionsPerSecond, limits.questionsAtOnce),
+      server_([this](qintptr descriptor) { guard_.run([&] { takeIn(descriptor); }); })
 {
     turn_.setSingleShot(true);
     const auto call = [this](void (MasterServer::*handler)()) {
@@ -42,8 +56,6 @@ MasterServer::MasterServer(Classroom& classroom, const Clock& clock, const Serve
     };
     QObject::connect(&turn_, &QTimer::timeout, &turn_, call(&MasterServer::runTurn));
     QObject::connect(&check_, &QTimer::timeout, &check_, call(&MasterServer::checkClients));
-    QObject::connect(&forgetting_, &QTimer::timeout, &forgetting_, call(&MasterServer::forgetOld));
-    QObject::connect(&server_, &QTcpServer::newConnection, &server_, call(&MasterServer::takeInClients));
     QObject::connect(&datagrams_, &QUdpSocket::readyRead, &datagrams_, call(&MasterServer::answerQuestions));
 }
 
@@ -59,157 +71,171 @@ bool MasterServer::listen(const Address& address)
         datagrams_.bind(address.address, address.udpPort, QAbstractSocket::DontShareAddress);
     }
     check_.start(CheckInterval);
-    forgetting_.start(ForgettingInterval);
     return true;
 }
 
-void MasterServer::takeInClients()
+void MasterServer::stopListening()
 {
-    while (QTcpSocket* socket = server_.nextPendingConnection()) {
-        std::unique_ptr<QTcpSocket> owned(socket);
-        if (clients_.size() >= limits_.connections) {
-            dropClosed();
-        }
-        if (clients_.size() >= limits_.connections) {
-            owned->abort();
-            continue;
-        }
-        auto client = std::make_shared<ClientConnection>(std::move(owned), limits_,
-                                                         [this] { return clock_.seconds(); });
-        clients_.push_back(client);
-        const std::weak_ptr<ClientConnection> weak = client;
-        client->onReadable([this, weak] { schedule(weak.lock()); });
-        if (client->hasMore()) {
-            schedule(client);
-        }
+    isStopping_ = true;
+    server_.close();
+    datagrams_.close();
+}
+
+std::size_t MasterServer::connections() const
+{
+    return static_cast<std::size_t>(
+        std::ranges::count_if(clients_, [](const auto& client) { return client->connection.isOpen(); }));
+}
+
+void MasterServer::takeIn(qintptr descriptor)
+{
+    auto client = std::make_shared<Client>(std::make_unique<StreamSocket>(descriptor), limits_,
+                                           [this] { return clock_.seconds(); });
+    if (!makeRoomFor(client->connection.peerAddress())) {
+        return;
+    }
+    clients_.push_back(client);
+    const std::weak_ptr<Client> weak = client;
+    client->connection.onReports({[this, weak] { schedule(weak.lock()); },
+                                  [this, weak](std::optional<Notice> reason, bool hasLeft) {
+                                      if (const auto closed = weak.lock()) {
+                                          clientClosed(*closed, reason, hasLeft);
+                                      }
+                                  }});
+}
+
+bool MasterServer::makeRoomFor(const String& address)
+{
+    dropClosed();
+    std::vector<Seat> seats;
+    seats.reserve(clients_.size());
+    for (const auto& client : clients_) {
+        const ClientConnection& connection = client->connection;
+        seats.push_back({connection.peerAddress(), connection.heard(), connection.isBusy()});
+    }
+    const Seating seating = seatingFor(address, seats, limits_.ofAddress, limits_.connections);
+    if (seating.addressIsFull) {
+        notices_.tell({Notice::ManyConnections, {address}});
+    } else if (seating.allAreFull) {
+        notices_.tell({Notice::NoMoreConnections, {plainText(static_cast<std::int32_t>(seats.size()))}});
+    }
+    if (seating.leaves) {
+        clients_[*seating.leaves]->connection.makeRoom();
+    }
+    return seating.isAdmitted;
+}
+
+void MasterServer::clientClosed(Client& client, std::optional<Notice> reason, bool hasLeft)
+{
+    if (reason) {
+        notices_.tell({*reason, {client.connection.peerAddress()}});
+    }
+    if (client.sender) {
+        classroom_.roster().disconnect(*client.sender, hasLeft);
+        client.sender.reset();
     }
 }
 
-void MasterServer::schedule(const std::shared_ptr<ClientConnection>& client)
+void MasterServer::schedule(const std::shared_ptr<Client>& client)
 {
-    if (client && std::ranges::find(readable_, client) == readable_.end()) {
+    if (client && !client->isScheduled && !isStopping_) {
+        client->isScheduled = true;
         readable_.push_back(client);
     }
-    if (!turn_.isActive()) {
+    if (!readable_.empty() && !turn_.isActive()) {
         turn_.start(0);
     }
 }
 
 void MasterServer::runTurn()
 {
-    std::vector<Pending> batch = takeRequests();
-    answerTogether(batch);
-    for (const Pending& pending : batch) {
-        if (pending.isAnswered && !pending.frame.unawaited) {
-            pending.client->answer(pending.frame.id, pending.answer);
-        }
-    }
-    keepWithinMemory();
-    if (!readable_.empty()) {
-        turn_.start(0);
-    }
-}
-
-std::vector<MasterServer::Pending> MasterServer::takeRequests()
-{
-    std::vector<Pending> batch;
-    std::vector<std::shared_ptr<ClientConnection>> later;
     for (const auto& client : std::exchange(readable_, {})) {
-        for (std::size_t taken = 0; taken < limits_.messagesPerTurn && batch.size() < MaxBatch; ++taken) {
-            auto frame = client->nextRequest();
-            if (!frame) {
-                break;
-            }
-            batch.push_back({client, *std::move(frame), {}});
-        }
-        if (client->hasMore()) {
-            later.push_back(client);
-        }
+        client->isScheduled = false;
+        takeRequests(client);
     }
-    readable_.insert(readable_.begin(), later.begin(), later.end());
-    return batch;
+    desk_.start();
+    keepWithinMemory();
 }
 
-void MasterServer::answerTogether(std::vector<Pending>& batch)
+void MasterServer::takeRequests(const std::shared_ptr<Client>& client)
 {
-    if (batch.empty()) {
+    for (std::size_t taken = 0; taken < limits_.underWay; ++taken) {
+        const auto frame = client->connection.nextRequest();
+        if (!frame) {
+            return;
+        }
+        receive(client, *frame);
+    }
+    if (client->connection.hasMore()) {
+        schedule(client);
+    }
+}
+
+void MasterServer::receive(const std::shared_ptr<Client>& client, const Frame& frame)
+{
+    ClientConnection& connection = client->connection;
+    if (client->sender != frame.id.sender) {
+        if (client->sender) {
+            classroom_.roster().disconnect(*client->sender, false);
+        }
+        client->sender = frame.id.sender;
+        classroom_.roster().connect(frame.id.sender);
+    }
+    if (isLogOn(frame.text) && !connection.mayLogOn()) {
+        notices_.tell({Notice::ManyLogOns, {connection.peerAddress()}});
+        connection.answer(frame.id, answerText(u"ERROR"));
         return;
     }
-    try {
-        for (Pending& pending : batch) {
-            answer(pending);
-        }
-        classroom_.commit();
-        toldTrouble_.clear();
-    } catch (const StoreError& error) {
-        undo(error.what());
-        answerAlone(batch);
-    }
+    const Asked asking{frame.id, frame.unawaited};
+    classroom_.receive({frame.id, connection.peerAddress(), placeFor(connection.ownAddress())}, frame.text,
+                       [this, weak = std::weak_ptr(client), asking](const AnswerText& answer) {
+                           if (const auto asked = weak.lock()) {
+                               reply(*asked, asking, answer);
+                               if (asked->connection.hasMore()) {
+                                   schedule(asked);
+                               }
+                           }
+                       });
 }
 
-void MasterServer::answerAlone(std::vector<Pending>& batch)
+void MasterServer::reply(Client& client, const Asked& asked, const AnswerText& answer)
 {
-    for (Pending& pending : batch) {
-        pending.isAnswered = false;
-        try {
-            answer(pending);
-            classroom_.commit();
-        } catch (const StoreError& error) {
-            pending.isAnswered = false;
-            undo(error.what());
-        }
+    if (asked.unawaited) {
+        client.connection.drop();
+        return;
     }
-}
-
-void MasterServer::answer(Pending& pending)
-{
-    ClientConnection& client = *pending.client;
-    if (isLogOn(pending.frame.text) && !client.mayLogOn()) {
-        pending.answer = answerText(u"ERROR");
-    } else {
-        pending.answer = classroom_.answer(
-            {pending.frame.id, client.peerAddress(), placeFor(client.ownAddress())}, pending.frame.text);
-    }
-    pending.isAnswered = true;
-}
-
-void MasterServer::undo(const std::string& trouble)
-{
-    if (trouble != toldTrouble_) {
-        toldTrouble_ = trouble; // once, not for each request of a lesson
-        tell_(trouble);
-    }
-    try {
-        classroom_.undo();
-    } catch (const StoreError&) {
-        return; // the store is out of reach; the next request tries again
+    client.connection.answer(asked.id, *answer);
+    answeredBytes_ += answer->size();
+    if (answeredBytes_ > limits_.heldBytes / 4) {
+        keepWithinMemory();
     }
 }
 
 void MasterServer::checkClients()
 {
     for (const auto& client : clients_) {
-        client->checkTimes();
+        client->connection.checkTimes();
     }
     dropClosed();
 }
 
 void MasterServer::dropClosed()
 {
-    std::erase_if(clients_, [](const auto& client) { return !client->isOpen(); });
+    std::erase_if(clients_, [](const auto& client) { return !client->connection.isOpen(); });
 }
 
 void MasterServer::keepWithinMemory()
 {
+    answeredBytes_ = 0;
     std::size_t sum = 0;
     for (const auto& client : clients_) {
-        sum += client->heldBytes();
+        sum += client->connection.heldBytes();
     }
     while (sum > limits_.heldBytes) {
-        const auto largest =
-            std::ranges::max_element(clients_, {}, [](const auto& client) { return client->heldBytes(); });
-        sum -= (*largest)->heldBytes();
-        (*largest)->cutOff();
+        const auto largest = std::ranges::max_element(
+            clients_, {}, [](const auto& client) { return client->connection.heldBytes(); });
+        sum -= (*largest)->connection.heldBytes();
+        (*largest)->connection.cutOff(Notice::MemoryShort);
         clients_.erase(largest);
     }
 }
@@ -244,15 +270,6 @@ QHostAddress MasterServer::ownAddressFor(const QNetworkDatagram& question) const
         }
     }
     return asked.isNull() || asked.isBroadcast() || asked.isMulticast() ? bound : asked;
-}
-
-void MasterServer::forgetOld()
-{
-    try {
-        classroom_.forgetOld();
-    } catch (const StoreError& error) {
-        undo(error.what());
-    }
 }
 
 MasterPlace MasterServer::placeFor(const String& ownAddress) const

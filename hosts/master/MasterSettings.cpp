@@ -1,7 +1,6 @@
 #include "master/MasterSettings.h"
 
 #include "core/NumberText.h"
-#include "master/HighscoreLists.h"
 #include "master/Packages.h"
 
 #include <algorithm>
@@ -50,7 +49,7 @@ bool isListLength(StringView text)
 {
     const NumberAtStart number = numberAtStart(text);
     return number.length == text.size() && number.value >= 1 &&
-           number.value <= HighscoreLists::MaxListLength && number.value == static_cast<int>(number.value);
+           number.value <= MasterSettings::MaxListLength && number.value == static_cast<int>(number.value);
 }
 
 /// Signs that divide packed texts take more room there.
@@ -63,7 +62,7 @@ bool fitsWhenHandedOut(const String& welcome)
 }
 
 /// The value as its setting's kind has it, from the text that is kept.
-Variant kept(StringView name, const String& text)
+Variant asKind(StringView name, const String& text)
 {
     if (isBoolean(name)) {
         return typedBoolean(text).value_or(true);
@@ -73,21 +72,18 @@ Variant kept(StringView name, const String& text)
 
 } // namespace
 
-MasterSettings::MasterSettings(MasterStore& store) : store_(store)
+MasterSettings::MasterSettings(const Texts& kept)
 {
-    load();
+    for (const auto& [name, text] : kept) {
+        values_.Set(name, asKind(name, text));
+    }
 }
 
-MasterSettings::Problem MasterSettings::set(StringView name, StringView value)
+MasterSettings::Change MasterSettings::changeTo(StringView name, StringView value) const
 {
-    const String key = upperCase(cleaned(name, MaxNameLength + 1));
-    const String text = cleaned(value, MaxValueLength + 1);
-    const Problem problem = problemOf(key, text);
-    if (problem == Problem::None) {
-        store_.keepSetting(key, text.empty() ? std::nullopt : std::optional(text));
-        load();
-    }
-    return problem;
+    Change change{upperCase(cleaned(name, MaxNameLength + 1)), cleaned(value, MaxValueLength + 1)};
+    change.problem = problemOf(change.name, change.text);
+    return change;
 }
 
 MasterSettings::Problem MasterSettings::problemOf(const String& key, const String& text) const
@@ -132,12 +128,23 @@ std::shared_ptr<CoreParameters> MasterSettings::handedOut() const
     return out;
 }
 
-void MasterSettings::load()
+bool MasterSettings::hasListRules(StringView module) const
 {
-    values_.Clear();
-    for (const auto& [name, text] : store_.settings()) {
-        values_.Set(name, kept(name, text));
-    }
+    return values_.Exists(String(module) + String(ListLengthEnding)) ||
+           values_.Exists(String(module) + String(OnceEnding));
+}
+
+std::int32_t MasterSettings::listLength(StringView module) const
+{
+    const NumberAtStart most = numberAtStart(values_.Get(String(module) + String(ListLengthEnding)).toText());
+    const bool isSet = most.length > 0;
+    return isSet ? static_cast<std::int32_t>(std::clamp(most.value, 1.0, double{MaxListLength}))
+                 : UsualListLength;
+}
+
+bool MasterSettings::keepsBestOnly(StringView module) const
+{
+    return values_.Get(String(module) + String(OnceEnding), false).toBoolean();
 }
 
 } // namespace phial::master

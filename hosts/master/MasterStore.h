@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -28,6 +27,8 @@ public:
         Missing,
         OtherProgram,
         LaterVersion,
+        /// The database cannot be reached; the text is its own.
+        Unreachable,
     };
 
     explicit StoreError(const std::string& text, Reason reason = Reason::Database)
@@ -63,6 +64,12 @@ struct Result {
     friend bool operator==(const Result&, const Result&) = default;
 };
 
+/// A result with the number under which it is kept.
+struct KeptResult {
+    std::int32_t number = 0;
+    Result result;
+};
+
 /// What a pupil did.
 struct PupilEvent {
     Moment at;
@@ -86,6 +93,32 @@ struct LogOn {
     friend bool operator==(const LogOn&, const LogOn&) = default;
 };
 
+/// What the teacher, or the master for him, has changed of what was kept.
+struct Change {
+    Moment at;
+    /// The command, such as `remove`.
+    String action;
+    /// What it was done to, as it stood before.
+    String about;
+
+    friend bool operator==(const Change&, const Change&) = default;
+};
+
+/// A module's list: which computer sent the first entry of it, and when.
+struct ListOrigin {
+    String module;
+    String address;
+    Moment at;
+
+    friend bool operator==(const ListOrigin&, const ListOrigin&) = default;
+};
+
+/// A name under which results were handed in, and when the latest was.
+struct HandedIn {
+    String screenName;
+    Moment latest;
+};
+
 /// Where the master keeps what must outlive it.
 ///
 /// Changes gather in one transaction, which begins with the first of them: `commit` makes them last, all or
@@ -104,8 +137,9 @@ public:
     /// The answer that a message got when it was taken in; none for one that was not.
     virtual std::optional<String> answerTo(const FrameId& id) = 0;
     virtual void keepAnswer(const FrameId& id, const String& answer, Moment at) = 0;
-    /// Drops answers from before that moment, and those beyond the latest `keep`.
-    virtual void forgetAnswers(Moment before, std::size_t keep) = 0;
+    /// Drops answers from before that moment, and those beyond the latest `keep`, but at most so many at a
+    /// time; gives how many.
+    virtual std::size_t forgetAnswers(Moment before, std::size_t keep, std::size_t atMost) = 0;
 
     virtual void addResult(const Result& result) = 0;
     /// A result that was sent for a module's list, with the rank that was answered.
@@ -113,15 +147,31 @@ public:
     virtual void addEvent(const PupilEvent& event) = 0;
 
     /// The latest ones, at most so many, in the order in which they came.
-    virtual std::vector<Result> latestResults(std::size_t atMost) = 0;
+    virtual std::vector<KeptResult> latestResults(std::size_t atMost) = 0;
     virtual std::vector<PupilEvent> latestEvents(std::size_t atMost) = 0;
-    /// All results in the order in which they came, one after the other.
-    virtual void visitResults(const std::function<void(const Result&)>& visit) = 0;
+    virtual std::vector<Change> latestChanges(std::size_t atMost) = 0;
+    /// The results that came behind the one of that number, at most so many, in their order.
+    virtual std::vector<KeptResult> resultsAfter(std::int32_t number, std::size_t atMost) = 0;
+    virtual std::optional<Result> result(std::int32_t number) = 0;
+    virtual void removeResult(std::int32_t number) = 0;
+    /// Who has handed in results since then.
+    virtual std::vector<HandedIn> handedInSince(Moment since) = 0;
+
+    /// All screen names that stand anywhere but in lists. Under the new name everything that stood under the
+    /// old one stands from then on.
+    virtual std::vector<String> screenNames() = 0;
+    virtual void renamePupil(const String& from, const String& to) = 0;
+    virtual void addChange(const Change& change) = 0;
 
     /// The modules that have a list, sorted; a module's list in its one-text form.
     virtual std::vector<String> modules() = 0;
     virtual std::optional<String> scoreList(const String& module) = 0;
     virtual void keepScoreList(const String& module, const String& list) = 0;
+    /// Takes the list and its origin away.
+    virtual void removeScoreList(const String& module) = 0;
+    /// Where lists come from, as far as it is known.
+    virtual std::vector<ListOrigin> listOrigins() = 0;
+    virtual void keepListOrigin(const ListOrigin& origin) = 0;
 
     /// The master's settings, sorted by name. Without a value a setting goes.
     virtual std::vector<std::pair<String, String>> settings() = 0;

@@ -14,15 +14,22 @@ namespace
 using Problem = OptionProblem::Kind;
 using Outcome = std::optional<Problem>;
 
-Outcome readPort(const std::string& value, std::optional<std::uint16_t>& port)
+/// A number of 16 bits from `least` on.
+Outcome readNumber(const std::string& value, std::uint16_t least, Problem otherwise,
+                   std::optional<std::uint16_t>& rNumber)
 {
     std::uint16_t number = 0;
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
-    if (error != std::errc() || end != value.data() + value.size()) {
-        return Problem::NoPort;
+    if (error != std::errc() || end != value.data() + value.size() || number < least) {
+        return otherwise;
     }
-    port = number;
+    rNumber = number;
     return std::nullopt;
+}
+
+Outcome readPort(const std::string& value, std::optional<std::uint16_t>& rPort)
+{
+    return readNumber(value, 0, Problem::NoPort, rPort);
 }
 
 Outcome set(Options& options, const std::string& value)
@@ -46,6 +53,9 @@ constexpr std::array Switches{
     Switch{"--remember", [](Options& options) { options.remember = true; }},
     Switch{"--pupils", [](Options& options) { options.reports.emplace_back(u"pupils"); }},
     Switch{"--results", [](Options& options) { options.reports.emplace_back(u"results"); }},
+    Switch{"--missing", [](Options& options) { options.reports.emplace_back(u"results --missing"); }},
+    Switch{"--settings", [](Options& options) { options.reports.emplace_back(u"set"); }},
+    Switch{"--changes", [](Options& options) { options.reports.emplace_back(u"changes"); }},
     Switch{"--events", [](Options& options) { options.reports.emplace_back(u"events"); }},
 };
 
@@ -77,6 +87,10 @@ constexpr std::array ValuedOptions{
            [](Options& options, const std::string& value) { return readPort(value, options.port); }},
     Valued{"--udp",
            [](Options& options, const std::string& value) { return readPort(value, options.udpPort); }},
+    Valued{"--per-computer",
+           [](Options& options, const std::string& value) {
+               return readNumber(value, 1, Problem::NoCount, options.perComputer);
+           }},
     Valued{"--set", set},
     Valued{"--app",
            [](Options& options, const std::string& value) -> Outcome {

@@ -22,6 +22,8 @@ struct Options {
     std::optional<std::string> listen;
     std::optional<std::uint16_t> port;
     std::optional<std::uint16_t> udpPort;
+    /// Connections of one computer.
+    std::optional<std::uint16_t> perComputer;
     std::optional<std::string> database;
     std::optional<std::string> dataFolder;
     /// Commands as they would be typed: those that set something, which run before anything else, and those
@@ -34,7 +36,7 @@ struct Options {
 
 /// An argument that makes no sense.
 struct OptionProblem {
-    enum class Kind { Unknown, NoValue, NoPort, NoAssignment };
+    enum class Kind { Unknown, NoValue, NoPort, NoCount, NoAssignment };
     Kind kind;
     std::string argument;
 };

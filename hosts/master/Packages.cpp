@@ -6,8 +6,6 @@
 #include "core/Variant.h"
 #include "master/CodePoints.h"
 
-#include <cmath>
-
 namespace phial::master
 {
 
@@ -31,11 +29,11 @@ StringView cut(StringView text, std::size_t maxLength)
     return text.substr(0, withinSign ? maxLength - 1 : maxLength);
 }
 
-double finite(const Variant& value)
+double possible(const Variant& value, double least)
 {
     const double number = value.toReal();
-    if (!std::isfinite(number)) {
-        throw RuntimeError(ErrorNumber::InvalidArgument);
+    if (!(number >= least && number <= MaxPoints)) { // nor what is no number
+        throw RuntimeError(ErrorNumber::Overflow);
     }
     return number;
 }
@@ -93,9 +91,14 @@ Result unpackResult(StringView package, Moment at)
     return {at,
             sender(screenName, computer, userName),
             cleaned(exercise.text(), MaxLabelLength),
-            finite(points),
-            finite(pointsMax),
+            possible(points, -MaxPoints),
+            possible(pointsMax, 0),
             packedAnew(additional)};
+}
+
+bool isImplausible(double points, double pointsMax)
+{
+    return points > pointsMax;
 }
 
 PupilEvent unpackEvent(StringView package, Moment at)

@@ -7,8 +7,10 @@ namespace phial::master
 
 /// What the master takes from clients at most; docs/master.md tells why each is what it is.
 struct ServerLimits {
-    /// Connections at a time; further ones are closed at once.
+    /// Connections at a time, in all and of one address. For one more the one that was silent for longest is
+    /// closed: of that address, or of those who have most.
     std::size_t connections = 2000;
+    std::size_t ofAddress = 64;
     /// UTF-8 bytes of one message.
     std::size_t messageBytes = std::size_t{256} << 10;
     /// Bytes of all unfinished messages and untaken answers together. Beyond that the connection that holds
@@ -25,8 +27,8 @@ struct ServerLimits {
     /// with `ERROR`.
     double logOnsAtOnce = 10;
     double logOnsPerSecond = 0.2;
-    /// Messages of one connection that are taken in one turn, before it is the others' turn.
-    std::size_t messagesPerTurn = 16;
+    /// Messages of one connection that are under way; the next one is taken when one is answered.
+    std::size_t underWay = 16;
     /// Questions by datagram that are answered: so many at once, and so many a second in the long run.
     double questionsAtOnce = 100;
     double questionsPerSecond = 50;

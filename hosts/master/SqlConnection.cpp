@@ -13,6 +13,9 @@
 #include <QSqlError>
 #include <QVariant>
 
+#include <array>
+#include <atomic>
+
 namespace phial::master
 {
 
@@ -34,14 +37,22 @@ constexpr double SecondsBetweenTries = 0.05;
 constexpr int CorruptFile = 11;
 constexpr int NoDatabaseFile = 26;
 
-[[noreturn]] void fail(const QSqlError& error)
+/// What the database keeps beside its file while it is used, and after a process was killed.
+constexpr std::array<const char*, 2> Companions{"-wal", "-shm"};
+
+/// A server that has vanished is missed after some 20 seconds, whoever waits for what.
+constexpr const char* ServerOptions = "connect_timeout=5;keepalives_idle=10;keepalives_interval=5;"
+                                      "keepalives_count=2;tcp_user_timeout=20000";
+
+[[noreturn]] void fail(const QSqlError& error, StoreError::Reason reason = StoreError::Reason::Database)
 {
-    throw StoreError(error.text().trimmed().toStdString());
+    throw StoreError(error.text().trimmed().toStdString(), reason);
 }
 
+/// Connections are made on several threads.
 QString newName()
 {
-    static int count = 0;
+    static std::atomic<int> count = 0;
     return QStringLiteral("phial-master-%1").arg(++count);
 }
 
@@ -65,7 +76,7 @@ std::optional<FileTrouble> openSound(QSqlDatabase& database, StoreUse use)
         return troubleOf(database.lastError());
     }
     QSqlQuery query(database);
-    if (use == StoreUse::Serve) {
+    if (use != StoreUse::Look) {
         for (const char* setting : {"PRAGMA journal_mode = WAL", "PRAGMA synchronous = FULL"}) {
             if (!query.exec(QLatin1String(setting))) {
                 return troubleOf(query.lastError());
@@ -80,11 +91,23 @@ std::optional<FileTrouble> openSound(QSqlDatabase& database, StoreUse use)
                                           : std::optional(FileTrouble{true, verdict.toStdString()});
 }
 
-/// Only the user who runs the master reads what pupils sent.
-void keepPrivate(const fs::path& file)
+/// Only the user who runs the master reads what pupils sent. A new file is made before the database opens it,
+/// which gives its companions the rights that it finds; those that a killed process has left keep theirs.
+void keepPrivate(const fs::path& file, StoreUse use)
 {
+    if (use == StoreUse::Serve && !fs::exists(file)) {
+        QFile made(QFile::decodeName(file.string().c_str()));
+        if (!made.open(QIODevice::NewOnly | QIODevice::WriteOnly,
+                       QFileDevice::ReadOwner | QFileDevice::WriteOwner)) {
+            return; // the database will tell
+        }
+    }
     std::error_code ignored;
-    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write, ignored);
+    const auto onlyOwner = fs::perms::owner_read | fs::perms::owner_write;
+    fs::permissions(file, onlyOwner, ignored);
+    for (const char* companion : Companions) {
+        fs::permissions(fs::path(file) += companion, onlyOwner, ignored);
+    }
 }
 
 } // namespace
@@ -151,7 +174,7 @@ void SqlConnection::open()
 
 void SqlConnection::openFile()
 {
-    if (use_ == StoreUse::Look && !fs::exists(place_.file)) {
+    if (use_ != StoreUse::Serve && !fs::exists(place_.file)) {
         throw StoreError(place_.shown(), StoreError::Reason::Missing);
     }
     if (use_ == StoreUse::Serve && !keeper_) {
@@ -159,6 +182,7 @@ void SqlConnection::openFile()
         fs::create_directories(place_.file.parent_path(), ignored);
         keeper_ = std::make_unique<Keeper>(place_.file);
     }
+    keepPrivate(place_.file, use_);
     std::optional<FileTrouble> trouble;
     {
         QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
@@ -169,10 +193,9 @@ void SqlConnection::openFile()
         trouble = openSound(database, use_);
     }
     if (!trouble) {
-        keepPrivate(place_.file);
         return;
     }
-    if (!trouble->isDamaged || use_ == StoreUse::Look || !keptAside_.empty()) {
+    if (!trouble->isDamaged || use_ != StoreUse::Serve || !keptAside_.empty()) {
         throw StoreError(trouble->text);
     }
     close();
@@ -187,7 +210,7 @@ void SqlConnection::keepDamagedFile(const std::string& trouble)
     if (!ignoringErrors([&] { keptAside_ = moveAside(files, place_.file); })) {
         throw StoreError(trouble);
     }
-    for (const char* companion : {"-wal", "-shm"}) {
+    for (const char* companion : Companions) {
         std::error_code ignored;
         fs::rename(fs::path(place_.file) += companion, fs::path(keptAside_) += companion, ignored);
     }
@@ -202,9 +225,9 @@ void SqlConnection::openServer()
         database.setDatabaseName(QString::fromStdString(place_.database));
         database.setUserName(QString::fromStdString(place_.user));
         database.setPassword(QString::fromStdString(place_.password));
-        database.setConnectOptions(QStringLiteral("connect_timeout=5"));
+        database.setConnectOptions(QLatin1String(ServerOptions));
         if (!database.open()) {
-            fail(database.lastError());
+            fail(database.lastError(), StoreError::Reason::Unreachable);
         }
     }
     plain(QStringLiteral("SET client_min_messages = error"));

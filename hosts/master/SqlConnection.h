@@ -23,6 +23,8 @@ namespace phial::master
 enum class StoreUse {
     /// Makes what is missing and keeps other masters out.
     Serve,
+    /// Reads and writes beside a master that runs, which sees what has changed.
+    Change,
     /// Reads beside a master that runs.
     Look,
 };
@@ -30,8 +32,10 @@ enum class StoreUse {
 /// A database that statements are asked of: a SQLite file (write-ahead log, each commit flushed to the disk)
 /// or a PostgreSQL server. All failures raise StoreError.
 ///
-/// A file that is no database, or a damaged one, is renamed and kept, and a new one begins. A server's
-/// connection that is lost makes the transaction fail, and the next statement connects anew.
+/// A file that is no database, or a damaged one, is renamed and kept, and a new one begins. Only the user
+/// reads it and what the database keeps beside it, from the first byte on. A server's connection that is lost
+/// makes the transaction fail, and the next statement connects anew. A connection belongs to the thread that
+/// has made it.
 class SqlConnection
 {
 public:

@@ -84,6 +84,11 @@ Result resultOf(const QSqlQuery& row)
             row.value(5).toDouble(), row.value(6).toDouble(), textOf(row, 7)};
 }
 
+KeptResult keptResultOf(const QSqlQuery& row)
+{
+    return {row.value(8).toInt(), resultOf(row)};
+}
+
 PupilEvent eventOf(const QSqlQuery& row)
 {
     return {momentOf(row.value(0)), senderOf(row), textOf(row, 4), textOf(row, 5)};
@@ -129,17 +134,31 @@ void SqlStore::prepareTables(StoreUse use)
     if (version > SchemaVersion) {
         throw StoreError(database_.place().shown(), StoreError::Reason::LaterVersion);
     }
-    if (version == SchemaVersion) {
+    if (use != StoreUse::Serve) {
+        if (version != SchemaVersion) {
+            throw StoreError(database_.place().shown(), StoreError::Reason::Missing);
+        }
         return;
     }
-    if (use == StoreUse::Look) {
-        throw StoreError(database_.place().shown(), StoreError::Reason::Missing);
+    if (version != SchemaVersion) {
+        for (const char* statement : tables::Create) {
+            database_.change(statement);
+        }
+        database_.change(tables::KeepState, {text(SchemaState), QString::number(SchemaVersion)});
     }
-    for (const char* statement : tables::Create) {
+    for (const char* statement : tables::CreateLater) {
         database_.change(statement);
     }
-    database_.change(tables::KeepState, {text(SchemaState), QString::number(SchemaVersion)});
     database_.commit();
+}
+
+/// Whoever only looks may have found a database of before.
+bool SqlStore::hasLaterTables()
+{
+    if (!hasLaterTables_) {
+        hasLaterTables_ = database_.hasTable(QStringLiteral("changes"));
+    }
+    return *hasLaterTables_;
 }
 
 int SqlStore::storedVersion()
@@ -192,9 +211,16 @@ void SqlStore::keepAnswer(const FrameId& id, const String& answer, Moment at)
                      {signedNumber(id.sender), signedNumber(id.number), momentText(at), text(answer)});
 }
 
-void SqlStore::forgetAnswers(Moment before, std::size_t keep)
+std::size_t SqlStore::forgetAnswers(Moment before, std::size_t keep, std::size_t atMost)
 {
-    database_.change(tables::ForgetAnswers, {momentText(before), limit(keep)});
+    const auto old = database_.rows(tables::OldAnswers, {momentText(before), limit(keep), limit(atMost)},
+                                    [](const QSqlQuery& row) {
+                                        return QVariantList{row.value(0), row.value(1)};
+                                    });
+    for (const QVariantList& id : old) {
+        database_.change(tables::ForgetAnswer, id);
+    }
+    return old.size();
 }
 
 void SqlStore::addResult(const Result& result)
@@ -217,9 +243,9 @@ void SqlStore::addEvent(const PupilEvent& event)
                                         text(event.action), text(event.additional)});
 }
 
-std::vector<Result> SqlStore::latestResults(std::size_t atMost)
+std::vector<KeptResult> SqlStore::latestResults(std::size_t atMost)
 {
-    return oldestFirst(database_.rows(tables::LatestResults, {limit(atMost)}, resultOf));
+    return oldestFirst(database_.rows(tables::LatestResults, {limit(atMost)}, keptResultOf));
 }
 
 std::vector<PupilEvent> SqlStore::latestEvents(std::size_t atMost)
@@ -227,9 +253,55 @@ std::vector<PupilEvent> SqlStore::latestEvents(std::size_t atMost)
     return oldestFirst(database_.rows(tables::LatestEvents, {limit(atMost)}, eventOf));
 }
 
-void SqlStore::visitResults(const std::function<void(const Result&)>& visit)
+std::vector<Change> SqlStore::latestChanges(std::size_t atMost)
 {
-    database_.visit(tables::AllResults, {}, [&](const QSqlQuery& row) { visit(resultOf(row)); });
+    if (!hasLaterTables()) {
+        return {};
+    }
+    return oldestFirst(database_.rows(tables::LatestChanges, {limit(atMost)}, [](const QSqlQuery& row) {
+        return Change{momentOf(row.value(0)), textOf(row, 1), textOf(row, 2)};
+    }));
+}
+
+std::vector<KeptResult> SqlStore::resultsAfter(std::int32_t number, std::size_t atMost)
+{
+    return database_.rows(tables::ResultsAfter, {number, limit(atMost)}, keptResultOf);
+}
+
+std::optional<Result> SqlStore::result(std::int32_t number)
+{
+    return database_.firstRow(tables::ResultOf, {number}, resultOf);
+}
+
+void SqlStore::removeResult(std::int32_t number)
+{
+    nextNumber(tables::LastResult); // read while it is there, so that no other result gets it
+    database_.change(tables::RemoveResult, {number});
+}
+
+std::vector<HandedIn> SqlStore::handedInSince(Moment since)
+{
+    return database_.rows(tables::HandedInSince, {momentText(since)}, [](const QSqlQuery& row) {
+        return HandedIn{textOf(row, 0), momentOf(row.value(1))};
+    });
+}
+
+std::vector<String> SqlStore::screenNames()
+{
+    return database_.rows(tables::ScreenNames, {}, firstText);
+}
+
+void SqlStore::renamePupil(const String& from, const String& to)
+{
+    for (const char* statement : tables::Rename) {
+        database_.change(statement, {text(to), text(from)});
+    }
+}
+
+void SqlStore::addChange(const Change& change)
+{
+    database_.change(tables::AddChange, {nextNumber(tables::LastChange), momentText(change.at),
+                                         text(change.action), text(change.about)});
 }
 
 std::vector<String> SqlStore::modules()
@@ -247,6 +319,28 @@ std::optional<String> SqlStore::scoreList(const String& module)
 void SqlStore::keepScoreList(const String& module, const String& list)
 {
     database_.change(tables::KeepScoreList, {text(module), text(list)});
+}
+
+void SqlStore::removeScoreList(const String& module)
+{
+    database_.change(tables::RemoveScoreList, {text(module)});
+    database_.change(tables::RemoveListOrigin, {text(module)});
+}
+
+std::vector<ListOrigin> SqlStore::listOrigins()
+{
+    if (!hasLaterTables()) {
+        return {};
+    }
+    return database_.rows(tables::ListOrigins, {}, [](const QSqlQuery& row) {
+        return ListOrigin{textOf(row, 0), textOf(row, 1), momentOf(row.value(2))};
+    });
+}
+
+void SqlStore::keepListOrigin(const ListOrigin& origin)
+{
+    database_.change(tables::KeepListOrigin,
+                     {text(origin.module), text(origin.address), momentText(origin.at)});
 }
 
 std::vector<std::pair<String, String>> SqlStore::settings()

@@ -30,18 +30,29 @@ public:
 
     std::optional<String> answerTo(const FrameId& id) override;
     void keepAnswer(const FrameId& id, const String& answer, Moment at) override;
-    void forgetAnswers(Moment before, std::size_t keep) override;
+    std::size_t forgetAnswers(Moment before, std::size_t keep, std::size_t atMost) override;
 
     void addResult(const Result& result) override;
     void addSubmission(const String& module, const Result& result, const String& rank) override;
     void addEvent(const PupilEvent& event) override;
-    std::vector<Result> latestResults(std::size_t atMost) override;
+    std::vector<KeptResult> latestResults(std::size_t atMost) override;
     std::vector<PupilEvent> latestEvents(std::size_t atMost) override;
-    void visitResults(const std::function<void(const Result&)>& visit) override;
+    std::vector<Change> latestChanges(std::size_t atMost) override;
+    std::vector<KeptResult> resultsAfter(std::int32_t number, std::size_t atMost) override;
+    std::optional<Result> result(std::int32_t number) override;
+    void removeResult(std::int32_t number) override;
+    std::vector<HandedIn> handedInSince(Moment since) override;
+
+    std::vector<String> screenNames() override;
+    void renamePupil(const String& from, const String& to) override;
+    void addChange(const Change& change) override;
 
     std::vector<String> modules() override;
     std::optional<String> scoreList(const String& module) override;
     void keepScoreList(const String& module, const String& list) override;
+    void removeScoreList(const String& module) override;
+    std::vector<ListOrigin> listOrigins() override;
+    void keepListOrigin(const ListOrigin& origin) override;
 
     std::vector<std::pair<String, String>> settings() override;
     void keepSetting(const String& name, const std::optional<String>& value) override;
@@ -59,9 +70,11 @@ private:
     int storedVersion();
     std::optional<String> state(StringView name);
     int nextNumber(const char* lastNumber);
+    bool hasLaterTables();
 
     SqlConnection database_;
     std::map<const char*, int> lastNumbers_;
+    std::optional<bool> hasLaterTables_;
 };
 
 } // namespace phial::master

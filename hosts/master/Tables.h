@@ -27,24 +27,56 @@ inline constexpr std::array Create{
     "address TEXT NOT NULL)",
 };
 
+/// Tables that have joined without a new version, since an older master does without them.
+inline constexpr std::array CreateLater{
+    "CREATE TABLE IF NOT EXISTS changes (id INTEGER PRIMARY KEY, received TEXT NOT NULL, action TEXT NOT "
+    "NULL, "
+    "about TEXT NOT NULL)",
+    "CREATE TABLE IF NOT EXISTS list_origins (module TEXT PRIMARY KEY, address TEXT NOT NULL, "
+    "received TEXT NOT NULL)",
+};
+
 /// Each statement is written once; its address is what tells it from the others.
 inline constexpr const char* AnswerTo = "SELECT answer FROM messages WHERE client = ? AND number = ?";
 inline constexpr const char* KeepAnswer =
     "INSERT INTO messages (client, number, received, answer) VALUES (?, ?, ?, ?)";
-inline constexpr const char* ForgetAnswers =
-    "DELETE FROM messages WHERE received < ? OR received <= "
-    "(SELECT received FROM messages ORDER BY received DESC LIMIT 1 OFFSET ?)";
+inline constexpr const char* OldAnswers =
+    "SELECT client, number FROM messages WHERE received < ? OR received <= "
+    "(SELECT received FROM messages ORDER BY received DESC LIMIT 1 OFFSET ?) LIMIT ?";
+inline constexpr const char* ForgetAnswer = "DELETE FROM messages WHERE client = ? AND number = ?";
 
 inline constexpr const char* LastResult = "SELECT COALESCE(MAX(id), 0) FROM results";
 inline constexpr const char* AddResult =
     "INSERT INTO results (id, received, screen_name, user_name, computer, exercise, points, points_max, "
     "additional) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)";
 inline constexpr const char* LatestResults =
-    "SELECT received, screen_name, user_name, computer, exercise, points, points_max, additional "
+    "SELECT received, screen_name, user_name, computer, exercise, points, points_max, additional, id "
     "FROM results ORDER BY id DESC LIMIT ?";
-inline constexpr const char* AllResults =
-    "SELECT received, screen_name, user_name, computer, exercise, points, points_max, additional "
-    "FROM results ORDER BY id";
+inline constexpr const char* ResultsAfter =
+    "SELECT received, screen_name, user_name, computer, exercise, points, points_max, additional, id "
+    "FROM results WHERE id > ? ORDER BY id LIMIT ?";
+inline constexpr const char* ResultOf =
+    "SELECT received, screen_name, user_name, computer, exercise, points, points_max, additional, id "
+    "FROM results WHERE id = ?";
+inline constexpr const char* RemoveResult = "DELETE FROM results WHERE id = ?";
+inline constexpr const char* HandedInSince =
+    "SELECT screen_name, MAX(received) FROM results WHERE received >= ? GROUP BY screen_name";
+
+inline constexpr const char* ScreenNames =
+    "SELECT screen_name FROM results UNION SELECT screen_name FROM submissions "
+    "UNION SELECT screen_name FROM events UNION SELECT name FROM log_ons";
+inline constexpr std::array Rename{
+    "UPDATE results SET screen_name = ? WHERE screen_name = ?",
+    "UPDATE submissions SET screen_name = ? WHERE screen_name = ?",
+    "UPDATE events SET screen_name = ? WHERE screen_name = ?",
+    "UPDATE log_ons SET name = ? WHERE name = ?",
+};
+
+inline constexpr const char* LastChange = "SELECT COALESCE(MAX(id), 0) FROM changes";
+inline constexpr const char* AddChange =
+    "INSERT INTO changes (id, received, action, about) VALUES (?, ?, ?, ?)";
+inline constexpr const char* LatestChanges =
+    "SELECT received, action, about FROM changes ORDER BY id DESC LIMIT ?";
 
 inline constexpr const char* LastSubmission = "SELECT COALESCE(MAX(id), 0) FROM submissions";
 inline constexpr const char* AddSubmission =
@@ -64,6 +96,13 @@ inline constexpr const char* ScoreList = "SELECT list FROM highscores WHERE modu
 inline constexpr const char* KeepScoreList =
     "INSERT INTO highscores (module, list) VALUES (?, ?) ON CONFLICT (module) DO UPDATE SET list = "
     "excluded.list";
+
+inline constexpr const char* RemoveScoreList = "DELETE FROM highscores WHERE module = ?";
+inline constexpr const char* ListOrigins = "SELECT module, address, received FROM list_origins";
+inline constexpr const char* KeepListOrigin =
+    "INSERT INTO list_origins (module, address, received) VALUES (?, ?, ?) ON CONFLICT (module) "
+    "DO UPDATE SET address = excluded.address, received = excluded.received";
+inline constexpr const char* RemoveListOrigin = "DELETE FROM list_origins WHERE module = ?";
 
 inline constexpr const char* Settings = "SELECT name, value FROM settings";
 inline constexpr const char* KeepSetting =

@@ -1,4 +1,4 @@
-#include "MemoryStore.h"
+#include "TestRoom.h"
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
 #include "app/cls_AppURL.h"
@@ -20,7 +20,7 @@
 #include <gmock/gmock-more-matchers.h>
 
 using namespace phial;
-using phial::test::MemoryStore;
+using phial::test::TestRoom;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -60,8 +60,7 @@ protected:
     /// At first on any free port, later on the same again.
     void startMaster()
     {
-        master_.emplace(classroom_, clock_, master::ServerLimits{}, *guard_,
-                        [](const std::string& trouble) { ADD_FAILURE() << trouble; });
+        master_.emplace(room_.classroom, room_.desk, clock_, master::ServerLimits{}, room_.notices, *guard_);
         ASSERT_TRUE(master_->listen({QHostAddress::LocalHost, port_, 0}));
         port_ = master_->port();
     }
@@ -85,16 +84,15 @@ protected:
     std::vector<String> pupils() const
     {
         std::vector<String> names;
-        for (const master::Pupil& pupil : classroom_.pupils()) {
+        for (const master::Pupil& pupil : room_.classroom.pupils()) {
             names.push_back(pupil.logOn.name);
         }
         return names;
     }
 
-    MemoryStore store_;
     std::shared_ptr<qt::DispatchGuard> guard_ = std::make_shared<qt::DispatchGuard>();
     qt::QtClock clock_;
-    master::Classroom classroom_{store_, clock_};
+    TestRoom room_{clock_};
     std::optional<master::MasterServer> master_;
     std::uint16_t port_ = 0;
     Connection timer_;
@@ -110,8 +108,8 @@ TEST_F(ClientRoundTrip, LogsOnAndOff)
 
 TEST_F(ClientRoundTrip, TakesOverWhatTheMasterHandsOut)
 {
-    classroom_.settings().set(u"WELCOMEMESSAGE", u"Willkommen|im {Chemieraum}");
-    classroom_.settings().set(u"SCREENNAMES", u"0");
+    room_.set(u"WELCOMEMESSAGE", u"Willkommen|im {Chemieraum}");
+    room_.set(u"SCREENNAMES", u"0");
     client().CONFIG()->PACK(client().REQUEST(u"SERVER", u"PACK").toText());
     EXPECT_EQ(client().CONFIG()->SERVERPORT(), port_);
 
@@ -124,16 +122,16 @@ TEST_F(ClientRoundTrip, RunsTheChosenAppOnly)
 {
     outside.dialogs().expect(headless::Box::Error);
     EXPECT_FALSE(client().ALLOWED()) << "none is chosen";
-    classroom_.chooseApp(u"Formeln");
+    room_.chooseApp(u"Formeln");
     outside.dialogs().expect(headless::Box::Error);
     EXPECT_FALSE(client().ALLOWED());
-    classroom_.chooseApp(u"molmasse");
+    room_.chooseApp(u"molmasse");
     EXPECT_TRUE(client().ALLOWED());
 }
 
 TEST_F(ClientRoundTrip, AsksForSettings)
 {
-    classroom_.settings().set(u"Level", u"3");
+    room_.set(u"Level", u"3");
     EXPECT_EQ(client().SETTING(u"level", 1).toWhole(), 3);
     EXPECT_EQ(client().SETTING(u"Missing", 1), Variant(1));
 }
@@ -143,8 +141,8 @@ TEST_F(ClientRoundTrip, RecordsEvents)
     CoreParameters additional;
     additional.Set(u"Round", 7);
     client().ACTION(u"Runde begonnen", &additional);
-    ASSERT_THAT(store_.committed().events, SizeIs(1));
-    const master::PupilEvent& event = store_.committed().events.front();
+    ASSERT_THAT(room_.store.committed().events, SizeIs(1));
+    const master::PupilEvent& event = room_.store.committed().events.front();
     EXPECT_EQ(event.action, u"Runde begonnen");
     EXPECT_EQ(event.additional, additional.Pack());
     EXPECT_EQ(event.sender.screenName, u"Anna");
@@ -155,7 +153,7 @@ TEST_F(ClientRoundTrip, SubmitsResultsAndGetsTheirRanks)
     EXPECT_EQ(submit(5), 1);
     EXPECT_EQ(submit(8), 1);
     EXPECT_EQ(submit(6), 2);
-    EXPECT_THAT(store_.committed().results, SizeIs(3));
+    EXPECT_THAT(room_.store.results(), SizeIs(3));
     const auto scores = QVAPP()->RATE()->HIGHSCORE();
     ASSERT_EQ(scores->COUNT(), 3);
     EXPECT_EQ(scores->ITEM(1)->POINTS(), 8);
@@ -167,7 +165,7 @@ TEST_F(ClientRoundTrip, TellsThePupilTheRank)
 {
     expectInfo(u"Du hast es auf den 1. Platz der Bestenliste geschafft!");
     QVAPP()->RATE()->SUBMIT(8, 10, u"Salze");
-    classroom_.settings().set(u"HIGHSCORE.MAX", u"1");
+    room_.set(u"HIGHSCORE.MAX", u"1");
     expectInfo(u"Leider war das nichts! \rFür die Bestenliste hat DAS nicht gereicht!");
     EXPECT_EQ(QVAPP()->RATE()->SUBMIT(1, 10, u"Salze"), -1);
 }
@@ -178,7 +176,7 @@ TEST_F(ClientRoundTrip, SurvivesAMasterThatIsStartedAgain)
     stopMaster();
     startMaster();
     EXPECT_EQ(submit(8), 1);
-    EXPECT_THAT(store_.committed().results, SizeIs(2));
+    EXPECT_THAT(room_.store.results(), SizeIs(2));
 }
 
 TEST_F(ClientRoundTrip, AsksAgainUntilTheMasterIsBack)
@@ -186,7 +184,7 @@ TEST_F(ClientRoundTrip, AsksAgainUntilTheMasterIsBack)
     ASSERT_TRUE(client().CONNECT());
     stopMaster();
     after(120, [this] { startMaster(); });
-    classroom_.settings().set(u"Level", u"3");
+    room_.set(u"Level", u"3");
     EXPECT_EQ(client().SETTING(u"Level", 1).toWhole(), 3);
 }
 
@@ -202,8 +200,8 @@ TEST_F(ClientRoundTrip, GoesOnAloneWithoutAMaster)
 
 TEST_F(ClientRoundTrip, AnswersRequestsWithinARequest)
 {
-    classroom_.settings().set(u"Outer", u"outer");
-    classroom_.settings().set(u"Inner", u"inner");
+    room_.set(u"Outer", u"outer");
+    room_.set(u"Inner", u"inner");
     ASSERT_TRUE(client().CONNECT());
     Variant inner;
     pump().post([&] { inner = client().SETTING(u"Inner", u""); });
@@ -222,7 +220,7 @@ TEST_F(ClientRoundTrip, LogsOnOnceWhenAHandlerAsksMeanwhile)
 
 TEST_F(ClientRoundTrip, SurvivesThePreparationOfAnotherClientMeanwhile)
 {
-    classroom_.settings().set(u"Level", u"3");
+    room_.set(u"Level", u"3");
     ASSERT_TRUE(client().CONNECT());
     pump().post([&] { client().INIT(); });
     EXPECT_EQ(client().SETTING(u"Level", 1).toWhole(), 3);
@@ -230,7 +228,7 @@ TEST_F(ClientRoundTrip, SurvivesThePreparationOfAnotherClientMeanwhile)
 
 TEST_F(ClientRoundTrip, SurvivesTheEndOfTheConnectionMeanwhile)
 {
-    classroom_.settings().set(u"Level", u"3");
+    room_.set(u"Level", u"3");
     ASSERT_TRUE(client().CONNECT());
     pump().post([&] { client().DISCONNECT(); });
     EXPECT_EQ(client().SETTING(u"Level", 1).toWhole(), 3);

@@ -1,6 +1,6 @@
 #include "master/Console.h"
 
-#include "MemoryStore.h"
+#include "TestRoom.h"
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "core/CoreParameters.h"
@@ -11,8 +11,11 @@
 
 using namespace phial;
 using namespace phial::master;
-using phial::test::MemoryStore;
+using phial::test::TestRoom;
+using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
 
 namespace
 {
@@ -26,35 +29,50 @@ protected:
     std::string answerTo(StringView line)
     {
         output_.str({});
-        last_ = console_.run(line);
+        last_.reset();
+        console_.run(line, [this](Console::Outcome outcome) { last_ = outcome; });
         return output_.str();
     }
 
     void addResult(StringView name, double points)
     {
-        store_.addResult({Moment{45000.5},
-                          {String(name), u"login", u"PC7"},
-                          u"Salze",
-                          points,
-                          10,
-                          CoreParameters().Pack()});
-        store_.commit();
+        room_.store.addResult(resultOf(name, points));
+        room_.store.commit();
     }
 
-    MemoryStore store_;
-    Classroom classroom_{store_, outside.clock()};
+    static Result resultOf(StringView name, double points)
+    {
+        return {Moment{45000.5},        {String(name), u"login", u"PC7"}, u"Salze", points, 10,
+                CoreParameters().Pack()};
+    }
+    /// A message from a computer.
+    void receive(std::uint64_t client, StringView address, StringView text)
+    {
+        room_.classroom.receive({{client, ++messages_}, String(address), {}}, text, [](const AnswerText&) {});
+        room_.desk.start();
+    }
+    void submit(StringView module, StringView name, double points)
+    {
+        EXPECT_TRUE(room_.change([&](ClassBook& book) {
+            std::vector<NoticeCase> notices;
+            book.submit(module, resultOf(name, points), u"10.0.0.1", notices);
+        }));
+    }
+
+    TestRoom room_{outside.clock()};
     std::ostringstream output_;
-    Console console_{classroom_, store_, outside.files(), output_};
-    Console::Outcome last_ = Console::Outcome::Done;
+    Console console_{room_.classroom, room_.desk, room_.apps, outside.clock(), outside.files(), output_};
+    std::optional<Console::Outcome> last_;
+    std::uint64_t messages_ = 0;
 };
 
 TEST_F(ConsoleTest, HelpListsAllCommandsInTheLanguageInForce)
 {
     const std::string german = answerTo(u"help");
-    EXPECT_EQ(std::ranges::count(german, '\n'), 10);
-    EXPECT_THAT(german, HasSubstr("  app IDENT|none       wählt die Lern-App"));
+    EXPECT_EQ(std::ranges::count(german, '\n'), 13);
+    EXPECT_THAT(german, HasSubstr("  app IDENT|none                wählt die Lern-App"));
     LNG()->CURRENT(ID_Language_English);
-    EXPECT_THAT(answerTo(u"HELP"), HasSubstr("  export FILE.csv      writes all results"));
+    EXPECT_THAT(answerTo(u"HELP"), HasSubstr("  export FILE.csv               writes all results"));
 }
 
 TEST_F(ConsoleTest, ABlankLineDoesNothing)
@@ -69,23 +87,62 @@ TEST_F(ConsoleTest, AnUnknownCommandIsNamedAndFails)
     EXPECT_EQ(last_, Console::Outcome::Failed);
 }
 
-TEST_F(ConsoleTest, ShowsWhoIsLoggedOn)
+TEST_F(ConsoleTest, ShowsWhoIsThereWhoIsSilentAndWhoHasGone)
 {
     EXPECT_EQ(answerTo(u"pupils"), "Niemand ist angemeldet.\n");
-    classroom_.answer({{1, 1}, u"192.168.1.20", {}}, u"SERVER::LOGON::Zoë");
-    classroom_.answer({{2, 1}, u"192.168.1.21", {}}, u"SERVER::LOGON::Anna");
-    EXPECT_EQ(answerTo(u"pupils"), "Name  Rechner       Angemeldet           Zuletzt gehört\n"
-                                   "Anna  192.168.1.21  02.03.2026 08:00:00  02.03.2026 08:00:00\n"
-                                   "Zoë   192.168.1.20  02.03.2026 08:00:00  02.03.2026 08:00:00\n");
+    for (const std::uint64_t client : {1U, 2U, 3U}) {
+        room_.classroom.roster().connect(client);
+    }
+    receive(1, u"192.168.1.20", u"SERVER::LOGON::Zoë");
+    receive(2, u"192.168.1.21", u"SERVER::LOGON::Anna");
+    receive(3, u"192.168.1.22", u"SERVER::LOGON::Ben");
+    outside.clock().advance(360);
+    receive(1, u"192.168.1.20", u"SERVER::ALIVE::");
+    room_.classroom.roster().disconnect(3, true);
+    EXPECT_EQ(answerTo(u"pupils"), "Name  Rechner       Zustand  Angemeldet           Zuletzt gehört\n"
+                                   "Anna  192.168.1.21  still    02.03.2026 08:00:00  02.03.2026 08:00:00\n"
+                                   "Ben   192.168.1.22  weg      02.03.2026 08:00:00  02.03.2026 08:00:00\n"
+                                   "Zoë   192.168.1.20  da       02.03.2026 08:00:00  02.03.2026 08:06:00\n");
+    LNG()->CURRENT(ID_Language_English);
+    EXPECT_THAT(answerTo(u"pupils"),
+                AllOf(HasSubstr("  there  "), HasSubstr("  silent  "), HasSubstr("  gone  ")));
+}
+
+TEST_F(ConsoleTest, ShowsWhoHasNotHandedIn)
+{
+    EXPECT_EQ(answerTo(u"results --missing"), "Niemand ist angemeldet.\n");
+    receive(1, u"192.168.1.20", u"SERVER::LOGON::Zoë");
+    receive(2, u"192.168.1.21", u"SERVER::LOGON::Anna");
+    Result result = resultOf(u"zoë", 5);
+    result.at = outside.clock().moment();
+    room_.store.addResult(result);
+    room_.store.commit();
+    EXPECT_EQ(answerTo(u"results fehlend"),
+              "Name  Rechner       Zustand  Angemeldet           Zuletzt gehört\n"
+              "Anna  192.168.1.21  still    02.03.2026 08:00:00  02.03.2026 08:00:00\n");
+    receive(2, u"192.168.1.21", u"SERVER::LOGOFF::Anna");
+    EXPECT_EQ(answerTo(u"results Missing"), "Alle, die sich angemeldet haben, haben abgegeben.\n");
 }
 
 TEST_F(ConsoleTest, ChoosesAnAppAndLetsItGo)
 {
     EXPECT_EQ(answerTo(u"app"), "Es ist keine Lern-App ausgewählt.\n");
-    EXPECT_EQ(answerTo(u"app Molmassen-Trainer 2"), "Ausgewählt ist: Molmassen-Trainer 2\n");
-    EXPECT_EQ(store_.committed().app, u"Molmassen-Trainer 2");
+    EXPECT_EQ(answerTo(u"app molmassen-TRAINER"), "Ausgewählt ist: Molmasse\n");
+    EXPECT_EQ(room_.store.committed().app, u"Molmasse");
     EXPECT_EQ(answerTo(u"app NONE"), "Es ist keine Lern-App ausgewählt.\n");
-    EXPECT_EQ(store_.committed().app, u"");
+    EXPECT_EQ(room_.store.committed().app, u"");
+}
+
+TEST_F(ConsoleTest, WarnsOfAnAppThatIsNotHereAndNamesThoseKnown)
+{
+    EXPECT_EQ(answerTo(u"app Molmase"),
+              "Achtung: Die Lern-App \"Molmase\" gibt es auf diesem Rechner nicht.\n"
+              "Bekannt sind:\n"
+              "  Molmasse  Molmassen-Trainer\n"
+              "Ausgewählt ist: Molmase\n");
+    room_.apps = {};
+    EXPECT_EQ(answerTo(u"app Fremd"), "Achtung: Die Lern-App \"Fremd\" gibt es auf diesem Rechner nicht.\n"
+                                      "Ausgewählt ist: Fremd\n");
 }
 
 TEST_F(ConsoleTest, SetsAndDeletesValues)
@@ -95,7 +152,7 @@ TEST_F(ConsoleTest, SetsAndDeletesValues)
     EXPECT_EQ(answerTo(u"set highscore.max 5"), "HIGHSCORE.MAX = 5\nWELCOMEMESSAGE = Guten   Morgen!\n");
     EXPECT_EQ(answerTo(u"set WELCOMEMESSAGE"), "HIGHSCORE.MAX = 5\n");
     EXPECT_EQ(answerTo(u"set SCREENNAMES no"), "HIGHSCORE.MAX = 5\nSCREENNAMES = nein\n");
-    EXPECT_EQ(store_.committed().settings.size(), 2U);
+    EXPECT_EQ(room_.store.committed().settings.size(), 2U);
 }
 
 TEST_F(ConsoleTest, RefusesValuesThatCannotBe)
@@ -108,7 +165,7 @@ TEST_F(ConsoleTest, RefusesValuesThatCannotBe)
     EXPECT_EQ(answerTo(u"set WELCOMEMESSAGE " + String(400, u':')), "Der Wert ist zu lang.\n");
     EXPECT_EQ(answerTo(u"set " + String(65, u'x') + u" 1"), "Der Name ist zu lang.\n");
     EXPECT_EQ(last_, Console::Outcome::Failed);
-    EXPECT_TRUE(store_.committed().settings.empty());
+    EXPECT_TRUE(room_.store.committed().settings.empty());
 }
 
 TEST_F(ConsoleTest, ShowsTheLatestResults)
@@ -117,8 +174,9 @@ TEST_F(ConsoleTest, ShowsTheLatestResults)
     for (int round = 1; round <= 25; ++round) {
         addResult(u"Anna", round / 4.0);
     }
-    EXPECT_EQ(answerTo(u"results 1"), "Zeit                 Name  Rechner  Übung  Punkte  von  Note  Zusatz\n"
-                                      "15.03.2023 12:00:00  Anna  PC7      Salze  6,25    10   3\n");
+    EXPECT_EQ(answerTo(u"results 1"),
+              "Nr.  Zeit                 Name  Rechner  Übung  Punkte  von  Note  Zusatz\n"
+              "25   15.03.2023 12:00:00  Anna  PC7      Salze  6,25    10   3\n");
     EXPECT_EQ(std::ranges::count(answerTo(u"results"), '\n'), 1 + 20);
     EXPECT_EQ(std::ranges::count(answerTo(u"results all"), '\n'), 1 + 25);
     EXPECT_EQ(answerTo(u"results some"), "Das ist keine Anzahl: some\n");
@@ -129,24 +187,114 @@ TEST_F(ConsoleTest, ShowsEvents)
     EXPECT_EQ(answerTo(u"events"), "Es gibt noch keine Ereignisse.\n");
     CoreParameters more;
     more.Set(u"Runde", 2);
-    store_.addEvent({Moment{45000.5}, {u"Anna", u"anna", u"PC7"}, u"Start", more.Pack()});
+    room_.store.addEvent({Moment{45000.5}, {u"Anna", u"anna", u"PC7"}, u"Start", more.Pack()});
     EXPECT_EQ(answerTo(u"events"), "Zeit                 Name  Rechner  Ereignis  Zusatz\n"
                                    "15.03.2023 12:00:00  Anna  PC7      Start     Runde = 2\n");
 }
 
-TEST_F(ConsoleTest, ShowsAHighscoreAndEmptiesIt)
+TEST_F(ConsoleTest, MarksPointsBeyondTheReachableAndDoubtfulNames)
+{
+    addResult(u"Anna", 12);
+    addResult(u"\u0410nna", 10);
+    EXPECT_EQ(answerTo(u"results"),
+              "Nr.  Zeit                 Name      Rechner  Übung  Punkte  von  Note  Zusatz\n"
+              "1    15.03.2023 12:00:00  (!) Anna  PC7      Salze  12 !    10   1+\n"
+              "2    15.03.2023 12:00:00  (!) \u0410nna  PC7      Salze  10      10   1+\n"
+              "(!) Der Name enthält verborgene Zeichen oder lässt sich mit einem anderen verwechseln.\n"
+              "! Mehr Punkte, als zu erreichen sind.\n");
+    submit(u"HIGHSCORE", u"A\u202Enna", 11);
+    EXPECT_THAT(answerTo(u"highscore highscore"),
+                AllOf(HasSubstr("(!) A\u2039202E\u203Anna  PC7      11 !    10"), HasSubstr("\n(!) Der Name"),
+                      HasSubstr("\n! Mehr Punkte")));
+}
+
+TEST_F(ConsoleTest, NamesFromRightToLeftKeepToTheirCell)
+{
+    addResult(u"\u05D3\u05DF", 1);
+    EXPECT_THAT(answerTo(u"results"), HasSubstr("00  \u2068\u05D3\u05DF\u2069    PC7      Salze"));
+}
+
+TEST_F(ConsoleTest, ShowsAHighscoreAndTakesItAway)
 {
     EXPECT_EQ(answerTo(u"highscore"), "Es gibt noch keine Bestenliste.\n");
     EXPECT_EQ(answerTo(u"highscore Salze"), "Diese Bestenliste ist leer.\n");
-    classroom_.highscores().submit(
-        u"Salze", {Moment{45000.5}, {u"Anna", u"anna", u"PC7"}, u"leicht", 2.5, 10, CoreParameters().Pack()});
-    classroom_.commit();
-    EXPECT_EQ(answerTo(u"highscore"), "SALZE\n");
-    EXPECT_EQ(answerTo(u"highscore salze"), "Rang  Name  Punkte  von  Übung   Zeit\n"
-                                            "1     Anna  2,5     10   leicht  15.03.2023 12:00:00\n");
+    submit(u"Salze", u"Anna", 2.5);
+    EXPECT_EQ(answerTo(u"highscore"), "Bestenliste  Begonnen von  Begonnen am\n"
+                                      "SALZE        10.0.0.1      15.03.2023 12:00:00\n");
+    EXPECT_EQ(answerTo(u"highscore salze"), "Rang  Name  Rechner  Punkte  von  Übung  Zeit\n"
+                                            "1     Anna  PC7      2,5     10   Salze  15.03.2023 12:00:00\n");
     EXPECT_EQ(answerTo(u"reset salze"), "Die Bestenliste ist jetzt leer.\n");
-    EXPECT_EQ(answerTo(u"highscore salze"), "Diese Bestenliste ist leer.\n");
+    EXPECT_EQ(answerTo(u"highscore"), "Es gibt noch keine Bestenliste.\n");
     EXPECT_EQ(answerTo(u"reset alkane"), "Diese Bestenliste gibt es nicht.\n");
+    EXPECT_EQ(answerTo(u"changes"),
+              "02.03.2026 08:00:00  reset  SALZE 1: Anna; 2.5 / 10; Salze; 15.03.2023 12:00:00\n"
+              "02.03.2026 08:00:00  reset  SALZE\n");
+}
+
+TEST_F(ConsoleTest, TakesAwayWhatOneComputerHasBegun)
+{
+    submit(u"M1", u"Anna", 1);
+    submit(u"M2", u"Anna", 1);
+    EXPECT_EQ(answerTo(u"reset --from 10.0.0.9"), "Entfernte Bestenlisten: 0\n");
+    EXPECT_EQ(answerTo(u"reset --from 10.0.0.1"), "Entfernte Bestenlisten: 2\n");
+    EXPECT_TRUE(room_.store.committed().lists.empty());
+    EXPECT_TRUE(room_.store.committed().origins.empty());
+}
+
+TEST_F(ConsoleTest, RemovesOneEntryOfAHighscore)
+{
+    submit(u"My list", u"Anna", 3);
+    submit(u"My list", u"Ben", 2);
+    submit(u"My list", u"Cem", 1);
+    EXPECT_EQ(answerTo(u"remove my list 2"), "Entfernt: ein Eintrag von Ben\n");
+    EXPECT_THAT(answerTo(u"highscore my list"), AllOf(HasSubstr("1     Anna"), HasSubstr("2     Cem")));
+    EXPECT_EQ(answerTo(u"changes"),
+              "02.03.2026 08:00:00  remove  MY LIST 2: Ben; 2 / 10; Salze; 15.03.2023 12:00:00\n");
+    EXPECT_EQ(answerTo(u"remove my list 3"), "Diesen Eintrag gibt es nicht.\n");
+    EXPECT_EQ(answerTo(u"remove other 1"), "Diesen Eintrag gibt es nicht.\n");
+    for (const StringView line : {u"remove", u"remove 1", u"remove my list", u"remove x 0"}) {
+        EXPECT_THAT(answerTo(line), StartsWith("Bitte Modul und Rang angeben")) << toUtf8(line);
+    }
+}
+
+TEST_F(ConsoleTest, RemovesOneResult)
+{
+    addResult(u"Anna", 1);
+    addResult(u"Ben", 2);
+    EXPECT_EQ(answerTo(u"remove results 1"), "Entfernt: ein Eintrag von Anna\n");
+    EXPECT_EQ(answerTo(u"remove RESULTS 1"), "Diesen Eintrag gibt es nicht.\n");
+    EXPECT_EQ(room_.store.results().size(), 1U);
+    EXPECT_EQ(room_.store.committed().changes.front().about,
+              u"RESULTS 1: Anna; 1 / 10; Salze; 15.03.2023 12:00:00");
+}
+
+TEST_F(ConsoleTest, CorrectsANameEverywhere)
+{
+    addResult(u"Ana B", 1);
+    addResult(u"ana b", 2);
+    addResult(u"Ben", 3);
+    submit(u"SALZE", u"Ana B", 1);
+    receive(1, u"10.0.0.1", u"SERVER::LOGON::ANA B");
+    EXPECT_EQ(answerTo(u"rename \"Ana B\" \"Anna Bo\""), "Ana B heißt jetzt Anna Bo.\n");
+    EXPECT_THAT(answerTo(u"results"), Not(HasSubstr("Ana")));
+    EXPECT_THAT(answerTo(u"highscore salze"), HasSubstr("1     Anna Bo"));
+    EXPECT_THAT(answerTo(u"pupils"), HasSubstr("Anna Bo"));
+    EXPECT_EQ(room_.store.committed().changes.size(), 3U) << "one for each spelling";
+    EXPECT_EQ(room_.store.committed().changes.front().about, u"ANA B > Anna Bo");
+    EXPECT_EQ(answerTo(u"rename Nobody Anna"), "Nobody hat nichts abgegeben.\n");
+    for (const StringView line : {u"rename", u"rename Anna", u"rename a b c", u"rename a \"\""}) {
+        EXPECT_THAT(answerTo(line), StartsWith("Bitte den alten und den neuen Namen angeben"))
+            << toUtf8(line);
+    }
+}
+
+TEST_F(ConsoleTest, ANameCanBeTypedAsItIsShown)
+{
+    addResult(u"An\u200Bna", 1);
+    submit(u"SALZE", u"An\u200Bna", 1);
+    EXPECT_EQ(answerTo(u"rename An\u2039200B\u203Ana Anna"), "An\u2039200B\u203Ana heißt jetzt Anna.\n");
+    EXPECT_EQ(room_.store.results().front().sender.screenName, u"Anna");
+    EXPECT_THAT(answerTo(u"highscore salze"), HasSubstr("1     Anna"));
 }
 
 TEST_F(ConsoleTest, LongCellsAreCut)
@@ -163,6 +311,17 @@ TEST_F(ConsoleTest, ExportsResultsIntoAFile)
     EXPECT_THAT(folder.read("Klasse 9a.csv"), HasSubstr("\"Anna\""));
 }
 
+TEST_F(ConsoleTest, ExportsIntoTheUsersOwnFolderAndMoreThanOnePiece)
+{
+    outside.environment().set(u"HOME", folder.path());
+    for (int result = 0; result < 5001; ++result) {
+        room_.store.addResult(resultOf(u"Anna", 1));
+    }
+    room_.store.commit();
+    EXPECT_EQ(answerTo(u"export ~/9a.csv"), "Geschrieben: " + (folder.native() / "9a.csv").string() + "\n");
+    EXPECT_EQ(std::ranges::count(folder.read("9a.csv"), '\n'), 5002);
+}
+
 TEST_F(ConsoleTest, SaysWhereAFileCannotBeWritten)
 {
     EXPECT_EQ(answerTo(u"export"), "Bitte den Namen der Datei angeben: export DATEI.csv\n");
@@ -173,10 +332,28 @@ TEST_F(ConsoleTest, SaysWhereAFileCannotBeWritten)
 
 TEST_F(ConsoleTest, SaysWhenTheStoreFailsAndKeepsWhatItHolds)
 {
-    store_.failCommits(true);
-    EXPECT_EQ(answerTo(u"app Molmasse"), "Die Datenbank meldet einen Fehler: the disk is full\n");
-    store_.failCommits(false);
+    room_.store.failCommits(true);
+    EXPECT_EQ(answerTo(u"app Molmasse"), "");
+    EXPECT_FALSE(last_) << "perhaps it was kept";
+    room_.store.failCommits(false);
+    room_.desk.tick();
+    EXPECT_EQ(output_.str(), "Ausgewählt ist: Molmasse\n");
+    room_.store.failEvents(true);
+    room_.store.vanish(true);
+    EXPECT_EQ(answerTo(u"results --missing"), "Niemand ist angemeldet.\n");
+}
+
+TEST_F(ConsoleTest, SaysWhenTheStoreDoesNotAnswer)
+{
+    room_.hand.freeze();
+    EXPECT_EQ(answerTo(u"results"), "");
+    EXPECT_FALSE(last_);
+    outside.clock().advance(StoreDesk::Limits().patience);
+    room_.desk.tick();
+    EXPECT_EQ(output_.str(), "Die Datenbank antwortet nicht.\n");
+    EXPECT_EQ(last_, Console::Outcome::Failed);
     EXPECT_EQ(answerTo(u"app"), "Es ist keine Lern-App ausgewählt.\n");
+    EXPECT_EQ(answerTo(u"set A B"), "Die Datenbank antwortet nicht.\n");
 }
 
 TEST_F(ConsoleTest, QuitEndsIt)

@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include <csignal>
+
 namespace phial::test
 {
 
@@ -54,6 +56,13 @@ void MasterProcess::kill()
         process_.kill();
         process_.waitForFinished(Patience);
     }
+}
+
+int MasterProcess::end(int signal)
+{
+    ::kill(static_cast<pid_t>(process_.processId()), signal);
+    const bool ended = process_.waitForFinished(Patience);
+    return ended && process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
 }
 
 std::string MasterProcess::output()

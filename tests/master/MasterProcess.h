@@ -25,6 +25,8 @@ public:
     bool start(const QStringList& more = {});
     /// Ends it as a power failure would.
     void kill();
+    /// Asks it to end by a signal and gives its exit status.
+    int end(int signal);
 
     std::uint16_t port() const { return port_; }
     /// What it has written since its start.

@@ -4,10 +4,13 @@
 #include "WireClient.h"
 #include "core/CoreParameters.h"
 #include "core/CoreValuePacker.h"
+#include "qt/Eventually.h"
 #include "server/WireText.h"
 
 #include <QTcpServer>
 
+#include <csignal>
+#include <filesystem>
 #include <gmock/gmock-matchers.h>
 
 using namespace phial;
@@ -64,7 +67,7 @@ TEST_F(MasterProgramTest, ShowsAndExportsWhatIsStoredAlsoBesideAMasterThatRuns)
                    QStringLiteral("--pupils"), QStringLiteral("--events"), QStringLiteral("--export"), csv}),
               0);
     EXPECT_THAT(master_.ranOutput(), HasSubstr("Anna  PC7       Salze     7,5     10  2"));
-    EXPECT_THAT(master_.ranOutput(), HasSubstr("1     Anna  7,5     10  Salze"));
+    EXPECT_THAT(master_.ranOutput(), HasSubstr("1     Anna  PC7       7,5     10  Salze"));
     EXPECT_THAT(master_.ranOutput(), HasSubstr("Anna  127.0.0.1"));
     EXPECT_THAT(master_.ranOutput(), HasSubstr("There are no events yet.\nWritten: " + csv.toStdString()));
     EXPECT_THAT(folder_.read("9a.csv"), HasSubstr(";7,5;10;"));
@@ -106,6 +109,59 @@ TEST_F(MasterProgramTest, TwoMastersDoNotShareADatabase)
     ASSERT_TRUE(master_.start()) << master_.output();
     EXPECT_EQ(run({QStringLiteral("--app"), QStringLiteral("Molmasse")}), 3);
     EXPECT_THAT(master_.ranOutput(), StartsWith("master: another master is using "));
+}
+
+TEST_F(MasterProgramTest, SettingsChangeWhileItRuns)
+{
+    ASSERT_TRUE(master_.start()) << master_.output();
+    WireClient client(master_.port());
+    EXPECT_EQ(client.ask(u"PROPERTIES::GET::TEMPO"), u"008:ERROR");
+    EXPECT_EQ(run({QStringLiteral("--set"), QStringLiteral("TEMPO=3"), QStringLiteral("--app"),
+                   QStringLiteral("molmasse"), QStringLiteral("--settings")}),
+              0);
+    EXPECT_EQ(master_.ranOutput(), "TEMPO = 3\nChosen: Molmasse\nTEMPO = 3\n");
+    EXPECT_TRUE(phial::test::eventually([&] { return client.ask(u"PROPERTIES::GET::TEMPO") == u"008:3"; }));
+    EXPECT_EQ(client.ask(u"SERVER::GAMEIDENT::"), u"008:Molmasse");
+}
+
+TEST_F(MasterProgramTest, KnowsTheAppsThatAreInstalled)
+{
+    EXPECT_EQ(run({QStringLiteral("--app"), QStringLiteral("Molmase"), QStringLiteral("--settings")}), 0);
+    EXPECT_EQ(master_.ranOutput(), "Mind: there is no learning app \"Molmase\" on this computer.\n"
+                                   "Those known are:\n  Molmasse  Molmassen-Trainer\n"
+                                   "Chosen: Molmase\nNothing is set.\n");
+}
+
+TEST_F(MasterProgramTest, ClosesTheDatabaseWhenTheSystemWantsItToEnd)
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        ASSERT_TRUE(master_.start()) << master_.output();
+        WireClient client(master_.port());
+        const String event =
+            CoreValuePacker::Pack({u"Start", CoreParameters().Pack(), u"Anna", u"PC7", u"anna"});
+        for (int number = 0; number < 50; ++number) {
+            client.send(requestText(u"EVENT", u"ADD", event));
+        }
+        ASSERT_TRUE(phial::test::eventually([&] { return !client.answers().empty(); }));
+        EXPECT_TRUE(folder_.has("master.sqlite-wal"));
+        EXPECT_EQ(master_.end(signal), 0);
+        EXPECT_FALSE(folder_.has("master.sqlite-wal")) << "merged into the database";
+        EXPECT_FALSE(folder_.has("master.sqlite.lock"));
+    }
+}
+
+TEST_F(MasterProgramTest, OnlyItsUserReadsWhatAKilledOneLeaves)
+{
+    ASSERT_TRUE(master_.start()) << master_.output();
+    WireClient client(master_.port());
+    submit(client, 5, u"Anna");
+    master_.kill();
+    using std::filesystem::perms;
+    for (const char* name : {"master.sqlite", "master.sqlite-wal", "master.sqlite-shm"}) {
+        EXPECT_EQ(std::filesystem::status(folder_.native() / name).permissions(),
+                  perms::owner_read | perms::owner_write)
+            << name;
+    }
 }
 
 TEST_F(MasterProgramTest, ADamagedDatabaseIsKeptAndSaid)

@@ -1,6 +1,6 @@
 #include "master/MasterServer.h"
 
-#include "MemoryStore.h"
+#include "TestRoom.h"
 #include "WireClient.h"
 #include "core/CoreParameters.h"
 #include "core/CoreValuePacker.h"
@@ -13,6 +13,7 @@
 
 #include <QUdpSocket>
 
+#include <algorithm>
 #include <deque>
 #include <gmock/gmock-matchers.h>
 #include <optional>
@@ -20,7 +21,7 @@
 using namespace phial;
 using namespace phial::master;
 using phial::test::eventually;
-using phial::test::MemoryStore;
+using phial::test::TestRoom;
 using phial::test::WireClient;
 
 namespace
@@ -48,8 +49,7 @@ protected:
     /// Begins to serve, within limits that a test has set before.
     void serve(std::uint16_t udpPort = 0)
     {
-        server_.emplace(classroom_, outside.clock(), limits_, guard_,
-                        [this](const std::string& trouble) { told_.push_back(trouble); });
+        server_.emplace(room_.classroom, room_.desk, outside.clock(), limits_, room_.notices, guard_);
         ASSERT_TRUE(server_->listen({QHostAddress(QHostAddress::LocalHost), 0, udpPort}));
     }
 
@@ -63,11 +63,23 @@ protected:
         return client;
     }
 
-    MemoryStore store_;
-    Classroom classroom_{store_, outside.clock()};
+    bool isTold(StringView line) const { return std::ranges::find(room_.said, line) != room_.said.end(); }
+    String presence() const
+    {
+        switch (room_.classroom.pupils().front().presence) {
+        case Presence::There:
+            return u"there";
+        case Presence::Silent:
+            return u"silent";
+        case Presence::Gone:
+            break;
+        }
+        return u"gone";
+    }
+
+    TestRoom room_{outside.clock()};
     qt::DispatchGuard guard_;
     ServerLimits limits_;
-    std::vector<std::string> told_;
     std::optional<MasterServer> server_;
     std::deque<WireClient> clients_;
 };
@@ -78,7 +90,7 @@ TEST_F(MasterServerTest, AnswersOverAConnectionThatIsKept)
     WireClient& client = connect();
     EXPECT_EQ(client.ask(u"SERVER::LOGON::Anna"), u"008:LOGON:OK");
     EXPECT_EQ(client.ask(u"SERVER::MODE::"), u"008:0");
-    EXPECT_EQ(classroom_.pupils().front().logOn.address, u"127.0.0.1");
+    EXPECT_EQ(room_.classroom.pupils().front().logOn.address, u"127.0.0.1");
 }
 
 TEST_F(MasterServerTest, AnswersManyRequestsSentAtOnceInTheirOrder)
@@ -99,13 +111,13 @@ TEST_F(MasterServerTest, CommitsWhatCameTogetherOnce)
 {
     serve();
     WireClient& client = connectAndAsk();
-    const int before = store_.commits();
+    const int before = room_.store.commits();
     for (int request = 0; request < 10; ++request) {
         client.send(resultRequest());
     }
     ASSERT_TRUE(eventually([&] { return client.answers().size() == 11; }));
-    EXPECT_EQ(store_.committed().results.size(), 10U);
-    EXPECT_LT(store_.commits() - before, 10);
+    EXPECT_EQ(room_.store.results().size(), 10U);
+    EXPECT_LT(room_.store.commits() - before, 10);
 }
 
 TEST_F(MasterServerTest, SendsNoAnswerWhereNobodyWaits)
@@ -115,7 +127,7 @@ TEST_F(MasterServerTest, SendsNoAnswerWhereNobodyWaits)
     client.sendAs({1, 100}, resultRequest(), true);
     EXPECT_EQ(client.ask(u"SERVER::MODE::"), u"008:0");
     EXPECT_EQ(client.answers().size(), 1U);
-    EXPECT_EQ(store_.committed().results.size(), 1U);
+    EXPECT_EQ(room_.store.results().size(), 1U);
 }
 
 TEST_F(MasterServerTest, TakesARequestInOnceAlsoOverAnotherConnection)
@@ -128,52 +140,180 @@ TEST_F(MasterServerTest, TakesARequestInOnceAlsoOverAnotherConnection)
     second.sendAs({7, 1}, resultRequest());
     ASSERT_TRUE(eventually([&] { return second.answers().size() == 1; }));
     EXPECT_EQ(second.answers().front().text, u"008:OK");
-    EXPECT_EQ(store_.committed().results.size(), 1U);
+    EXPECT_EQ(room_.store.results().size(), 1U);
 }
 
 TEST_F(MasterServerTest, AnswersNothingThatIsNotStored)
 {
     serve();
     WireClient& client = connectAndAsk();
-    store_.failCommits(true);
+    room_.store.failCommits(true);
     client.sendAs({7, 1}, resultRequest());
-    ASSERT_TRUE(eventually([&] { return !told_.empty(); }));
+    ASSERT_TRUE(eventually([&] { return !room_.said.empty(); }));
     EXPECT_EQ(client.answers().size(), 1U);
 
-    store_.failCommits(false);
+    room_.store.failCommits(false);
     client.sendAs({7, 1}, resultRequest());
-    ASSERT_TRUE(eventually([&] { return client.answers().size() == 2; }));
-    EXPECT_EQ(store_.committed().results.size(), 1U);
-    EXPECT_THAT(told_, testing::ElementsAre("the disk is full"));
+    connectAndAsk(2); // by now it has been read
+    EXPECT_EQ(client.answers().size(), 1U);
+    room_.desk.tick();
+    ASSERT_TRUE(eventually([&] { return client.answers().size() == 3; })) << "both copies";
+    EXPECT_EQ(room_.store.results().size(), 1U);
+    EXPECT_THAT(room_.said, testing::ElementsAre(u"the database reports an error: the disk is full"));
 }
 
 TEST_F(MasterServerTest, OneRequestThatCannotBeStoredDoesNotKeepOthersFromIt)
 {
     serve();
     WireClient& client = connectAndAsk();
-    store_.failEvents(true);
+    room_.store.failEvents(true);
     client.send(resultRequest());
     client.send(eventRequest());
     client.send(resultRequest());
     ASSERT_TRUE(eventually([&] { return client.answers().size() == 3; }));
-    EXPECT_EQ(store_.committed().results.size(), 2U);
+    EXPECT_EQ(room_.store.results().size(), 2U);
+    outside.clock().advance(StoreDesk::Limits().patience);
+    room_.desk.tick();
+    ASSERT_TRUE(eventually([&] { return client.answers().size() == 4; }));
+    EXPECT_EQ(client.answers().back().text, u"008:ERROR");
     EXPECT_TRUE(client.isConnected());
 }
 
-TEST_F(MasterServerTest, ClosesConnectionsBeyondTheirNumber)
+TEST_F(MasterServerTest, ForOneConnectionTooManyTheOneThatIsSilentForLongestLeaves)
 {
     limits_.connections = 2;
     serve();
-    connectAndAsk();
-    WireClient& second = connectAndAsk();
-    EXPECT_TRUE(connect().isCutOff());
+    WireClient& first = connectAndAsk(1);
+    outside.clock().advance(1);
+    WireClient& second = connectAndAsk(2);
+    outside.clock().advance(1);
+    EXPECT_EQ(first.ask(u"SERVER::MODE::"), u"008:0");
+    EXPECT_EQ(connect(3).ask(u"SERVER::MODE::"), u"008:0");
+    EXPECT_TRUE(second.isCutOff());
+    EXPECT_TRUE(first.isConnected());
+    EXPECT_TRUE(isTold(u"There are 2 connections already; new ones cost silent ones their place."));
+}
 
-    second.socket().disconnectFromHost();
-    bool isTakenIn = false;
-    EXPECT_TRUE(eventually([&] {
-        isTakenIn = isTakenIn || connect().ask(u"SERVER::MODE::") == u"008:0";
-        return isTakenIn;
-    }));
+TEST_F(MasterServerTest, OneComputerHasSomeConnectionsOnly)
+{
+    limits_.ofAddress = 3;
+    serve();
+    WireClient& silent = connect();
+    outside.clock().advance(1);
+    WireClient& asked = connectAndAsk(2);
+    outside.clock().advance(1);
+    WireClient& alsoAsked = connectAndAsk(3);
+    EXPECT_EQ(connect(4).ask(u"SERVER::MODE::"), u"008:0");
+    EXPECT_TRUE(silent.isCutOff());
+    EXPECT_TRUE(asked.isConnected() && alsoAsked.isConnected());
+    EXPECT_EQ(server_->connections(), 3U);
+    EXPECT_TRUE(isTold(u"Too many connections come from 127.0.0.1; those silent for longest are closed."));
+}
+
+TEST_F(MasterServerTest, WhoWaitsForAnAnswerKeepsItsPlace)
+{
+    limits_.ofAddress = 1;
+    serve();
+    room_.hand.freeze();
+    WireClient& waiting = connect();
+    waiting.send(resultRequest());
+    ASSERT_TRUE(eventually([&] { return !room_.desk.isIdle(); }));
+    EXPECT_TRUE(connect(2).isCutOff());
+    room_.hand.thaw();
+    EXPECT_TRUE(eventually([&] { return waiting.answers().size() == 1; }));
+}
+
+TEST_F(MasterServerTest, TakesInAndAnswersWhatCameBeforeTheSendersLastByte)
+{
+    serve();
+    WireClient& client = connect();
+    for (int request = 0; request < 100; ++request) {
+        client.send(resultRequest());
+    }
+    client.sendNoMore();
+    EXPECT_TRUE(eventually([&] { return client.answers().size() == 100; }));
+    EXPECT_TRUE(client.isCutOff()) << "when all is said";
+    EXPECT_EQ(room_.store.results().size(), 100U);
+}
+
+TEST_F(MasterServerTest, TakesInWhatCameBeforeTheSenderVanished)
+{
+    serve();
+    WireClient& client = connect();
+    for (int request = 0; request < 100; ++request) {
+        client.send(resultRequest());
+    }
+    client.socket().flush();
+    client.socket().disconnectFromHost();
+    EXPECT_TRUE(eventually([&] { return room_.store.results().size() == 100; }));
+    EXPECT_TRUE(eventually([&] { return server_->connections() == 0; }));
+}
+
+TEST_F(MasterServerTest, AnUnfinishedMessageEndsWithItsSender)
+{
+    serve();
+    WireClient& client = connect();
+    client.sendBytes("QVF\x01");
+    client.sendNoMore();
+    EXPECT_TRUE(client.isCutOff());
+}
+
+TEST_F(MasterServerTest, TellsWhoHasGone)
+{
+    serve();
+    WireClient& client = connect();
+    EXPECT_EQ(client.ask(u"SERVER::LOGON::Anna"), u"008:LOGON:OK");
+    EXPECT_EQ(presence(), u"there");
+    client.socket().abort();
+    EXPECT_TRUE(eventually([&] { return presence() == u"gone"; }));
+    connectAndAsk();
+    EXPECT_EQ(presence(), u"there") << "the same client over another connection";
+}
+
+TEST_F(MasterServerTest, WhoHadToMakeRoomHasNotGone)
+{
+    limits_.ofAddress = 1;
+    serve();
+    EXPECT_EQ(connect().ask(u"SERVER::LOGON::Anna"), u"008:LOGON:OK");
+    connectAndAsk(2);
+    EXPECT_EQ(presence(), u"silent");
+}
+
+TEST_F(MasterServerTest, AFrozenStoreHoldsUpOnlyWhoNeedsItAndNotForLong)
+{
+    serve();
+    room_.hand.freeze();
+    WireClient& client = connect();
+    client.send(resultRequest());
+    WireClient& other = connect(2);
+    EXPECT_EQ(other.ask(u"SERVER::LOGON::Ben"), u"008:LOGON:OK");
+    EXPECT_EQ(other.ask(u"SERVER::MODE::"), u"008:0");
+    EXPECT_TRUE(client.answers().empty());
+    outside.clock().advance(StoreDesk::Limits().patience);
+    room_.desk.tick();
+    EXPECT_TRUE(eventually([&] { return client.answers().size() == 1; }));
+    EXPECT_EQ(client.answers().front().text, u"008:ERROR");
+    EXPECT_EQ(other.ask(eventRequest()), u"008:ERROR") << "at once";
+    EXPECT_EQ(other.ask(u"HIGHSCORE::GET::"), u"008:ERROR");
+    room_.hand.thaw();
+    EXPECT_EQ(other.ask(eventRequest()), u"008:OK");
+    EXPECT_TRUE(room_.store.results().empty());
+}
+
+TEST_F(MasterServerTest, WhatIsUnderWayIsAnsweredThoughNothingMoreIsTakenIn)
+{
+    serve();
+    room_.hand.freeze();
+    WireClient& client = connect();
+    client.send(resultRequest());
+    ASSERT_TRUE(eventually([&] { return !room_.desk.isIdle(); }));
+    server_->stopListening();
+    room_.hand.thaw();
+    EXPECT_TRUE(eventually([&] { return client.answers().size() == 1; }));
+    client.send(resultRequest());
+    WireClient& late = connect();
+    EXPECT_FALSE(late.isConnected());
+    EXPECT_EQ(room_.store.results().size(), 1U);
 }
 
 TEST_F(MasterServerTest, CutsOffWhoSendsWhatIsNoRequest)
@@ -186,6 +326,7 @@ TEST_F(MasterServerTest, CutsOffWhoSendsWhatIsNoRequest)
         client.sendBytes(bytes);
         EXPECT_TRUE(client.isCutOff()) << bytes;
     }
+    EXPECT_TRUE(isTold(u"127.0.0.1 sent what no learning app sends, and was cut off."));
 }
 
 TEST_F(MasterServerTest, TakesMessagesUpToTheirGreatestLength)
@@ -196,6 +337,7 @@ TEST_F(MasterServerTest, TakesMessagesUpToTheirGreatestLength)
     EXPECT_EQ(client.ask(u"PROPERTIES::GET::" + String(90000, u'x')), u"008:ERROR");
     client.send(String(100001, u'x'));
     EXPECT_TRUE(client.isCutOff());
+    EXPECT_TRUE(isTold(u"127.0.0.1 sent a message that is too long, and was cut off."));
 }
 
 TEST_F(MasterServerTest, TakesAMessageInPieces)
@@ -220,6 +362,21 @@ TEST_F(MasterServerTest, CutsOffWhoLeavesAMessageUnfinished)
     outside.clock().advance(limits_.unfinishedSeconds + 1);
     EXPECT_TRUE(client.isCutOff());
     EXPECT_TRUE(other.isConnected());
+    EXPECT_TRUE(isTold(u"127.0.0.1 began a message and did not finish it, and was cut off."));
+}
+
+TEST_F(MasterServerTest, TheTimeOfAMessageBeginsWithItsFirstByte)
+{
+    serve();
+    WireClient& client = connectAndAsk();
+    outside.clock().advance(limits_.unfinishedSeconds + 1);
+    const std::string bytes = encodeFrame({FrameKind::Request, {1, 9}, u"SERVER::MODE::"});
+    client.sendBytes(std::string_view(bytes).substr(0, 30));
+    connectAndAsk(2); // by now it has been read
+    outside.clock().advance(limits_.unfinishedSeconds - 1);
+    connectAndAsk(3);
+    client.sendBytes(std::string_view(bytes).substr(30));
+    EXPECT_TRUE(eventually([&] { return client.answers().size() == 2; }));
 }
 
 TEST_F(MasterServerTest, CutsOffWhoConnectsAndSaysNothing)
@@ -248,6 +405,7 @@ TEST_F(MasterServerTest, RefusesLogOnsThatComeTooFast)
     EXPECT_EQ(client.ask(u"SERVER::LOGON::Anna"), u"008:LOGON:OK");
     EXPECT_EQ(client.ask(u"SERVER::LOGON::Ben"), u"008:LOGON:OK");
     EXPECT_EQ(client.ask(u"server::logon::Cem"), u"008:ERROR");
+    EXPECT_TRUE(isTold(u"127.0.0.1 logs on too often; that is refused for a while."));
     EXPECT_EQ(client.ask(u"SERVER::MODE::"), u"008:0");
     outside.clock().advance(1);
     EXPECT_EQ(client.ask(u"SERVER::LOGON::Cem"), u"008:LOGON:OK");
@@ -256,8 +414,8 @@ TEST_F(MasterServerTest, RefusesLogOnsThatComeTooFast)
 TEST_F(MasterServerTest, CutsOffWhoDoesNotTakeHisAnswers)
 {
     limits_.untakenBytes = 1000;
-    limits_.messagesPerTurn = 100000;
-    classroom_.settings().set(u"LONG", String(500, u'x'));
+    limits_.underWay = 100000;
+    room_.set(u"LONG", String(500, u'x'));
     serve();
     WireClient& client = connect();
     client.socket().setReadBufferSize(1); // takes one byte, and no more
@@ -267,23 +425,21 @@ TEST_F(MasterServerTest, CutsOffWhoDoesNotTakeHisAnswers)
     EXPECT_TRUE(eventually([&] { return server_->connections() == 0; }));
 }
 
-TEST_F(MasterServerTest, CutsOffWhoAsksForAListBeyondAllBoundsAndAnswersTheOthers)
+TEST_F(MasterServerTest, WhoAsksForLongListsAgainAndAgainIsCutOffAndOthersAreAnswered)
 {
-    constexpr int Entries = 100;
-    classroom_.settings().set(u"LONG.MAX", plainText(Entries));
-    CoreParameters additional;
-    additional.Set(u"Text", String(MaxAdditionalLength - 100, u'\u2082'));
-    for (int entry = 0; entry < Entries; ++entry) {
-        Result result{outside.clock().moment(), {u"Anna", u"anna", u"PC7"}, u"", 5, 10, additional.Pack()};
-        classroom_.highscores().submit(u"LONG", result);
-    }
+    limits_.heldBytes = 100000;
+    limits_.underWay = 1000;
+    room_.set(u"LONG", String(500, u'x'));
     serve();
     WireClient& greedy = connectAndAsk(1);
     WireClient& other = connectAndAsk(2);
-    greedy.send(u"LONG::GET::");
-    other.send(u"SERVER::MODE::");
-    EXPECT_TRUE(greedy.isCutOff());
-    EXPECT_TRUE(eventually([&] { return other.answers().size() == 2; }));
+    greedy.socket().setReadBufferSize(1); // takes one byte, and no more
+    for (int request = 0; request < 20000; ++request) {
+        greedy.send(u"PROPERTIES::GET::LONG");
+    }
+    EXPECT_TRUE(eventually(
+        [&] { return isTold(u"Memory runs short; 127.0.0.1 takes most of it and was cut off."); }));
+    EXPECT_EQ(other.ask(u"SERVER::MODE::"), u"008:0");
 }
 
 TEST_F(MasterServerTest, CutsOffWhoHoldsMostWhenMemoryRunsShort)
@@ -301,7 +457,7 @@ TEST_F(MasterServerTest, CutsOffWhoHoldsMostWhenMemoryRunsShort)
 
 TEST_F(MasterServerTest, OneWhoSendsMuchAtOnceDoesNotKeepOthersWaiting)
 {
-    limits_.messagesPerTurn = 4;
+    limits_.underWay = 4;
     serve();
     WireClient& busy = connectAndAsk(1);
     WireClient& other = connectAndAsk(2);
@@ -311,15 +467,15 @@ TEST_F(MasterServerTest, OneWhoSendsMuchAtOnceDoesNotKeepOthersWaiting)
     busy.socket().flush();
     other.send(eventRequest());
     other.socket().flush();
-    ASSERT_TRUE(eventually([&] { return store_.committed().events.size() == 1; }));
-    EXPECT_LT(store_.resultsBeforeFirstEvent(), 100U);
+    ASSERT_TRUE(eventually([&] { return room_.store.committed().events.size() == 1; }));
+    EXPECT_LT(room_.store.resultsBeforeFirstEvent(), 100U);
     EXPECT_TRUE(eventually([&] { return busy.answers().size() == 501; }));
 }
 
 TEST_F(MasterServerTest, APortThatIsTakenCannotBeOpened)
 {
     serve();
-    MasterServer second(classroom_, outside.clock(), limits_, guard_, [](const std::string&) {});
+    MasterServer second(room_.classroom, room_.desk, outside.clock(), limits_, room_.notices, guard_);
     EXPECT_FALSE(second.listen({QHostAddress(QHostAddress::LocalHost), server_->port(), 0}));
     EXPECT_EQ(second.problem(), QAbstractSocket::AddressInUseError);
 }
@@ -334,14 +490,14 @@ std::uint16_t freeUdpPort()
 
 TEST_F(MasterServerTest, IsFoundByClientsThatSearch)
 {
-    classroom_.settings().set(u"WELCOMEMESSAGE", u"Hallo");
+    room_.set(u"WELCOMEMESSAGE", u"Hallo");
     serve(freeUdpPort());
     ASSERT_TRUE(server_->answersQuestions());
     const auto found = qt::findMasters(server_->udpPort(), std::chrono::milliseconds(300));
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found.front().address, u"127.0.0.1");
     EXPECT_EQ(found.front().settings,
-              classroom_.settingsText({u"127.0.0.1", server_->port(), server_->udpPort()}));
+              room_.classroom.settingsText({u"127.0.0.1", server_->port(), server_->udpPort()}));
 }
 
 TEST_F(MasterServerTest, AnswersQuestionsOnlyAndNotTooMany)

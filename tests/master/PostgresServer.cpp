@@ -8,8 +8,10 @@
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <pwd.h>
 #include <unistd.h>
+#include <vector>
 
 namespace phial::test
 {
@@ -63,6 +65,7 @@ PostgresServer::PostgresServer() : binaries_(folderOfBinaries())
 
 PostgresServer::~PostgresServer()
 {
+    thaw();
     if (server_.state() != QProcess::NotRunning) {
         ::kill(static_cast<pid_t>(server_.processId()), SIGQUIT); // ends at once, which a test may
         server_.waitForFinished();
@@ -154,6 +157,19 @@ void PostgresServer::endConnections()
     query(QStringLiteral("SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity "
                          "WHERE backend_type = 'client backend' AND pid <> pg_backend_pid()"),
           QStringLiteral("postgres"));
+}
+
+void PostgresServer::signalAll(int signal) const
+{
+    const std::string server = std::to_string(server_.processId());
+    std::ifstream children("/proc/" + server + "/task/" + server + "/children");
+    std::vector<pid_t> processes{static_cast<pid_t>(server_.processId())};
+    for (pid_t child = 0; children >> child;) {
+        processes.push_back(child);
+    }
+    for (const pid_t process : processes) {
+        ::kill(process, signal);
+    }
 }
 
 QString PostgresServer::place(const char* name) const

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <csignal>
 #include <string>
 
 namespace phial::test
@@ -28,9 +29,13 @@ public:
     std::string newDatabase();
     /// Ends all connections to the server, as when it is started again.
     void endConnections();
+    /// Stops it in the middle of what it does, and lets it go on. It stays connected and says nothing.
+    void freeze() { signalAll(SIGSTOP); }
+    void thaw() { signalAll(SIGCONT); }
 
 private:
     void prepareFolder();
+    void signalAll(int signal) const;
     bool runToEnd(const QString& program, const QStringList& arguments);
     bool waitUntilReady();
     bool query(const QString& statement, const QString& database);

@@ -27,6 +27,13 @@ protected:
     std::filesystem::path file() const { return folder.native() / "master.sqlite"; }
     StorePlace place() const { return *parseStorePlace(file().string()); }
 
+    static constexpr auto OnlyOwner =
+        std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
+    static std::filesystem::perms rightsOf(const std::filesystem::path& file)
+    {
+        return std::filesystem::status(file).permissions();
+    }
+
     void fillAndClose() const
     {
         SqlStore store(place());
@@ -79,11 +86,38 @@ TEST_F(SqliteFileTest, ADatabaseOfAnotherProgramIsLeftAlone)
     EXPECT_FALSE(database.hasTable(QStringLiteral("state")));
 }
 
-TEST_F(SqliteFileTest, OnlyItsUserReadsTheFile)
+TEST_F(SqliteFileTest, OnlyItsUserReadsTheFileAndWhatLiesBesideIt)
 {
-    fillAndClose();
-    using std::filesystem::perms;
-    EXPECT_EQ(std::filesystem::status(file()).permissions(), perms::owner_read | perms::owner_write);
+    SqlStore store(place());
+    store.addResult(resultOf(u"Anna"));
+    store.commit();
+    for (const char* ending : {"", "-wal", "-shm"}) {
+        const auto part = std::filesystem::path(file()) += ending;
+        ASSERT_TRUE(std::filesystem::exists(part)) << part;
+        EXPECT_EQ(rightsOf(part), OnlyOwner) << part;
+    }
+}
+
+TEST_F(SqliteFileTest, WhatAKilledMasterHasLeftIsReadByItsUserOnly)
+{
+    const std::filesystem::path elsewhere = folder.native() / "copy";
+    {
+        SqlStore store(place());
+        store.addResult(resultOf(u"Anna"));
+        store.commit();
+        std::filesystem::create_directory(elsewhere);
+        for (const char* name : {"master.sqlite", "master.sqlite-wal", "master.sqlite-shm"}) {
+            std::filesystem::copy(folder.native() / name, elsewhere / name); // as a kill leaves them
+            std::filesystem::permissions(elsewhere / name, OnlyOwner | std::filesystem::perms::others_read);
+        }
+    }
+    SqlStore store(*parseStorePlace((elsewhere / "master.sqlite").string()));
+    EXPECT_EQ(store.latestResults(10).size(), 1U);
+    store.addResult(resultOf(u"Ben"));
+    store.commit();
+    for (const char* name : {"master.sqlite", "master.sqlite-wal", "master.sqlite-shm"}) {
+        EXPECT_EQ(rightsOf(elsewhere / name), OnlyOwner) << name;
+    }
 }
 
 TEST_F(SqliteFileTest, EachCommitIsFlushed)

@@ -4,6 +4,8 @@
 
 #include <QHostAddress>
 
+#include <sys/socket.h>
+
 namespace phial::test
 {
 
@@ -22,6 +24,12 @@ void WireClient::sendAs(const FrameId& id, StringView text, bool unawaited)
 void WireClient::sendBytes(std::string_view bytes)
 {
     socket_.write(bytes.data(), static_cast<qint64>(bytes.size()));
+}
+
+void WireClient::sendNoMore()
+{
+    eventually([this] { return socket_.bytesToWrite() == 0; });
+    ::shutdown(static_cast<int>(socket_.socketDescriptor()), SHUT_WR);
 }
 
 const std::vector<Frame>& WireClient::answers()

@@ -23,6 +23,8 @@ public:
     void send(StringView text) { sendAs({sender_, ++number_}, text); }
     void sendAs(const FrameId& id, StringView text, bool unawaited = false);
     void sendBytes(std::string_view bytes);
+    /// Closes the way to the master, and leaves the way back open.
+    void sendNoMore();
 
     /// What has come in so far.
     const std::vector<Frame>& answers();
