@@ -36,6 +36,11 @@ class Load:
     highest_pace: float
 
 
+def own_address(number):
+    """Pupils sit at computers of their own, of which a loopback network has enough."""
+    return f"127.1.{number // 250}.{number % 250 + 1}"
+
+
 class Client:
     """One connection, with the requests that wait for their answers."""
 
@@ -44,7 +49,7 @@ class Client:
         self.count = 0
         self.waiting = deque()
         self.bytes = b""
-        self.socket = socket.create_connection(("127.0.0.1", port))
+        self.socket = socket.create_connection(("127.0.0.1", port), source_address=(own_address(number), 0))
         self.socket.setsockopt(socket.IPPROTO_TCP, socket.TCP_NODELAY, 1)
 
     def send(self, text):
