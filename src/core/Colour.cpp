@@ -1,5 +1,7 @@
 #include "core/Colour.h"
 
+#include "core/Palette.h"
+
 #include <array>
 #include <cstddef>
 
@@ -37,6 +39,9 @@ Colour defaultColour(Colour colour)
     };
     if (!colour.isSystem()) {
         return colour;
+    }
+    if (Palette::has(colour)) {
+        return Palette::resolved(colour);
     }
     const std::size_t slot = colour.value & 0xFFU;
     return slot < Slots.size() ? Slots[slot] : Colour();

@@ -9,8 +9,8 @@
 namespace phial
 {
 
-/// A colour: 0x00BBGGRR, or 0x800000nn for slot nn of the desktop's colours, which stays symbolic until it is
-/// painted.
+/// A colour: 0x00BBGGRR, or 0x800000nn for slot nn of the desktop's colours, or one of Palette.h; these two
+/// stay symbolic until they are painted.
 struct Colour {
     std::uint32_t value = 0;
 
@@ -63,7 +63,8 @@ constexpr Colour QBColor(int index)
     return Table[static_cast<std::size_t>(index)];
 }
 
-/// What a system slot stands for when no desktop is asked (headless, tests); a plain colour gives itself.
+/// What a symbolic colour stands for: a role of the palette, or a slot of the desktop when no desktop is
+/// asked (headless, tests). A plain colour gives itself.
 Colour defaultColour(Colour colour);
 
 } // namespace phial
