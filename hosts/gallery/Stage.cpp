@@ -10,6 +10,7 @@ namespace gallery
 Stage::Stage(phial::Form& form, phial::Container& place, phial::PixelSize size)
     : form_(form), place_(place), size_(size)
 {
+    place_.ScaleMode(phial::ScaleUnit::Pixels);
 }
 
 phial::PixelRectangle Stage::middle(phial::PixelSize size) const
@@ -26,6 +27,7 @@ void Stage::add(const phial::ControlPtr& control, const phial::PixelRectangle& a
         ++number;
     }
     control->frame().NAME(type + phial::Variant(number).toText());
+    phial::initialise(*control);
     control->frame().pixelRectangle(area);
     form_.add(control, holder ? holder : &place_);
     atEnd([this, control] { form_.remove(*control); });

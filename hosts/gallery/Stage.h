@@ -25,7 +25,7 @@ public:
     template <typename Class>
     std::shared_ptr<Class> put(const phial::PixelRectangle& area)
     {
-        auto control = phial::makeControl<Class>();
+        auto control = std::make_shared<Class>();
         add(control, area);
         return control;
     }
@@ -40,7 +40,7 @@ public:
     template <typename Class>
     std::shared_ptr<Class> putInto(phial::Control& holder, const phial::PixelRectangle& area)
     {
-        auto control = phial::makeControl<Class>();
+        auto control = std::make_shared<Class>();
         add(control, area, holder.container());
         return control;
     }

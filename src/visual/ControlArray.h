@@ -59,7 +59,7 @@ public:
             throw RuntimeError(ErrorNumber::IndexOutOfBounds);
         }
         Class& original = *elements_.begin()->second.control;
-        auto copy = makeControl<Class>();
+        auto copy = makeNamed<Class>(name_, index);
         copyControl(original, *copy);
         copy->Visible(false);
         return add(index, std::move(copy), original.frame().container());

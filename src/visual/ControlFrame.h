@@ -40,6 +40,11 @@ public:
     /// Place in a control array, -1 outside one.
     std::int32_t Index() const { return index_; }
     void Index(std::int32_t value) { index_ = value; }
+    /// Whether it bears that name, without regard to case, at that place in an array.
+    bool isCalled(StringView name, std::int32_t index) const
+    {
+        return index_ == index && equalsIgnoringCase(name_, name);
+    }
     String Tag() const { return tag_; }
     void Tag(String value) { tag_ = std::move(value); }
 

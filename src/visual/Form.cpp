@@ -23,18 +23,6 @@ void collectEntries(const Menu& menu, std::vector<ObjectPtr>& entries)
     }
 }
 
-ObjectPtr findNamed(const std::vector<ObjectPtr>& objects, StringView name, std::int32_t index)
-{
-    for (const ObjectPtr& object : objects) {
-        const auto named = tryGet(*object, u"NAME");
-        if (named && equalsIgnoringCase(named->toText(), name) &&
-            tryGet(*object, u"Index").value_or(Variant(-1)).toWhole() == index) {
-            return object;
-        }
-    }
-    return nullptr;
-}
-
 } // namespace
 
 /// Counts a dialog for the form that has opened it, as long as this object lives.
@@ -196,19 +184,13 @@ void Form::place(const ControlPtr& control, phial::Container& into)
 {
     into.add(control);
     control->frame().Parent(shared_from_this());
-    objects_.push_back(control);
+    objects_.add(control);
     control->frame().tellSeen();
 }
 
 void Form::remove(const Object& object)
 {
-    const auto found =
-        std::ranges::find_if(objects_, [&](const auto& entry) { return entry.get() == &object; });
-    if (found == objects_.end()) {
-        return;
-    }
-    const ObjectPtr removed = *found;
-    objects_.erase(found);
+    const ObjectPtr removed = objects_.remove(object);
     if (auto* control = dynamic_cast<Control*>(removed.get())) {
         removeControl(*control);
     }
@@ -234,7 +216,7 @@ void Form::addComponent(ObjectPtr component)
     if (!component) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
     }
-    objects_.push_back(std::move(component));
+    objects_.add(std::move(component));
 }
 
 std::size_t Form::controlCount() const
@@ -259,12 +241,10 @@ ObjectPtr Form::controlAt(std::size_t index) const
 
 ObjectPtr Form::find(StringView name, std::int32_t index) const
 {
-    if (ObjectPtr control = findNamed(objects_, name, index)) {
+    if (ObjectPtr control = objects_.find(name, index)) {
         return control;
     }
-    std::vector<ObjectPtr> entries;
-    collectEntries(*menu_, entries);
-    return findNamed(entries, name, index);
+    return menu_->findBelow(name, index);
 }
 
 ObjectPtr Form::Controls() const

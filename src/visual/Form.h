@@ -3,6 +3,7 @@
 #include "core/Colour.h"
 #include "visual/Container.h"
 #include "visual/Menu.h"
+#include "visual/NamedObjects.h"
 #include "visual/Timer.h"
 #include "visual/UserControl.h"
 
@@ -272,7 +273,7 @@ private:
     bool keyPreview_ = false;
 
     phial::Container container_;
-    std::vector<ObjectPtr> objects_;
+    NamedObjects objects_;
     std::shared_ptr<Menu> menu_ = std::make_shared<Menu>();
     std::weak_ptr<Control> active_;
     std::weak_ptr<Control> default_;
@@ -293,9 +294,7 @@ private:
 template <typename Class>
 std::shared_ptr<Class> Form::add(StringView name, phial::Container* into)
 {
-    auto control = makeControl<Class>();
-    control->frame().NAME(String(name));
-    return add(std::move(control), into);
+    return add(makeNamed<Class>(name), into);
 }
 
 } // namespace phial

@@ -68,10 +68,22 @@ Menu::~Menu()
 
 std::shared_ptr<Menu> Menu::find(StringView name, std::int32_t index) const
 {
-    const auto found = std::ranges::find_if(entries_, [&](const auto& entry) {
-        return entry->index_ == index && equalsIgnoringCase(entry->name_, name);
-    });
+    const auto found =
+        std::ranges::find_if(entries_, [&](const auto& entry) { return entry->isCalled(name, index); });
     return found == entries_.end() ? nullptr : *found;
+}
+
+std::shared_ptr<Menu> Menu::findBelow(StringView name, std::int32_t index) const
+{
+    for (const auto& entry : entries_) {
+        if (entry->isCalled(name, index)) {
+            return entry;
+        }
+        if (auto found = entry->findBelow(name, index)) {
+            return found;
+        }
+    }
+    return nullptr;
 }
 
 std::shared_ptr<Menu> Menu::entry(StringView name, std::int32_t index) const

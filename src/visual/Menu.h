@@ -22,6 +22,11 @@ public:
     String NAME() const { return name_; }
     void NAME(String value) { name_ = std::move(value); }
     std::int32_t Index() const { return index_; }
+    /// Whether it bears that name, without regard to case, at that place in an array.
+    bool isCalled(StringView name, std::int32_t index) const
+    {
+        return index_ == index && equalsIgnoringCase(name_, name);
+    }
     String Tag() const { return tag_; }
     void Tag(String value) { tag_ = std::move(value); }
     /// "-" is a separating line; "&" stands before the letter that opens the entry.
@@ -40,6 +45,9 @@ public:
     void remove(const Menu& entry);
     const std::vector<std::shared_ptr<Menu>>& entries() const { return entries_; }
     Menu* above() const { return above_; }
+
+    /// The entry of that name and index at any depth, each before those below it; null when there is none.
+    std::shared_ptr<Menu> findBelow(StringView name, std::int32_t index) const;
 
     // Menu arrays: entries of one name below this one.
     /// Copies the entry of that name with the lowest index to the new index, hidden; raises 9 when there is

@@ -24,9 +24,9 @@ struct NamedPart {
 /// A control that paints itself: interface of all `ctl_…` controls and of what is only shown. One widget of
 /// an adapter hosts them all, on forms and in foreign windows.
 ///
-/// Life: constructed; `initProperties` (freshly placed) or `readProperties`; `shown` and `hidden` as it comes
-/// into sight and goes; `ended` when it is taken away or its form ends. `resized` runs whenever the frame's
-/// size changes.
+/// Life: constructed; named; `initProperties` (freshly placed) or `readProperties`; `shown` and `hidden` as
+/// it comes into sight and goes; `ended` when it is taken away or its form ends. `resized` runs whenever the
+/// frame's size changes.
 class UserControl : public Control
 {
 public:
@@ -54,18 +54,35 @@ public:
     /// The role of the control as a whole.
     virtual PartRole role() const { return PartRole::Graphic; }
 
-    /// A property was changed by its writer: the property's name. Raised through `propertyChanged`.
+    /// A property was changed by its writer: the property's name.
     Event<const String&> PropertyChanged;
 };
 
-/// Makes a freshly placed painted control.
+/// Gives a fresh control its first properties; its name comes before, since a property may be made of it.
+inline void initialise(Control& control)
+{
+    if (UserControl* painted = control.painted()) {
+        painted->initProperties();
+    }
+}
+
+/// Makes a freshly placed control without a name.
 template <typename Class, typename... Args>
 std::shared_ptr<Class> makeControl(Args&&... args)
 {
     auto control = std::make_shared<Class>(std::forward<Args>(args)...);
-    if (UserControl* painted = static_cast<Control&>(*control).painted()) {
-        painted->initProperties();
-    }
+    initialise(*control);
+    return control;
+}
+
+/// Makes a freshly placed control of that name, with its place in a control array or -1.
+template <typename Class>
+std::shared_ptr<Class> makeNamed(StringView name, std::int32_t index = -1)
+{
+    auto control = std::make_shared<Class>();
+    static_cast<Control&>(*control).frame().NAME(String(name));
+    static_cast<Control&>(*control).frame().Index(index);
+    initialise(*control);
     return control;
 }
 
