@@ -43,7 +43,6 @@ constexpr double SignWidth = 16;
 
 constexpr double NumberPoints = 17;
 constexpr double SignPoints = 11;
-constexpr std::int32_t MiddleCentre = 1;
 
 enum class Sign : std::uint8_t { None, Plus, Minus };
 
@@ -83,7 +82,7 @@ std::shared_ptr<ctl_Label> makeLabel(StringView name, StringView text, double po
     auto label = makeControl<ctl_Label>();
     label->frame().NAME(String(name));
     label->Font(std::make_shared<Font>(FontSpec{.name = u"Tahoma", .size = points}));
-    label->Alignment(MiddleCentre);
+    label->Alignment(TEXTALIGN::MiddleCentre);
     label->Caption(String(text));
     return label;
 }

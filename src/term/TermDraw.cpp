@@ -106,8 +106,9 @@ private:
     {
         device_.ForeColor(frame.saved.foreColor);
         device_.FontBold(frame.saved.fontBold || startsWithCoefficient(frame.line.part));
-        const double startX = drawing ? alignedX(frame) : frame.x;
-        const double startY = drawing ? alignedY(frame) : frame.y;
+        const TextPlace anchor = drawing ? placeOf(frame.align) : TextPlace{};
+        const double startX = frame.x - along(frame.width, anchor.horizontal);
+        const double startY = frame.y - along(frame.line.height, anchor.vertical);
         frame.walk = {.drawing = drawing,
                       .position = frame.line.part.begin,
                       .base = static_cast<double>(toWhole(startY)),
@@ -122,38 +123,6 @@ private:
     {
         const std::size_t blank = brackets_.firstBlank(part);
         return blank != part.end && isCanonicalNumber(term_.substr(part.begin, blank - part.begin));
-    }
-
-    static double alignedX(const Frame& frame)
-    {
-        switch (frame.align) {
-        case TEXTALIGN::MiddleCentre:
-        case TEXTALIGN::TopCentre:
-        case TEXTALIGN::BottomCentre:
-            return frame.x - frame.width / 2;
-        case TEXTALIGN::MiddleRight:
-        case TEXTALIGN::TopRight:
-        case TEXTALIGN::BottomRight:
-            return frame.x - frame.width;
-        default:
-            return frame.x;
-        }
-    }
-
-    static double alignedY(const Frame& frame)
-    {
-        switch (frame.align) {
-        case TEXTALIGN::MiddleLeft:
-        case TEXTALIGN::MiddleCentre:
-        case TEXTALIGN::MiddleRight:
-            return frame.y - frame.line.height / 2;
-        case TEXTALIGN::BottomLeft:
-        case TEXTALIGN::BottomCentre:
-        case TEXTALIGN::BottomRight:
-            return frame.y - frame.line.height;
-        default:
-            return frame.y;
-        }
     }
 
     bool isWholeTerm() const { return frames_.size() == 1; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/String.h"
+#include "visual/Alignment.h"
 
 #include <cstdint>
 
@@ -8,20 +9,6 @@ namespace phial
 {
 
 class DrawDevice;
-
-/// Alignment of a term to its anchor point. Any other value behaves like TopLeftPlain.
-enum class TEXTALIGN : std::int32_t {
-    MiddleLeft = 0, ///< the anchor is left of the term, at half its height
-    MiddleCentre = 1,
-    MiddleRight = 2,
-    TopLeftPlain = 3,
-    TopLeft = 4, ///< the anchor is the upper left corner
-    TopCentre = 5,
-    TopRight = 6,
-    BottomLeft = 8, ///< the anchor is the lower left corner
-    BottomCentre = 9,
-    BottomRight = 10,
-};
 
 /// Draws a term: a formula in the one-line notation, such as `SO4^2-` or `2H2 + O2 -> 2H2O`. What becomes a
 /// subscript or a superscript is decided from the text:
@@ -46,7 +33,7 @@ enum class TEXTALIGN : std::int32_t {
 /// @param pDevice    where to draw; all places are in its scale
 /// @param pText      the term; no text is refused
 /// @param pX, pY     the anchor point; -1 stands for the device's current position
-/// @param pAlign     see TEXTALIGN
+/// @param pAlign     where the anchor point is: left of the term, above its middle, its lower right corner, …
 /// @param pCalcOnly  ends the call at once: nothing drawn, width 0, all out values -1
 /// @param pCaret     caret index: 0 before the first character, k behind character k, -1 for no caret. A
 /// place inside

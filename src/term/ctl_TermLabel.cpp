@@ -16,39 +16,6 @@ namespace
 constexpr int Grey = 8; // of the classic table of colours
 constexpr int BlackIndex = 0;
 
-/// The anchor point of an alignment on a surface of that width or height: its start, middle or end.
-double anchorX(TEXTALIGN align, double width)
-{
-    switch (align) {
-    case TEXTALIGN::MiddleCentre:
-    case TEXTALIGN::TopCentre:
-    case TEXTALIGN::BottomCentre:
-        return width / 2;
-    case TEXTALIGN::MiddleRight:
-    case TEXTALIGN::TopRight:
-    case TEXTALIGN::BottomRight:
-        return width;
-    default:
-        return 0;
-    }
-}
-
-double anchorY(TEXTALIGN align, double height)
-{
-    switch (align) {
-    case TEXTALIGN::MiddleLeft:
-    case TEXTALIGN::MiddleCentre:
-    case TEXTALIGN::MiddleRight:
-        return height / 2;
-    case TEXTALIGN::BottomLeft:
-    case TEXTALIGN::BottomCentre:
-    case TEXTALIGN::BottomRight:
-        return height;
-    default:
-        return 0;
-    }
-}
-
 } // namespace
 
 struct ctl_TermLabel::Properties {
@@ -127,8 +94,9 @@ void ctl_TermLabel::REDRAW()
     device.ForeColor(textColour_);
     std::int32_t width = 0;
     ignoringErrors([&] {
-        width = TermDraw(device, term_, toWhole(anchorX(align_, device.ScaleWidth())),
-                         toWhole(anchorY(align_, device.ScaleHeight())), align_);
+        const TextPlace anchor = placeOf(align_);
+        width = TermDraw(device, term_, toWhole(along(device.ScaleWidth(), anchor.horizontal)),
+                         toWhole(along(device.ScaleHeight(), anchor.vertical)), align_);
     });
     surface_.MaskPicture(device.Image());
     if (autoSize_) {

@@ -10,24 +10,6 @@
 namespace phial
 {
 
-namespace
-{
-
-TextSide sideOf(Alignment alignment)
-{
-    switch (alignment) {
-    case Alignment::Right:
-        return TextSide::Far;
-    case Alignment::Centre:
-        return TextSide::Middle;
-    case Alignment::Left:
-        break;
-    }
-    return TextSide::Near;
-}
-
-} // namespace
-
 struct Label::Properties {
     static constexpr rows::Table Table{
         rows::property<u"Caption">(&Label::caption_).then(&Label::refresh).spoken(),
@@ -156,8 +138,7 @@ void Label::paintLine(DrawDevice& device)
     device.font(font_->traits());
     const String text = fittedLine(device, oneLine(caption_), size.width);
     const double spare = size.width - device.TextWidth(text);
-    const TextSide side = sideOf(alignment_);
-    device.CurrentX(side == TextSide::Far ? spare : side == TextSide::Middle ? spare / 2 : 0);
+    device.CurrentX(along(spare, sideOf(alignment_)));
     device.CurrentY((size.height - device.TextHeight(text)) / 2);
     device.Print(text);
 }

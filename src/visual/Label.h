@@ -1,5 +1,6 @@
 #pragma once
 
+#include "visual/Alignment.h"
 #include "visual/PaintSurface.h"
 #include "visual/SharedFont.h"
 #include "visual/UserControl.h"
@@ -7,7 +8,6 @@
 namespace phial
 {
 
-enum class Alignment : std::int32_t { Left = 0, Right = 1, Centre = 2 };
 enum class BackStyle : std::int32_t { Transparent = 0, Opaque = 1 };
 
 /// Shows a text, with the markup of Markup.h, from its top. A click where nothing is painted counts too.

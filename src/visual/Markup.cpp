@@ -309,12 +309,9 @@ MarkupLayout::MarkupLayout(StringView text, const FontSpec& font, TextMetrics& m
 void MarkupLayout::draw(DrawDevice& device, const PixelRectangle& box, TextSide horizontal,
                         TextSide vertical) const
 {
-    const auto offset = [](double room, TextSide side) {
-        return side == TextSide::Near ? 0 : side == TextSide::Middle ? room / 2 : room;
-    };
-    double top = box.top + offset(box.height - size_.height, vertical);
+    double top = box.top + along(box.height - size_.height, vertical);
     for (const Line& line : lines_) {
-        const double left = box.left + offset(box.width - line.width, horizontal);
+        const double left = box.left + along(box.width - line.width, horizontal);
         for (const Piece& piece : line.pieces) {
             device.font(piece.font);
             device.CurrentX(left + piece.x);

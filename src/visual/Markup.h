@@ -1,5 +1,6 @@
 #pragma once
 
+#include "visual/Alignment.h"
 #include "visual/DrawDevice.h"
 
 #include <optional>
@@ -28,8 +29,6 @@ String plainMarkup(StringView text);
 
 /// How a text is read: with markup, or letter by letter, so that tags are seen. Line ends part lines in both.
 enum class TextForm : std::int32_t { Markup, Plain };
-
-enum class TextSide : std::int32_t { Near, Middle, Far };
 
 /// Markup set in lines: measured once, drawn as often as needed. All in pixels.
 class MarkupLayout

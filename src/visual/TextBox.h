@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/Colour.h"
+#include "visual/Alignment.h"
 #include "visual/Control.h"
-#include "visual/Label.h"
 #include "visual/SharedFont.h"
 
 namespace phial

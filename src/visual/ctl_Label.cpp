@@ -8,29 +8,6 @@
 namespace phial
 {
 
-namespace
-{
-
-constexpr std::int32_t TopLeft = 4;
-
-/// Where a text stands for an alignment code; see the class comment.
-struct TextPlace {
-    TextSide horizontal;
-    TextSide vertical;
-};
-
-TextPlace placeOf(std::int32_t alignment)
-{
-    constexpr std::int32_t CodesPerRow = 4;
-    constexpr TextSide Sides[] = {TextSide::Near, TextSide::Middle, TextSide::Far};
-    constexpr TextSide Heights[] = {TextSide::Middle, TextSide::Near, TextSide::Far};
-    const bool known = alignment >= 0 && alignment <= 10 && alignment % CodesPerRow != 3;
-    const std::int32_t code = known ? alignment : TopLeft;
-    return {Sides[code % CodesPerRow], Heights[code / CodesPerRow]};
-}
-
-} // namespace
-
 struct ctl_Label::Properties {
     static constexpr rows::Table Table{
         rows::property<u"Caption">(&ctl_Label::caption_).kept(u"text").then(&ctl_Label::refresh).spoken(),
@@ -81,7 +58,7 @@ MarkupLayout ctl_Label::layOut(double width) const
 void ctl_Label::Caption(String value) { rows::set<Properties, u"Caption">(*this, std::move(value)); }
 void ctl_Label::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
 void ctl_Label::ForeColor(Colour value) { rows::set<Properties, u"ForeColor">(*this, value); }
-void ctl_Label::Alignment(std::int32_t value) { rows::set<Properties, u"Alignment">(*this, value); }
+void ctl_Label::Alignment(TEXTALIGN value) { rows::set<Properties, u"Alignment">(*this, value); }
 void ctl_Label::AutoSize(bool value) { rows::set<Properties, u"AutoSize">(*this, value); }
 void ctl_Label::PlainText(bool value) { rows::set<Properties, u"PlainText">(*this, value); }
 void ctl_Label::Raised(bool value) { rows::set<Properties, u"Raised">(*this, value); }

@@ -10,9 +10,8 @@ namespace phial
 
 /// The styled label: a text with the markup of Markup.h that can stand flat or raised.
 ///
-/// `Alignment` counts like the alignment of terms: 0, 1, 2 left, centre, right in the middle of the height;
-/// 4, 5, 6 the same at the top; 8, 9, 10 at the bottom; any other value like 4. Width and Height are in the
-/// container's unit. With AutoSize the text is wrapped at Width and the height follows.
+/// Width and Height are in the container's unit. With AutoSize the text is wrapped at Width and the height
+/// follows.
 class ctl_Label final : public UserControl
 {
 public:
@@ -26,8 +25,8 @@ public:
     void Font(FontPtr value);
     Colour ForeColor() const { return foreColor_; }
     void ForeColor(Colour value);
-    std::int32_t Alignment() const { return alignment_; }
-    void Alignment(std::int32_t value);
+    TEXTALIGN Alignment() const { return alignment_; }
+    void Alignment(TEXTALIGN value);
     bool AutoSize() const { return autoSize_; }
     void AutoSize(bool value);
     /// The caption is shown as it is, tags included, and words wider than the label are broken: for texts
@@ -74,7 +73,7 @@ private:
     String caption_;
     SharedFont font_;
     Colour foreColor_ = SystemColour::WindowText;
-    std::int32_t alignment_ = 0;
+    TEXTALIGN alignment_ = TEXTALIGN::MiddleLeft;
     bool autoSize_ = false;
     bool plain_ = false;
     bool raised_ = false;

@@ -1,6 +1,6 @@
 #include "visual/ControlArray.h"
 
-#include "visual/FormLayout.h"
+#include "visual/FormDesign.h"
 #include "visual/FormTest.h"
 #include "visual/PictureBox.h"
 
@@ -90,11 +90,11 @@ TEST_F(ControlArrayTest, AnElementMayUnloadItselfInItsEvent)
 
 TEST_F(ControlArrayTest, AdoptsWhatTheDesignHasPutOnTheForm)
 {
-    constexpr LayoutItem Design[] = {
+    constexpr ControlDesign Design[] = {
         design<PictureBox>(u"pic_Key", {0, 0, 720, 720}).at(0),
         design<PictureBox>(u"pic_Key", {720, 0, 720, 720}).at(12),
     };
-    applyLayout(*form, Design);
+    addControls(*form, Design);
     ControlArray<PictureBox> keys(*form, u"pic_Key");
     keys.adopt();
     EXPECT_EQ(keys.UBound(), 12);

@@ -112,7 +112,7 @@ TEST_F(LabelTest, FontIsSharedByReference)
     label->Font(font);
     styled->Font(font);
     styled->Move(0, 0, 300, 150);
-    styled->Alignment(4);
+    styled->Alignment(TEXTALIGN::TopLeft);
     styled->Caption(u"a");
     drawn(*styled);
     font->Bold(true);
@@ -144,13 +144,13 @@ TEST_F(LabelTest, StyledLabelIsAlignedInBothDirections)
 {
     styled->Move(0, 0, 300, 300);
     styled->Caption(u"ab");
-    styled->Alignment(0);
+    styled->Alignment(TEXTALIGN::MiddleLeft);
     EXPECT_EQ(drawn(*styled), "clear cut\ntext 0,5 \"ab\" Tahoma 8 #000000\n");
-    styled->Alignment(5);
+    styled->Alignment(TEXTALIGN::TopCentre);
     EXPECT_THAT(drawn(*styled), ::testing::HasSubstr("text 6,0 "));
-    styled->Alignment(10);
+    styled->Alignment(TEXTALIGN::BottomRight);
     EXPECT_THAT(drawn(*styled), ::testing::HasSubstr("text 12,10 "));
-    styled->Alignment(7);
+    styled->Alignment(static_cast<TEXTALIGN>(7));
     EXPECT_THAT(drawn(*styled), ::testing::EndsWith("text 0,0 \"ab\" Tahoma 8 #000000\n"));
 }
 
@@ -158,7 +158,7 @@ TEST_F(LabelTest, RaisedLabelStandsOffAndFlatWins)
 {
     styled->Move(0, 0, 300, 300);
     styled->Caption(u"1");
-    styled->Alignment(4);
+    styled->Alignment(TEXTALIGN::TopLeft);
     styled->Flat(false);
     const std::string plain = drawn(*styled);
     styled->Raised(true);

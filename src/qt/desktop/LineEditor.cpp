@@ -15,12 +15,12 @@ constexpr int NoLimit = 32767;
 
 Qt::Alignment alignmentOf(Alignment alignment)
 {
-    switch (alignment) {
-    case Alignment::Right:
+    switch (sideOf(alignment)) {
+    case TextSide::Far:
         return Qt::AlignRight;
-    case Alignment::Centre:
+    case TextSide::Middle:
         return Qt::AlignHCenter;
-    case Alignment::Left:
+    case TextSide::Near:
         break;
     }
     return Qt::AlignLeft;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/String.h"
+#include "visual/Alignment.h"
 #include "visual/Font.h"
-#include "visual/Label.h"
 
 #include <QColor>
 
