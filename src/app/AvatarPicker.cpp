@@ -1,6 +1,6 @@
 #include "app/AvatarPicker.h"
 
-#include "app/DialogUserLayout.h"
+#include "app/DialogUserDesign.h"
 #include "app/cls_App.h"
 #include "app/cls_AppUser.h"
 #include "app/screen/Avatars.h"
@@ -13,9 +13,9 @@
 namespace phial
 {
 
-using dialog_user_layout::Cell;
-using dialog_user_layout::Columns;
-using dialog_user_layout::Marker;
+using dialog_user_design::Cell;
+using dialog_user_design::Columns;
+using dialog_user_design::Marker;
 
 namespace
 {

@@ -1,5 +1,6 @@
 #include "app/frm_DialogUser.h"
 
+#include "app/FormTexts.h"
 #include "app/RecentNames.h"
 #include "app/cls_App.h"
 #include "app/cls_AppUser.h"
@@ -18,27 +19,16 @@
 namespace phial
 {
 
-namespace layout = dialog_user_layout;
+namespace layout = dialog_user_design;
 
 namespace
 {
-
-constexpr StringView Confirm = u"DIALOG.OK();";
-constexpr StringView Abort = u"DIALOG.ABORT();";
 
 constexpr std::size_t ShortestName = 3;
 constexpr std::size_t LongestName = 20;
 constexpr StringView NoName = u"Ohne Namen geht's leider nicht!";
 constexpr StringView NameTooShort = u"Das iss aber 'n bisschen kurz! (Bitte mindestens 3 Zeichen eingeben!)";
 constexpr StringView NameTooLong = u"Iss das nich 'n bisschen viel? (Bitte maximal 20 Zeichen eingeben!)";
-
-constexpr Colour Blue = RGB(0, 106, 181);
-constexpr Colour DarkBlue = RGB(0, 64, 118);
-constexpr Colour Paper = RGB(246, 249, 252);
-constexpr Colour White = RGB(255, 255, 255);
-constexpr Colour Line = RGB(196, 212, 226);
-constexpr Colour Dark = RGB(28, 40, 54);
-constexpr Colour Quiet = RGB(84, 100, 118);
 
 constexpr double LastInset = 4; // between the edge of a place and its picture
 
@@ -51,18 +41,15 @@ StringView objection(const String& name)
                                         : StringView();
 }
 
-FontPtr font(double size, bool bold = false)
-{
-    return std::make_shared<Font>(FontSpec{.name = u"Tahoma", .size = size, .bold = bold});
-}
-
 /// The picture of a place: a tile, with the avatar when there is one. It shows whether it has the focus.
 PicturePtr tile(PixelSize size, const PicturePtr& avatar, bool focused)
 {
     DrawDevice device(visualHost().createSurface(size, visualHost().pixelRatio()));
-    device.Line(0, 0, size.width - 1, size.height - 1, focused ? Blue : Line, LineShape::Filled);
+    device.Line(0, 0, size.width - 1, size.height - 1, focused ? Palette::Accent : Palette::Divider,
+                LineShape::Filled);
     const double edge = focused ? 3 : 1;
-    device.Line(edge, edge, size.width - 1 - edge, size.height - 1 - edge, White, LineShape::Filled);
+    device.Line(edge, edge, size.width - 1 - edge, size.height - 1 - edge, Palette::Surface,
+                LineShape::Filled);
     if (avatar) {
         paintAvatar(device, avatar,
                     {LastInset, LastInset, size.width - 2 * LastInset, size.height - 2 * LastInset});
@@ -78,18 +65,14 @@ String login()
 } // namespace
 
 frm_DialogUser::frm_DialogUser()
-    : form_(std::make_shared<Form>(u"frm_DialogUser")), lastPictures_(*form_, u"pic_Last"),
-      lastNames_(*form_, u"lab_Last")
+    : form_(layout::Design), screenName_(form_->control<TextBox>(u"txt_Screenname")),
+      lastPictures_(*form_, u"pic_Last"), lastNames_(*form_, u"lab_Last")
 {
-    build();
-    style();
+    lastPictures_.adopt();
+    lastNames_.adopt();
     connect();
+    connectLast();
     TRANSLATE();
-}
-
-frm_DialogUser::~frm_DialogUser()
-{
-    form_->discard();
 }
 
 void frm_DialogUser::Show()
@@ -97,72 +80,22 @@ void frm_DialogUser::Show()
     form_->Show(FormShow::Modal);
 }
 
-void frm_DialogUser::build()
-{
-    form_->Caption(u"Name und Bild|Name and picture");
-    form_->ScaleMode(ScaleUnit::Pixels);
-    form_->BorderStyle(BorderStyle::FixedDialog);
-    form_->innerSize({layout::Width, layout::Height});
-    form_->centred(true);
-    form_->KeyPreview(true);
-    for (const LayoutItem& item : layout::Items) {
-        applyLayout(*form_, {&item, 1});
-        const auto control = form_->control<Control>(item.name, item.index);
-        if (Container* inner = control->container()) {
-            inner->ScaleMode(ScaleUnit::Pixels);
-        }
-        control->frame().TabIndex(static_cast<std::int32_t>(&item - std::begin(layout::Items)));
-    }
-    screenName_ = form_->control<TextBox>(u"txt_Screenname");
-    lastPictures_.adopt();
-    lastNames_.adopt();
-    const auto buttons = form_->control<ctl_CmdBar>(u"bar_Buttons")->BUTTONS();
-    buttons->Add(String(Confirm), u"OK|OK");
-    buttons->Add(String(Abort), u"Abbrechen|Cancel");
-}
-
-void frm_DialogUser::style()
-{
-    form_->BackColor(Paper);
-    const auto header = form_->control<ctl_Gradient>(u"bar_Header");
-    header->Color1(Blue);
-    header->Color2(DarkBlue);
-    const auto title = form_->control<ctl_Label>(u"lab_Title");
-    title->Font(font(18, true));
-    title->ForeColor(White);
-    for (const auto* name : {u"Label1", u"lab_Recent", u"lab_Avatars"}) {
-        const auto label = form_->control<ctl_Label>(name);
-        label->Font(font(11));
-        label->ForeColor(Dark);
-    }
-    screenName_->Font(font(15));
-    lastNames_.each([](ctl_Label& label, std::int32_t) {
-        label.Font(font(11));
-        label.ForeColor(Quiet);
-        label.PlainText(true);
-    });
-    for (const auto* name : {u"pic_AvatarHolder", u"pic_Avatars"}) {
-        form_->control<PictureBox>(name)->BackColor(White);
-    }
-    form_->control<Shape>(u"shp_AvatarHolder")->BorderColor(Line);
-    const auto marker = form_->control<Shape>(u"shp_Avatar");
-    marker->Kind(ShapeKind::RoundedRectangle);
-    marker->BorderColor(Blue);
-    marker->BorderWidth(3);
-    form_->control<PictureBox>(u"pic_Avatars")->frame().canFocus(true);
-    lastPictures_.each([](PictureBox& picture, std::int32_t) { picture.frame().canFocus(true); });
-}
-
 void frm_DialogUser::connect()
 {
-    connections_ += form_->Load.connect([this] { load(); });
-    connections_ += form_->TRANSLATE.connect([this] { TRANSLATE(); });
-    connections_ += form_->KeyDown.connect([this](KeyEvent& event) { keyDown(event); });
-    connections_ += screenName_->Click.connect([this] { openKeyboard(); });
-    connections_ +=
-        form_->control<ctl_CmdBar>(u"bar_Buttons")->BUTTON.connect([this](std::int32_t, const String& key) {
-            command(key);
-        });
+    form_.on(form_->Load, [this] { load(); });
+    form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
+    form_.on(form_->KeyDown, [this](KeyEvent& event) { keyDown(event); });
+    form_.on(screenName_->Click, [this] { openKeyboard(); });
+    form_.command(u"bar_Buttons", layout::Confirm, [this] { confirm(); });
+    form_.command(u"bar_Buttons", layout::Abort, [this] { abort(); });
+    const auto avatars = form_->control<PictureBox>(u"pic_Avatars");
+    const auto edge = form_->control<Shape>(u"shp_AvatarHolder");
+    form_.on(avatars->GotFocus, [edge = edge.get()] { edge->BorderColor(Palette::Accent); });
+    form_.on(avatars->LostFocus, [edge = edge.get()] { edge->BorderColor(Palette::Divider); });
+}
+
+void frm_DialogUser::connectLast()
+{
     const auto confirmLast = [this](std::int32_t place) {
         if (!lastPictures_(place)->Tag().empty()) {
             takeLast(place);
@@ -170,34 +103,25 @@ void frm_DialogUser::connect()
         }
     };
     const auto wire = [this, confirmLast](auto& control, std::int32_t place) {
-        connections_ += control.Click.connect([this, place] { takeLast(place); });
-        return control.DblClick.connect([confirmLast, place] { confirmLast(place); });
+        form_.on(control.Click, [this, place] { takeLast(place); });
+        form_.on(control.DblClick, [confirmLast, place] { confirmLast(place); });
     };
-    lastPictures_.connectEach(wire);
-    lastNames_.connectEach(wire);
+    lastPictures_.each(wire);
+    lastNames_.each(wire);
     lastPictures_.each([this](PictureBox& picture, std::int32_t place) {
-        connections_ += picture.GotFocus.connect([this, place] { drawPlace(place); });
-        connections_ += picture.LostFocus.connect([this, place] { drawPlace(place); });
+        form_.on(picture.GotFocus, [this, place] { drawPlace(place); });
+        form_.on(picture.LostFocus, [this, place] { drawPlace(place); });
     });
-    const auto avatars = form_->control<PictureBox>(u"pic_Avatars");
-    const auto edge = form_->control<Shape>(u"shp_AvatarHolder");
-    connections_ += avatars->GotFocus.connect([edge = edge.get()] { edge->BorderColor(Blue); });
-    connections_ += avatars->LostFocus.connect([edge = edge.get()] { edge->BorderColor(Line); });
 }
 
-// The design texts are gathered by the first walk, before any field shows what is no text of the form.
 void frm_DialogUser::TRANSLATE()
 {
-    LNG()->Form(*form_, texts_);
+    translateForm(form_);
     for (std::int32_t place = 0; place < layout::LastPlaces; ++place) {
         if (const auto& name = lastShown_[static_cast<std::size_t>(place)]) {
             lastNames_(place)->Caption(*name);
         }
     }
-    screenName_->frame().AccessibleName(LNG()->TRANSLATE(u"Dein Name", u"Your name"));
-    form_->control<PictureBox>(u"pic_Avatars")
-        ->frame()
-        .AccessibleName(LNG()->TRANSLATE(u"Dein Bild", u"Your picture"));
 }
 
 void frm_DialogUser::load()
@@ -205,8 +129,7 @@ void frm_DialogUser::load()
     picker_ = std::make_unique<AvatarPicker>(AvatarPicker::Parts{
         form_->control<PictureBox>(u"pic_AvatarHolder"), form_->control<PictureBox>(u"pic_Avatars"),
         form_->control<Shape>(u"shp_Avatar"), form_->control<ScrollBar>(u"srl_Avatars")});
-    connections_ +=
-        picker_->Selected.connect([this] { userAvatar_ = QVAPP()->USER()->AVATARID(picker_->selected()); });
+    form_.on(picker_->Selected, [this] { userAvatar_ = QVAPP()->USER()->AVATARID(picker_->selected()); });
     picker_->select(1);
     screenName_->Text(login());
     fillLast();
@@ -238,7 +161,7 @@ void frm_DialogUser::fillPlace(std::int32_t place, const String& name, const Str
     const auto label = lastNames_(place);
     label->Caption(name);
     label->Tag(avatar);
-    label->ForeColor(Dark);
+    label->ForeColor(Palette::Ink);
     lastShown_[static_cast<std::size_t>(place)] = name;
 }
 
@@ -271,15 +194,6 @@ void frm_DialogUser::openKeyboard()
 {
     if (const auto& open = QVAPP()->dialogAids().textInput) {
         open(*screenName_, LNG()->TRANSLATE(u"Dein Name", u"Your name"));
-    }
-}
-
-void frm_DialogUser::command(const String& key)
-{
-    if (key == Confirm) {
-        confirm();
-    } else if (key == Abort) {
-        abort();
     }
 }
 

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "app/AvatarPicker.h"
-#include "app/DialogUserLayout.h"
-#include "core/CoreTokenList.h"
+#include "app/DialogUserDesign.h"
 #include "visual/ControlArray.h"
-#include "visual/Form.h"
+#include "visual/DesignedForm.h"
 #include "visual/PictureBox.h"
 #include "visual/TextBox.h"
 #include "visual/ctl_Label.h"
@@ -23,9 +22,6 @@ class frm_DialogUser
 {
 public:
     frm_DialogUser();
-    ~frm_DialogUser();
-    frm_DialogUser(const frm_DialogUser&) = delete;
-    frm_DialogUser& operator=(const frm_DialogUser&) = delete;
 
     /// Modal: returns when the pupil has confirmed or aborted.
     void Show();
@@ -40,9 +36,8 @@ public:
     Form& form() { return *form_; }
 
 private:
-    void build();
-    void style();
     void connect();
+    void connectLast();
     void load();
     void fillLast();
     void fillPlace(std::int32_t place, const String& name, const String& avatar);
@@ -50,7 +45,6 @@ private:
     void takeLast(std::int32_t place);
     void selectAvatar(const String& avatar);
     void openKeyboard();
-    void command(const String& key);
     void confirm();
     void abort();
     void keyDown(KeyEvent& event);
@@ -58,15 +52,13 @@ private:
 
     String userResult_ = u"False";
     String userAvatar_;
-    std::shared_ptr<Form> form_;
+    DesignedForm form_;
     std::shared_ptr<TextBox> screenName_;
     ControlArray<PictureBox> lastPictures_;
     ControlArray<ctl_Label> lastNames_;
-    std::array<std::optional<String>, dialog_user_layout::LastPlaces>
+    std::array<std::optional<String>, dialog_user_design::LastPlaces>
         lastShown_; ///< by place, an entry's name
-    CoreTokenList texts_;
     std::unique_ptr<AvatarPicker> picker_;
-    Connections connections_;
 };
 
 } // namespace phial

@@ -1,11 +1,10 @@
 #include "results/frm_DialogHighscore.h"
 
-#include "app/cls_Language.h"
-#include "app/sys_Global.h"
+#include "app/FormTexts.h"
 #include "core/Arithmetic.h"
 #include "core/CoreDialogs.h"
 #include "core/CoreRoot.h"
-#include "results/DialogHighscoreLayout.h"
+#include "core/Format.h"
 #include "results/ListRecord.h"
 #include "results/cls_DataScores.h"
 
@@ -14,29 +13,14 @@
 namespace phial
 {
 
-namespace layout = dialog_highscore_layout;
+namespace layout = dialog_highscore_design;
 
 namespace
 {
 
-constexpr StringView Reset = u"DIALOG.RESET();";
-constexpr StringView Accept = u"DIALOG.ACCEPT();";
-constexpr StringView Confirm = u"DIALOG.OK();";
 constexpr StringView ResetQuestion = u"Bist Du sicher, daß Du die Highscore-Liste zurücksetzen möchtest?";
 
-constexpr Colour DarkBlue = RGB(0, 64, 118);
-constexpr Colour Paper = RGB(246, 249, 252);
-constexpr Colour White = RGB(255, 255, 255);
-constexpr Colour Band = RGB(232, 240, 247);
-constexpr Colour Line = RGB(196, 212, 226);
-constexpr Colour Dark = RGB(28, 40, 54);
-constexpr Colour Quiet = RGB(84, 100, 118);
 constexpr int LightRed = 12; // of the classic table of colours
-
-FontPtr font(double size, bool bold = false)
-{
-    return std::make_shared<Font>(FontSpec{.name = u"Tahoma", .size = size, .bold = bold});
-}
 
 /// Points as a whole number.
 String wholePoints(double points)
@@ -53,19 +37,15 @@ String shortMoment(Moment moment)
 } // namespace
 
 frm_DialogHighscore::frm_DialogHighscore()
-    : form_(std::make_shared<Form>(u"frm_DialogHighscore")), ranks_(*form_, u"lab_Rank"),
-      names_(*form_, u"lab_Name"), exercises_(*form_, u"lab_Ueb"), points_(*form_, u"lab_Points"),
-      times_(*form_, u"lab_time")
+    : form_(layout::Design), ranks_(*form_, u"lab_Rank"), names_(*form_, u"lab_Name"),
+      exercises_(*form_, u"lab_Ueb"), points_(*form_, u"lab_Points"), times_(*form_, u"lab_time"),
+      more_(form_->control<ctl_Button>(u"but_mehr")), less_(form_->control<ctl_Button>(u"but_weniger"))
 {
-    build();
-    style();
+    for (auto* labels : {&ranks_, &names_, &exercises_, &points_, &times_}) {
+        labels->adopt();
+    }
     connect();
     TRANSLATE();
-}
-
-frm_DialogHighscore::~frm_DialogHighscore()
-{
-    form_->discard();
 }
 
 void frm_DialogHighscore::Show()
@@ -73,87 +53,22 @@ void frm_DialogHighscore::Show()
     form_->Show(FormShow::Modal);
 }
 
-void frm_DialogHighscore::build()
-{
-    form_->Caption(u"Bestenliste|High scores");
-    form_->ScaleMode(ScaleUnit::Pixels);
-    form_->BorderStyle(BorderStyle::FixedDialog);
-    form_->innerSize({layout::Width, layout::Height});
-    form_->centred(true);
-    form_->KeyPreview(true);
-    applyLayout(*form_, layout::Items);
-    for (auto* labels : {&ranks_, &names_, &exercises_, &points_, &times_}) {
-        labels->adopt();
-    }
-    more_ = form_->control<ctl_Button>(u"but_mehr");
-    less_ = form_->control<ctl_Button>(u"but_weniger");
-    const auto title = form_->control<ctl_Title>(u"bar_Header");
-    title->Closable(false);
-    title->frame().canFocus(false);
-    const auto commands = form_->control<ctl_CmdBar>(u"bar_Buttons")->BUTTONS();
-    commands->Add(String(Reset), u"Zurücksetzen|Reset");
-    commands->Add(String(Confirm), u"OK|OK")->Default(true);
-}
-
-void frm_DialogHighscore::style()
-{
-    form_->BackColor(Paper);
-    form_->control<ctl_Title>(u"bar_Header")->Font(font(16, true));
-    for (std::int32_t row = 0; row < layout::Rows; ++row) {
-        const auto band = form_->control<Shape>(u"shp_Row", row);
-        band->BorderWidth(0);
-        band->FillStyle(FillStyle::Solid);
-        band->FillColor(row % 2 == 0 ? White : Band);
-    }
-    styleColumns();
-    const auto empty = form_->control<ctl_Pannel>(u"bar_Empty");
-    empty->Font(font(14));
-    empty->ForeColor(DarkBlue);
-    empty->BackColor(White);
-    empty->BorderColor(Line);
-    more_->Font(font(11));
-    less_->Font(font(11));
-}
-
-void frm_DialogHighscore::styleColumns()
-{
-    const FontPtr titleFont = font(10, true);
-    const FontPtr rowFont = font(11);
-    for (const layout::Column& column : layout::Columns) {
-        const auto alignment = column.right ? Alignment::Right : Alignment::Left;
-        const auto title =
-            form_->control<Label>(u"lab_Title", static_cast<std::int32_t>(&column - layout::Columns.data()));
-        title->Font(titleFont);
-        title->ForeColor(Quiet);
-        title->SingleLine(true);
-        title->Alignment(alignment);
-        for (std::int32_t row = 0; row < layout::Rows; ++row) {
-            const auto label = form_->control<Label>(column.name, row);
-            label->SingleLine(true);
-            label->Alignment(alignment);
-            label->Font(rowFont);
-            label->ForeColor(Dark);
-        }
-    }
-}
-
 void frm_DialogHighscore::connect()
 {
-    connections_ += form_->Load.connect([this] { load(); });
-    connections_ += form_->TRANSLATE.connect([this] { TRANSLATE(); });
-    connections_ += form_->KeyDown.connect([this](KeyEvent& event) { keyDown(event); });
-    connections_ += more_->CLICK.connect([this] { nextPage(); });
-    connections_ += less_->CLICK.connect([this] { previousPage(); });
-    connections_ +=
-        form_->control<ctl_CmdBar>(u"bar_Buttons")->BUTTON.connect([this](std::int32_t, const String& key) {
-            command(key);
-        });
+    form_.on(form_->Load, [this] { load(); });
+    form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
+    form_.on(form_->KeyDown, [this](KeyEvent& event) { keyDown(event); });
+    form_.on(more_->CLICK, [this] { nextPage(); });
+    form_.on(less_->CLICK, [this] { previousPage(); });
+    form_.command(u"bar_Buttons", layout::Reset, [this] { askForReset(); });
+    for (const StringView closing : {layout::Accept, layout::Confirm}) {
+        form_.command(u"bar_Buttons", closing, [this] { form_->Unload(); });
+    }
 }
 
-// The design texts are gathered by the first walk, before any label shows what is no text of the form.
 void frm_DialogHighscore::TRANSLATE()
 {
-    LNG()->Form(*form_, texts_);
+    translateForm(form_);
     showTitle();
     showWhyEmpty();
 }
@@ -277,9 +192,9 @@ void frm_DialogHighscore::fillRow(cls_DataScores& list, std::int32_t position)
 
 void frm_DialogHighscore::stressRow(std::int32_t row, bool stressed)
 {
-    const FontPtr rowFont = font(11, stressed);
+    const auto rowFont = std::make_shared<Font>(FontSpec{.size = layout::RowSize, .bold = stressed});
     for (const auto* labels : {&ranks_, &names_, &points_}) {
-        (*labels)(row)->ForeColor(stressed ? QBColor(LightRed) : Dark);
+        (*labels)(row)->ForeColor(stressed ? QBColor(LightRed) : Palette::Ink);
         (*labels)(row)->Font(rowFont);
     }
 }
@@ -289,16 +204,6 @@ void frm_DialogHighscore::keepFocus(ctl_Button& other)
 {
     if (form_->Visible() && !form_->ActiveControl()) {
         other.SetFocus();
-    }
-}
-
-void frm_DialogHighscore::command(const String& key)
-{
-    const String wanted = upperCase(key);
-    if (wanted == Reset) {
-        askForReset();
-    } else if (wanted == Accept || wanted == Confirm) {
-        form_->Unload();
     }
 }
 

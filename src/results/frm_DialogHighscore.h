@@ -1,12 +1,9 @@
 #pragma once
 
-#include "core/CoreTokenList.h"
+#include "results/DialogHighscoreDesign.h"
 #include "visual/ControlArray.h"
-#include "visual/Form.h"
-#include "visual/Label.h"
-#include "visual/ctl_Button.h"
+#include "visual/DesignedForm.h"
 
-#include <array>
 #include <memory>
 
 namespace phial
@@ -28,9 +25,6 @@ class frm_DialogHighscore
 {
 public:
     frm_DialogHighscore();
-    ~frm_DialogHighscore();
-    frm_DialogHighscore(const frm_DialogHighscore&) = delete;
-    frm_DialogHighscore& operator=(const frm_DialogHighscore&) = delete;
 
     /// Modal: returns when the user has closed the window. Raises 91 without a list.
     void Show();
@@ -60,9 +54,6 @@ public:
     Form& form() { return *form_; }
 
 private:
-    void build();
-    void style();
-    void styleColumns();
     void connect();
     void load();
     void showTitle();
@@ -75,7 +66,6 @@ private:
     void fillRow(cls_DataScores& list, std::int32_t position);
     void stressRow(std::int32_t row, bool stressed);
     void keepFocus(ctl_Button& other);
-    void command(const String& key);
     void askForReset();
     void keyDown(KeyEvent& event);
     bool turnsPage(const KeyEvent& event);
@@ -87,8 +77,7 @@ private:
     bool local_ = false;
     bool reset_ = false;
 
-    std::shared_ptr<Form> form_;
-    CoreTokenList texts_;
+    DesignedForm form_;
     ControlArray<Label> ranks_;
     ControlArray<Label> names_;
     ControlArray<Label> exercises_;
@@ -97,7 +86,6 @@ private:
     std::shared_ptr<ctl_Button> more_;
     std::shared_ptr<ctl_Button> less_;
     std::int32_t page_ = 0;
-    Connections connections_;
 };
 
 } // namespace phial

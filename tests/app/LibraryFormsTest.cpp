@@ -34,11 +34,23 @@ Halves halvesOf(StringView pair)
     return {String(pair.substr(0, at)), String(pair.substr(at + 1))};
 }
 
+std::span<const ControlDesign> controlsOf(const LibraryForm& row)
+{
+    return row.design ? row.design->controls : std::span<const ControlDesign>();
+}
+
 std::vector<Halves> pairsOf(const LibraryForm& row)
 {
     std::vector<Halves> pairs;
-    for (const LayoutItem& item : row.design) {
-        pairs.push_back(halvesOf(item.text));
+    if (row.design) {
+        pairs.push_back(halvesOf(row.design->caption));
+    }
+    for (const ControlDesign& control : controlsOf(row)) {
+        pairs.push_back(halvesOf(control.text));
+        pairs.push_back(halvesOf(control.spokenName));
+        for (const ButtonDesign& button : control.bar) {
+            pairs.push_back(halvesOf(button.caption));
+        }
     }
     for (const StringView pair : row.pairs) {
         pairs.push_back(halvesOf(pair));
@@ -133,7 +145,7 @@ TEST_F(LibraryFormsTest, EachTextOfTheDesignStandsOnItsControl)
         const auto german = visibleTexts(*made.form);
         LNG()->CURRENT(ID_Language_English);
         const auto english = visibleTexts(*made.form);
-        for (const LayoutItem& item : row.design) {
+        for (const ControlDesign& item : controlsOf(row)) {
             if (item.text.empty()) {
                 continue;
             }

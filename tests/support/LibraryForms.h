@@ -1,21 +1,16 @@
 #pragma once
 
-#include "app/DialogUserLayout.h"
 #include "app/frm_DialogUser.h"
-#include "app/screen/AppAboutLayout.h"
 #include "app/screen/frm_AppAbout.h"
 #include "app/screen/frm_Fade.h"
 #include "app/screen/frm_Resource.h"
-#include "results/DialogHighscoreLayout.h"
 #include "results/cls_DataScores.h"
 #include "results/frm_DialogHighscore.h"
-#include "server/NetMonitorLayout.h"
+#include "server/NetMonitorDesign.h"
 #include "server/frm_NetMonitor.h"
-#include "visual/FormLayout.h"
 
 #include <functional>
 #include <memory>
-#include <span>
 #include <vector>
 
 namespace phial::test
@@ -31,7 +26,7 @@ struct MadeForm {
 struct LibraryForm {
     StringView name; ///< of the class and its header
     std::function<MadeForm()> make;
-    std::span<const LayoutItem> design; ///< whose texts are pairs "German|English"
+    const FormDesign* design = nullptr; ///< whose texts are pairs "German|English"; null for none
     std::vector<StringView> pairs;      ///< "German|English": what stands outside the design
     std::vector<StringView> data;       ///< what is no text of the form and stays in both languages
     bool shown = true;                  ///< false: it is never shown, and only loaded
@@ -68,40 +63,32 @@ inline std::vector<LibraryForm> libraryForms()
     return {
         {.name = u"frm_AppAbout",
          .make = makeLibraryForm<frm_AppAbout>,
-         .design = app_about_layout::Items,
-         .pairs = {u"Info über Molmasse|About Molmasse", u"Schließen|Close"},
+         .design = &app_about_design::Design,
+         .pairs = {u"Info über Molmasse|About Molmasse"},
          .data = {u"Molmasse", u"Version 5.1.2", u"(c) Somebody", u"apps\\Molmasse\\"},
          .aborts = true},
         {.name = u"frm_DialogHighscore",
          .make = makeHighscore,
-         .design = dialog_highscore_layout::Items,
-         .pairs = {u"Bestenliste|High scores", u"Zurücksetzen|Reset", u"OK|OK"},
+         .design = &dialog_highscore_design::Design,
+         .pairs = {},
          .data = {},
          .aborts = true},
         {.name = u"frm_DialogUser",
          .make = makeLibraryForm<frm_DialogUser>,
-         .design = dialog_user_layout::Items,
-         .pairs = {u"Name und Bild|Name and picture", u"OK|OK", u"Abbrechen|Cancel", u"Dein Name|Your name",
-                   u"Dein Bild|Your picture"},
+         .design = &dialog_user_design::Design,
+         .pairs = {},
          .data = {u"pupil", u"Maxi"},
          .aborts = true},
-        {.name = u"frm_Fade",
-         .make = makeLibraryForm<frm_Fade>,
-         .design = {},
-         .pairs = {},
-         .data = {u"Form1"}},
+        {.name = u"frm_Fade", .make = makeLibraryForm<frm_Fade>, .pairs = {}, .data = {u"Form1"}},
         {.name = u"frm_NetMonitor",
          .make = makeNetMonitor,
-         .design = net_monitor_layout::Items,
-         .pairs = {u"Netzwerk-Monitor|Network monitor", u"Leeren|Clear", u"Schließen|Close",
-                   u"Verkehr mit dem Master|Traffic with the master", u"Gewählte Zeile|Chosen line",
-                   u"verbunden|connected",
+         .design = &net_monitor_design::Design,
+         .pairs = {u"verbunden|connected",
                    u"09:00:00  •  127.0.0.1:10049  verbunden|09:00:00  •  127.0.0.1:10049  connected"},
          .data = {},
          .aborts = true},
         {.name = u"frm_Resource",
          .make = makeLibraryForm<frm_Resource>,
-         .design = {},
          .pairs = {},
          .data = {},
          .shown = false},

@@ -1,17 +1,12 @@
 #pragma once
 
-#include "core/CoreTokenList.h"
-#include "core/Event.h"
-#include "core/String.h"
+#include "app/screen/AppAboutDesign.h"
+#include "visual/DesignedForm.h"
 
 #include <memory>
 
 namespace phial
 {
-
-class Form;
-class Label;
-struct KeyEvent;
 
 /// The window that tells about the program: its name, version and copyright from the settings, who made it
 /// and where more is to be read, and where it runs. Made anew for each time it is shown, see
@@ -23,9 +18,6 @@ class frm_AppAbout
 {
 public:
     frm_AppAbout();
-    ~frm_AppAbout();
-    frm_AppAbout(const frm_AppAbout&) = delete;
-    frm_AppAbout& operator=(const frm_AppAbout&) = delete;
 
     /// Shows it modally; returns when it has been closed.
     void Show();
@@ -35,8 +27,6 @@ public:
     Form& form() { return *form_; }
 
 private:
-    void build();
-    void style();
     void showLinks();
     void connect();
     void load();
@@ -44,13 +34,10 @@ private:
     void paintEmblem();
     void hyperlinkCursor(StringView file);
     void open(StringView address);
-    void keyDown(KeyEvent& event);
     void caption(StringView label, String text);
     std::shared_ptr<Label> label(StringView name, std::int32_t index = -1) const;
 
-    std::shared_ptr<Form> form_;
-    CoreTokenList texts_;
-    Connections connections_;
+    DesignedForm form_;
 };
 
 } // namespace phial

@@ -2,22 +2,25 @@
 
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
-#include "visual/Form.h"
 
 namespace phial
 {
 
-frm_Fade::frm_Fade() : form_(std::make_shared<Form>(u"frm_Fade"))
+namespace
 {
-    form_->Caption(u"Form1");
-    form_->BackColor(RGB(0, 106, 181));
-    form_->backdrop(true);
-    onLoad_ = form_->Load.connect([this] { load(); });
-}
 
-frm_Fade::~frm_Fade()
+constexpr FormDesign Design{.name = u"frm_Fade",
+                            .caption = u"Form1",
+                            .ground = Palette::Accent,
+                            .unit = ScaleUnit::Twips,
+                            .isCentred = false};
+
+} // namespace
+
+frm_Fade::frm_Fade() : form_(Design)
 {
-    form_->discard();
+    form_->backdrop(true);
+    form_.on(form_->Load, [this] { load(); });
 }
 
 void frm_Fade::Show()

@@ -1,13 +1,9 @@
 #pragma once
 
-#include "core/Event.h"
-
-#include <memory>
+#include "visual/DesignedForm.h"
 
 namespace phial
 {
-
-class Form;
 
 /// The cover behind a program that another one has embedded: a form without controls that fills the screen
 /// and lets a little of the desktop through. It stays behind the program's windows and the program ends
@@ -16,9 +12,6 @@ class frm_Fade
 {
 public:
     frm_Fade();
-    ~frm_Fade();
-    frm_Fade(const frm_Fade&) = delete;
-    frm_Fade& operator=(const frm_Fade&) = delete;
 
     void Show();
     void Unload();
@@ -28,8 +21,7 @@ public:
 private:
     void load();
 
-    std::shared_ptr<Form> form_;
-    Connection onLoad_;
+    DesignedForm form_;
 };
 
 } // namespace phial
