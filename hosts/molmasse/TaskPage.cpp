@@ -2,8 +2,7 @@
 
 #include "core/Locale.h"
 #include "core/SessionState.h"
-#include "molmasse/MolmasseLayout.h"
-#include "molmasse/MolmasseStyle.h"
+#include "molmasse/MolmasseDesign.h"
 #include "molmasse/TrainerData.h"
 #include "molmasse/TrainerTexts.h"
 
@@ -13,18 +12,10 @@ namespace molmasse
 using phial::String;
 using phial::Variant;
 
-namespace
-{
-
-constexpr std::int32_t LongestAnswer = 12; // characters
-
-} // namespace
-
 TaskPage::TaskPage(phial::Form& form, std::shared_ptr<phial::cls_DataElements> elements)
     : form_(form), elements_(std::move(elements)), answer_(form.control<phial::TextBox>(u"txt_Answer")),
       pad_(form, u"but_Key")
 {
-    answer_->MaxLength(LongestAnswer);
     buildPad();
     connect();
 }
@@ -32,20 +23,10 @@ TaskPage::TaskPage(phial::Form& form, std::shared_ptr<phial::cls_DataElements> e
 void TaskPage::buildPad()
 {
     pad_.adopt();
-    const auto first = pad_(0);
-    const double left = first->Left();
-    const double top = first->Top();
-    for (int i = 0; i < static_cast<int>(std::size(layout::PadKeys)); ++i) {
-        const auto key = pad_.has(i) ? pad_(i) : pad_.load(i);
-        const int row = i / layout::PadColumns;
-        const int column = i % layout::PadColumns;
-        key->Move(left + column * layout::PadStep, top + row * layout::PadStep);
-        key->Caption(layout::PadKeys[i] == u"," ? String(1, phial::currentLocale().decimalSign)
-                                                : String(layout::PadKeys[i]));
-        // The answer keeps the focus, and with it its selection, while the pad is touched.
-        key->frame().canFocus(false);
-        key->Visible(true);
-    }
+    pad_.each([](phial::ctl_Button& key, std::int32_t index) {
+        const phial::StringView face = layout::PadKeys[index];
+        key.Caption(face == u"," ? String(1, phial::currentLocale().decimalSign) : String(face));
+    });
 }
 
 void TaskPage::connect()
@@ -73,7 +54,6 @@ void TaskPage::end()
 
 void TaskPage::TRANSLATE()
 {
-    answer_->frame().AccessibleName(translate(u"Molare Masse in g/mol", u"Molar mass in g/mol"));
     pad_(pad_.UBound())
         ->frame()
         .AccessibleName(translate(u"Letztes Zeichen löschen", u"Delete last character"));
@@ -167,13 +147,13 @@ void TaskPage::showVerdict(Verdict verdict)
     const Variant solution = massText(round_->solution());
     switch (verdict) {
     case Verdict::Right:
-        feedback->ForeColor(style::Good);
+        feedback->ForeColor(phial::Palette::Right);
         feedback->Caption(translate(u"Richtig! {1} g/mol, {2} Punkte für dich.",
                                     u"Right! {1} g/mol, {2} points for you.",
                                     {solution, number(round_->lastPoints())}));
         break;
     case Verdict::Wrong:
-        feedback->ForeColor(style::Bad);
+        feedback->ForeColor(phial::Palette::Failure);
         feedback->Caption(round_->triesLeft() == 1 ? translate(u"Leider nicht. Du hast noch einen Versuch.",
                                                                u"Not quite. You have one try left.")
                                                    : translate(u"Leider nicht. Du hast noch {1} Versuche.",
@@ -181,12 +161,12 @@ void TaskPage::showVerdict(Verdict verdict)
                                                                {number(round_->triesLeft())}));
         break;
     case Verdict::Missed:
-        feedback->ForeColor(style::Bad);
+        feedback->ForeColor(phial::Palette::Failure);
         feedback->Caption(
             translate(u"Schade. Richtig wären {1} g/mol.", u"A pity. {1} g/mol would be right.", {solution}));
         break;
     case Verdict::NoNumber:
-        feedback->ForeColor(style::Bad);
+        feedback->ForeColor(phial::Palette::Failure);
         feedback->Caption(translate(u"Bitte gib eine Zahl ein, zum Beispiel 18,0.",
                                     u"Please type a number, for example 18.0."));
         break;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "server/FoundMaster.h"
-#include "visual/Form.h"
+#include "visual/DesignedForm.h"
 #include "visual/ListBox.h"
 #include "visual/TextBox.h"
 #include "visual/Timer.h"
@@ -24,9 +24,6 @@ class frm_MasterChoice
 public:
     /// Begins with that address. An empty search finds nobody.
     frm_MasterChoice(const phial::String& address, MasterSearch search);
-    ~frm_MasterChoice();
-    frm_MasterChoice(const frm_MasterChoice&) = delete;
-    frm_MasterChoice& operator=(const frm_MasterChoice&) = delete;
 
     /// Modal: returns when a master is chosen, or none is to be. It looks for masters as soon as it stands.
     void Show();
@@ -40,7 +37,6 @@ public:
     phial::Form& form() { return *form_; }
 
 private:
-    void build();
     void connect();
     void search();
     void showFound();
@@ -48,11 +44,10 @@ private:
     phial::String typedAddress() const;
 
     MasterSearch search_;
-    std::shared_ptr<phial::Form> form_;
+    phial::DesignedForm form_;
     std::shared_ptr<phial::TextBox> address_;
     std::shared_ptr<phial::ListBox> masters_;
     phial::Timer starting_; ///< begins the search when the window stands
-    phial::Connections connections_;
     std::vector<phial::FoundMaster> found_;
     bool isSearching_ = false;
     std::optional<phial::FoundMaster> chosen_;

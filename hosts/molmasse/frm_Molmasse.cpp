@@ -1,5 +1,6 @@
 #include "molmasse/frm_Molmasse.h"
 
+#include "app/FormTexts.h"
 #include "app/RecentNames.h"
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
@@ -8,11 +9,11 @@
 #include "app/cls_Language.h"
 #include "app/ctl_Avatar.h"
 #include "app/sys_Global.h"
+#include "core/CoreTheme.h"
 #include "core/RandomSource.h"
 #include "core/SessionState.h"
 #include "molmasse/ListNotices.h"
-#include "molmasse/MolmasseLayout.h"
-#include "molmasse/MolmasseStyle.h"
+#include "molmasse/MolmasseDesign.h"
 #include "molmasse/TrainerTexts.h"
 
 #include <algorithm>
@@ -39,20 +40,18 @@ int randomBelow(int bound)
 } // namespace
 
 frm_Molmasse::frm_Molmasse(TrainerData data, MasterSearch searchMasters)
-    : data_(std::move(data)), searchMasters_(std::move(searchMasters)),
-      form_(std::make_shared<phial::Form>(u"frm_Molmasse")), levels_(*form_, u"but_Level"),
-      asking_(u"tmr_Asking", AskingInterval)
+    : data_(std::move(data)), searchMasters_(std::move(searchMasters)), form_(layout::Design),
+      levels_(*form_, u"but_Level"), asking_(u"tmr_Asking", AskingInterval)
 {
-    build();
+    phial::coreTheme().SetColour(phial::ThemeSlot::Accent, phial::Palette::Accent);
+    buildLevels();
+    form_->menu().add(u"mnu_Help", u"&Hilfe|&Help")->add(u"mnu_HelpInfo", u"&Info|&About");
+    tasks_.emplace(*form_, data_.elements);
+    summary_.emplace(*form_);
     connect();
     connectClassroom();
     TRANSLATE();
     show(data_.missing == Missing::Nothing ? Page::Start : Page::Missing);
-}
-
-frm_Molmasse::~frm_Molmasse()
-{
-    form_->discard();
 }
 
 void frm_Molmasse::Show()
@@ -72,33 +71,6 @@ void frm_Molmasse::welcome()
     enterClassroom();
 }
 
-void frm_Molmasse::build()
-{
-    form_->ScaleMode(phial::ScaleUnit::Pixels);
-    form_->BorderStyle(phial::BorderStyle::FixedSingle);
-    form_->innerSize({layout::Width, layout::Height});
-    form_->centred(true);
-    form_->KeyPreview(true);
-    phial::applyLayout(*form_, layout::Frame);
-    for (const auto& item : layout::Frame) {
-        form_->control<phial::Control>(item.name)->container()->ScaleMode(phial::ScaleUnit::Pixels);
-    }
-    // The formula stands in a panel of a page, whose unit is set as soon as it is there.
-    for (const auto& item : layout::Contents) {
-        phial::applyLayout(*form_, {&item, 1});
-        const auto control = form_->control<phial::Control>(item.name, item.index);
-        if (phial::Container* inner = control->container()) {
-            inner->ScaleMode(phial::ScaleUnit::Pixels);
-        }
-        control->frame().TabIndex(static_cast<std::int32_t>(&item - std::begin(layout::Contents)));
-    }
-    buildLevels();
-    form_->menu().add(u"mnu_Help", {})->add(u"mnu_HelpInfo", {});
-    style::apply(*form_);
-    tasks_.emplace(*form_, data_.elements);
-    summary_.emplace(*form_);
-}
-
 void frm_Molmasse::buildLevels()
 {
     levels_.adopt();
@@ -107,8 +79,7 @@ void frm_Molmasse::buildLevels()
     for (std::size_t i = 0; i < data_.tasks.levels.size(); ++i) {
         const auto index = static_cast<std::int32_t>(i);
         const auto button = levels_.has(index) ? levels_(index) : levels_.load(index);
-        button->Left(left + static_cast<double>(i) * (first->Width() + 21));
-        button->frame().TabIndex(first->frame().TabIndex());
+        button->Left(left + static_cast<double>(i) * (first->Width() + layout::LevelGap));
         button->Visible(true);
     }
     first->Visible(!data_.tasks.levels.empty());
@@ -116,24 +87,20 @@ void frm_Molmasse::buildLevels()
 
 void frm_Molmasse::connect()
 {
-    const auto press = [this](StringView button, auto action) {
-        connections_ += get<phial::ctl_Button>(button)->CLICK.connect(action);
-    };
-    press(u"but_Again", [this] { show(Page::Start); });
-    press(u"but_Language", [] {
+    form_.press(u"but_Again", [this] { show(Page::Start); });
+    form_.press(u"but_Language", [] {
         const bool german = LNG()->EFFECTIVE() == phial::ID_Language_German;
         LNG()->CURRENT(german ? phial::ID_Language_English : phial::ID_Language_German);
     });
     for (const auto* button : {u"but_Stop", u"but_Quit", u"but_GiveUp", u"but_Leave"}) {
-        press(button, [this] { form_->Unload(); });
+        form_.press(button, [this] { form_->Unload(); });
     }
-    connections_ += get<phial::ctl_Avatar>(u"ctl_User")->CLICK.connect([this] { askForUser(); });
-    connections_ += form_->control<phial::Menu>(u"mnu_HelpInfo")->Click.connect([](std::int32_t) {
-        QVAPP()->DIALOG()->ABOUT();
-    });
-    connections_ += form_->TRANSLATE.connect([this] { TRANSLATE(); });
-    connections_ += form_->KeyDown.connect([this](phial::KeyEvent& event) { keyDown(event); });
-    connections_ += tasks_->Finished.connect([this] { finishRound(); });
+    form_.on(get<phial::ctl_Avatar>(u"ctl_User")->CLICK, [this] { askForUser(); });
+    form_.on(form_->control<phial::Menu>(u"mnu_HelpInfo")->Click,
+             [](std::int32_t) { QVAPP()->DIALOG()->ABOUT(); });
+    form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
+    form_.on(form_->KeyDown, [this](phial::KeyEvent& event) { keyDown(event); });
+    form_.on(tasks_->Finished, [this] { finishRound(); });
     levels_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
         return button.CLICK.connect([this, index] { startRound(static_cast<std::size_t>(index)); });
     });
@@ -141,14 +108,11 @@ void frm_Molmasse::connect()
 
 void frm_Molmasse::connectClassroom()
 {
-    const auto press = [this](StringView button, auto action) {
-        connections_ += get<phial::ctl_Button>(button)->CLICK.connect(action);
-    };
-    press(u"but_Classroom", [this] { chooseClassroom(); });
-    press(u"but_Ask", [this] { admit(true); });
-    connections_ += classroom_.Changed.connect([this] { showClassroom(); });
-    connections_ += asking_.Tick.connect([this] { admit(false); });
-    connections_ += form_->Unloaded.connect([this] { asking_.Enabled(false); });
+    form_.press(u"but_Classroom", [this] { chooseClassroom(); });
+    form_.press(u"but_Ask", [this] { admit(true); });
+    form_.on(classroom_.Changed, [this] { showClassroom(); });
+    form_.on(asking_.Tick, [this] { admit(false); });
+    form_.on(form_->Unloaded, [this] { asking_.Enabled(false); });
 }
 
 void frm_Molmasse::askForUser()
@@ -212,7 +176,8 @@ void frm_Molmasse::showClassroom()
     const bool busy = state == Classroom::State::Searching || isAsking_;
     caption(*form_, u"lab_Classroom", classroomText());
     get<phial::Shape>(u"shp_Classroom")
-        ->FillColor(state == Classroom::State::Online ? style::Online : style::Offline);
+        ->FillColor(state == Classroom::State::Online ? phial::Palette::Connected
+                                                      : phial::Palette::Unconnected);
     if (busy && page_ == Page::Start) {
         form_->focus(nullptr); // the levels cannot keep it
     }
@@ -241,16 +206,8 @@ String frm_Molmasse::classroomText() const
 
 void frm_Molmasse::TRANSLATE()
 {
-    form_->Caption(translate(u"Molmassen-Trainer", u"Molar mass trainer"));
+    phial::translateForm(form_);
     QVAPP()->CONFIG()->NAME(form_->Caption());
-    form_->control<phial::Menu>(u"mnu_Help")->Caption(translate(u"&Hilfe", u"&Help"));
-    form_->control<phial::Menu>(u"mnu_HelpInfo")->Caption(translate(u"&Info", u"&About"));
-    for (const auto& item : layout::Contents) {
-        if (!item.text.empty()) {
-            phial::setMember(*form_->find(item.name, item.index), u"Caption",
-                             LNG()->TRANSLATEAUTO(item.text));
-        }
-    }
     levels_.each([this](phial::ctl_Button& button, std::int32_t index) {
         if (static_cast<std::size_t>(index) < data_.tasks.levels.size()) {
             const Level& level = data_.tasks.levels[static_cast<std::size_t>(index)];

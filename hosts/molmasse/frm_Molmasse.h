@@ -6,7 +6,7 @@
 #include "molmasse/TrainerData.h"
 #include "molmasse/frm_MasterChoice.h"
 #include "visual/ControlArray.h"
-#include "visual/Form.h"
+#include "visual/DesignedForm.h"
 #include "visual/Timer.h"
 #include "visual/ctl_Button.h"
 
@@ -24,10 +24,6 @@ class frm_Molmasse
 public:
     /// `searchMasters` finds masters to choose from; empty: an address can only be typed.
     explicit frm_Molmasse(TrainerData data, MasterSearch searchMasters = {});
-    ~frm_Molmasse();
-    frm_Molmasse(const frm_Molmasse&) = delete;
-    frm_Molmasse& operator=(const frm_Molmasse&) = delete;
-
     phial::Form& form() { return *form_; }
     void Show();
     /// For the moment in which the window stands: asks who works here when no name is known yet, and logs on
@@ -42,7 +38,6 @@ public:
 private:
     enum class Page { Start, Task, Summary, Waiting, Missing };
 
-    void build();
     void buildLevels();
     void connect();
     void connectClassroom();
@@ -71,13 +66,12 @@ private:
 
     TrainerData data_;
     MasterSearch searchMasters_;
-    std::shared_ptr<phial::Form> form_;
+    phial::DesignedForm form_;
     phial::ControlArray<phial::ctl_Button> levels_;
     std::optional<TaskPage> tasks_;
     std::optional<SummaryPage> summary_;
     Classroom classroom_;
     phial::Timer asking_; ///< asks the master again while the pupil waits
-    phial::Connections connections_;
     Page page_ = Page::Start;
     std::size_t level_ = 0;
     bool isAsking_ = false;
