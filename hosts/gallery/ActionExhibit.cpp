@@ -10,7 +10,7 @@ using namespace phial;
 
 std::shared_ptr<ctl_Label> putNote(Stage& stage, StringView text)
 {
-    constexpr std::int32_t MiddleCentre = 1;
+    using enum phial::TEXTALIGN;
     const auto note = stage.putMiddle<ctl_Label>({stage.size().width - 48, 120});
     note->Font(galleryFont(12));
     note->ForeColor(colours::Ink);

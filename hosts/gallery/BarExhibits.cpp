@@ -16,7 +16,7 @@ using namespace phial;
 namespace
 {
 
-constexpr std::int32_t MiddleCentre = 1;
+using enum phial::TEXTALIGN;
 
 /// A command bar with a line below that tells the last key.
 template <typename Bar>

@@ -1,19 +1,20 @@
 #pragma once
 
-#include "core/Colour.h"
+#include "core/Palette.h"
 
-/// The colours of the gallery's window, the same as the trainer's.
+/// The colours of the exhibits: those of the palette as plain colours, which the property editor shows as
+/// such.
 namespace gallery::colours
 {
 
-inline constexpr phial::Colour Blue = phial::RGB(0, 106, 181);
-inline constexpr phial::Colour DarkBlue = phial::RGB(0, 64, 118);
-inline constexpr phial::Colour Paper = phial::RGB(246, 249, 252);
-inline constexpr phial::Colour White = phial::RGB(255, 255, 255);
-inline constexpr phial::Colour Line = phial::RGB(196, 212, 226);
-inline constexpr phial::Colour Ink = phial::RGB(28, 40, 54);
-inline constexpr phial::Colour Quiet = phial::RGB(84, 100, 118);
-inline constexpr phial::Colour Good = phial::RGB(0, 112, 60);
-inline constexpr phial::Colour Bad = phial::RGB(176, 32, 32);
+inline constexpr phial::Colour Blue = phial::Palette::resolved(phial::Palette::Accent);
+inline constexpr phial::Colour DarkBlue = phial::Palette::resolved(phial::Palette::AccentDeep);
+inline constexpr phial::Colour Paper = phial::Palette::resolved(phial::Palette::Ground);
+inline constexpr phial::Colour White = phial::Palette::resolved(phial::Palette::Surface);
+inline constexpr phial::Colour Line = phial::Palette::resolved(phial::Palette::Divider);
+inline constexpr phial::Colour Ink = phial::Palette::resolved(phial::Palette::Ink);
+inline constexpr phial::Colour Quiet = phial::Palette::resolved(phial::Palette::Muted);
+inline constexpr phial::Colour Good = phial::Palette::resolved(phial::Palette::Right);
+inline constexpr phial::Colour Bad = phial::Palette::resolved(phial::Palette::Failure);
 
 } // namespace gallery::colours

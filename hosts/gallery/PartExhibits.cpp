@@ -16,7 +16,7 @@ using namespace phial;
 namespace
 {
 
-constexpr std::int32_t MiddleCentre = 1;
+using enum phial::TEXTALIGN;
 
 std::shared_ptr<ctl_Label> putCounter(Stage& stage, const PixelRectangle& area)
 {

@@ -2,8 +2,8 @@
 
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
+#include "core/Palette.h"
 #include "gallery/Exhibit.h"
-#include "gallery/GalleryColours.h"
 
 namespace gallery
 {
@@ -111,7 +111,7 @@ void PropertyPanel::showButtons()
 
 void PropertyPanel::showMessage(const std::optional<phial::RuntimeError>& error)
 {
-    message_->ForeColor(error ? colours::Bad : colours::Good);
+    message_->ForeColor(error ? phial::Palette::Failure : phial::Palette::Right);
     message_->Caption(error ? reasonOf(*error) : say(u"Erledigt.|Done."));
 }
 

@@ -58,15 +58,13 @@ Exhibit label()
 
 Exhibit styledLabel()
 {
-    const auto styled = [](ctl_Label& label, StringView text, double size, std::int32_t alignment) {
+    const auto styled = [](ctl_Label& label, StringView text, double size, phial::TEXTALIGN alignment) {
         label.Font(galleryFont(size, true));
         label.ForeColor(colours::Ink);
         label.Caption(say(text));
         label.Alignment(alignment);
     };
-    constexpr std::int32_t MiddleCentre = 1;
-    constexpr std::int32_t TopLeft = 4;
-    constexpr std::int32_t BottomRight = 10;
+    using enum phial::TEXTALIGN;
     return control<ctl_Label>(
         Group::Shown, u"ctl_Label",
         u"Text mit Auszeichnung, flach oder erhaben.|Text with markup, flat or raised.", {300, 110},

@@ -4,7 +4,7 @@
 #include "gallery/PropertyPanel.h"
 #include "gallery/Stage.h"
 #include "visual/ControlArray.h"
-#include "visual/Form.h"
+#include "visual/DesignedForm.h"
 #include "visual/Timer.h"
 #include "visual/ctl_Button.h"
 
@@ -35,10 +35,7 @@ public:
     void show(std::size_t exhibit, std::size_t state = 0);
 
 private:
-    void build();
-    void buildStates();
     void buildMenu();
-    void style();
     void connect();
 
     void listExhibits();
@@ -55,7 +52,7 @@ private:
     }
 
     std::vector<Exhibit> exhibits_;
-    std::shared_ptr<phial::Form> form_;
+    phial::DesignedForm form_;
     phial::ControlArray<phial::ctl_Button> states_;
     std::shared_ptr<phial::Timer> watch_; ///< keeps the shown properties up to date
     std::optional<Stage> stage_;
@@ -64,7 +61,6 @@ private:
     std::int32_t line_ = 0;                         ///< the list's line of the present exhibit
     std::size_t exhibit_ = 0;
     std::size_t state_ = 0;
-    phial::Connections connections_;
 };
 
 } // namespace gallery

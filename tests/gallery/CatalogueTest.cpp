@@ -1,6 +1,6 @@
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
-#include "gallery/GalleryLayout.h"
+#include "gallery/GalleryDesign.h"
 #include "gallery/GalleryShots.h"
 #include "gallery/GalleryTest.h"
 
