@@ -49,11 +49,17 @@ Exhibit commandBar(StringView title, StringView about)
                              bar.BUTTONS()->Add(u"DIALOG.OK();", say(u"Übernehmen|Apply"))->Enabled(false);
                              bar.BUTTONS()->Add(u"DIALOG.CANCEL();", say(u"Abbrechen|Cancel"));
                          }),
-             sample<Bar>(u"Fünf Knöpfe|Five buttons", [](Bar& bar) {
-                 for (const StringView caption :
-                      {u"Neu|New", u"Öffnen|Open", u"Sichern|Save", u"Drucken|Print", u"Hilfe|Help"}) {
-                     bar.BUTTONS()->Add(say(caption), say(caption));
-                 }
+             sample<Bar>(u"Fünf Knöpfe|Five buttons",
+                         [](Bar& bar) {
+                             for (const StringView caption : {u"Neu|New", u"Öffnen|Open", u"Sichern|Save",
+                                                              u"Drucken|Print", u"Hilfe|Help"}) {
+                                 bar.BUTTONS()->Add(say(caption), say(caption));
+                             }
+                         }),
+             sample<Bar>(u"Mit Feldern|With panels", [](Bar& bar) {
+                 bar.PANELS()->Add(u"", say(u"Zeile 3|Line 3"));
+                 bar.PANELS()->Add(u"", say(u"Spalte 14|Column 14"))->Enabled(false);
+                 bar.BUTTONS()->Add(u"DIALOG.OK();", say(u"Übernehmen|Apply"));
              })}};
 }
 
@@ -72,11 +78,17 @@ Exhibit title()
                                    title.Title(say(u"Bitte warten …|Please wait …"));
                                    title.Closable(false);
                                }),
-             sample<ctl_Title>(u"Mit Symbol|With an icon", [](ctl_Title& title) {
-                 title.Title(say(u"Übungen|Exercises"));
-                 const auto icon = std::make_shared<Picture>(PixelSize{16, 16});
-                 std::ranges::fill(icon->pixels(), 0xFF78BEEBU);
-                 title.Icon(icon);
+             sample<ctl_Title>(u"Mit Symbol|With an icon",
+                               [](ctl_Title& title) {
+                                   title.Title(say(u"Übungen|Exercises"));
+                                   const auto icon = std::make_shared<Picture>(PixelSize{16, 16});
+                                   std::ranges::fill(icon->pixels(), 0xFF78BEEBU);
+                                   title.Icon(icon);
+                               }),
+             sample<ctl_Title>(u"Mit Nebentexten|With further texts", [](ctl_Title& title) {
+                 title.Title(say(u"Hilfe|Help"));
+                 title.TextLeft(say(u"Formeln schreiben|How to write formulas"));
+                 title.TextRight(u"3/12");
              })}};
 }
 

@@ -3,6 +3,7 @@
 #include "gallery/GalleryFont.h"
 #include "visual/ComboBox.h"
 #include "visual/ListBox.h"
+#include "visual/ListView.h"
 #include "visual/RichTextBox.h"
 #include "visual/ScrollBar.h"
 #include "visual/TextBox.h"
@@ -191,6 +192,43 @@ Exhibit scrollBar(ScrollDirection direction)
         {at(u"Anfang|Start", 0), at(u"Mitte|Middle", 50), at(u"Ende|End", 100)}};
 }
 
+/// Some elements with their signs and masses.
+void fillTable(ListView& list, std::size_t count)
+{
+    struct Row {
+        StringView sign;
+        StringView mass; ///< "German|English"
+    };
+    constexpr auto Rows = std::to_array<Row>({{u"H", u"1,008|1.008"},
+                                              {u"He", u"4,003|4.003"},
+                                              {u"Li", u"6,94|6.94"},
+                                              {u"Be", u"9,012|9.012"},
+                                              {u"B", u"10,81|10.81"}});
+    list.Font(galleryFont(11));
+    list.COLUMNHEADERS()->Add(say(u"Element|Element"), 0);
+    list.COLUMNHEADERS()->Add(say(u"Zeichen|Sign"), 90);
+    const auto mass = list.COLUMNHEADERS()->Add(say(u"Masse in u|Mass in u"), 120);
+    mass->Alignment(Alignment::Right);
+    mass->ToolTipText(say(u"Mittel der Isotope|Mean of the isotopes"));
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto row = list.ITEMS()->Add(say(Elements[i]));
+        row->Cell(2, String(Rows[i].sign));
+        row->Cell(3, say(Rows[i].mass));
+    }
+}
+
+Exhibit listView()
+{
+    return control<ListView>(
+        Group::Input, u"ListView", u"Eine Liste mit Spalten.|A list with columns.", {380, 220},
+        {sample<ListView>(u"Leer|Empty", [](ListView& list) { fillTable(list, 0); }),
+         sample<ListView>(u"Fünf Zeilen|Five rows", [](ListView& list) { fillTable(list, 5); }),
+         sample<ListView>(u"Gewählt|Chosen", [](ListView& list) {
+             fillTable(list, 5);
+             list.ListIndex(3);
+         })});
+}
+
 } // namespace
 
 std::vector<Exhibit> inputExhibits()
@@ -200,6 +238,7 @@ std::vector<Exhibit> inputExhibits()
             button(),
             listBox(),
             comboBox(),
+            listView(),
             scrollBar(ScrollDirection::Vertical),
             scrollBar(ScrollDirection::Horizontal)};
 }

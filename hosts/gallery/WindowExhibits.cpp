@@ -18,7 +18,7 @@ using namespace phial;
 namespace
 {
 
-constexpr std::int32_t MiddleCentre = 1;
+using enum phial::TEXTALIGN;
 
 /// A small window that a button closes.
 std::shared_ptr<Form> makeWindow(Stage& stage)

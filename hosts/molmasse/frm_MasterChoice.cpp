@@ -9,7 +9,7 @@
 namespace molmasse
 {
 
-namespace layout = master_choice_design;
+namespace choice_design = master_choice_design;
 
 using phial::String;
 
@@ -21,7 +21,7 @@ constexpr std::int32_t AtOnce = 1; // milliseconds
 } // namespace
 
 frm_MasterChoice::frm_MasterChoice(const String& address, MasterSearch search)
-    : search_(std::move(search)), form_(layout::Design),
+    : search_(std::move(search)), form_(choice_design::Design),
       address_(form_->control<phial::TextBox>(u"txt_Address")),
       masters_(form_->control<phial::ListBox>(u"lst_Masters")), starting_(u"tmr_Starting", AtOnce)
 {

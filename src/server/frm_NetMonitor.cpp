@@ -118,4 +118,9 @@ void frm_NetMonitor::resize()
     }
 }
 
+std::function<void()> netMonitorWindow(std::shared_ptr<TrafficLog> traffic)
+{
+    return [window = std::make_shared<frm_NetMonitor>(std::move(traffic))] { window->Show(); };
+}
+
 } // namespace phial

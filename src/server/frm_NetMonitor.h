@@ -4,6 +4,7 @@
 #include "visual/DesignedForm.h"
 #include "visual/ListBox.h"
 
+#include <functional>
 #include <memory>
 
 namespace phial
@@ -33,5 +34,9 @@ private:
     DesignedForm form_;
     std::shared_ptr<ListBox> lines_;
 };
+
+/// For whoever has the traffic and no windows: makes the window, which opens whenever the result is called
+/// and ends with it.
+std::function<void()> netMonitorWindow(std::shared_ptr<TrafficLog> traffic);
 
 } // namespace phial

@@ -21,6 +21,7 @@ struct ComboBox::Properties {
         rows::property<u"Text">(&ComboBox::Text, &ComboBox::Text),
         rows::font<u"Font">(&ComboBox::font_),
         rows::property<u"BackColor">(&ComboBox::backColor_),
+        rows::operation<u"AddItem">(&ListItems::addByName<ComboBox>),
         rows::operation<u"Clear">(&ComboBox::Clear),
     };
 };

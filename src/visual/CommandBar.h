@@ -1,25 +1,29 @@
 #pragma once
 
-#include "core/Event.h"
 #include "visual/Control.h"
-
-#include <memory>
-#include <vector>
+#include "visual/PartList.h"
 
 namespace phial
 {
 
-/// One button of a command bar.
+/// One button of a command bar, or one of its panels, which looks alike and is not pressed.
 class CommandBarButton final : public Object
 {
 public:
+    static constexpr StringView ListName = u"CommandBarButtons";
+
     /// `key` is the text that the bar reports, such as "DIALOG.OK();".
     CommandBarButton(String key, String caption, std::shared_ptr<const Event<>> changed);
 
     String Key() const { return key_; }
-    void Key(String value) { key_ = std::move(value); }
+    void Key(String value);
     String Caption() const { return caption_; }
     void Caption(String value);
+    /// Shown in place of the caption, unless it is blank.
+    String Text() const { return text_; }
+    void Text(String value);
+    /// What it says on its face: Text or Caption.
+    String face() const { return trimmed(text_).empty() ? caption_ : text_; }
     bool Enabled() const { return enabled_; }
     void Enabled(bool value);
     bool Visible() const { return visible_; }
@@ -32,6 +36,11 @@ public:
     void Picture(PicturePtr value);
     String ToolTipText() const { return toolTip_; }
     void ToolTipText(String value);
+    /// What a screen reader adds to the face.
+    String Description() const { return description_; }
+    void Description(String value);
+    String Tag() const { return tag_; }
+    void Tag(String value);
 
     StringView typeName() const override { return u"CommandBarButton"; }
     MemberTable members() const override;
@@ -42,37 +51,21 @@ private:
 
     String key_;
     String caption_;
+    String text_;
     bool enabled_ = true;
     bool visible_ = true;
     bool default_ = false;
     PicturePtr picture_;
     String toolTip_;
+    String description_;
+    String tag_;
     std::shared_ptr<const Event<>> changed_; ///< of the bar's buttons
 };
 
-/// The buttons of a bar, counted from 1.
-class CommandBarButtons final : public Object
-{
-public:
-    std::int32_t Count() const { return static_cast<std::int32_t>(buttons_.size()); }
-    /// Raises 9 outside.
-    std::shared_ptr<CommandBarButton> Item(std::int32_t index) const;
-    /// By key, without regard to case; null when there is none.
-    std::shared_ptr<CommandBarButton> find(StringView key) const;
-    std::shared_ptr<CommandBarButton> Add(String key, String caption);
-    void Clear();
-    /// Raised when buttons come, go or look different.
-    Event<>& changed() { return *changed_; }
+using CommandBarButtons = PartList<CommandBarButton>;
 
-    StringView typeName() const override { return u"CommandBarButtons"; }
-    MemberTable members() const override;
-
-private:
-    std::shared_ptr<Event<>> changed_ = std::make_shared<Event<>>(); ///< the buttons may live longer
-    std::vector<std::shared_ptr<CommandBarButton>> buttons_;
-};
-
-/// What the bars have in common, held by each: its buttons, with the bar's widget told when they change.
+/// What the bars have in common, held by each: buttons and panels, with the bar's widget told when they
+/// change.
 class CommandBarBody
 {
 public:
@@ -81,6 +74,7 @@ public:
     explicit CommandBarBody(ControlFrame& frame);
 
     const std::shared_ptr<CommandBarButtons>& buttons() const { return buttons_; }
+    const std::shared_ptr<CommandBarButtons>& panels() const { return panels_; }
     void refresh() { frame_.report(ControlAspect::Items); }
     /// Raises the bar's event for a button, counted from 1, unless it is disabled or hidden.
     void press(std::int32_t button, const ButtonEvent& event) const;
@@ -88,7 +82,8 @@ public:
 private:
     ControlFrame& frame_;
     std::shared_ptr<CommandBarButtons> buttons_ = std::make_shared<CommandBarButtons>();
-    Connection buttonsChanged_;
+    std::shared_ptr<CommandBarButtons> panels_ = std::make_shared<CommandBarButtons>();
+    Connections changes_;
 };
 
 /// A bar of push buttons: interface of the command bars; the toolkit's own buttons in a row.
@@ -96,7 +91,9 @@ class CommandBar : public Control
 {
 public:
     virtual std::shared_ptr<CommandBarButtons> BUTTONS() const = 0;
-    /// Shows the buttons' present state. The bar does so by itself, too.
+    /// Texts at the left of the buttons.
+    virtual std::shared_ptr<CommandBarButtons> PANELS() const = 0;
+    /// Shows the present state of buttons and panels. The bar does so by itself, too.
     virtual void REFRESH() = 0;
     /// The user has pressed a button, counted from 1: raises the bar's event with its own Index and the
     /// button's key. A button that is disabled or hidden does nothing.

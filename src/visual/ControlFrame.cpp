@@ -189,8 +189,10 @@ void ControlFrame::MousePointer(phial::MousePointer value)
 
 void ControlFrame::MouseIcon(PicturePtr value)
 {
-    pointerIcon_ = std::move(value);
-    report(ControlAspect::Pointer);
+    if (pointerIcon_ != value) {
+        pointerIcon_ = std::move(value);
+        report(ControlAspect::Pointer);
+    }
 }
 
 void ControlFrame::AccessibleName(String value)

@@ -12,6 +12,7 @@ struct ListBox::Properties {
         rows::readOnly<u"Text">(&ListBox::Text),
         rows::font<u"Font">(&ListBox::font_),
         rows::property<u"BackColor">(&ListBox::backColor_),
+        rows::operation<u"AddItem">(&ListItems::addByName<ListBox>),
         rows::operation<u"Clear">(&ListBox::Clear),
     };
 };

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "core/String.h"
+#include "core/Variant.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace phial
@@ -28,6 +29,18 @@ public:
     std::int32_t chosen() const { return chosen_; }
     /// Gives whether it differs; raises 380 outside -1 to the last line.
     bool choose(std::int32_t index);
+
+    /// `AddItem(text)` and `AddItem(text, index)` of a list that is reached by name; raises 5 for other
+    /// arguments.
+    template <typename List>
+    static Variant addByName(List& list, std::span<const Variant> arguments)
+    {
+        if (arguments.empty() || arguments.size() > 2) {
+            throw RuntimeError(ErrorNumber::InvalidArgument);
+        }
+        list.AddItem(arguments[0].toText(), arguments.size() == 2 ? arguments[1].toWhole() : -1);
+        return {};
+    }
 
 private:
     struct Line {

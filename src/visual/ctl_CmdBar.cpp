@@ -8,6 +8,7 @@ namespace phial
 struct ctl_CmdBar::Properties {
     static constexpr rows::Table Table{
         rows::readOnly<u"BUTTONS">(&ctl_CmdBar::BUTTONS),
+        rows::readOnly<u"PANELS">(&ctl_CmdBar::PANELS),
         rows::operation<u"REFRESH">(&ctl_CmdBar::REFRESH),
     };
 };

@@ -14,15 +14,18 @@ namespace phial
 namespace
 {
 
-constexpr double SideMargin = 10; // left and right, in pixels
-constexpr double IconSize = 24;   // greatest edge of the icon
-constexpr double CrossSize = 10;  // edge of the sign to close with
+constexpr double SideMargin = 10;     // left and right, in pixels
+constexpr double IconSize = 24;       // greatest edge of the icon
+constexpr double CrossSize = 10;      // edge of the sign to close with
+constexpr double SideTextShare = 0.8; // of the title's size
 
 } // namespace
 
 struct ctl_Title::Properties {
     static constexpr rows::Table Table{
         rows::property<u"Title">(&ctl_Title::title_).kept().spoken(),
+        rows::property<u"TextLeft">(&ctl_Title::textLeft_).kept().spoken(),
+        rows::property<u"TextRight">(&ctl_Title::textRight_).kept().spoken(),
         rows::property<u"Icon">(&ctl_Title::icon_),
         rows::property<u"Closable">(&ctl_Title::closable_, true).kept().spoken(),
         rows::font<u"Font">(&ctl_Title::font_, {.size = 11, .bold = true}),
@@ -43,6 +46,8 @@ MemberTable ctl_Title::members() const
 // One line a setter.
 // clang-format off
 void ctl_Title::Title(String value) { rows::set<Properties, u"Title">(*this, std::move(value)); }
+void ctl_Title::TextLeft(String value) { rows::set<Properties, u"TextLeft">(*this, std::move(value)); }
+void ctl_Title::TextRight(String value) { rows::set<Properties, u"TextRight">(*this, std::move(value)); }
 void ctl_Title::Icon(PicturePtr value) { rows::set<Properties, u"Icon">(*this, std::move(value)); }
 void ctl_Title::Closable(bool value) { rows::set<Properties, u"Closable">(*this, value); }
 void ctl_Title::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }
@@ -70,6 +75,15 @@ void ctl_Title::activatePart(std::size_t part)
     if (closable_ && part == 0) {
         CLOSE.emit();
     }
+}
+
+String ctl_Title::accessibleText() const
+{
+    String text = title_;
+    for (const String& further : {textLeft_, textRight_}) {
+        text += further.empty() ? String() : u", " + further;
+    }
+    return text;
 }
 
 void ctl_Title::hover(bool value)
@@ -115,29 +129,59 @@ void ctl_Title::writeProperties(PropertyBag& bag)
 
 void ctl_Title::paint()
 {
+    surface_.BackColor(coreTheme().Colour(ThemeSlot::Frame));
+    surface_.device().Cls();
+    paintTexts(paintIcon());
+    if (closable_) {
+        paintCross();
+    }
+}
+
+/// Gives where the texts begin.
+double ctl_Title::paintIcon()
+{
+    if (!icon_) {
+        return SideMargin;
+    }
+    const double height = surface_.size().height;
+    const double edge = std::min(IconSize, height);
+    surface_.device().PaintPicture(icon_, SideMargin, (height - edge) / 2, edge, edge);
+    return SideMargin + edge + SideMargin;
+}
+
+void ctl_Title::paintTexts(double left)
+{
     DrawDevice& device = surface_.device();
-    const CoreTheme& theme = coreTheme();
     const PixelSize size = surface_.size();
-    surface_.BackColor(theme.Colour(ThemeSlot::Frame));
-    device.Cls();
-    double left = SideMargin;
-    if (icon_) {
-        const double edge = std::min(IconSize, size.height);
-        device.PaintPicture(icon_, left, (size.height - edge) / 2, edge, edge);
-        left += edge + SideMargin;
+    device.ForeColor(coreTheme().Colour(ThemeSlot::FrameText));
+    const auto print = [&](const String& text, double x) {
+        device.CurrentX(x);
+        device.CurrentY((size.height - device.TextHeight(text)) / 2);
+        device.Print(text);
+    };
+    FontSpec traits = font_->traits();
+    device.font(traits);
+    print(title_, left);
+    const double behind = left + device.TextWidth(title_) + SideMargin;
+    traits.size *= SideTextShare;
+    traits.bold = false;
+    device.font(traits);
+    if (!textLeft_.empty()) {
+        print(textLeft_, behind);
     }
-    device.font(font_->traits());
-    device.ForeColor(theme.Colour(ThemeSlot::FrameText));
-    device.CurrentX(left);
-    device.CurrentY((size.height - device.TextHeight(title_)) / 2);
-    device.Print(title_);
-    if (!closable_) {
-        return;
+    if (!textRight_.empty()) {
+        const double right = closable_ ? closeArea().left : size.width - SideMargin;
+        print(textRight_, right - device.TextWidth(textRight_));
     }
+}
+
+void ctl_Title::paintCross()
+{
+    DrawDevice& device = surface_.device();
     const PixelRectangle close = closeArea();
     if (hovered_) {
         device.Line(close.left, close.top, close.right() - 1, close.bottom() - 1,
-                    theme.Colour(ThemeSlot::Accent), LineShape::Filled);
+                    coreTheme().Colour(ThemeSlot::Accent), LineShape::Filled);
     }
     const double x = close.left + (close.width - CrossSize) / 2;
     const double y = close.top + (close.height - CrossSize) / 2;

@@ -16,6 +16,12 @@ public:
     /// Persisted under "TITLE".
     String Title() const { return title_; }
     void Title(String value);
+    /// Smaller ones behind the title and at the right edge, such as which page it is of how many. Persisted
+    /// under "TEXTLEFT" and "TEXTRIGHT".
+    String TextLeft() const { return textLeft_; }
+    void TextLeft(String value);
+    String TextRight() const { return textRight_; }
+    void TextRight(String value);
     PicturePtr Icon() const { return icon_; }
     void Icon(PicturePtr value);
     /// Whether the sign to close with is there; it is at first. Persisted under "CLOSABLE".
@@ -33,7 +39,7 @@ public:
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::Grouping; }
-    String accessibleText() const override { return title_; }
+    String accessibleText() const override;
     std::vector<NamedPart> parts() const override;
     void activatePart(std::size_t part) override;
     void readProperties(const PropertyBag& bag) override;
@@ -49,11 +55,16 @@ private:
     struct Properties;
 
     PixelRectangle closeArea() const;
+    double paintIcon();
+    void paintTexts(double left);
+    void paintCross();
     void hover(bool value);
 
     ControlFrame frame_;
     PaintSurface surface_;
     String title_;
+    String textLeft_;
+    String textRight_;
     PicturePtr icon_;
     bool closable_{};
     SharedFont font_;

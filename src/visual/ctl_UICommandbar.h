@@ -12,6 +12,7 @@ public:
     ctl_UICommandbar() : frame_(*this), body_(frame_) {}
 
     std::shared_ptr<CommandBarButtons> BUTTONS() const override { return body_.buttons(); }
+    std::shared_ptr<CommandBarButtons> PANELS() const override { return body_.panels(); }
     void REFRESH() override { body_.refresh(); }
 
     /// The bar's Index and the button's key text.

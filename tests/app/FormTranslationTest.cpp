@@ -7,10 +7,13 @@
 #include "visual/Form.h"
 #include "visual/Label.h"
 #include "visual/ListBox.h"
+#include "visual/ListView.h"
+#include "visual/RichTextBox.h"
 #include "visual/TextBox.h"
 #include "visual/ctl_Button.h"
 #include "visual/ctl_CmdBar.h"
 #include "visual/ctl_Title.h"
+#include "visual/ctl_UICommandbar.h"
 
 namespace phial
 {
@@ -143,20 +146,139 @@ TEST_F(FormTranslationTest, AssignsOnlyTextsThatDiffer)
     EXPECT_EQ(changes, 0);
 }
 
+/// A text that the walk takes up: the object that shows it, by which member, and under which key.
+struct Place {
+    Object& object;
+    const char16_t* member;
+    const char16_t* key;
+};
+
+class TranslatedPlaces : public FormTranslationTest
+{
+protected:
+    /// Each place gets a text of its own, which must then follow the language under the place's key.
+    void expectToFollow(const std::vector<Place>& places, StringView behind = {})
+    {
+        for (const Place& place : places) {
+            setMember(place.object, place.member, germanOf(place) + u"|" + englishOf(place));
+        }
+        showIn(ID_Language_English);
+        for (const Place& place : places) {
+            SCOPED_TRACE(toUtf8(place.key));
+            EXPECT_EQ(getMember(place.object, place.member).toText(), englishOf(place) + String(behind));
+            ASSERT_TRUE(buffer.Exists(place.key));
+            EXPECT_EQ(buffer.Item(place.key).Values().Item(1).toText(), germanOf(place));
+            EXPECT_EQ(buffer.Item(place.key).Values().Item(2).toText(), englishOf(place));
+        }
+        showIn(ID_Language_German);
+        for (const Place& place : places) {
+            EXPECT_EQ(getMember(place.object, place.member).toText(), germanOf(place) + String(behind));
+        }
+    }
+
+private:
+    static String germanOf(const Place& place) { return String(u"Wort ") + place.key; }
+    static String englishOf(const Place& place) { return String(u"Word ") + place.key; }
+};
+
+TEST_F(TranslatedPlaces, AreTheTextsOfAControl)
+{
+    const auto title = form->add<ctl_Title>(u"bar_Header");
+    const auto text = form->add<TextBox>(u"txt_Name");
+    const auto button = form->add<ctl_Button>(u"but_Go");
+    expectToFollow({{*title, u"Title", u"bar_Header.TITLE"},
+                    {*title, u"TextLeft", u"bar_Header.TEXTLEFT"},
+                    {*title, u"TextRight", u"bar_Header.TEXTRIGHT"},
+                    {*text, u"Text", u"txt_Name.TEXT"},
+                    {*text, u"ToolTipText", u"txt_Name.TOOLTIPTEXT"},
+                    {*button, u"Caption", u"but_Go.CAPTION"},
+                    {*button, u"Tag", u"but_Go.TAG"}});
+}
+
+TEST_F(TranslatedPlaces, AreTheTextsOfABarsButtons)
+{
+    for (const StringView name : {u"bar_Dialog", u"bar_Editor"}) {
+        const ControlPtr bar = name == u"bar_Dialog" ? ControlPtr(form->add<ctl_CmdBar>(name))
+                                                     : ControlPtr(form->add<ctl_UICommandbar>(name));
+        dynamic_cast<CommandBar&>(*bar).BUTTONS()->Add(u"a", u"");
+    }
+    const auto dialog = form->control<ctl_CmdBar>(u"bar_Dialog")->BUTTONS()->Item(1);
+    const auto editor = form->control<ctl_UICommandbar>(u"bar_Editor")->BUTTONS()->Item(1);
+    expectToFollow({{*dialog, u"Caption", u"bar_Dialog.BUTTONS(1).CAPTION"},
+                    {*dialog, u"ToolTipText", u"bar_Dialog.BUTTONS(1).TOOLTIPTEXT"},
+                    {*dialog, u"Description", u"bar_Dialog.BUTTONS(1).DESCRIPTION"},
+                    {*editor, u"Tag", u"bar_Editor.BUTTONS(1).TAG"}});
+}
+
+TEST_F(TranslatedPlaces, AreTheTextsOfABarsPanels)
+{
+    const auto bar = form->add<ctl_CmdBar>(u"bar_Status");
+    bar->PANELS()->Add(u"", u"erstes");
+    const auto panel = bar->PANELS()->Add(u"", u"");
+    expectToFollow({{*panel, u"Text", u"bar_Status.PANELS(2).TEXT"},
+                    {*panel, u"Caption", u"bar_Status.PANELS(2).CAPTION"},
+                    {*panel, u"ToolTipText", u"bar_Status.PANELS(2).TOOLTIPTEXT"},
+                    {*panel, u"Description", u"bar_Status.PANELS(2).DESCRIPTION"},
+                    {*panel, u"Tag", u"bar_Status.PANELS(2).TAG"}});
+}
+
+TEST_F(TranslatedPlaces, AreTheTextsOfAListsRowsAndColumns)
+{
+    const auto list = form->add<ListView>(u"lst_Pupils");
+    const auto column = list->COLUMNHEADERS()->Add(u"", 0);
+    const auto row = list->ITEMS()->Add(u"");
+    expectToFollow({{*row, u"Title", u"lst_Pupils.ITEMS(1).TITLE"},
+                    {*row, u"TitleShort", u"lst_Pupils.ITEMS(1).TITLESHORT"},
+                    {*row, u"ToolTipText", u"lst_Pupils.ITEMS(1).TOOLTIPTEXT"},
+                    {*row, u"Tag", u"lst_Pupils.ITEMS(1).TAG"},
+                    {*column, u"Text", u"lst_Pupils.COLUMNHEADERS(1).TEXT"},
+                    {*column, u"ToolTipText", u"lst_Pupils.COLUMNHEADERS(1).TOOLTIPTEXT"}});
+}
+
+TEST_F(TranslatedPlaces, AButtonsTextIsKeptApartFromItsEdgeByThreeBlanks)
+{
+    const auto bar = form->add<ctl_UICommandbar>(u"bar_Editor");
+    const auto button = bar->BUTTONS()->Add(u"b", u"");
+    expectToFollow({{*button, u"Text", u"bar_Editor.BUTTONS(1).TEXT"}}, u"   ");
+}
+
+TEST_F(FormTranslationTest, AButtonsTextThatIsNoPairIsTrimmedBeforeTheBlanksComeBehind)
+{
+    const auto bar = form->add<ctl_CmdBar>(u"bar_Buttons");
+    const auto plain = bar->BUTTONS()->Add(u"b", u"Fett");
+    const auto padded = bar->BUTTONS()->Add(u"i", u"");
+    const auto panel = bar->PANELS()->Add(u"", u"");
+    padded->Text(u"  schräg ");
+    panel->Text(u" bereit ");
+    showIn(ID_Language_German);
+    showIn(ID_Language_German);
+    EXPECT_EQ(padded->Text(), u"schräg   ") << "however often";
+    EXPECT_EQ(panel->Text(), u" bereit ") << "only buttons are";
+    EXPECT_EQ(plain->Text(), u"   ");
+    EXPECT_EQ(plain->face(), u"Fett") << "blanks alone do not hide the caption";
+}
+
 TEST_F(FormTranslationTest, TheFirstWalkTintsFieldsInTheWindowColour)
 {
+    constexpr Colour PaleBlue = RGB(204, 225, 240); // a fifth of RGB(0, 106, 181) in white
     const auto text = form->add<TextBox>(u"txt_Name");
     const auto list = form->add<ListBox>(u"lst_Names");
     const auto combo = form->add<ComboBox>(u"cmb_Names");
-    list->BackColor(RGB(1, 2, 3));
+    const auto view = form->add<ListView>(u"lst_View");
+    const auto rich = form->add<RichTextBox>(u"rtf_Text");
+    const auto own = form->add<TextBox>(u"txt_Own");
+    own->BackColor(RGB(1, 2, 3));
     showIn(ID_Language_German);
-    EXPECT_NE(text->BackColor(), SystemColour::Window);
-    EXPECT_NE(combo->BackColor(), SystemColour::Window);
-    EXPECT_EQ(list->BackColor(), RGB(1, 2, 3));
+    EXPECT_EQ(text->BackColor(), PaleBlue);
+    EXPECT_EQ(list->BackColor(), PaleBlue);
+    EXPECT_EQ(combo->BackColor(), PaleBlue);
+    EXPECT_EQ(view->BackColor(), PaleBlue);
+    EXPECT_EQ(rich->BackColor(), SystemColour::Window) << "no field of these kinds";
+    EXPECT_EQ(own->BackColor(), RGB(1, 2, 3));
 
     text->BackColor(SystemColour::Window);
     showIn(ID_Language_English);
-    EXPECT_EQ(text->BackColor(), SystemColour::Window);
+    EXPECT_EQ(text->BackColor(), SystemColour::Window) << "later walks tint nothing";
 }
 
 TEST_F(FormTranslationTest, NamesTextsThatNobodyHasTranslated)

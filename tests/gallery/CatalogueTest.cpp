@@ -101,10 +101,11 @@ TEST_F(CatalogueTest, ShowsEveryControlOfTheSystem)
         shown.insert(String(exhibit.title));
     }
     for (const StringView name :
-         {u"Label",        u"TextBox",    u"RichTextBox",      u"PictureBox",    u"Shape",     u"ScrollBar",
-          u"ListBox",      u"ComboBox",   u"ImageList",        u"Menu",          u"Timer",     u"Form",
-          u"ctl_Button",   u"ctl_CmdBar", u"ctl_UICommandbar", u"ctl_Title",     u"ctl_Frame", u"ctl_Pannel",
-          u"ctl_Gradient", u"ctl_Label",  u"ctl_ReEvent",      u"ctl_TermLabel", u"ctl_Mark",  u"frm_Fade"}) {
+         {u"Label",       u"TextBox",       u"RichTextBox", u"PictureBox",   u"Shape",
+          u"ScrollBar",   u"ListBox",       u"ComboBox",    u"ImageList",    u"Menu",
+          u"Timer",       u"Form",          u"ctl_Button",  u"ctl_CmdBar",   u"ctl_UICommandbar",
+          u"ctl_Title",   u"ctl_Frame",     u"ctl_Pannel",  u"ctl_Gradient", u"ctl_Label",
+          u"ctl_ReEvent", u"ctl_TermLabel", u"ctl_Mark",    u"frm_Fade",     u"ListView"}) {
         const bool scrollBar = name == u"ScrollBar";
         EXPECT_TRUE(shown.contains(String(name)) || (scrollBar && shown.contains(u"VScrollBar")))
             << phial::toUtf8(name);

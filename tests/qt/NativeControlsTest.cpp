@@ -1,18 +1,22 @@
 #include "DesktopSession.h"
 #include "visual/ComboBox.h"
 #include "visual/ListBox.h"
+#include "visual/ListView.h"
 #include "visual/RichTextBox.h"
 #include "visual/ScrollBar.h"
 #include "visual/TextBox.h"
 #include "visual/ctl_CmdBar.h"
 
 #include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <vector>
 
@@ -341,6 +345,79 @@ TEST_F(NativeControlsTest, AHighCommandBarHasButtonsForFingersAsFarAsThereIsRoom
     for (const auto* button : buttons) {
         EXPECT_TRUE(widgetOf(*bar).rect().contains(button->geometry()));
     }
+}
+
+TEST_F(NativeControlsTest, PanelsOfACommandBarStandAtItsLeft)
+{
+    const auto bar = shown<ctl_CmdBar>(u"bar_Commands");
+    bar->Move(0, 0, 400, 40);
+    bar->PANELS()->Add(u"", u"Zeile 3")->ToolTipText(u"Wo der Cursor steht");
+    const auto second = bar->PANELS()->Add(u"", u"Spalte 14");
+    bar->BUTTONS()->Add(u"DIALOG.OK();", u"OK");
+    QApplication::processEvents();
+    const auto labels = widgetOf(*bar).findChildren<QLabel*>();
+    ASSERT_EQ(labels.size(), 2);
+    EXPECT_EQ(labels[0]->text(), QStringLiteral("Zeile 3"));
+    EXPECT_EQ(labels[0]->toolTip(), QStringLiteral("Wo der Cursor steht"));
+    EXPECT_LT(labels[0]->geometry().right(), labels[1]->geometry().left());
+    EXPECT_LT(labels[1]->geometry().right(), widgetOf(*bar).findChildren<QPushButton*>().last()->x());
+    second->Text(u"Spalte 15");
+    EXPECT_EQ(labels[1]->text(), QStringLiteral("Spalte 15"));
+    bar->PANELS()->RemoveAt(2);
+    EXPECT_EQ(widgetOf(*bar).findChildren<QLabel*>().size(), 1);
+}
+
+TEST_F(NativeControlsTest, AListWithColumnsFollowsItsModelAndTheUser)
+{
+    const auto list = shown<ListView>(u"lst_Elements");
+    list->Move(0, 0, 400, 200);
+    list->COLUMNHEADERS()->Add(u"Element", 0);
+    const auto mass = list->COLUMNHEADERS()->Add(u"Masse", 100);
+    mass->Alignment(Alignment::Right);
+    for (const StringView name : {u"Wasserstoff", u"Helium"}) {
+        list->ITEMS()->Add(String(name))->Cell(2, u"1");
+    }
+    auto& widget = static_cast<QTreeWidget&>(widgetOf(*list));
+    EXPECT_EQ(widget.headerItem()->text(1), QStringLiteral("Masse"));
+    EXPECT_EQ(widget.columnWidth(1), 100);
+    ASSERT_EQ(widget.topLevelItemCount(), 2);
+    EXPECT_EQ(widget.topLevelItem(0)->text(0), QStringLiteral("Wasserstoff"));
+    EXPECT_EQ(widget.topLevelItem(0)->text(1), QStringLiteral("1"));
+    EXPECT_TRUE(widget.topLevelItem(0)->textAlignment(1) & Qt::AlignRight);
+
+    int clicks = 0;
+    std::vector<std::int32_t> columns;
+    Connections connections;
+    connections += list->Click.connect([&clicks] { ++clicks; });
+    connections += list->ColumnClick.connect([&](std::int32_t column) { columns.push_back(column); });
+    list->ListIndex(2);
+    EXPECT_EQ(widget.currentItem(), widget.topLevelItem(1));
+    QTest::keyClick(&widget, Qt::Key_Up);
+    EXPECT_EQ(list->ListIndex(), 1);
+    EXPECT_EQ(clicks, 2);
+    Q_EMIT widget.header()->sectionClicked(1);
+    EXPECT_EQ(columns, (std::vector<std::int32_t>{2}));
+    list->ITEMS()->RemoveAt(1);
+    EXPECT_EQ(widget.topLevelItemCount(), 1);
+    EXPECT_EQ(widget.topLevelItem(0)->text(0), QStringLiteral("Helium"));
+    EXPECT_EQ(list->ListIndex(), 0);
+    EXPECT_EQ(widget.currentItem(), nullptr);
+}
+
+TEST_F(NativeControlsTest, AShortTitleStandsWhereTheColumnHasNoRoom)
+{
+    const auto list = shown<ListView>(u"lst_Elements");
+    list->Move(0, 0, 400, 200);
+    const auto column = list->COLUMNHEADERS()->Add(u"Element", 300);
+    list->ITEMS()->Add(u"Wasserstoff")->TitleShort(u"H");
+    const auto shownTitle = [&] {
+        return static_cast<QTreeWidget&>(widgetOf(*list)).topLevelItem(0)->text(0);
+    };
+    EXPECT_EQ(shownTitle(), QStringLiteral("Wasserstoff"));
+    column->Width(40);
+    EXPECT_EQ(shownTitle(), QStringLiteral("H"));
+    column->Width(300);
+    EXPECT_EQ(shownTitle(), QStringLiteral("Wasserstoff"));
 }
 
 TEST_F(NativeControlsTest, DisabledAndHiddenFollowTheModel)

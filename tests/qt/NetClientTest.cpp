@@ -3,6 +3,7 @@
 #include "qt/LoopbackMaster.h"
 #include "qt/base/QtEventPump.h"
 #include "qt/base/QtNetClient.h"
+#include "server/frm_NetMonitor.h"
 #include "support/AppSession.h"
 #include "support/Raises.h"
 #include "visual/Form.h"
@@ -464,14 +465,15 @@ TEST_F(NetClientTest, ShowsNoMonitorWithoutWindows)
     client_->ShowMonitor();
 }
 
-/// The same with a session that has windows, if only in memory.
+/// The same in a session that has windows, if only in memory.
 class NetClientMonitorTest : public phial::test::AppSession
 {
 protected:
     std::shared_ptr<Form> monitor() { return visualHost().forms().Item(u"frm_NetMonitor"); }
 
     LoopbackMaster master_;
-    std::unique_ptr<QtNetClient> client_ = std::make_unique<QtNetClient>(std::make_shared<DispatchGuard>());
+    std::unique_ptr<QtNetClient> client_ =
+        std::make_unique<QtNetClient>(std::make_shared<DispatchGuard>(), netMonitorWindow);
 };
 
 TEST_F(NetClientMonitorTest, ShowsTheTrafficInOneWindowThatEndsWithTheClient)

@@ -147,6 +147,28 @@ TEST_F(Lists, TheChoiceStaysOnItsLine)
     EXPECT_EQ(list->Text(), u"");
 }
 
+TEST_F(Lists, LinesAreAddedByNameToo)
+{
+    const auto list = form->add<ListBox>(u"lst_Test");
+    const auto combo = form->add<ComboBox>(u"cmb_Test");
+    const Variant atTheEnd[] = {Variant(u"b")};
+    const Variant inFront[] = {Variant(u"a"), Variant(0)};
+    const Variant number[] = {Variant(7)};
+    for (Object* target : {static_cast<Object*>(list.get()), static_cast<Object*>(combo.get())}) {
+        callMember(*target, u"ADDITEM", atTheEnd);
+        callMember(*target, u"AddItem", inFront);
+        callMember(*target, u"AddItem", number);
+        EXPECT_EQ(getMember(*target, u"ListCount"), Variant(3));
+        EXPECT_RAISES(callMember(*target, u"AddItem"), InvalidArgument);
+        const Variant three[] = {Variant(u"a"), Variant(0), Variant(0)};
+        EXPECT_RAISES(callMember(*target, u"AddItem", three), InvalidArgument);
+        const Variant beyond[] = {Variant(u"x"), Variant(9)};
+        EXPECT_RAISES(callMember(*target, u"AddItem", beyond), IndexOutOfBounds);
+    }
+    EXPECT_EQ(list->List(0) + list->List(1) + list->List(2), u"ab7");
+    EXPECT_EQ(combo->List(0) + combo->List(1) + combo->List(2), u"ab7");
+}
+
 TEST_F(Lists, RefuseLinesThatAreNotThere)
 {
     const auto list = form->add<ListBox>(u"lst_Test");

@@ -3,6 +3,7 @@
 #include "visual/ControlCopy.h"
 #include "visual/FormTest.h"
 #include "visual/ListBox.h"
+#include "visual/ListView.h"
 #include "visual/PictureBox.h"
 #include "visual/RichTextBox.h"
 #include "visual/ScrollBar.h"
@@ -32,7 +33,7 @@ std::vector<ControlPtr> oneOfEach()
             makeControl<ctl_Button>(),   makeControl<ctl_CmdBar>(), makeControl<ctl_UICommandbar>(),
             makeControl<ctl_Title>(),    makeControl<ctl_Frame>(),  makeControl<ctl_Pannel>(),
             makeControl<ctl_Gradient>(), makeControl<ScrollBar>(),  makeControl<ListBox>(),
-            makeControl<ComboBox>()};
+            makeControl<ComboBox>(),     makeControl<ListView>()};
 }
 
 TEST_F(ControlMembers, EveryControlHasThoseOfTheFrameAndNoNameTwice)

@@ -395,6 +395,18 @@ TEST_F(PropertyRows, APaintedControlIsPaintedAnewAndSpokenAnewWhereItIsSaid)
                 ElementsAre(ControlAspect::Picture, ControlAspect::Picture, ControlAspect::Accessibility));
 }
 
+TEST_F(PropertyRows, TheFramesSettersReturnWhenNothingHasChanged)
+{
+    ctl_Button button;
+    const AspectLog widget(button.frame());
+    const auto icon = std::make_shared<Picture>(PixelSize{16, 16});
+    button.frame().MouseIcon(icon);
+    button.frame().MouseIcon(icon);
+    button.frame().ToolTipText(u"Los");
+    button.frame().ToolTipText(u"Los");
+    EXPECT_THAT(widget.told, ElementsAre(ControlAspect::Pointer, ControlAspect::ToolTip));
+}
+
 TEST_F(PropertyRows, OnlyControlsHaveTheMembersOfTheFrame)
 {
     EXPECT_NE(findMember(*balloon, u"Left"), nullptr);

@@ -100,6 +100,22 @@ TEST_F(StyledControls, TitleFollowsTheTheme)
     EXPECT_THAT(drawn(*title), ::testing::HasSubstr("\"Molmasse\" Tahoma 11 bold #FFFFFF"));
 }
 
+TEST_F(StyledControls, TitleShowsSmallerTextsBehindItAndAtTheRight)
+{
+    const auto title = placed<ctl_Title>(300, 30);
+    title->Title(u"Hilfe");
+    title->TextLeft(u"Wasser");
+    title->TextRight(u"3/12");
+    title->Closable(false);
+    const std::string picture = drawn(*title);
+    EXPECT_THAT(picture, ::testing::HasSubstr("\"Hilfe\" Tahoma 11 bold"));
+    EXPECT_THAT(picture, ::testing::ContainsRegex("text [0-9.]+,[0-9.]+ \"Wasser\" Tahoma 8.8 #"));
+    EXPECT_THAT(picture, ::testing::ContainsRegex("\"3/12\" Tahoma 8.8 #"));
+    EXPECT_EQ(title->accessibleText(), u"Hilfe, Wasser, 3/12");
+    title->TextLeft({});
+    EXPECT_EQ(title->accessibleText(), u"Hilfe, 3/12");
+}
+
 TEST_F(StyledControls, PaintedControlsPersistUnderTheirKeys)
 {
     const auto title = placed<ctl_Title>(200, 30);
@@ -154,6 +170,38 @@ TEST_F(StyledControls, CommandBarTellsItsIndexAndTheKeyOfTheButton)
     bar->inputButton(2);
     EXPECT_THAT(log, ElementsAre("1 DIALOG.OK();"));
     EXPECT_RAISES(bar->inputButton(3), IndexOutOfBounds);
+}
+
+TEST_F(StyledControls, AButtonsFaceIsItsTextUnlessThatIsBlank)
+{
+    const auto bar = placed<ctl_CmdBar>(200, 30);
+    const auto button = bar->BUTTONS()->Add(u"k", u"Fertig");
+    EXPECT_EQ(button->face(), u"Fertig");
+    button->Text(u"OK   ");
+    EXPECT_EQ(button->face(), u"OK   ");
+    button->Text(u"   ");
+    EXPECT_EQ(button->face(), u"Fertig");
+}
+
+TEST_F(StyledControls, ABarTellsItsWidgetWhenAPartLooksDifferent)
+{
+    class Watch final : public ControlPeer
+    {
+    public:
+        void modelChanged(ControlAspect aspect) override { items += aspect == ControlAspect::Items ? 1 : 0; }
+        int items = 0;
+    };
+    const auto bar = placed<ctl_CmdBar>(200, 30);
+    Watch watch;
+    bar->frame().peer(&watch);
+    const auto button = bar->BUTTONS()->Add(u"k", u"Fertig");
+    const auto panel = bar->PANELS()->Add(u"", u"bereit");
+    button->Description(u"schließt das Fenster");
+    panel->Text(u"beschäftigt");
+    button->Tag(u"nothing to be seen");
+    button->Key(u"K");
+    EXPECT_EQ(watch.items, 4);
+    bar->frame().peer(nullptr);
 }
 
 TEST_F(StyledControls, ButtonsOfABarAreReachedByMemberNames)

@@ -6,7 +6,6 @@
 #include "qt/base/QtEventPump.h"
 #include "qt/base/QtFolders.h"
 #include "qt/base/QtMachine.h"
-#include "qt/base/QtNetClient.h"
 #include "qt/base/QtRandom.h"
 #include "qt/base/QtSettingsStore.h"
 #include "qt/base/StandardFolder.h"
@@ -47,7 +46,7 @@ std::shared_ptr<RecordSeal> passwordSeal()
 
 } // namespace
 
-Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard)
+Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard, const TrafficWindow& traffic)
 {
     Platform platform;
     platform.clock = std::make_shared<QtClock>();
@@ -62,7 +61,7 @@ Platform basePlatform(const std::shared_ptr<DispatchGuard>& guard)
     if (QCoreApplication::instance() != nullptr) {
         platform.programFolder = asFolder(QCoreApplication::applicationDirPath());
     }
-    platform.newNetClient = [guard] { return std::make_shared<QtNetClient>(guard); };
+    platform.newNetClient = [guard, traffic] { return std::make_shared<QtNetClient>(guard, traffic); };
     platform.newInterCom = [] { return std::make_shared<LocalInterCom>(); };
     platform.reportError = [guard](const std::exception& error) { guard->report(error); };
     return platform;

@@ -8,7 +8,6 @@
 #include "qt/base/QtClock.h"
 #include "server/RequestIds.h"
 #include "server/TrafficLog.h"
-#include "server/frm_NetMonitor.h"
 
 #include <QCoreApplication>
 #include <QRandomGenerator>
@@ -236,8 +235,9 @@ Moment QtNetClient::Exchange::momentOfLine()
     return Moment{asked_.days + (now - askedAt_) / SecondsOfDay};
 }
 
-QtNetClient::QtNetClient(std::shared_ptr<DispatchGuard> guard, const MasterPatience::Limits& patience)
-    : traffic_(std::make_shared<TrafficLog>())
+QtNetClient::QtNetClient(std::shared_ptr<DispatchGuard> guard, TrafficWindow window,
+                         const MasterPatience::Limits& patience)
+    : traffic_(std::make_shared<TrafficLog>()), window_(std::move(window))
 {
     exchange_ = std::make_shared<Exchange>(*this, std::move(guard), traffic_, patience);
 }
@@ -276,13 +276,12 @@ String QtNetClient::Request(StringView pMessage, StringView pIP, std::int32_t pP
 
 void QtNetClient::ShowMonitor()
 {
-    if (!SessionState::isOpen() || !SessionState::current().platform().visual) {
-        return;
+    if (!monitor_ && window_) {
+        monitor_ = window_(traffic_);
     }
-    if (!monitor_) {
-        monitor_ = std::make_shared<frm_NetMonitor>(traffic_);
+    if (monitor_) {
+        monitor_();
     }
-    monitor_->Show();
 }
 
 std::int32_t QtNetClient::openPort() const

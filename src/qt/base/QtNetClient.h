@@ -5,16 +5,19 @@
 #include "server/MasterPatience.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 namespace phial
 {
 class TrafficLog;
-class frm_NetMonitor;
 } // namespace phial
 
 namespace phial::qt
 {
+
+/// Makes the window that shows a client's traffic; what it gives opens that window, and keeps it.
+using TrafficWindow = std::function<std::function<void()>(std::shared_ptr<TrafficLog>)>;
 
 /// The network client on the toolkit's sockets; docs/protocol.md describes what goes over them.
 ///
@@ -32,7 +35,9 @@ namespace phial::qt
 class QtNetClient final : public CoreNetClient
 {
 public:
-    explicit QtNetClient(std::shared_ptr<DispatchGuard> guard, const MasterPatience::Limits& patience = {});
+    /// Without a window for the traffic there is no monitor.
+    explicit QtNetClient(std::shared_ptr<DispatchGuard> guard, TrafficWindow window = {},
+                         const MasterPatience::Limits& patience = {});
     ~QtNetClient() override;
     QtNetClient(const QtNetClient&) = delete;
     QtNetClient& operator=(const QtNetClient&) = delete;
@@ -46,7 +51,7 @@ public:
     /// connection cannot be made or is lost before the answer is there.
     String Request(StringView pMessage, StringView pIP, std::int32_t pPort, const CoreParameters* pParameters,
                    bool pWait, StringView pTimeoutAnswer) override;
-    /// Nothing happens where no windows can be shown. The window ends with the client.
+    /// Nothing happens where there is no window for the traffic. It ends with the client.
     void ShowMonitor() override;
 
     /// The port that is open; 0 when none is.
@@ -57,7 +62,8 @@ private:
 
     std::shared_ptr<Exchange> exchange_; // outlives the client in a running request
     std::shared_ptr<TrafficLog> traffic_;
-    std::shared_ptr<frm_NetMonitor> monitor_;
+    TrafficWindow window_;
+    std::function<void()> monitor_; // empty until it is first shown
 };
 
 } // namespace phial::qt

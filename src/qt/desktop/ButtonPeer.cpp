@@ -25,16 +25,20 @@ ButtonPeer::ButtonPeer(std::shared_ptr<ctl_Button> model, QPushButton& button)
     begin();
 }
 
-void ButtonPeer::show(ControlAspect aspect)
+void ButtonPeer::showText()
 {
-    if (aspect == ControlAspect::Text) {
-        button_.setText(toQt(model_->Caption()));
-    } else if (aspect == ControlAspect::Picture) {
-        button_.setIcon(iconOf(model_->Picture()));
-    } else if (aspect == ControlAspect::Style) {
-        markAccent(button_, model_->Accent()); // takes the sheet's font, so the model's comes behind
-        button_.setFont(fontCatalogue().font(model_->Font()->traits()));
-    }
+    button_.setText(toQt(model_->Caption()));
+}
+
+void ButtonPeer::showPicture()
+{
+    button_.setIcon(iconOf(model_->Picture()));
+}
+
+void ButtonPeer::showStyle()
+{
+    markAccent(button_, model_->Accent()); // takes the sheet's font, so the model's comes behind
+    button_.setFont(fontCatalogue().font(model_->Font()->traits()));
 }
 
 } // namespace phial::qt

@@ -16,7 +16,9 @@ public:
 
 private:
     ButtonPeer(std::shared_ptr<ctl_Button> model, QPushButton& button);
-    void show(ControlAspect aspect) override;
+    void showText() override;
+    void showPicture() override;
+    void showStyle() override;
 
     std::shared_ptr<ctl_Button> model_;
     QPushButton& button_;

@@ -26,19 +26,6 @@ ComboBoxPeer::ComboBoxPeer(std::shared_ptr<ComboBox> model, QComboBox& box)
     begin();
 }
 
-void ComboBoxPeer::show(ControlAspect aspect)
-{
-    if (aspect == ControlAspect::Style) {
-        showStyle();
-    } else if (aspect == ControlAspect::Items) {
-        showItems();
-    }
-    if (aspect == ControlAspect::Items || aspect == ControlAspect::Selection ||
-        aspect == ControlAspect::Text) {
-        showChoice();
-    }
-}
-
 void ComboBoxPeer::showStyle()
 {
     const QFont font = fontCatalogue().font(model_->Font()->traits());
@@ -58,7 +45,7 @@ void ComboBoxPeer::showStyle()
                 [this](const QString& text) { input([&] { model_->inputText(fromQt(text)); }); });
         watch(*line);
     }
-    showChoice();
+    showSelection();
 }
 
 void ComboBoxPeer::showItems()
@@ -67,9 +54,15 @@ void ComboBoxPeer::showItems()
     for (std::int32_t line = 0; line < model_->ListCount(); ++line) {
         box_.addItem(toQt(model_->List(line)));
     }
+    showSelection();
 }
 
-void ComboBoxPeer::showChoice()
+void ComboBoxPeer::showText()
+{
+    showSelection();
+}
+
+void ComboBoxPeer::showSelection()
 {
     box_.setCurrentIndex(model_->ListIndex());
     if (box_.isEditable() && fromQt(box_.currentText()) != model_->Text()) {

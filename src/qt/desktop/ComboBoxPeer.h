@@ -16,10 +16,10 @@ public:
 
 private:
     ComboBoxPeer(std::shared_ptr<ComboBox> model, QComboBox& box);
-    void show(ControlAspect aspect) override;
-    void showStyle();
-    void showItems();
-    void showChoice();
+    void showStyle() override;
+    void showItems() override;
+    void showText() override;
+    void showSelection() override;
 
     std::shared_ptr<ComboBox> model_;
     QComboBox& box_;

@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 
 #include <algorithm>
@@ -24,13 +25,25 @@ constexpr int TouchHeight = 48;
 constexpr double TouchProportion = 2; // of a button's width to its height
 constexpr double TouchTextSize = 11;  // points
 
+void showPart(QWidget& widget, const CommandBarButton& part)
+{
+    widget.setToolTip(toQt(part.ToolTipText()));
+    widget.setAccessibleDescription(toQt(part.Description()));
+    widget.setEnabled(part.Enabled());
+    widget.setVisible(part.Visible());
+}
+
 void showButton(QPushButton& widget, const CommandBarButton& button)
 {
-    widget.setText(toQt(button.Caption()));
+    widget.setText(toQt(button.face()));
     widget.setIcon(iconOf(button.Picture()));
-    widget.setToolTip(toQt(button.ToolTipText()));
-    widget.setEnabled(button.Enabled());
-    widget.setVisible(button.Visible());
+    showPart(widget, button);
+}
+
+void showPanel(QLabel& widget, const CommandBarButton& panel)
+{
+    widget.setText(toQt(panel.face()));
+    showPart(widget, panel);
 }
 
 } // namespace
@@ -53,14 +66,14 @@ CommandBarPeer::CommandBarPeer(std::shared_ptr<CommandBar> model, QWidget& bar)
     begin();
 }
 
-void CommandBarPeer::show(ControlAspect aspect)
+void CommandBarPeer::showPlace()
 {
-    if (aspect == ControlAspect::Geometry) {
-        sizeButtons();
-    }
-    if (aspect != ControlAspect::Items) {
-        return;
-    }
+    sizeButtons();
+}
+
+void CommandBarPeer::showItems()
+{
+    showPanels();
     if (buttons_.size() != static_cast<std::size_t>(model_->BUTTONS()->Count())) {
         makeButtons();
     }
@@ -68,6 +81,24 @@ void CommandBarPeer::show(ControlAspect aspect)
         showButton(*buttons_[at], *model_->BUTTONS()->Item(static_cast<std::int32_t>(at) + 1));
     }
     chooseFirst();
+}
+
+void CommandBarPeer::showPanels()
+{
+    const auto panels = model_->PANELS();
+    while (panels_.size() > static_cast<std::size_t>(panels->Count())) {
+        delete panels_.back();
+        panels_.pop_back();
+    }
+    while (panels_.size() < static_cast<std::size_t>(panels->Count())) {
+        auto* label = new QLabel(&bar_);
+        label->setTextFormat(Qt::PlainText);
+        row_->insertWidget(static_cast<int>(panels_.size()), label);
+        panels_.push_back(label);
+    }
+    for (std::size_t at = 0; at < panels_.size(); ++at) {
+        showPanel(*panels_[at], *panels->Item(static_cast<std::int32_t>(at) + 1));
+    }
 }
 
 /// The focus that the bar gets goes to the button that the keyboard begins with.
@@ -90,7 +121,11 @@ void CommandBarPeer::sizeButtons()
     if (height < TouchHeight || buttons_.empty()) {
         return;
     }
-    const int share = (bar_.width() - 2 * Margin) / static_cast<int>(buttons_.size()) - Spacing;
+    int room = bar_.width() - 2 * Margin;
+    for (const QLabel* panel : panels_) {
+        room -= panel->sizeHint().width() + Spacing;
+    }
+    const int share = room / static_cast<int>(buttons_.size()) - Spacing;
     const int width = std::min(static_cast<int>(height * TouchProportion), share);
     for (QPushButton* button : buttons_) {
         QFont font = button->font();

@@ -6,13 +6,14 @@
 #include <vector>
 
 class QHBoxLayout;
+class QLabel;
 class QPushButton;
 
 namespace phial::qt
 {
 
-/// A command bar: the toolkit's push buttons in a row. The bar is one stop of the Tab key; the arrow keys go
-/// from button to button.
+/// A command bar: its panels at the left, then the toolkit's push buttons in a row. The bar is one stop of
+/// the Tab key; the arrow keys go from button to button.
 class CommandBarPeer final : public NativePeer
 {
 public:
@@ -20,8 +21,10 @@ public:
 
 private:
     CommandBarPeer(std::shared_ptr<CommandBar> model, QWidget& bar);
-    void show(ControlAspect aspect) override;
+    void showPlace() override;
+    void showItems() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showPanels();
     void makeButtons();
     void sizeButtons();
     void chooseFirst();
@@ -30,6 +33,7 @@ private:
     std::shared_ptr<CommandBar> model_;
     QWidget& bar_;
     QHBoxLayout* row_;
+    std::vector<QLabel*> panels_;
     std::vector<QPushButton*> buttons_;
 };
 

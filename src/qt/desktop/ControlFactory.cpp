@@ -4,10 +4,10 @@
 #include "qt/desktop/ComboBoxPeer.h"
 #include "qt/desktop/CommandBarPeer.h"
 #include "qt/desktop/ControlWidget.h"
+#include "qt/desktop/EditorPeer.h"
 #include "qt/desktop/ListBoxPeer.h"
-#include "qt/desktop/RichTextBoxPeer.h"
+#include "qt/desktop/ListViewPeer.h"
 #include "qt/desktop/ScrollBarPeer.h"
-#include "qt/desktop/TextBoxPeer.h"
 
 namespace phial::qt
 {
@@ -25,9 +25,10 @@ QWidget* makeIf(const ControlPtr& control, QWidget& holder)
 using Maker = QWidget* (*)(const ControlPtr&, QWidget&);
 
 constexpr Maker NativeMakers[] = {
-    makeIf<TextBox, TextBoxPeer>,         makeIf<ctl_Button, ButtonPeer>, makeIf<CommandBar, CommandBarPeer>,
-    makeIf<ScrollBar, ScrollBarPeer>,     makeIf<ListBox, ListBoxPeer>,   makeIf<ComboBox, ComboBoxPeer>,
-    makeIf<RichTextBox, RichTextBoxPeer>,
+    makeIf<TextBox, EditorPeer<TextBox>>, makeIf<ctl_Button, ButtonPeer>,
+    makeIf<CommandBar, CommandBarPeer>,   makeIf<ScrollBar, ScrollBarPeer>,
+    makeIf<ListBox, ListBoxPeer>,         makeIf<ComboBox, ComboBoxPeer>,
+    makeIf<ListView, ListViewPeer>,       makeIf<RichTextBox, EditorPeer<RichTextBox>>,
 };
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "qt/desktop/QtVisualHost.h"
 #include "qt/desktop/ShotDialogs.h"
 #include "qt/desktop/SvgFormDocument.h"
+#include "server/frm_NetMonitor.h"
 
 #include <QApplication>
 
@@ -86,7 +87,7 @@ DesktopApplication::~DesktopApplication()
 
 Platform DesktopApplication::platform() const
 {
-    Platform platform = basePlatform(dispatchGuard());
+    Platform platform = basePlatform(dispatchGuard(), netMonitorWindow);
     platform.dialogs = makeDialogs(shotsFolder().has_value());
     if (shotsFolder()) {
         platform.settings.reset();       // pictures show nothing of the user's settings, and change none

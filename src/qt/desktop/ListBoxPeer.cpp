@@ -58,17 +58,14 @@ void ListBoxPeer::choose(int row)
     }
 }
 
-void ListBoxPeer::show(ControlAspect aspect)
+void ListBoxPeer::showStyle()
 {
-    if (aspect == ControlAspect::Style) {
-        list_.setFont(fontCatalogue().font(model_->Font()->traits()));
-    }
-    if (aspect == ControlAspect::Items) {
-        showItems();
-    }
-    if (aspect == ControlAspect::Items || aspect == ControlAspect::Selection) {
-        list_.setCurrentRow(model_->ListIndex());
-    }
+    list_.setFont(fontCatalogue().font(model_->Font()->traits()));
+}
+
+void ListBoxPeer::showSelection()
+{
+    list_.setCurrentRow(model_->ListIndex());
 }
 
 // Lines that stay are left alone, so that the list does not lose its place.
@@ -85,6 +82,7 @@ void ListBoxPeer::showItems()
             list_.item(line)->setText(text);
         }
     }
+    showSelection();
 }
 
 } // namespace phial::qt

@@ -16,8 +16,9 @@ public:
 
 private:
     ListBoxPeer(std::shared_ptr<ListBox> model, QListWidget& list);
-    void show(ControlAspect aspect) override;
-    void showItems();
+    void showStyle() override;
+    void showItems() override;
+    void showSelection() override;
     void choose(int row);
 
     std::shared_ptr<ListBox> model_;

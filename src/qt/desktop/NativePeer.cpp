@@ -56,6 +56,46 @@ void NativePeer::modelChanged(ControlAspect aspect)
     show(aspect);
 }
 
+void NativePeer::show(ControlAspect aspect)
+{
+    switch (aspect) {
+    case ControlAspect::Style:
+        showStyle();
+        break;
+    case ControlAspect::Text:
+        showText();
+        break;
+    case ControlAspect::Selection:
+        showSelection();
+        break;
+    case ControlAspect::Items:
+        showItems();
+        break;
+    case ControlAspect::Range:
+    case ControlAspect::Value:
+        showRange();
+        break;
+    case ControlAspect::Picture:
+        showPicture();
+        break;
+    case ControlAspect::Accessibility:
+        showNames();
+        break;
+    case ControlAspect::Geometry:
+        showPlace();
+        break;
+    case ControlAspect::Visibility: // the frame's alone
+    case ControlAspect::Enabled:
+    case ControlAspect::ZOrder:
+    case ControlAspect::Focus:
+    case ControlAspect::Pointer:
+    case ControlAspect::ToolTip:
+    case ControlAspect::Children: // of painted controls
+    case ControlAspect::Drag:
+        break;
+    }
+}
+
 void NativePeer::run(const std::function<void()>& handler)
 {
     const ControlPtr control = control_; // a handler may take the control away

@@ -15,9 +15,10 @@ namespace phial::qt
 /// Joins a control's model to one of the toolkit's own widgets. It belongs to the widget and keeps the
 /// control alive.
 ///
-/// A setter of the model ends in `show`, and whatever the widget then says of itself is an echo that goes no
-/// further. What the user does comes through the widget's signals, which a subclass hands to `input`, and
-/// through the keys, presses and focus that this class takes from the widget and the widgets within.
+/// A setter of the model ends in one of the `show…` functions, and whatever the widget then says of itself is
+/// an echo that goes no further. What the user does comes through the widget's signals, which a subclass
+/// hands to `input`, and through the keys, presses and focus that this class takes from the widget and the
+/// widgets within.
 class NativePeer : public QObject, public ControlPeer
 {
 public:
@@ -33,8 +34,18 @@ protected:
     /// Takes keys, presses and focus from a widget that the user reaches.
     void watch(QWidget& widget);
 
-    /// Shows one side of the model that its frame does not cover.
-    virtual void show(ControlAspect aspect) = 0;
+    // Each shows one side of the model, of which the frame's part is shown already.
+    virtual void showStyle() {}
+    virtual void showText() {}
+    virtual void showSelection() {}
+    virtual void showItems() {}
+    /// Range and value.
+    virtual void showRange() {}
+    virtual void showPicture() {}
+    virtual void showNames() {}
+    /// The widget has its new place.
+    virtual void showPlace() {}
+
     /// Runs what the user's input leads to, unless it is an echo or the control has left its window.
     template <typename Handler>
     void input(Handler&& handler);
@@ -42,6 +53,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void show(ControlAspect aspect);
     bool isLinked() const;
     bool filterKey(QWidget& widget, QKeyEvent& event);
     void filterPress(const QEvent& event);

@@ -34,16 +34,17 @@ std::int32_t ScrollBarPeer::turned(std::int32_t value) const
     return model_->Min() > model_->Max() ? model_->Min() + model_->Max() - value : value;
 }
 
-void ScrollBarPeer::show(ControlAspect aspect)
+void ScrollBarPeer::showStyle()
 {
-    if (aspect == ControlAspect::Style) {
-        bar_.setOrientation(model_->Direction() == ScrollDirection::Vertical ? Qt::Vertical : Qt::Horizontal);
-    } else if (aspect == ControlAspect::Range || aspect == ControlAspect::Value) {
-        bar_.setRange(std::min(model_->Min(), model_->Max()), std::max(model_->Min(), model_->Max()));
-        bar_.setSingleStep(model_->SmallChange());
-        bar_.setPageStep(model_->LargeChange());
-        bar_.setValue(turned(model_->Value()));
-    }
+    bar_.setOrientation(model_->Direction() == ScrollDirection::Vertical ? Qt::Vertical : Qt::Horizontal);
+}
+
+void ScrollBarPeer::showRange()
+{
+    bar_.setRange(std::min(model_->Min(), model_->Max()), std::max(model_->Min(), model_->Max()));
+    bar_.setSingleStep(model_->SmallChange());
+    bar_.setPageStep(model_->LargeChange());
+    bar_.setValue(turned(model_->Value()));
 }
 
 } // namespace phial::qt

@@ -16,7 +16,8 @@ public:
 
 private:
     ScrollBarPeer(std::shared_ptr<ScrollBar> model, QScrollBar& bar);
-    void show(ControlAspect aspect) override;
+    void showStyle() override;
+    void showRange() override;
     std::int32_t turned(std::int32_t value) const;
 
     std::shared_ptr<ScrollBar> model_;

@@ -38,18 +38,20 @@ QPushButton[phialAccent="true"]:hover { background: $accentHover; }
 QPushButton[phialAccent="true"]:pressed { background: $accentPressed; }
 QPushButton[phialAccent="true"]:focus { border: 2px solid $ink; }
 QPushButton[phialAccent="true"]:disabled { background: $line; border-color: $line; color: $field; }
-QLineEdit, QPlainTextEdit, QListWidget, QComboBox {
+QLineEdit, QPlainTextEdit, QListWidget, QTreeWidget, QComboBox {
     background: palette(base); color: palette(text); border: 1px solid $line; border-radius: 4px;
     selection-background-color: $accent; selection-color: #ffffff; }
 QLineEdit { padding: 0 5px; }
-QLineEdit:focus, QPlainTextEdit:focus, QListWidget:focus, QComboBox:focus { border: 2px solid $accent; }
+QLineEdit:focus, QPlainTextEdit:focus, QListWidget:focus, QTreeWidget:focus, QComboBox:focus { border: 2px solid $accent; }
 QLineEdit:focus { padding: 0 4px; }
-QLineEdit:disabled, QPlainTextEdit:disabled, QListWidget:disabled, QComboBox:disabled {
+QLineEdit:disabled, QPlainTextEdit:disabled, QListWidget:disabled, QTreeWidget:disabled, QComboBox:disabled {
     background: $ground; color: $pale; }
-QListWidget { outline: none; }
-QListWidget::item { padding: 4px 6px; background: transparent; }
-QListWidget::item:hover { background: $hover; }
-QListWidget::item:selected { background: $accent; color: #ffffff; }
+QListWidget, QTreeWidget { outline: none; }
+QListWidget::item, QTreeWidget::item { padding: 4px 6px; background: transparent; }
+QListWidget::item:hover, QTreeWidget::item:hover { background: $hover; }
+QListWidget::item:selected, QTreeWidget::item:selected { background: $accent; color: #ffffff; }
+QHeaderView::section { background: $ground; color: $ink; border: none; border-bottom: 1px solid $line;
+    padding: 4px 6px; }
 QComboBox { padding: 0 6px; }
 QComboBox::drop-down { border: none; width: 22px; }
 QComboBox::down-arrow { width: 0; height: 0; margin-right: 6px; border-left: 5px solid $field;
@@ -74,6 +76,8 @@ QMenu::item:disabled { color: $pale; background: transparent; }
 QMenu::separator { height: 1px; background: $line; margin: 4px 6px; }
 QToolTip { background: $ink; color: #ffffff; border: none; padding: 4px 6px; }
 QWidget[phialBar="true"] { background: $frame; }
+QWidget[phialBar="true"] QLabel { color: $frameText; }
+QWidget[phialBar="true"] QLabel:disabled { color: $pale; }
 QWidget[phialBar="true"] QPushButton { background: transparent; color: $frameText; border: 1px solid $frameText; }
 QWidget[phialBar="true"] QPushButton:hover, QWidget[phialBar="true"] QPushButton:focus {
     background: $accent; color: #ffffff; border: 2px solid $frameText; }

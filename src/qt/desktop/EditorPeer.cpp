@@ -1,0 +1,141 @@
+#include "qt/desktop/EditorPeer.h"
+
+#include "qt/desktop/DesktopColours.h"
+#include "qt/desktop/WidgetAspects.h"
+
+#include <QEvent>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+#include <QWidget>
+
+namespace phial::qt
+{
+
+namespace
+{
+
+bool hasManyLines(const TextBox& model)
+{
+    return model.MultiLine();
+}
+
+bool hasManyLines(const RichTextBox& /*model*/)
+{
+    return true;
+}
+
+EditorStyle styleOf(const TextBox& model)
+{
+    EditorStyle style;
+    style.font = model.Font()->traits();
+    style.text = toQColor(model.ForeColor());
+    style.background = toQColor(model.BackColor());
+    style.alignment = model.Alignment();
+    style.locked = model.Locked();
+    style.password = !model.PasswordChar().empty();
+    style.maximumLength = model.MaxLength();
+    return style;
+}
+
+EditorStyle styleOf(const RichTextBox& model)
+{
+    EditorStyle style;
+    style.font = model.Font()->traits();
+    style.text = toQColor(SystemColour::WindowText);
+    style.background = toQColor(model.BackColor());
+    style.locked = model.Locked();
+    return style;
+}
+
+} // namespace
+
+template <typename Model>
+QWidget* EditorPeer<Model>::make(std::shared_ptr<Model> model, QWidget& holder)
+{
+    auto* field = new QWidget(&holder);
+    auto* layout = new QVBoxLayout(field);
+    layout->setContentsMargins(0, 0, 0, 0);
+    new EditorPeer(std::move(model), *field); // belongs to the field
+    return field;
+}
+
+template <typename Model>
+EditorPeer<Model>::EditorPeer(std::shared_ptr<Model> model, QWidget& holder)
+    : NativePeer(model, holder), model_(std::move(model)), holder_(holder)
+{
+    makeEditor();
+    begin();
+}
+
+template <typename Model>
+void EditorPeer<Model>::makeEditor()
+{
+    many_ = hasManyLines(*model_);
+    const auto changed = [this] { edited(); };
+    editor_ = many_ ? makePageEditor(holder_, changed) : makeLineEditor(holder_, changed);
+    holder_.layout()->addWidget(&editor_->widget());
+    holder_.setFocusProxy(&editor_->widget());
+    watch(editor_->widget());
+    if (&editor_->pressed() != &editor_->widget()) {
+        watch(editor_->pressed());
+    }
+}
+
+template <typename Model>
+void EditorPeer<Model>::edited()
+{
+    input([this] {
+        model_->inputText(editor_->text(), editor_->selectionStart(), editor_->selectionLength());
+    });
+}
+
+template <typename Model>
+void EditorPeer<Model>::showStyle()
+{
+    const bool remade = many_ != hasManyLines(*model_);
+    if (remade) {
+        makeEditor();
+    }
+    editor_->style(styleOf(*model_));
+    if (remade) {
+        showText();
+    }
+}
+
+template <typename Model>
+void EditorPeer<Model>::showText()
+{
+    if (editor_->text() != model_->Text()) {
+        editor_->text(model_->Text());
+    }
+    showSelection();
+}
+
+template <typename Model>
+void EditorPeer<Model>::showSelection()
+{
+    editor_->select(model_->SelStart(), model_->SelLength());
+}
+
+template <typename Model>
+void EditorPeer<Model>::showNames()
+{
+    passNames(holder_, editor_->widget());
+}
+
+template <typename Model>
+bool EditorPeer<Model>::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool filtered = NativePeer::eventFilter(watched, event);
+    if (event->type() == QEvent::MouseButtonRelease) {
+        input([this] { model_->click(); });
+    } else if (event->type() == QEvent::MouseButtonDblClick) {
+        input([this] { model_->doubleClick(); });
+    }
+    return filtered;
+}
+
+template class EditorPeer<TextBox>;
+template class EditorPeer<RichTextBox>;
+
+} // namespace phial::qt

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "qt/desktop/NativePeer.h"
+#include "qt/desktop/TextEditor.h"
+#include "visual/RichTextBox.h"
+#include "visual/TextBox.h"
+
+namespace phial::qt
+{
+
+/// A field to type in: a holder with the toolkit's field for one line or for many in it.
+template <typename Model>
+class EditorPeer final : public NativePeer
+{
+public:
+    static QWidget* make(std::shared_ptr<Model> model, QWidget& holder);
+
+private:
+    EditorPeer(std::shared_ptr<Model> model, QWidget& holder);
+    void showStyle() override;
+    void showText() override;
+    void showSelection() override;
+    void showNames() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void makeEditor();
+    void edited();
+
+    std::shared_ptr<Model> model_;
+    QWidget& holder_;
+    std::unique_ptr<TextEditor> editor_;
+    bool many_ = false;
+};
+
+extern template class EditorPeer<TextBox>;
+extern template class EditorPeer<RichTextBox>;
+
+} // namespace phial::qt
