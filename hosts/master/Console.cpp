@@ -34,11 +34,6 @@ bool isOneOf(StringView text, const std::array<StringView, Count>& words)
     return std::ranges::any_of(words, [text](StringView word) { return equalsIgnoringCase(text, word); });
 }
 
-String translated(StringView german, StringView english)
-{
-    return LNG()->TRANSLATE(german, english);
-}
-
 } // namespace
 
 struct Console::Command {

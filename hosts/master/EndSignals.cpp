@@ -51,12 +51,12 @@ constexpr std::array Signals{SIGTERM, SIGINT, SIGHUP};
 
 /// A handler may do next to nothing, so it writes a byte, which the event loop reads.
 std::atomic<int> writeEnd = -1;
-std::atomic<int> count = 0;
+std::atomic<int> received = 0;
 static_assert(std::atomic<int>::is_always_lock_free);
 
 extern "C" void noteSignal(int signal)
 {
-    if (++count > 1) {
+    if (++received > 1) {
         std::_Exit(128 + signal);
     }
     const char byte = 0;
@@ -99,7 +99,7 @@ EndSignals::~EndSignals()
         std::signal(signal, SIG_DFL);
     }
     writeEnd = -1;
-    count = 0;
+    received = 0;
     receiver_->notifier.reset();
     for (const int end : receiver_->pipe) {
         close(end);

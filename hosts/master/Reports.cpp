@@ -21,11 +21,6 @@ namespace
 
 constexpr StringView TimePattern = u"dd.mm.yyyy hh:nn:ss";
 
-String translated(StringView german, StringView english)
-{
-    return LNG()->TRANSLATE(german, english);
-}
-
 void tell(std::ostream& output, StringView german, StringView english)
 {
     output << toUtf8(translated(german, english)) << '\n';
@@ -134,6 +129,11 @@ String shownValue(const Variant& value)
 }
 
 } // namespace
+
+String translated(StringView german, StringView english)
+{
+    return LNG()->TRANSLATE(german, english);
+}
 
 void writePupils(std::ostream& output, const std::vector<Pupil>& pupils)
 {

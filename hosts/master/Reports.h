@@ -9,6 +9,9 @@
 namespace phial::master
 {
 
+/// A text in the language in force.
+String translated(StringView german, StringView english);
+
 // What is stored, as tables for the teacher in the language in force. Names that may be meant to deceive and
 // points that cannot be reached are marked, and a line below says so.
 

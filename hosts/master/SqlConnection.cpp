@@ -52,8 +52,8 @@ constexpr const char* ServerOptions = "connect_timeout=5;keepalives_idle=10;keep
 /// Connections are made on several threads.
 QString newName()
 {
-    static std::atomic<int> count = 0;
-    return QStringLiteral("phial-master-%1").arg(++count);
+    static std::atomic<int> made = 0;
+    return QStringLiteral("phial-master-%1").arg(++made);
 }
 
 /// Why a file cannot be used.

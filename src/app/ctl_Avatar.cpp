@@ -18,15 +18,15 @@ constexpr double Margin = 4; ///< between the frame and the picture
 constexpr double Gap = 8;    ///< between picture and name
 constexpr double LargestIcon = 96;
 constexpr double TextPoints = 12;
-constexpr int White = 15; // of the classic table of colours
-constexpr int Grey = 7;
+constexpr int WhiteSlot = 15; // of the classic table of colours
+constexpr int LightGreySlot = 7;
 constexpr int DarkGrey = 8;
 
 } // namespace
 
 struct ctl_Avatar::Properties {
     static constexpr rows::Table Table{
-        rows::property<u"TEXTCOLOR">(&ctl_Avatar::textColour_, QBColor(White)).kept(),
+        rows::property<u"TEXTCOLOR">(&ctl_Avatar::textColour_, QBColor(WhiteSlot)).kept(),
         rows::property<u"CENTER">(&ctl_Avatar::centre_).kept(),
         rows::operation<u"UPDATE">(&ctl_Avatar::UPDATE),
     };
@@ -96,10 +96,10 @@ void ctl_Avatar::paintFrame()
     const double bottom = device.ScaleHeight() - 1;
     device.Line(0, 0, right, 0, QBColor(DarkGrey));
     device.Line(0, 0, 0, bottom, QBColor(DarkGrey));
-    device.Line(right, 0, right, bottom + 1, QBColor(Grey));
-    device.Line(0, bottom, right, bottom, QBColor(Grey));
+    device.Line(right, 0, right, bottom + 1, QBColor(LightGreySlot));
+    device.Line(0, bottom, right, bottom, QBColor(LightGreySlot));
     if (frame_.hasFocus()) {
-        device.Line(1, 1, right - 1, bottom - 1, QBColor(White), LineShape::Box);
+        device.Line(1, 1, right - 1, bottom - 1, QBColor(WhiteSlot), LineShape::Box);
     }
 }
 

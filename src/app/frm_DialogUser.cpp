@@ -19,7 +19,7 @@
 namespace phial
 {
 
-namespace layout = dialog_user_design;
+namespace user_design = dialog_user_design;
 
 namespace
 {
@@ -65,7 +65,7 @@ String login()
 } // namespace
 
 frm_DialogUser::frm_DialogUser()
-    : form_(layout::Design), screenName_(form_->control<TextBox>(u"txt_Screenname")),
+    : form_(user_design::Design), screenName_(form_->control<TextBox>(u"txt_Screenname")),
       lastPictures_(*form_, u"pic_Last"), lastNames_(*form_, u"lab_Last")
 {
     lastPictures_.adopt();
@@ -86,8 +86,8 @@ void frm_DialogUser::connect()
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->KeyDown, [this](KeyEvent& event) { keyDown(event); });
     form_.on(screenName_->Click, [this] { openKeyboard(); });
-    form_.command(u"bar_Buttons", layout::Confirm, [this] { confirm(); });
-    form_.command(u"bar_Buttons", layout::Abort, [this] { abort(); });
+    form_.command(u"bar_Buttons", user_design::Confirm, [this] { confirm(); });
+    form_.command(u"bar_Buttons", user_design::Abort, [this] { abort(); });
     const auto avatars = form_->control<PictureBox>(u"pic_Avatars");
     const auto edge = form_->control<Shape>(u"shp_AvatarHolder");
     form_.on(avatars->GotFocus, [edge = edge.get()] { edge->BorderColor(Palette::Accent); });
@@ -117,7 +117,7 @@ void frm_DialogUser::connectLast()
 void frm_DialogUser::TRANSLATE()
 {
     translateForm(form_);
-    for (std::int32_t place = 0; place < layout::LastPlaces; ++place) {
+    for (std::int32_t place = 0; place < user_design::LastPlaces; ++place) {
         if (const auto& name = lastShown_[static_cast<std::size_t>(place)]) {
             lastNames_(place)->Caption(*name);
         }
@@ -140,7 +140,7 @@ void frm_DialogUser::load()
 void frm_DialogUser::fillLast()
 {
     const std::vector<RecentName> names = recentNames();
-    for (std::int32_t place = 0; place < layout::LastPlaces; ++place) {
+    for (std::int32_t place = 0; place < user_design::LastPlaces; ++place) {
         const auto at = static_cast<std::size_t>(place);
         if (at < names.size()) {
             fillPlace(place, names[at].name, names[at].avatar);
@@ -225,7 +225,7 @@ void frm_DialogUser::abort()
 std::optional<std::int32_t> frm_DialogUser::focusedPlace() const
 {
     const ControlPtr active = form_->ActiveControl();
-    for (std::int32_t place = 0; place < layout::LastPlaces; ++place) {
+    for (std::int32_t place = 0; place < user_design::LastPlaces; ++place) {
         if (active == lastPictures_(place)) {
             return place;
         }

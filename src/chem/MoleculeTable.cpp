@@ -13,17 +13,17 @@ namespace
 {
 
 constexpr std::size_t UsualRows = 1000;
-constexpr StringView End = u"<>";
-constexpr StringView Ending = u".pdb";
+constexpr StringView TableEnd = u"<>";
+constexpr StringView ModelEnding = u".pdb";
 
 constexpr std::size_t MostColumns = 10;
 enum Column : std::size_t { Name, Mass, Formula, File };
 
-using Columns = std::array<StringView, MostColumns>;
+using RowColumns = std::array<StringView, MostColumns>;
 
-Columns columnsOf(StringView line)
+RowColumns columnsOf(StringView line)
 {
-    Columns columns;
+    RowColumns columns;
     for (StringView& column : columns) {
         const std::size_t tab = line.find(u'\t');
         column = line.substr(0, tab);
@@ -58,8 +58,8 @@ String key(StringView text)
 String withoutEnding(StringView file)
 {
     const bool hasEnding =
-        file.size() > Ending.size() && equalsIgnoringCase(file.substr(file.size() - Ending.size()), Ending);
-    return String(hasEnding ? file.substr(0, file.size() - Ending.size()) : file);
+        file.size() > ModelEnding.size() && equalsIgnoringCase(file.substr(file.size() - ModelEnding.size()), ModelEnding);
+    return String(hasEnding ? file.substr(0, file.size() - ModelEnding.size()) : file);
 }
 
 /// Whether it can stand in the viewer's script and lies beside the table.
@@ -76,7 +76,7 @@ MoleculeTable::MoleculeTable(StringView text)
     rows_.reserve(UsualRows);
     while (!text.empty() && rows_.size() < MaximumRows) {
         const String line = trimmed(takeLine(text));
-        if (line == End) {
+        if (line == TableEnd) {
             break;
         }
         add(line);
@@ -85,7 +85,7 @@ MoleculeTable::MoleculeTable(StringView text)
 
 void MoleculeTable::add(StringView line)
 {
-    const Columns columns = columnsOf(line);
+    const RowColumns columns = columnsOf(line);
     const String file = withoutEnding(trimmed(columns[File]));
     String name = trimmed(columns[Name]);
     if (name.empty() || !isPlainFileName(file)) {

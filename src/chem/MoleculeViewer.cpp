@@ -21,7 +21,7 @@ namespace phial
 namespace
 {
 
-constexpr StringView Table = u"moleküle2.txt";
+constexpr StringView TableFile = u"moleküle2.txt";
 constexpr std::uintmax_t LargestTable = 4 * 1024 * 1024; // bytes
 
 constexpr StringView Script = u"qv.scr";
@@ -91,7 +91,7 @@ MoleculeTable readMolecules(const String& folder)
     ignoringErrors([&] {
         goTo(folder);
         const CoreFiles& files = coreRoot().CoreFiles();
-        const String file = folder + String(Table);
+        const String file = folder + String(TableFile);
         if (files.Changed(file).size <= LargestTable) {
             table = MoleculeTable(files.ReadText(file));
         }

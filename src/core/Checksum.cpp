@@ -12,13 +12,13 @@ namespace
 constexpr std::uint32_t Polynomial = 0x82F63B78;
 constexpr std::size_t Slices = 8;
 
-using Table = std::array<std::uint32_t, 256>;
+using Remainders = std::array<std::uint32_t, 256>;
 
 /// Table 0 is the step for one byte; table n is that byte followed by n zero bytes, so that eight bytes take
 /// eight look-ups that do not wait for each other.
-constexpr std::array<Table, Slices> makeTables()
+constexpr std::array<Remainders, Slices> makeTables()
 {
-    std::array<Table, Slices> tables = {};
+    std::array<Remainders, Slices> tables = {};
     for (std::uint32_t byte = 0; byte < 256; ++byte) {
         std::uint32_t value = byte;
         for (int bit = 0; bit < 8; ++bit) {
@@ -35,7 +35,7 @@ constexpr std::array<Table, Slices> makeTables()
     return tables;
 }
 
-constexpr std::array<Table, Slices> Tables = makeTables();
+constexpr std::array<Remainders, Slices> Tables = makeTables();
 
 std::uint32_t afterEight(const char* bytes, std::uint32_t value)
 {

@@ -1,5 +1,7 @@
 #include "core/CorePathText.h"
 
+#include "core/NativePath.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <vector>
@@ -13,15 +15,10 @@ namespace
 constexpr char16_t Backslash = u'\\';
 constexpr StringView Separators = u"\\/";
 
-bool isSeparator(char16_t unit)
-{
-    return Separators.find(unit) != StringView::npos;
-}
-
 String withBackslashes(StringView path)
 {
     String text(path);
-    std::ranges::replace_if(text, isSeparator, Backslash);
+    std::ranges::replace_if(text, isPathSeparator, Backslash);
     return text;
 }
 
@@ -34,7 +31,7 @@ std::size_t nameBegin(StringView path)
 
 bool isDrive(StringView path)
 {
-    return path.size() >= 2 && path[1] == u':' && !isSeparator(path[0]);
+    return path.size() >= 2 && path[1] == u':' && !isPathSeparator(path[0]);
 }
 
 /// The length of the drive or share at a path's beginning, without a separator behind it.
@@ -43,7 +40,7 @@ std::size_t driveLength(StringView path)
     if (isDrive(path)) {
         return 2;
     }
-    if (path.size() < 2 || !isSeparator(path[0]) || !isSeparator(path[1])) {
+    if (path.size() < 2 || !isPathSeparator(path[0]) || !isPathSeparator(path[1])) {
         return 0;
     }
     const std::size_t server = path.find_first_of(Separators, 2);
@@ -57,7 +54,7 @@ std::size_t driveLength(StringView path)
 std::size_t rootLength(StringView path)
 {
     const std::size_t drive = driveLength(path);
-    return drive < path.size() && isSeparator(path[drive]) ? drive + 1 : drive;
+    return drive < path.size() && isPathSeparator(path[drive]) ? drive + 1 : drive;
 }
 
 /// A folder taken apart, "." and ".." carried out.
@@ -170,7 +167,7 @@ String CorePathText::Absolute(StringView pBase, StringView pRelative)
     if (driveLength(pRelative) > 0) {
         return takenApart(pRelative).text();
     }
-    if (!pRelative.empty() && isSeparator(pRelative.front())) {
+    if (!pRelative.empty() && isPathSeparator(pRelative.front())) {
         return takenApart(Drive(pBase) + String(pRelative)).text();
     }
     const String base = pBase.empty() ? String() : WithBackslash(pBase);

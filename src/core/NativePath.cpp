@@ -17,21 +17,16 @@ namespace fs = std::filesystem;
 
 constexpr bool NativeIsBackslash = fs::path::preferred_separator == static_cast<fs::path::value_type>('\\');
 
-bool isSeparator(char16_t unit)
-{
-    return unit == u'\\' || unit == u'/';
-}
-
 bool isAbsolute(StringView path)
 {
-    return !path.empty() && isSeparator(path.front());
+    return !path.empty() && isPathSeparator(path.front());
 }
 
 /// A drive letter or a network share: neither exists where paths begin with a slash.
 bool namesAnotherRoot(StringView path)
 {
     const bool drive = path.size() >= 2 && path[1] == u':';
-    const bool share = path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1]);
+    const bool share = path.size() >= 2 && isPathSeparator(path[0]) && isPathSeparator(path[1]);
     return drive || share;
 }
 
@@ -41,7 +36,7 @@ void appendComponents(std::vector<String>& components, StringView path)
     std::size_t begin = 0;
     while (begin <= path.size()) {
         const std::size_t end = static_cast<std::size_t>(
-            std::find_if(path.begin() + static_cast<std::ptrdiff_t>(begin), path.end(), isSeparator) -
+            std::find_if(path.begin() + static_cast<std::ptrdiff_t>(begin), path.end(), isPathSeparator) -
             path.begin());
         const StringView component = path.substr(begin, end - begin);
         if (component == u"..") {

@@ -7,10 +7,15 @@
 namespace phial
 {
 
+/// Components are separated by backslashes; a slash is taken for one too.
+constexpr bool isPathSeparator(char16_t unit)
+{
+    return unit == u'\\' || unit == u'/';
+}
+
 /// The one mapping between paths as the system writes them and native ones.
 ///
-/// Inside the system components are separated by backslashes; a slash is taken for one too. Where the native
-/// separator is a slash:
+/// Where the native separator is a slash:
 ///
 /// | the system's path | native |
 /// |---|---|

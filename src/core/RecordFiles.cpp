@@ -19,7 +19,7 @@ namespace
 namespace fs = std::filesystem;
 using record_format::State;
 
-std::string_view markFor(KeptRecord::Reason reason)
+std::string_view endingFor(KeptRecord::Reason reason)
 {
     return reason == KeptRecord::Reason::Damaged ? ".damaged" : ".kept";
 }
@@ -81,7 +81,7 @@ void RecordFiles::write(const fs::path& file, StringView password, const RecordW
         }
     };
     try {
-        const std::string_view mark = reason ? markFor(*reason) : std::string_view();
+        const std::string_view mark = reason ? endingFor(*reason) : std::string_view();
         replaceFile(files_, file, bytes, {.keepOldAs = mark}, aside);
     } catch (const std::exception&) {
         note();

@@ -11,7 +11,7 @@ namespace phial
 namespace
 {
 
-constexpr char16_t Replacement = 0xFFFD;
+constexpr char16_t ReplacementCharacter = 0xFFFD;
 
 /// A well-formed sequence at the beginning of some bytes; length 0 when there is none.
 struct Sequence {
@@ -200,7 +200,7 @@ String fromUtf8(std::string_view bytes)
     for (moveAscii(bytes, text); !bytes.empty(); moveAscii(bytes, text)) {
         const Sequence sequence = readSequence(bytes);
         if (sequence.length == 0) {
-            text += Replacement;
+            text += ReplacementCharacter;
             bytes.remove_prefix(1);
         } else {
             appendCode(text, sequence.code);

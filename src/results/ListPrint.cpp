@@ -18,7 +18,7 @@ namespace
 {
 
 // Millimetres on the page.
-constexpr double Margin = 10;
+constexpr double PageMargin = 10;
 constexpr double RuleBelowTitle = 20;
 constexpr double TopOfColumns = 30;
 constexpr double LowerMargin = 20;
@@ -32,7 +32,7 @@ constexpr double TextSize = 10;
 class ListPrinter
 {
 public:
-    ListPrinter(StringView title, std::span<const ListColumn> columns) : columns_(columns)
+    ListPrinter(StringView title, std::span<const PrintedColumn> columns) : columns_(columns)
     {
         printer_.Title(String(title));
         page_.FontName(u"Arial");
@@ -42,8 +42,8 @@ public:
         width_ = toWhole(page_.ScaleWidth());
         height_ = toWhole(page_.ScaleHeight());
 
-        page_.CurrentX(Margin);
-        page_.CurrentY(Margin);
+        page_.CurrentX(PageMargin);
+        page_.CurrentY(PageMargin);
         page_.PrintLine(title);
         rule(RuleBelowTitle);
         page_.FontSize(TextSize);
@@ -65,7 +65,7 @@ public:
         page_.PrintLine();
         rule(page_.CurrentY());
         page_.PrintLine();
-        page_.CurrentX(Margin);
+        page_.CurrentX(PageMargin);
         page_.PrintLine(footer());
         printer_.EndDoc();
     }
@@ -76,12 +76,12 @@ private:
     {
         std::vector<double> edges;
         for (std::size_t column = 0; column < columns_.size(); ++column) {
-            const double place = Margin + (width_ - 2 * Margin) * columns_[column].place;
-            edges.push_back(columns_[column].align == ListColumn::Align::Left
+            const double place = PageMargin + (width_ - 2 * PageMargin) * columns_[column].place;
+            edges.push_back(columns_[column].align == PrintedColumn::Align::Left
                                 ? place
                                 : place - page_.TextWidth(measured[column]));
         }
-        edges.push_back(width_ - Margin + GapOfColumns);
+        edges.push_back(width_ - PageMargin + GapOfColumns);
         return edges;
     }
 
@@ -103,11 +103,11 @@ private:
     {
         if (std::exchange(begun_, true)) {
             printer_.NewPage();
-            page_.CurrentY(Margin);
+            page_.CurrentY(PageMargin);
         }
         std::vector<StringView> titles;
         std::vector<StringView> measured;
-        for (const ListColumn& column : columns_) {
+        for (const PrintedColumn& column : columns_) {
             titles.push_back(column.title);
             measured.push_back(column.titleMeasure.empty() ? column.title : column.titleMeasure);
         }
@@ -119,7 +119,7 @@ private:
         page_.PrintLine();
     }
 
-    void rule(double y) { page_.Line(Margin, y, width_ - Margin, y); }
+    void rule(double y) { page_.Line(PageMargin, y, width_ - PageMargin, y); }
 
     static String footer()
     {
@@ -129,7 +129,7 @@ private:
                u" an Rechner " + machine.ComputerName();
     }
 
-    std::span<const ListColumn> columns_;
+    std::span<const PrintedColumn> columns_;
     Printer printer_;
     DrawDevice& page_ = printer_.device();
     std::int32_t width_ = 0;
@@ -139,7 +139,8 @@ private:
 
 } // namespace
 
-void printList(StringView title, std::span<const ListColumn> columns, std::int32_t rows, const ListRow& row)
+void printList(StringView title, std::span<const PrintedColumn> columns, std::int32_t rows,
+               const PrintedRow& row)
 {
     ListPrinter printer(title, columns);
     for (std::int32_t position = 1; position <= rows; ++position) {

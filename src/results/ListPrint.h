@@ -12,7 +12,7 @@ namespace phial
 {
 
 /// A column of a printed list.
-struct ListColumn {
+struct PrintedColumn {
     enum class Align : std::int32_t { Left, Right };
 
     /// Where it lies, as a share of the width between the margins: its left edge, or its right one when it
@@ -25,13 +25,14 @@ struct ListColumn {
 };
 
 /// The texts of a row, one for each column; rows count from 1.
-using ListRow = std::function<std::vector<String>(std::int32_t position)>;
+using PrintedRow = std::function<std::vector<String>(std::int32_t position)>;
 
 /// Prints a list on the system's printer, in landscape: the title, the rows under the columns' titles, which
 /// every page repeats, and a line that tells when and by whom it was printed. Line ends and tabs in a text
 /// are blanks; one that is too long for its column is clipped where the next one begins. A printer's failure
 /// is raised.
-void printList(StringView title, std::span<const ListColumn> columns, std::int32_t rows, const ListRow& row);
+void printList(StringView title, std::span<const PrintedColumn> columns, std::int32_t rows,
+               const PrintedRow& row);
 
 /// A moment as lists print it: "HH:MM:SS dd.mm.yyyy", or empty for one that the calendar does not have.
 String printedMoment(Moment moment);

@@ -50,7 +50,7 @@ static_assert(riseTogether());
 const MarkRow& markFor(double points, double pointsMax)
 {
     if (!std::isfinite(points) || !std::isfinite(pointsMax)) {
-        return Rows.front();
+        return MarkRows.front();
     }
     if (pointsMax == 0) {
         pointsMax = PointsMaxIfNone;

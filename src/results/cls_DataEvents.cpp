@@ -25,7 +25,7 @@ constexpr StringView EventsVersion = u"2.0";
 constexpr std::array<StringView, 8> EventTitles = {u"LfdNr.", u"Name", u"Login",  u"Computer",
                                                    u"Datum",  u"Zeit", u"Aktion", u"Zusatz"};
 
-constexpr std::array<ListColumn, 7> EventColumns = {{
+constexpr std::array<PrintedColumn, 7> EventColumns = {{
     {0, u"Lfd.Nr."},
     {0.05, u"Name"},
     {0.25, u"Login"},

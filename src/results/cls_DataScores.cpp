@@ -36,13 +36,13 @@ constexpr std::array<StringView, 11> ScoreTitles = {u"Rang",  u"Name",      u"Lo
                                                     u"Note",  u"Notentext", u"Zusatz"};
 
 // "Score" stands where "Punkte" would end.
-constexpr std::array<ListColumn, 9> ScoreColumns = {{
+constexpr std::array<PrintedColumn, 9> ScoreColumns = {{
     {0, u"Rang"},
     {0.05, u"Name"},
     {0.25, u"Login"},
     {0.35, u"Computer"},
-    {0.55, u"Score", ListColumn::Align::Right, u"Punkte"},
-    {0.65, u"Erreichbar", ListColumn::Align::Right},
+    {0.55, u"Score", PrintedColumn::Align::Right, u"Punkte"},
+    {0.65, u"Erreichbar", PrintedColumn::Align::Right},
     {0.67, u"Note"},
     {0.75, u"Datum"},
     {0.9, u"Zusatz"},

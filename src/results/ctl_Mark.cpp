@@ -32,8 +32,8 @@ constexpr auto MarkColours = std::to_array<Colour>({
 constexpr double QuietShare = 75; // of its colour that a mark has which is not the chosen one
 constexpr double SignShare = 50;  // of the neighbour's colour in that of a sign
 constexpr double EdgeShare = 55;  // of black, or white on dark ground, in the edge of a sign or number
-constexpr Colour Black = RGB(0, 0, 0);
-constexpr Colour White = RGB(255, 255, 255);
+constexpr Colour BlackEdge = RGB(0, 0, 0);
+constexpr Colour WhiteEdge = RGB(255, 255, 255);
 
 // In pixels.
 constexpr double CellWidth = 50;
@@ -44,7 +44,7 @@ constexpr double SignWidth = 16;
 constexpr double NumberPoints = 17;
 constexpr double SignPoints = 11;
 
-enum class Sign : std::uint8_t { None, Plus, Minus };
+enum class MarkSign : std::uint8_t { None, Plus, Minus };
 
 // Wider than a mark's value, since any value can be set.
 std::int64_t valueOf(enm_Mark mark)
@@ -58,13 +58,13 @@ std::int64_t wholeMarkOf(enm_Mark mark)
     return value == 0 ? Worst : 5 - (value - 1) / 3;
 }
 
-Sign signOf(enm_Mark mark)
+MarkSign signOf(enm_Mark mark)
 {
     const std::int64_t place = (valueOf(mark) + 1) % 3;
-    return place == 1 ? Sign::Plus : place == 2 ? Sign::Minus : Sign::None;
+    return place == 1 ? MarkSign::Plus : place == 2 ? MarkSign::Minus : MarkSign::None;
 }
 
-Colour colourOf(std::int64_t wholeMark)
+Colour markColour(std::int64_t wholeMark)
 {
     return MarkColours[static_cast<std::size_t>(std::clamp<std::int64_t>(wholeMark, 0, Worst))];
 }
@@ -165,8 +165,8 @@ void ctl_Mark::MARK(enm_Mark value)
 
 String ctl_Mark::MARKTEXT() const
 {
-    const Sign sign = signOf(mark_);
-    const StringView signText = sign == Sign::Plus ? u"+" : sign == Sign::Minus ? u"-" : u"";
+    const MarkSign sign = signOf(mark_);
+    const StringView signText = sign == MarkSign::Plus ? u"+" : sign == MarkSign::Minus ? u"-" : u"";
     return Variant(static_cast<std::int32_t>(wholeMarkOf(mark_))).toText() + String(signText);
 }
 
@@ -186,8 +186,8 @@ void ctl_Mark::BackColor(Colour value)
 String ctl_Mark::accessibleText() const
 {
     const bool english = currentLocale().language == LanguageEnglish;
-    const Sign sign = signOf(mark_);
-    const StringView signText = sign == Sign::Plus ? u" plus" : sign == Sign::Minus ? u" minus" : u"";
+    const MarkSign sign = signOf(mark_);
+    const StringView signText = sign == MarkSign::Plus ? u" plus" : sign == MarkSign::Minus ? u" minus" : u"";
     return String(english ? u"Mark " : u"Note ") +
            Variant(static_cast<std::int32_t>(wholeMarkOf(mark_))).toText() + String(signText);
 }
@@ -198,16 +198,16 @@ void ctl_Mark::draw()
         drawWholeMark(wholeMark);
     }
     const std::int64_t chosen = wholeMarkOf(mark_);
-    const Sign sign = signOf(mark_);
-    drawSign(*plus_, sign == Sign::Plus, chosen - 1);
-    drawSign(*minus_, sign == Sign::Minus, chosen + 1);
+    const MarkSign sign = signOf(mark_);
+    drawSign(*plus_, sign == MarkSign::Plus, chosen - 1);
+    drawSign(*minus_, sign == MarkSign::Minus, chosen + 1);
     surface_.invalidate();
 }
 
 void ctl_Mark::drawWholeMark(std::int32_t wholeMark)
 {
     const bool chosen = wholeMark == wholeMarkOf(mark_);
-    const Colour colour = colourOf(wholeMark);
+    const Colour colour = markColour(wholeMark);
     stress(*wholeMarks_[static_cast<std::size_t>(wholeMark - Best)], chosen,
            chosen ? colour : CoreColors::Blend(BackColor(), QuietShare, colour));
 }
@@ -217,7 +217,7 @@ void ctl_Mark::drawSign(ctl_Label& sign, bool holds, std::int64_t neighbour)
 {
     const std::int64_t chosen = wholeMarkOf(mark_);
     stress(sign, holds,
-           holds ? CoreColors::Blend(colourOf(chosen), SignShare, colourOf(neighbour)) : BackColor());
+           holds ? CoreColors::Blend(markColour(chosen), SignShare, markColour(neighbour)) : BackColor());
     sign.Visible(holds); // the background's colour would erase what it crosses of the other sign
     const auto cell = static_cast<double>(std::clamp<std::int64_t>(chosen, Best, Worst) - Best);
     sign.Move(cell * CellWidth + SignLeft, sign.Top());
@@ -272,7 +272,7 @@ void ctl_Mark::paintFrame(ctl_Label& label)
 
 Colour ctl_Mark::edgeColour(const ctl_Label& label) const
 {
-    return CoreColors::Blend(label.ForeColor(), EdgeShare, isDark(BackColor()) ? White : Black);
+    return CoreColors::Blend(label.ForeColor(), EdgeShare, isDark(BackColor()) ? WhiteEdge : BlackEdge);
 }
 
 } // namespace phial

@@ -1,11 +1,12 @@
 #include "results/frm_DialogHighscore.h"
 
 #include "app/FormTexts.h"
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
 #include "core/Arithmetic.h"
 #include "core/CoreDialogs.h"
 #include "core/CoreRoot.h"
 #include "core/Format.h"
-#include "results/ListRecord.h"
 #include "results/cls_DataScores.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@
 namespace phial
 {
 
-namespace layout = dialog_highscore_design;
+namespace highscore_design = dialog_highscore_design;
 
 namespace
 {
@@ -37,7 +38,7 @@ String shortMoment(Moment moment)
 } // namespace
 
 frm_DialogHighscore::frm_DialogHighscore()
-    : form_(layout::Design), ranks_(*form_, u"lab_Rank"), names_(*form_, u"lab_Name"),
+    : form_(highscore_design::Design), ranks_(*form_, u"lab_Rank"), names_(*form_, u"lab_Name"),
       exercises_(*form_, u"lab_Ueb"), points_(*form_, u"lab_Points"), times_(*form_, u"lab_time"),
       more_(form_->control<ctl_Button>(u"but_mehr")), less_(form_->control<ctl_Button>(u"but_weniger"))
 {
@@ -60,8 +61,8 @@ void frm_DialogHighscore::connect()
     form_.on(form_->KeyDown, [this](KeyEvent& event) { keyDown(event); });
     form_.on(more_->CLICK, [this] { nextPage(); });
     form_.on(less_->CLICK, [this] { previousPage(); });
-    form_.command(u"bar_Buttons", layout::Reset, [this] { askForReset(); });
-    for (const StringView closing : {layout::Accept, layout::Confirm}) {
+    form_.command(u"bar_Buttons", highscore_design::Reset, [this] { askForReset(); });
+    for (const StringView closing : {highscore_design::Accept, highscore_design::Confirm}) {
         form_.command(u"bar_Buttons", closing, [this] { form_->Unload(); });
     }
 }
@@ -101,8 +102,8 @@ void frm_DialogHighscore::load()
     list->MODE(enm_ScoreListMode::ID_ScoreList_Highscore);
     list->SORT();
     const std::int32_t count = list->COUNT();
-    more_->Enabled(count > layout::Rows);
-    for (std::int32_t position = 1; position <= std::min(count, layout::Rows); ++position) {
+    more_->Enabled(count > highscore_design::Rows);
+    for (std::int32_t position = 1; position <= std::min(count, highscore_design::Rows); ++position) {
         fillRow(*list, position);
     }
     form_->control<ctl_Pannel>(u"bar_Empty")->Visible(count == 0);
@@ -122,7 +123,7 @@ void frm_DialogHighscore::nextPage()
         --page_;
     }
     const std::int32_t first = rowsBefore() + 1;
-    for (std::int32_t position = first; position < first + layout::Rows; ++position) {
+    for (std::int32_t position = first; position < first + highscore_design::Rows; ++position) {
         if (position > count) {
             more_->Enabled(false);
             break;
@@ -144,7 +145,7 @@ void frm_DialogHighscore::previousPage()
         less_->Enabled(false);
     }
     const std::int32_t first = rowsBefore() + 1;
-    for (std::int32_t position = first; position < first + layout::Rows; ++position) {
+    for (std::int32_t position = first; position < first + highscore_design::Rows; ++position) {
         fillRow(*list, position);
     }
     keepFocus(*more_);
@@ -163,7 +164,7 @@ std::shared_ptr<cls_DataScores> frm_DialogHighscore::copyOfList() const
 /// How many entries stand on the pages before this one.
 std::int32_t frm_DialogHighscore::rowsBefore() const
 {
-    return layout::Rows * page_;
+    return highscore_design::Rows * page_;
 }
 
 void frm_DialogHighscore::clearRows()
@@ -171,7 +172,7 @@ void frm_DialogHighscore::clearRows()
     for (const auto* labels : {&ranks_, &names_, &exercises_, &points_, &times_}) {
         labels->each([](Label& label, std::int32_t) { label.Caption({}); });
     }
-    for (std::int32_t row = 0; row < layout::Rows; ++row) {
+    for (std::int32_t row = 0; row < highscore_design::Rows; ++row) {
         stressRow(row, false);
     }
 }
@@ -192,7 +193,8 @@ void frm_DialogHighscore::fillRow(cls_DataScores& list, std::int32_t position)
 
 void frm_DialogHighscore::stressRow(std::int32_t row, bool stressed)
 {
-    const auto rowFont = std::make_shared<Font>(FontSpec{.size = layout::RowSize, .bold = stressed});
+    const auto rowFont =
+        std::make_shared<Font>(FontSpec{.size = highscore_design::RowSize, .bold = stressed});
     for (const auto* labels : {&ranks_, &names_, &points_}) {
         (*labels)(row)->ForeColor(stressed ? QBColor(LightRed) : Palette::Ink);
         (*labels)(row)->Font(rowFont);

@@ -11,7 +11,7 @@
 namespace phial
 {
 
-namespace layout = net_monitor_design;
+namespace monitor_design = net_monitor_design;
 
 namespace
 {
@@ -48,13 +48,13 @@ String listed(const TrafficLine& line)
 } // namespace
 
 frm_NetMonitor::frm_NetMonitor(std::shared_ptr<TrafficLog> traffic)
-    : traffic_(std::move(traffic)), form_(layout::Design), lines_(form_->control<ListBox>(u"lst_Lines"))
+    : traffic_(std::move(traffic)), form_(monitor_design::Design), lines_(form_->control<ListBox>(u"lst_Lines"))
 {
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->Resize, [this] { resize(); });
     form_.on(lines_->Click, [this] { showChosen(); });
-    form_.command(u"bar_Buttons", layout::Clear, [this] { traffic_->clear(); });
-    form_.command(u"bar_Buttons", layout::Close, [this] { form_->Unload(); });
+    form_.command(u"bar_Buttons", monitor_design::Clear, [this] { traffic_->clear(); });
+    form_.command(u"bar_Buttons", monitor_design::Close, [this] { form_->Unload(); });
     form_.on(traffic_->ADDED, [this](const TrafficLine& line) { add(line); });
     form_.on(traffic_->CLEARED, [this] { fill(); });
     TRANSLATE();
@@ -106,9 +106,9 @@ void frm_NetMonitor::showChosen()
 void frm_NetMonitor::resize()
 {
     const PixelSize size = form_->innerSize();
-    const double moreWidth = size.width - layout::Width;
-    const double moreHeight = size.height - layout::Height;
-    for (const ControlDesign& item : layout::Controls) {
+    const double moreWidth = size.width - monitor_design::Width;
+    const double moreHeight = size.height - monitor_design::Height;
+    for (const ControlDesign& item : monitor_design::Controls) {
         const bool isTitle = item.name == u"lab_Lines";
         const bool isList = item.name == u"lst_Lines";
         form_->control<Control>(item.name)->Move(

@@ -9,17 +9,17 @@ namespace
 /// The tag in which a character stands; none for one in the line.
 using Tag = StringView;
 constexpr Tag InTheLine = u"";
-constexpr Tag Raised = u"sup";
-constexpr Tag Lowered = u"sub";
+constexpr Tag SupTag = u"sup";
+constexpr Tag SubTag = u"sub";
 
-void open(String& html, Tag tag)
+void openTag(String& html, Tag tag)
 {
     if (tag != InTheLine) {
         html.append(u"<").append(tag).append(u">");
     }
 }
 
-void close(String& html, Tag tag)
+void closeTag(String& html, Tag tag)
 {
     if (tag != InTheLine) {
         html.append(u"</").append(tag).append(u">");
@@ -30,10 +30,10 @@ void close(String& html, Tag tag)
 Tag tagOf(char16_t c, Tag before)
 {
     if (c == u'+' || c == u'-') {
-        return Raised;
+        return SupTag;
     }
     if (StringView(u"0123456789,.").find(c) != StringView::npos) {
-        return before == InTheLine ? Lowered : before;
+        return before == InTheLine ? SubTag : before;
     }
     return InTheLine;
 }
@@ -48,17 +48,17 @@ String termToHtml(StringView term)
     for (std::size_t i = 0; i < walked.size(); ++i) {
         const char16_t c = walked[i];
         if (c == u'^' || c == u'µ') {
-            const Tag single = c == u'^' ? Raised : Lowered;
+            const Tag single = c == u'^' ? SupTag : SubTag;
             ++i; // a blank stands behind the term, so there is a next character
-            open(html, single);
+            openTag(html, single);
             html += walked[i];
-            close(html, single);
+            closeTag(html, single);
             continue;
         }
         const Tag next = tagOf(c, tag);
         if (next != tag) {
-            close(html, tag);
-            open(html, next);
+            closeTag(html, tag);
+            openTag(html, next);
             tag = next;
         }
         html += c;

@@ -13,7 +13,7 @@ namespace phial
 namespace
 {
 
-constexpr int Grey = 8; // of the classic table of colours
+constexpr int GreySlot = 8; // of the classic table of colours
 constexpr int BlackIndex = 0;
 
 } // namespace
@@ -71,7 +71,7 @@ void ctl_TermLabel::writeProperties(PropertyBag& bag)
 
 Colour ctl_TermLabel::maskColour() const
 {
-    const Colour grey = QBColor(Grey);
+    const Colour grey = QBColor(GreySlot);
     return textColour_ == grey ? QBColor(BlackIndex) : grey;
 }
 

@@ -12,7 +12,7 @@ constexpr std::uint32_t Opaque = 0xFF000000U;
 constexpr std::uint32_t ColourBits = 0x00FFFFFFU;
 
 /// The colour of a pixel that is not a hole, brought back from its alpha.
-std::uint32_t colourOf(std::uint32_t pixel)
+std::uint32_t colourBits(std::uint32_t pixel)
 {
     const std::uint32_t alpha = pixel >> 24U;
     if (alpha == 0xFFU || alpha == 0) {
@@ -36,8 +36,8 @@ std::uint32_t BitMerge::operator()(std::uint32_t held, std::uint32_t drawn) cons
     if (isHole && !hole_) {
         return held;
     }
-    const std::uint32_t before = isHole ? *hole_ : colourOf(held);
-    const std::uint32_t after = combined(before, colourOf(drawn));
+    const std::uint32_t before = isHole ? *hole_ : colourBits(held);
+    const std::uint32_t after = combined(before, colourBits(drawn));
     if (after == before) {
         return held;
     }

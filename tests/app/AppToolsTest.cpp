@@ -6,7 +6,7 @@
 #include "visual/Picture.h"
 
 #include <cmath>
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 #include <limits>
 
 namespace phial

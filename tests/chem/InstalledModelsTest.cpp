@@ -4,6 +4,7 @@
 #include "core/CoreRoot.h"
 #include "core/NativePath.h"
 #include "support/HeadlessSession.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +30,7 @@ protected:
         return names;
     }
 
-    const String tree = systemPath(PHIAL_TEST_TREE) + u"\\";
+    const String tree = systemPath(test::treeFolder()) + u"\\";
     const String text = coreRoot().CoreFiles().ReadText(tree + u"apps\\rasmol\\data\\moleküle2.txt");
     const MoleculeTable table{text};
     cls_DataElements elements;

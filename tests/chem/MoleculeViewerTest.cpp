@@ -10,7 +10,7 @@
 #include "core/SessionState.h"
 #include "support/AppSession.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 
 namespace phial::test
 {

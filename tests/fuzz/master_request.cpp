@@ -9,8 +9,8 @@
 #include "headless/HeadlessPlatform.h"
 #include "master/Classroom.h"
 #include "master/MemoryStore.h"
-#include "master/TestRoom.h"
 #include "master/Packages.h"
+#include "master/TestRoom.h"
 #include "results/cls_DataScores.h"
 
 #include <cmath>

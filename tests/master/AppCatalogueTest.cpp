@@ -4,7 +4,7 @@
 #include "core/NumberText.h"
 #include "support/TemporaryFolder.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 
 using namespace phial;
 using namespace phial::master;

@@ -17,7 +17,7 @@
 
 #include <QTimer>
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <set>
 
 using namespace phial;

@@ -4,7 +4,7 @@
 #include "app/sys_Global.h"
 #include "support/AppSession.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 
 using namespace phial;
 using namespace phial::master;

@@ -3,7 +3,7 @@
 #include "TestRoom.h"
 #include "support/AppSession.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 
 using namespace phial;
 using namespace phial::master;

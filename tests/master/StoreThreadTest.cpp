@@ -5,7 +5,7 @@
 #include "support/AppSession.h"
 
 #include <atomic>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <thread>
 
 using namespace phial;

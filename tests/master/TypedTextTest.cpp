@@ -2,7 +2,7 @@
 
 #include "support/AppSession.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 
 using namespace phial;
 using namespace phial::master;

@@ -1,6 +1,6 @@
 #include "core/KeptRecords.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 #include <gtest/gtest.h>
 
 namespace phial

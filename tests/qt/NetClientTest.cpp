@@ -365,7 +365,8 @@ TEST_F(NetClientTest, AComputerThatHasVanishedIsWaitedForToALimitInAll)
 {
     const DeafComputer computer;
     ASSERT_TRUE(computer.isDeaf());
-    client_ = std::make_unique<QtNetClient>(guard_, MasterPatience::Limits{.silence = Brief, .knock = 0.001});
+    client_ = std::make_unique<QtNetClient>(guard_, TrafficWindow{},
+                                            MasterPatience::Limits{.silence = Brief, .knock = 0.001});
     options().ConnectTimeout = 30;
     options().ResponseTimeout = 30;
     QElapsedTimer timer;
@@ -381,7 +382,8 @@ TEST_F(NetClientTest, AComputerThatHasVanishedIsWaitedForToALimitInAll)
 
 TEST_F(NetClientTest, IsPatientAgainWithAMasterThatGivesASignOfLife)
 {
-    client_ = std::make_unique<QtNetClient>(guard_, MasterPatience::Limits{.silence = 0.5, .knock = 0});
+    client_ = std::make_unique<QtNetClient>(guard_, TrafficWindow{},
+                                            MasterPatience::Limits{.silence = 0.5, .knock = 0});
     for (double waited = 0; waited < 0.6; waited += Brief) {
         silence();
         EXPECT_EQ(askBriefly(u"one"), NoAnswer);

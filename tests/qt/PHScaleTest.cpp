@@ -6,6 +6,7 @@
 #include "core/NativePath.h"
 #include "headless/HeadlessPlatform.h"
 #include "qt/desktop/QtVisualHost.h"
+#include "support/Places.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +22,7 @@ TEST(PHScale, TheInstalledPictureIsTheIndicatorsScale)
     Platform platform = headless::HeadlessPlatform(folder.path()).platform();
     platform.visual = std::make_shared<QtVisualHost>();
     const Session session(platform);
-    QVAPP()->URL()->RESOURCEGFX(systemPath(PHIAL_TEST_TREE) + u"\\Resources\\gfx\\");
+    QVAPP()->URL()->RESOURCEGFX(systemPath(test::treeFolder()) + u"\\Resources\\gfx\\");
     cls_AppTools& tools = *QVAPP()->TOOLS();
 
     EXPECT_EQ(tools.PHCOLOR(0), RGB(190, 20, 45));

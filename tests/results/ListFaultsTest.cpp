@@ -13,10 +13,9 @@
 #include "support/EveryFault.h"
 #include "visual/Form.h"
 
-#include <gmock/gmock.h>
+#include <gmock/gmock-more-matchers.h>
 #include <set>
 
-#undef ACTION // gmock's macro, of which nothing here makes use
 
 namespace phial
 {

@@ -233,7 +233,7 @@ TEST_F(StoredLists, TheBoundsOnTheirEntriesAreThoseOfTheDocumentation)
               381'299U);
     EXPECT_EQ(most(valuesOf<cls_DataEvents, cls_DataEvent>(0), valuesOf<cls_DataEvents, cls_DataEvent>(1)),
               524'287U);
-    std::ifstream stream(PHIAL_TEST_VECTORS "/../../docs/formats.md");
+    std::ifstream stream(test::sourceFolder() / "docs" / "formats.md");
     const std::string page{std::istreambuf_iterator<char>(stream), {}};
     EXPECT_THAT(page, testing::HasSubstr("381 299 scores or 524 287 events"));
 }

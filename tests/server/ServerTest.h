@@ -13,7 +13,7 @@
 #include "support/ScriptedMaster.h"
 #include "visual/Form.h"
 
-#include <gmock/gmock-matchers.h>
+#include <gmock/gmock-more-matchers.h>
 
 namespace phial
 {

@@ -11,25 +11,26 @@ namespace phial::test
 namespace
 {
 
-constexpr ButtonDesign Buttons[] = {{u"DIALOG.OK();", u"OK|OK"}, {u"DIALOG.ABORT();", u"Abbrechen|Cancel"}};
-constexpr ControlDesign Controls[] = {
+constexpr ButtonDesign MadeButtons[] = {{u"DIALOG.OK();", u"OK|OK"},
+                                        {u"DIALOG.ABORT();", u"Abbrechen|Cancel"}};
+constexpr ControlDesign MadeControls[] = {
     design<ctl_Button>(u"but_Go", {0, 0, 99, 30}, u"Los|Go"),
     design<PictureBox>(u"pic_Place", {0, 40, 30, 30})
         .repeated(2, 2, 40, 0)
         .focusable()
         .spoken(u"Platz|Place"),
-    design<ctl_CmdBar>(u"bar_Buttons", {0, 80, 200, 40}).buttons(Buttons),
+    design<ctl_CmdBar>(u"bar_Buttons", {0, 80, 200, 40}).buttons(MadeButtons),
 };
 constexpr ControlDesign Further[] = {
     design<TextBox>(u"txt_In", {0, 130, 99, 30}).spoken(u"Wert|Value"),
 };
-constexpr FormDesign Design{
-    .name = u"frm_Made", .size = {200, 200}, .closesByEscape = true, .controls = Controls};
+constexpr FormDesign MadeDesign{
+    .name = u"frm_Made", .size = {200, 200}, .closesByEscape = true, .controls = MadeControls};
 
 class DesignedForms : public FormTest
 {
 protected:
-    std::optional<DesignedForm> made{std::in_place, Design};
+    std::optional<DesignedForm> made{std::in_place, MadeDesign};
 };
 
 TEST_F(DesignedForms, HandlersHearEventsButtonsAndCommands)

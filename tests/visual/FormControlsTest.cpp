@@ -17,7 +17,7 @@ using FormFocus = FormTest;
 using FormKeys = FormTest;
 using FormGeometry = FormTest;
 
-constexpr ControlDesign Design[] = {
+constexpr ControlDesign ControlRows[] = {
     design<ctl_Frame>(u"ctl_Frame1", {120, 240, 3000, 1500}, u"Rahmen|Frame"),
     design<TextBox>(u"txt_Input", {60, 90, 1500, 300}, u"leer|empty").inside(u"ctl_Frame1"),
     design<Label>(u"lab_Key", {0, 0, 720, 720}).at(0),
@@ -26,7 +26,7 @@ constexpr ControlDesign Design[] = {
 
 TEST_F(FormControls, AreCountedFromZeroAndFoundByNameAndIndex)
 {
-    addControls(*form, Design);
+    addControls(*form, ControlRows);
     EXPECT_EQ(form->controlCount(), 4U);
     EXPECT_EQ(form->controlAt(1), form->find(u"TXT_INPUT"));
     EXPECT_EQ(form->control<Label>(u"lab_Key", 1)->Left(), 720);
@@ -37,7 +37,7 @@ TEST_F(FormControls, AreCountedFromZeroAndFoundByNameAndIndex)
 
 TEST_F(FormControls, EntriesOfTheMenuBarFollowTheControls)
 {
-    addControls(*form, Design);
+    addControls(*form, ControlRows);
     const auto file = form->menu().add(u"mnu_File", u"Datei|File");
     const auto recent = file->add(u"mnu_FileRecent", u"", 0);
     const auto help = form->menu().add(u"mnu_Help", u"Hilfe|Help");
@@ -51,7 +51,7 @@ TEST_F(FormControls, EntriesOfTheMenuBarFollowTheControls)
 
 TEST_F(FormControls, DesignSetsTextsPlacesContainersAndVisibility)
 {
-    addControls(*form, Design);
+    addControls(*form, ControlRows);
     const auto box = form->control<TextBox>(u"txt_Input");
     EXPECT_EQ(box->Text(), u"leer|empty");
     EXPECT_EQ(box->Left(), 60);
@@ -69,7 +69,7 @@ TEST_F(FormControls, DesignRefusesAContainerThatIsNotThere)
 
 TEST_F(FormControls, AreReachedByMemberNamesOfTheForm)
 {
-    addControls(*form, Design);
+    addControls(*form, ControlRows);
     const auto controls = getMember(*form, u"CONTROLS").object();
     EXPECT_EQ(getMember(*controls, u"count").toWhole(), 4);
     const Variant second[] = {Variant(1)};

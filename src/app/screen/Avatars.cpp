@@ -36,11 +36,11 @@ ImageList& store()
 PicturePtr drawDefaultAvatar()
 {
     constexpr double Size = 96;
-    constexpr Colour Ground = RGB(215, 222, 229);
+    constexpr Colour ShadeColour = RGB(215, 222, 229);
     constexpr Colour Figure = RGB(120, 134, 148);
     DrawDevice device(visualHost().createSurface({Size, Size}, visualHost().pixelRatio()));
     device.FillStyle(FillStyle::Solid);
-    device.Line(0, 0, Size - 1, Size - 1, Ground, LineShape::Filled);
+    device.Line(0, 0, Size - 1, Size - 1, ShadeColour, LineShape::Filled);
     device.FillColor(Figure);
     device.Circle(Size / 2, Size * 0.36, Size * 0.19, Figure);
     device.Circle(Size / 2, Size, Size * 0.36, Figure, std::nullopt, 1.05);

@@ -18,7 +18,7 @@
 namespace phial
 {
 
-namespace layout = app_about_design;
+namespace about_design = app_about_design;
 
 namespace
 {
@@ -40,7 +40,7 @@ void disc(DrawDevice& device, double x, double y, double radius, Colour colour)
 
 } // namespace
 
-frm_AppAbout::frm_AppAbout() : form_(layout::Design)
+frm_AppAbout::frm_AppAbout() : form_(about_design::Design)
 {
     showLinks();
     connect();
@@ -72,7 +72,7 @@ void frm_AppAbout::connect()
     form_.on(form_->Load, [this] { load(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->control<PictureBox>(u"Picture1")->Paint, [this] { paintEmblem(); });
-    form_.command(u"ctl_CmdBar1", layout::Close, [this] { form_->Unload(); });
+    form_.command(u"ctl_CmdBar1", about_design::Close, [this] { form_->Unload(); });
     form_.on(label(u"lab_TDR")->Click, [this] { open(QVAPP()->CONFIG()->makerAddress()); });
     form_.on(hyperlink->Click, [this] { open(QVAPP()->CONFIG()->productAddress()); });
     form_.on(hyperlink->MouseDown, [this](const PointerEvent&) { hyperlinkCursor(HandClosed); });
@@ -114,7 +114,7 @@ void frm_AppAbout::paintEmblem()
 {
     DrawDevice& device = form_->control<PictureBox>(u"Picture1")->device();
     device.ScaleMode(ScaleUnit::Pixels);
-    device.Gradient(0, 0, layout::Emblem, layout::Emblem, Palette::Accent, Palette::AccentDeep, 0,
+    device.Gradient(0, 0, about_design::Emblem, about_design::Emblem, Palette::Accent, Palette::AccentDeep, 0,
                     EmblemBands);
     device.FillStyle(FillStyle::Solid);
     device.FillColor(Palette::OnAccent);

@@ -18,6 +18,8 @@ struct BoxText {
     const char16_t* english;
 };
 
+inline constexpr BoxText CloseText{u"Schließen", u"Close"};
+
 /// The text in the session's language.
 QString inLanguage(const BoxText& text);
 

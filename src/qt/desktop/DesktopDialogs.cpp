@@ -39,7 +39,6 @@ constexpr BoxText Ok{u"OK", u"OK"};
 constexpr BoxText Yes{u"Ja", u"Yes"};
 constexpr BoxText No{u"Nein", u"No"};
 constexpr BoxText Cancel{u"Abbrechen", u"Cancel"};
-constexpr BoxText Close{u"Schließen", u"Close"};
 constexpr BoxText Save{u"Speichern", u"Save"};
 constexpr BoxText LookIn{u"Ordner:", u"Folder:"};
 constexpr BoxText FileName{u"Dateiname:", u"File name:"};
@@ -153,7 +152,7 @@ void DesktopDialogs::Text(StringView pText, StringView pTitle)
     auto* text = new QPlainTextEdit(toQt(pText), &dialog);
     text->setReadOnly(true);
     layout->addWidget(text);
-    layout->addWidget(closingButton(dialog, Close, &QDialog::accept), 0, Qt::AlignRight);
+    layout->addWidget(closingButton(dialog, CloseText, &QDialog::accept), 0, Qt::AlignRight);
     runBox(dialog);
 }
 

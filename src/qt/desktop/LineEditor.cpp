@@ -1,6 +1,7 @@
 #include "qt/base/QtText.h"
 #include "qt/desktop/FontCatalogue.h"
 #include "qt/desktop/TextEditor.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QLineEdit>
 #include <QPointer>
@@ -12,19 +13,6 @@ namespace
 {
 
 constexpr int NoLimit = 32767;
-
-Qt::Alignment alignmentOf(Alignment alignment)
-{
-    switch (sideOf(alignment)) {
-    case TextSide::Far:
-        return Qt::AlignRight;
-    case TextSide::Middle:
-        return Qt::AlignHCenter;
-    case TextSide::Near:
-        break;
-    }
-    return Qt::AlignLeft;
-}
 
 /// A field of one line.
 class LineEditor final : public TextEditor
@@ -72,7 +60,7 @@ public:
         limit_ = style.maximumLength > 0 ? style.maximumLength : NoLimit;
         line_->setMaxLength(std::max(limit_, static_cast<int>(line_->text().size())));
         line_->setFont(fontCatalogue().font(style.font));
-        line_->setAlignment(alignmentOf(style.alignment) | Qt::AlignVCenter);
+        line_->setAlignment(lineAlignment(style.alignment));
         line_->setReadOnly(style.locked);
         line_->setEchoMode(style.password ? QLineEdit::Password : QLineEdit::Normal);
         QPalette palette = line_->palette();

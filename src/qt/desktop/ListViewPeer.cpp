@@ -3,6 +3,7 @@
 #include "qt/base/QtText.h"
 #include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/FontCatalogue.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QHeaderView>
 #include <QTreeWidget>
@@ -17,19 +18,6 @@ namespace
 {
 
 constexpr int CellPadding = 12; // left and right of a text together, as the sheet has it
-
-Qt::Alignment alignmentOf(Alignment alignment)
-{
-    switch (sideOf(alignment)) {
-    case TextSide::Far:
-        return Qt::AlignRight | Qt::AlignVCenter;
-    case TextSide::Middle:
-        return Qt::AlignCenter;
-    case TextSide::Near:
-        break;
-    }
-    return Qt::AlignLeft | Qt::AlignVCenter;
-}
 
 } // namespace
 
@@ -103,7 +91,7 @@ void ListViewPeer::showColumns()
         const ListColumn& column = *columns.Item(at + 1);
         list_.headerItem()->setText(at, toQt(column.Text()));
         list_.headerItem()->setToolTip(at, toQt(column.ToolTipText()));
-        list_.headerItem()->setTextAlignment(at, alignmentOf(column.Alignment()));
+        list_.headerItem()->setTextAlignment(at, lineAlignment(column.Alignment()));
         const bool takesTheRest = column.Width() == 0;
         list_.header()->setSectionResizeMode(at,
                                              takesTheRest ? QHeaderView::Stretch : QHeaderView::Interactive);
@@ -121,7 +109,7 @@ void ListViewPeer::showRow(QTreeWidgetItem& line, const ListRow& row)
             line.setText(at, toQt(row.Cell(at + 1)));
         }
         line.setToolTip(at, toQt(row.ToolTipText()));
-        line.setTextAlignment(at, alignmentOf(columns.Item(at + 1)->Alignment()));
+        line.setTextAlignment(at, lineAlignment(columns.Item(at + 1)->Alignment()));
     }
 }
 

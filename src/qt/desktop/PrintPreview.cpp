@@ -31,7 +31,6 @@ constexpr QSize WindowSize(900, 700);
 constexpr BoxText Preview{u"Druckvorschau", u"Print preview"};
 constexpr BoxText Print{u"Drucken …", u"Print…"};
 constexpr BoxText SavePdf{u"Als PDF speichern …", u"Save as PDF…"};
-constexpr BoxText Close{u"Schließen", u"Close"};
 constexpr BoxText PageOf{u"Seite %1 von %2", u"Page %1 of %2"};
 constexpr BoxText Previous{u"Vorige Seite", u"Previous page"};
 constexpr BoxText Next{u"Nächste Seite", u"Next page"};
@@ -111,7 +110,7 @@ private:
         bar->addWidget(print);
         bar->addWidget(button(SavePdf, [this] { chooseFile(); }));
         bar->addStretch();
-        bar->addWidget(closingButton(dialog_, Close, &QDialog::reject));
+        bar->addWidget(closingButton(dialog_, CloseText, &QDialog::reject));
         return bar;
     }
 

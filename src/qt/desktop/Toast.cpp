@@ -18,9 +18,9 @@ namespace
 using namespace std::chrono_literals;
 
 constexpr auto ShownFor = 1200ms;
-constexpr int Margin = 18;
+constexpr int ToastMargin = 18;
 constexpr double Opacity = 0.94;
-constexpr double TextSize = 12; // points
+constexpr double ToastTextSize = 12; // points
 
 /// Ends with the first press or key.
 class ToastWindow final : public QDialog
@@ -43,10 +43,10 @@ void showToast(const QString& text)
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
     QFont font = label->font();
-    font.setPointSizeF(TextSize);
+    font.setPointSizeF(ToastTextSize);
     label->setFont(font);
     auto* layout = new QVBoxLayout(&toast);
-    layout->setContentsMargins(Margin * 2, Margin, Margin * 2, Margin);
+    layout->setContentsMargins(ToastMargin * 2, ToastMargin, ToastMargin * 2, ToastMargin);
     layout->addWidget(label);
     toast.setWindowOpacity(Opacity);
     toast.adjustSize();

@@ -118,4 +118,17 @@ void passNames(const QWidget& holder, QWidget& field)
     field.setAccessibleDescription(holder.accessibleDescription());
 }
 
+Qt::Alignment lineAlignment(Alignment alignment)
+{
+    switch (sideOf(alignment)) {
+    case TextSide::Far:
+        return Qt::AlignRight | Qt::AlignVCenter;
+    case TextSide::Middle:
+        return Qt::AlignCenter;
+    case TextSide::Near:
+        break;
+    }
+    return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
 } // namespace phial::qt

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "visual/Alignment.h"
 #include "visual/Control.h"
+
+#include <Qt>
 
 class QRect;
 class QWidget;
@@ -23,6 +26,9 @@ void applyGeometry(QWidget& widget, const Control& control);
 
 /// Tells a form's window that the widget lets through another part of it.
 void tellShape(QWidget& widget);
+
+/// Where a text of one line stands: at its side, and in the middle of the height.
+Qt::Alignment lineAlignment(Alignment alignment);
 
 /// Gives the field in a holder the names of the holder, since that is what screen readers come to.
 void passNames(const QWidget& holder, QWidget& field);
