@@ -57,8 +57,8 @@ String key(StringView text)
 
 String withoutEnding(StringView file)
 {
-    const bool hasEnding =
-        file.size() > ModelEnding.size() && equalsIgnoringCase(file.substr(file.size() - ModelEnding.size()), ModelEnding);
+    const bool hasEnding = file.size() > ModelEnding.size() &&
+                           equalsIgnoringCase(file.substr(file.size() - ModelEnding.size()), ModelEnding);
     return String(hasEnding ? file.substr(0, file.size() - ModelEnding.size()) : file);
 }
 

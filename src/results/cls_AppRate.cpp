@@ -10,8 +10,8 @@
 #include "results/Certificate.h"
 #include "results/LocalLists.h"
 #include "results/Mark.h"
-#include "results/ResultDelivery.h"
 #include "results/cls_DataScores.h"
+#include "server/ResultDelivery.h"
 #include "server/WireText.h"
 #include "server/cls_AppServer.h"
 

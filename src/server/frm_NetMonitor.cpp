@@ -48,7 +48,8 @@ String listed(const TrafficLine& line)
 } // namespace
 
 frm_NetMonitor::frm_NetMonitor(std::shared_ptr<TrafficLog> traffic)
-    : traffic_(std::move(traffic)), form_(monitor_design::Design), lines_(form_->control<ListBox>(u"lst_Lines"))
+    : traffic_(std::move(traffic)), form_(monitor_design::Design),
+      lines_(form_->control<ListBox>(u"lst_Lines"))
 {
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->Resize, [this] { resize(); });

@@ -16,7 +16,6 @@
 #include <gmock/gmock-more-matchers.h>
 #include <set>
 
-
 namespace phial
 {
 namespace

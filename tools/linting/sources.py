@@ -1,7 +1,7 @@
 """Every source file is built, and every fuzz target has inputs to begin with."""
 import re
 
-FUZZ_TARGET = re.compile(r"^phial_fuzz\((\w+)", re.MULTILINE)
+FUZZ_TARGET = re.compile(r"^ *phial_fuzz\((\w+)", re.MULTILINE)
 
 
 def check(tree):

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/String.h"
-#include "results/HandedIn.h"
 
 #include <cstdint>
 
@@ -9,6 +8,8 @@ namespace phial
 {
 
 class CoreParameters;
+enum class ResultPlace : std::uint8_t;
+struct HandedIn;
 
 /// The way of a finished exercise into the result lists: those of the master where it can be reached and
 /// takes the result in, those of this computer in every other case.

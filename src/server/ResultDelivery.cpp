@@ -1,4 +1,4 @@
-#include "results/ResultDelivery.h"
+#include "server/ResultDelivery.h"
 
 #include "app/cls_App.h"
 #include "app/cls_AppUser.h"
@@ -14,6 +14,7 @@
 #include "core/CoreValuePacker.h"
 #include "core/FileLock.h"
 #include "core/NumberText.h"
+#include "results/HandedIn.h"
 #include "results/ListRecord.h"
 #include "results/LocalLists.h"
 #include "results/SubmissionMessages.h"
