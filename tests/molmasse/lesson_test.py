@@ -21,7 +21,9 @@ from remote_screen import ESCAPE, RETURN, SHIFT, TAB, RemoteScreen
 
 PATIENCE = 30  # seconds
 TASKS = "[leicht] Leicht | Easy\nH2O | Wasser | water\n"
+# The platform "vnc" has no font that a user has set, and the toolkit's own is large: nobody is warned of it here.
 SETTINGS = r"""[software]
+qv%20brunnhof\phial\config\largefontwarn=boolean:true
 qv%20brunnhof\phial\config\screennamemru=list:|Lena:eule
 qv%20brunnhof\phial\config\serverip=text:{address}
 """

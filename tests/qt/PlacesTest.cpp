@@ -1,8 +1,12 @@
+#include "FreshProgram.h"
 #include "ScopedVariable.h"
 #include "core/Locale.h"
 #include "qt/base/QtEnvironment.h"
 #include "qt/base/QtFolders.h"
 #include "qt/base/QtMachine.h"
+
+#include <QCoreApplication>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -84,19 +88,32 @@ TEST(QtMachine, KnowsTheUser)
     EXPECT_EQ(QtMachine().UserName(), u"anna");
 }
 
+/// What a program says that is started with this LANG.
+int languageFor(const QString& lang)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString& name : environment.keys()) {
+        if (name.startsWith(QLatin1String("LC_")) || name == QLatin1String("LANGUAGE")) {
+            environment.remove(name);
+        }
+    }
+    environment.insert(QStringLiteral("LANG"), lang);
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(QCoreApplication::applicationFilePath(), {QLatin1String(TellLanguage)});
+    EXPECT_TRUE(program.waitForFinished());
+    bool said = false;
+    const int language = program.readAllStandardOutput().trimmed().toInt(&said);
+    EXPECT_TRUE(said);
+    return language;
+}
+
 TEST(QtMachine, KnowsInWhichLanguageTheDesktopSpeaks)
 {
-    const ScopedVariable language("LANGUAGE", {});
-    const ScopedVariable all("LC_ALL", {});
-    const ScopedVariable messages("LC_MESSAGES", {});
-    const auto languageFor = [](const char* value) {
-        const ScopedVariable lang("LANG", value);
-        return QtMachine().UserLanguage();
-    };
-    EXPECT_EQ(languageFor("de_AT.UTF-8"), LanguageGerman);
-    EXPECT_EQ(languageFor("en_GB.UTF-8"), LanguageEnglish);
-    EXPECT_EQ(languageFor("fr_FR.UTF-8"), 0);
-    EXPECT_NE(languageFor(nullptr), LanguageGerman);
+    EXPECT_EQ(languageFor(QStringLiteral("de_AT.UTF-8")), LanguageGerman);
+    EXPECT_EQ(languageFor(QStringLiteral("en_GB.UTF-8")), LanguageEnglish);
+    EXPECT_EQ(languageFor(QStringLiteral("fr_FR.UTF-8")), 0);
+    EXPECT_NE(languageFor({}), LanguageGerman);
 }
 
 TEST(QtMachine, AnswersOneVersionOutsideOfWindows)

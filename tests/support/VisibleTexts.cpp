@@ -81,7 +81,7 @@ private:
 
     void note(const String& place, String text)
     {
-        if (!text.empty()) {
+        if (!trimmed(text).empty()) {
             found.emplace(place, std::move(text));
         }
     }
