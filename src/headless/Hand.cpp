@@ -184,6 +184,30 @@ void type(Form& form, StringView notation)
     }
 }
 
+void compose(Form& form, StringView text)
+{
+    if (const ControlPtr active = form.ActiveControl()) {
+        active->frame().inputComposition({String(text), static_cast<std::int32_t>(text.size())});
+    }
+}
+
+void commit(Form& form, StringView text)
+{
+    const ControlPtr active = form.ActiveControl();
+    if (!active || !active->frame().isReachable()) {
+        return;
+    }
+    if (active->painted()) {
+        if (active->frame().takesText()) {
+            commitText(*active, text);
+        }
+        return;
+    }
+    for (const char16_t unit : text) {
+        typeInto(*active, {unit}, unit);
+    }
+}
+
 void tab(Form& form, bool backward)
 {
     strike(form, {0, Key::Tab, backward ? ShiftMask::Shift : 0});

@@ -34,6 +34,11 @@ void clickButton(Control& bar, StringView key);
 void strike(Form& form, const KeyStroke& stroke);
 /// Keys in the notation of keyboard emulation, at once.
 void type(Form& form, StringView notation);
+/// Composes a text, as dead keys and input methods do, for the form's control that has the focus, where that
+/// is a painted one that takes text: it shows the text until it is committed.
+void compose(Form& form, StringView text);
+/// The composed text goes in: unit by unit, without keys.
+void commit(Form& form, StringView text);
 /// The Tab key, or with Shift.
 void tab(Form& form, bool backward = false);
 

@@ -66,6 +66,8 @@ public:
     virtual void keyDown(KeyEvent&) {}
     virtual void keyPress(KeyPressEvent&) {}
     virtual void keyUp(KeyEvent&) {}
+    /// The frame's composition has changed.
+    virtual void composing() {}
     virtual void gotFocus() {}
     virtual void lostFocus() {}
     /// Whether a Return or Escape is the control's own and not for the form's default or cancel button.

@@ -167,7 +167,31 @@ void ControlFrame::focusChanged(bool focused)
         report(ControlAspect::Focus);
         control_.gotFocus();
     } else {
+        inputComposition({});
         control_.lostFocus();
+    }
+}
+
+void ControlFrame::textEntry(std::optional<phial::TextEntry> value)
+{
+    if (textEntry_ == value) {
+        return;
+    }
+    textEntry_ = std::move(value);
+    report(ControlAspect::TextEntry);
+    if (!takesText()) {
+        inputComposition({});
+    }
+}
+
+void ControlFrame::inputComposition(Composition value)
+{
+    if (!takesText()) {
+        value = {};
+    }
+    if (composition_ != value) {
+        composition_ = std::move(value);
+        control_.composing();
     }
 }
 

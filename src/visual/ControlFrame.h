@@ -7,8 +7,10 @@
 #include "visual/Geometry.h"
 #include "visual/Input.h"
 #include "visual/Picture.h"
+#include "visual/TextEntry.h"
 
 #include <memory>
+#include <optional>
 
 namespace phial
 {
@@ -94,6 +96,17 @@ public:
     /// The same without telling the control.
     void forgetFocus() { focused_ = false; }
 
+    /// What one types into a control that paints itself; none, as at first, for one that takes no text. An
+    /// adapter brings input methods to it.
+    const std::optional<phial::TextEntry>& textEntry() const { return textEntry_; }
+    void textEntry(std::optional<phial::TextEntry> value);
+    bool takesText() const { return textEntry_ && !textEntry_->locked; }
+    /// What is being composed for that text.
+    const Composition& composition() const { return composition_; }
+    /// For the adapter: the user is composing; the control hears so. Ends by itself when the focus leaves and
+    /// when the control takes no text any more.
+    void inputComposition(Composition value);
+
     String ToolTipText() const { return toolTip_; }
     void ToolTipText(String value);
     phial::MousePointer MousePointer() const { return pointer_; }
@@ -160,6 +173,8 @@ private:
     bool canFocus_ = false;
     bool focused_ = false;
     bool seen_ = false; ///< as last told
+    std::optional<phial::TextEntry> textEntry_;
+    Composition composition_;
     String toolTip_;
     phial::MousePointer pointer_ = phial::MousePointer::Default;
     PicturePtr pointerIcon_;

@@ -18,7 +18,8 @@ enum class ControlAspect : std::int32_t {
     Children,
     Text,
     Selection,
-    Style, ///< font, colours, alignment, border, flags
+    TextEntry, ///< the text of a painted control, its caret, or whether it takes typing
+    Style,     ///< font, colours, alignment, border, flags
     Items,
     Range,
     Value,

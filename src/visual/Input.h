@@ -66,6 +66,14 @@ struct KeyEvent {
     bool is(Key key) const { return KeyCode == static_cast<std::int32_t>(key); }
 };
 
+/// Whether a unit is (a part of) a printable character, the blank among them, and no control character.
+constexpr bool isPrintable(char16_t unit)
+{
+    constexpr char16_t Delete = 127;
+    constexpr char16_t LastControl = 159;
+    return unit >= u' ' && (unit < Delete || unit > LastControl);
+}
+
 /// A character typed (Backspace 8, Tab 9, Return 13, Escape 27 among them). A handler may change it; 0 drops
 /// it.
 struct KeyPressEvent {

@@ -58,6 +58,8 @@ public:
     Event<KeyEvent&> KeyDown;
     Event<KeyPressEvent&> KeyPress;
     Event<KeyEvent&> KeyUp;
+    /// What is being composed for the frame's text entry has changed.
+    Event<> Composing;
     Event<> Paint;
     Event<> Resize;
     /// A control of the program, and the place in pixels.
@@ -80,6 +82,7 @@ public:
     void keyDown(KeyEvent& event) override { KeyDown.emit(event); }
     void keyPress(KeyPressEvent& event) override { KeyPress.emit(event); }
     void keyUp(KeyEvent& event) override { KeyUp.emit(event); }
+    void composing() override { Composing.emit(); }
     void gotFocus() override { GotFocus.emit(); }
     void lostFocus() override { LostFocus.emit(); }
     void dragDrop(Control& source, double x, double y) override { DragDrop.emit(source, x, y); }

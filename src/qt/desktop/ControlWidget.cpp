@@ -52,7 +52,7 @@ private:
 };
 
 ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* parent, Placement placement)
-    : QWidget(parent), control_(std::move(control)), placement_(placement)
+    : QWidget(parent), control_(std::move(control)), placement_(placement), inputMethod_(*this, *control_)
 {
     installPartAccessibility();
     setMouseTracking(true);
@@ -111,6 +111,9 @@ void ControlWidget::modelChanged(ControlAspect aspect)
         break;
     case ControlAspect::Drag:
         beginDrag();
+        break;
+    case ControlAspect::TextEntry:
+        inputMethod_.update();
         break;
     case ControlAspect::Geometry:
         if (!following_) {
@@ -268,6 +271,7 @@ bool ControlWidget::passOn(QMouseEvent& event)
 
 void ControlWidget::press(const QMouseEvent& event, bool second)
 {
+    InputMethodLink::commit();
     pressed_ = true;
     secondPress_ = second;
     dispatch([&] { control_->pointerDown(pointerEvent(event)); });
@@ -289,6 +293,9 @@ void ControlWidget::release(const QMouseEvent& event)
     const auto isLive = [&] { return self && peer_->isLinked(); };
     dispatch([&] {
         control->pointerUp(pointerEvent(event));
+        if (click && isLive()) {
+            inputMethod_.tapped(event);
+        }
         if (click && isLive()) {
             control->click();
         }
@@ -354,6 +361,17 @@ void ControlWidget::keyPressEvent(QKeyEvent* event)
 void ControlWidget::keyReleaseEvent(QKeyEvent* event)
 {
     dispatch([&] { keyReleased(*control_, *event); });
+}
+
+void ControlWidget::inputMethodEvent(QInputMethodEvent* event)
+{
+    dispatch([&] { inputMethod_.take(*event); });
+}
+
+QVariant ControlWidget::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    const QVariant answer = inputMethod_.answer(query);
+    return answer.isValid() ? answer : QWidget::inputMethodQuery(query);
 }
 
 void ControlWidget::focusInEvent(QFocusEvent* event)

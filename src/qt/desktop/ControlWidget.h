@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/desktop/InputMethodLink.h"
 #include "visual/UserControl.h"
 
 #include <QPointer>
@@ -54,6 +55,8 @@ public:
     /// The control's own size.
     QSize sizeHint() const override;
 
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
     /// The focus has come by the keyboard: shows where it is among the parts.
     void showPartFocus();
 
@@ -75,6 +78,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -100,6 +104,7 @@ private:
     std::shared_ptr<UserControl> control_;
     Placement placement_;
     std::unique_ptr<Peer> peer_;
+    InputMethodLink inputMethod_;
     std::unique_ptr<ContainerWidgets> children_;
     QPointer<QWidget> passedTo_; ///< has the press that began on a hole of this one
     std::optional<std::size_t> currentPart_;

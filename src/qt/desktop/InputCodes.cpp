@@ -39,8 +39,12 @@ constexpr KeyPair KeyPairs[] = {
 constexpr int FirstFunctionKey = static_cast<int>(Key::F1);
 constexpr int FunctionKeys = 12;
 
+// Where nobody composes it a dead circumflex counts as the sign, which formulas need.
 std::int32_t codeOf(int toolkitKey)
 {
+    if (toolkitKey == Qt::Key_Dead_Circumflex) {
+        return Qt::Key_AsciiCircum;
+    }
     for (const KeyPair& pair : KeyPairs) {
         if (pair.toolkit == toolkitKey) {
             return static_cast<std::int32_t>(pair.code);
@@ -147,6 +151,9 @@ char16_t typedCharacter(const QKeyEvent& event)
     const char16_t special = characterOf(static_cast<Key>(codeOf(event.key())));
     if (special != 0) {
         return special;
+    }
+    if (event.key() == Qt::Key_Dead_Circumflex && event.text().isEmpty()) {
+        return u'^';
     }
     const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) !=
                          Qt::KeyboardModifiers();

@@ -91,6 +91,7 @@ void NativePeer::show(ControlAspect aspect)
     case ControlAspect::Pointer:
     case ControlAspect::ToolTip:
     case ControlAspect::Children: // of painted controls
+    case ControlAspect::TextEntry:
     case ControlAspect::Drag:
         break;
     }
@@ -142,7 +143,8 @@ bool NativePeer::filterKey(QWidget& widget, QKeyEvent& event)
     if (!self || !isLinked() || !goesOn) {
         return true;
     }
-    if (character == typedCharacter(event)) {
+    const bool isTypedAsItIs = event.key() != Qt::Key_Dead_Circumflex;
+    if (isTypedAsItIs && character == typedCharacter(event)) {
         return false;
     }
     QKeyEvent changed(event.type(), QChar(character).toUpper().unicode(), event.modifiers(),

@@ -90,6 +90,7 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)
     case ControlAspect::Range:
     case ControlAspect::Value:
     case ControlAspect::Picture:
+    case ControlAspect::TextEntry:
     case ControlAspect::Drag:
         break;
     }
