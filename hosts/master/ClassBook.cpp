@@ -209,7 +209,7 @@ std::size_t ClassBook::rename(StringView from, StringView to, Moment now)
     }
     for (const String& old : meant) {
         store_.renamePupil(old, name);
-        note(u"rename", old + u" > " + name, now);
+        note(u"rename", String(old).append(u" > ").append(name), now);
     }
     highscores_.rename(meant, name);
     return meant.size();

@@ -162,6 +162,7 @@ std::vector<bool> doubtfulOf(const std::vector<String>& names)
         }
     }
     std::vector<bool> doubtful;
+    doubtful.reserve(names.size());
     for (const String& name : names) {
         doubtful.push_back(isDoubtful(name) || shared.contains(lookOf(name)));
     }

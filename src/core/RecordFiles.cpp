@@ -17,7 +17,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-using record_format::State;
 
 std::string_view endingFor(KeptRecord::Reason reason)
 {
@@ -59,7 +58,7 @@ std::vector<Variant> RecordFiles::read(const fs::path& file, StringView password
 {
     const std::string bytes = bytesOf(file, files_.status(file).size);
     const record_format::Frame frame = record_format::frameOf(bytes);
-    if (frame.state != State::Whole) {
+    if (frame.state != record_format::State::Whole) {
         throw RuntimeError(ErrorNumber::InvalidArgument, u"Invalid argument: no whole record file");
     }
     std::optional<std::vector<Variant>> values = fromBody(frame, password, record_format::valuesOf);
@@ -140,8 +139,8 @@ std::optional<KeptRecord::Reason> RecordFiles::reasonToKeep(std::string_view byt
 {
     using enum KeptRecord::Reason;
     const record_format::Frame frame = record_format::frameOf(bytes);
-    if (frame.state != State::Whole) {
-        return frame.state == State::Newer ? NotRead : Damaged;
+    if (frame.state != record_format::State::Whole) {
+        return frame.state == record_format::State::Newer ? NotRead : Damaged;
     }
     std::optional<Variant> first;
     if (!ignoringErrors([&] { first = fromBody(frame, password, record_format::firstValueOf); })) {

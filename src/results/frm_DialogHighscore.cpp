@@ -7,6 +7,7 @@
 #include "core/CoreDialogs.h"
 #include "core/CoreRoot.h"
 #include "core/Format.h"
+#include "results/ListRecord.h"
 #include "results/cls_DataScores.h"
 
 #include <algorithm>

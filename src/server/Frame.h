@@ -20,6 +20,8 @@ struct FrameId {
     std::uint64_t sender = 0;
     std::uint64_t number = 0;
 
+    // The check takes the 0 of the comparison behind it for a pointer.
+    // NOLINTNEXTLINE(modernize-use-nullptr)
     friend auto operator<=>(const FrameId&, const FrameId&) = default;
 };
 

@@ -8,7 +8,7 @@ namespace
 
 /// The tag in which a character stands; none for one in the line.
 using Tag = StringView;
-constexpr Tag InTheLine = u"";
+constexpr Tag InTheLine;
 constexpr Tag SupTag = u"sup";
 constexpr Tag SubTag = u"sub";
 

@@ -93,6 +93,26 @@ struct ControlDesign {
     std::span<const ButtonDesign> bar{};
     Role role = Role::Plain;
 
+private:
+    // The templates come first: what follows makes use of them in constants.
+    template <typename Value>
+    constexpr ControlDesign with(Value ControlDesign::*field, std::type_identity_t<Value> value) const
+    {
+        auto row = *this;
+        row.*field = value;
+        return row;
+    }
+
+public:
+    /// Any member that no function below has: a flag, number, enumeration or colour.
+    template <typename Value>
+    constexpr ControlDesign set(StringView member, Value value) const
+    {
+        auto row = *this;
+        row.settings.at(row.settingCount++) = DesignSetting::of(member, value);
+        return row;
+    }
+
     /// Of an element of the row, counted from 0; -1 outside an array.
     constexpr std::int32_t indexOf(std::int32_t number) const { return index < 0 ? -1 : index + number; }
 
@@ -125,14 +145,6 @@ struct ControlDesign {
     }
     constexpr ControlDesign align(Alignment alignment) const { return set(u"Alignment", alignment); }
     constexpr ControlDesign align(TEXTALIGN alignment) const { return set(u"Alignment", alignment); }
-    /// Any other member: a flag, number, enumeration or colour.
-    template <typename Value>
-    constexpr ControlDesign set(StringView member, Value value) const
-    {
-        auto row = *this;
-        row.settings.at(row.settingCount++) = DesignSetting::of(member, value);
-        return row;
-    }
 
     constexpr ControlDesign focusable() const { return with(&ControlDesign::takesFocus, true); }
     constexpr ControlDesign unfocusable() const { return with(&ControlDesign::takesFocus, false); }
@@ -144,15 +156,6 @@ struct ControlDesign {
     /// Return or Escape clicks it.
     constexpr ControlDesign defaultButton() const { return with(&ControlDesign::role, Role::Default); }
     constexpr ControlDesign cancelButton() const { return with(&ControlDesign::role, Role::Cancel); }
-
-private:
-    template <typename Value>
-    constexpr ControlDesign with(Value ControlDesign::*field, std::type_identity_t<Value> value) const
-    {
-        auto row = *this;
-        row.*field = value;
-        return row;
-    }
 };
 
 template <typename Class>

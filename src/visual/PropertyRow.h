@@ -21,11 +21,8 @@ template <std::size_t Size>
 struct Name {
     char16_t text[Size]{};
 
-    consteval Name(
-        const char16_t (&literal)[Size]) // NOLINT(google-explicit-constructor): a literal is a name
-    {
-        std::copy_n(literal, Size, text);
-    }
+    // NOLINTNEXTLINE(google-explicit-constructor): a literal is a name
+    consteval Name(const char16_t (&literal)[Size]) { std::copy_n(literal, Size, text); }
     constexpr StringView view() const { return {text, Size - 1}; }
 };
 

@@ -248,8 +248,12 @@ TEST_F(DialogUser, ShowsANameAsItWasTyped)
 TEST_F(DialogUser, BearsWhateverStandsInTheListOfNames)
 {
     makeAvatars(2);
-    const String names[] = {String(10'000, u'x'),        u"a:b:c",          u"\u0634\u0645\u0633\u202Eab",
-                            u"\U0001F9EA\xD83E",         u"\x0001\r\n\t\0", u"Maxi|Mini",
+    const String names[] = {String(10'000, u'x'),
+                            u"a:b:c",
+                            u"\u0634\u0645\u0633\u202Eab",
+                            u"\U0001F9EA\xD83E",
+                            String{u'\1', u'\r', u'\n', u'\t', u'\0'},
+                            u"Maxi|Mini",
                             String(10'000, u'\n') + u"x"};
     for (const String& stored : names) {
         storeNames({stored + u":a02"});

@@ -110,7 +110,7 @@ TEST_F(TrainerLists, AreToldOfWhenAResetKeepsWhatAnotherProgramHasWritten)
     enter();
     expectRankBox();
     playRound();
-    outside.visual().onModal(u"frm_DialogHighscore", [this](phial::Form& dialog) {
+    outside.visual().onModal(u"frm_DialogHighscore", [](phial::Form& dialog) {
         phial::cls_DataScores other;
         EXPECT_TRUE(other.SAVE(phial::QVAPP()->URL()->DATAHIGHSCORES() + u"HIGHSCORE.qv-hsr"));
         phial::headless::clickButton(*dialog.control<phial::ctl_CmdBar>(u"bar_Buttons"), u"DIALOG.RESET();");

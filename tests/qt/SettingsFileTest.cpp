@@ -180,10 +180,10 @@ TEST_F(SettingsFileTest, ADamagedFileIsMovedAsideAndNotOverwritten)
 
 TEST_F(SettingsFileTest, EveryDamagedFileKeepsItsPlace)
 {
-    put("first\n");
-    SettingsFile{file()};
-    put("second\n");
-    SettingsFile{file()};
+    for (const char* damage : {"first\n", "second\n"}) {
+        put(damage);
+        const SettingsFile opened{file()};
+    }
     EXPECT_TRUE(QFile::exists(file(QStringLiteral("settings.ini.damaged-1"))));
     EXPECT_TRUE(QFile::exists(file(QStringLiteral("settings.ini.damaged-2"))));
 }

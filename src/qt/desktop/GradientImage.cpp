@@ -21,6 +21,7 @@ QImage paint(const Gradient& gradient)
 {
     const GradientBands bands(gradient);
     std::vector<QRgb> colours;
+    colours.reserve(static_cast<std::size_t>(bands.count()));
     for (int band = 0; band < bands.count(); ++band) {
         colours.push_back(bands.colour(band));
     }
