@@ -134,7 +134,7 @@ void frm_Molmasse::nameUser()
 
 void frm_Molmasse::enterClassroom()
 {
-    if (Classroom::isWanted()) {
+    if (ClassroomLink::isWanted()) {
         classroom_.join();
         admit(true);
     }
@@ -142,7 +142,7 @@ void frm_Molmasse::enterClassroom()
 
 void frm_Molmasse::chooseClassroom()
 {
-    frm_MasterChoice dialog(Classroom::address(), searchMasters_);
+    frm_MasterChoice dialog(ClassroomLink::address(), searchMasters_);
     dialog.Show();
     if (const auto& master = dialog.chosen()) {
         classroom_.join(*master);
@@ -173,31 +173,31 @@ void frm_Molmasse::admit(bool tell)
 void frm_Molmasse::showClassroom()
 {
     const auto state = classroom_.state();
-    const bool busy = state == Classroom::State::Searching || isAsking_;
+    const bool busy = state == ClassroomLink::State::Searching || isAsking_;
     caption(*form_, u"lab_Classroom", classroomText());
     get<phial::Shape>(u"shp_Classroom")
-        ->FillColor(state == Classroom::State::Online ? phial::Palette::Connected
-                                                      : phial::Palette::Unconnected);
+        ->FillColor(state == ClassroomLink::State::Online ? phial::Palette::Connected
+                                                          : phial::Palette::Unconnected);
     if (busy && page_ == Page::Start) {
         form_->focus(nullptr); // the levels cannot keep it
     }
     levels_.each([busy](phial::ctl_Button& button, std::int32_t) { button.Enabled(!busy); });
     const auto choice = get<phial::ctl_Button>(u"but_Classroom");
     choice->Enabled(!busy);
-    choice->Visible(Classroom::isWanted() && (page_ == Page::Start || page_ == Page::Waiting));
+    choice->Visible(ClassroomLink::isWanted() && (page_ == Page::Start || page_ == Page::Waiting));
 }
 
 String frm_Molmasse::classroomText() const
 {
     switch (classroom_.state()) {
-    case Classroom::State::Alone:
+    case ClassroomLink::State::Alone:
         break;
-    case Classroom::State::Searching:
+    case ClassroomLink::State::Searching:
         return translate(u"Suche den Klassenraum …", u"Looking for the classroom …");
-    case Classroom::State::Online:
+    case ClassroomLink::State::Online:
         return translate(u"Im Klassenraum angemeldet ({1})", u"Logged on to the classroom ({1})",
-                         {Classroom::address()});
-    case Classroom::State::Offline:
+                         {ClassroomLink::address()});
+    case ClassroomLink::State::Offline:
         return translate(u"Kein Klassenraum gefunden, du übst für dich.",
                          u"No classroom found, you practise by yourself.");
     }

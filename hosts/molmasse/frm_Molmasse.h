@@ -1,6 +1,6 @@
 #pragma once
 
-#include "molmasse/Classroom.h"
+#include "molmasse/ClassroomLink.h"
 #include "molmasse/SummaryPage.h"
 #include "molmasse/TaskPage.h"
 #include "molmasse/TrainerData.h"
@@ -70,7 +70,7 @@ private:
     phial::ControlArray<phial::ctl_Button> levels_;
     std::optional<TaskPage> tasks_;
     std::optional<SummaryPage> summary_;
-    Classroom classroom_;
+    ClassroomLink classroom_;
     phial::Timer asking_; ///< asks the master again while the pupil waits
     Page page_ = Page::Start;
     std::size_t level_ = 0;

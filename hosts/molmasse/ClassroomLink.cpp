@@ -1,4 +1,4 @@
-#include "molmasse/Classroom.h"
+#include "molmasse/ClassroomLink.h"
 
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
@@ -26,29 +26,29 @@ constexpr phial::StringView Exercise = u"STUFE";
 
 } // namespace
 
-Classroom::Classroom() : alive_(u"tmr_Alive", AliveInterval)
+ClassroomLink::ClassroomLink() : alive_(u"tmr_Alive", AliveInterval)
 {
     ticking_ = alive_.Tick.connect([this] { keepAlive(); });
 }
 
-bool Classroom::isWanted()
+bool ClassroomLink::isWanted()
 {
     return !QVAPP()->CONFIG()->PARAMETERS()->Exists(NoNetwork);
 }
 
-String Classroom::address()
+String ClassroomLink::address()
 {
     return QVAPP()->SERVER()->CONFIG()->SERVERIP();
 }
 
-void Classroom::join()
+void ClassroomLink::join()
 {
     if (isWanted() && state_ != State::Searching) {
         logOn();
     }
 }
 
-void Classroom::join(const phial::FoundMaster& master)
+void ClassroomLink::join(const phial::FoundMaster& master)
 {
     if (state_ == State::Searching) {
         return;
@@ -59,7 +59,7 @@ void Classroom::join(const phial::FoundMaster& master)
     logOn();
 }
 
-void Classroom::logOn()
+void ClassroomLink::logOn()
 {
     become(State::Searching);
     const auto server = QVAPP()->SERVER();
@@ -77,7 +77,7 @@ void Classroom::logOn()
 
 /// Asks for the master's settings. Gives whether they differ from those known so far: the greeting and the
 /// rule about names belong to the log-on, which is then made again.
-bool Classroom::refreshSettings()
+bool ClassroomLink::refreshSettings()
 {
     const auto server = QVAPP()->SERVER();
     const auto& config = server->CONFIG();
@@ -87,7 +87,7 @@ bool Classroom::refreshSettings()
 }
 
 /// Keeps the settings that a master has handed out, but the address at which it has been reached.
-void Classroom::takeOver(const String& settings, const String& address)
+void ClassroomLink::takeOver(const String& settings, const String& address)
 {
     const auto config = QVAPP()->SERVER()->CONFIG();
     // Settings that are not whole count as far as they go.
@@ -96,7 +96,7 @@ void Classroom::takeOver(const String& settings, const String& address)
     config->SAVE();
 }
 
-void Classroom::become(State state)
+void ClassroomLink::become(State state)
 {
     if (state_ != state) {
         state_ = state;
@@ -104,20 +104,20 @@ void Classroom::become(State state)
     }
 }
 
-bool Classroom::allows(bool tell)
+bool ClassroomLink::allows(bool tell)
 {
     return state_ != State::Online || QVAPP()->SERVER()->ALLOWED(tell);
 }
 
 /// The client knows whether it is logged on: any call can find a lost master again.
-void Classroom::followClient()
+void ClassroomLink::followClient()
 {
     if (state_ == State::Online || state_ == State::Offline) {
         become(QVAPP()->SERVER()->ONLINE() ? State::Online : State::Offline);
     }
 }
 
-void Classroom::roundStarted(const String& exercise)
+void ClassroomLink::roundStarted(const String& exercise)
 {
     alive_.Enabled(state_ == State::Online);
     phial::CoreParameters about;
@@ -126,7 +126,7 @@ void Classroom::roundStarted(const String& exercise)
     followClient();
 }
 
-void Classroom::roundFinished(const RoundResult& result)
+void ClassroomLink::roundFinished(const RoundResult& result)
 {
     alive_.Enabled(false);
     phial::CoreParameters about = additionalValues(result);
@@ -138,7 +138,7 @@ void Classroom::roundFinished(const RoundResult& result)
 }
 
 /// An answer may take longer than the interval; one sign of life at a time is enough.
-void Classroom::keepAlive()
+void ClassroomLink::keepAlive()
 {
     if (!isTelling_) {
         isTelling_ = true;

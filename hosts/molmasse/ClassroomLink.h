@@ -14,7 +14,7 @@ namespace molmasse
 /// everything is allowed, and what the pupil does is noted on this computer.
 ///
 /// Every call may run events while the network answers, so that handlers run meanwhile.
-class Classroom
+class ClassroomLink
 {
 public:
     enum class State {
@@ -24,7 +24,7 @@ public:
         Offline, ///< no master has answered
     };
 
-    Classroom();
+    ClassroomLink();
 
     State state() const { return state_; }
     /// Changed has been raised when this differs.
