@@ -325,9 +325,13 @@ void Form::centre()
 {
     const auto target = visualHost().forms().ActiveForm();
     const PixelRectangle screen = target ? visualHost().screen().of(*target) : visualHost().screen().first();
+    // One that is larger than the screen begins at its corner, so that its title can be reached.
+    const auto start = [](double corner, double room, double length) {
+        return corner * TwipsPerPixel + std::max(0.0, (room * TwipsPerPixel - length) / 2);
+    };
     hasPlace_ = true;
-    place(screen.left * TwipsPerPixel + (screen.width * TwipsPerPixel - width_) / 2,
-          screen.top * TwipsPerPixel + (screen.height * TwipsPerPixel - height_) / 2, width_, height_);
+    place(start(screen.left, screen.width, width_), start(screen.top, screen.height, height_), width_,
+          height_);
 }
 
 void Form::focusFirst()

@@ -85,6 +85,17 @@ TEST_F(Screens, ACentredFormStandsOnTheScreenOfTheFormThatIsActive)
     dialog->Unload();
 }
 
+TEST_F(Screens, ACentredFormLargerThanTheScreenBeginsAtItsCorner)
+{
+    form->Width(300 * 15);
+    form->Height(1000 * 15);
+    form->centred(true);
+    form->Show();
+    EXPECT_EQ(form->Left(), 350 * 15);
+    EXPECT_EQ(form->Top(), 0);
+    form->Unload();
+}
+
 } // namespace
 
 } // namespace phial::test
