@@ -12,7 +12,7 @@ namespace phial
 class DrawDevice;
 class Form;
 class MoleculeTable;
-enum class TEXTALIGN : std::int32_t;   // see term/TermDraw.h
+enum class TEXTALIGN : std::int32_t;   // see visual/Alignment.h
 enum class WindowState : std::int32_t; // see visual/Form.h
 
 /// The chemistry tools of the root, `QVAPP().TOOLS()`.

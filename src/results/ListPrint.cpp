@@ -77,9 +77,7 @@ private:
         std::vector<double> edges;
         for (std::size_t column = 0; column < columns_.size(); ++column) {
             const double place = PageMargin + (width_ - 2 * PageMargin) * columns_[column].place;
-            edges.push_back(columns_[column].align == PrintedColumn::Align::Left
-                                ? place
-                                : place - page_.TextWidth(measured[column]));
+            edges.push_back(place - along(page_.TextWidth(measured[column]), sideOf(columns_[column].align)));
         }
         edges.push_back(width_ - PageMargin + GapOfColumns);
         return edges;

@@ -2,6 +2,7 @@
 
 #include "core/Moment.h"
 #include "core/String.h"
+#include "visual/Alignment.h"
 
 #include <cstdint>
 #include <functional>
@@ -13,13 +14,10 @@ namespace phial
 
 /// A column of a printed list.
 struct PrintedColumn {
-    enum class Align : std::int32_t { Left, Right };
-
-    /// Where it lies, as a share of the width between the margins: its left edge, or its right one when it
-    /// is aligned to the right.
+    /// Where its texts begin, end or have their middle, as a share of the width between the margins.
     double place;
     StringView title;
-    Align align = Align::Left;
+    Alignment align = Alignment::Left;
     /// The text by whose width the title is placed, when it is another than the title.
     StringView titleMeasure = {};
 };

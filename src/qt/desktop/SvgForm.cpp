@@ -20,9 +20,6 @@ constexpr int MaxElements = 20'000;
 constexpr int MaxDepth = 64;
 constexpr double MaxLength = 1e6;
 
-using Align = SvgTextStyle::Align;
-using Vertical = SvgTextStyle::Vertical;
-
 /// Whether the bytes are XML of bounded size and depth, so that what recurses into it stays within its stack.
 bool isHarmless(const QByteArray& bytes)
 {
@@ -107,20 +104,20 @@ int weightOf(const QString& text)
     return isNumber ? std::clamp(weight, 100, 900) : 400;
 }
 
-Align alignOf(const QString& text)
+TextSide alignOf(const QString& text)
 {
     if (text == QLatin1String("middle") || text == QLatin1String("center")) {
-        return Align::Middle;
+        return TextSide::Middle;
     }
-    return text == QLatin1String("end") ? Align::End : Align::Start;
+    return text == QLatin1String("end") ? TextSide::Far : TextSide::Near;
 }
 
-Vertical verticalOf(const QString& text)
+TextSide verticalOf(const QString& text)
 {
     if (text == QLatin1String("center")) {
-        return Vertical::Middle;
+        return TextSide::Middle;
     }
-    return text == QLatin1String("after") ? Vertical::Bottom : Vertical::Top;
+    return text == QLatin1String("after") ? TextSide::Far : TextSide::Near;
 }
 
 double lineHeightOf(const QString& text, const SvgTextStyle& style)

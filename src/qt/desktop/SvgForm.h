@@ -1,5 +1,7 @@
 #pragma once
 
+#include "visual/Alignment.h"
+
 #include <QByteArray>
 #include <QRectF>
 #include <QSizeF>
@@ -20,9 +22,9 @@ struct SvgTextStyle {
     int weight = 400;
     bool italic = false;
     QString fill = QStringLiteral("#000000");
-    double opacity = 1; ///< 0 where the drawing hides the text
-    enum class Align { Start, Middle, End } align = Align::Start;
-    enum class Vertical { Top, Middle, Bottom } vertical = Vertical::Top; ///< within a box
+    double opacity = 1;                 ///< 0 where the drawing hides the text
+    TextSide align = TextSide::Near;    ///< along the line
+    TextSide vertical = TextSide::Near; ///< within a box, from its upper edge
 };
 
 /// A field of a form: a text that begins at a point, or one that fills a box and wraps there.

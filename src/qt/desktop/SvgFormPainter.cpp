@@ -30,9 +30,6 @@ constexpr double Shrinking = 0.96;
 constexpr double EdgeShare =
     0.06; ///< of the page's width, which a line without a box keeps free on each side
 
-using Align = SvgTextStyle::Align;
-using Vertical = SvgTextStyle::Vertical;
-
 bool isGeneric(const QString& name)
 {
     return name == QLatin1String("serif") || name == QLatin1String("sans-serif") ||
@@ -93,14 +90,14 @@ QFont fontOf(const SvgTextStyle& style, double share)
     return font;
 }
 
-Qt::Alignment alignmentOf(Align align)
+Qt::Alignment alignmentOf(TextSide side)
 {
-    switch (align) {
-    case Align::Start:
-        return Qt::AlignLeft;
-    case Align::Middle:
+    switch (side) {
+    case TextSide::Near:
+        break;
+    case TextSide::Middle:
         return Qt::AlignHCenter;
-    case Align::End:
+    case TextSide::Far:
         return Qt::AlignRight;
     }
     return Qt::AlignLeft;
@@ -129,13 +126,13 @@ public:
     double widest() const { return widest_; }
 
     /// Draws the first lines, the first with its base line at that place.
-    void draw(QPainter& painter, QPointF start, int count, Align align, bool boxed) const
+    void draw(QPainter& painter, QPointF start, int count, TextSide align, bool boxed) const
     {
         int number = 0;
         for (const auto& paragraph : paragraphs_) {
             for (int index = 0; index < paragraph->lineCount() && number + index < count; ++index) {
                 const QTextLine line = paragraph->lineAt(index);
-                const double shift = boxed ? 0 : shiftOf(align, line.naturalTextWidth());
+                const double shift = boxed ? 0 : along(line.naturalTextWidth(), align);
                 line.draw(&painter,
                           {start.x() - shift, start.y() + (number + index) * lineHeight_ - line.ascent()});
             }
@@ -151,14 +148,6 @@ public:
     }
 
 private:
-    static double shiftOf(Align align, double width)
-    {
-        if (align == Align::Start) {
-            return 0;
-        }
-        return align == Align::Middle ? width / 2 : width;
-    }
-
     void layOut(const QString& text, const QTextOption& option, double width)
     {
         auto paragraph = std::make_unique<QTextLayout>(text, font_);
@@ -202,24 +191,21 @@ void drawInBox(QPainter& painter, const SvgField& field, const QRectF& box)
         field, box.width(), [room](const FieldText& candidate) { return candidate.height() <= room; });
     const int lines = std::clamp(static_cast<int>(room / text.lineHeight()), 1, text.lines());
     const double free = room - lines * text.lineHeight();
-    double top = box.top() * Enlargement;
-    if (field.style.vertical != Vertical::Top) {
-        top += field.style.vertical == Vertical::Middle ? free / 2 : free;
-    }
+    const double top = box.top() * Enlargement + along(free, field.style.vertical);
     text.draw(painter, {box.left() * Enlargement, top + text.baseLine()}, lines, field.style.align, true);
 }
 
 /// How long a line may be that begins, is centred or ends at that place across the page.
-double roomForLine(Align align, double x, const QRectF& page)
+double roomForLine(TextSide align, double x, const QRectF& page)
 {
     const double left = x - page.left() - page.width() * EdgeShare;
     const double right = page.right() - page.width() * EdgeShare - x;
     switch (align) {
-    case Align::Start:
-        return right;
-    case Align::Middle:
+    case TextSide::Near:
+        break;
+    case TextSide::Middle:
         return 2 * std::min(left, right);
-    case Align::End:
+    case TextSide::Far:
         return left;
     }
     return right;
