@@ -49,9 +49,9 @@ struct ButtonDesign {
 /// A control of a form: a row of the form's design, with its place and its look.
 ///
 ///     constexpr ControlDesign Controls[] = {
-///         design<ctl_Gradient>(u"bar_Header", {0, 0, 640, 64}).gradient(Palette::Accent,
-///         Palette::AccentDeep), design<ctl_Label>(u"lab_Title", {24, 0, 592, 64}, u"Wer bist du?|Who are
-///         you?")
+///         design<ctl_Gradient>(u"bar_Header", {0, 0, 640, 64})
+///             .gradient(Palette::Accent, Palette::AccentDeep, 0),
+///         design<ctl_Label>(u"lab_Title", {24, 0, 592, 64}, u"Wer bist du?|Who are you?")
 ///             .inside(u"bar_Header").font(18, FontWeight::Bold).ink(Palette::OnAccent),
 ///         design<TextBox>(u"txt_Name", {24, 106, 420, 44}).font(15).spoken(u"Dein Name|Your name"),
 ///         design<PictureBox>(u"pic_Place", {24, 192, 64, 64}).repeated(6, 2, 218, 74).focusable(),
