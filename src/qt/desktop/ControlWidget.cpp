@@ -120,12 +120,24 @@ void ControlWidget::modelChanged(ControlAspect aspect)
             takePlace();
         }
         break;
-    default:
+    case ControlAspect::Accessibility:
+        applyFrameAspect(*this, *control_, aspect);
+        forgetParts(*this);
+        break;
+    case ControlAspect::Visibility:
+    case ControlAspect::Enabled:
+    case ControlAspect::Focus:
+    case ControlAspect::Pointer:
+    case ControlAspect::ToolTip:
+    case ControlAspect::Text:
         applyFrameAspect(*this, *control_, aspect);
         break;
-    }
-    if (aspect == ControlAspect::Accessibility) {
-        forgetParts(*this);
+    case ControlAspect::Selection: // of the toolkit's own widgets
+    case ControlAspect::Style:
+    case ControlAspect::Items:
+    case ControlAspect::Range:
+    case ControlAspect::Value:
+        break;
     }
 }
 
