@@ -26,9 +26,13 @@ void KeptRecords::add(KeptRecord record)
 
 bool KeptRecords::missed(const std::filesystem::path& file)
 {
-    const bool wasThere = seen_.erase(file) > 0;
+    // It may have been seen in another spelling than the one in which it is looked for.
+    const String name = systemPath(file);
+    const bool wasThere = std::erase_if(seen_, [&](const auto& seen) {
+                              return equalsIgnoringCase(systemPath(seen), name);
+                          }) > 0;
     if (wasThere) {
-        add({KeptRecord::Reason::Gone, systemPath(file), {}});
+        add({KeptRecord::Reason::Gone, name, {}});
     }
     return wasThere;
 }

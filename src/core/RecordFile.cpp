@@ -32,10 +32,17 @@ void find(LoadedFile& rLoaded)
     throw RuntimeError(ErrorNumber::FileNotFound);
 }
 
-/// Whether the record holds what is in that file now; of a file that has gone there is nothing to hold.
-bool isAllRead(const LoadedFile& loaded)
+/// Whether the record was loaded under that name. A file that was away meanwhile may have come back in
+/// another spelling than the one in which it was looked for.
+bool isLoadedFrom(const LoadedFile& loaded, const std::filesystem::path& path)
 {
-    if (loaded.state != State::Whole) {
+    return loaded.path == path || equalsIgnoringCase(systemPath(loaded.path), systemPath(path));
+}
+
+/// Whether the record holds what is in that file now; of a file that has gone there is nothing to hold.
+bool isAllRead(const LoadedFile& loaded, const std::filesystem::path& path)
+{
+    if (loaded.state != State::Whole || loaded.path != path) {
         return false;
     }
     const FileStatus now = fileSystem().status(loaded.path);
@@ -66,7 +73,7 @@ bool saveRecord(DATA& data, StringView file, StringView password)
         stream.Open(file, DataFileMode::Write, password);
         data.Store(stream);
         const auto path = nativePath(file);
-        if (data.loadedFile().path == path && !isAllRead(data.loadedFile())) {
+        if (isLoadedFrom(data.loadedFile(), path) && !isAllRead(data.loadedFile(), path)) {
             stream.keepOldFile();
         }
         stream.Close();

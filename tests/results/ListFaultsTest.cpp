@@ -224,6 +224,19 @@ TEST_F(ListFaults, AListThatVanishesForAMomentIsKeptAside)
     EXPECT_EQ(oldOnes(namesIn("HIGHSCORE.qv-hsr.kept")), OldEntries);
 }
 
+TEST_F(ListFaults, AListInAnotherSpellingThatVanishesForAMomentIsKeptAside)
+{
+    layOutScores("Highscore.qv-hsr");
+    cls_DataScores list;
+    std::filesystem::rename(lists() / "Highscore.qv-hsr", lists() / "away");
+    EXPECT_FALSE(list.LOAD(path(u"lists\\HIGHSCORE.qv-hsr")));
+    std::filesystem::rename(lists() / "away", lists() / "Highscore.qv-hsr");
+    add(list, u"new", 7);
+    EXPECT_TRUE(list.SAVE(path(u"lists\\HIGHSCORE.qv-hsr")));
+    EXPECT_EQ(oldOnes(namesIn("Highscore.qv-hsr.kept")), OldEntries);
+    EXPECT_TRUE(namesIn("Highscore.qv-hsr").contains(u"new"));
+}
+
 TEST_F(ListFaults, AListThatHasVanishedIsTold)
 {
     layOutScores("HIGHSCORE.qv-hsr");
@@ -238,12 +251,14 @@ TEST_F(ListFaults, AListThatHasVanishedIsTold)
 
 TEST_F(ListFaults, LookingAtAListThatHasVanishedMakesNoNewOne)
 {
-    layOutScores("HIGHSCORE.qv-hsr");
-    QVAPP()->RATE()->HIGHSCORE();
-    std::filesystem::remove(lists() / "HIGHSCORE.qv-hsr");
-    outside.visual().onModal(u"frm_DialogHighscore", [](Form& form) { form.Unload(); });
-    QVAPP()->RATE()->HIGHSCORELIST();
-    EXPECT_THAT(folder.names("lists"), IsEmpty());
+    for (const char* name : {"HIGHSCORE.qv-hsr", "Highscore.qv-hsr"}) {
+        layOutScores(name);
+        QVAPP()->RATE()->HIGHSCORE();
+        std::filesystem::remove(lists() / name);
+        outside.visual().onModal(u"frm_DialogHighscore", [](Form& form) { form.Unload(); });
+        QVAPP()->RATE()->HIGHSCORELIST();
+        EXPECT_THAT(folder.names("lists"), IsEmpty()) << name;
+    }
 }
 
 TEST_F(ListFaults, WhatAnotherListObjectHasSavedSinceIsKeptAside)
