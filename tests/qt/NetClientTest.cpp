@@ -380,6 +380,28 @@ TEST_F(NetClientTest, AComputerThatHasVanishedIsWaitedForToALimitInAll)
 
 #endif
 
+TEST_F(NetClientTest, AMasterThatTakesConnectionsAndSaysNothingIsWaitedForToALimitInAll)
+{
+    client_ = std::make_unique<QtNetClient>(guard_, TrafficWindow{},
+                                            MasterPatience::Limits{.silence = 0.5, .knock = 0.001});
+    silence();
+    options().ResponseTimeout = 30;
+    QElapsedTimer timer;
+    timer.start();
+    for (int request = 0; request < 60; ++request) {
+        EXPECT_EQ(ask(u"x"), NoAnswer);
+    }
+    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_EQ(master_.connectionsMade(), 30);
+    options().ResponseTimeout = 5;
+    echo();
+    EXPECT_TRUE(eventually([&] { return ask(u"x") == u"x"; }));
+    silence();
+    timer.start();
+    EXPECT_EQ(askBriefly(u"x"), NoAnswer);
+    EXPECT_GE(timer.elapsed(), static_cast<qint64>(1000 * Brief));
+}
+
 TEST_F(NetClientTest, IsPatientAgainWithAMasterThatGivesASignOfLife)
 {
     client_ = std::make_unique<QtNetClient>(guard_, TrafficWindow{},

@@ -163,7 +163,7 @@ void NetConnection::opened()
     state_ = State::Open;
     socket_.setSocketOption(QAbstractSocket::LowDelayOption, 1);
     socket_.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
-    reports_.signOfLife();
+    reports_.sign(Sign::Connected);
     reports_.traffic(TrafficKind::Note, peer_, u"verbunden|connected");
     if (!unsent_.empty()) {
         socket_.write(unsent_.data(), static_cast<qint64>(unsent_.size()));
@@ -187,7 +187,7 @@ void NetConnection::read()
             return;
         }
         silentWaits_ = 0;
-        reports_.signOfLife();
+        reports_.sign(Sign::Heard);
         reader_.feed(std::string_view(piece_).substr(0, static_cast<std::size_t>(count)));
         for (auto frame = reader_.next(); frame && state_ == State::Open; frame = reader_.next()) {
             take(*std::move(frame));
@@ -241,11 +241,21 @@ void NetConnection::lose(Loss loss)
     state_ = State::Lost;
     loss_ = loss;
     unsent_ = {};
+    tellWhyLost();
     const auto* note = std::ranges::find(Notes, loss, &Note::loss);
     reports_.traffic(TrafficKind::Note, peer_, note->text);
     socket_.abort();
     for (Wait* wait : waits_) {
         wait->end();
+    }
+}
+
+void NetConnection::tellWhyLost() const
+{
+    if (loss_ == Loss::Silent) {
+        reports_.sign(Sign::Mute);
+    } else if (loss_ == Loss::Unreachable || loss_ == Loss::ClosedThere) {
+        reports_.sign(Sign::Gone);
     }
 }
 

@@ -27,14 +27,21 @@ namespace phial::qt
 class NetConnection final : public std::enable_shared_from_this<NetConnection>
 {
 public:
+    /// What is seen of the other end.
+    enum class Sign : std::uint8_t {
+        Connected, ///< the connection is there
+        Heard,     ///< something has come over it
+        Mute,      ///< it was given up, since nothing came over it
+        Gone,      ///< it could not be made, or the other end has closed it
+    };
+
     /// Told while events run, and may run none. What they raise goes to the guard.
     struct Reports {
         std::shared_ptr<DispatchGuard> guard;
         std::function<void(const Frame& frame, const QTcpSocket& from)> message;
         /// A note is "German|English".
         std::function<void(TrafficKind kind, StringView peer, StringView text)> traffic;
-        /// The connection is there, or something has come over it.
-        std::function<void()> signOfLife;
+        std::function<void(Sign)> sign;
     };
 
     /// Begins to connect; host and port as a request names them. `pieceBytes` are taken from the socket at a
@@ -73,6 +80,7 @@ private:
     void read();
     void take(Frame frame);
     void lose(Loss loss);
+    void tellWhyLost() const;
     [[noreturn]] void raiseLoss() const;
 
     String peer_;

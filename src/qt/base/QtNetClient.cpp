@@ -62,7 +62,15 @@ private:
         std::int32_t port;
     };
 
-    MasterPatience& patienceWith(const Master& master);
+    struct State {
+        MasterPatience patience;
+        /// Whether the latest connection was given up for its silence. One that follows is no sign of life: a
+        /// system takes connections also for a program that stands still.
+        bool isMute = false;
+    };
+
+    State& stateOf(const Master& master);
+    void notice(State& state, NetConnection::Sign sign);
     std::optional<String> answerTo(const Frame& frame, const Master& master);
     std::optional<String> ask(NetConnection& connection, const Frame& frame, double end) const;
     std::shared_ptr<NetConnection> connectionTo(const Master& master);
@@ -80,7 +88,7 @@ private:
     double askedAt_ = -std::numeric_limits<double>::infinity();
     CoreNetOptions options_;
     RequestIds ids_{QRandomGenerator::system()->generate64()};
-    std::map<String, MasterPatience> patience_; // by the master's name; connections report to it
+    std::map<String, State> states_; // by the master's name; connections report to them
     std::vector<std::shared_ptr<NetConnection>> connections_;
     std::unique_ptr<NetPort> port_;
     bool receiving_ = false;
@@ -139,9 +147,22 @@ String QtNetClient::Exchange::request(StringView message, StringView host, std::
     return *std::move(answer);
 }
 
-MasterPatience& QtNetClient::Exchange::patienceWith(const Master& master)
+QtNetClient::Exchange::State& QtNetClient::Exchange::stateOf(const Master& master)
 {
-    return patience_.try_emplace(NetConnection::peerName(master.host, master.port), limits_).first->second;
+    return states_
+        .try_emplace(NetConnection::peerName(master.host, master.port), State{MasterPatience(limits_)})
+        .first->second;
+}
+
+void QtNetClient::Exchange::notice(State& state, NetConnection::Sign sign)
+{
+    using enum NetConnection::Sign;
+    if (sign == Heard || (sign == Connected && !state.isMute)) {
+        state.patience.signOfLife(clock_.seconds());
+    }
+    if (sign != Connected) {
+        state.isMute = sign == Mute;
+    }
 }
 
 // A master that has been started again has closed the connection that was kept, which may show only now.
@@ -150,7 +171,7 @@ std::optional<String> QtNetClient::Exchange::answerTo(const Frame& frame, const 
 {
     const auto connection = connectionTo(master);
     const bool wasKept = connection->isOpen();
-    MasterPatience& patience = patienceWith(master);
+    MasterPatience& patience = stateOf(master).patience;
     const MasterPatience::Wait wait(patience, clock_);
     const double end = clock_.seconds() + patience.allowed(options_.ResponseTimeout);
     try {
@@ -191,7 +212,7 @@ std::shared_ptr<NetConnection> QtNetClient::Exchange::connectionTo(const Master&
         NetConnection::Reports{
             guard_, [this](const Frame& frame, const QTcpSocket& from) { messageCame(frame, from); },
             [this](TrafficKind kind, StringView about, StringView text) { log(kind, about, text); },
-            [this, &patience = patienceWith(master)] { patience.signOfLife(clock_.seconds()); }}));
+            [this, &state = stateOf(master)](NetConnection::Sign sign) { notice(state, sign); }}));
     return connections_.back();
 }
 
