@@ -14,9 +14,13 @@ namespace
 
 constexpr char16_t Replacement = u'\uFFFD';
 
+/// At the beginning of a text databases drop it, so that a name would not be found again.
+constexpr char16_t ByteOrderMark = u'\uFEFF';
+
 bool isControl(char16_t unit)
 {
-    return unit < u' ' || (unit >= u'\u007F' && unit <= u'\u009F') || unit == u'\u2028' || unit == u'\u2029';
+    return unit < u' ' || (unit >= u'\u007F' && unit <= u'\u009F') || unit == u'\u2028' ||
+           unit == u'\u2029' || unit == ByteOrderMark;
 }
 
 /// The beginning of a text, which never ends within a sign.

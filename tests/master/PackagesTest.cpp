@@ -26,6 +26,7 @@ TEST(Packages, NamesLoseWhatCannotBeShown)
     EXPECT_EQ(cleaned(String(u"a\0b", 3), 100), u"a b");
     EXPECT_EQ(cleaned(String(u"x\xD800y\xDC00", 4), 100), u"x\uFFFDy\uFFFD");
     EXPECT_EQ(cleaned(u"\U0001F600", 100), u"\U0001F600");
+    EXPECT_EQ(cleaned(u"\uFEFFAn\uFEFFna", 100), u"An na");
     EXPECT_EQ(cleaned(u"   ", 100), u"");
     EXPECT_EQ(cleaned(u"a\u001Fb\u007Fc\u0080d\u009Fe\u00A0f\u2028g\u2029h~i", 100),
               u"a b c d e\u00A0f g h~i");
