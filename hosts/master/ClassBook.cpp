@@ -5,6 +5,7 @@
 #include "master/Packages.h"
 #include "master/ShownText.h"
 
+#include <algorithm>
 #include <set>
 
 namespace phial::master
@@ -138,20 +139,37 @@ void ClassBook::note(StringView action, const String& about, Moment now)
     store_.addChange({now, String(action), about});
 }
 
-bool ClassBook::resetList(StringView module, Moment now)
+String ClassBook::moduleMeant(StringView typed)
 {
+    const String name = HighscoreLists::nameOf(typed);
+    const std::vector<ListOrigin> lists = highscores_.origins();
+    if (std::ranges::find(lists, name, &ListOrigin::module) != lists.end()) {
+        return name;
+    }
+    const auto meant =
+        std::ranges::find_if(lists, [&](const ListOrigin& list) { return isMeant(typed, list.module); });
+    return meant != lists.end() ? meant->module : name;
+}
+
+std::vector<HighscoreRow> ClassBook::highscore(StringView module)
+{
+    return highscores_.rows(moduleMeant(module));
+}
+
+bool ClassBook::resetList(StringView typed, Moment now)
+{
+    const String module = moduleMeant(typed);
     const auto rows = highscores_.rows(module);
     if (!highscores_.remove(module)) {
         return false;
     }
-    const String key = HighscoreLists::nameOf(module);
     for (const HighscoreRow& row : rows) {
         note(u"reset",
-             key + u" " + plainText(row.rank) + u": " +
+             module + u" " + plainText(row.rank) + u": " +
                  described(row.name, row.points, row.pointsMax, row.exercise, row.at),
              now);
     }
-    note(u"reset", key, now);
+    note(u"reset", module, now);
     return true;
 }
 
@@ -159,19 +177,20 @@ std::size_t ClassBook::resetListsFrom(StringView address, Moment now)
 {
     std::size_t count = 0;
     for (const ListOrigin& origin : highscores_.origins()) {
-        if (origin.address == address) {
+        if (origin.address == address && !highscores_.isReal(origin.module)) {
             count += resetList(origin.module, now) ? 1U : 0U;
         }
     }
     return count;
 }
 
-std::optional<HighscoreRow> ClassBook::removeEntry(StringView module, std::int32_t rank, Moment now)
+std::optional<HighscoreRow> ClassBook::removeEntry(StringView typed, std::int32_t rank, Moment now)
 {
+    const String module = moduleMeant(typed);
     auto row = highscores_.removeEntry(module, rank);
     if (row) {
         note(u"remove",
-             HighscoreLists::nameOf(module) + u" " + plainText(rank) + u": " +
+             module + u" " + plainText(rank) + u": " +
                  described(row->name, row->points, row->pointsMax, row->exercise, row->at),
              now);
     }

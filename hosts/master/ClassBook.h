@@ -87,15 +87,17 @@ public:
     std::vector<Change> latestChanges(std::size_t atMost) { return store_.latestChanges(atMost); }
     std::vector<HandedIn> handedInSince(Moment since) { return store_.handedInSince(since); }
     std::vector<ListOrigin> lists() { return highscores_.origins(); }
-    std::vector<HighscoreRow> highscore(StringView module) { return highscores_.rows(module); }
+    /// The entries of a list, whose name may be typed as it is shown.
+    std::vector<HighscoreRow> highscore(StringView typed);
 
-    // Corrections by the teacher; each that changes something is noted as a Change.
+    // Corrections by the teacher; each that changes something is noted as a Change. Lists are named as above.
 
     /// Takes a list away with all its entries; false when there is none.
-    bool resetList(StringView module, Moment now);
-    /// Takes the lists away that this computer has begun; gives how many.
+    bool resetList(StringView typed, Moment now);
+    /// Takes the lists away that this computer has begun, but those that can always begin: everybody uses
+    /// them. Gives how many.
     std::size_t resetListsFrom(StringView address, Moment now);
-    std::optional<HighscoreRow> removeEntry(StringView module, std::int32_t rank, Moment now);
+    std::optional<HighscoreRow> removeEntry(StringView typed, std::int32_t rank, Moment now);
     std::optional<Result> removeResult(std::int32_t number, Moment now);
     /// Corrects a name wherever it is kept, whatever its case; it may be given as it is shown. Gives how many
     /// spellings it was found in.
@@ -103,6 +105,7 @@ public:
 
 private:
     void reload();
+    String moduleMeant(StringView typed);
     void note(StringView action, const String& about, Moment now);
     RoomState storedRoom() const;
 

@@ -357,8 +357,7 @@ Console::Answer Console::remove(StringView arguments, const Finish& finish)
         if (!name) {
             return refuse(u"Diesen Eintrag gibt es nicht.", u"There is no such entry.");
         }
-        tell(u"Entfernt: ein Eintrag von {1}", u"Taken away: an entry of {1}",
-             {isolated(shownSafely(*name))});
+        tell(u"Entfernt: ein Eintrag von {1}", u"Taken away: an entry of {1}", {*name});
         return Outcome::Done;
     };
     if (equalsIgnoringCase(module, ResultsModule)) {
@@ -434,7 +433,11 @@ Console::Answer Console::quit(StringView /*arguments*/, const Finish& /*finish*/
 
 void Console::tell(StringView german, StringView english, const Variant::Array& values)
 {
-    output_ << toUtf8(LNG()->TRANSLATE(german, english, values)) << '\n';
+    Variant::Array shown;
+    for (const Variant& value : values) {
+        shown.emplace_back(isolated(shownSafely(value.toText())));
+    }
+    output_ << toUtf8(LNG()->TRANSLATE(german, english, shown)) << '\n';
 }
 
 Console::Outcome Console::refuse(StringView german, StringView english, const Variant::Array& values)

@@ -58,6 +58,8 @@ public:
     /// The name under which a module's list is kept.
     static String nameOf(StringView module);
 
+    /// Whether a list of that name can always begin.
+    bool isReal(const String& key) const;
     /// The modules whose lists can always begin.
     void modulesOfApp(std::set<String> modules) { modulesOfApp_ = std::move(modules); }
 
@@ -95,7 +97,6 @@ private:
     bool mayBegin(const String& key, const String& address, std::vector<NoticeCase>& rNotices);
     Kept& begin(const String& key, const Result& result, const String& address,
                 std::vector<NoticeCase>& rNotices);
-    bool isReal(const String& key) const;
     void load(const String& key, Kept& kept);
     void applyRules(const String& key, cls_DataScores& list) const;
     void changed(const String& key, Kept& kept);

@@ -36,6 +36,12 @@ String numberText(double value)
     return plainText(value, currentLocale().decimalSign);
 }
 
+/// A text that stands in a line of its own.
+String safe(StringView text)
+{
+    return isolated(shownSafely(text));
+}
+
 /// Names of one table, marked where they are doubtful.
 class NameColumn
 {
@@ -236,7 +242,7 @@ void writeChanges(std::ostream& output, const std::vector<Change>& changes)
     }
     for (const Change& change : changes) {
         output << toUtf8(timeText(change.at)) << "  " << toUtf8(change.action) << "  "
-               << toUtf8(isolated(shownSafely(change.about))) << '\n';
+               << toUtf8(safe(change.about)) << '\n';
     }
 }
 
@@ -247,7 +253,7 @@ void writeSettings(std::ostream& output, const MasterSettings& settings)
         tell(output, u"Es ist nichts gesetzt.", u"Nothing is set.");
     }
     for (std::int32_t at = 1; at <= all.Count(); ++at) {
-        output << toUtf8(all.Name(at)) << " = " << toUtf8(shownValue(all.Value(at))) << '\n';
+        output << toUtf8(safe(all.Name(at))) << " = " << toUtf8(safe(shownValue(all.Value(at)))) << '\n';
     }
 }
 

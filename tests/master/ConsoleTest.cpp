@@ -241,6 +241,42 @@ TEST_F(ConsoleTest, TakesAwayWhatOneComputerHasBegun)
     EXPECT_TRUE(room_.store.committed().origins.empty());
 }
 
+TEST_F(ConsoleTest, LeavesTheListsOfTheAppAndOfTheTeacherWhereOneComputersAreTakenAway)
+{
+    room_.chooseApp(u"Molmasse");
+    room_.set(u"ALKANE.ONCE", u"yes");
+    for (const StringView module : {u"M1", u"SALZE", u"HIGHSCORE", u"ALKANE"}) {
+        submit(module, u"Anna", 1);
+    }
+    EXPECT_EQ(answerTo(u"reset --from 10.0.0.1"), "Entfernte Bestenlisten: 1\n");
+    EXPECT_THAT(answerTo(u"highscore"),
+                AllOf(HasSubstr("SALZE"), HasSubstr("HIGHSCORE"), HasSubstr("ALKANE"), Not(HasSubstr("M1"))));
+}
+
+TEST_F(ConsoleTest, AListCanBeTypedAsItIsShown)
+{
+    submit(u"SALZ\u202EE", u"Anna", 1);
+    submit(u"SALZ\u2039202E\u203AE", u"Ben", 1);
+    submit(u"M\u200BY\u00A0LIST", u"Cem", 3);
+    submit(u"M\u200BY\u00A0LIST", u"Dora", 2);
+    EXPECT_THAT(answerTo(u"highscore salz\u2039202E\u203Ae"), HasSubstr("Ben")) << "the one called so";
+    EXPECT_EQ(answerTo(u"reset salz\u2039202E\u203Ae"), "Die Bestenliste ist jetzt leer.\n");
+    EXPECT_THAT(answerTo(u"highscore salz\u2039202E\u203Ae"), HasSubstr("Anna"));
+    EXPECT_EQ(answerTo(u"remove m\u2039200B\u203Ay list 1"), "Entfernt: ein Eintrag von Cem\n");
+    EXPECT_EQ(answerTo(u"reset m\u2039200B\u203Ay list"), "Die Bestenliste ist jetzt leer.\n");
+    EXPECT_EQ(answerTo(u"reset m\u2039200B\u203Ay list"), "Diese Bestenliste gibt es nicht.\n");
+}
+
+TEST_F(ConsoleTest, WhatIsTypedTurnsNoLineRound)
+{
+    addResult(u"An\u202Ena", 1);
+    EXPECT_EQ(answerTo(u"rename An\u202Ena Anna"), "An\u2039202E\u203Ana heißt jetzt Anna.\n");
+    EXPECT_THAT(answerTo(u"rename An\u202Ena Anna"), StartsWith("An\u2039202E\u203Ana hat nichts"));
+    EXPECT_THAT(answerTo(u"app \u202EX"), HasSubstr("Ausgewählt ist: \u2039202E\u203AX\n"));
+    EXPECT_THAT(answerTo(u"set A\u202EB C\u202ED"), HasSubstr("A\u2039202E\u203AB = C\u2039202E\u203AD\n"));
+    EXPECT_THAT(answerTo(u"dance\u202E"), Not(HasSubstr("\u202E")));
+}
+
 TEST_F(ConsoleTest, RemovesOneEntryOfAHighscore)
 {
     submit(u"My list", u"Anna", 3);
