@@ -67,7 +67,7 @@ void moveFocus(Form& form, bool backward)
     if (order.empty()) {
         return;
     }
-    const auto active = std::ranges::find(order, form.ActiveControl());
+    const auto active = std::ranges::find(order, form.keyboardFocus()->field());
     const auto count = static_cast<std::ptrdiff_t>(order.size());
     const std::ptrdiff_t at = active == order.end() ? (backward ? 0 : -1) : active - order.begin();
     form.focus(order[static_cast<std::size_t>((at + (backward ? count - 1 : 1)) % count)]);
@@ -157,7 +157,7 @@ void strike(Form& form, const KeyStroke& stroke)
     const bool isCharacter = stroke.character != 0;
     KeyEvent down{isCharacter ? upperCase(stroke.character) : static_cast<std::int32_t>(stroke.key),
                   stroke.Shift};
-    const ControlPtr active = form.ActiveControl();
+    const ControlPtr active = form.keyboardFocus()->field();
     if (form.inputKeyDown(down)) {
         const bool commanding = (stroke.Shift & (ShiftMask::Control | ShiftMask::Alt)) != 0;
         const char16_t plain = isCharacter ? stroke.character : characterOf(stroke.key);

@@ -27,7 +27,7 @@ void Container::ScaleMode(ScaleUnit value)
     unit_ = value;
 }
 
-void Container::add(ControlPtr control)
+void Container::add(const ControlPtr& control)
 {
     if (!control) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
@@ -37,11 +37,22 @@ void Container::add(ControlPtr control)
         throw RuntimeError(ErrorNumber::InvalidArgument);
     }
     frame.container_ = this;
-    controls_.push_back(std::move(control));
+    controls_.push_back(control);
     report_(ControlAspect::Children);
+    control->frame().tellSeen();
 }
 
-void Container::remove(const Control& control)
+void Container::remove(Control& control)
+{
+    const ControlPtr self = control.shared_from_this(); // outlives its place here
+    if (find(control) != controls_.end()) {
+        control.frame().leaveFocus();
+        release(control);
+        control.frame().tellSeen();
+    }
+}
+
+void Container::release(const Control& control)
 {
     const auto found = find(control);
     if (found == controls_.end()) {

@@ -29,8 +29,9 @@ public:
     double twipsPerUnit() const { return unit_ == ScaleUnit::Twips ? 1 : TwipsPerPixel; }
 
     /// Puts the control in front of the others. It must stand in no container.
-    void add(ControlPtr control);
-    void remove(const Control& control);
+    void add(const ControlPtr& control);
+    /// Takes the control away; the focus leaves it first.
+    void remove(Control& control);
     const std::vector<ControlPtr>& controls() const { return controls_; }
     void toFront(const Control& control);
     void toBack(const Control& control);
@@ -40,6 +41,8 @@ public:
     void owner(Control* value) { owner_ = value; }
 
 private:
+    friend class ControlFrame;
+    void release(const Control& control);
     std::vector<ControlPtr>::iterator find(const Control& control);
 
     ScaleUnit unit_;

@@ -7,6 +7,7 @@
 namespace phial
 {
 
+class KeyboardFocus;
 class UserControl;
 
 /// Anything that has a place on a form: interface, without state. The frame holds what controls have in
@@ -91,6 +92,8 @@ public:
     virtual std::size_t controlCount() const = 0;
     /// Raises 9 outside.
     virtual ObjectPtr controlAt(std::size_t index) const = 0;
+    /// Where typing goes; null when it knows of no keyboard.
+    virtual KeyboardFocus* keyboardFocus() { return nullptr; }
 };
 
 } // namespace phial

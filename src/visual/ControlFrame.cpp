@@ -2,6 +2,7 @@
 
 #include "core/RuntimeError.h"
 #include "visual/Form.h"
+#include "visual/KeyboardFocus.h"
 #include "visual/UserControl.h"
 
 namespace phial
@@ -100,9 +101,24 @@ void ControlFrame::leaveFocusIfUnreachable()
     if (!parentForm) {
         return;
     }
-    const ControlPtr active = parentForm->ActiveControl();
-    if (active && !active->frame().isReachable()) {
+    const ControlPtr focused = parentForm->keyboardFocus()->field();
+    if (focused && !focused->frame().isReachable()) {
         parentForm->focus(nullptr);
+    }
+}
+
+/// Before the control is taken away.
+void ControlFrame::leaveFocus()
+{
+    const auto parent = Parent();
+    KeyboardFocus* focus = parent ? parent->keyboardFocus() : nullptr;
+    if (!focus || !(focus->isAt(control_) || focus->isInside(control_))) {
+        return;
+    }
+    if (const auto parentForm = form()) {
+        parentForm->focus(nullptr);
+    } else {
+        focus->moveTo(nullptr);
     }
 }
 
@@ -146,15 +162,35 @@ void ControlFrame::tellSeen()
     }
 }
 
+void ControlFrame::tellEnded()
+{
+    if (const Container* inner = control_.container()) {
+        const auto within = inner->controls(); // a handler may add or remove
+        for (const ControlPtr& control : within) {
+            if (control->frame().privateHolder() == &control_) {
+                control->frame().tellEnded();
+            }
+        }
+    }
+    if (UserControl* painted = control_.painted()) {
+        painted->ended();
+    }
+}
+
 void ControlFrame::SetFocus()
 {
+    const ControlPtr self = control_.shared_from_this();
+    const auto parent = Parent();
     if (const auto parentForm = form()) {
-        parentForm->focus(control_.shared_from_this());
-    } else if (peer_ && canFocus_ && isReachable()) {
-        report(ControlAspect::Focus);
-    } else {
+        parentForm->focus(self);
+        return;
+    }
+    KeyboardFocus* focus = parent ? parent->keyboardFocus() : nullptr;
+    const ControlPtr field = focus ? focus->fieldOf(self) : nullptr;
+    if (!field || !field->frame().peer()) {
         throw RuntimeError(ErrorNumber::InvalidArgument);
     }
+    field->frame().report(ControlAspect::Focus); // its widget takes it, and says so
 }
 
 void ControlFrame::focusChanged(bool focused)
@@ -164,7 +200,6 @@ void ControlFrame::focusChanged(bool focused)
     }
     focused_ = focused;
     if (focused) {
-        report(ControlAspect::Focus);
         control_.gotFocus();
     } else {
         inputComposition({});
@@ -265,9 +300,34 @@ void ControlFrame::container(Container& value)
     }
     const ControlPtr self = control_.shared_from_this();
     if (container_) {
-        container_->remove(control_);
+        container_->release(control_);
     }
     value.add(self);
+}
+
+bool ControlFrame::standsIn(const Control& control) const
+{
+    for (const ControlFrame* holder = holderOf(*this); holder; holder = holderOf(*holder)) {
+        if (&holder->control_ == &control) {
+            return true;
+        }
+    }
+    return false;
+}
+
+const Control* ControlFrame::privateHolder() const
+{
+    return parent_.expired() && container_ ? container_->owner() : nullptr;
+}
+
+std::shared_ptr<ControlParent> ControlFrame::Parent() const
+{
+    for (const ControlFrame* frame = this; frame; frame = holderOf(*frame)) {
+        if (auto parent = frame->parent_.lock()) {
+            return parent;
+        }
+    }
+    return nullptr;
 }
 
 std::shared_ptr<Form> ControlFrame::form() const

@@ -77,6 +77,9 @@ public:
     /// For the form and the containers: calls the painted control's `shown` or `hidden`, and that of the
     /// controls within, where isSeen has changed since the last time.
     void tellSeen();
+    /// For whoever takes the control away for good: tells the painted control, and those that it holds for
+    /// itself before it, that they have ended.
+    void tellEnded();
 
     /// Place in the order of the Tab key; controls of equal index follow the order in which they were added.
     std::int32_t TabIndex() const { return tabIndex_; }
@@ -86,12 +89,13 @@ public:
     /// Whether it can take the focus at all; a control's constructor sets it.
     bool canFocus() const { return canFocus_; }
     void canFocus(bool value) { canFocus_ = tabStop_ = value; }
-    /// Takes the focus: the one that had it hears LostFocus, this one GotFocus, before the call returns.
-    /// Raises 5 for a control that cannot be reached or stands on no form.
+    /// Takes the focus: the one that had it hears LostFocus, this one GotFocus, before the call returns. A
+    /// painted control that holds fields hands it to one of them. Raises 5 for a control that cannot be
+    /// reached or stands on no form.
     void SetFocus();
+    /// Whether it, or a field that it holds for itself, has the focus.
     bool hasFocus() const { return focused_; }
-    /// For the form, and for the adapter in a foreign window: the control has got or lost the focus, and
-    /// hears so.
+    /// For KeyboardFocus: the control has got or lost the focus, and hears so.
     void focusChanged(bool focused);
     /// The same without telling the control.
     void forgetFocus() { focused_ = false; }
@@ -128,8 +132,14 @@ public:
     Container* container() const { return container_; }
     /// Moves the control into another container of the same form.
     void container(Container& value);
-    /// The form, or what stands for it in a foreign window: it gives the siblings. Null before it is added.
-    std::shared_ptr<ControlParent> Parent() const { return parent_.lock(); }
+    /// Whether it stands, at any depth, in that control.
+    bool standsIn(const Control& control) const;
+    /// The painted control that holds this one for itself: its name is known there only, and focus and keys
+    /// reach it through its holder. Null for what belongs to the form.
+    const Control* privateHolder() const;
+    /// The form, or what stands for it in a foreign window: it gives the siblings. A control that another one
+    /// holds for itself has its holder's. Null before it is added.
+    std::shared_ptr<ControlParent> Parent() const;
     void Parent(const std::shared_ptr<ControlParent>& value) { parent_ = value; }
     /// The parent as form; null in a foreign window.
     std::shared_ptr<Form> form() const;
@@ -156,6 +166,7 @@ private:
     double toTwips(double value) const;
     /// `twips` is in twips.
     void place(const PixelRectangle& twips);
+    void leaveFocus();
     void leaveFocusIfUnreachable();
 
     Control& control_;

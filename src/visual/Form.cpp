@@ -59,9 +59,8 @@ Form::Form(String name)
 Form::~Form()
 {
     for (const ObjectPtr& object : objects_) {
-        auto* control = dynamic_cast<Control*>(object.get());
-        if (UserControl* painted = control ? control->painted() : nullptr) {
-            ignoringErrors([painted] { painted->ended(); });
+        if (auto* control = dynamic_cast<Control*>(object.get())) {
+            ignoringErrors([control] { control->frame().tellEnded(); });
         }
     }
 }
@@ -198,17 +197,12 @@ void Form::remove(const Object& object)
 
 void Form::removeControl(Control& control)
 {
-    if (active_.lock().get() == &control) {
-        focus(nullptr);
-    }
     if (phial::Container* holder = control.frame().container()) {
         holder->remove(control);
     }
     control.frame().Parent(nullptr);
     control.frame().tellSeen();
-    if (UserControl* painted = control.painted()) {
-        painted->ended();
-    }
+    control.frame().tellEnded();
 }
 
 void Form::addComponent(ObjectPtr component)
@@ -339,12 +333,12 @@ void Form::focusFirst()
     if (!Visible()) {
         return;
     }
-    ControlPtr first = active_.lock();
+    ControlPtr first = focus_.field();
     if (!first || !first->frame().isReachable()) {
         const auto order = tabOrder();
         first = order.empty() ? nullptr : order.front();
     }
-    active_.reset();
+    focus_.choose(nullptr);
     focus(first);
 }
 
@@ -367,9 +361,7 @@ void Form::closeWindow()
     if (!peer_) {
         return;
     }
-    if (const auto active = active_.lock()) {
-        active->frame().forgetFocus();
-    }
+    focus_.forget();
     peer_.reset();
     tellSeen();
     isActive_ = activateTold_ = false;

@@ -2,6 +2,7 @@
 
 #include "core/Colour.h"
 #include "visual/Container.h"
+#include "visual/KeyboardFocus.h"
 #include "visual/Menu.h"
 #include "visual/NamedObjects.h"
 #include "visual/Timer.h"
@@ -163,7 +164,9 @@ public:
     WindowHandle hWnd() const { return handle_; }
 
     // Focus and keys.
-    ControlPtr ActiveControl() const { return active_.lock(); }
+    /// The form's control that has the focus, or that holds the field that has it; null when none has.
+    ControlPtr ActiveControl() const { return focus_.control(); }
+    KeyboardFocus* keyboardFocus() override { return &focus_; }
     /// The form hears keys before its controls do.
     bool KeyPreview() const { return keyPreview_; }
     void KeyPreview(bool value) { keyPreview_ = value; }
@@ -172,7 +175,7 @@ public:
     void DefaultControl(const ControlPtr& value) { default_ = value; }
     ControlPtr CancelControl() const { return cancel_.lock(); }
     void CancelControl(const ControlPtr& value) { cancel_ = value; }
-    /// The controls that Tab reaches, in its order.
+    /// The controls that Tab reaches, in its order; the fields of a painted control at its place.
     std::vector<ControlPtr> tabOrder() const;
     /// The control's SetFocus.
     void focus(const ControlPtr& control);
@@ -275,7 +278,7 @@ private:
     phial::Container container_;
     NamedObjects objects_;
     std::shared_ptr<Menu> menu_ = std::make_shared<Menu>();
-    std::weak_ptr<Control> active_;
+    KeyboardFocus focus_;
     std::weak_ptr<Control> default_;
     std::weak_ptr<Control> cancel_;
 

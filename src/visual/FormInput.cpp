@@ -60,21 +60,18 @@ void Form::inputWindowState(phial::WindowState value)
 
 std::vector<ControlPtr> Form::tabOrder() const
 {
-    std::vector<ControlPtr> order;
+    std::vector<ControlPtr> controls;
     for (const ObjectPtr& object : objects_) {
-        auto control = std::dynamic_pointer_cast<Control>(object);
-        if (control && control->frame().TabStop() && control->frame().isReachable()) {
-            order.push_back(std::move(control));
+        if (auto control = std::dynamic_pointer_cast<Control>(object)) {
+            controls.push_back(std::move(control));
         }
     }
-    std::ranges::stable_sort(order, {},
-                             [](const ControlPtr& control) { return control->frame().TabIndex(); });
-    return order;
+    return tabStops(std::move(controls));
 }
 
 void Form::focus(const ControlPtr& control)
 {
-    if (control && !(control->frame().canFocus() && control->frame().isReachable())) {
+    if (control && !focus_.fieldOf(control)) {
         throw RuntimeError(ErrorNumber::InvalidArgument);
     }
     inputFocus(control);
@@ -82,19 +79,10 @@ void Form::focus(const ControlPtr& control)
 
 void Form::inputFocus(const ControlPtr& control)
 {
-    const ControlPtr previous = active_.lock();
-    if (previous == control && (!control || control->frame().hasFocus())) {
-        return;
-    }
-    active_ = control;
-    if (!Visible()) {
-        return; // told when the form is shown
-    }
-    if (previous) {
-        previous->frame().focusChanged(false);
-    }
-    if (control && active_.lock() == control) { // a handler may have moved the focus on
-        control->frame().focusChanged(true);
+    if (Visible()) {
+        focus_.moveTo(control);
+    } else {
+        focus_.choose(control); // told when the form is shown
     }
 }
 
@@ -104,7 +92,7 @@ bool Form::inputKeyDown(KeyEvent& event)
     if (keyPreview_) {
         KeyDown.emit(event);
     }
-    const ControlPtr active = active_.lock();
+    const ControlPtr active = focus_.field();
     if (active && event.KeyCode != 0 && active->frame().Enabled()) {
         active->keyDown(event);
     }
@@ -117,9 +105,11 @@ bool Form::pressDefault(const KeyEvent& event)
     if (event.Shift != 0 || (!isReturn && !event.is(Key::Escape))) {
         return false;
     }
-    const ControlPtr active = active_.lock();
-    if (active && active->wantsKey(isReturn ? Key::Return : Key::Escape)) {
-        return false;
+    const ControlPtr active = focus_.field();
+    for (const Control* asked = active.get(); asked; asked = asked->frame().privateHolder()) {
+        if (asked->wantsKey(isReturn ? Key::Return : Key::Escape)) {
+            return false;
+        }
     }
     ControlPtr pressed = isReturn ? default_.lock() : cancel_.lock();
     if (isReturn && std::dynamic_pointer_cast<ctl_Button>(active)) {
@@ -138,7 +128,7 @@ bool Form::inputKeyPress(KeyPressEvent& event)
     if (keyPreview_) {
         KeyPress.emit(event);
     }
-    const ControlPtr active = active_.lock();
+    const ControlPtr active = focus_.field();
     if (active && event.KeyAscii != 0 && active->frame().Enabled()) {
         active->keyPress(event);
     }
@@ -151,7 +141,7 @@ bool Form::inputKeyUp(KeyEvent& event)
     if (keyPreview_) {
         KeyUp.emit(event);
     }
-    const ControlPtr active = active_.lock();
+    const ControlPtr active = focus_.field();
     if (active && event.KeyCode != 0 && active->frame().Enabled()) {
         active->keyUp(event);
     }

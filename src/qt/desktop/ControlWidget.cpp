@@ -12,6 +12,7 @@
 #include "qt/desktop/PixelRatio.h"
 #include "qt/desktop/WidgetAspects.h"
 #include "qt/desktop/WindowHandles.h"
+#include "visual/KeyboardFocus.h"
 #include "visual/PaintSurface.h"
 
 #include <QApplication>
@@ -74,12 +75,13 @@ ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* pare
     connect(this, &QObject::objectNameChanged, this,
             [this](const QString& name) { control_->frame().NAME(fromQt(name)); });
     findParent();
+    orderStops();
 }
 
 ControlWidget::~ControlWidget()
 {
     if (isForeign() && peer_->isLinked()) {
-        dispatch([&] { control_->ended(); });
+        dispatch([&] { control_->frame().tellEnded(); });
     }
 }
 
@@ -92,6 +94,21 @@ QSize ControlWidget::sizeHint() const
 void ControlWidget::findParent()
 {
     control_->frame().Parent(ForeignParent::of(*window()));
+}
+
+// In a window of plain Qt the toolkit moves the focus: the control's fields follow its own place there.
+void ControlWidget::orderStops()
+{
+    if (!isForeign()) {
+        return;
+    }
+    QWidget* before = this;
+    for (const ControlPtr& stop : tabStops({control_})) {
+        if (QWidget* next = widgetOf(stop->hWnd()); next && next != this) {
+            setTabOrder(before, next);
+            before = next;
+        }
+    }
 }
 
 void ControlWidget::modelChanged(ControlAspect aspect)
@@ -107,6 +124,7 @@ void ControlWidget::modelChanged(ControlAspect aspect)
     case ControlAspect::ZOrder:
         if (children_) {
             children_->synchronise();
+            orderStops();
         }
         break;
     case ControlAspect::Drag:
@@ -217,6 +235,8 @@ void ControlWidget::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     if (isForeign()) {
         findParent();
+    }
+    if (isInForeignWindow()) {
         dispatch([&] {
             control_->frame().Visible(true);
             control_->shown();
@@ -227,7 +247,7 @@ void ControlWidget::showEvent(QShowEvent* event)
 void ControlWidget::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    if (isForeign()) {
+    if (isInForeignWindow()) {
         dispatch([&] {
             control_->frame().Visible(!isHidden()); // not when the window alone has gone
             control_->hidden();
@@ -361,6 +381,10 @@ void ControlWidget::wheelEvent(QWheelEvent* event)
 
 void ControlWidget::keyPressEvent(QKeyEvent* event)
 {
+    if (isKeyForInner(*control_)) {
+        event->ignore();
+        return;
+    }
     const QPointer<ControlWidget> self(this);
     dispatch([&] {
         const bool consumed = !keyPressed(*control_, *event);
@@ -372,6 +396,10 @@ void ControlWidget::keyPressEvent(QKeyEvent* event)
 
 void ControlWidget::keyReleaseEvent(QKeyEvent* event)
 {
+    if (isKeyForInner(*control_)) {
+        event->ignore();
+        return;
+    }
     dispatch([&] { keyReleased(*control_, *event); });
 }
 
@@ -401,9 +429,7 @@ void ControlWidget::focusInEvent(QFocusEvent* event)
 void ControlWidget::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
-    if (isForeign()) {
-        dispatch([&] { control_->frame().focusChanged(false); });
-    }
+    dispatch([&] { focusLeft(*control_); });
     update();
 }
 

@@ -89,7 +89,10 @@ private:
 
     void modelChanged(ControlAspect aspect);
     void findParent();
+    void orderStops();
     bool isForeign() const { return placement_ != Placement::OnForm; }
+    /// The same for what stands within such a control.
+    bool isInForeignWindow() const { return control_->frame().Parent() && !control_->frame().form(); }
     void takePlace();
     void followWidget();
     void takePolicy();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "visual/Control.h"
+#include "visual/KeyboardFocus.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -21,12 +21,14 @@ public:
     ScaleUnit ScaleMode() const override { return ScaleUnit::Pixels; }
     std::size_t controlCount() const override;
     ObjectPtr controlAt(std::size_t index) const override;
+    KeyboardFocus* keyboardFocus() override { return &focus_; }
 
     StringView typeName() const override { return u"Window"; }
     MemberTable members() const override;
 
 private:
     QPointer<QWidget> window_;
+    KeyboardFocus focus_;
 };
 
 } // namespace phial::qt

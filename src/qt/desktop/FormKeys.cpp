@@ -1,7 +1,11 @@
 #include "qt/desktop/FormKeys.h"
 
+#include "qt/desktop/ControlWidget.h"
 #include "qt/desktop/InputCodes.h"
+#include "qt/desktop/WindowHandles.h"
 #include "visual/Form.h"
+
+#include <QApplication>
 
 namespace phial::qt
 {
@@ -25,6 +29,16 @@ bool keyPress(Control& control, Form* form, KeyPressEvent& key)
     }
     control.keyPress(key);
     return key.KeyAscii != 0;
+}
+
+bool belongsToControl(const QWidget& widget)
+{
+    for (const QWidget* holder = &widget; holder; holder = holder->parentWidget()) {
+        if (qobject_cast<const ControlWidget*>(holder)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -68,11 +82,34 @@ bool keyReleased(Control& control, const QKeyEvent& event)
 
 void focusEntered(Control& control)
 {
+    const ControlPtr self = control.shared_from_this();
+    const auto parent = control.frame().Parent();
     if (const std::shared_ptr<Form> form = control.frame().form()) {
-        form->inputFocus(control.shared_from_this());
-    } else {
-        control.frame().focusChanged(true);
+        form->inputFocus(self);
+    } else if (KeyboardFocus* focus = parent ? parent->keyboardFocus() : nullptr) {
+        focus->moveTo(self);
     }
+}
+
+// A form's control keeps the focus until another one of the form takes it, and so does a control in a foreign
+// window while the focus goes to another one there.
+void focusLeft(Control& control)
+{
+    const auto parent = control.frame().Parent();
+    KeyboardFocus* focus = parent && !control.frame().form() ? parent->keyboardFocus() : nullptr;
+    const QWidget* left = widgetOf(control.hWnd());
+    const QWidget* next = QApplication::focusWidget();
+    if (!focus || (next && left && next->window() == left->window() && belongsToControl(*next))) {
+        return;
+    }
+    focus->moveTo(nullptr);
+}
+
+bool isKeyForInner(const Control& control)
+{
+    const auto parent = control.frame().Parent();
+    const KeyboardFocus* focus = parent ? parent->keyboardFocus() : nullptr;
+    return focus && focus->isInside(control);
 }
 
 } // namespace phial::qt

@@ -15,7 +15,11 @@ namespace phial::qt
 bool keyPressed(Control& control, const QKeyEvent& event, char16_t& rCharacter);
 bool keyPressed(Control& control, const QKeyEvent& event);
 bool keyReleased(Control& control, const QKeyEvent& event);
-/// The control's widget has got the focus.
+/// The control's widget has got the focus, or lost it.
 void focusEntered(Control& control);
+void focusLeft(Control& control);
+/// Whether keys are for a control that stands in this one, whose widget is only asked since that control's
+/// own has let them pass.
+bool isKeyForInner(const Control& control);
 
 } // namespace phial::qt

@@ -44,6 +44,17 @@ void endWithoutWindows()
     }
 }
 
+/// The models go on alone while their widgets end.
+void partFromWidgets(const Container& container)
+{
+    for (const ControlPtr& control : container.controls()) {
+        control->frame().peer(nullptr);
+        if (const Container* within = control->container()) {
+            partFromWidgets(*within);
+        }
+    }
+}
+
 } // namespace
 
 FormWindow::FormWindow(const std::shared_ptr<Form>& form)
@@ -77,11 +88,7 @@ void FormWindow::open()
 void FormWindow::leave()
 {
     open_ = false;
-    for (std::size_t at = 0; at < form_->controlCount(); ++at) {
-        if (auto* control = dynamic_cast<Control*>(form_->controlAt(at).get())) {
-            control->frame().peer(nullptr);
-        }
-    }
+    partFromWidgets(form_->container());
     hide();
     deleteLater();
     QTimer::singleShot(0, QCoreApplication::instance(), endWithoutWindows);
@@ -242,7 +249,7 @@ bool FormWindow::focusNextPrevChild(bool next)
     if (!open_ || order.empty()) {
         return false;
     }
-    const auto current = std::find(order.begin(), order.end(), form_->ActiveControl());
+    const auto current = std::find(order.begin(), order.end(), form_->keyboardFocus()->field());
     const auto count = static_cast<std::ptrdiff_t>(order.size());
     std::ptrdiff_t at = next ? 0 : count - 1;
     if (current != order.end()) {

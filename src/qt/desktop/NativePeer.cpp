@@ -120,6 +120,9 @@ bool NativePeer::eventFilter(QObject* watched, QEvent* event)
     case QEvent::FocusIn:
         run([&] { focusEntered(*control_); });
         return false;
+    case QEvent::FocusOut:
+        run([&] { focusLeft(*control_); });
+        return false;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
