@@ -5,6 +5,7 @@
 #include "visual/CommandBar.h"
 #include "visual/Form.h"
 #include "visual/PaintSurface.h"
+#include "visual/Typing.h"
 #include "visual/ctl_Button.h"
 
 #include <algorithm>
@@ -14,20 +15,6 @@ namespace phial::headless
 
 namespace
 {
-
-/// Characters that are keys of their own in KeyPress.
-char16_t characterOf(Key key)
-{
-    switch (key) {
-    case Key::Backspace:
-    case Key::Tab:
-    case Key::Return:
-    case Key::Escape:
-        return static_cast<char16_t>(key);
-    default:
-        return 0;
-    }
-}
 
 /// The control at a place of its container (in pixels), from the front; null when there is none.
 ControlPtr controlAt(const Container& container, PixelPoint place)
@@ -159,14 +146,10 @@ void strike(Form& form, const KeyStroke& stroke)
                   stroke.Shift};
     const ControlPtr active = form.keyboardFocus()->field();
     if (form.inputKeyDown(down)) {
-        const bool commanding = (stroke.Shift & (ShiftMask::Control | ShiftMask::Alt)) != 0;
-        const char16_t plain = isCharacter ? stroke.character : characterOf(stroke.key);
-        const bool shifted = (stroke.Shift & ShiftMask::Shift) != 0;
-        KeyPressEvent typed{shifted && isCharacter ? upperCase(plain) : plain};
-        const bool typing = typed.KeyAscii != 0 && !commanding;
-        if (!typing || form.inputKeyPress(typed)) {
+        KeyPressEvent typed{typedCharacter({sentCharacter(stroke), stroke.key, stroke.Shift})};
+        if (typed.KeyAscii == 0 || form.inputKeyPress(typed)) {
             if (stroke.key == Key::Tab) {
-                moveFocus(form, shifted);
+                moveFocus(form, (stroke.Shift & ShiftMask::Shift) != 0);
             } else if (active) {
                 typeInto(*active, stroke, typed.KeyAscii);
             }
@@ -186,14 +169,14 @@ void type(Form& form, StringView notation)
 
 void compose(Form& form, StringView text)
 {
-    if (const ControlPtr active = form.ActiveControl()) {
+    if (const ControlPtr active = form.keyboardFocus()->field()) {
         active->frame().inputComposition({String(text), static_cast<std::int32_t>(text.size())});
     }
 }
 
 void commit(Form& form, StringView text)
 {
-    const ControlPtr active = form.ActiveControl();
+    const ControlPtr active = form.keyboardFocus()->field();
     if (!active || !active->frame().isReachable()) {
         return;
     }

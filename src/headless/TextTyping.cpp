@@ -2,6 +2,7 @@
 
 #include "visual/RichTextBox.h"
 #include "visual/TextBox.h"
+#include "visual/Typing.h"
 
 #include <algorithm>
 
@@ -101,7 +102,8 @@ void moveCaret(EditedText& edited, const KeyStroke& stroke)
         edited.lineEnd();
         break;
     default:
-        if ((stroke.Shift & ShiftMask::Control) != 0 && upperCase(stroke.character) == u'A') {
+        if (isCommand(stroke.Shift) && (stroke.Shift & ShiftMask::Control) != 0 &&
+            upperCase(stroke.character) == u'A') {
             edited.selectAll();
         }
     }
@@ -110,7 +112,6 @@ void moveCaret(EditedText& edited, const KeyStroke& stroke)
 void edit(EditedText& edited, const KeyStroke& stroke, char16_t character, bool multiLine,
           std::int32_t maxLength)
 {
-    const bool commanding = (stroke.Shift & (ShiftMask::Control | ShiftMask::Alt)) != 0;
     if (stroke.key == Key::Backspace) {
         edited.eraseBack();
     } else if (stroke.key == Key::Delete) {
@@ -119,7 +120,7 @@ void edit(EditedText& edited, const KeyStroke& stroke, char16_t character, bool 
         if (multiLine) {
             edited.insert(u"\r\n");
         }
-    } else if (character >= u' ' && !commanding && edited.roomLeft(maxLength) > 0) {
+    } else if (character >= u' ' && edited.roomLeft(maxLength) > 0) {
         edited.insert(StringView(&character, 1));
     }
 }

@@ -1,5 +1,7 @@
 #include "qt/desktop/InputCodes.h"
 
+#include "visual/Typing.h"
+
 #include <QChar>
 
 #include <array>
@@ -80,21 +82,6 @@ Qt::KeyboardModifiers modifiersOf(std::int32_t shift)
     return modifiers;
 }
 
-// Keys that both have a code and type a character.
-char16_t characterOf(Key code)
-{
-    switch (code) {
-    case Key::Backspace:
-    case Key::Tab:
-    case Key::Return:
-    case Key::Escape:
-    case Key::Space:
-        return static_cast<char16_t>(code);
-    default:
-        return 0;
-    }
-}
-
 } // namespace
 
 std::int32_t shiftBits(Qt::KeyboardModifiers modifiers)
@@ -148,30 +135,27 @@ KeyEvent keyEvent(const QKeyEvent& event)
 
 char16_t typedCharacter(const QKeyEvent& event)
 {
-    const char16_t special = characterOf(static_cast<Key>(codeOf(event.key())));
-    if (special != 0) {
-        return special;
-    }
-    if (event.key() == Qt::Key_Dead_Circumflex && event.text().isEmpty()) {
-        return u'^';
-    }
-    const bool command = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) !=
-                         Qt::KeyboardModifiers();
-    // The right Alt key reports Ctrl and Alt on some desktops, but then types a character.
-    if (event.text().size() != 1 || (command && !event.text().front().isPrint())) {
+    if (event.modifiers().testFlag(Qt::MetaModifier)) {
         return 0;
     }
-    return event.text().front().unicode();
+    KeyStroke stroke{0, static_cast<Key>(codeOf(event.key())), shiftBits(event.modifiers())};
+    if (event.text().size() == 1 && phial::typedCharacter({0, stroke.key, 0}) == 0) {
+        stroke.character = event.text().front().unicode();
+    } else if (event.key() == Qt::Key_Dead_Circumflex && event.text().isEmpty()) {
+        stroke.character = u'^';
+    }
+#ifdef Q_OS_MACOS
+    stroke.Shift &= ~ShiftMask::Alt; // the key that types further characters there
+#endif
+    return phial::typedCharacter(stroke);
 }
 
 QKeyEvent toolkitKey(QEvent::Type type, const KeyStroke& stroke)
 {
-    const bool command = (stroke.Shift & (ShiftMask::Control | ShiftMask::Alt)) != 0;
-    const bool shifted = (stroke.Shift & ShiftMask::Shift) != 0;
-    const QChar character(stroke.character != 0 ? stroke.character : characterOf(stroke.key));
-    const int code = stroke.character != 0 ? character.toUpper().unicode() : toolkitCode(stroke.key);
-    const QString text(shifted ? character.toUpper() : character);
-    return {type, code, modifiersOf(stroke.Shift), character.isNull() || command ? QString() : text};
+    const QChar character(sentCharacter(stroke));
+    const int code = character.isNull() ? toolkitCode(stroke.key) : character.toUpper().unicode();
+    const QChar typed(phial::typedCharacter({character.unicode(), stroke.key, stroke.Shift}));
+    return {type, code, modifiersOf(stroke.Shift), typed.isNull() ? QString() : QString(typed)};
 }
 
 } // namespace phial::qt

@@ -17,7 +17,7 @@ PointerButton pointerButton(Qt::MouseButton button);
 PointerEvent pointerEvent(const QMouseEvent& event);
 
 KeyEvent keyEvent(const QKeyEvent& event);
-/// The character that a key types; 0 for none, as for keys with Ctrl or Alt.
+/// The character that a key types, as Typing.h has it; 0 for none.
 char16_t typedCharacter(const QKeyEvent& event);
 
 /// The event of a key going down (QEvent::KeyPress) or up that a stroke stands for.

@@ -146,12 +146,14 @@ bool NativePeer::filterKey(QWidget& widget, QKeyEvent& event)
     if (!self || !isLinked() || !goesOn) {
         return true;
     }
-    const bool isTypedAsItIs = event.key() != Qt::Key_Dead_Circumflex;
-    if (isTypedAsItIs && character == typedCharacter(event)) {
+    const bool isKept = character == typedCharacter(event) && event.key() != Qt::Key_Dead_Circumflex;
+    const bool isSign = event.text().size() == 1 && event.text().front().isPrint();
+    if (isKept && (character != 0 || !isSign)) {
         return false;
     }
-    QKeyEvent changed(event.type(), QChar(character).toUpper().unicode(), event.modifiers(),
-                      QString(QChar(character)));
+    const int key = character == 0 ? event.key() : QChar(character).toUpper().unicode();
+    const QString text = character == 0 ? QString() : QString(QChar(character)); // a command's sign is not typed
+    QKeyEvent changed(event.type(), key, event.modifiers(), text);
     const QScopedValueRollback<bool> resending(resending_, true);
     QApplication::sendEvent(&widget, &changed);
     return true;
