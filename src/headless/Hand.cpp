@@ -33,15 +33,22 @@ ControlPtr controlAt(const Container& container, PixelPoint place)
     return nullptr;
 }
 
+/// A press takes the focus along.
+void focusByPress(Control& control)
+{
+    const auto form = control.frame().form();
+    if (form && control.frame().canFocus() && control.frame().isReachable()) {
+        form->focus(control.shared_from_this());
+    }
+}
+
 void press(Control& control, double x, double y)
 {
     const auto self = control.shared_from_this();
     if (!control.frame().isReachable()) {
         return;
     }
-    if (control.frame().canFocus() && control.frame().form()) {
-        control.frame().form()->focus(self);
-    }
+    focusByPress(control);
     const PointerEvent event{PointerButton::Left, 0, x, y};
     control.pointerDown(event);
     control.pointerUp(event);
@@ -130,7 +137,11 @@ void clickButton(Control& bar, StringView key)
 {
     auto& commands = dynamic_cast<CommandBar&>(bar);
     for (std::int32_t index = 1; index <= commands.BUTTONS()->Count(); ++index) {
-        if (equalsIgnoringCase(commands.BUTTONS()->Item(index)->Key(), key)) {
+        const auto button = commands.BUTTONS()->Item(index);
+        if (equalsIgnoringCase(button->Key(), key)) {
+            if (button->Enabled() && button->Visible()) {
+                focusByPress(bar);
+            }
             commands.inputButton(index);
             return;
         }

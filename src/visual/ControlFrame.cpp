@@ -95,6 +95,22 @@ void ControlFrame::Enabled(bool value)
     leaveFocusIfUnreachable();
 }
 
+void ControlFrame::TabStop(bool value)
+{
+    if (tabStop_ != value) {
+        tabStop_ = value;
+        report(ControlAspect::Enabled);
+    }
+}
+
+void ControlFrame::canFocus(bool value)
+{
+    if (canFocus_ != value || tabStop_ != value) {
+        canFocus_ = tabStop_ = value;
+        report(ControlAspect::Enabled);
+    }
+}
+
 void ControlFrame::leaveFocusIfUnreachable()
 {
     const auto parentForm = form();

@@ -85,10 +85,10 @@ public:
     std::int32_t TabIndex() const { return tabIndex_; }
     void TabIndex(std::int32_t value) { tabIndex_ = value; }
     bool TabStop() const { return tabStop_; }
-    void TabStop(bool value) { tabStop_ = value; }
-    /// Whether it can take the focus at all; a control's constructor sets it.
+    void TabStop(bool value);
+    /// Whether it can take the focus at all, by a press or a key; a control's constructor sets it.
     bool canFocus() const { return canFocus_; }
-    void canFocus(bool value) { canFocus_ = tabStop_ = value; }
+    void canFocus(bool value);
     /// Takes the focus: the one that had it hears LostFocus, this one GotFocus, before the call returns. A
     /// painted control that holds fields hands it to one of them. Raises 5 for a control that cannot be
     /// reached or stands on no form.

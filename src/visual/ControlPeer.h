@@ -9,7 +9,7 @@ namespace phial
 enum class ControlAspect : std::int32_t {
     Geometry,
     Visibility,
-    Enabled,
+    Enabled, ///< or whether the focus comes to it
     ZOrder,
     Focus, ///< the control has taken the focus
     Pointer,

@@ -2,8 +2,11 @@
 #include "qt/desktop/InputCodes.h"
 #include "visual/PictureBox.h"
 #include "visual/TextBox.h"
+#include "visual/ctl_Button.h"
+#include "visual/ctl_CmdBar.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 using namespace phial;
@@ -81,6 +84,77 @@ TEST_F(TypingTest, KeysThatEditAreNotTyped)
         QTest::keyClick(&line(), key);
     }
     EXPECT_EQ(typed_, u"\b\r\x1B");
+}
+
+/// A form with a field that has a selection, another field, and a bar.
+class FieldsWithABarTest : public DesktopSession
+{
+protected:
+    FieldsWithABarTest()
+    {
+        form_->ScaleMode(ScaleUnit::Pixels);
+        form_->innerSize({400, 300});
+        box_ = form_->add<TextBox>(u"txt_Input");
+        box_->Move(0, 0, 200, 30);
+        other_ = form_->add<TextBox>(u"txt_Other");
+        other_->Move(0, 40, 200, 30);
+        bar_ = form_->add<ctl_CmdBar>(u"bar_Format");
+        bar_->Move(0, 100, 300, 40);
+        bar_->BUTTONS()->Add(u"B", u"B");
+        box_->Text(u"Wasser");
+        form_->Show();
+        EXPECT_TRUE(eventually([&] { return line(*box_).hasFocus(); }));
+        box_->SelStart(2);
+        box_->SelLength(3);
+    }
+    ~FieldsWithABarTest() override { form_->discard(); }
+
+    static QLineEdit& line(const Control& control) { return *widgetOf(control).findChild<QLineEdit*>(); }
+    QPushButton& button() const { return *widgetOf(*bar_).findChild<QPushButton*>(); }
+    static void drain() { QApplication::processEvents(); }
+
+    std::shared_ptr<Form> form_ = std::make_shared<Form>(u"frm_Test");
+    std::shared_ptr<TextBox> box_;
+    std::shared_ptr<TextBox> other_;
+    std::shared_ptr<ctl_CmdBar> bar_;
+};
+
+TEST_F(FieldsWithABarTest, AFieldKeepsItsSelectionWhileTheFocusIsElsewhere)
+{
+    other_->SetFocus();
+    EXPECT_TRUE(line(*other_).hasFocus());
+    EXPECT_EQ(box_->SelText(), u"sse");
+    EXPECT_EQ(line(*box_).selectedText(), QStringLiteral("sse"));
+    QTest::mouseClick(&button(), Qt::LeftButton);
+    EXPECT_EQ(form_->ActiveControl(), bar_);
+    box_->SelText(u"<b>sse</b>");
+    box_->SetFocus();
+    EXPECT_EQ(box_->Text(), u"Wa<b>sse</b>r");
+}
+
+TEST_F(FieldsWithABarTest, ASelectionMadeBackwardsStaysSo)
+{
+    line(*box_).setSelection(5, -3);
+    other_->SetFocus();
+    EXPECT_EQ(line(*box_).selectedText(), QStringLiteral("sse"));
+    EXPECT_EQ(line(*box_).cursorPosition(), 2);
+}
+
+TEST_F(FieldsWithABarTest, ABarThatTakesNoFocusLeavesItInTheField)
+{
+    for (const bool takesFocus : {false, true}) {
+        bar_->frame().canFocus(takesFocus); // while it is shown
+        box_->SetFocus();
+        int presses = 0;
+        const auto pressed = bar_->BUTTON.connect([&](std::int32_t, const String&) { ++presses; });
+        QTest::mouseClick(&button(), Qt::LeftButton);
+        EXPECT_EQ(presses, 1);
+        EXPECT_EQ(button().hasFocus(), takesFocus);
+        EXPECT_EQ(form_->ActiveControl() == bar_, takesFocus);
+        other_->SetFocus();
+        QTest::keyClick(&line(*other_), Qt::Key_Tab);
+        EXPECT_EQ(button().hasFocus(), takesFocus);
+    }
 }
 
 } // namespace

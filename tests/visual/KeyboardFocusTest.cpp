@@ -3,6 +3,7 @@
 #include "support/Composite.h"
 #include "visual/FormTest.h"
 #include "visual/PictureBox.h"
+#include "visual/ctl_CmdBar.h"
 
 namespace phial::test
 {
@@ -208,6 +209,45 @@ TEST_F(CompositeFocus, CompositesWithinCompositesHearInOrder)
     form->remove(*outer);
     EXPECT_THAT(log, ElementsAre("before lost", "outer got", "inner got", "inner lost", "outer lost",
                                  "before got", "inner ended", "outer ended"));
+}
+
+class FieldsWithABar : public FormTest
+{
+protected:
+    void SetUp() override
+    {
+        box->Text(u"Wasser");
+        form->Show();
+        box->SelStart(2);
+        box->SelLength(3);
+        bar->BUTTONS()->Add(u"B", u"B");
+    }
+
+    std::shared_ptr<TextBox> box = form->add<TextBox>(u"txt_Input");
+    std::shared_ptr<TextBox> other = form->add<TextBox>(u"txt_Other");
+    std::shared_ptr<ctl_CmdBar> bar = form->add<ctl_CmdBar>(u"bar_Format");
+};
+
+TEST_F(FieldsWithABar, AFieldKeepsItsSelectionWhileTheFocusIsElsewhere)
+{
+    other->SetFocus();
+    headless::clickButton(*bar, u"b");
+    EXPECT_EQ(form->ActiveControl(), bar);
+    EXPECT_EQ(box->SelText(), u"sse");
+    box->SelText(u"<b>sse</b>");
+    box->SetFocus();
+    EXPECT_EQ(box->Text(), u"Wa<b>sse</b>r");
+}
+
+TEST_F(FieldsWithABar, ABarThatTakesNoFocusLeavesItInTheField)
+{
+    bar->frame().canFocus(false);
+    int presses = 0;
+    connections += bar->BUTTON.connect([&](std::int32_t, const String&) { ++presses; });
+    headless::clickButton(*bar, u"B");
+    EXPECT_EQ(form->ActiveControl(), box);
+    EXPECT_EQ(presses, 1);
+    EXPECT_EQ(form->tabOrder(), (std::vector<ControlPtr>{box, other}));
 }
 
 } // namespace

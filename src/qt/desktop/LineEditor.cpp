@@ -5,6 +5,7 @@
 
 #include <QLineEdit>
 #include <QPointer>
+#include <QSignalBlocker>
 
 namespace phial::qt
 {
@@ -14,11 +15,31 @@ namespace
 
 constexpr int NoLimit = 32767;
 
+/// The toolkit's field lets go of its selection with the focus; this one keeps it.
+class KeepingLine final : public QLineEdit
+{
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        const int start = selectionStart();
+        const int length = selectionLength();
+        const bool isBackward = start == cursorPosition();
+        const QSignalBlocker quiet(this);
+        QLineEdit::focusOutEvent(event);
+        if (length > 0) {
+            setSelection(isBackward ? start + length : start, isBackward ? -length : length);
+        }
+    }
+};
+
 /// A field of one line.
 class LineEditor final : public TextEditor
 {
 public:
-    LineEditor(QWidget& holder, const std::function<void()>& changed) : line_(new QLineEdit(&holder))
+    LineEditor(QWidget& holder, const std::function<void()>& changed) : line_(new KeepingLine(&holder))
     {
         line_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // the model says how large it is
         QObject::connect(line_, &QLineEdit::textChanged, line_, changed);

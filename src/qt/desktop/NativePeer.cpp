@@ -47,6 +47,19 @@ void NativePeer::begin()
 void NativePeer::watch(QWidget& widget)
 {
     widget.installEventFilter(this);
+    std::erase_if(watched_, [](const Watched& entry) { return !entry.widget; });
+    watched_.push_back({&widget, widget.focusPolicy()});
+    showReach();
+}
+
+// What the focus cannot come to has no part that takes it; otherwise each part takes it in its own way.
+void NativePeer::showReach()
+{
+    for (const Watched& entry : watched_) {
+        if (entry.widget && entry.widget != &widget_) {
+            entry.widget->setFocusPolicy(control_->frame().canFocus() ? entry.ownPolicy : Qt::NoFocus);
+        }
+    }
 }
 
 void NativePeer::modelChanged(ControlAspect aspect)
@@ -84,8 +97,10 @@ void NativePeer::show(ControlAspect aspect)
     case ControlAspect::Geometry:
         showPlace();
         break;
-    case ControlAspect::Visibility: // the frame's alone
     case ControlAspect::Enabled:
+        showReach();
+        break;
+    case ControlAspect::Visibility: // the frame's alone
     case ControlAspect::ZOrder:
     case ControlAspect::Focus:
     case ControlAspect::Pointer:
@@ -152,7 +167,8 @@ bool NativePeer::filterKey(QWidget& widget, QKeyEvent& event)
         return false;
     }
     const int key = character == 0 ? event.key() : QChar(character).toUpper().unicode();
-    const QString text = character == 0 ? QString() : QString(QChar(character)); // a command's sign is not typed
+    const QString text =
+        character == 0 ? QString() : QString(QChar(character)); // a command's sign is not typed
     QKeyEvent changed(event.type(), key, event.modifiers(), text);
     const QScopedValueRollback<bool> resending(resending_, true);
     QApplication::sendEvent(&widget, &changed);

@@ -2,12 +2,13 @@
 
 #include "visual/Control.h"
 
-#include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 #include <functional>
+#include <vector>
 
 class QKeyEvent;
-class QWidget;
 
 namespace phial::qt
 {
@@ -53,7 +54,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    struct Watched {
+        QPointer<QWidget> widget;
+        Qt::FocusPolicy ownPolicy;
+    };
+
     void show(ControlAspect aspect);
+    void showReach();
     bool isLinked() const;
     bool filterKey(QWidget& widget, QKeyEvent& event);
     void filterPress(const QEvent& event);
@@ -61,6 +68,7 @@ private:
 
     ControlPtr control_;
     QWidget& widget_;
+    std::vector<Watched> watched_;
     bool showing_ = false;
     bool resending_ = false;
 };

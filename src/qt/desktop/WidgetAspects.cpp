@@ -68,6 +68,7 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)
         break;
     case ControlAspect::Enabled:
         widget.setEnabled(frame.Enabled());
+        applyFocusPolicy(widget, frame);
         break;
     case ControlAspect::Focus:
         widget.setFocus(Qt::OtherFocusReason);
@@ -105,7 +106,6 @@ void tellShape(QWidget& widget)
 
 void applyFrame(QWidget& widget, Control& control)
 {
-    applyFocusPolicy(widget, control.frame());
     for (const ControlAspect aspect :
          {ControlAspect::Geometry, ControlAspect::Enabled, ControlAspect::Pointer, ControlAspect::ToolTip,
           ControlAspect::Accessibility, ControlAspect::Visibility}) {
