@@ -15,6 +15,7 @@ struct TextBox::Properties {
         rows::property<u"Locked">(&TextBox::locked_),
         rows::property<u"MaxLength">(&TextBox::maxLength_).raisingUnless(rows::isNotNegative),
         rows::property<u"MultiLine">(&TextBox::multiLine_),
+        rows::property<u"AcceptsReturn">(&TextBox::acceptsReturn_),
         rows::property<u"PasswordChar">(&TextBox::passwordChar_),
         rows::property<u"Alignment">(&TextBox::alignment_),
         rows::font<u"Font">(&TextBox::font_),
@@ -82,6 +83,7 @@ void TextBox::SelText(StringView value)
 void TextBox::Locked(bool value) { rows::set<Properties, u"Locked">(*this, value); }
 void TextBox::MaxLength(std::int32_t value) { rows::set<Properties, u"MaxLength">(*this, value); }
 void TextBox::MultiLine(bool value) { rows::set<Properties, u"MultiLine">(*this, value); }
+void TextBox::AcceptsReturn(bool value) { rows::set<Properties, u"AcceptsReturn">(*this, value); }
 void TextBox::PasswordChar(String value) { rows::set<Properties, u"PasswordChar">(*this, std::move(value)); }
 void TextBox::Alignment(phial::Alignment value) { rows::set<Properties, u"Alignment">(*this, value); }
 void TextBox::Font(FontPtr value) { rows::set<Properties, u"Font">(*this, std::move(value)); }

@@ -34,6 +34,10 @@ public:
     void MaxLength(std::int32_t value);
     bool MultiLine() const { return multiLine_; }
     void MultiLine(bool value);
+    /// Whether Return makes a line in a field of several. If not, Return is for the form's default control,
+    /// where it has one, and Ctrl+Return makes the line. True at first.
+    bool AcceptsReturn() const { return acceptsReturn_; }
+    void AcceptsReturn(bool value);
     /// Shown for each character; empty shows the text.
     String PasswordChar() const { return passwordChar_; }
     void PasswordChar(String value);
@@ -65,7 +69,7 @@ public:
     MemberTable members() const override;
     ControlFrame& frame() override { return frame_; }
     String accessibleText() const override { return {}; }
-    bool wantsKey(Key key) const override { return multiLine_ && key == Key::Return; }
+    bool wantsKey(Key key) const override { return multiLine_ && acceptsReturn_ && key == Key::Return; }
     void pointerDown(const PointerEvent& event) override { MouseDown.emit(event); }
     void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
     void click() override { Click.emit(); }
@@ -86,6 +90,7 @@ private:
     bool locked_ = false;
     std::int32_t maxLength_ = 0;
     bool multiLine_ = false;
+    bool acceptsReturn_ = true;
     String passwordChar_;
     phial::Alignment alignment_ = phial::Alignment::Left;
     SharedFont font_;

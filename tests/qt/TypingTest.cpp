@@ -6,6 +6,7 @@
 #include "visual/ctl_CmdBar.h"
 
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -155,6 +156,30 @@ TEST_F(FieldsWithABarTest, ABarThatTakesNoFocusLeavesItInTheField)
         QTest::keyClick(&line(*other_), Qt::Key_Tab);
         EXPECT_EQ(button().hasFocus(), takesFocus);
     }
+}
+
+TEST_F(FieldsWithABarTest, AFieldOfSeveralLinesGivesReturnToTheDefaultControlWhereItSaysSo)
+{
+    const auto page = form_->add<TextBox>(u"txt_Lines");
+    page->MultiLine(true);
+    page->AcceptsReturn(false);
+    page->Move(0, 150, 200, 100);
+    page->SetFocus();
+    const auto enter = form_->add<ctl_Button>(u"but_Enter");
+    int clicks = 0;
+    const auto clicked = enter->CLICK.connect([&] { ++clicks; });
+    auto& editor = *widgetOf(*page).findChild<QPlainTextEdit*>();
+    QTest::keyClicks(&editor, QStringLiteral("a"));
+    QTest::keyClick(&editor, Qt::Key_Return);
+    form_->DefaultControl(enter);
+    QTest::keyClick(&editor, Qt::Key_Return);
+    QTest::keyClick(&editor, Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClicks(&editor, QStringLiteral("b"));
+    EXPECT_EQ(page->Text(), u"a\r\n\r\nb");
+    EXPECT_EQ(clicks, 1);
+    page->Locked(true);
+    QTest::keyClick(&editor, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(page->Text(), u"a\r\n\r\nb");
 }
 
 } // namespace

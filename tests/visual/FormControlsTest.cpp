@@ -271,6 +271,23 @@ TEST_F(FormKeys, AFieldOfSeveralLinesKeepsReturn)
     EXPECT_THAT(log, IsEmpty());
 }
 
+TEST_F(FormKeys, AFieldOfSeveralLinesGivesReturnToTheDefaultControlWhereItSaysSo)
+{
+    const auto box = form->add<TextBox>(u"txt_Input");
+    const auto enter = form->add<ctl_Button>(u"but_Enter");
+    box->MultiLine(true);
+    EXPECT_TRUE(box->AcceptsReturn());
+    EXPECT_TRUE(trySet(*box, u"AcceptsReturn", Variant(false)));
+    logs(enter->CLICK, "enter");
+    form->Show();
+    headless::type(*form, u"a~b");
+    EXPECT_EQ(box->Text(), u"a\r\nb") << "there is no default control";
+    form->DefaultControl(enter);
+    headless::type(*form, u"~c^~d");
+    EXPECT_EQ(box->Text(), u"a\r\nbc\r\nd");
+    EXPECT_THAT(log, ElementsAre("enter"));
+}
+
 TEST_F(FormKeys, PreviewHearsKeysFirstAndCanSwallowThem)
 {
     const auto box = form->add<TextBox>(u"txt_Input");

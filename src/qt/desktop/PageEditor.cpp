@@ -3,6 +3,7 @@
 #include "qt/desktop/LineEnds.h"
 #include "qt/desktop/TextEditor.h"
 
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QTextBlock>
@@ -13,11 +14,31 @@ namespace phial::qt
 namespace
 {
 
+/// The toolkit's field has no use for Ctrl and Return; in this one they make a line.
+class LinedPage final : public QPlainTextEdit
+{
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+        if (isReturn && modifiers == Qt::ControlModifier && !isReadOnly()) {
+            textCursor().insertBlock();
+            ensureCursorVisible();
+        } else {
+            QPlainTextEdit::keyPressEvent(event);
+        }
+    }
+};
+
 /// A field of many lines.
 class PageEditor final : public TextEditor
 {
 public:
-    PageEditor(QWidget& holder, const std::function<void()>& changed) : page_(new QPlainTextEdit(&holder))
+    PageEditor(QWidget& holder, const std::function<void()>& changed) : page_(new LinedPage(&holder))
     {
         page_->setTabChangesFocus(true);
         QObject::connect(page_, &QPlainTextEdit::textChanged, page_, [this, changed] {
