@@ -1,19 +1,24 @@
 #pragma once
 
 #include "core/CoreTextBoxOps.h"
+#include "visual/TextBox.h"
 
 #include <vector>
 
 namespace phial::headless
 {
 
-/// Remembers which text boxes were to be made ready.
+/// Makes text boxes ready and remembers which.
 class RecordingTextBoxes : public CoreTextBoxOps
 {
 public:
     const std::vector<const TextBox*>& prepared() const { return prepared_; }
 
-    void Prepare(TextBox& pTextBox) override { prepared_.push_back(&pTextBox); }
+    void Prepare(TextBox& pTextBox) override
+    {
+        prepared_.push_back(&pTextBox);
+        pTextBox.prepare();
+    }
 
 private:
     std::vector<const TextBox*> prepared_;

@@ -216,6 +216,7 @@ void ControlFrame::focusChanged(bool focused)
     }
     focused_ = focused;
     if (focused) {
+        ++focusTurn_;
         control_.gotFocus();
     } else {
         inputComposition({});

@@ -99,6 +99,8 @@ public:
     void focusChanged(bool focused);
     /// The same without telling the control.
     void forgetFocus() { focused_ = false; }
+    /// Counts how often it has got the focus.
+    std::uint32_t focusTurn() const { return focusTurn_; }
 
     /// What one types into a control that paints itself; none, as at first, for one that takes no text. An
     /// adapter brings input methods to it.
@@ -183,6 +185,7 @@ private:
     bool tabStop_ = false;
     bool canFocus_ = false;
     bool focused_ = false;
+    std::uint32_t focusTurn_ = 0;
     bool seen_ = false; ///< as last told
     std::optional<phial::TextEntry> textEntry_;
     Composition composition_;

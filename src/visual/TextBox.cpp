@@ -60,6 +60,16 @@ void TextBox::SelLength(std::int32_t value)
     frame_.report(ControlAspect::Selection);
 }
 
+void TextBox::prepare()
+{
+    SetFocus();
+    if (preparedIn_ != frame_.focusTurn()) {
+        preparedIn_ = frame_.focusTurn();
+        SelStart(0);
+        SelLength(static_cast<std::int32_t>(text_.size()));
+    }
+}
+
 String TextBox::SelText() const
 {
     return text_.substr(static_cast<std::size_t>(selStart_), static_cast<std::size_t>(selLength_));

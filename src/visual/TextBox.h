@@ -5,6 +5,8 @@
 #include "visual/Control.h"
 #include "visual/SharedFont.h"
 
+#include <optional>
+
 namespace phial
 {
 
@@ -26,6 +28,9 @@ public:
     String SelText() const;
     /// Replaces the selection and puts the caret behind; raises Change when the text differs.
     void SelText(StringView value);
+    /// Makes it ready for being edited in place: it takes the focus, and its whole text is selected. While it
+    /// has the focus this happens once; from then on presses place the caret.
+    void prepare();
 
     bool Locked() const { return locked_; }
     void Locked(bool value);
@@ -87,6 +92,7 @@ private:
     String text_;
     std::int32_t selStart_ = 0;
     std::int32_t selLength_ = 0;
+    std::optional<std::uint32_t> preparedIn_; ///< turn of the focus
     bool locked_ = false;
     std::int32_t maxLength_ = 0;
     bool multiLine_ = false;

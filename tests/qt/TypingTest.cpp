@@ -158,6 +158,22 @@ TEST_F(FieldsWithABarTest, ABarThatTakesNoFocusLeavesItInTheField)
     }
 }
 
+TEST_F(FieldsWithABarTest, PreparingSelectsAllOncePerFocusAndPressesPlaceTheCaret)
+{
+    DesktopTextBoxes boxes;
+    const auto prepares = box_->Click.connect([&] { boxes.Prepare(*box_); });
+    QLineEdit& field = line(*box_);
+    other_->SetFocus();
+    QTest::mouseClick(&field, Qt::LeftButton);
+    EXPECT_EQ(field.selectedText(), QStringLiteral("Wasser"));
+    QTest::mouseClick(&field, Qt::LeftButton, Qt::NoModifier, QPoint(190, 15));
+    EXPECT_EQ(box_->SelLength(), 0);
+    EXPECT_EQ(box_->SelStart(), 6);
+    other_->SetFocus();
+    boxes.Prepare(*box_);
+    EXPECT_EQ(field.selectedText(), QStringLiteral("Wasser"));
+}
+
 TEST_F(FieldsWithABarTest, AFieldOfSeveralLinesGivesReturnToTheDefaultControlWhereItSaysSo)
 {
     const auto page = form_->add<TextBox>(u"txt_Lines");

@@ -250,6 +250,21 @@ TEST_F(FieldsWithABar, ABarThatTakesNoFocusLeavesItInTheField)
     EXPECT_EQ(form->tabOrder(), (std::vector<ControlPtr>{box, other}));
 }
 
+TEST_F(FieldsWithABar, PreparingSelectsAllOncePerFocus)
+{
+    outside.textBoxes().Prepare(*box);
+    EXPECT_EQ(box->SelText(), u"Wasser");
+    box->inputText(u"Wasser", 4, 0); // a press
+    outside.textBoxes().Prepare(*box);
+    EXPECT_EQ(box->SelStart(), 4);
+    EXPECT_EQ(box->SelLength(), 0);
+    outside.textBoxes().Prepare(*other);
+    EXPECT_EQ(form->ActiveControl(), other);
+    outside.textBoxes().Prepare(*box);
+    EXPECT_EQ(form->ActiveControl(), box);
+    EXPECT_EQ(box->SelText(), u"Wasser");
+}
+
 } // namespace
 
 } // namespace phial::test

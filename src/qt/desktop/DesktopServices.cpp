@@ -172,9 +172,7 @@ std::shared_ptr<Picture> DesktopCursors::Load(StringView pPath, std::int32_t pSi
 
 void DesktopTextBoxes::Prepare(TextBox& pTextBox)
 {
-    pTextBox.SetFocus();
-    pTextBox.SelStart(0);
-    pTextBox.SelLength(static_cast<std::int32_t>(pTextBox.Text().size()));
+    pTextBox.prepare();
 }
 
 bool DesktopShell::open(WindowHandle /*window*/, StringView address)
