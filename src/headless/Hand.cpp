@@ -152,23 +152,25 @@ void clickButton(Control& bar, StringView key)
 void strike(Form& form, const KeyStroke& stroke)
 {
     const auto self = form.shared_from_this();
-    const bool isCharacter = stroke.character != 0;
-    KeyEvent down{isCharacter ? upperCase(stroke.character) : static_cast<std::int32_t>(stroke.key),
-                  stroke.Shift};
+    const bool wasShown = form.Visible();
+    const auto hasClosed = [&] { return wasShown && !form.Visible(); };
+    const std::int32_t code =
+        stroke.character != 0 ? upperCase(stroke.character) : static_cast<std::int32_t>(stroke.key);
+    KeyEvent down{code, stroke.Shift};
     const ControlPtr active = form.keyboardFocus()->field();
-    if (form.inputKeyDown(down)) {
+    if (form.inputKeyDown(down) && !hasClosed()) {
         KeyPressEvent typed{typedCharacter({sentCharacter(stroke), stroke.key, stroke.Shift})};
-        if (typed.KeyAscii == 0 || form.inputKeyPress(typed)) {
-            if (stroke.key == Key::Tab) {
-                moveFocus(form, (stroke.Shift & ShiftMask::Shift) != 0);
-            } else if (active) {
-                typeInto(*active, stroke, typed.KeyAscii);
-            }
+        const bool goesOn = typed.KeyAscii == 0 || form.inputKeyPress(typed);
+        if (goesOn && !hasClosed() && stroke.key == Key::Tab) {
+            moveFocus(form, (stroke.Shift & ShiftMask::Shift) != 0);
+        } else if (goesOn && !hasClosed() && active) {
+            typeInto(*active, stroke, typed.KeyAscii);
         }
     }
-    KeyEvent up{isCharacter ? upperCase(stroke.character) : static_cast<std::int32_t>(stroke.key),
-                stroke.Shift};
-    form.inputKeyUp(up);
+    if (!hasClosed()) {
+        KeyEvent up{code, stroke.Shift};
+        form.inputKeyUp(up);
+    }
 }
 
 void type(Form& form, StringView notation)

@@ -5,6 +5,7 @@
 #include "headless/PictureHead.h"
 #include "visual/Form.h"
 #include "visual/PaintSurface.h"
+#include "visual/TextEntry.h"
 
 #include <algorithm>
 #include <utility>
@@ -156,15 +157,27 @@ std::vector<PixelRectangle> HeadlessVisualHost::screens() const
     return all;
 }
 
-void HeadlessVisualHost::sendKeys(std::span<const KeyStroke> keys)
+void HeadlessVisualHost::sendKeys(std::span<const KeyStroke> keys, const std::shared_ptr<Form>& form)
 {
-    pump_->post([this, strokes = std::vector<KeyStroke>(keys.begin(), keys.end())] {
+    pump_->post([this, strokes = std::vector<KeyStroke>(keys.begin(), keys.end()), isBound = form != nullptr,
+                 bound = std::weak_ptr<Form>(form)] {
+        commitComposition();
         for (const KeyStroke& stroke : strokes) {
-            if (const auto active = forms().ActiveForm()) {
-                strike(*active, stroke);
+            const auto target = isBound ? bound.lock() : forms().ActiveForm();
+            if (target && target->Visible()) {
+                strike(*target, stroke);
             }
         }
     });
+}
+
+void HeadlessVisualHost::commitComposition()
+{
+    const auto active = forms().ActiveForm();
+    const ControlPtr field = active ? active->keyboardFocus()->field() : nullptr;
+    if (field && !field->frame().composition().text.empty()) {
+        commitText(*field, String(field->frame().composition().text));
+    }
 }
 
 std::shared_ptr<DrawBackend> HeadlessVisualHost::openPrinter(PageOrientation orientation, const String& title)

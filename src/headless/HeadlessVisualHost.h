@@ -77,7 +77,8 @@ public:
     void runModal(Form& form) override;
     std::vector<PixelRectangle> screens() const override;
     void screenPointerChanged(MousePointer pointer) override { screenPointer_ = pointer; }
-    void sendKeys(std::span<const KeyStroke> keys) override;
+    void sendKeys(std::span<const KeyStroke> keys, const std::shared_ptr<Form>& form) override;
+    void commitComposition() override;
     String clipboardText() const override { return clipboard_; }
     void clipboardText(const String& value) override { clipboard_ = value; }
     std::shared_ptr<DrawBackend> openPrinter(PageOrientation orientation, const String& title) override;

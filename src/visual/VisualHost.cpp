@@ -15,9 +15,9 @@ VisualHost& visualHost()
     return *host;
 }
 
-void SendKeys(StringView notation)
+void SendKeys(StringView notation, const std::shared_ptr<Form>& form)
 {
-    visualHost().sendKeys(parseKeyNotation(notation));
+    visualHost().sendKeys(parseKeyNotation(notation), form);
 }
 
 } // namespace phial

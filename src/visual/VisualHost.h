@@ -57,8 +57,12 @@ public:
     /// The pointer has got another shape for all windows.
     virtual void screenPointerChanged(MousePointer pointer) = 0;
 
-    /// Types the keys into the control that has the focus, one after the other, behind what is pending.
-    virtual void sendKeys(std::span<const KeyStroke> keys) = 0;
+    /// Types the keys one after the other, behind what is pending, into the control of that form that then
+    /// has the focus; without a form into that of whichever is active. What is being composed goes in before
+    /// them. Keys for a form whose window has closed are dropped.
+    virtual void sendKeys(std::span<const KeyStroke> keys, const std::shared_ptr<Form>& form) = 0;
+    /// Ends what the user is composing by dead keys or an input method: the text made so far is typed.
+    virtual void commitComposition() = 0;
 
     virtual String clipboardText() const = 0;
     virtual void clipboardText(const String& value) = 0;
@@ -76,7 +80,7 @@ private:
 VisualHost& visualHost();
 
 /// Keyboard emulation: parses the notation (see KeyNotation.h) and types the keys. Raises 5 for a notation
-/// that is ill-formed, without typing anything.
-void SendKeys(StringView notation);
+/// that is ill-formed, without typing anything. With a form they go to that one alone.
+void SendKeys(StringView notation, const std::shared_ptr<Form>& form = nullptr);
 
 } // namespace phial

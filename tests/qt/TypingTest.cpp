@@ -5,6 +5,7 @@
 #include "visual/ctl_Button.h"
 #include "visual/ctl_CmdBar.h"
 
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -172,6 +173,39 @@ TEST_F(FieldsWithABarTest, PreparingSelectsAllOncePerFocusAndPressesPlaceTheCare
     other_->SetFocus();
     boxes.Prepare(*box_);
     EXPECT_EQ(field.selectedText(), QStringLiteral("Wasser"));
+}
+
+TEST_F(FieldsWithABarTest, KeysForAFormGoThereAndNowhereElse)
+{
+    const auto front = std::make_shared<Form>(u"frm_Front");
+    const auto inFront = front->add<TextBox>(u"txt_Front");
+    inFront->Move(0, 0, 1500, 300);
+    front->Show();
+    SendKeys(u"H2", form_);
+    SendKeys(u"x", front);
+    drain();
+    EXPECT_EQ(box_->Text(), u"WaH2r");
+    EXPECT_EQ(inFront->Text(), u"x");
+    const auto closes = inFront->KeyPress.connect([&](KeyPressEvent&) { front->Hide(); });
+    SendKeys(u"yz", front);
+    drain();
+    EXPECT_EQ(inFront->Text(), u"x") << "the form has gone";
+    SendKeys(u"x", front);
+    front->discard();
+    drain();
+    EXPECT_EQ(box_->Text(), u"WaH2r");
+}
+
+TEST_F(FieldsWithABarTest, WhatIsBeingComposedGoesInBeforeTheKeys)
+{
+    QInputMethodEvent composing(QStringLiteral("^"), {});
+    QApplication::sendEvent(&line(*box_), &composing);
+    SendKeys(u"2", form_);
+    drain();
+    EXPECT_EQ(box_->Text(), u"Wa^2r");
+    SendKeys(u"3", form_);
+    drain();
+    EXPECT_EQ(box_->Text(), u"Wa^23r") << "it goes in once";
 }
 
 TEST_F(FieldsWithABarTest, AFieldOfSeveralLinesGivesReturnToTheDefaultControlWhereItSaysSo)

@@ -1,6 +1,7 @@
 #include "visual/KeyboardFocus.h"
 
 #include "support/Composite.h"
+#include "support/PaintedField.h"
 #include "visual/FormTest.h"
 #include "visual/PictureBox.h"
 #include "visual/ctl_CmdBar.h"
@@ -263,6 +264,38 @@ TEST_F(FieldsWithABar, PreparingSelectsAllOncePerFocus)
     outside.textBoxes().Prepare(*box);
     EXPECT_EQ(form->ActiveControl(), box);
     EXPECT_EQ(box->SelText(), u"Wasser");
+}
+
+TEST_F(FieldsWithABar, KeysForAFormGoThereAndNowhereElse)
+{
+    const auto front = std::make_shared<Form>(u"frm_Front");
+    const auto inFront = front->add<TextBox>(u"txt_Front");
+    front->Show();
+    EXPECT_EQ(visualHost().forms().ActiveForm(), front);
+    SendKeys(u"H2", form);
+    SendKeys(u"x");
+    outside.runPending();
+    EXPECT_EQ(box->Text(), u"WaH2r");
+    EXPECT_EQ(inFront->Text(), u"x");
+    connections += inFront->KeyPress.connect([&](KeyPressEvent&) { front->Hide(); });
+    SendKeys(u"yz", front);
+    outside.runPending();
+    EXPECT_EQ(inFront->Text(), u"x") << "the form has gone";
+    EXPECT_EQ(box->Text(), u"WaH2r");
+    SendKeys(u"x", front);
+    front->discard();
+    outside.runPending();
+    EXPECT_EQ(box->Text(), u"WaH2r");
+}
+
+TEST_F(FieldsWithABar, WhatIsBeingComposedGoesInBeforeTheKeys)
+{
+    PaintedField painted(form->add<PictureBox>(u"pic_Field"));
+    painted.box().SetFocus();
+    headless::compose(*form, u"^");
+    SendKeys(u"2", form);
+    outside.runPending();
+    EXPECT_EQ(painted.text(), u"^2");
 }
 
 } // namespace

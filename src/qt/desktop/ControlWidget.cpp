@@ -1,6 +1,7 @@
 #include "qt/desktop/ControlWidget.h"
 
 #include "qt/base/QtText.h"
+#include "qt/desktop/Composing.h"
 #include "qt/desktop/ContainerWidgets.h"
 #include "qt/desktop/ControlWidgetAccessible.h"
 #include "qt/desktop/Dispatch.h"
@@ -405,6 +406,7 @@ void ControlWidget::keyReleaseEvent(QKeyEvent* event)
 
 void ControlWidget::inputMethodEvent(QInputMethodEvent* event)
 {
+    noteComposition(*this, *event);
     dispatch([&] { inputMethod_.take(*event); });
 }
 

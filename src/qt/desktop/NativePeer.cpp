@@ -1,5 +1,6 @@
 #include "qt/desktop/NativePeer.h"
 
+#include "qt/desktop/Composing.h"
 #include "qt/desktop/Dispatch.h"
 #include "qt/desktop/FormKeys.h"
 #include "qt/desktop/InputCodes.h"
@@ -7,6 +8,7 @@
 #include "qt/desktop/WindowHandles.h"
 
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -132,6 +134,9 @@ bool NativePeer::eventFilter(QObject* watched, QEvent* event)
         run([&] { goesOn = keyReleased(*control_, static_cast<QKeyEvent&>(*event)); });
         return !goesOn;
     }
+    case QEvent::InputMethod:
+        noteComposition(*widget, static_cast<QInputMethodEvent&>(*event));
+        return false;
     case QEvent::FocusIn:
         run([&] { focusEntered(*control_); });
         return false;

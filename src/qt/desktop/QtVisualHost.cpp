@@ -3,6 +3,7 @@
 #include "core/RuntimeError.h"
 #include "core/SessionState.h"
 #include "qt/base/QtText.h"
+#include "qt/desktop/Composing.h"
 #include "qt/desktop/Cursors.h"
 #include "qt/desktop/Dispatch.h"
 #include "qt/desktop/FormWindow.h"
@@ -36,6 +37,14 @@ constexpr std::int32_t InvalidPicture = 481;
 // Millimetres; what common printers leave blank at least.
 constexpr QMarginsF PageMargins(5, 5, 5, 5);
 
+QWidget* innermost(QWidget* widget)
+{
+    while (widget && widget->focusProxy()) {
+        widget = widget->focusProxy();
+    }
+    return widget;
+}
+
 // The focus of the active form, which need not be the desktop's active window.
 QWidget* typingTarget(const Forms& forms)
 {
@@ -47,14 +56,17 @@ QWidget* typingTarget(const Forms& forms)
     return window && window->focusWidget() ? window->focusWidget() : window;
 }
 
-void typeKey(const Forms& forms, const KeyStroke& stroke)
+// Of that form, wherever the desktop's focus is; null when its window has closed.
+QWidget* typingTarget(Form& form)
 {
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-        if (QWidget* target = typingTarget(forms)) {
-            QKeyEvent event = toolkitKey(type, stroke);
-            QApplication::sendEvent(target, &event);
-        }
+    QWidget* window = form.Visible() ? widgetOf(form.hWnd()) : nullptr;
+    const ControlPtr field = form.keyboardFocus()->field();
+    QWidget* widget = window && field ? widgetOf(field->hWnd()) : nullptr;
+    if (!widget) {
+        return window;
     }
+    QWidget* part = window->focusWidget(); // one of several within
+    return part && widget->isAncestorOf(part) ? part : innermost(widget);
 }
 
 } // namespace
@@ -189,12 +201,31 @@ void QtVisualHost::screenPointerChanged(MousePointer pointer)
     }
 }
 
-void QtVisualHost::sendKeys(std::span<const KeyStroke> keys)
+void QtVisualHost::sendKeys(std::span<const KeyStroke> keys, const std::shared_ptr<Form>& form)
 {
+    const auto target = [this, isBound = form != nullptr, bound = std::weak_ptr<Form>(form)]() -> QWidget* {
+        const std::shared_ptr<Form> open = bound.lock();
+        return !isBound ? typingTarget(forms()) : open ? typingTarget(*open) : nullptr;
+    };
+    const auto post = [this](auto act) {
+        QMetaObject::invokeMethod(gate_.get(), std::move(act), Qt::QueuedConnection);
+    };
+    post([] { phial::qt::commitComposition(); });
     for (const KeyStroke& stroke : keys) {
-        QMetaObject::invokeMethod(
-            gate_.get(), [this, stroke] { typeKey(forms(), stroke); }, Qt::QueuedConnection);
+        post([target, stroke] {
+            for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+                if (QWidget* widget = target()) {
+                    QKeyEvent event = toolkitKey(type, stroke);
+                    QApplication::sendEvent(widget, &event);
+                }
+            }
+        });
     }
+}
+
+void QtVisualHost::commitComposition()
+{
+    phial::qt::commitComposition();
 }
 
 String QtVisualHost::clipboardText() const
