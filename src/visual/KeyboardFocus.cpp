@@ -3,7 +3,6 @@
 #include "visual/Container.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace phial
 {
@@ -140,7 +139,9 @@ void KeyboardFocus::tell(const ControlPtr& previous, const ControlPtr& field) co
             left->frame().focusChanged(false);
         }
     }
-    for (const ControlPtr& entered : withHolders(field) | std::views::reverse) {
+    std::vector<ControlPtr> inwards = withHolders(field);
+    std::ranges::reverse(inwards);
+    for (const ControlPtr& entered : inwards) {
         if (this->field() != field) {
             return; // a handler has moved the focus on
         }
