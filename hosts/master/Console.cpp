@@ -435,7 +435,8 @@ void Console::tell(StringView german, StringView english, const Variant::Array& 
 {
     Variant::Array shown;
     for (const Variant& value : values) {
-        shown.emplace_back(isolated(shownSafely(value.toText())));
+        const String text = isolated(shownSafely(value.toText()));
+        shown.emplace_back(text);
     }
     output_ << toUtf8(LNG()->TRANSLATE(german, english, shown)) << '\n';
 }

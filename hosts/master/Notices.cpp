@@ -74,7 +74,8 @@ Variant::Array shownValues(const std::vector<String>& about)
 {
     Variant::Array values;
     for (const String& text : about) {
-        values.emplace_back((isDoubtful(text) ? u"(!) " : u"") + isolated(shownSafely(text)));
+        const String shown = (isDoubtful(text) ? u"(!) " : u"") + isolated(shownSafely(text));
+        values.emplace_back(shown);
     }
     return values;
 }

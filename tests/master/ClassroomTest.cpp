@@ -10,6 +10,7 @@
 #include "support/AppSession.h"
 
 #include <gmock/gmock-matchers.h>
+#include <memory>
 
 using namespace phial;
 using namespace phial::master;
@@ -37,10 +38,11 @@ protected:
     String send(StringView text, std::uint64_t client = 1) { return sendAs({client, ++messages_}, text); }
     String sendAs(const FrameId& id, StringView text, StringView address = u"192.168.1.20")
     {
-        String answer = u"none";
-        receive(id, text, address, [&answer](const AnswerText& given) { answer = *given; });
+        // An answer may come later than this ends.
+        const auto answer = std::make_shared<String>(u"none");
+        receive(id, text, address, [answer](const AnswerText& given) { *answer = *given; });
         room_.desk.start();
-        return answer;
+        return *answer;
     }
     void receive(const FrameId& id, StringView text, StringView address, Classroom::Reply reply)
     {
