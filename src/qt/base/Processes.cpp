@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QStringList>
 
+#include <set>
+
 namespace phial::qt
 {
 
@@ -36,6 +38,24 @@ std::unique_ptr<QProcess> preparedProcess(const ProgramCall& call)
     return process;
 }
 
+/// Programs that go on although nobody watches them: the toolkit's object kills its program when it goes
+/// first, so those still running at the end of this program are never destroyed.
+std::set<QProcess*>& unwatchedProcesses()
+{
+    static auto* const processes = new std::set<QProcess*>;
+    return *processes;
+}
+
+void letGoOn(std::unique_ptr<QProcess> running)
+{
+    QProcess* process = running.release();
+    unwatchedProcesses().insert(process);
+    QObject::connect(process, &QProcess::finished, process, [process] {
+        unwatchedProcesses().erase(process);
+        process->deleteLater();
+    });
+}
+
 class WatchedProcess final : public RunningProgram
 {
 public:
@@ -43,9 +63,7 @@ public:
     ~WatchedProcess() override
     {
         if (isRunning()) {
-            // The toolkit's object kills the program if it goes first.
-            QProcess* process = process_.release();
-            QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+            letGoOn(std::move(process_));
         }
     }
     WatchedProcess(const WatchedProcess&) = delete;
