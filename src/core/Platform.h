@@ -10,6 +10,7 @@
 namespace phial
 {
 
+class AudioOutput;
 class Clock;
 class CoreCursors;
 class CoreDialogs;
@@ -45,6 +46,7 @@ struct Platform {
     std::shared_ptr<CoreDisplay> display;
     std::shared_ptr<CoreCursors> cursors;
     std::shared_ptr<CoreSoundFacet> sound;
+    std::shared_ptr<AudioOutput> audio;
     std::shared_ptr<CoreTextBoxOps> textBoxes;
     std::shared_ptr<Shell> shell;
     /// Left out: settings live in memory, for the session.

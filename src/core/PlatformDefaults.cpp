@@ -1,3 +1,4 @@
+#include "core/AudioOutput.h"
 #include "core/Clock.h"
 #include "core/CoreCursors.h"
 #include "core/CoreDialogs.h"
@@ -65,6 +66,17 @@ class NoSound : public CoreSoundFacet
 {
 public:
     bool Play(StringView, bool) override { return false; }
+};
+
+class NoAudio : public AudioOutput
+{
+public:
+    bool available() const override { return false; }
+    Voice start(std::shared_ptr<const Sound>) override { return Voice::None; }
+    void gain(double) override {}
+    void stop(Voice) override {}
+    bool isPlaying(Voice) const override { return false; }
+    void waitForEnd(Voice) override {}
 };
 
 class NoTextBoxes : public CoreTextBoxOps
@@ -180,6 +192,7 @@ Platform withDefaults(Platform platform)
     fill<CoreDisplay, NoDisplay>(platform.display);
     fill<CoreCursors, NoCursors>(platform.cursors);
     fill<CoreSoundFacet, NoSound>(platform.sound);
+    fill<AudioOutput, NoAudio>(platform.audio);
     fill<CoreTextBoxOps, NoTextBoxes>(platform.textBoxes);
     fill<Shell, NoShell>(platform.shell);
     fill<SettingsStore, MemorySettingsStore>(platform.settings);

@@ -34,6 +34,7 @@ Platform HeadlessPlatform::platform() const
     platform.display = display_;
     platform.cursors = cursors_;
     platform.sound = sound_;
+    platform.audio = audio_;
     platform.textBoxes = textBoxes_;
     platform.shell = shell_;
     platform.settings = settings_;

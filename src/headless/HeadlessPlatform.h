@@ -2,6 +2,7 @@
 
 #include "core/Platform.h"
 #include "core/StandardEventPump.h"
+#include "headless/FakeAudio.h"
 #include "headless/FakeClock.h"
 #include "headless/FakeDisplay.h"
 #include "headless/FakeFolders.h"
@@ -53,6 +54,7 @@ public:
     RecordingWindowOps& windows() { return *windows_; }
     FakeDisplay& display() { return *display_; }
     RecordingCursors& cursors() { return *cursors_; }
+    FakeAudio& audio() { return *audio_; }
     RecordingSound& sound() { return *sound_; }
     RecordingTextBoxes& textBoxes() { return *textBoxes_; }
     RecordingShell& shell() { return *shell_; }
@@ -79,6 +81,7 @@ private:
     std::shared_ptr<RecordingShell> shell_ = std::make_shared<RecordingShell>();
     std::shared_ptr<RecordingSettings> settings_ = std::make_shared<RecordingSettings>();
     std::shared_ptr<FakeClock> clock_ = std::make_shared<FakeClock>();
+    std::shared_ptr<FakeAudio> audio_ = std::make_shared<FakeAudio>(clock_);
     std::shared_ptr<MapEnvironment> environment_ = std::make_shared<MapEnvironment>();
     std::shared_ptr<FixedRandom> random_ = std::make_shared<FixedRandom>();
     std::shared_ptr<FaultyFileSystem> files_;

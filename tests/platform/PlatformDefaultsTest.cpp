@@ -1,3 +1,4 @@
+#include "core/AudioOutput.h"
 #include "core/Clock.h"
 #include "core/CoreCursors.h"
 #include "core/CoreDisplay.h"
@@ -47,6 +48,19 @@ TEST_F(PlatformDefaults, TheRestDoesNoHarm)
     EXPECT_FALSE(coreRoot().CoreDisplay().TextHeight());
     EXPECT_EQ(coreRoot().CoreCursors().Load(u"a.ico"), nullptr);
     EXPECT_FALSE(session.platform().newInterCom()->Send(u"NOBODY", 1, u"x"));
+}
+
+TEST_F(PlatformDefaults, ThereIsAnAudioOutputWithoutADevice)
+{
+    AudioOutput& audio = *session.platform().audio;
+    const auto sound = std::make_shared<const Sound>(Sound{8000, 1, {0.5F, -0.5F}});
+    EXPECT_FALSE(audio.available());
+    const AudioOutput::Voice voice = audio.start(sound);
+    EXPECT_EQ(voice, AudioOutput::Voice::None);
+    EXPECT_FALSE(audio.isPlaying(voice));
+    audio.gain(0.5);
+    audio.waitForEnd(voice);
+    audio.stop(voice);
 }
 
 TEST_F(PlatformDefaults, ThereIsANetworkClientWithoutANetwork)
