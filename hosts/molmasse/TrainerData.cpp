@@ -36,19 +36,17 @@ TrainerData loadTrainerData()
 {
     TrainerData data;
     const auto& folders = phial::QVAPP()->URL();
-    if (folders->ROOT().empty()) {
-        data.missing = Missing::Installation;
-        return data;
-    }
-    data.file = folders->DATASHARED() + u"elements2.dat";
-    data.elements = readElements(data.file);
+    const String elementFile = folders->DATASHARED() + u"elements2.dat";
+    data.elements = readElements(elementFile);
     if (!data.elements) {
-        data.missing = Missing::Elements;
+        data.missingFile = elementFile;
         return data;
     }
-    data.file = folders->DATAAPP() + u"formeln.txt";
-    data.tasks = readTasks(data.file);
-    data.missing = data.tasks.levels.empty() ? Missing::Tasks : Missing::Nothing;
+    const String taskFile = folders->DATAAPP() + u"formeln.txt";
+    data.tasks = readTasks(taskFile);
+    if (data.tasks.levels.empty()) {
+        data.missingFile = taskFile;
+    }
     return data;
 }
 

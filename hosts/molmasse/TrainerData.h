@@ -8,14 +8,11 @@
 namespace molmasse
 {
 
-/// What keeps the trainer from starting.
-enum class Missing { Nothing, Installation, Elements, Tasks };
-
 /// What the trainer works with, read from the installation tree.
 struct TrainerData {
-    Missing missing = Missing::Nothing;
-    /// The file that is missing or holds nothing useful; "" for Missing::Installation.
-    phial::String file;
+    /// The file without which it cannot work, since it is missing or holds nothing useful; "" for none.
+    phial::String missingFile;
+    /// The table of the elements; null when that file is missing.
     std::shared_ptr<phial::cls_DataElements> elements;
     TaskList tasks;
 };

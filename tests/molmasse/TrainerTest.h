@@ -3,8 +3,9 @@
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
 #include "app/sys_Global.h"
+#include "common/frm_LearningApp.h"
 #include "headless/Hand.h"
-#include "molmasse/frm_Molmasse.h"
+#include "molmasse/Trainer.h"
 #include "support/AppSession.h"
 #include "term/ctl_TermLabel.h"
 #include "visual/Form.h"
@@ -59,14 +60,19 @@ protected:
     }
 
     /// Starts without contact to a master, unless a test gives another command line.
-    void open(phial::StringView commandLine = u"NONETWORK", MasterSearch searchMasters = {})
+    void open(phial::StringView commandLine = u"NONETWORK", learning::MasterSearch searchMasters = {})
     {
         phial::QVAPP()->CONFIG()->IDENT(u"Molmasse");
         outside.settings().prepare(phial::SettingsHive::LocalMachine, u"Software\\QV Brunnhof\\Phial\\Path",
                                    path(u"installed\\"));
         phial::ignoringErrors([&] { phial::QVAPP()->INIT(phial::String(commandLine)); });
-        trainer = std::make_unique<frm_Molmasse>(loadTrainerData(), std::move(searchMasters));
+        trainer = newWindow(std::move(searchMasters));
         trainer->Show();
+    }
+    static std::unique_ptr<learning::frm_LearningApp> newWindow(learning::MasterSearch searchMasters = {})
+    {
+        return std::make_unique<learning::frm_LearningApp>(std::make_unique<Trainer>(loadTrainerData()),
+                                                           std::move(searchMasters));
     }
     void openInstalled()
     {
@@ -122,7 +128,7 @@ protected:
         return active ? active->NAME() : phial::String();
     }
 
-    std::unique_ptr<frm_Molmasse> trainer;
+    std::unique_ptr<learning::frm_LearningApp> trainer;
 
 private:
     void writeUnlessEmpty(const char* file, std::string_view content)

@@ -71,7 +71,7 @@ TEST_F(TrainerUser, WhoDoesNotSayGoesOnAndIsAskedAgainAtTheNextStart)
     EXPECT_EQ(formula(), u"H2O");
 
     trainer->form().Unload();
-    trainer = std::make_unique<frm_Molmasse>(loadTrainerData());
+    trainer = newWindow();
     trainer->Show();
     expectName(u"Maxi");
     trainer->welcome();

@@ -1,0 +1,235 @@
+#include "common/AppPictures.h"
+
+#include "app/Settings.h"
+#include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
+#include "app/cls_AppURL.h"
+#include "app/cls_Language.h"
+#include "app/screen/frm_AppAbout.h"
+#include "app/sys_Global.h"
+#include "common/PicturedMaster.h"
+#include "common/frm_LearningApp.h"
+#include "common/frm_MasterChoice.h"
+#include "core/CoreMachine.h"
+#include "core/CoreRegistry.h"
+#include "core/CoreRoot.h"
+#include "core/CoreStringList.h"
+#include "core/CoreSystem.h"
+#include "core/NativePath.h"
+#include "results/cls_DataScores.h"
+#include "server/cls_AppServer.h"
+
+#include <filesystem>
+
+namespace learning
+{
+
+using phial::QVAPP;
+using phial::String;
+using phial::StringView;
+
+namespace
+{
+
+using Take = std::function<void(StringView name, const phial::Form& form)>;
+
+/// From here on these have worked here before, the latest first; each is a name, ":" and an avatar's ID.
+void usersAre(std::initializer_list<StringView> users)
+{
+    phial::coreRoot().CoreRegistry().CoreRegistryWrite().WriteList(
+        phial::SettingsHive::CurrentUser, phial::settings::path(u"Config\\ScreenNameMRU"),
+        phial::CoreStringList(users));
+}
+
+/// A folder for the lists of the pictured rounds, which goes with the object.
+class ScratchLists
+{
+public:
+    ScratchLists()
+        : before_(QVAPP()->URL()->DATAHIGHSCORES()),
+          folder_(std::filesystem::temp_directory_path() /
+                  phial::toUtf8(phial::coreRoot().CoreSystem().CoreMachine().NewUniqueID()))
+    {
+        std::filesystem::create_directories(folder_);
+        QVAPP()->URL()->DATAHIGHSCORES(phial::systemPath(folder_) + u"\\");
+        fill();
+    }
+    ~ScratchLists()
+    {
+        QVAPP()->URL()->DATAHIGHSCORES(before_);
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored);
+    }
+    ScratchLists(const ScratchLists&) = delete;
+    ScratchLists& operator=(const ScratchLists&) = delete;
+
+private:
+    /// Some have been here before.
+    static void fill()
+    {
+        phial::cls_DataScores list;
+        list.ADD(94, 100, u"Leicht", nullptr, {}, {}, u"Uli");
+        list.ADD(91, 100, u"Mittel", nullptr, {}, {}, u"Dorothea");
+        list.ADD(70, 100, u"Schwer", nullptr, {}, {}, u"Jannis");
+        list.SAVE(QVAPP()->URL()->DATAHIGHSCORES() + u"HIGHSCORE.qv-hsr");
+    }
+
+    String before_;
+    std::filesystem::path folder_;
+};
+
+/// What the names of this app's pictures begin with.
+String pictureName()
+{
+    return phial::lowerCase(QVAPP()->CONFIG()->IDENT()) + u"-";
+}
+
+/// A classroom of its own for the pictures.
+std::shared_ptr<PicturedMaster> newClassroom()
+{
+    auto master = std::make_shared<PicturedMaster>();
+    QVAPP()->SERVER(std::make_shared<phial::cls_AppServer>());
+    QVAPP()->SERVER()->CLIENT(master);
+    return master;
+}
+
+/// The app with a user who knows the states he wants to see.
+class Tour
+{
+public:
+    Tour(std::unique_ptr<LearningApp> app, const Take& take, StringView language)
+        : window_(std::move(app)), take_(take), language_(language)
+    {
+        window_.Show();
+    }
+
+    ~Tour() { window_.form().Unload(); }
+    Tour(const Tour&) = delete;
+    Tour& operator=(const Tour&) = delete;
+
+    void showRound()
+    {
+        take(u"start");
+        press(u"but_Level", static_cast<std::int32_t>(window_.app().levels().size()) - 1);
+        take(u"task");
+        answer(Judgement::Wrong);
+        take(u"wrong");
+        press(u"but_Hint");
+        take(u"hint");
+        answer(Judgement::Unreadable);
+        take(u"unreadable");
+        answer(Judgement::Right);
+        take(u"right");
+        press(u"but_Check");
+        for (int tries = 0; tries < Round::Tries; ++tries) {
+            answer(Judgement::Wrong);
+        }
+        take(u"missed");
+        finishRound();
+        take(u"summary");
+    }
+
+    void showClassroom(PicturedMaster& master)
+    {
+        master.mood(PicturedMaster::Mood::Waiting);
+        window_.welcome();
+        take(u"waiting");
+        master.mood(PicturedMaster::Mood::Open);
+        press(u"but_Ask");
+        take(u"classroom");
+    }
+
+    void take(StringView state)
+    {
+        take_(String(pictureName()).append(state).append(u"-").append(language_), window_.form());
+    }
+
+private:
+    void press(StringView button, std::int32_t index = -1)
+    {
+        window_.form().control<phial::ctl_Button>(button, index)->click();
+    }
+
+    void answer(LearningApp::Sample sample)
+    {
+        window_.app().fill(sample);
+        press(u"but_Check");
+    }
+
+    void finishRound()
+    {
+        while (!window_.round()->finished()) {
+            press(u"but_Check");
+            answer(Judgement::Right);
+        }
+        press(u"but_Check");
+    }
+
+    frm_LearningApp window_;
+    const Take& take_;
+    StringView language_;
+};
+
+void showMasterChoice(StringView language, const Take& take)
+{
+    frm_MasterChoice dialog(u"192.168.10.5", [] {
+        return std::vector<phial::FoundMaster>{{u"192.168.10.5", {}}, {u"192.168.10.20", {}}};
+    });
+    dialog.form().Show();
+    dialog.form().control<phial::ctl_Button>(u"but_Search")->click();
+    take(pictureName() + u"master-choice-" + String(language), dialog.form());
+    dialog.form().Unload();
+}
+
+void showAbout(StringView language, const Take& take)
+{
+    phial::frm_AppAbout about;
+    about.form().Show();
+    take(pictureName() + u"about-" + String(language), about.form());
+    about.form().Unload();
+}
+
+/// The app without the data that it needs.
+void showMissing(const MakeApp& makeApp, const Take& take, StringView language)
+{
+    const auto& folders = QVAPP()->URL();
+    const String shared = folders->DATASHARED();
+    const String own = folders->DATAAPP();
+    folders->DATASHARED(u"Resources\\Data\\");
+    folders->DATAAPP(u"apps\\data\\");
+    auto app = makeApp();
+    folders->DATASHARED(shared);
+    folders->DATAAPP(own);
+    Tour(std::move(app), take, language).take(u"missing");
+}
+
+void showIn(phial::enm_LanguageC language, StringView name, const MakeApp& makeApp, const Take& take)
+{
+    phial::LNG()->CURRENT(language);
+    if (!QVAPP()->URL()->ROOT().empty() && makeApp()->missing().empty()) {
+        const ScratchLists lists;
+        newClassroom();
+        usersAre({});
+        Tour(makeApp(), take, name).take(u"nobody");
+        usersAre({u"Dorothea Wilhelmina:eule"});
+        Tour(makeApp(), take, name).take(u"long-name");
+        usersAre({u"Maxi:fuchs"});
+        Tour(makeApp(), take, name).showRound();
+        Tour(makeApp(), take, name).showClassroom(*newClassroom());
+        showMasterChoice(name, take);
+    }
+    showMissing(makeApp, take, name);
+    showAbout(name, take);
+}
+
+} // namespace
+
+void showEachState(const MakeApp& makeApp, const Take& take)
+{
+    const phial::enm_LanguageC before = phial::LNG()->CURRENT();
+    showIn(phial::ID_Language_German, u"de", makeApp, take);
+    showIn(phial::ID_Language_English, u"en", makeApp, take);
+    phial::LNG()->CURRENT(before);
+}
+
+} // namespace learning

@@ -1,0 +1,209 @@
+#pragma once
+
+#include "app/ctl_Avatar.h"
+#include "results/ctl_Mark.h"
+#include "visual/FormDesign.h"
+#include "visual/Shape.h"
+#include "visual/ctl_Button.h"
+#include "visual/ctl_Gradient.h"
+#include "visual/ctl_Label.h"
+#include "visual/ctl_Pannel.h"
+
+/// The design of an app's window: pages of which one is seen, between a header and a footer. Colours are
+/// roles, places are pixels.
+namespace learning::frame_design
+{
+
+using phial::ControlDesign;
+using phial::ctl_Avatar;
+using phial::ctl_Button;
+using phial::ctl_Gradient;
+using phial::ctl_Label;
+using phial::ctl_Mark;
+using phial::ctl_Pannel;
+using phial::design;
+using phial::FontWeight;
+using phial::Shape;
+using phial::StringView;
+namespace Palette = phial::Palette;
+using enum phial::TEXTALIGN;
+
+inline constexpr double Width = 900;
+inline constexpr double Height = 640;
+inline constexpr double Header = 72;
+inline constexpr double Footer = 44;
+
+/// Between the buttons of the levels, of which the app tells how many there are.
+inline constexpr double LevelGap = 21;
+
+inline constexpr ControlDesign panel(StringView name, ControlDesign::Rectangle place, phial::Colour ground,
+                                     phial::Colour edge)
+{
+    return design<ctl_Pannel>(name, place).ground(ground).edge(edge);
+}
+
+inline constexpr ControlDesign page(StringView name)
+{
+    return panel(name, {0, Header, Width, Height - Header - Footer}, Palette::Ground, Palette::Ground)
+        .hidden();
+}
+
+/// What the frame leaves to the app on its page of tasks, `pan_Task`: the card with the task, the place of
+/// the answer beside the button that checks it, and that of a pad to type it with.
+namespace TaskPlaces
+{
+inline constexpr ControlDesign::Rectangle Card{32, 80, 560, 172};
+inline constexpr ControlDesign::Rectangle Answer{32, 272, 328, 64};
+inline constexpr ControlDesign::Rectangle Pad{640, 80, 228, 308};
+} // namespace TaskPlaces
+
+/// The card that holds the task.
+inline constexpr ControlDesign card(StringView name)
+{
+    return panel(name, TaskPlaces::Card, Palette::Surface, Palette::Divider).inside(u"pan_Task");
+}
+
+/// The large text that a page begins with, and a longer one below it.
+inline constexpr ControlDesign heading(StringView name, ControlDesign::Rectangle place, StringView text = {})
+{
+    return design<ctl_Label>(name, place, text)
+        .font(22, FontWeight::Bold)
+        .ink(Palette::Ink)
+        .align(MiddleLeft);
+}
+inline constexpr ControlDesign paragraph(StringView name, ControlDesign::Rectangle place,
+                                         StringView text = {})
+{
+    return design<ctl_Label>(name, place, text).font(13).ink(Palette::Ink).align(TopLeft);
+}
+
+/// A line in the middle of the page.
+inline constexpr ControlDesign centred(StringView name, ControlDesign::Rectangle place, double size,
+                                       FontWeight weight = FontWeight::Regular)
+{
+    return design<ctl_Label>(name, place).font(size, weight).ink(Palette::Ink).align(MiddleCentre);
+}
+
+/// The button to press next, one beside it that leaves, and one that does something in between.
+inline constexpr ControlDesign mainButton(StringView name, ControlDesign::Rectangle place, StringView text)
+{
+    return design<ctl_Button>(name, place, text).font(15, FontWeight::Bold).set(u"Accent", true);
+}
+inline constexpr ControlDesign leavingButton(StringView name, ControlDesign::Rectangle place, StringView text)
+{
+    return design<ctl_Button>(name, place, text).font(15, FontWeight::Bold);
+}
+inline constexpr ControlDesign sideButton(StringView name, ControlDesign::Rectangle place, StringView text)
+{
+    return design<ctl_Button>(name, place, text).font(12);
+}
+
+/// Up to the app's own controls.
+inline constexpr ControlDesign Head[] = {
+    design<ctl_Gradient>(u"bar_Header", {0, 0, Width, Header})
+        .gradient(Palette::Accent, Palette::AccentDeep, 0),
+    page(u"pan_Start"),
+    page(u"pan_Task"),
+    page(u"pan_Summary"),
+    page(u"pan_Waiting"),
+    page(u"pan_Missing"),
+    panel(u"pan_Footer", {0, Height - Footer, Width, Footer}, Palette::Footer, Palette::Divider),
+
+    design<ctl_Label>(u"lab_Title", {32, 0, 300, 72})
+        .inside(u"bar_Header")
+        .font(18, FontWeight::Bold)
+        .ink(Palette::OnAccent)
+        .align(MiddleLeft),
+    design<ctl_Label>(u"lab_Points", {340, 0, 188, 72})
+        .inside(u"bar_Header")
+        .font(14)
+        .ink(Palette::OnAccent)
+        .align(MiddleRight),
+    design<ctl_Avatar>(u"ctl_User", {548, 8, 220, 56}).inside(u"bar_Header"),
+    design<ctl_Button>(u"but_Language", {Width - 116, 16, 84, 40}, u"English|Deutsch")
+        .inside(u"bar_Header")
+        .font(10),
+
+    heading(u"lab_Question", {60, 60, 780, 44}).inside(u"pan_Start"),
+    paragraph(u"lab_Intro", {60, 112, 780, 84}).inside(u"pan_Start"),
+    design<ctl_Button>(u"but_Level", {60, 220, 246, 104})
+        .at(0)
+        .inside(u"pan_Start")
+        .font(16, FontWeight::Bold),
+    design<ctl_Label>(u"lab_Note", {60, 360, 780, 60})
+        .inside(u"pan_Start")
+        .font(11)
+        .ink(Palette::Muted)
+        .align(TopLeft),
+
+    design<ctl_Label>(u"lab_Progress", {32, 20, 400, 28})
+        .inside(u"pan_Task")
+        .font(12)
+        .ink(Palette::Muted)
+        .align(MiddleLeft),
+    panel(u"pan_ProgressBack", {32, 52, 560, 10}, Palette::Divider, Palette::Divider).inside(u"pan_Task"),
+    panel(u"pan_ProgressDone", {32, 52, 56, 10}, Palette::Accent, Palette::Accent).inside(u"pan_Task"),
+};
+
+/// Behind the app's own controls: what is pressed when an answer stands there, and the pages that follow.
+inline constexpr ControlDesign Tail[] = {
+    mainButton(u"but_Check", {372, 272, 220, 64}, u"Prüfen|Check").inside(u"pan_Task"),
+    design<ctl_Label>(u"lab_Feedback", {32, 352, 560, 60})
+        .inside(u"pan_Task")
+        .font(14, FontWeight::Bold)
+        .ink(Palette::Ink)
+        .align(MiddleLeft),
+    sideButton(u"but_Hint", {32, 424, 220, 56}, u"Tipp (F1)|Hint (F1)").inside(u"pan_Task"),
+    design<ctl_Label>(u"lab_Hint", {268, 420, 324, 96})
+        .inside(u"pan_Task")
+        .font(12)
+        .ink(Palette::Ink)
+        .align(TopLeft),
+    sideButton(u"but_Stop", {640, 424, 228, 56}, u"Beenden|Quit").inside(u"pan_Task"),
+
+    centred(u"lab_Praise", {60, 20, 780, 48}, 24, FontWeight::Bold).inside(u"pan_Summary"),
+    centred(u"lab_Result", {60, 68, 780, 40}, 18).inside(u"pan_Summary"),
+    panel(u"pan_ResultBack", {200, 116, 500, 14}, Palette::Divider, Palette::Divider).inside(u"pan_Summary"),
+    panel(u"pan_ResultDone", {200, 116, 500, 14}, Palette::Accent, Palette::Accent).inside(u"pan_Summary"),
+    design<ctl_Label>(u"lab_Solved", {60, 136, 780, 32})
+        .inside(u"pan_Summary")
+        .font(13)
+        .ink(Palette::Muted)
+        .align(MiddleCentre),
+    design<ctl_Mark>(u"ctl_Mark1", {300, 180, 300, 60}).inside(u"pan_Summary").ground(Palette::Ground),
+    centred(u"lab_Mark", {60, 248, 780, 32}, 14, FontWeight::Bold).inside(u"pan_Summary"),
+    centred(u"lab_Rank", {60, 280, 780, 32}, 13).inside(u"pan_Summary"),
+    sideButton(u"but_List", {60, 328, 246, 64}, u"Bestenliste|Best rounds").inside(u"pan_Summary"),
+    sideButton(u"but_Certificate", {327, 328, 246, 64}, u"Urkunde drucken|Print certificate")
+        .inside(u"pan_Summary"),
+    sideButton(u"but_Export", {594, 328, 246, 64}, u"Liste als Text|List as text").inside(u"pan_Summary"),
+    mainButton(u"but_Again", {60, 412, 513, 76}, u"Noch einmal|Again").inside(u"pan_Summary"),
+    leavingButton(u"but_Quit", {594, 412, 246, 76}, u"Beenden|Quit").inside(u"pan_Summary"),
+
+    heading(u"lab_WaitingTitle", {60, 60, 780, 48}, u"Gleich geht es los|It will begin soon")
+        .inside(u"pan_Waiting"),
+    paragraph(u"lab_Waiting", {60, 116, 780, 60}).inside(u"pan_Waiting"),
+    mainButton(u"but_Ask", {60, 208, 513, 80}, u"Noch einmal fragen|Ask again").inside(u"pan_Waiting"),
+    leavingButton(u"but_GiveUp", {594, 208, 246, 80}, u"Beenden|Quit").inside(u"pan_Waiting"),
+
+    heading(u"lab_MissingTitle", {60, 60, 780, 48}, u"Da fehlt noch etwas|Something is missing")
+        .inside(u"pan_Missing"),
+    paragraph(u"lab_Missing", {60, 124, 780, 200}).inside(u"pan_Missing"),
+    mainButton(u"but_Leave", {60, 360, 240, 80}, u"Beenden|Quit").inside(u"pan_Missing"),
+
+    design<Shape>(u"shp_Classroom", {32, 16, 12, 12})
+        .inside(u"pan_Footer")
+        .set(u"Shape", phial::ShapeKind::Circle)
+        .set(u"BorderWidth", 0)
+        .set(u"FillStyle", phial::FillStyle::Solid),
+    design<ctl_Label>(u"lab_Classroom", {56, 0, 560, 44})
+        .inside(u"pan_Footer")
+        .font(10)
+        .ink(Palette::Muted)
+        .align(MiddleLeft),
+    design<ctl_Button>(u"but_Classroom", {684, 4, 184, 36}, u"Klassenraum …|Classroom …")
+        .inside(u"pan_Footer")
+        .font(10),
+};
+
+} // namespace learning::frame_design

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "common/Round.h"
+#include "core/String.h"
+#include "visual/Form.h"
+#include "visual/FormDesign.h"
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace learning
+{
+
+/// What the frame says for an app, each as "German|English".
+struct AppTexts {
+    phial::StringView title;
+    // The start page.
+    phial::StringView question;
+    phial::StringView introduction; ///< up to four lines; ends with the choice of the level
+    phial::StringView note;         ///< what counts as right
+    /// What a pupil reads whom the teacher has not let in yet.
+    phial::StringView waiting;
+    // Behind a round. {1} solved, {2} tasks.
+    phial::StringView solved;
+    phial::StringView diploma; ///< title of the certificate
+    /// The certificate's sentence, behind the name: {1} solved, {2} tasks, {3} level, {4} points, {5} of how
+    /// many, {6} mark.
+    phial::StringView certificate;
+};
+
+/// A level's name on the start page. The German one goes to the lists, in every language, since they compare
+/// by it.
+struct LevelTitle {
+    phial::String german;
+    phial::String english;
+};
+
+/// What a learning app brings to the frame: its texts, its levels, the controls of its task page, and what it
+/// knows about its tasks. The frame has everything else: the window, the pages, points and tries, the
+/// classroom, lists and certificates.
+///
+/// The frame calls `attach` once, then `begin` for each round and `show` for each of its tasks; everything
+/// below these two is called only while a task is shown.
+class LearningApp
+{
+public:
+    /// How an answer is filled in where nobody types: in pictures of the app.
+    using Sample = Judgement;
+
+    LearningApp() = default;
+    virtual ~LearningApp() = default;
+    LearningApp(const LearningApp&) = delete;
+    LearningApp& operator=(const LearningApp&) = delete;
+
+    virtual const AppTexts& texts() const = 0;
+    /// What keeps the app from starting, in the language in force; empty when it has all it needs.
+    virtual phial::String missing() const { return {}; }
+    virtual std::vector<LevelTitle> levels() const = 0;
+
+    /// The app's controls, which stand in `pan_Task` at the places that frame_design::TaskPlaces tells. The
+    /// Tab key goes through them before it comes to the frame's buttons.
+    virtual std::span<const phial::ControlDesign> controls() const = 0;
+    /// They stand: the app finishes them. They end with the form, which outlives the app's last call.
+    virtual void attach(phial::Form& form) = 0;
+    /// Puts the texts that are not of the design in the language in force.
+    virtual void TRANSLATE() {}
+
+    /// Draws the tasks of a round and gives how many there are, at least one.
+    virtual int begin(std::size_t level) = 0;
+    /// Shows a task of the round, counted from 1, without an answer and open for one.
+    virtual void show(int position) = 0;
+    /// What the present answer is worth. Nothing else is changed by asking.
+    virtual Judgement judge() = 0;
+    /// The present answer is to be replaced by what is typed next.
+    virtual void retry() {}
+    /// The task is decided: its answer can be read and no longer changed.
+    virtual void close() = 0;
+    /// What has the focus while the task is worked on.
+    virtual phial::ControlPtr field() const = 0;
+
+    /// The right answer with its unit, as it is written in the verdict.
+    virtual phial::String solution() const = 0;
+    /// What is told to a pupil whose answer is none, in the language in force.
+    virtual phial::String unreadable() const = 0;
+    /// What the hint tells; lines are divided by "<br>".
+    virtual phial::String hint() const = 0;
+
+    /// Puts an answer of that kind into the page.
+    virtual void fill(Sample sample) = 0;
+};
+
+/// Makes the app anew, from what the installation tree holds now.
+using MakeApp = std::function<std::unique_ptr<LearningApp>()>;
+
+} // namespace learning

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "common/LearningApp.h"
+#include "common/RoundResult.h"
+#include "visual/Form.h"
+
+namespace learning
+{
+
+/// The page behind a round: points, mark and rank, and what can be made of them: the list of the best, also
+/// as a text file, and a certificate.
+///
+/// The controls are those of the window's design; the page belongs to the window and ends with it.
+class SummaryPage
+{
+public:
+    SummaryPage(phial::Form& form, const AppTexts& texts);
+    SummaryPage(const SummaryPage&) = delete;
+    SummaryPage& operator=(const SummaryPage&) = delete;
+
+    /// Shows the result of a round of that level.
+    void show(const RoundResult& result, LevelTitle level);
+    /// Hands the result in, which tells the pupil the rank in a box, and what else became of the lists.
+    /// Events run until the master has answered and the boxes are closed; until then only leaving is offered.
+    void submit();
+    /// Puts the texts that are not of the design in the language in force.
+    void TRANSLATE();
+
+private:
+    void submitting(bool value);
+    void offer(bool available);
+    void showMark();
+    void showRank();
+    void showList();
+    void printCertificate();
+    void exportList();
+
+    phial::Form& form_;
+    const AppTexts& texts_;
+    phial::Connections connections_;
+    RoundResult result_;
+    LevelTitle level_;
+    std::int32_t rank_ = 0; ///< 0 and less: none
+    bool isSubmitting_ = false;
+};
+
+} // namespace learning

@@ -1,0 +1,157 @@
+#include "common/TaskPage.h"
+
+#include "common/FrameTexts.h"
+#include "core/Palette.h"
+#include "visual/ctl_Button.h"
+#include "visual/ctl_Label.h"
+#include "visual/ctl_Pannel.h"
+
+namespace learning
+{
+
+using phial::String;
+
+TaskPage::TaskPage(phial::Form& form, LearningApp& app) : form_(form), app_(app)
+{
+    connections_ += get<phial::ctl_Button>(u"but_Check")->CLICK.connect([this] { press(); });
+    connections_ += get<phial::ctl_Button>(u"but_Hint")->CLICK.connect([this] { giveHint(); });
+}
+
+void TaskPage::begin(std::size_t level)
+{
+    round_.emplace(app_.begin(level));
+    showTask();
+}
+
+void TaskPage::end()
+{
+    round_.reset();
+    caption(form_, u"lab_Points", {});
+}
+
+void TaskPage::TRANSLATE()
+{
+    app_.TRANSLATE();
+    if (round_) {
+        showRoundTexts();
+    }
+}
+
+void TaskPage::press()
+{
+    verdict_ && round_->decided() ? goOn() : check();
+}
+
+void TaskPage::showTask()
+{
+    verdict_.reset();
+    hintShown_ = false;
+    app_.show(round_->position());
+    caption(form_, u"lab_Hint", {});
+    get<phial::ctl_Button>(u"but_Hint")->Enabled(true);
+    showRoundTexts();
+}
+
+/// The texts that depend on the state of the round.
+void TaskPage::showRoundTexts()
+{
+    showVerdict();
+    showCheckCaption();
+    showProgress();
+}
+
+void TaskPage::showCheckCaption()
+{
+    get<phial::ctl_Button>(u"but_Check")
+        ->Caption(!round_->decided()   ? translate(u"Prüfen", u"Check")
+                  : round_->finished() ? translate(u"Ergebnis", u"Result")
+                                       : translate(u"Weiter", u"Next"));
+}
+
+void TaskPage::showProgress()
+{
+    caption(form_, u"lab_Progress",
+            translate(u"Aufgabe {1} von {2}", u"Task {1} of {2}",
+                      {number(round_->position()), number(round_->count())}));
+    caption(form_, u"lab_Points", translate(u"{1} Punkte", u"{1} points", {number(round_->points())}));
+    const int done = round_->position() - (round_->decided() ? 0 : 1);
+    const double full = get<phial::ctl_Pannel>(u"pan_ProgressBack")->Width();
+    const auto bar = get<phial::ctl_Pannel>(u"pan_ProgressDone");
+    bar->Width(full * done / round_->count());
+    bar->Visible(done > 0);
+}
+
+void TaskPage::check()
+{
+    verdict_ = round_->count(app_.judge());
+    showRoundTexts();
+    if (round_->decided()) {
+        app_.close();
+        get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
+        if (verdict_ == Verdict::Missed) {
+            giveHint();
+        }
+    } else {
+        app_.retry();
+    }
+    app_.field()->SetFocus();
+}
+
+void TaskPage::goOn()
+{
+    if (round_->next()) {
+        showTask();
+        app_.field()->SetFocus();
+    } else {
+        Finished.emit();
+    }
+}
+
+void TaskPage::showVerdict()
+{
+    caption(form_, u"lab_Feedback", verdictText());
+    get<phial::ctl_Label>(u"lab_Feedback")
+        ->ForeColor(verdict_ == Verdict::Right ? phial::Palette::Right : phial::Palette::Failure);
+}
+
+String TaskPage::verdictText() const
+{
+    if (!verdict_) {
+        return {};
+    }
+    switch (*verdict_) {
+    case Verdict::Right:
+        return translate(u"Richtig! {1}, {2} Punkte für dich.", u"Right! {1}, {2} points for you.",
+                         {app_.solution(), number(round_->lastPoints())});
+    case Verdict::Wrong:
+        return round_->triesLeft() == 1
+                   ? translate(u"Leider nicht. Du hast noch einen Versuch.",
+                               u"Not quite. You have one try left.")
+                   : translate(u"Leider nicht. Du hast noch {1} Versuche.",
+                               u"Not quite. You have {1} tries left.", {number(round_->triesLeft())});
+    case Verdict::Missed:
+        return translate(u"Schade. Richtig wären {1}.", u"A pity. {1} would be right.", {app_.solution()});
+    case Verdict::Unreadable:
+        break;
+    }
+    return app_.unreadable();
+}
+
+void TaskPage::giveHint()
+{
+    if (!round_ || hintShown_) {
+        return;
+    }
+    hintShown_ = true;
+    if (!round_->decided()) {
+        round_->takeHint();
+    }
+    caption(form_, u"lab_Hint", app_.hint());
+    get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
+    app_.field()->SetFocus();
+    if (verdict_ == Verdict::Wrong) {
+        app_.retry(); // the next try replaces the wrong one
+    }
+}
+
+} // namespace learning

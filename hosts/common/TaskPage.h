@@ -1,0 +1,62 @@
+#pragma once
+
+#include "common/LearningApp.h"
+#include "core/Event.h"
+#include "visual/Form.h"
+
+#include <optional>
+
+namespace learning
+{
+
+/// The page of the tasks around what the app shows there: progress, verdict and hint, and the coloured
+/// button, which checks the answer and goes on to the next task.
+///
+/// The controls are those of the window's design; the page belongs to the window and ends with it.
+class TaskPage
+{
+public:
+    TaskPage(phial::Form& form, LearningApp& app);
+    TaskPage(const TaskPage&) = delete;
+    TaskPage& operator=(const TaskPage&) = delete;
+
+    /// Begins a round of that level and shows its first task.
+    void begin(std::size_t level);
+    /// Forgets the round; its points leave the header.
+    void end();
+    /// The round under way or just finished; null without one.
+    const Round* round() const { return round_ ? &*round_ : nullptr; }
+    /// Tells the hint, once a task. Without a round nothing happens.
+    void giveHint();
+    /// Puts all texts that are not of the design in the language in force.
+    void TRANSLATE();
+
+    /// The last task is decided and the pupil wants the result.
+    phial::Event<> Finished;
+
+private:
+    void press();
+    void showTask();
+    void showRoundTexts();
+    void showCheckCaption();
+    void showProgress();
+    void check();
+    void goOn();
+    void showVerdict();
+    phial::String verdictText() const;
+
+    template <typename Class>
+    std::shared_ptr<Class> get(phial::StringView name) const
+    {
+        return form_.control<Class>(name);
+    }
+
+    phial::Form& form_;
+    LearningApp& app_;
+    phial::Connections connections_;
+    std::optional<Round> round_;
+    std::optional<Verdict> verdict_; ///< what the present task shows
+    bool hintShown_ = false;
+};
+
+} // namespace learning

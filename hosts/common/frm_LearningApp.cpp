@@ -1,0 +1,335 @@
+#include "common/frm_LearningApp.h"
+
+#include "app/FormTexts.h"
+#include "app/RecentNames.h"
+#include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
+#include "app/cls_AppDialog.h"
+#include "app/cls_AppURL.h"
+#include "app/cls_AppUser.h"
+#include "app/cls_Language.h"
+#include "app/ctl_Avatar.h"
+#include "app/sys_Global.h"
+#include "common/FrameDesign.h"
+#include "common/FrameTexts.h"
+#include "common/ListNotices.h"
+#include "core/CoreTheme.h"
+
+namespace learning
+{
+
+using phial::LNG;
+using phial::QVAPP;
+using phial::String;
+using phial::StringView;
+
+namespace
+{
+
+constexpr std::int32_t AskingInterval = 5'000; // milliseconds
+
+phial::FormDesign designOf(const AppTexts& texts)
+{
+    return {.name = u"frm_LearningApp",
+            .caption = texts.title,
+            .size = {frame_design::Width, frame_design::Height},
+            .border = phial::BorderStyle::FixedSingle,
+            .hearsKeysFirst = true,
+            .controls = frame_design::Head};
+}
+
+/// Why no app can start at all; empty with an installation.
+String missingInstallation()
+{
+    if (!QVAPP()->URL()->ROOT().empty()) {
+        return {};
+    }
+    return translate(
+        u"Die Installation von QV Phial wurde nicht gefunden. Bitte installiere QV Phial neu oder "
+        u"starte das Programm aus seinem Ordner.",
+        u"The installation of QV Phial was not found. Please install QV Phial again or start the "
+        u"program from its own folder.");
+}
+
+} // namespace
+
+frm_LearningApp::frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch searchMasters)
+    : app_(std::move(app)), levelTitles_(app_->levels()), searchMasters_(std::move(searchMasters)),
+      form_(designOf(app_->texts())), levels_(*form_, u"but_Level"), asking_(u"tmr_Asking", AskingInterval)
+{
+    phial::coreTheme().SetColour(phial::ThemeSlot::Accent, phial::Palette::Accent);
+    form_.add(app_->controls());
+    form_.add(frame_design::Tail);
+    buildLevels();
+    form_->menu().add(u"mnu_Help", u"&Hilfe|&Help")->add(u"mnu_HelpInfo", u"&Info|&About");
+    app_->attach(*form_);
+    tasks_.emplace(*form_, *app_);
+    summary_.emplace(*form_, app_->texts());
+    connect();
+    connectClassroom();
+    TRANSLATE();
+    show(missingText().empty() ? Page::Start : Page::Missing);
+}
+
+void frm_LearningApp::Show()
+{
+    form_->Show();
+}
+
+void frm_LearningApp::welcome()
+{
+    if (page_ == Page::Missing) {
+        return;
+    }
+    tellAboutOwnFolder();
+    if (phial::recentNames().empty()) {
+        askForUser();
+    }
+    enterClassroom();
+}
+
+void frm_LearningApp::buildLevels()
+{
+    levels_.adopt();
+    const auto first = levels_(0);
+    const double left = first->Left();
+    for (std::size_t i = 0; i < levelTitles_.size(); ++i) {
+        const auto index = static_cast<std::int32_t>(i);
+        const auto button = levels_.has(index) ? levels_(index) : levels_.load(index);
+        button->Left(left + static_cast<double>(i) * (first->Width() + frame_design::LevelGap));
+        button->Visible(true);
+    }
+    first->Visible(!levelTitles_.empty());
+}
+
+void frm_LearningApp::connect()
+{
+    form_.press(u"but_Again", [this] { show(Page::Start); });
+    form_.press(u"but_Language", [] {
+        const bool german = LNG()->EFFECTIVE() == phial::ID_Language_German;
+        LNG()->CURRENT(german ? phial::ID_Language_English : phial::ID_Language_German);
+    });
+    for (const auto* button : {u"but_Stop", u"but_Quit", u"but_GiveUp", u"but_Leave"}) {
+        form_.press(button, [this] { form_->Unload(); });
+    }
+    form_.on(get<phial::ctl_Avatar>(u"ctl_User")->CLICK, [this] { askForUser(); });
+    form_.on(form_->control<phial::Menu>(u"mnu_HelpInfo")->Click,
+             [](std::int32_t) { QVAPP()->DIALOG()->ABOUT(); });
+    form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
+    form_.on(form_->KeyDown, [this](phial::KeyEvent& event) { keyDown(event); });
+    form_.on(tasks_->Finished, [this] { finishRound(); });
+    levels_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
+        return button.CLICK.connect([this, index] { startRound(static_cast<std::size_t>(index)); });
+    });
+}
+
+void frm_LearningApp::connectClassroom()
+{
+    form_.press(u"but_Classroom", [this] { chooseClassroom(); });
+    form_.press(u"but_Ask", [this] { admit(true); });
+    form_.on(classroom_.Changed, [this] { showClassroom(); });
+    form_.on(asking_.Tick, [this] { admit(false); });
+    form_.on(form_->Unloaded, [this] { asking_.Enabled(false); });
+}
+
+void frm_LearningApp::askForUser()
+{
+    QVAPP()->USER()->SCREENNAMEINPUT();
+    get<phial::ctl_Avatar>(u"ctl_User")->UPDATE();
+    nameUser();
+}
+
+/// What the avatar is for, seen and heard.
+void frm_LearningApp::nameUser()
+{
+    const auto avatar = get<phial::ctl_Avatar>(u"ctl_User");
+    const String purpose = translate(u"Name und Bild ändern", u"Change name and picture");
+    const String name = avatar->accessibleText();
+    avatar->frame().ToolTipText(purpose);
+    avatar->frame().AccessibleName(name.empty() ? purpose : name + u", " + purpose);
+}
+
+void frm_LearningApp::enterClassroom()
+{
+    if (ClassroomLink::isWanted()) {
+        classroom_.join();
+        admit(true);
+    }
+}
+
+void frm_LearningApp::chooseClassroom()
+{
+    frm_MasterChoice dialog(ClassroomLink::address(), searchMasters_);
+    dialog.Show();
+    if (const auto& master = dialog.chosen()) {
+        classroom_.join(*master);
+        admit(true);
+    }
+}
+
+/// Goes on to the choice of the level when the teacher has opened the app, or when there is no teacher.
+/// One question at a time: a second one could throw the pupil out of the round that the first has allowed.
+void frm_LearningApp::admit(bool tell)
+{
+    if (isAsking_ || !form_->Visible()) {
+        return;
+    }
+    isAsking_ = true;
+    showClassroom();
+    const bool allowed = classroom_.allows(tell);
+    isAsking_ = false;
+    showClassroom();
+    const bool isOpen = form_->Visible();
+    asking_.Enabled(!allowed && isOpen);
+    if (isOpen && (allowed || page_ != Page::Waiting)) {
+        show(allowed ? Page::Start : Page::Waiting);
+    }
+}
+
+/// The footer, and what must wait for the master.
+void frm_LearningApp::showClassroom()
+{
+    const auto state = classroom_.state();
+    const bool busy = state == ClassroomLink::State::Searching || isAsking_;
+    caption(*form_, u"lab_Classroom", classroomText());
+    get<phial::Shape>(u"shp_Classroom")
+        ->FillColor(state == ClassroomLink::State::Online ? phial::Palette::Connected
+                                                          : phial::Palette::Unconnected);
+    if (busy && page_ == Page::Start) {
+        form_->focus(nullptr); // the levels cannot keep it
+    }
+    levels_.each([busy](phial::ctl_Button& button, std::int32_t) { button.Enabled(!busy); });
+    const auto choice = get<phial::ctl_Button>(u"but_Classroom");
+    choice->Enabled(!busy);
+    choice->Visible(ClassroomLink::isWanted() && (page_ == Page::Start || page_ == Page::Waiting));
+}
+
+String frm_LearningApp::classroomText() const
+{
+    switch (classroom_.state()) {
+    case ClassroomLink::State::Alone:
+        break;
+    case ClassroomLink::State::Searching:
+        return translate(u"Suche den Klassenraum …", u"Looking for the classroom …");
+    case ClassroomLink::State::Online:
+        return translate(u"Im Klassenraum angemeldet ({1})", u"Logged on to the classroom ({1})",
+                         {ClassroomLink::address()});
+    case ClassroomLink::State::Offline:
+        return translate(u"Kein Klassenraum gefunden, du übst für dich.",
+                         u"No classroom found, you practise by yourself.");
+    }
+    return translate(u"Ohne Klassenraum", u"Without a classroom");
+}
+
+void frm_LearningApp::TRANSLATE()
+{
+    phial::translateForm(form_);
+    QVAPP()->CONFIG()->NAME(form_->Caption());
+    levels_.each([this](phial::ctl_Button& button, std::int32_t index) {
+        if (static_cast<std::size_t>(index) < levelTitles_.size()) {
+            const LevelTitle& level = levelTitles_[static_cast<std::size_t>(index)];
+            button.Caption(translate(level.german, level.english));
+        }
+    });
+    nameUser();
+    showAppTexts();
+    caption(*form_, u"lab_Missing", missingText());
+    tasks_->TRANSLATE();
+    summary_->TRANSLATE();
+    showClassroom();
+}
+
+void frm_LearningApp::showAppTexts()
+{
+    const AppTexts& texts = app_->texts();
+    caption(*form_, u"lab_Title", translate(texts.title));
+    caption(*form_, u"lab_Question", translate(texts.question));
+    caption(*form_, u"lab_Intro", translate(texts.introduction));
+    caption(*form_, u"lab_Note", translate(texts.note));
+    caption(*form_, u"lab_Waiting", translate(texts.waiting));
+}
+
+String frm_LearningApp::missingText() const
+{
+    const String installation = missingInstallation();
+    return installation.empty() ? app_->missing() : installation;
+}
+
+void frm_LearningApp::show(Page page)
+{
+    page_ = page;
+    get<phial::ctl_Pannel>(u"pan_Start")->Visible(page == Page::Start);
+    get<phial::ctl_Pannel>(u"pan_Task")->Visible(page == Page::Task);
+    get<phial::ctl_Pannel>(u"pan_Summary")->Visible(page == Page::Summary);
+    get<phial::ctl_Pannel>(u"pan_Waiting")->Visible(page == Page::Waiting);
+    get<phial::ctl_Pannel>(u"pan_Missing")->Visible(page == Page::Missing);
+    get<phial::ctl_Avatar>(u"ctl_User")->frame().Visible(page != Page::Missing);
+    if (page != Page::Task && page != Page::Summary) {
+        tasks_->end();
+    }
+    form_->DefaultControl(page == Page::Task ? get<phial::ctl_Button>(u"but_Check") : nullptr);
+    showClassroom();
+    if (const phial::ControlPtr first = firstOf(page); first->Enabled() && first->Visible()) {
+        first->SetFocus();
+    }
+}
+
+/// What has the focus when the page is shown.
+phial::ControlPtr frm_LearningApp::firstOf(Page page) const
+{
+    switch (page) {
+    case Page::Start:
+        break;
+    case Page::Task:
+        return app_->field();
+    case Page::Summary:
+        return get<phial::ctl_Button>(u"but_Again");
+    case Page::Waiting:
+        return get<phial::ctl_Button>(u"but_Ask");
+    case Page::Missing:
+        return get<phial::ctl_Button>(u"but_Leave");
+    }
+    return levels_(0);
+}
+
+void frm_LearningApp::startRound(std::size_t level)
+{
+    level_ = level;
+    tasks_->begin(level);
+    show(Page::Task);
+    classroom_.roundStarted(levelTitles_[level].german);
+}
+
+void frm_LearningApp::finishRound()
+{
+    const Round& round = *tasks_->round();
+    const LevelTitle& level = levelTitles_[level_];
+    const RoundResult result{.exercise = level.german,
+                             .points = round.points(),
+                             .maximum = round.maximum(),
+                             .solved = round.solved(),
+                             .tasks = round.count()};
+    summary_->show(result, level);
+    show(Page::Summary);
+    summary_->submit();
+    if (form_->Visible()) {
+        firstOf(Page::Summary)->SetFocus();
+    }
+    classroom_.roundFinished(result); // last: the pupil may go on while the master answers
+    tellAboutKeptLists();
+}
+
+void frm_LearningApp::keyDown(phial::KeyEvent& event)
+{
+    if (event.is(phial::Key::F1)) {
+        if (page_ == Page::Task) {
+            tasks_->giveHint();
+        }
+        event.KeyCode = 0;
+    } else if (event.is(phial::Key::Escape)) {
+        event.KeyCode = 0;
+        form_->Unload();
+    }
+}
+
+} // namespace learning

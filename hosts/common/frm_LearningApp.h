@@ -1,0 +1,83 @@
+#pragma once
+
+#include "common/ClassroomLink.h"
+#include "common/LearningApp.h"
+#include "common/SummaryPage.h"
+#include "common/TaskPage.h"
+#include "common/frm_MasterChoice.h"
+#include "visual/ControlArray.h"
+#include "visual/DesignedForm.h"
+#include "visual/Timer.h"
+#include "visual/ctl_Button.h"
+
+#include <optional>
+
+namespace learning
+{
+
+/// The window of a learning app: choice of the level, the tasks of a round, the summary; or what is missing,
+/// or that the teacher has not opened the app yet. The header shows who works here, and changes it when it is
+/// pressed; the footer tells about the classroom. Return does what the coloured button says, F1 gives the
+/// hint, Escape ends; everything can be touched as well.
+class frm_LearningApp
+{
+public:
+    /// `searchMasters` finds masters to choose from; empty: an address can only be typed.
+    explicit frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch searchMasters = {});
+    phial::Form& form() { return *form_; }
+    void Show();
+    /// For the moment in which the window stands: asks who works here when no name is known yet, and logs on
+    /// to the classroom. Events run meanwhile.
+    void welcome();
+    /// Puts all texts in the language in force.
+    void TRANSLATE();
+
+    LearningApp& app() { return *app_; }
+    /// The round under way; null before the first.
+    const Round* round() const { return tasks_->round(); }
+
+private:
+    enum class Page { Start, Task, Summary, Waiting, Missing };
+
+    void buildLevels();
+    void connect();
+    void connectClassroom();
+
+    void askForUser();
+    void nameUser();
+
+    void enterClassroom();
+    void chooseClassroom();
+    void admit(bool tell);
+    void showClassroom();
+
+    void show(Page page);
+    phial::ControlPtr firstOf(Page page) const;
+    void startRound(std::size_t level);
+    void finishRound();
+    void keyDown(phial::KeyEvent& event);
+
+    phial::String classroomText() const;
+    phial::String missingText() const;
+    void showAppTexts();
+    template <typename Class>
+    std::shared_ptr<Class> get(phial::StringView name) const
+    {
+        return form_->control<Class>(name);
+    }
+
+    std::unique_ptr<LearningApp> app_;
+    std::vector<LevelTitle> levelTitles_;
+    MasterSearch searchMasters_;
+    phial::DesignedForm form_;
+    phial::ControlArray<phial::ctl_Button> levels_;
+    std::optional<TaskPage> tasks_;
+    std::optional<SummaryPage> summary_;
+    ClassroomLink classroom_;
+    phial::Timer asking_; ///< asks the master again while the pupil waits
+    Page page_ = Page::Start;
+    std::size_t level_ = 0;
+    bool isAsking_ = false;
+};
+
+} // namespace learning

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "common/Round.h"
+#include "core/String.h"
+
+namespace molmasse
+{
+
+/// By how much an answer may differ from the molar mass, in g/mol: 0.1 or 0.2 % of the mass, whichever is
+/// more, but never more than 0.5. So masses taken from a table with more digits than the school's one decimal
+/// pass, while a forgotten hydrogen atom (1 g/mol) never does.
+double tolerance(double molarMass);
+
+/// Whether an answer counts as right. The bound itself is still right.
+bool isRight(double answer, double molarMass);
+
+/// What a typed answer is worth; comma and point are both decimal signs.
+learning::Judgement judgeMass(phial::StringView answer, double molarMass);
+
+} // namespace molmasse

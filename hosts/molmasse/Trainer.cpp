@@ -1,0 +1,157 @@
+#include "molmasse/Trainer.h"
+
+#include "common/Drawing.h"
+#include "common/FrameTexts.h"
+#include "molmasse/MassJudge.h"
+#include "molmasse/TrainerDesign.h"
+
+namespace molmasse
+{
+
+using learning::Judgement;
+using learning::translate;
+using phial::String;
+
+namespace
+{
+
+constexpr learning::AppTexts Texts{
+    .title = u"Molmassen-Trainer|Molar mass trainer",
+    .question = u"Was wiegt ein Mol davon?|What does a mole of it weigh?",
+    .introduction =
+        u"Zehn Formeln warten auf dich. Bestimme zu jeder die molare Masse in g/mol und tippe sie ein, "
+        u"mit Komma oder Punkt. Wähle, wie schwer es werden soll:|"
+        u"Ten formulas are waiting for you. Work out the molar mass of each in g/mol and type it, "
+        u"with a comma or a point. Choose how hard it shall be:",
+    .note = u"Gerundete Werte zählen: ±0,1 g/mol, bei großen Massen ±0,2 % und höchstens ±0,5 g/mol.|"
+            u"Rounded values count: ±0.1 g/mol, for large masses ±0.2 % and at most ±0.5 g/mol.",
+    .waiting = u"Sobald deine Lehrkraft den Molmassen-Trainer freigibt, geht es hier von selbst weiter.|"
+               u"As soon as your teacher opens the molar mass trainer for you, it goes on here by itself.",
+    .solved = u"{1} von {2} Formeln gelöst|{1} of {2} formulas solved",
+    .diploma = u"Molmassen-Diplom|Molar Mass Diploma",
+    .certificate =
+        u"hat zu {1} von {2} Formeln (Schwierigkeit: {3}) die molare Masse bestimmt und dabei {4} von {5} "
+        u"Punkten erreicht.\r\nNote: {6}|"
+        u"has worked out the molar mass of {1} of {2} formulas (difficulty: {3}) and reached {4} of {5} "
+        u"points.\r\nMark: {6}",
+};
+
+} // namespace
+
+const learning::AppTexts& Trainer::texts() const
+{
+    return Texts;
+}
+
+String Trainer::missing() const
+{
+    if (data_.missingFile.empty()) {
+        return {};
+    }
+    return data_.elements ? translate(u"Die Datei mit den Formeln fehlt oder enthält keine Aufgabe:<br>{1}",
+                                      u"The file of the formulas is missing or holds no task:<br>{1}",
+                                      {data_.missingFile})
+                          : translate(u"Die Datei mit den Elementen fehlt oder ist leer:<br>{1}<br>"
+                                      u"Bitte installiere QV Phial neu.",
+                                      u"The file of the elements is missing or empty:<br>{1}<br>"
+                                      u"Please install QV Phial again.",
+                                      {data_.missingFile});
+}
+
+std::vector<learning::LevelTitle> Trainer::levels() const
+{
+    std::vector<learning::LevelTitle> titles;
+    for (const Level& level : data_.tasks.levels) {
+        titles.push_back({level.germanTitle, level.englishTitle});
+    }
+    return titles;
+}
+
+std::span<const phial::ControlDesign> Trainer::controls() const
+{
+    return trainer_design::Controls;
+}
+
+void Trainer::attach(phial::Form& form)
+{
+    form_ = &form;
+    formula_ = form.control<phial::ctl_TermLabel>(u"trm_Formula");
+    answer_ = form.control<phial::TextBox>(u"txt_Answer");
+    pad_.emplace(form, answer_);
+}
+
+void Trainer::TRANSLATE()
+{
+    pad_->TRANSLATE();
+    showName();
+}
+
+void Trainer::showName()
+{
+    learning::caption(*form_, u"lab_Name", translate(task_.germanName, task_.englishName));
+}
+
+int Trainer::begin(std::size_t level)
+{
+    tasks_ = learning::drawTasks(data_.tasks.levels.at(level).tasks, TasksInRound, learning::randomBelow);
+    return static_cast<int>(tasks_.size());
+}
+
+void Trainer::show(int position)
+{
+    task_ = tasks_.at(static_cast<std::size_t>(position - 1));
+    mass_ = data_.elements->MOL(task_.formula);
+    formula_->Term(task_.formula);
+    showName();
+    answer_->Text({});
+    answer_->Locked(false);
+}
+
+Judgement Trainer::judge()
+{
+    return judgeMass(answer_->Text(), mass_);
+}
+
+void Trainer::retry()
+{
+    answer_->SelStart(0);
+    answer_->SelLength(static_cast<std::int32_t>(answer_->Text().size()));
+}
+
+void Trainer::close()
+{
+    answer_->Locked(true);
+}
+
+String Trainer::solution() const
+{
+    return massText(mass_) + u" g/mol";
+}
+
+String Trainer::unreadable() const
+{
+    return translate(u"Bitte gib eine Zahl ein, zum Beispiel 18,0.",
+                     u"Please type a number, for example 18.0.");
+}
+
+String Trainer::hint() const
+{
+    return atomsCounted(*data_.elements, task_.formula);
+}
+
+void Trainer::fill(Sample sample)
+{
+    switch (sample) {
+    case Sample::Right:
+        answer_->Text(massText(mass_));
+        return;
+    case Sample::Wrong:
+        answer_->Text(u"12,3");
+        return;
+    case Sample::Unreadable:
+        answer_->Text(translate(u"viel", u"much"));
+        return;
+    }
+}
+
+} // namespace molmasse

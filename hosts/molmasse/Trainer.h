@@ -1,0 +1,52 @@
+#pragma once
+
+#include "common/LearningApp.h"
+#include "common/NumberPad.h"
+#include "molmasse/TrainerData.h"
+#include "term/ctl_TermLabel.h"
+#include "visual/TextBox.h"
+
+#include <optional>
+
+namespace molmasse
+{
+
+/// The molar-mass trainer: a formula on a card, and the mass of a mole of it as the answer.
+class Trainer final : public learning::LearningApp
+{
+public:
+    static constexpr std::size_t TasksInRound = 10;
+
+    explicit Trainer(TrainerData data) : data_(std::move(data)) {}
+
+    const learning::AppTexts& texts() const override;
+    phial::String missing() const override;
+    std::vector<learning::LevelTitle> levels() const override;
+    std::span<const phial::ControlDesign> controls() const override;
+    void attach(phial::Form& form) override;
+    void TRANSLATE() override;
+    int begin(std::size_t level) override;
+    void show(int position) override;
+    learning::Judgement judge() override;
+    void retry() override;
+    void close() override;
+    phial::ControlPtr field() const override { return answer_; }
+    phial::String solution() const override;
+    phial::String unreadable() const override;
+    phial::String hint() const override;
+    void fill(Sample sample) override;
+
+private:
+    void showName();
+
+    TrainerData data_;
+    std::vector<Task> tasks_; ///< of the round
+    Task task_;
+    double mass_ = 0; ///< its molar mass, in g/mol
+    phial::Form* form_ = nullptr;
+    std::shared_ptr<phial::ctl_TermLabel> formula_;
+    std::shared_ptr<phial::TextBox> answer_;
+    std::optional<learning::NumberPad> pad_;
+};
+
+} // namespace molmasse
