@@ -153,7 +153,7 @@ inline constexpr ControlDesign Tail[] = {
         .font(14, FontWeight::Bold)
         .ink(Palette::Ink)
         .align(MiddleLeft),
-    sideButton(u"but_Hint", {32, 424, 220, 56}, u"Tipp (F1)|Hint (F1)").inside(u"pan_Task"),
+    sideButton(u"but_Hint", {32, 424, 220, 56}, u"Tipp (−3 Punkte)|Hint (−3 points)").inside(u"pan_Task"),
     design<ctl_Label>(u"lab_Hint", {268, 420, 324, 96})
         .inside(u"pan_Task")
         .font(12)

@@ -71,7 +71,7 @@ public:
     virtual int begin(std::size_t level) = 0;
     /// Shows a task of the round, counted from 1, without an answer and open for one.
     virtual void show(int position) = 0;
-    /// What the present answer is worth. Nothing else is changed by asking.
+    /// What the present answer is worth.
     virtual Judgement judge() = 0;
     /// The present answer is to be replaced by what is typed next.
     virtual void retry() {}
@@ -86,6 +86,14 @@ public:
     virtual phial::String unreadable() const = 0;
     /// What the hint tells; lines are divided by "<br>".
     virtual phial::String hint() const = 0;
+
+    /// What the answer that was judged last, a wrong one, shows about how it was come by, in one sentence
+    /// that does not give the solution; empty where nothing can be told.
+    virtual phial::String remark() const { return {}; }
+    /// What is shown free of charge after a second wrong try; lines are divided by "<br>".
+    virtual phial::String support() const { return {}; }
+    /// How the solution is come by, shown when the task is decided.
+    virtual phial::String working() const { return {}; }
 
     /// Puts an answer of that kind into the page.
     virtual void fill(Sample sample) = 0;

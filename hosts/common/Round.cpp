@@ -12,22 +12,30 @@ Verdict Round::count(Judgement judgement)
     case Judgement::Unreadable:
         return Verdict::Unreadable;
     case Judgement::Right:
-        lastPoints_ = FullPoints - Deduction * (wrongTries_ + (hintTaken_ ? 1 : 0));
-        points_ += lastPoints_;
+        decide(wrongTries_ == 0 && !hintTaken_ ? Outcome::AtOnce : Outcome::Later,
+               FullPoints - Deduction * (wrongTries_ + (hintTaken_ ? 1 : 0)));
         ++solved_;
-        decided_ = true;
         return verdict_ = Verdict::Right;
     case Judgement::Wrong:
         break;
     }
-    ++wrongTries_;
-    decided_ = wrongTries_ == Tries;
-    return verdict_ = decided_ ? Verdict::Missed : Verdict::Wrong;
+    if (++wrongTries_ == Tries) {
+        decide(Outcome::Missed, 0);
+        return verdict_ = Verdict::Missed;
+    }
+    return verdict_ = Verdict::Wrong;
+}
+
+void Round::decide(Outcome outcome, int points)
+{
+    results_.at(static_cast<std::size_t>(position_ - 1)) = {outcome, points};
+    points_ += points;
+    decided_ = true;
 }
 
 bool Round::next()
 {
-    if (position_ == count_) {
+    if (position_ == count()) {
         return false;
     }
     ++position_;

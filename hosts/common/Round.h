@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <vector>
 
 namespace learning
 {
@@ -20,6 +22,14 @@ enum class Verdict : std::uint8_t {
     Unreadable ///< no answer: no try is used up
 };
 
+/// How a task of a round stands.
+enum class Outcome : std::uint8_t {
+    Open,   ///< not decided yet
+    AtOnce, ///< solved at the first try and without the hint
+    Later,  ///< solved with a wrong try before, or with the hint
+    Missed
+};
+
 /// One round: its tasks one after the other, tries, hints and points.
 ///
 /// A task gives 10 points at the first try; each wrong try and the hint cost 3. After the third wrong try it
@@ -32,9 +42,9 @@ public:
     static constexpr int Tries = 3;
 
     /// Of so many tasks, at least one.
-    explicit Round(int tasks) : count_(tasks) {}
+    explicit Round(int tasks) : results_(static_cast<std::size_t>(tasks)) {}
 
-    int count() const { return count_; }
+    int count() const { return static_cast<int>(results_.size()); }
     /// Position of the current task, from 1.
     int position() const { return position_; }
 
@@ -46,26 +56,37 @@ public:
     /// Whether the current task is solved or missed.
     bool decided() const { return decided_; }
     /// Whether the last task is decided.
-    bool finished() const { return decided_ && position_ == count_; }
+    bool finished() const { return decided_ && position_ == count(); }
     /// Goes on to the next task; false behind the last one.
     bool next();
 
+    /// How a task stands, and the points that it brought; by its position, from 1.
+    Outcome outcome(int position) const { return at(position).outcome; }
+    int pointsOf(int position) const { return at(position).points; }
+
     int points() const { return points_; }
-    int maximum() const { return count_ * FullPoints; }
+    int maximum() const { return count() * FullPoints; }
     int solved() const { return solved_; }
-    /// Points that the last right answer brought.
-    int lastPoints() const { return lastPoints_; }
+    /// Points that the current task has brought.
+    int lastPoints() const { return pointsOf(position_); }
     int triesLeft() const { return Tries - wrongTries_; }
 
 private:
-    int count_;
+    struct TaskResult {
+        Outcome outcome = Outcome::Open;
+        int points = 0;
+    };
+
+    const TaskResult& at(int position) const { return results_.at(static_cast<std::size_t>(position - 1)); }
+    void decide(Outcome outcome, int points);
+
+    std::vector<TaskResult> results_; ///< one a task
     int position_ = 1;
     int wrongTries_ = 0;
     bool hintTaken_ = false;
     bool decided_ = false;
     Verdict verdict_ = Verdict::Unreadable;
     int points_ = 0;
-    int lastPoints_ = 0;
     int solved_ = 0;
 };
 

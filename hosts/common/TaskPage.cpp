@@ -47,7 +47,6 @@ void TaskPage::showTask()
     verdict_.reset();
     hintShown_ = false;
     app_.show(round_->position());
-    caption(form_, u"lab_Hint", {});
     get<phial::ctl_Button>(u"but_Hint")->Enabled(true);
     showRoundTexts();
 }
@@ -56,6 +55,7 @@ void TaskPage::showTask()
 void TaskPage::showRoundTexts()
 {
     showVerdict();
+    showHelp();
     showCheckCaption();
     showProgress();
 }
@@ -88,9 +88,6 @@ void TaskPage::check()
     if (round_->decided()) {
         app_.close();
         get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
-        if (verdict_ == Verdict::Missed) {
-            giveHint();
-        }
     } else {
         app_.retry();
     }
@@ -114,7 +111,7 @@ void TaskPage::showVerdict()
         ->ForeColor(verdict_ == Verdict::Right ? phial::Palette::Right : phial::Palette::Failure);
 }
 
-String TaskPage::verdictText() const
+String TaskPage::verdictText()
 {
     if (!verdict_) {
         return {};
@@ -124,11 +121,7 @@ String TaskPage::verdictText() const
         return translate(u"Richtig! {1}, {2} Punkte für dich.", u"Right! {1}, {2} points for you.",
                          {app_.solution(), number(round_->lastPoints())});
     case Verdict::Wrong:
-        return round_->triesLeft() == 1
-                   ? translate(u"Leider nicht. Du hast noch einen Versuch.",
-                               u"Not quite. You have one try left.")
-                   : translate(u"Leider nicht. Du hast noch {1} Versuche.",
-                               u"Not quite. You have {1} tries left.", {number(round_->triesLeft())});
+        return wrongText();
     case Verdict::Missed:
         return translate(u"Schade. Richtig wären {1}.", u"A pity. {1} would be right.", {app_.solution()});
     case Verdict::Unreadable:
@@ -137,16 +130,47 @@ String TaskPage::verdictText() const
     return app_.unreadable();
 }
 
+/// A kind of error that can be told says more than the number of tries, and both find room.
+String TaskPage::wrongText()
+{
+    const bool isLast = round_->triesLeft() == 1;
+    const String remark = app_.remark();
+    if (!remark.empty()) {
+        return isLast ? remark + translate(u"<br>Du hast noch einen Versuch.", u"<br>You have one try left.")
+                      : remark + translate(u"<br>Du hast noch {1} Versuche.", u"<br>You have {1} tries left.",
+                                           {number(round_->triesLeft())});
+    }
+    return isLast
+               ? translate(u"Leider nicht. Du hast noch einen Versuch.", u"Not quite. You have one try left.")
+               : translate(u"Leider nicht. Du hast noch {1} Versuche.",
+                           u"Not quite. You have {1} tries left.", {number(round_->triesLeft())});
+}
+
+void TaskPage::showHelp()
+{
+    caption(form_, u"lab_Hint", helpText());
+}
+
+/// What stands beside the button of the hint.
+String TaskPage::helpText() const
+{
+    if (round_->decided()) {
+        return app_.working();
+    }
+    if (hintShown_) {
+        return app_.hint();
+    }
+    return round_->triesLeft() == 1 ? app_.support() : String();
+}
+
 void TaskPage::giveHint()
 {
-    if (!round_ || hintShown_) {
+    if (!round_ || round_->decided() || hintShown_) {
         return;
     }
     hintShown_ = true;
-    if (!round_->decided()) {
-        round_->takeHint();
-    }
-    caption(form_, u"lab_Hint", app_.hint());
+    round_->takeHint();
+    showHelp();
     get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
     app_.field()->SetFocus();
     if (verdict_ == Verdict::Wrong) {

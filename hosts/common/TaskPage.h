@@ -43,7 +43,10 @@ private:
     void check();
     void goOn();
     void showVerdict();
-    phial::String verdictText() const;
+    phial::String verdictText();
+    phial::String wrongText();
+    void showHelp();
+    phial::String helpText() const;
 
     template <typename Class>
     std::shared_ptr<Class> get(phial::StringView name) const

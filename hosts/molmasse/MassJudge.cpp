@@ -28,13 +28,17 @@ bool isRight(double answer, double molarMass)
     return std::abs(answer - molarMass) <= tolerance(molarMass) + RoundingAllowance;
 }
 
-Judgement judgeMass(phial::StringView answer, double molarMass)
+std::optional<double> typedMass(phial::StringView answer)
 {
     double value = 0;
-    if (!phial::CoreNumbers::ToDouble(phial::trimmed(answer), value)) {
-        return Judgement::Unreadable;
-    }
-    return isRight(value, molarMass) ? Judgement::Right : Judgement::Wrong;
+    return phial::CoreNumbers::ToDouble(phial::trimmed(answer), value) ? std::optional(value) : std::nullopt;
+}
+
+Judgement judgeMass(std::optional<double> answer, double molarMass)
+{
+    return !answer                       ? Judgement::Unreadable
+           : isRight(*answer, molarMass) ? Judgement::Right
+                                         : Judgement::Wrong;
 }
 
 } // namespace molmasse

@@ -3,6 +3,8 @@
 #include "common/Round.h"
 #include "core/String.h"
 
+#include <optional>
+
 namespace molmasse
 {
 
@@ -14,7 +16,10 @@ double tolerance(double molarMass);
 /// Whether an answer counts as right. The bound itself is still right.
 bool isRight(double answer, double molarMass);
 
-/// What a typed answer is worth; comma and point are both decimal signs.
-learning::Judgement judgeMass(phial::StringView answer, double molarMass);
+/// A typed mass, in g/mol; comma and point are both decimal signs. Empty where it is no number.
+std::optional<double> typedMass(phial::StringView answer);
+
+/// What a typed mass is worth.
+learning::Judgement judgeMass(std::optional<double> answer, double molarMass);
 
 } // namespace molmasse

@@ -200,8 +200,8 @@ String explained(const Diagnosis& diagnosis)
         return translate(u"Die {1} hinter der Klammer gilt für alles in der Klammer.",
                          u"The {1} behind the bracket counts for all that is in the bracket.", {count});
     case Mistake::OneElementOnly:
-        return translate(u"Das ist erst {1}. Die anderen Atome gehören auch dazu.",
-                         u"That is only {1}. The other atoms belong to it too.", {symbol});
+        return translate(u"Das ist erst die Masse von {1}. Es fehlen noch Atome.",
+                         u"That is the mass of {1} alone. Other atoms are missing.", {symbol});
     case Mistake::AtomsCounted:
         return translate(u"Das ist die Zahl der Atome. Nimm für jedes seine Masse.",
                          u"That is the number of atoms. Take the mass of each.");

@@ -3,7 +3,9 @@
 #include "common/Drawing.h"
 #include "common/FrameTexts.h"
 #include "molmasse/MassJudge.h"
+#include "molmasse/Mistakes.h"
 #include "molmasse/TrainerDesign.h"
+#include "molmasse/Working.h"
 
 namespace molmasse
 {
@@ -19,7 +21,8 @@ constexpr learning::AppTexts Texts{
     .title = u"Molmassen-Trainer|Molar mass trainer",
     .question = u"Was wiegt ein Mol davon?|What does a mole of it weigh?",
     .introduction =
-        u"Zehn Formeln warten auf dich. Bestimme zu jeder die molare Masse in g/mol und tippe sie ein, "
+        u"Bis zu zehn Formeln warten auf dich. Bestimme zu jeder die molare Masse in g/mol und tippe sie "
+        u"ein, "
         u"mit Komma oder Punkt. Wähle, wie schwer es werden soll:|"
         u"Ten formulas are waiting for you. Work out the molar mass of each in g/mol and type it, "
         u"with a comma or a point. Choose how hard it shall be:",
@@ -109,7 +112,8 @@ void Trainer::show(int position)
 
 Judgement Trainer::judge()
 {
-    return judgeMass(answer_->Text(), mass_);
+    judged_ = typedMass(answer_->Text());
+    return judgeMass(judged_, mass_);
 }
 
 void Trainer::retry()
@@ -136,7 +140,29 @@ String Trainer::unreadable() const
 
 String Trainer::hint() const
 {
-    return atomsCounted(*data_.elements, task_.formula);
+    return atomsCounted(*data_.elements, task_.formula, AtomMasses::Shown);
+}
+
+String Trainer::remark() const
+{
+    const MassSource source{[this](const String& formula) { return data_.elements->MOL(formula); },
+                            [this](const String& symbol) {
+                                return data_.elements->EXISTS(symbol)
+                                           ? data_.elements->ITEM(symbol, false)->PROTONS()
+                                           : 0;
+                            }};
+    const auto diagnosis = mistakeOf(task_.formula, judged_.value_or(0), source);
+    return diagnosis ? explained(*diagnosis) : String();
+}
+
+String Trainer::support() const
+{
+    return atomsCounted(*data_.elements, task_.formula, AtomMasses::Hidden);
+}
+
+String Trainer::working() const
+{
+    return workedLine(*data_.elements, task_.formula);
 }
 
 void Trainer::fill(Sample sample)

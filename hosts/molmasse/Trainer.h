@@ -34,6 +34,9 @@ public:
     phial::String solution() const override;
     phial::String unreadable() const override;
     phial::String hint() const override;
+    phial::String remark() const override;
+    phial::String support() const override;
+    phial::String working() const override;
     void fill(Sample sample) override;
 
 private:
@@ -42,7 +45,8 @@ private:
     TrainerData data_;
     std::vector<Task> tasks_; ///< of the round
     Task task_;
-    double mass_ = 0; ///< its molar mass, in g/mol
+    double mass_ = 0;              ///< its molar mass, in g/mol
+    std::optional<double> judged_; ///< the last answer, in g/mol
     phial::Form* form_ = nullptr;
     std::shared_ptr<phial::ctl_TermLabel> formula_;
     std::shared_ptr<phial::TextBox> answer_;

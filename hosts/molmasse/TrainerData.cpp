@@ -5,8 +5,6 @@
 #include "app/sys_Global.h"
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
-#include "core/Format.h"
-#include "core/NumberText.h"
 
 namespace molmasse
 {
@@ -48,29 +46,6 @@ TrainerData loadTrainerData()
         data.missingFile = taskFile;
     }
     return data;
-}
-
-String massText(double mass)
-{
-    return phial::formatPattern(mass, u"0.0");
-}
-
-String atomsCounted(phial::cls_DataElements& elements, const String& formula)
-{
-    const phial::CoreTokenList counts = elements.ELEMENTSCOUNT(formula);
-    String text;
-    for (std::int32_t i = 1; i <= counts.Count(); ++i) {
-        const auto& token = counts.Item(i);
-        const String symbol(token.Name());
-        if (!text.empty()) {
-            text += u"<br>";
-        }
-        text += phial::plainText(token.Values().Item(1).toReal(), u',') + u" \u00D7 " + symbol;
-        if (elements.EXISTS(symbol)) {
-            text += u" (" + massText(elements.ITEM(symbol, false)->MOL()) + u" g/mol)";
-        }
-    }
-    return text;
 }
 
 } // namespace molmasse

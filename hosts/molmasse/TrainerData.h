@@ -20,11 +20,4 @@ struct TrainerData {
 /// Reads the element table and the tasks. The root must have been started; nothing is raised.
 TrainerData loadTrainerData();
 
-/// The atoms of a formula as a pupil would write them down, with the table's molar masses in g/mol, one line
-/// an element: "2 × H (1,0)".
-phial::String atomsCounted(phial::cls_DataElements& elements, const phial::String& formula);
-
-/// A mass as the trainer shows it: one decimal, with the user's decimal sign.
-phial::String massText(double mass);
-
 } // namespace molmasse

@@ -45,6 +45,30 @@ TEST(RoundTest, TheThirdWrongTryMissesTheTask)
     EXPECT_FALSE(round.next());
 }
 
+TEST(RoundTest, EachTaskKeepsHowItStands)
+{
+    Round round(4);
+    round.count(Judgement::Right);
+    round.next();
+    round.takeHint();
+    round.count(Judgement::Right);
+    round.next();
+    round.count(Judgement::Wrong);
+    EXPECT_EQ(round.outcome(3), Outcome::Open);
+    round.count(Judgement::Right);
+    round.next();
+    for (int tries = 0; tries < Round::Tries; ++tries) {
+        round.count(Judgement::Wrong);
+    }
+    const Outcome expected[] = {Outcome::AtOnce, Outcome::Later, Outcome::Later, Outcome::Missed};
+    const int points[] = {10, 7, 7, 0};
+    for (int position = 1; position <= 4; ++position) {
+        EXPECT_EQ(round.outcome(position), expected[position - 1]) << position;
+        EXPECT_EQ(round.pointsOf(position), points[position - 1]) << position;
+    }
+    EXPECT_EQ(round.points(), 24);
+}
+
 TEST(RoundTest, WhatIsNoAnswerUsesUpNoTry)
 {
     Round round(1);

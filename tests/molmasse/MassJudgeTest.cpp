@@ -11,14 +11,14 @@ using learning::Judgement;
 
 TEST(MassJudgeTest, CommaAndPointAreBothDecimalSigns)
 {
-    EXPECT_EQ(judgeMass(u"18,5", 18.5), Judgement::Right);
-    EXPECT_EQ(judgeMass(u" 18.5 ", 18.5), Judgement::Right);
+    EXPECT_EQ(judgeMass(typedMass(u"18,5"), 18.5), Judgement::Right);
+    EXPECT_EQ(judgeMass(typedMass(u" 18.5 "), 18.5), Judgement::Right);
 }
 
 TEST(MassJudgeTest, WhatIsNoNumberIsNoAnswer)
 {
-    EXPECT_EQ(judgeMass(u"", 18), Judgement::Unreadable);
-    EXPECT_EQ(judgeMass(u"viel", 18), Judgement::Unreadable);
+    EXPECT_EQ(judgeMass(typedMass(u""), 18), Judgement::Unreadable);
+    EXPECT_EQ(judgeMass(typedMass(u"viel"), 18), Judgement::Unreadable);
 }
 
 TEST(MassJudgeTest, AnAnswerMayDifferByTheTolerance)

@@ -125,27 +125,61 @@ TEST_F(TrainerTest, TheSecondLevelIsReachedByTab)
 TEST_F(TrainerTest, AWrongAnswerMayBeMended)
 {
     openInstalled();
-    type(u"{enter}17{enter}");
+    type(u"{enter}25{enter}");
 
     EXPECT_EQ(seen(u"lab_Feedback"), u"Leider nicht. Du hast noch 2 Versuche.");
     EXPECT_EQ(buttonText(u"but_Check"), u"Prüfen");
 
     // The wrong answer is selected, so that typing replaces it.
-    type(u"16{enter}");
-    EXPECT_EQ(answer(), u"16");
+    type(u"26{enter}");
+    EXPECT_EQ(answer(), u"26");
     EXPECT_EQ(seen(u"lab_Feedback"), u"Leider nicht. Du hast noch einen Versuch.");
 
     type(u"18{enter}");
     EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0 g/mol, 4 Punkte für dich.");
 }
 
-TEST_F(TrainerTest, TheThirdWrongAnswerTellsTheSolutionAndTheHint)
+TEST_F(TrainerTest, AWrongAnswerTellsTheMistakeThatItShows)
+{
+    openInstalled();
+    type(u"{enter}17{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Denk an die kleine 2 hinter H.<br>Du hast noch 2 Versuche.");
+    EXPECT_EQ(seen(u"lab_Hint"), u"");
+    type(u"16{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"Das ist erst die Masse von O. Es fehlen noch Atome.<br>Du hast noch einen Versuch.");
+}
+
+TEST_F(TrainerTest, TheSecondWrongAnswerShowsTheAtomsForNothing)
+{
+    openInstalled();
+    type(u"{enter}25{enter}26{enter}");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H<br>1 \u00D7 O");
+    touch(u"but_Language");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H<br>1 \u00D7 O");
+    touch(u"but_Language");
+    touchPad(u"18");
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Points"), u"4 Punkte");
+}
+
+TEST_F(TrainerTest, ARightAnswerIsWorkedOutToo)
+{
+    openInstalled();
+    type(u"{enter}18{enter}");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+    type(u"{f1}"); // there is nothing left to give a hint for
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+    EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
+}
+
+TEST_F(TrainerTest, TheThirdWrongAnswerTellsTheSolutionWorkedOut)
 {
     openInstalled();
     type(u"{enter}1{enter}2{enter}3{enter}");
 
     EXPECT_EQ(seen(u"lab_Feedback"), u"Schade. Richtig wären 18,0 g/mol.");
-    EXPECT_TRUE(contains(seen(u"lab_Hint"), u"2 \u00D7 H (1,0 g/mol)"));
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
     EXPECT_EQ(seen(u"lab_Points"), u"0 Punkte");
 
     // What is decided is not edited any more.
@@ -284,13 +318,16 @@ TEST_F(TrainerTest, TheLanguageButtonTranslatesEverythingThatIsSeen)
     EXPECT_EQ(seen(u"lab_Progress"), u"Task 1 of 2");
     EXPECT_EQ(seen(u"lab_Points"), u"0 points");
     EXPECT_EQ(seen(u"lab_Name"), u"water");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Not quite. You have 2 tries left.");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"That is the mass of H alone. Other atoms are missing.<br>You have 2 tries left.");
     EXPECT_EQ(buttonText(u"but_Check"), u"Check");
     EXPECT_EQ(buttonText(u"but_Language"), u"Deutsch");
     EXPECT_EQ(answer(), u"1");
 
+    touchPad(u"7"); // what is typed meanwhile has not been judged
     touch(u"but_Language");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Leider nicht. Du hast noch 2 Versuche.");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"Das ist erst die Masse von H. Es fehlen noch Atome.<br>Du hast noch 2 Versuche.");
     EXPECT_EQ(buttonText(u"but_Language"), u"English");
 }
 

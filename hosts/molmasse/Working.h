@@ -1,0 +1,22 @@
+#pragma once
+
+#include "chem/cls_DataElements.h"
+
+namespace molmasse
+{
+
+/// A mass as the trainer shows it: one decimal, with the user's decimal sign.
+phial::String massText(double mass);
+
+/// Whether a list of atoms tells their masses too.
+enum class AtomMasses : bool { Hidden, Shown };
+
+/// The atoms of a formula as a pupil would write them down, lines divided by "<br>": "2 × H", or with the
+/// table's molar mass "2 × H (1,0 g/mol)".
+phial::String atomsCounted(const phial::cls_DataElements& elements, const phial::String& formula,
+                           AtomMasses masses);
+
+/// The molar mass worked out in one line: "2 × 1,0 + 16,0 = 18,0 g/mol".
+phial::String workedLine(const phial::cls_DataElements& elements, const phial::String& formula);
+
+} // namespace molmasse
