@@ -1,5 +1,4 @@
 #include "AppRateTest.h"
-
 #include "core/CoreDataFile.h"
 #include "core/CoreValuePacker.h"
 #include "headless/Hand.h"

@@ -1,5 +1,4 @@
 #include "AppRateTest.h"
-
 #include "app/cls_Language.h"
 #include "core/CoreValuePacker.h"
 #include "server/WireText.h"
