@@ -172,7 +172,7 @@ void Trainer::fill(Sample sample)
         answer_->Text(massText(mass_));
         return;
     case Sample::Wrong:
-        answer_->Text(u"12,3");
+        answer_->Text(massOfFirstElement(*data_.elements, task_.formula));
         return;
     case Sample::Unreadable:
         answer_->Text(translate(u"viel", u"much"));

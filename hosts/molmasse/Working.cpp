@@ -61,4 +61,10 @@ String workedLine(const phial::cls_DataElements& elements, const String& formula
     return text.append(u" = ").append(massText(elements.MOL(formula))).append(u" g/mol");
 }
 
+String massOfFirstElement(const phial::cls_DataElements& elements, phial::StringView formula)
+{
+    std::size_t position = 0;
+    return massOf(elements, phial::nextSymbol(formula, position));
+}
+
 } // namespace molmasse

@@ -19,4 +19,7 @@ phial::String atomsCounted(const phial::cls_DataElements& elements, const phial:
 /// The molar mass worked out in one line: "2 × 1,0 + 16,0 = 18,0 g/mol".
 phial::String workedLine(const phial::cls_DataElements& elements, const phial::String& formula);
 
+/// What a pupil may write down who stops too early.
+phial::String massOfFirstElement(const phial::cls_DataElements& elements, phial::StringView formula);
+
 } // namespace molmasse
