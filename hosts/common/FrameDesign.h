@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ctl_Avatar.h"
+#include "common/ctl_RoundDots.h"
 #include "results/ctl_Mark.h"
 #include "visual/FormDesign.h"
 #include "visual/Shape.h"
@@ -136,13 +137,12 @@ inline constexpr ControlDesign Head[] = {
         .ink(Palette::Muted)
         .align(TopLeft),
 
-    design<ctl_Label>(u"lab_Progress", {32, 20, 400, 28})
+    design<ctl_Label>(u"lab_Progress", {32, 12, 400, 28})
         .inside(u"pan_Task")
         .font(12)
         .ink(Palette::Muted)
         .align(MiddleLeft),
-    panel(u"pan_ProgressBack", {32, 52, 560, 10}, Palette::Divider, Palette::Divider).inside(u"pan_Task"),
-    panel(u"pan_ProgressDone", {32, 52, 56, 10}, Palette::Accent, Palette::Accent).inside(u"pan_Task"),
+    design<ctl_RoundDots>(u"dot_Round", {32, 42, 560, 30}).inside(u"pan_Task"),
 };
 
 /// Behind the app's own controls: what is pressed when an answer stands there, and the pages that follow.

@@ -1,10 +1,10 @@
 #include "common/TaskPage.h"
 
 #include "common/FrameTexts.h"
+#include "common/ctl_RoundDots.h"
 #include "core/Palette.h"
 #include "visual/ctl_Button.h"
 #include "visual/ctl_Label.h"
-#include "visual/ctl_Pannel.h"
 
 namespace learning
 {
@@ -74,11 +74,7 @@ void TaskPage::showProgress()
             translate(u"Aufgabe {1} von {2}", u"Task {1} of {2}",
                       {number(round_->position()), number(round_->count())}));
     caption(form_, u"lab_Points", translate(u"{1} Punkte", u"{1} points", {number(round_->points())}));
-    const int done = round_->position() - (round_->decided() ? 0 : 1);
-    const double full = get<phial::ctl_Pannel>(u"pan_ProgressBack")->Width();
-    const auto bar = get<phial::ctl_Pannel>(u"pan_ProgressDone");
-    bar->Width(full * done / round_->count());
-    bar->Visible(done > 0);
+    get<ctl_RoundDots>(u"dot_Round")->show(*round_);
 }
 
 void TaskPage::check()

@@ -1,4 +1,5 @@
 #include "app/cls_Language.h"
+#include "common/ctl_RoundDots.h"
 #include "molmasse/TrainerTest.h"
 
 #include <gmock/gmock-matchers.h>
@@ -253,17 +254,21 @@ TEST_F(TrainerTest, ThePadHonoursSelectionAndGreatestLength)
     EXPECT_EQ(answer(), u"");
 }
 
-TEST_F(TrainerTest, TheBarOfProgressGrowsWithTheTasks)
+TEST_F(TrainerTest, TheDotsFollowTheTasks)
 {
     openInstalled();
-    touch(u"but_Level", 0);
-    EXPECT_FALSE(isSeen(u"pan_ProgressDone"));
-
+    type(u"{enter}");
+    const auto spoken = [this](std::size_t dot) {
+        return form().control<learning::ctl_RoundDots>(u"dot_Round")->parts().at(dot).name;
+    };
+    EXPECT_EQ(spoken(0), u"Aufgabe 1: noch 3 Versuche");
+    type(u"25{enter}");
+    EXPECT_EQ(spoken(0), u"Aufgabe 1: noch 2 Versuche");
     type(u"18{enter}");
-
-    const double full = form().control<phial::ctl_Pannel>(u"pan_ProgressBack")->Width();
-    EXPECT_TRUE(isSeen(u"pan_ProgressDone"));
-    EXPECT_DOUBLE_EQ(form().control<phial::ctl_Pannel>(u"pan_ProgressDone")->Width(), full / 2);
+    EXPECT_EQ(spoken(0), u"Aufgabe 1: 7 Punkte");
+    EXPECT_EQ(spoken(1), u"Aufgabe 2: kommt noch");
+    type(u"{enter}");
+    EXPECT_EQ(spoken(1), u"Aufgabe 2: noch 3 Versuche");
 }
 
 TEST_F(TrainerTest, TheWindowGoesWithItsForm)
