@@ -32,7 +32,7 @@ endfunction()
 phial_install_component(core phial phial phial_headless headless)
 phial_install_component(sealing phial_sealing sealing)
 phial_install_component(qt_base phial_qt_base qt_base)
-phial_install_component(qt phial_qt qt)
+phial_install_component(qt phial_qt qt phial_qt_sound qt_sound)
 
 set(not_installed)
 if(NOT TARGET phial_qt_base)

@@ -13,7 +13,8 @@ BELOW = {
     "headless": SYSTEM,
     "sealing": ("core",),
     "qt/base": (*SYSTEM, "sealing"),
-    "qt/desktop": (*SYSTEM, "qt/base"),
+    "qt/sound": SYSTEM,
+    "qt/desktop": (*SYSTEM, "qt/base", "qt/sound"),
     **{subsystem: ("core", "visual") for subsystem in SUBSYSTEMS},
 }
 

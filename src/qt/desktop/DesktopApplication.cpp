@@ -8,6 +8,7 @@
 #include "qt/desktop/QtVisualHost.h"
 #include "qt/desktop/ShotDialogs.h"
 #include "qt/desktop/SvgFormDocument.h"
+#include "qt/sound/QtAudioOutput.h"
 #include "server/frm_NetMonitor.h"
 
 #include <QApplication>
@@ -92,6 +93,8 @@ Platform DesktopApplication::platform() const
     if (shotsFolder()) {
         platform.settings.reset();       // pictures show nothing of the user's settings, and change none
         platform.newNetClient = nullptr; // nor do they depend on who is on the network
+    } else {
+        platform.audio = std::make_shared<QtAudioOutput>(platform.clock);
     }
     dispatchGuard()->setReporter([dialogs = platform.dialogs](const String& text) { dialogs->Error(text); });
     platform.display = std::make_shared<DesktopDisplay>();
