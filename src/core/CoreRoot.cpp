@@ -26,8 +26,9 @@ struct CoreRoot::Facets {
            const std::shared_ptr<const CurrentFolder>& currentFolder)
         : locale(sessionLocale), timing(platform.clock, platform.pump), ui(platform.textBoxes),
           system(platform.folders, platform.machine, platform.windows, platform.shell, platform.pump),
-          registry(platform.settings), files(platform.files, currentFolder), dialogs(platform.dialogs),
-          sound(platform.sound), display(platform.display), cursors(platform.cursors)
+          registry(platform.settings), files(platform.files, currentFolder),
+          sound(platform.audio, platform.files, platform.clock, currentFolder), dialogs(platform.dialogs),
+          display(platform.display), cursors(platform.cursors)
     {
     }
 
@@ -40,9 +41,9 @@ struct CoreRoot::Facets {
     phial::CoreNumbers numbers;
     phial::CoreRegistry registry;
     phial::CoreFiles files;
+    phial::CoreSoundFacet sound;
     phial::CoreColors colors;
     std::shared_ptr<phial::CoreDialogs> dialogs;
-    std::shared_ptr<phial::CoreSoundFacet> sound;
     std::shared_ptr<phial::CoreDisplay> display;
     std::shared_ptr<phial::CoreCursors> cursors;
 };
@@ -62,7 +63,7 @@ phial::CoreRuntimeOptions& CoreRoot::CoreRuntimeOptions()
 
 phial::CoreSoundFacet& CoreRoot::CoreSoundFacet()
 {
-    return *facets_->sound;
+    return facets_->sound;
 }
 
 phial::CoreLocale& CoreRoot::CoreLocale()

@@ -13,6 +13,7 @@ class CoreLocale;
 class CoreNumbers;
 class CoreRegistry;
 class CoreRuntimeOptions;
+class CoreSoundFacet;
 class CoreSystem;
 class CoreText;
 class CoreTiming;

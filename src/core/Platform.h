@@ -18,8 +18,8 @@ class CoreDisplay;
 class CoreFolders;
 class CoreFormDocument;
 class CoreMachine;
+class CoreMixer;
 class CoreNetClient;
-class CoreSoundFacet;
 class CoreTextBoxOps;
 class CoreWindowOps;
 class Environment;
@@ -45,10 +45,11 @@ struct Platform {
     std::shared_ptr<CoreWindowOps> windows;
     std::shared_ptr<CoreDisplay> display;
     std::shared_ptr<CoreCursors> cursors;
-    std::shared_ptr<CoreSoundFacet> sound;
     std::shared_ptr<AudioOutput> audio;
     std::shared_ptr<CoreTextBoxOps> textBoxes;
     std::shared_ptr<Shell> shell;
+    /// Left out: the level of this program's own sounds on `audio`.
+    std::shared_ptr<CoreMixer> mixer;
     /// Left out: settings live in memory, for the session.
     std::shared_ptr<SettingsStore> settings;
 

@@ -7,7 +7,6 @@
 #include "core/CoreFormDocument.h"
 #include "core/CoreMachine.h"
 #include "core/CoreNetClient.h"
-#include "core/CoreSoundFacet.h"
 #include "core/CoreTextBoxOps.h"
 #include "core/CoreWindowOps.h"
 #include "core/Environment.h"
@@ -16,12 +15,14 @@
 #include "core/MemorySettingsStore.h"
 #include "core/NativePath.h"
 #include "core/Platform.h"
+#include "core/ProgramMixer.h"
 #include "core/RandomSource.h"
 #include "core/RecordSeal.h"
 #include "core/RuntimeError.h"
 #include "core/Shell.h"
 #include "core/StandardEventPump.h"
 
+#include <bit>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
@@ -60,12 +61,6 @@ class NoCursors : public CoreCursors
 {
 public:
     std::shared_ptr<Picture> Load(StringView, std::int32_t, bool, bool) override { return nullptr; }
-};
-
-class NoSound : public CoreSoundFacet
-{
-public:
-    bool Play(StringView, bool) override { return false; }
 };
 
 class NoAudio : public AudioOutput
@@ -166,6 +161,7 @@ class StandardRandom : public RandomSource
 {
 public:
     double next() override { return std::generate_canonical<double, 53>(engine_); }
+    void seed(double value) override { engine_.seed(std::bit_cast<std::uint64_t>(value)); }
 
 private:
     std::mt19937_64 engine_{std::random_device{}()};
@@ -191,7 +187,6 @@ Platform withDefaults(Platform platform)
     fill<CoreWindowOps, NoWindows>(platform.windows);
     fill<CoreDisplay, NoDisplay>(platform.display);
     fill<CoreCursors, NoCursors>(platform.cursors);
-    fill<CoreSoundFacet, NoSound>(platform.sound);
     fill<AudioOutput, NoAudio>(platform.audio);
     fill<CoreTextBoxOps, NoTextBoxes>(platform.textBoxes);
     fill<Shell, NoShell>(platform.shell);
@@ -200,6 +195,9 @@ Platform withDefaults(Platform platform)
     fill<Environment, ProcessEnvironment>(platform.environment);
     fill<RandomSource, StandardRandom>(platform.random);
     fill<FileSystem, NativeFileSystem>(platform.files);
+    if (!platform.mixer) {
+        platform.mixer = std::make_shared<ProgramMixer>(platform.audio);
+    }
     if (!platform.reportError) {
         platform.reportError = writeToStandardError;
     }

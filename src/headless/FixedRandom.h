@@ -26,6 +26,10 @@ public:
         next_ = 0;
     }
 
+    /// The seeds that were given; the numbers go on as they stand.
+    const std::vector<double>& seeds() const { return seeds_; }
+
+    void seed(double value) override { seeds_.push_back(value); }
     double next() override
     {
         const double number = numbers_[next_];
@@ -36,6 +40,7 @@ public:
 private:
     std::vector<double> numbers_{0.5};
     std::size_t next_ = 0;
+    std::vector<double> seeds_;
 };
 
 } // namespace phial::headless

@@ -33,7 +33,6 @@ Platform HeadlessPlatform::platform() const
     platform.windows = windows_;
     platform.display = display_;
     platform.cursors = cursors_;
-    platform.sound = sound_;
     platform.audio = audio_;
     platform.textBoxes = textBoxes_;
     platform.shell = shell_;

@@ -16,7 +16,6 @@
 #include "headless/RecordingInterCom.h"
 #include "headless/RecordingSettings.h"
 #include "headless/RecordingShell.h"
-#include "headless/RecordingSound.h"
 #include "headless/RecordingTextBoxes.h"
 #include "headless/RecordingWindowOps.h"
 #include "headless/ScriptedDialogs.h"
@@ -55,7 +54,6 @@ public:
     FakeDisplay& display() { return *display_; }
     RecordingCursors& cursors() { return *cursors_; }
     FakeAudio& audio() { return *audio_; }
-    RecordingSound& sound() { return *sound_; }
     RecordingTextBoxes& textBoxes() { return *textBoxes_; }
     RecordingShell& shell() { return *shell_; }
     RecordingSettings& settings() { return *settings_; }
@@ -76,7 +74,6 @@ private:
     std::shared_ptr<RecordingWindowOps> windows_ = std::make_shared<RecordingWindowOps>();
     std::shared_ptr<FakeDisplay> display_ = std::make_shared<FakeDisplay>();
     std::shared_ptr<RecordingCursors> cursors_ = std::make_shared<RecordingCursors>();
-    std::shared_ptr<RecordingSound> sound_ = std::make_shared<RecordingSound>();
     std::shared_ptr<RecordingTextBoxes> textBoxes_ = std::make_shared<RecordingTextBoxes>();
     std::shared_ptr<RecordingShell> shell_ = std::make_shared<RecordingShell>();
     std::shared_ptr<RecordingSettings> settings_ = std::make_shared<RecordingSettings>();

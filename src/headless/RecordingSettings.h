@@ -23,6 +23,12 @@ public:
         }
     }
 
+    void writeTrace(SettingsHive hive, StringView path, const Variant& value) override
+    {
+        traces_.push_back(value.toText());
+        write(hive, path, value);
+    }
+
     /// From now on nothing that is written stays, as on a full or locked disk.
     void refuseWrites() { refuses_ = true; }
 
@@ -35,9 +41,14 @@ public:
     const std::vector<String>& written() const { return written_; }
     void forgetWritten() { written_.clear(); }
 
+    /// The traces that were left, whatever their path.
+    const std::vector<String>& traces() const { return traces_; }
+    void forgetTraces() { traces_.clear(); }
+
 private:
     MemorySettingsStore store_;
     std::vector<String> written_;
+    std::vector<String> traces_;
     bool refuses_ = false;
 };
 

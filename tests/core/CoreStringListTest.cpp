@@ -18,6 +18,7 @@ class SameNumber : public RandomSource
 public:
     explicit SameNumber(double number) : number_(number) {}
     double next() override { return number_; }
+    void seed(double /*value*/) override {}
 
 private:
     double number_;

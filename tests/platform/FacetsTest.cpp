@@ -2,7 +2,6 @@
 #include "core/CoreDialogs.h"
 #include "core/CoreDisplay.h"
 #include "core/CoreRuntimeOptions.h"
-#include "core/CoreSoundFacet.h"
 #include "core/CoreSystem.h"
 #include "support/HeadlessSession.h"
 #include "support/Raises.h"
@@ -88,11 +87,9 @@ TEST_F(Facets, ThePointerIsGivenByPartsAndWhole)
     EXPECT_EQ(y, 40);
 }
 
-TEST_F(Facets, SoundsAndCursorsReachTheOutside)
+TEST_F(Facets, CursorsReachTheOutside)
 {
-    EXPECT_TRUE(coreRoot().CoreSoundFacet().Play(u"\\a.wav", true));
     coreRoot().CoreCursors().Load(u"cur\\hand up.ico", 0, true, true);
-    EXPECT_THAT(outside.sound().played(), ElementsAre(headless::PlayedSound{u"\\a.wav", true}));
     EXPECT_THAT(outside.cursors().loaded(), ElementsAre(u"cur\\hand up.ico"));
 }
 

@@ -12,6 +12,7 @@ class QtRandom final : public RandomSource
 {
 public:
     double next() override { return QRandomGenerator::system()->generateDouble(); }
+    void seed(double /*value*/) override {}
 };
 
 } // namespace phial::qt
