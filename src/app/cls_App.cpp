@@ -15,6 +15,8 @@
 #include "core/CoreRuntimeOptions.h"
 #include "core/InterCom.h"
 #include "core/RuntimeError.h"
+#include "media/cls_AppMedia.h"
+#include "media/cls_AppTexts.h"
 #include "results/cls_AppRate.h"
 #include "server/cls_AppServer.h"
 
@@ -76,6 +78,16 @@ const std::shared_ptr<cls_AppURL>& cls_App::URL()
 void cls_App::URL(std::shared_ptr<cls_AppURL> value)
 {
     url_.set(std::move(value));
+}
+
+const std::shared_ptr<cls_AppMedia>& cls_App::MEDIA()
+{
+    return media_.get();
+}
+
+void cls_App::MEDIA(std::shared_ptr<cls_AppMedia> value)
+{
+    media_.set(std::move(value));
 }
 
 const std::shared_ptr<cls_AppConfig>& cls_App::CONFIG()
@@ -146,6 +158,16 @@ const std::shared_ptr<cls_AppRate>& cls_App::RATE()
 void cls_App::RATE(std::shared_ptr<cls_AppRate> value)
 {
     rate_.set(std::move(value));
+}
+
+const std::shared_ptr<cls_AppTexts>& cls_App::TEXTS()
+{
+    return texts_.get();
+}
+
+void cls_App::TEXTS(std::shared_ptr<cls_AppTexts> value)
+{
+    texts_.set(std::move(value));
 }
 
 } // namespace phial

@@ -13,8 +13,10 @@ class InterCom;
 class cls_AppConfig;
 class cls_AppDialog;
 class cls_AppMRU;
+class cls_AppMedia;
 class cls_AppRate;
 class cls_AppServer;
+class cls_AppTexts;
 class cls_AppTools;
 class cls_AppURL;
 class cls_AppUser;
@@ -56,6 +58,10 @@ public:
     const std::shared_ptr<cls_AppURL>& URL();
     void URL(std::shared_ptr<cls_AppURL> value);
 
+    /// Sounds.
+    const std::shared_ptr<cls_AppMedia>& MEDIA();
+    void MEDIA(std::shared_ptr<cls_AppMedia> value);
+
     /// Settings and command line.
     const std::shared_ptr<cls_AppConfig>& CONFIG();
     void CONFIG(std::shared_ptr<cls_AppConfig> value);
@@ -84,17 +90,22 @@ public:
     const std::shared_ptr<cls_AppServer>& SERVER();
     void SERVER(std::shared_ptr<cls_AppServer> value);
 
+    /// Words of praise.
+    const std::shared_ptr<cls_AppTexts>& TEXTS();
+    void TEXTS(std::shared_ptr<cls_AppTexts> value);
+
     /// The messenger to the other programs of the suite. Made at the start, not set before.
     const std::shared_ptr<InterCom>& INTERCOM() const { return interCom_; }
     void INTERCOM(std::shared_ptr<InterCom> value) { interCom_ = std::move(value); }
 
-    /// What the frame's dialogs ask of keyboards and sounds.
+    /// What the frame's dialogs ask of keyboards.
     const DialogAids& dialogAids() const { return dialogAids_; }
     void dialogAids(DialogAids value) { dialogAids_ = std::move(value); }
 
 private:
     String registryKey_ = u"Software\\QV Brunnhof\\Phial\\";
     SubObject<cls_AppURL> url_;
+    SubObject<cls_AppMedia> media_;
     SubObject<cls_AppConfig> config_;
     SubObject<cls_AppTools> tools_;
     SubObject<cls_AppMRU> mru_;
@@ -102,6 +113,7 @@ private:
     SubObject<cls_AppUser> user_;
     SubObject<cls_AppRate> rate_;
     SubObject<cls_AppServer> server_;
+    SubObject<cls_AppTexts> texts_;
     std::shared_ptr<InterCom> interCom_;
     DialogAids dialogAids_;
 };

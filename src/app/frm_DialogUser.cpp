@@ -12,6 +12,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
 #include "core/RuntimeError.h"
+#include "media/cls_AppMedia.h"
 #include "visual/VisualHost.h"
 
 #include <algorithm>
@@ -202,9 +203,7 @@ void frm_DialogUser::confirm()
     const String name = trimmed(screenName_->Text());
     screenName_->Text(name);
     if (const StringView warning = objection(name); !warning.empty()) {
-        if (const auto& play = QVAPP()->dialogAids().playCategory) {
-            play(u"wrong", false);
-        }
+        QVAPP()->MEDIA()->PLAYCATEGORY(u"wrong", false);
         coreRoot().CoreDialogs().Error(warning);
         return;
     }

@@ -2,6 +2,7 @@
 #include "app/cls_Language.h"
 #include "app/frm_DialogUser.h"
 #include "headless/Hand.h"
+#include "support/MarkedWaves.h"
 #include "visual/ScrollBar.h"
 #include "visual/Shape.h"
 #include "visual/ctl_CmdBar.h"
@@ -188,19 +189,16 @@ TEST_F(DialogUser, JudgesANameWithoutItsOuterBlanks)
 
 TEST_F(DialogUser, PlaysASoundWithEachWarning)
 {
-    std::vector<String> played;
-    DialogAids aids;
-    aids.playCategory = [&](StringView category, bool wait) {
-        EXPECT_FALSE(wait);
-        played.emplace_back(category);
-    };
-    QVAPP()->dialogAids(aids);
+    folder.write("sfx/wrong/a.wav", test::markedWave(0.5, 7));
+    QVAPP()->URL()->RESOURCESFX(path(u"sfx\\"));
     expectError(NameTooShort);
     look([&] {
         enter(u"xy");
         confirm();
     });
-    EXPECT_EQ(played, std::vector<String>{u"wrong"});
+    outside.advance(0.1);
+    ASSERT_EQ(outside.audio().heard().size(), 1U);
+    EXPECT_EQ(test::markOf(*outside.audio().heard()[0].sound), 7);
 }
 
 TEST_F(DialogUser, OpensTheKeyboardForTheName)

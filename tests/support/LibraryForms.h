@@ -4,6 +4,8 @@
 #include "app/screen/frm_AppAbout.h"
 #include "app/screen/frm_Fade.h"
 #include "app/screen/frm_Resource.h"
+#include "media/frm_AppMCI.h"
+#include "media/frm_DialogSound.h"
 #include "results/cls_DataScores.h"
 #include "results/frm_DialogHighscore.h"
 #include "server/NetMonitorDesign.h"
@@ -48,6 +50,14 @@ inline MadeForm makeHighscore()
     return {made, &made->form()};
 }
 
+/// The praise window with a word of praise.
+inline MadeForm makePraise()
+{
+    const auto made = std::make_shared<frm_DialogSound>();
+    made->SoundText(u"Bravo.wav");
+    return {made, &made->form()};
+}
+
 /// The network monitor with one line, a note.
 inline MadeForm makeNetMonitor()
 {
@@ -67,11 +77,18 @@ inline std::vector<LibraryForm> libraryForms()
          .pairs = {u"Info über Molmasse|About Molmasse"},
          .data = {u"Molmasse", u"Version 5.1.2", u"(c) Somebody", u"apps\\Molmasse\\"},
          .aborts = true},
+        {.name = u"frm_AppMCI", .make = makeLibraryForm<frm_AppMCI>, .pairs = {}, .data = {}, .shown = false},
         {.name = u"frm_DialogHighscore",
          .make = makeHighscore,
          .design = &dialog_highscore_design::Design,
          .pairs = {},
          .data = {},
+         .aborts = true},
+        {.name = u"frm_DialogSound",
+         .make = makePraise,
+         .design = &dialog_sound_design::Design,
+         .pairs = {u"Richtig|Right"},
+         .data = {u"Bravo"},
          .aborts = true},
         {.name = u"frm_DialogUser",
          .make = makeLibraryForm<frm_DialogUser>,

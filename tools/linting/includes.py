@@ -1,9 +1,10 @@
 """The direction of includes: hosts and adapter above the subsystems, these above visual, visual above core."""
 import re
 
-# Each may use those before it. The root and its sub-objects use all of them, since they hand them out.
+# Each may use those before it. The root and its sub-objects use all of them, since they hand them out; so do the
+# frame's own dialogs.
 SUBSYSTEMS = ("app", "chem", "term", "calc", "media", "results", "server", "mascot", "periodic", "dialogs")
-ROOTS_OWN = re.compile(r"(cls_App\w*|StartUp|Session)\.cpp$")
+ROOTS_OWN = re.compile(r"(cls_App\w*|StartUp|Session|frm_DialogUser)\.cpp$")
 SYSTEM = ("core", "visual", *SUBSYSTEMS)
 # What each folder of src/ may include besides itself. Subsystems reach each other through the root; their .cpp
 # files may include earlier neighbours for that, their headers may not.
