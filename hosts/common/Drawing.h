@@ -15,16 +15,19 @@ using RandomBelow = std::function<int(int bound)>;
 /// The session's random numbers.
 int randomBelow(int bound);
 
-/// Up to `most` different elements of the pool, in the order in which they were drawn.
-template <typename Task>
-std::vector<Task> drawTasks(std::vector<Task> pool, std::size_t most, const RandomBelow& random)
+/// Up to `most` different elements of the pool in the order in which they were drawn, those that are
+/// preferred before all others.
+template <typename Task, typename Preferred>
+std::vector<Task> drawTasks(std::vector<Task> pool, std::size_t most, const RandomBelow& random,
+                            const Preferred& preferred)
 {
-    const std::size_t wanted = std::min(pool.size(), most);
-    for (std::size_t i = 0; i < wanted; ++i) {
-        const auto left = static_cast<int>(pool.size() - i);
-        std::swap(pool[i], pool[i + static_cast<std::size_t>(random(left))]);
+    const auto others = std::stable_partition(pool.begin(), pool.end(), preferred);
+    const auto wanted = pool.begin() + static_cast<std::ptrdiff_t>(std::min(pool.size(), most));
+    for (auto next = pool.begin(); next != wanted; ++next) {
+        const auto end = next < others ? others : pool.end();
+        std::iter_swap(next, next + random(static_cast<int>(end - next)));
     }
-    pool.resize(wanted);
+    pool.erase(wanted, pool.end());
     return pool;
 }
 

@@ -37,6 +37,14 @@ struct LevelTitle {
     phial::String english;
 };
 
+/// Which of a level's tasks a round is to have.
+struct TaskChoice {
+    /// Whether a task of that name comes before others.
+    std::function<bool(phial::StringView name)> preferred;
+    /// No others at all, unless none is preferred.
+    bool preferredOnly = false;
+};
+
 /// What a learning app brings to the frame: its texts, its levels, the controls of its task page, and what it
 /// knows about its tasks. The frame has everything else: the window, the pages, points and tries, the
 /// classroom, lists and certificates.
@@ -68,9 +76,11 @@ public:
     virtual void TRANSLATE() {}
 
     /// Draws the tasks of a round and gives how many there are, at least one.
-    virtual int begin(std::size_t level) = 0;
+    virtual int begin(std::size_t level, const TaskChoice& choice) = 0;
     /// Shows a task of the round, counted from 1, without an answer and open for one.
     virtual void show(int position) = 0;
+    /// What tells the task that is shown apart from all others, in any language.
+    virtual phial::String taskName() const = 0;
     /// What the present answer is worth.
     virtual Judgement judge() = 0;
     /// The present answer is to be replaced by what is typed next.

@@ -1,15 +1,32 @@
 #include "common/TaskPage.h"
 
+#include "app/cls_App.h"
+#include "app/cls_AppUser.h"
+#include "app/sys_Global.h"
 #include "common/FrameTexts.h"
+#include "common/MissedTasks.h"
 #include "common/ctl_RoundDots.h"
 #include "core/Palette.h"
 #include "visual/ctl_Button.h"
 #include "visual/ctl_Label.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace learning
 {
 
 using phial::String;
+
+namespace
+{
+
+MissedTasks ofThisPupil()
+{
+    return MissedTasks(phial::QVAPP()->USER()->SCREENNAME());
+}
+
+} // namespace
 
 TaskPage::TaskPage(phial::Form& form, LearningApp& app) : form_(form), app_(app)
 {
@@ -19,7 +36,24 @@ TaskPage::TaskPage(phial::Form& form, LearningApp& app) : form_(form), app_(app)
 
 void TaskPage::begin(std::size_t level)
 {
-    round_.emplace(app_.begin(level));
+    const MissedTasks known = ofThisPupil();
+    begin(level, {.preferred = [&known](phial::StringView task) { return known.has(task); }});
+}
+
+void TaskPage::beginMissed(std::size_t level)
+{
+    const auto again = std::exchange(missed_, {});
+    begin(level, {.preferred =
+                      [&again](phial::StringView task) {
+                          return std::find(again.begin(), again.end(), task) != again.end();
+                      },
+                  .preferredOnly = true});
+}
+
+void TaskPage::begin(std::size_t level, const TaskChoice& choice)
+{
+    missed_.clear();
+    round_.emplace(app_.begin(level, choice));
     showTask();
 }
 
@@ -82,12 +116,31 @@ void TaskPage::check()
     verdict_ = round_->count(app_.judge());
     showRoundTexts();
     if (round_->decided()) {
+        noteOutcome();
         app_.close();
         get<phial::ctl_Button>(u"but_Hint")->Enabled(false);
     } else {
         app_.retry();
     }
     app_.field()->SetFocus();
+}
+
+/// Remembers for later rounds what went wrong, and forgets what has been learnt.
+void TaskPage::noteOutcome()
+{
+    const String task = app_.taskName();
+    switch (round_->outcome(round_->position())) {
+    case Outcome::Missed:
+        missed_.push_back(task);
+        ofThisPupil().missed(task);
+        return;
+    case Outcome::AtOnce:
+        ofThisPupil().solved(task);
+        return;
+    case Outcome::Later:
+    case Outcome::Open:
+        return;
+    }
 }
 
 void TaskPage::goOn()

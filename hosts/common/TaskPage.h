@@ -5,6 +5,7 @@
 #include "visual/Form.h"
 
 #include <optional>
+#include <vector>
 
 namespace learning
 {
@@ -20,8 +21,11 @@ public:
     TaskPage(const TaskPage&) = delete;
     TaskPage& operator=(const TaskPage&) = delete;
 
-    /// Begins a round of that level and shows its first task.
+    /// Begins a round of that level and shows its first task. What the pupil missed in former rounds comes
+    /// first.
     void begin(std::size_t level);
+    /// Begins a round of those tasks of the last one that were missed.
+    void beginMissed(std::size_t level);
     /// Forgets the round; its points leave the header.
     void end();
     /// The round under way or just finished; null without one.
@@ -35,7 +39,9 @@ public:
     phial::Event<> Finished;
 
 private:
+    void begin(std::size_t level, const TaskChoice& choice);
     void press();
+    void noteOutcome();
     void showTask();
     void showRoundTexts();
     void showCheckCaption();
@@ -58,7 +64,8 @@ private:
     LearningApp& app_;
     phial::Connections connections_;
     std::optional<Round> round_;
-    std::optional<Verdict> verdict_; ///< what the present task shows
+    std::vector<phial::String> missed_; ///< of this round
+    std::optional<Verdict> verdict_;    ///< what the present task shows
     bool hintShown_ = false;
 };
 

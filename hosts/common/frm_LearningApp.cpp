@@ -14,6 +14,7 @@
 #include "common/FrameTexts.h"
 #include "common/ListNotices.h"
 #include "core/CoreTheme.h"
+#include "core/SessionState.h"
 
 namespace learning
 {

@@ -7,6 +7,9 @@
 #include "molmasse/TrainerDesign.h"
 #include "molmasse/Working.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace molmasse
 {
 
@@ -94,9 +97,14 @@ void Trainer::showName()
     learning::caption(*form_, u"lab_Name", translate(task_.germanName, task_.englishName));
 }
 
-int Trainer::begin(std::size_t level)
+int Trainer::begin(std::size_t level, const learning::TaskChoice& choice)
 {
-    tasks_ = learning::drawTasks(data_.tasks.levels.at(level).tasks, TasksInRound, learning::randomBelow);
+    const auto isPreferred = [&choice](const Task& task) { return choice.preferred(task.formula); };
+    std::vector<Task> pool = data_.tasks.levels.at(level).tasks;
+    if (choice.preferredOnly && std::ranges::any_of(pool, isPreferred)) {
+        std::erase_if(pool, std::not_fn(isPreferred));
+    }
+    tasks_ = learning::drawTasks(std::move(pool), TasksInRound, learning::randomBelow, isPreferred);
     return static_cast<int>(tasks_.size());
 }
 

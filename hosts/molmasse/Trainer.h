@@ -25,8 +25,9 @@ public:
     std::span<const phial::ControlDesign> controls() const override;
     void attach(phial::Form& form) override;
     void TRANSLATE() override;
-    int begin(std::size_t level) override;
+    int begin(std::size_t level, const learning::TaskChoice& choice) override;
     void show(int position) override;
+    phial::String taskName() const override { return task_.formula; }
     learning::Judgement judge() override;
     void retry() override;
     void close() override;
