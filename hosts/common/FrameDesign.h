@@ -177,7 +177,9 @@ inline constexpr ControlDesign Tail[] = {
     sideButton(u"but_Certificate", {327, 328, 246, 64}, u"Urkunde drucken|Print certificate")
         .inside(u"pan_Summary"),
     sideButton(u"but_Export", {594, 328, 246, 64}, u"Liste als Text|List as text").inside(u"pan_Summary"),
-    mainButton(u"but_Again", {60, 412, 513, 76}, u"Noch einmal|Again").inside(u"pan_Summary"),
+    mainButton(u"but_Again", {60, 412, 246, 76}, u"Noch einmal|Again").inside(u"pan_Summary"),
+    leavingButton(u"but_Missed", {327, 412, 246, 76}, u"Nur die falschen|Only the missed ones")
+        .inside(u"pan_Summary"),
     leavingButton(u"but_Quit", {594, 412, 246, 76}, u"Beenden|Quit").inside(u"pan_Summary"),
 
     heading(u"lab_WaitingTitle", {60, 60, 780, 48}, u"Gleich geht es los|It will begin soon")

@@ -46,16 +46,30 @@ SummaryPage::SummaryPage(phial::Form& form, const AppTexts& texts) : form_(form)
     press(u"but_Export", [this] { exportList(); });
 }
 
-void SummaryPage::show(const RoundResult& result, LevelTitle level)
+void SummaryPage::show(const RoundResult& result, LevelTitle level, RoundKind kind)
 {
     result_ = result;
     level_ = std::move(level);
+    kind_ = kind;
     rank_ = 0;
     const auto bar = form_.control<phial::ctl_Pannel>(u"pan_ResultDone");
     bar->Width(form_.control<phial::ctl_Pannel>(u"pan_ResultBack")->Width() * result_.share());
     bar->Visible(result_.points > 0);
+    form_.control<phial::ctl_Button>(u"but_Certificate")->Enabled(kind == RoundKind::Counting);
+    offerMissed(result.solved < result.tasks);
     showMark();
     TRANSLATE();
+}
+
+/// Where nothing was missed the coloured button has the room of both.
+void SummaryPage::offerMissed(bool available)
+{
+    const auto again = form_.control<phial::ctl_Button>(u"but_Again");
+    const auto missed = form_.control<phial::ctl_Button>(u"but_Missed");
+    const double end = form_.control<phial::ctl_Button>(u"but_Quit")->Left();
+    const double gap = end - missed->Left() - missed->Width();
+    missed->Visible(available);
+    again->Width((available ? missed->Left() : end) - gap - again->Left());
 }
 
 void SummaryPage::submit()
@@ -84,7 +98,7 @@ void SummaryPage::submitting(bool value)
 void SummaryPage::offer(bool available)
 {
     form_.focus(nullptr); // it would go on to the button that leaves
-    for (const auto* button : {u"but_Again", u"but_List", u"but_Certificate", u"but_Export"}) {
+    for (const auto* button : {u"but_Again", u"but_Missed", u"but_List", u"but_Certificate", u"but_Export"}) {
         form_.control<phial::ctl_Button>(button)->Enabled(available);
     }
 }
@@ -115,11 +129,13 @@ void SummaryPage::TRANSLATE()
 
 void SummaryPage::showRank()
 {
-    caption(form_, u"lab_Rank",
-            isSubmitting_
-                ? translate(u"Dein Ergebnis wird eingetragen …", u"Your result is being handed in …")
-            : rank_ > 0 ? translate(u"Platz {1} der Bestenliste", u"Number {1} of the best", {number(rank_)})
-                        : String());
+    caption(
+        form_, u"lab_Rank",
+        isSubmitting_ ? translate(u"Dein Ergebnis wird eingetragen …", u"Your result is being handed in …")
+        : kind_ == RoundKind::Practice ? translate(u"Diese Runde war zum Üben, sie zählt in keiner Liste.",
+                                                   u"This round was for practice, it counts in no list.")
+        : rank_ > 0 ? translate(u"Platz {1} der Bestenliste", u"Number {1} of the best", {number(rank_)})
+                    : String());
 }
 
 void SummaryPage::showList()

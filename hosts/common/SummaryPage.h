@@ -4,8 +4,16 @@
 #include "common/RoundResult.h"
 #include "visual/Form.h"
 
+#include <cstdint>
+
 namespace learning
 {
+
+/// What a round is for.
+enum class RoundKind : std::uint8_t {
+    Counting, ///< it goes to the lists, the classroom and the certificate
+    Practice  ///< of what was missed before: it goes nowhere
+};
 
 /// The page behind a round: points, mark and rank, and what can be made of them: the list of the best, also
 /// as a text file, and a certificate.
@@ -18,8 +26,9 @@ public:
     SummaryPage(const SummaryPage&) = delete;
     SummaryPage& operator=(const SummaryPage&) = delete;
 
-    /// Shows the result of a round of that level.
-    void show(const RoundResult& result, LevelTitle level);
+    /// Shows the result of a round of that level. A certificate is offered for one that counts, and a round
+    /// of what was missed behind one that was not wholly solved.
+    void show(const RoundResult& result, LevelTitle level, RoundKind kind);
     /// Hands the result in, which tells the pupil the rank in a box, and what else became of the lists.
     /// Events run until the master has answered and the boxes are closed; until then only leaving is offered.
     void submit();
@@ -29,6 +38,7 @@ public:
 private:
     void submitting(bool value);
     void offer(bool available);
+    void offerMissed(bool available);
     void showMark();
     void showRank();
     void showList();
@@ -40,6 +50,7 @@ private:
     phial::Connections connections_;
     RoundResult result_;
     LevelTitle level_;
+    RoundKind kind_ = RoundKind::Counting;
     std::int32_t rank_ = 0; ///< 0 and less: none
     bool isSubmitting_ = false;
 };

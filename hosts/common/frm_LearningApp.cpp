@@ -106,6 +106,7 @@ void frm_LearningApp::buildLevels()
 void frm_LearningApp::connect()
 {
     form_.press(u"but_Again", [this] { show(Page::Start); });
+    form_.press(u"but_Missed", [this] { startMissed(); });
     form_.press(u"but_Language", [] {
         const bool german = LNG()->EFFECTIVE() == phial::ID_Language_German;
         LNG()->CURRENT(german ? phial::ID_Language_English : phial::ID_Language_German);
@@ -296,9 +297,18 @@ phial::ControlPtr frm_LearningApp::firstOf(Page page) const
 void frm_LearningApp::startRound(std::size_t level)
 {
     level_ = level;
+    kind_ = RoundKind::Counting;
     tasks_->begin(level);
     show(Page::Task);
     classroom_.roundStarted(levelTitles_[level].german);
+}
+
+/// For practice: a round of what was missed counts in no list.
+void frm_LearningApp::startMissed()
+{
+    kind_ = RoundKind::Practice;
+    tasks_->beginMissed(level_);
+    show(Page::Task);
 }
 
 void frm_LearningApp::finishRound()
@@ -310,8 +320,11 @@ void frm_LearningApp::finishRound()
                              .maximum = round.maximum(),
                              .solved = round.solved(),
                              .tasks = round.count()};
-    summary_->show(result, level);
+    summary_->show(result, level, kind_);
     show(Page::Summary);
+    if (kind_ == RoundKind::Practice) {
+        return;
+    }
     summary_->submit();
     if (form_->Visible()) {
         firstOf(Page::Summary)->SetFocus();

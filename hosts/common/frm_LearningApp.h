@@ -54,6 +54,7 @@ private:
     void show(Page page);
     phial::ControlPtr firstOf(Page page) const;
     void startRound(std::size_t level);
+    void startMissed();
     void finishRound();
     void keyDown(phial::KeyEvent& event);
 
@@ -78,6 +79,7 @@ private:
     Page page_ = Page::Start;
     std::size_t level_ = 0;
     bool isAsking_ = false;
+    RoundKind kind_ = RoundKind::Counting;
 };
 
 } // namespace learning

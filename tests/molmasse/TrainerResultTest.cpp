@@ -74,6 +74,53 @@ TEST_F(TrainerResult, StandsInBothListsWithExerciseAndCounts)
     EXPECT_DOUBLE_EQ(stored(u"HIGHSCORE.qv-hsr")->ITEM(1)->POINTSMAX(), 20);
 }
 
+TEST_F(TrainerResult, OfARoundWithMissedTasksOffersThemAgain)
+{
+    open();
+    touch(u"but_Level", 0);
+    type(u"1{enter}2{enter}3{enter}{enter}58,4{enter}");
+    expectRankBox();
+    type(u"{enter}");
+    EXPECT_TRUE(isSeen(u"but_Missed"));
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Again")->Width(), 246);
+    EXPECT_EQ(seen(u"lab_Solved"), u"1 von 2 Formeln gelöst");
+
+    touch(u"but_Missed");
+    EXPECT_EQ(seen(u"lab_Progress"), u"Aufgabe 1 von 1");
+    EXPECT_EQ(formula(), u"H2O");
+    type(u"18{enter}{enter}");
+    EXPECT_EQ(seen(u"lab_Rank"), u"Diese Runde war zum Üben, sie zählt in keiner Liste.");
+    EXPECT_FALSE(isSeen(u"but_Missed")) << "nothing is left";
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Again")->Width(), 513);
+    EXPECT_FALSE(form().control<phial::ctl_Button>(u"but_Certificate")->Enabled());
+    EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr")->COUNT(), 1);
+    EXPECT_EQ(stored(u"results.qv-rsl")->COUNT(), 1);
+
+    touch(u"but_Again");
+    expectRankBox();
+    playRound();
+    EXPECT_FALSE(isSeen(u"but_Missed"));
+    EXPECT_TRUE(form().control<phial::ctl_Button>(u"but_Certificate")->Enabled());
+}
+
+TEST_F(TrainerResult, LetsTheNextRoundBeginWithWhatWasMissed)
+{
+    open();
+    touch(u"but_Level", 0);
+    type(u"18{enter}{enter}1{enter}2{enter}3{enter}");
+    expectRankBox();
+    type(u"{enter}");
+    touch(u"but_Again");
+    touch(u"but_Level", 0);
+    EXPECT_EQ(formula(), u"NaCl");
+    type(u"58,4{enter}{enter}18{enter}");
+    expectRankBox();
+    type(u"{enter}");
+    touch(u"but_Again");
+    touch(u"but_Level", 0);
+    EXPECT_EQ(formula(), u"H2O") << "what was solved at once has been learnt";
+}
+
 TEST_F(TrainerResult, KeepsTheGermanLabelOfTheExerciseInEitherLanguage)
 {
     phial::LNG()->CURRENT(phial::ID_Language_English);
