@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 #include <memory>
 #include <numbers>
@@ -21,8 +20,6 @@ namespace
 
 using namespace phial;
 using namespace phial::test;
-using testing::Each;
-using testing::FloatNear;
 
 constexpr std::int32_t DeviceRate = 44'100;
 
@@ -57,6 +54,47 @@ double correlation(std::span<const float> left, std::span<const float> right)
     return product(left, right) / std::sqrt(product(left, left) * product(right, right));
 }
 
+bool isSilent(float sample)
+{
+    return sample == 0;
+}
+
+/// What was heard, without silence before, behind and within it. A busy machine makes pauses when the program
+/// gets no time to hand on samples; `rPauses` tells how many there were.
+std::vector<float> withoutSilence(const std::vector<float>& samples, int& rPauses)
+{
+    constexpr std::ptrdiff_t ShortestPause = 64; // a sound may go through 0
+    std::vector<float> sounding;
+    rPauses = 0;
+    for (auto at = std::find_if_not(samples.begin(), samples.end(), isSilent); at != samples.end();) {
+        const auto end = std::find_if(at, samples.end(), isSilent);
+        sounding.insert(sounding.end(), at, end);
+        at = std::find_if_not(end, samples.end(), isSilent);
+        if (at - end < ShortestPause) {
+            sounding.insert(sounding.end(), end, at);
+        } else if (at != samples.end()) {
+            ++rPauses;
+        }
+    }
+    while (!sounding.empty() && isSilent(sounding.back())) {
+        sounding.pop_back();
+    }
+    return sounding;
+}
+
+/// The last level that was held for 20 milliseconds, in thousandths, or 0; pauses do not count.
+int lastLevel(const std::vector<float>& samples)
+{
+    std::size_t held = 0;
+    for (std::size_t at = samples.size(); at-- > 1;) {
+        held = !isSilent(samples[at]) && std::abs(samples[at] - samples[at - 1]) < 1e-4 ? held + 1 : 0;
+        if (held == framesOf(0.02)) {
+            return static_cast<int>(std::lround(1000 * samples[at]));
+        }
+    }
+    return 0;
+}
+
 /// On a real server, by what a recording of its loudspeaker has.
 class Heard : public testing::Test
 {
@@ -77,23 +115,36 @@ protected:
         begin_ = recorder_->frames();
     }
 
-    /// What has been heard since the test began, from the first sample that is not silent.
-    std::vector<float> heard()
+    /// What has been heard since the test began.
+    std::vector<float> heard() const { return recorder_->left(begin_); }
+
+    /// Whether this level comes to be heard within three seconds.
+    bool hears(int wanted)
     {
-        const std::vector<float> all = recorder_->left(begin_);
-        const auto first =
-            std::find_if(all.begin(), all.end(), [](float sample) { return std::abs(sample) > 1e-4; });
-        return {first, all.end()};
+        for (int time = 0; time < 30 && lastLevel(heard()) != wanted; ++time) {
+            recorder_->record(0.1);
+        }
+        return lastLevel(heard()) == wanted;
     }
 
-    /// The same without the silence at the end.
-    std::vector<float> heardToTheEnd()
+    /// Plays a sound until it has been heard without a pause. Each time all of it must be heard.
+    void expectHeardAs(const std::shared_ptr<const Sound>& sound, const std::vector<float>& expected)
     {
-        std::vector<float> samples = heard();
-        while (!samples.empty() && std::abs(samples.back()) < 1e-4) {
-            samples.pop_back();
+        int pauses = 1;
+        for (int time = 0; time < 10 && pauses > 0; ++time) {
+            begin_ = recorder_->frames();
+            const AudioOutput::Voice voice = output_.start(sound);
+            while (output_.isPlaying(voice)) {
+                ASSERT_TRUE(recorder_->record(0.1));
+            }
+            ASSERT_TRUE(recorder_->record(0.6));
+            const std::vector<float> whole = withoutSilence(heard(), pauses);
+            const std::size_t size = std::min(whole.size(), expected.size());
+            EXPECT_NEAR(static_cast<double>(whole.size()), static_cast<double>(expected.size()),
+                        0.01 * static_cast<double>(expected.size()));
+            EXPECT_GE(correlation(std::span(whole).first(size), std::span(expected).first(size)), 0.99);
         }
-        return samples;
+        EXPECT_EQ(pauses, 0);
     }
 
     static std::unique_ptr<SoundServer> server_;
@@ -103,106 +154,90 @@ protected:
 };
 std::unique_ptr<SoundServer> Heard::server_;
 
-/// The samples of a piece around a time behind the first that was heard.
-std::span<const float> around(const std::vector<float>& samples, double seconds)
-{
-    constexpr double Piece = 0.02;
-    const std::size_t first = std::min(framesOf(seconds), samples.size());
-    return std::span(samples).subspan(first, std::min(framesOf(Piece), samples.size() - first));
-}
-
 TEST_F(Heard, ThereIsADevice)
 {
     EXPECT_TRUE(output_.available());
 }
 
-TEST_F(Heard, SoundsComeOutWholeAndUnchanged)
+TEST_F(Heard, SoundsComeOutWholeAndUnchangedAgainAndAgain)
 {
     const std::vector<float> samples = rising(DeviceRate, 0.6);
+    const auto sound = std::make_shared<const Sound>(Sound{DeviceRate, 1, samples});
     for (int time = 0; time < 3; ++time) {
-        begin_ = recorder_->frames();
-        output_.start(std::make_shared<const Sound>(Sound{DeviceRate, 1, samples}));
-        ASSERT_TRUE(recorder_->record(1.2));
-        const std::vector<float> whole = heardToTheEnd();
-        EXPECT_GE(static_cast<double>(whole.size()), 0.99 * static_cast<double>(samples.size()));
-        ASSERT_LE(whole.size(), samples.size());
-        EXPECT_GE(correlation(whole, std::span(samples).first(whole.size())), 0.999) << "time " << time;
+        expectHeardAs(sound, samples);
     }
 }
 
 TEST_F(Heard, SoundsOfAnotherRateKeepPitchAndLength)
 {
-    output_.start(std::make_shared<const Sound>(Sound{22'050, 1, rising(22'050, 0.6)}));
-    ASSERT_TRUE(recorder_->record(1.2));
-    const std::vector<float> whole = heardToTheEnd();
-    const std::vector<float> samples = rising(DeviceRate, 0.6);
-    EXPECT_NEAR(static_cast<double>(whole.size()), static_cast<double>(samples.size()),
-                0.01 * static_cast<double>(samples.size()));
-    EXPECT_GE(correlation(std::span(whole).first(framesOf(0.59)), std::span(samples).first(framesOf(0.59))),
-              0.99);
+    expectHeardAs(std::make_shared<const Sound>(Sound{22'050, 1, rising(22'050, 0.6)}),
+                  rising(DeviceRate, 0.6));
 }
 
-TEST_F(Heard, ASoundIsHeardSoonAfterItsStart)
+TEST_F(Heard, TheShortestSoundIsHeard)
 {
-    output_.start(level(0.5, 0.1));
-    ASSERT_TRUE(recorder_->record(0.5));
-    EXPECT_FALSE(heard().empty());
+    const std::vector<float> samples = rising(DeviceRate, 0.01);
+    expectHeardAs(std::make_shared<const Sound>(Sound{DeviceRate, 1, samples}), samples);
 }
 
 TEST_F(Heard, TwoSoundsMixInTheOrderOfTheirStarts)
 {
-    output_.start(level(0.2F, 0.5));
-    ASSERT_TRUE(recorder_->record(0.2));
-    output_.start(level(0.4F, 0.5));
-    ASSERT_TRUE(recorder_->record(1));
-    const std::vector<float> samples = heardToTheEnd();
-    EXPECT_THAT(around(samples, 0.02), Each(FloatNear(0.2F, 0.001F)));
-    EXPECT_THAT(around(samples, 0.45), Each(FloatNear(0.6F, 0.001F)));
-    EXPECT_THAT(around(samples, static_cast<double>(samples.size()) / DeviceRate - 0.05),
-                Each(FloatNear(0.4F, 0.001F)));
+    const AudioOutput::Voice first = output_.start(level(0.2F, 10));
+    EXPECT_TRUE(hears(200));
+    output_.start(level(0.4F, 10));
+    EXPECT_TRUE(hears(600));
+    output_.stop(first);
+    EXPECT_TRUE(hears(400));
 }
 
 TEST_F(Heard, AFifthSoundEndsTheOldest)
 {
     std::vector<AudioOutput::Voice> voices;
     for (const float value : {0.5F, 0.01F, 0.02F, 0.04F}) {
-        voices.push_back(output_.start(level(value, 2)));
+        voices.push_back(output_.start(level(value, 20)));
     }
-    ASSERT_TRUE(recorder_->record(0.4));
-    voices.push_back(output_.start(level(0.08F, 2)));
+    EXPECT_TRUE(hears(570));
+    voices.push_back(output_.start(level(0.08F, 20)));
     EXPECT_FALSE(output_.isPlaying(voices[0]));
     EXPECT_TRUE(std::all_of(voices.begin() + 1, voices.end(),
-                            [this](auto voice) { return output_.isPlaying(voice); }));
-    ASSERT_TRUE(recorder_->record(0.8));
-    const std::vector<float> samples = heard();
-    EXPECT_THAT(around(samples, 0.2), Each(FloatNear(0.57F, 0.001F)));
-    EXPECT_THAT(around(samples, 1), Each(FloatNear(0.15F, 0.001F)));
+                            [this](AudioOutput::Voice voice) { return output_.isPlaying(voice); }));
+    EXPECT_TRUE(hears(150));
 }
 
 TEST_F(Heard, AFadeIsHeardWhileASoundPlays)
 {
     output_.gain(0.8);
-    output_.start(level(0.5, 1.5));
-    ASSERT_TRUE(recorder_->record(0.4));
+    output_.start(level(0.5, 10));
+    EXPECT_TRUE(hears(400));
     output_.gain(0.2);
-    ASSERT_TRUE(recorder_->record(0.8));
+    EXPECT_TRUE(hears(100));
     output_.gain(0.8);
-    ASSERT_TRUE(recorder_->record(0.8));
-    const std::vector<float> samples = heardToTheEnd();
-    EXPECT_THAT(around(samples, 0.2), Each(FloatNear(0.4F, 0.008F)));
-    EXPECT_THAT(around(samples, 0.9), Each(FloatNear(0.1F, 0.002F)));
-    EXPECT_THAT(around(samples, 1.47), Each(FloatNear(0.4F, 0.008F)));
+    EXPECT_TRUE(hears(400));
 }
 
-TEST_F(Heard, WhatIsStoppedIsSilentAtOnce)
+TEST_F(Heard, WhatIsStoppedIsSilentSoon)
 {
-    const AudioOutput::Voice voice = output_.start(level(0.5, 5));
-    ASSERT_TRUE(recorder_->record(0.3));
+    const AudioOutput::Voice voice = output_.start(level(0.5, 20));
+    EXPECT_TRUE(hears(500));
     EXPECT_TRUE(output_.isPlaying(voice));
     output_.stop(voice);
     EXPECT_FALSE(output_.isPlaying(voice));
-    ASSERT_TRUE(recorder_->record(0.5));
-    EXPECT_LT(heardToTheEnd().size(), framesOf(0.6));
+    ASSERT_TRUE(recorder_->record(0.6));
+    const std::vector<float> samples = heard();
+    EXPECT_TRUE(
+        std::all_of(samples.end() - static_cast<std::ptrdiff_t>(framesOf(0.2)), samples.end(), isSilent));
+}
+
+TEST_F(Heard, AllSoundsEndWithTheOutput)
+{
+    auto other = std::make_unique<qt::QtAudioOutput>(std::make_shared<qt::QtClock>());
+    other->start(level(0.5, 20));
+    EXPECT_TRUE(hears(500));
+    other.reset();
+    ASSERT_TRUE(recorder_->record(0.6));
+    const std::vector<float> samples = heard();
+    EXPECT_TRUE(
+        std::all_of(samples.end() - static_cast<std::ptrdiff_t>(framesOf(0.2)), samples.end(), isSilent));
 }
 
 TEST_F(Heard, NoneOfABurstIsLost)
@@ -224,30 +259,34 @@ TEST_F(Heard, NoneOfABurstIsLost)
         ASSERT_TRUE(recorder_->record(0.1));
     }
     ASSERT_TRUE(recorder_->record(0.5));
-    const std::vector<float> samples = heardToTheEnd();
+    const std::vector<float> samples = heard();
+    const auto first = std::find_if_not(samples.begin(), samples.end(), isSilent);
+    const auto last = std::find_if_not(samples.rbegin(), samples.rend(), isSilent).base();
     const double sum = std::accumulate(samples.begin(), samples.end(), 0.0);
     EXPECT_NEAR(sum / (0.1 * static_cast<double>(framesOf(0.01))), Clicks, 0.5);
     // The server begins sounds with its own pieces of time.
     constexpr double Piece = 0.05;
-    EXPECT_GE(static_cast<double>(samples.size()) / DeviceRate, (Clicks - 1) * Interval / 1000.0 - Piece);
+    EXPECT_GE(static_cast<double>(last - first) / DeviceRate, (Clicks - 1) * Interval / 1000.0 - Piece);
 }
 
 TEST_F(Heard, WaitingForTheEndRunsNoEvents)
 {
+    constexpr double Length = 1; // an earlier sound rings out meanwhile, and is let go
     bool ran = false;
     QTimer::singleShot(0, [&ran] { ran = true; });
     const qt::QtClock clock;
     const double begin = clock.seconds();
-    const auto samples = rising(DeviceRate, 0.6);
+    const auto samples = rising(DeviceRate, Length);
     const AudioOutput::Voice voice =
         output_.start(std::make_shared<const Sound>(Sound{DeviceRate, 1, samples}));
     output_.waitForEnd(voice);
     EXPECT_FALSE(ran);
     EXPECT_FALSE(output_.isPlaying(voice));
-    EXPECT_GE(clock.seconds() - begin, 0.6);
-    ASSERT_TRUE(recorder_->record(0.5));
-    const std::vector<float> whole = heardToTheEnd();
-    EXPECT_GE(static_cast<double>(whole.size()), 0.99 * static_cast<double>(samples.size()));
+    EXPECT_GE(clock.seconds() - begin, Length);
+    ASSERT_TRUE(recorder_->record(0.6));
+    int pauses = 0;
+    const std::vector<float> whole = withoutSilence(heard(), pauses);
+    EXPECT_NEAR(static_cast<double>(whole.size()), Length * DeviceRate, 0.01 * DeviceRate);
 }
 
 TEST_F(Heard, NothingPlaysForNoSamples)

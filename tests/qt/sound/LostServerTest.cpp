@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QProcess>
 
-#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 namespace
