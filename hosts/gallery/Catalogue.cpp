@@ -31,6 +31,8 @@ phial::String groupTitle(Group group)
         return say(u"Ergebnisse|Results");
     case Group::Formulas:
         return say(u"Formeln|Formulas");
+    case Group::Sounds:
+        return say(u"Klänge|Sounds");
     }
     return {};
 }
@@ -39,7 +41,7 @@ std::vector<Exhibit> catalogue()
 {
     std::vector<Exhibit> all;
     for (const auto section : {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits,
-                               userExhibits, resultExhibits, formulaExhibits}) {
+                               userExhibits, resultExhibits, formulaExhibits, soundExhibits}) {
         std::ranges::move(section(), std::back_inserter(all));
     }
     std::ranges::stable_sort(all, {}, &Exhibit::group);

@@ -16,6 +16,7 @@ std::vector<Exhibit> userExhibits();
 std::vector<Exhibit> windowExhibits();
 std::vector<Exhibit> resultExhibits();
 std::vector<Exhibit> formulaExhibits();
+std::vector<Exhibit> soundExhibits();
 
 /// All exhibits, section by section.
 std::vector<Exhibit> catalogue();

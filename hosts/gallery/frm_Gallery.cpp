@@ -111,7 +111,9 @@ void frm_Gallery::TRANSLATE()
             ->Checked(phial::LNG()->EFFECTIVE() == Languages[i]);
     }
     listExhibits();
-    show(exhibit_, state_);
+    // What opens a box, plays or prints does not do so again because of the language.
+    const Sample& state = exhibits_[exhibit_].samples[state_];
+    show(exhibit_, state.waits || state.prints ? 0 : state_);
 }
 
 void frm_Gallery::listExhibits()

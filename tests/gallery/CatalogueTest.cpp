@@ -1,8 +1,12 @@
+#include "app/cls_App.h"
+#include "app/cls_AppURL.h"
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "gallery/GalleryDesign.h"
 #include "gallery/GalleryShots.h"
 #include "gallery/GalleryTest.h"
+#include "support/MarkedWaves.h"
+#include "visual/ctl_Pannel.h"
 
 #include <set>
 
@@ -56,6 +60,8 @@ void CatalogueTest::awaitModal(StringView title, const Sample& sample)
         dialogs.expect(Box::Done);
     } else if (title == u"cls_DataScores" || title == u"cls_DataEvents") {
         awaitListAction(sample);
+    } else if (title == u"frm_DialogSound") {
+        outside.visual().onModal(u"frm_DialogSound", [](phial::Form&) {}); // it goes by itself
     } else if (title == u"cls_AppRate") {
         dialogs.expect(Box::Error); // there is no form to print in
     }
@@ -101,11 +107,12 @@ TEST_F(CatalogueTest, ShowsEveryControlOfTheSystem)
         shown.insert(String(exhibit.title));
     }
     for (const StringView name :
-         {u"Label",       u"TextBox",       u"RichTextBox", u"PictureBox",   u"Shape",
-          u"ScrollBar",   u"ListBox",       u"ComboBox",    u"ImageList",    u"Menu",
-          u"Timer",       u"Form",          u"ctl_Button",  u"ctl_CmdBar",   u"ctl_UICommandbar",
-          u"ctl_Title",   u"ctl_Frame",     u"ctl_Pannel",  u"ctl_Gradient", u"ctl_Label",
-          u"ctl_ReEvent", u"ctl_TermLabel", u"ctl_Mark",    u"frm_Fade",     u"ListView"}) {
+         {u"Label",          u"TextBox",       u"RichTextBox", u"PictureBox",   u"Shape",
+          u"ScrollBar",      u"ListBox",       u"ComboBox",    u"ImageList",    u"Menu",
+          u"Timer",          u"Form",          u"ctl_Button",  u"ctl_CmdBar",   u"ctl_UICommandbar",
+          u"ctl_Title",      u"ctl_Frame",     u"ctl_Pannel",  u"ctl_Gradient", u"ctl_Label",
+          u"ctl_ReEvent",    u"ctl_TermLabel", u"ctl_Mark",    u"frm_Fade",     u"ListView",
+          u"frm_DialogSound"}) {
         const bool scrollBar = name == u"ScrollBar";
         EXPECT_TRUE(shown.contains(String(name)) || (scrollBar && shown.contains(u"VScrollBar")))
             << phial::toUtf8(name);
@@ -123,6 +130,56 @@ TEST_F(CatalogueTest, EveryTextIsThereInBothLanguages)
             EXPECT_NE(sample.name.find(u'|'), StringView::npos) << phial::toUtf8(sample.name);
         }
     }
+}
+
+TEST_F(CatalogueTest, AnotherLanguageOpensNoWindowAgain)
+{
+    open();
+    outside.visual().onModal(u"frm_DialogSound", [](phial::Form&) {});
+    gallery->show(exhibit(u"frm_DialogSound"), 1);
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    EXPECT_EQ(get<phial::ctl_Label>(u"ctl_Label1")->Caption(), u"A button below shows the window.");
+}
+
+TEST_F(CatalogueTest, TheMeterIsAsLongAsTheSoundIsLoud)
+{
+    folder.write("sfx/click/a.wav", phial::test::markedWave(1, 64)); // half of what is possible
+    phial::QVAPP()->URL()->RESOURCESFX(path(u"sfx\\"));
+    open();
+    gallery->show(exhibit(u"cls_AppMedia"));
+    const auto back = get<phial::ctl_Pannel>(u"ctl_Pannel1");
+    const auto bar = get<phial::ctl_Pannel>(u"ctl_Pannel2");
+    EXPECT_FALSE(bar->frame().Visible());
+
+    gallery->show(exhibit(u"cls_AppMedia"), 1);
+    outside.advance(0.5);
+    const auto playing = get<phial::ctl_Pannel>(u"ctl_Pannel2");
+    EXPECT_TRUE(playing->frame().Visible());
+    EXPECT_NEAR(playing->Width(), back->Width() * 0.25, 0.01); // each sound sets half of the volume
+    outside.advance(1);
+    EXPECT_FALSE(playing->frame().Visible());
+}
+
+TEST_F(CatalogueTest, AQuietHymnIsQuietUntilTheExhibitGoes)
+{
+    folder.write("sfx/reward/a.wav", phial::test::markedWave(1, 64));
+    phial::QVAPP()->URL()->RESOURCESFX(path(u"sfx\\"));
+    open();
+    gallery->show(exhibit(u"cls_AppMedia"), 5);
+    outside.advance(0.5);
+    EXPECT_NEAR(outside.audio().gain(), 0.2, 0.001);
+    show(u"Label");
+    EXPECT_NEAR(outside.audio().gain(), 0.5, 0.001);
+}
+
+TEST_F(CatalogueTest, SaysSoWhereNothingCanBeHeard)
+{
+    outside.audio().available(false);
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    open();
+    gallery->show(exhibit(u"cls_AppMedia"));
+    EXPECT_EQ(get<phial::ctl_Label>(u"ctl_Label1")->Caption(),
+              u"This computer cannot play sounds at present.");
 }
 
 TEST_F(CatalogueTest, ATourTakesEachStateOnceUnderItsOwnName)
@@ -147,6 +204,7 @@ TEST_F(CatalogueTest, ATourTakesEachStateOnceUnderItsOwnName)
     EXPECT_FALSE(names.contains(u"cls_AppRate-2-de"));
     EXPECT_TRUE(outside.visual().printed().empty());
     EXPECT_TRUE(names.contains(u"Properties-refused-de"));
+    EXPECT_TRUE(names.contains(u"frm_DialogSound-3-de"));
     EXPECT_TRUE(names.contains(u"Form-2-de-window"));
     EXPECT_TRUE(names.contains(u"CoreDialogs.Error-2-de"));
     EXPECT_EQ(phial::LNG()->CURRENT(), phial::ID_Language_System);
