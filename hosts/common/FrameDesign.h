@@ -198,11 +198,12 @@ inline constexpr ControlDesign Tail[] = {
         .set(u"Shape", phial::ShapeKind::Circle)
         .set(u"BorderWidth", 0)
         .set(u"FillStyle", phial::FillStyle::Solid),
-    design<ctl_Label>(u"lab_Classroom", {56, 0, 560, 44})
+    design<ctl_Label>(u"lab_Classroom", {56, 0, 428, 44})
         .inside(u"pan_Footer")
         .font(10)
         .ink(Palette::Muted)
         .align(MiddleLeft),
+    design<ctl_Button>(u"but_Sound", {492, 4, 180, 36}).inside(u"pan_Footer").font(10),
     design<ctl_Button>(u"but_Classroom", {684, 4, 184, 36}, u"Klassenraum …|Classroom …")
         .inside(u"pan_Footer")
         .font(10),

@@ -1,8 +1,11 @@
 #include "common/NumberPad.h"
 
+#include "app/cls_App.h"
+#include "app/sys_Global.h"
 #include "common/FrameTexts.h"
 #include "core/Locale.h"
 #include "core/SessionState.h"
+#include "media/cls_AppMedia.h"
 
 namespace learning
 {
@@ -33,6 +36,7 @@ void NumberPad::press(std::int32_t index)
     if (answer_->Locked()) {
         return;
     }
+    phial::QVAPP()->MEDIA()->CLICK();
     if (index == keys_.UBound()) {
         if (answer_->SelLength() == 0 && answer_->SelStart() > 0) {
             answer_->SelStart(answer_->SelStart() - 1);

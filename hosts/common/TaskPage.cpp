@@ -123,6 +123,7 @@ void TaskPage::check()
         app_.retry();
     }
     app_.field()->SetFocus();
+    Judged.emit(*verdict_);
 }
 
 /// Remembers for later rounds what went wrong, and forgets what has been learnt.

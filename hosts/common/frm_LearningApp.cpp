@@ -66,6 +66,7 @@ frm_LearningApp::frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch 
     app_->attach(*form_);
     tasks_.emplace(*form_, *app_);
     summary_.emplace(*form_, app_->texts());
+    sounds_.emplace(*form_);
     connect();
     connectClassroom();
     TRANSLATE();
@@ -119,6 +120,7 @@ void frm_LearningApp::connect()
              [](std::int32_t) { QVAPP()->DIALOG()->ABOUT(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->KeyDown, [this](phial::KeyEvent& event) { keyDown(event); });
+    form_.on(tasks_->Judged, [this](Verdict verdict) { sounds_->judged(verdict); });
     form_.on(tasks_->Finished, [this] { finishRound(); });
     levels_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
         return button.CLICK.connect([this, index] { startRound(static_cast<std::size_t>(index)); });
@@ -238,6 +240,7 @@ void frm_LearningApp::TRANSLATE()
     caption(*form_, u"lab_Missing", missingText());
     tasks_->TRANSLATE();
     summary_->TRANSLATE();
+    sounds_->TRANSLATE();
     showClassroom();
 }
 
@@ -322,6 +325,7 @@ void frm_LearningApp::finishRound()
                              .tasks = round.count()};
     summary_->show(result, level, kind_);
     show(Page::Summary);
+    sounds_->roundFinished(result.points);
     if (kind_ == RoundKind::Practice) {
         return;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/AppSounds.h"
 #include "common/ClassroomLink.h"
 #include "common/LearningApp.h"
 #include "common/SummaryPage.h"
@@ -74,6 +75,7 @@ private:
     phial::ControlArray<phial::ctl_Button> levels_;
     std::optional<TaskPage> tasks_;
     std::optional<SummaryPage> summary_;
+    std::optional<AppSounds> sounds_;
     ClassroomLink classroom_;
     phial::Timer asking_; ///< asks the master again while the pupil waits
     Page page_ = Page::Start;

@@ -276,12 +276,13 @@ TEST_F(TrainerResult, EverythingOnThePageIsReachedByTab)
     playRound();
 
     std::vector<String> stops;
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 8; ++i) {
         stops.push_back(focused());
         phial::headless::tab(form());
     }
-    EXPECT_THAT(stops, ::testing::ElementsAre(u"but_Again", u"but_Quit", u"ctl_User", u"but_Language",
-                                              u"but_List", u"but_Certificate", u"but_Export"));
+    EXPECT_THAT(stops,
+                ::testing::ElementsAre(u"but_Again", u"but_Quit", u"but_Sound", u"ctl_User", u"but_Language",
+                                       u"but_List", u"but_Certificate", u"but_Export"));
 }
 
 } // namespace
