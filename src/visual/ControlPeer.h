@@ -40,6 +40,7 @@ public:
 enum class FormAspect : std::int32_t {
     Caption,
     Geometry,
+    Zoom,
     WindowState,
     Visibility,
     Enabled,

@@ -161,22 +161,41 @@ double Form::ScaleHeight() const
 
 PixelSize Form::innerSize() const
 {
-    return {std::max(0.0, width_ / TwipsPerPixel - decoration_.width),
-            std::max(0.0, height_ / TwipsPerPixel - decoration_.height)};
+    return {std::max(0.0, width_ / TwipsPerPixel - decoration_.width) / zoom_,
+            std::max(0.0, height_ / TwipsPerPixel - decoration_.height) / zoom_};
 }
 
 void Form::innerSize(PixelSize value)
 {
-    take(left_, top_, (value.width + decoration_.width) * TwipsPerPixel,
-         (value.height + decoration_.height) * TwipsPerPixel);
+    take(left_, top_, (value.width * zoom_ + decoration_.width) * TwipsPerPixel,
+         (value.height * zoom_ + decoration_.height) * TwipsPerPixel);
+}
+
+void Form::Zoom(double value)
+{
+    if (!(value > 0)) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+    const bool hasHoles = translucency_.colourKey || translucency_.mask;
+    if (value == zoom_ || hasHoles) {
+        return;
+    }
+    zoom_ = value;
+    report(FormAspect::Zoom);
+    Resize.emit();
+}
+
+void Form::leastSize(PixelSize value)
+{
+    change(least_, value, FormAspect::Geometry);
 }
 
 void Form::decoration(PixelSize value)
 {
     const PixelSize inner = innerSize();
     decoration_ = value;
-    place(left_, top_, (inner.width + value.width) * TwipsPerPixel,
-          (inner.height + value.height) * TwipsPerPixel);
+    place(left_, top_, (inner.width * zoom_ + value.width) * TwipsPerPixel,
+          (inner.height * zoom_ + value.height) * TwipsPerPixel);
 }
 
 void Form::place(const ControlPtr& control, phial::Container& into)
@@ -284,6 +303,9 @@ void Form::showModal()
 {
     const auto opener = visualHost().forms().ActiveForm();
     const OwnDialog dialog(opener);
+    if (opener) {
+        takeZoomOf(*opener);
+    }
     modal_ = true;
     try {
         openWindow(FormShow::Modal);
@@ -313,6 +335,23 @@ void Form::openWindow(FormShow how)
     tellSeen();
     inputActivate();
     focusFirst();
+}
+
+/// A dialog is read from where its opener is read, so it is no smaller. What has its own zoom keeps it.
+void Form::takeZoomOf(const Form& opener)
+{
+    const PixelRectangle screen = visualHost().screen().of(opener);
+    const PixelSize inner = innerSize();
+    if (zoom_ != 1 || opener.Zoom() <= 1 || inner.isEmpty() || screen.isEmpty()) {
+        return;
+    }
+    constexpr double Room = 0.9; // of the screen, since title and borders take some
+    const double fitting = Room * std::min(screen.width / inner.width, screen.height / inner.height);
+    const double zoom = std::min(opener.Zoom(), fitting);
+    if (zoom > 1) {
+        Zoom(zoom);
+        innerSize(inner);
+    }
 }
 
 void Form::centre()
@@ -477,6 +516,7 @@ MemberTable Form::members() const
         property<Form, ScaleUnit, &Form::ScaleMode, &Form::ScaleMode>(u"ScaleMode"),
         readOnly<Form, double, &Form::ScaleWidth>(u"ScaleWidth"),
         readOnly<Form, double, &Form::ScaleHeight>(u"ScaleHeight"),
+        property<Form, double, &Form::Zoom, &Form::Zoom>(u"Zoom"),
         property<Form, Colour, &Form::BackColor, &Form::BackColor>(u"BackColor"),
         property<Form, PicturePtr, &Form::Picture, &Form::Picture>(u"Picture"),
         property<Form, PicturePtr, &Form::Icon, &Form::Icon>(u"Icon"),

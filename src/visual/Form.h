@@ -33,8 +33,8 @@ struct Translucency {
 /// read after it has closed. A `frm_…` class holds one and discards it in its destructor: a loaded form stays
 /// in Forms.
 ///
-/// Left, Top, Width and Height are twips and those of the whole window; ScaleWidth and ScaleHeight measure
-/// its inside in the scale unit. Setters take effect, and raise their events, at once.
+/// Left, Top, Width and Height are twips and those of the whole window on the desktop; ScaleWidth and
+/// ScaleHeight measure its inside in the scale unit. Setters take effect, and raise their events, at once.
 class Form final : public ControlParent, public std::enable_shared_from_this<Form>
 {
 public:
@@ -73,6 +73,15 @@ public:
     PixelSize innerSize() const;
     /// Size of the inside, in pixels; the window is made as large as it needs.
     void innerSize(PixelSize value);
+    /// How many pixels of the desktop a pixel of the inside takes in each direction; 1 at first. The window
+    /// keeps its size, so that ScaleWidth, ScaleHeight and innerSize change, and Resize is raised; all that
+    /// stands on the form keeps its place there and is shown larger. Raises 5 unless it is above 0. A window
+    /// with holes stays at 1.
+    double Zoom() const { return zoom_; }
+    void Zoom(double value);
+    /// The smallest inside that the user can give the window, in pixels of the desktop; 0 at first.
+    PixelSize leastSize() const { return least_; }
+    void leastSize(PixelSize value);
     /// For the adapter: what title and borders take, in pixels. Width and Height follow.
     void decoration(PixelSize value);
     /// In the middle of the screen when it is shown: that of the form that is active then, or the first one.
@@ -143,8 +152,9 @@ public:
     void load();
     bool isLoaded() const { return loaded_; }
     /// Loads, opens the window and raises Resize and Activate. Modal: returns when the form has been hidden
-    /// or unloaded. A form that is shown already just comes to the front (modal: raises 400). An
-    /// error that leaves a modal form's handlers closes its window and passes on.
+    /// or unloaded; it is shown as large as the form that is active, as far as the screen has room. A form
+    /// that is shown already just comes to the front (modal: raises 400). An error that leaves a modal form's
+    /// handlers closes its window and passes on.
     void Show(FormShow how = FormShow::Modeless);
     /// Closes the window and keeps everything; a modal Show returns.
     void Hide();
@@ -240,6 +250,7 @@ private:
     bool place(double left, double top, double width, double height);
     /// `place` by the program: tells the window and raises Resize.
     void take(double left, double top, double width, double height);
+    void takeZoomOf(const Form& opener);
     void centre();
     void place(const ControlPtr& control, phial::Container& into);
     void removeControl(Control& control);
@@ -262,6 +273,8 @@ private:
     double width_ = 4800;
     double height_ = 3600;
     PixelSize decoration_;
+    PixelSize least_;
+    double zoom_ = 1;
     bool hasPlace_ = false;
     bool centred_ = false;
     Colour backColor_ = SystemColour::ButtonFace;

@@ -4,6 +4,7 @@
 #include "qt/desktop/FontCatalogue.h"
 #include "qt/desktop/PictureImage.h"
 #include "qt/desktop/Theme.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QPushButton>
 
@@ -38,7 +39,7 @@ void ButtonPeer::showPicture()
 void ButtonPeer::showStyle()
 {
     markAccent(button_, model_->Accent()); // takes the sheet's font, so the model's comes behind
-    button_.setFont(fontCatalogue().font(model_->Font()->traits()));
+    button_.setFont(fontCatalogue().font(zoomed(model_->Font()->traits(), *model_)));
 }
 
 } // namespace phial::qt

@@ -2,6 +2,7 @@
 
 #include "qt/base/QtText.h"
 #include "qt/desktop/FontCatalogue.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -28,7 +29,7 @@ ComboBoxPeer::ComboBoxPeer(std::shared_ptr<ComboBox> model, QComboBox& box)
 
 void ComboBoxPeer::showStyle()
 {
-    const QFont font = fontCatalogue().font(model_->Font()->traits());
+    const QFont font = fontCatalogue().font(zoomed(model_->Font()->traits(), *model_));
     box_.setFont(font);
     if (QLineEdit* line = box_.lineEdit()) {
         line->setFont(font);

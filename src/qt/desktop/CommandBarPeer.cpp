@@ -3,6 +3,7 @@
 #include "qt/base/QtText.h"
 #include "qt/desktop/PictureImage.h"
 #include "qt/desktop/Theme.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -60,8 +61,6 @@ QWidget* CommandBarPeer::make(std::shared_ptr<CommandBar> model, QWidget& holder
 CommandBarPeer::CommandBarPeer(std::shared_ptr<CommandBar> model, QWidget& bar)
     : NativePeer(model, bar), model_(std::move(model)), bar_(bar), row_(new QHBoxLayout(&bar))
 {
-    row_->setContentsMargins(Margin, Margin, Margin, Margin);
-    row_->setSpacing(Spacing);
     row_->addStretch();
     begin();
 }
@@ -117,19 +116,24 @@ void CommandBarPeer::chooseFirst()
 
 void CommandBarPeer::sizeButtons()
 {
-    const int height = bar_.height() - 2 * Margin;
-    if (height < TouchHeight || buttons_.empty()) {
+    const double zoom = zoomOf(*model_);
+    const int margin = static_cast<int>(Margin * zoom);
+    const int spacing = static_cast<int>(Spacing * zoom);
+    row_->setContentsMargins(margin, margin, margin, margin);
+    row_->setSpacing(spacing);
+    const int height = bar_.height() - 2 * margin;
+    if (height < TouchHeight * zoom || buttons_.empty()) {
         return;
     }
-    int room = bar_.width() - 2 * Margin;
+    int room = bar_.width() - 2 * margin;
     for (const QLabel* panel : panels_) {
-        room -= panel->sizeHint().width() + Spacing;
+        room -= panel->sizeHint().width() + spacing;
     }
-    const int share = room / static_cast<int>(buttons_.size()) - Spacing;
+    const int share = room / static_cast<int>(buttons_.size()) - spacing;
     const int width = std::min(static_cast<int>(height * TouchProportion), share);
     for (QPushButton* button : buttons_) {
         QFont font = button->font();
-        font.setPointSizeF(TouchTextSize);
+        font.setPointSizeF(TouchTextSize * zoom);
         button->setFont(font);
         button->setMinimumWidth(width);
     }

@@ -176,7 +176,9 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/)
 {
     dispatch([&] {
         QPainter painter(this);
-        const PicturePtr picture = control_->surface().image(paintRatio(painter));
+        const double zoom = zoomOf(*control_);
+        const PicturePtr picture = control_->surface().image(paintRatio(painter) * zoom);
+        painter.scale(zoom, zoom);
         const PixelRectangle part = control_->surface().imagedPart();
         painter.drawImage(QPointF(part.left, part.top), imageForPainting(*picture));
         if (hasFocus()) {
@@ -279,11 +281,17 @@ QWidget* ControlWidget::widgetBelow(QPoint place) const
     return holder;
 }
 
+bool ControlWidget::hits(const QMouseEvent& event) const
+{
+    const QPointF place = event.position() / zoomOf(*control_);
+    return control_->surface().hits({place.x(), place.y()});
+}
+
 // Gives whether the event was for something below. A press takes its moves and its release along.
 bool ControlWidget::passOn(QMouseEvent& event)
 {
     QWidget* target = passedTo_;
-    if (!target && !pressed_ && !control_->surface().hits({event.position().x(), event.position().y()})) {
+    if (!target && !pressed_ && !hits(event)) {
         target = widgetBelow(event.position().toPoint());
         if (target && event.type() != QEvent::MouseMove) {
             passedTo_ = target;
@@ -307,7 +315,7 @@ void ControlWidget::press(const QMouseEvent& event, bool second)
     InputMethodLink::commit();
     pressed_ = true;
     secondPress_ = second;
-    dispatch([&] { control_->pointerDown(pointerEvent(event)); });
+    dispatch([&] { control_->pointerDown(pointerEvent(event, zoomOf(*control_))); });
 }
 
 // Each press counts as a click, the second one of a double click as well, so that no tap of a quick hand is
@@ -317,15 +325,14 @@ void ControlWidget::release(const QMouseEvent& event)
     if (!pressed_) {
         return; // the press went elsewhere
     }
-    const bool click = event.button() == Qt::LeftButton &&
-                       control_->surface().hits({event.position().x(), event.position().y()});
+    const bool click = event.button() == Qt::LeftButton && hits(event);
     const bool second = secondPress_;
     pressed_ = event.buttons() != Qt::NoButton;
     const auto control = control_; // a handler may close the window
     const QPointer<ControlWidget> self(this);
     const auto isLive = [&] { return self && peer_->isLinked(); };
     dispatch([&] {
-        control->pointerUp(pointerEvent(event));
+        control->pointerUp(pointerEvent(event, zoomOf(*control_)));
         if (click && isLive()) {
             inputMethod_.tapped(event);
         }
@@ -362,7 +369,7 @@ void ControlWidget::mouseReleaseEvent(QMouseEvent* event)
 void ControlWidget::mouseMoveEvent(QMouseEvent* event)
 {
     if (!passOn(*event)) {
-        dispatch([&] { control_->pointerMove(pointerEvent(*event)); });
+        dispatch([&] { control_->pointerMove(pointerEvent(*event, zoomOf(*control_))); });
     }
 }
 

@@ -97,6 +97,7 @@ private:
     void followWidget();
     void takePolicy();
     QWidget* widgetBelow(QPoint place) const;
+    bool hits(const QMouseEvent& event) const;
     bool passOn(QMouseEvent& event);
     void press(const QMouseEvent& event, bool second);
     void release(const QMouseEvent& event);

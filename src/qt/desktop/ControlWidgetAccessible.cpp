@@ -3,6 +3,7 @@
 #include "qt/base/QtText.h"
 #include "qt/desktop/ControlWidget.h"
 #include "qt/desktop/Dispatch.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -55,7 +56,8 @@ public:
             return {};
         }
         const PixelRectangle area = part().area;
-        const QRectF inWidget(area.left, area.top, area.width, area.height);
+        const double zoom = zoomOf(widget_->control());
+        const QRectF inWidget(area.left * zoom, area.top * zoom, area.width * zoom, area.height * zoom);
         return {widget_->mapToGlobal(inWidget.topLeft().toPoint()), inWidget.size().toSize()};
     }
 

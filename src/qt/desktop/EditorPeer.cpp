@@ -27,7 +27,7 @@ bool hasManyLines(const RichTextBox& /*model*/)
 EditorStyle styleOf(const TextBox& model)
 {
     EditorStyle style;
-    style.font = model.Font()->traits();
+    style.font = zoomed(model.Font()->traits(), model);
     style.text = toQColor(model.ForeColor());
     style.background = toQColor(model.BackColor());
     style.alignment = model.Alignment();
@@ -40,7 +40,7 @@ EditorStyle styleOf(const TextBox& model)
 EditorStyle styleOf(const RichTextBox& model)
 {
     EditorStyle style;
-    style.font = model.Font()->traits();
+    style.font = zoomed(model.Font()->traits(), model);
     style.text = toQColor(SystemColour::WindowText);
     style.background = toQColor(model.BackColor());
     style.locked = model.Locked();

@@ -36,6 +36,7 @@ void FormArea::paintGround(QPainter& painter)
         painter.fillRect(rect(), toQColor(form_->BackColor()));
     }
     const PicturePtr picture = form_->Picture();
+    painter.scale(form_->Zoom(), form_->Zoom());
     if (picture && isHole && !window_.isSoft()) {
         paintHard(painter, picture); // no edge may mix with the key colour
     } else if (picture) {
@@ -57,7 +58,7 @@ void FormArea::mousePressEvent(QMouseEvent* event)
 {
     pressed_ = true;
     secondPress_ = event->type() == QEvent::MouseButtonDblClick;
-    dispatch([&] { form_->inputPointerDown(pointerEvent(*event)); });
+    dispatch([&] { form_->inputPointerDown(pointerEvent(*event, form_->Zoom())); });
 }
 
 void FormArea::mouseDoubleClickEvent(QMouseEvent* event)
@@ -75,7 +76,7 @@ void FormArea::mouseReleaseEvent(QMouseEvent* event)
     const auto form = form_; // a handler may close the window
     pressed_ = false;
     dispatch([&] {
-        form->inputPointerUp(pointerEvent(*event));
+        form->inputPointerUp(pointerEvent(*event, form_->Zoom()));
         if (click) {
             form->inputClick();
         }
@@ -87,7 +88,7 @@ void FormArea::mouseReleaseEvent(QMouseEvent* event)
 
 void FormArea::mouseMoveEvent(QMouseEvent* event)
 {
-    dispatch([&] { form_->inputPointerMove(pointerEvent(*event)); });
+    dispatch([&] { form_->inputPointerMove(pointerEvent(*event, form_->Zoom())); });
 }
 
 } // namespace phial::qt

@@ -124,6 +124,10 @@ void FormWindow::show(FormAspect aspect)
     case FormAspect::Geometry:
         showGeometry();
         break;
+    case FormAspect::Zoom:
+        showZoom(form_->container());
+        area_->update();
+        break;
     case FormAspect::WindowState:
         showFrame();
         showState();
@@ -168,6 +172,21 @@ void FormWindow::showStyle()
         scheduleShape();
     } else {
         clearMask();
+    }
+}
+
+// What depends on the zoom is told anew to each control's widget.
+void FormWindow::showZoom(const Container& container)
+{
+    for (const ControlPtr& control : container.controls()) {
+        for (const ControlAspect aspect :
+             {ControlAspect::Geometry, ControlAspect::Style, ControlAspect::Items, ControlAspect::Selection,
+              ControlAspect::Picture}) {
+            control->frame().report(aspect);
+        }
+        if (const Container* within = control->container()) {
+            showZoom(*within);
+        }
     }
 }
 

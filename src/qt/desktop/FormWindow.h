@@ -63,6 +63,7 @@ private:
     void limitSize(QSize size);
     void showState();
     void showShape();
+    void showZoom(const Container& container);
     void showFocus();
     void tellGeometry();
     void tellState();

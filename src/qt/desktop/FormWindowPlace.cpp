@@ -25,7 +25,7 @@ int toPixels(double twips)
 QSize innerSize(const Form& form)
 {
     const PixelSize size = form.innerSize();
-    return {static_cast<int>(std::lround(size.width)), static_cast<int>(std::lround(size.height))};
+    return QSizeF(size.width * form.Zoom(), size.height * form.Zoom()).toSize();
 }
 
 } // namespace
@@ -103,7 +103,8 @@ void FormWindow::takeNormalPlace()
 void FormWindow::limitSize(QSize size)
 {
     const bool fixed = form_->BorderStyle() != BorderStyle::Sizable && !fillsScreen();
-    const QSize least = fixed ? size : QSize(0, 0);
+    const QSize least =
+        fixed ? size : QSizeF(form_->leastSize().width, form_->leastSize().height).toSize() + menuSize();
     const QSize most = fixed ? size : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     if (minimumSize() != least || maximumSize() != most) {
         setMinimumSize(least);

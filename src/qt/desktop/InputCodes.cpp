@@ -105,7 +105,7 @@ PointerButton pointerButton(Qt::MouseButton button)
     }
 }
 
-PointerEvent pointerEvent(const QMouseEvent& event)
+PointerEvent pointerEvent(const QMouseEvent& event, double zoom)
 {
     PointerEvent pointer;
     if (event.type() == QEvent::MouseMove) {
@@ -120,8 +120,8 @@ PointerEvent pointerEvent(const QMouseEvent& event)
         pointer.Button = pointerButton(event.button());
     }
     pointer.Shift = shiftBits(event.modifiers());
-    pointer.X = event.position().x();
-    pointer.Y = event.position().y();
+    pointer.X = event.position().x() / zoom;
+    pointer.Y = event.position().y() / zoom;
     return pointer;
 }
 

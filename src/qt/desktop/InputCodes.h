@@ -14,7 +14,8 @@ namespace phial::qt
 std::int32_t shiftBits(Qt::KeyboardModifiers modifiers);
 PointerButton pointerButton(Qt::MouseButton button);
 /// The place is that in the widget, in pixels. During a move the buttons are those that are down.
-PointerEvent pointerEvent(const QMouseEvent& event);
+/// `zoom`: how many of the window's pixels one of the form takes.
+PointerEvent pointerEvent(const QMouseEvent& event, double zoom);
 
 KeyEvent keyEvent(const QKeyEvent& event);
 /// The character that a key types, as Typing.h has it; 0 for none.

@@ -2,6 +2,7 @@
 
 #include "qt/base/QtText.h"
 #include "qt/desktop/InputCodes.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QApplication>
 #include <QInputMethod>
@@ -68,13 +69,14 @@ QVariant InputMethodLink::answer(Qt::InputMethodQuery query) const
         return {};
     }
     const PixelRectangle& caret = entry->caretArea;
+    const double zoom = zoomOf(control_);
     const QString text = toQt(entry->text);
     switch (query) {
     case Qt::ImEnabled:
         return control_.frame().takesText();
     case Qt::ImCursorRectangle:
     case Qt::ImAnchorRectangle:
-        return QRectF(caret.left, caret.top, caret.width, caret.height);
+        return QRectF(caret.left * zoom, caret.top * zoom, caret.width * zoom, caret.height * zoom);
     case Qt::ImSurroundingText:
         return text;
     case Qt::ImCursorPosition:

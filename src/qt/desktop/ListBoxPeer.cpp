@@ -2,6 +2,7 @@
 
 #include "qt/base/QtText.h"
 #include "qt/desktop/FontCatalogue.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QApplication>
 #include <QListWidget>
@@ -60,7 +61,7 @@ void ListBoxPeer::choose(int row)
 
 void ListBoxPeer::showStyle()
 {
-    list_.setFont(fontCatalogue().font(model_->Font()->traits()));
+    list_.setFont(fontCatalogue().font(zoomed(model_->Font()->traits(), *model_)));
 }
 
 void ListBoxPeer::showSelection()

@@ -57,7 +57,7 @@ void ListViewPeer::choose(const QTreeWidgetItem* line)
 
 void ListViewPeer::showStyle()
 {
-    list_.setFont(fontCatalogue().font(model_->Font()->traits()));
+    list_.setFont(fontCatalogue().font(zoomed(model_->Font()->traits(), *model_)));
     QPalette palette = list_.palette();
     palette.setColor(QPalette::Text, toQColor(model_->ForeColor()));
     palette.setColor(QPalette::Base, toQColor(model_->BackColor()));
@@ -96,7 +96,8 @@ void ListViewPeer::showColumns()
         list_.header()->setSectionResizeMode(at,
                                              takesTheRest ? QHeaderView::Stretch : QHeaderView::Interactive);
         if (!takesTheRest) {
-            list_.header()->resizeSection(at, static_cast<int>(std::lround(column.Width())));
+            list_.header()->resizeSection(at,
+                                          static_cast<int>(std::lround(column.Width() * zoomOf(*model_))));
         }
     }
 }

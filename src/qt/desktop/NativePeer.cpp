@@ -185,7 +185,7 @@ bool NativePeer::filterKey(QWidget& widget, QKeyEvent& event)
 void NativePeer::filterPress(const QEvent& event)
 {
     const auto& press = static_cast<const QMouseEvent&>(event);
-    const PointerEvent pointer = pointerEvent(press);
+    const PointerEvent pointer = pointerEvent(press, zoomOf(*control_));
     run([&] {
         if (event.type() == QEvent::MouseButtonRelease) {
             control_->pointerUp(pointer);

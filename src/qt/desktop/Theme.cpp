@@ -28,10 +28,12 @@ constexpr auto Hover = "#e6ebf1";
 constexpr auto Pressed = "#d5dde6";
 
 constexpr auto Sheet = R"(
-QPushButton { background: $field; color: $ink; border: 1px solid $line; border-radius: 6px; padding: 2px 14px; }
+QPushButton { background: $field; color: $ink; border: 1px solid $line; border-radius: 6px; padding: 2px 6px; }
 QPushButton:hover { background: $hover; }
 QPushButton:pressed { background: $pressed; }
-QPushButton:focus { border: 2px solid $accent; padding: 1px 13px; }
+QPushButton:focus { border: 2px solid $accent; padding: 1px 5px; }
+QDialog QPushButton, QWidget[phialBar="true"] QPushButton { padding: 2px 14px; }
+QDialog QPushButton:focus, QWidget[phialBar="true"] QPushButton:focus { padding: 1px 13px; }
 QPushButton:disabled { color: $pale; background: $ground; }
 QPushButton[phialAccent="true"] { background: $accent; color: #ffffff; border: 1px solid $accent; }
 QPushButton[phialAccent="true"]:hover { background: $accentHover; }

@@ -40,12 +40,25 @@ void applyPointer(QWidget& widget, const ControlFrame& frame)
 
 } // namespace
 
+double zoomOf(const Control& control)
+{
+    const auto form = control.frame().form();
+    return form ? form->Zoom() : 1;
+}
+
+FontSpec zoomed(FontSpec font, const Control& control)
+{
+    font.size *= zoomOf(control);
+    return font;
+}
+
 QRect pixelPlace(const Control& control)
 {
+    const double zoom = zoomOf(control);
     const PixelRectangle place = control.frame().pixelRectangle();
-    const QPoint corner(static_cast<int>(std::lround(place.left)), static_cast<int>(std::lround(place.top)));
-    const QPoint end(static_cast<int>(std::lround(place.right())),
-                     static_cast<int>(std::lround(place.bottom())));
+    const auto pixel = [zoom](double value) { return static_cast<int>(std::lround(value * zoom)); };
+    const QPoint corner(pixel(place.left), pixel(place.top));
+    const QPoint end(pixel(place.right()), pixel(place.bottom()));
     return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
 }
 

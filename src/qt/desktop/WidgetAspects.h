@@ -2,6 +2,7 @@
 
 #include "visual/Alignment.h"
 #include "visual/Control.h"
+#include "visual/FontSpec.h"
 
 #include <Qt>
 
@@ -19,7 +20,12 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect);
 /// Place and all the rest, for a fresh widget.
 void applyFrame(QWidget& widget, Control& control);
 
-/// The control's rectangle with its edges rounded to pixels.
+/// How many pixels of the window a pixel of the control takes.
+double zoomOf(const Control& control);
+/// The font as the control's window shows it.
+FontSpec zoomed(FontSpec font, const Control& control);
+
+/// The control's rectangle in its window, with its edges rounded to pixels.
 QRect pixelPlace(const Control& control);
 /// Puts the widget there.
 void applyGeometry(QWidget& widget, const Control& control);
