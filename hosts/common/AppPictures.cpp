@@ -93,6 +93,12 @@ std::shared_ptr<PicturedMaster> newClassroom()
     return master;
 }
 
+struct PictureSize {
+    double width;
+    double height;
+    StringView name;
+};
+
 /// The app with a user who knows the states he wants to see.
 class Tour
 {
@@ -127,6 +133,23 @@ public:
         take(u"missed");
         finishRound();
         take(u"summary");
+    }
+
+    /// The insides of windows on the screens that schools have; the second one at 125 %.
+    void showSizes()
+    {
+        press(u"but_Level", 0);
+        window_.app().fill(Judgement::Wrong);
+        press(u"but_Check");
+        constexpr PictureSize Sizes[] = {{1024, 572, u"1024x600"},
+                                         {1093, 580, u"1366x768"},
+                                         {1920, 1050, u"1920x1080"},
+                                         {3840, 2130, u"3840x2160"}};
+        for (const PictureSize& size : Sizes) {
+            window_.form().Width(size.width * phial::TwipsPerPixel);
+            window_.form().Height(size.height * phial::TwipsPerPixel);
+            take(size.name);
+        }
     }
 
     void showClassroom(PicturedMaster& master)
@@ -215,6 +238,9 @@ void showIn(phial::enm_LanguageC language, StringView name, const MakeApp& makeA
         Tour(makeApp(), take, name).take(u"long-name");
         usersAre({u"Maxi:fuchs"});
         Tour(makeApp(), take, name).showRound();
+        if (language == phial::ID_Language_German) {
+            Tour(makeApp(), take, name).showSizes();
+        }
         Tour(makeApp(), take, name).showClassroom(*newClassroom());
         showMasterChoice(name, take);
     }

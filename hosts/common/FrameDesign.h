@@ -29,10 +29,18 @@ using phial::StringView;
 namespace Palette = phial::Palette;
 using enum phial::TEXTALIGN;
 
+/// The design's size; FrameLayout fits it into the window.
 inline constexpr double Width = 900;
 inline constexpr double Height = 640;
-inline constexpr double Header = 72;
-inline constexpr double Footer = 44;
+inline constexpr double Header = 64;
+inline constexpr double Footer = 40;
+inline constexpr double PageHeight = Height - Header - Footer;
+/// Of header and footer in windows that are too low for the design.
+inline constexpr double LeastHeader = 52;
+inline constexpr double LeastFooter = 32;
+/// How much smaller and larger the design is shown.
+inline constexpr double LeastZoom = 0.75;
+inline constexpr double MostZoom = 4;
 
 /// Between the buttons of the levels, of which the app tells how many there are.
 inline constexpr double LevelGap = 21;
@@ -45,8 +53,18 @@ inline constexpr ControlDesign panel(StringView name, ControlDesign::Rectangle p
 
 inline constexpr ControlDesign page(StringView name)
 {
-    return panel(name, {0, Header, Width, Height - Header - Footer}, Palette::Ground, Palette::Ground)
-        .hidden();
+    return panel(name, {0, Header, Width, PageHeight}, Palette::Ground, Palette::Ground).hidden();
+}
+
+/// The header's buttons from left to right.
+inline constexpr double HeaderTop = (Header - 44) / 2;
+inline constexpr ControlDesign::Rectangle LanguagePlace{708, HeaderTop, 48, 44};
+inline constexpr ControlDesign::Rectangle ScreenPlace{764, HeaderTop, 48, 44};
+inline constexpr ControlDesign::Rectangle HelpPlace{820, HeaderTop, 48, 44};
+
+inline constexpr ControlDesign headerButton(StringView name, ControlDesign::Rectangle place, StringView text)
+{
+    return design<ctl_Button>(name, place, text).inside(u"bar_Header").font(12, FontWeight::Bold);
 }
 
 /// What the frame leaves to the app on its page of tasks, `pan_Task`: the card with the task, the place of
@@ -110,20 +128,21 @@ inline constexpr ControlDesign Head[] = {
     page(u"pan_Missing"),
     panel(u"pan_Footer", {0, Height - Footer, Width, Footer}, Palette::Footer, Palette::Divider),
 
-    design<ctl_Label>(u"lab_Title", {32, 0, 300, 72})
+    // All but the title keep their distance from the right edge.
+    design<ctl_Label>(u"lab_Title", {32, 0, 360, Header})
         .inside(u"bar_Header")
         .font(18, FontWeight::Bold)
         .ink(Palette::OnAccent)
         .align(MiddleLeft),
-    design<ctl_Label>(u"lab_Points", {340, 0, 188, 72})
+    design<ctl_Label>(u"lab_Points", {402, 0, 106, Header})
         .inside(u"bar_Header")
         .font(14)
         .ink(Palette::OnAccent)
         .align(MiddleRight),
-    design<ctl_Avatar>(u"ctl_User", {548, 8, 220, 56}).inside(u"bar_Header"),
-    design<ctl_Button>(u"but_Language", {Width - 116, 16, 84, 40}, u"English|Deutsch")
-        .inside(u"bar_Header")
-        .font(10),
+    design<ctl_Avatar>(u"ctl_User", {520, 6, 176, 52}).inside(u"bar_Header"),
+    headerButton(u"but_Language", LanguagePlace, u"EN|DE").spoken(u"Auf Englisch|In German"),
+    headerButton(u"but_Screen", ScreenPlace, u"\u2922").spoken(u"Ganzer Bildschirm (F11)|Full screen (F11)"),
+    headerButton(u"but_Help", HelpPlace, u"?").spoken(u"Hilfe|Help"),
 
     heading(u"lab_Question", {60, 60, 780, 44}).inside(u"pan_Start"),
     paragraph(u"lab_Intro", {60, 112, 780, 84}).inside(u"pan_Start"),
@@ -193,18 +212,18 @@ inline constexpr ControlDesign Tail[] = {
     paragraph(u"lab_Missing", {60, 124, 780, 200}).inside(u"pan_Missing"),
     mainButton(u"but_Leave", {60, 360, 240, 80}, u"Beenden|Quit").inside(u"pan_Missing"),
 
-    design<Shape>(u"shp_Classroom", {32, 16, 12, 12})
+    design<Shape>(u"shp_Classroom", {32, 14, 12, 12})
         .inside(u"pan_Footer")
         .set(u"Shape", phial::ShapeKind::Circle)
         .set(u"BorderWidth", 0)
         .set(u"FillStyle", phial::FillStyle::Solid),
-    design<ctl_Label>(u"lab_Classroom", {56, 0, 428, 44})
+    design<ctl_Label>(u"lab_Classroom", {56, 0, 428, Footer})
         .inside(u"pan_Footer")
         .font(10)
         .ink(Palette::Muted)
         .align(MiddleLeft),
-    design<ctl_Button>(u"but_Sound", {492, 4, 180, 36}).inside(u"pan_Footer").font(10),
-    design<ctl_Button>(u"but_Classroom", {684, 4, 184, 36}, u"Klassenraum …|Classroom …")
+    design<ctl_Button>(u"but_Sound", {492, 2, 180, 36}).inside(u"pan_Footer").font(10),
+    design<ctl_Button>(u"but_Classroom", {684, 2, 184, 36}, u"Klassenraum …|Classroom …")
         .inside(u"pan_Footer")
         .font(10),
 };

@@ -3,6 +3,7 @@
 #include "app/Session.h"
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
+#include "app/cls_AppTools.h"
 #include "app/sys_Global.h"
 #include "common/AppPictures.h"
 #include "common/frm_LearningApp.h"
@@ -44,6 +45,7 @@ int runLearningApp(int argc, char** argv, const AppIdentity& identity, const Mak
         return 0;
     }
     frm_LearningApp window(makeApp(), searchMasters);
+    app->TOOLS()->RESOLUTION(window.form());
     window.Show();
     app->READY();
     window.welcome();

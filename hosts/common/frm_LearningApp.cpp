@@ -27,6 +27,8 @@ using phial::StringView;
 namespace
 {
 
+constexpr auto FullScreenKey = // F11
+    static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 10);
 constexpr std::int32_t AskingInterval = 5'000; // milliseconds
 
 phial::FormDesign designOf(const AppTexts& texts)
@@ -34,7 +36,7 @@ phial::FormDesign designOf(const AppTexts& texts)
     return {.name = u"frm_LearningApp",
             .caption = texts.title,
             .size = {frame_design::Width, frame_design::Height},
-            .border = phial::BorderStyle::FixedSingle,
+            .border = phial::BorderStyle::Sizable,
             .hearsKeysFirst = true,
             .controls = frame_design::Head};
 }
@@ -62,7 +64,7 @@ frm_LearningApp::frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch 
     form_.add(app_->controls());
     form_.add(frame_design::Tail);
     buildLevels();
-    form_->menu().add(u"mnu_Help", u"&Hilfe|&Help")->add(u"mnu_HelpInfo", u"&Info|&About");
+    layout_.emplace(*form_);
     app_->attach(*form_);
     tasks_.emplace(*form_, *app_);
     summary_.emplace(*form_, app_->texts());
@@ -116,8 +118,9 @@ void frm_LearningApp::connect()
         form_.press(button, [this] { form_->Unload(); });
     }
     form_.on(get<phial::ctl_Avatar>(u"ctl_User")->CLICK, [this] { askForUser(); });
-    form_.on(form_->control<phial::Menu>(u"mnu_HelpInfo")->Click,
-             [](std::int32_t) { QVAPP()->DIALOG()->ABOUT(); });
+    form_.press(u"but_Help", [] { QVAPP()->DIALOG()->ABOUT(); });
+    form_.press(u"but_Screen", [this] { toggleFullScreen(); });
+    form_.on(form_->Resize, [this] { layout_->follow(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->KeyDown, [this](phial::KeyEvent& event) { keyDown(event); });
     form_.on(tasks_->Judged, [this](Verdict verdict) { sounds_->judged(verdict); });
@@ -134,6 +137,19 @@ void frm_LearningApp::connectClassroom()
     form_.on(classroom_.Changed, [this] { showClassroom(); });
     form_.on(asking_.Tick, [this] { admit(false); });
     form_.on(form_->Unloaded, [this] { asking_.Enabled(false); });
+}
+
+void frm_LearningApp::toggleFullScreen()
+{
+    if (windowed_) {
+        form_->BorderStyle(phial::BorderStyle::Sizable);
+        form_->WindowState(*windowed_);
+        windowed_.reset();
+    } else {
+        windowed_ = form_->WindowState();
+        form_->BorderStyle(phial::BorderStyle::None);
+        form_->WindowState(phial::WindowState::Maximized);
+    }
 }
 
 void frm_LearningApp::askForUser()
@@ -344,6 +360,9 @@ void frm_LearningApp::keyDown(phial::KeyEvent& event)
             tasks_->giveHint();
         }
         event.KeyCode = 0;
+    } else if (event.is(FullScreenKey)) {
+        event.KeyCode = 0;
+        toggleFullScreen();
     } else if (event.is(phial::Key::Escape)) {
         event.KeyCode = 0;
         form_->Unload();

@@ -2,6 +2,7 @@
 
 #include "common/AppSounds.h"
 #include "common/ClassroomLink.h"
+#include "common/FrameLayout.h"
 #include "common/LearningApp.h"
 #include "common/SummaryPage.h"
 #include "common/TaskPage.h"
@@ -44,6 +45,7 @@ private:
     void connect();
     void connectClassroom();
 
+    void toggleFullScreen();
     void askForUser();
     void nameUser();
 
@@ -72,12 +74,14 @@ private:
     std::vector<LevelTitle> levelTitles_;
     MasterSearch searchMasters_;
     phial::DesignedForm form_;
+    std::optional<FrameLayout> layout_;
     phial::ControlArray<phial::ctl_Button> levels_;
     std::optional<TaskPage> tasks_;
     std::optional<SummaryPage> summary_;
     std::optional<AppSounds> sounds_;
     ClassroomLink classroom_;
-    phial::Timer asking_; ///< asks the master again while the pupil waits
+    phial::Timer asking_;                        ///< asks the master again while the pupil waits
+    std::optional<phial::WindowState> windowed_; ///< the state before the full screen; none without it
     Page page_ = Page::Start;
     std::size_t level_ = 0;
     bool isAsking_ = false;

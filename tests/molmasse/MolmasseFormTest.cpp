@@ -35,17 +35,57 @@ TEST_F(TrainerTest, BeginsWithTheChoiceOfTheLevel)
 TEST_F(TrainerTest, HelpTellsAboutTheTrainerInTheLanguageInForce)
 {
     openInstalled();
-    const auto expectAbout = [this](StringView menu, StringView caption) {
-        EXPECT_EQ(form().control<phial::Menu>(u"mnu_Help")->Caption(), menu);
+    const auto expectAbout = [this](StringView button, StringView caption) {
+        EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Help")->frame().AccessibleName(), button);
         outside.visual().onModal(u"frm_AppAbout", [caption](phial::Form& about) {
             EXPECT_EQ(about.Caption(), caption);
             about.Unload();
         });
-        form().control<phial::Menu>(u"mnu_HelpInfo")->inputClick();
+        touch(u"but_Help");
     };
-    expectAbout(u"&Hilfe", u"Info über Molmassen-Trainer");
+    expectAbout(u"Hilfe", u"Info über Molmassen-Trainer");
     phial::LNG()->CURRENT(phial::ID_Language_English);
-    expectAbout(u"&Help", u"About Molar mass trainer");
+    expectAbout(u"Help", u"About Molar mass trainer");
+}
+
+TEST_F(TrainerTest, FillsItsWindowAtEachSize)
+{
+    openInstalled();
+    form().Width(1920 * phial::TwipsPerPixel);
+    form().Height(1080 * phial::TwipsPerPixel);
+
+    EXPECT_DOUBLE_EQ(form().Zoom(), 1080.0 / 640);
+    const auto placeOf = [this](StringView control) {
+        return form().control<phial::Control>(control)->frame().pixelRectangle();
+    };
+    const double width = form().ScaleWidth();
+    EXPECT_NEAR(placeOf(u"bar_Header").width, width, 1e-6);
+    EXPECT_NEAR(placeOf(u"pan_Footer").bottom(), form().ScaleHeight(), 1e-6);
+    EXPECT_NEAR(placeOf(u"but_Help").right(), width - 32, 0.1);
+    EXPECT_EQ(placeOf(u"lab_Title").left, 32);
+    EXPECT_NEAR(placeOf(u"pan_Start").left, (width - 900) / 2, 0.1);
+}
+
+TEST_F(TrainerTest, F11FillsTheScreenAndLetsItGo)
+{
+    openInstalled();
+    type(u"{f11}");
+    EXPECT_EQ(form().BorderStyle(), phial::BorderStyle::None);
+    EXPECT_EQ(form().WindowState(), phial::WindowState::Maximized);
+    type(u"{f11}");
+    EXPECT_EQ(form().BorderStyle(), phial::BorderStyle::Sizable);
+    EXPECT_EQ(form().WindowState(), phial::WindowState::Normal);
+}
+
+TEST_F(TrainerTest, TheFullScreenIsReachedByTouchFromAMaximizedWindow)
+{
+    openInstalled();
+    form().WindowState(phial::WindowState::Maximized);
+    touch(u"but_Screen");
+    EXPECT_EQ(form().BorderStyle(), phial::BorderStyle::None);
+    touch(u"but_Screen");
+    EXPECT_EQ(form().BorderStyle(), phial::BorderStyle::Sizable);
+    EXPECT_EQ(form().WindowState(), phial::WindowState::Maximized);
 }
 
 TEST_F(TrainerTest, AWholeRoundGoesByKeysAlone)
@@ -326,14 +366,14 @@ TEST_F(TrainerTest, TheLanguageButtonTranslatesEverythingThatIsSeen)
     EXPECT_EQ(seen(u"lab_Feedback"),
               u"That is the mass of H alone. Other atoms are missing.<br>You have 2 tries left.");
     EXPECT_EQ(buttonText(u"but_Check"), u"Check");
-    EXPECT_EQ(buttonText(u"but_Language"), u"Deutsch");
+    EXPECT_EQ(buttonText(u"but_Language"), u"DE");
     EXPECT_EQ(answer(), u"1");
 
     touchPad(u"7"); // what is typed meanwhile has not been judged
     touch(u"but_Language");
     EXPECT_EQ(seen(u"lab_Feedback"),
               u"Das ist erst die Masse von H. Es fehlen noch Atome.<br>Du hast noch 2 Versuche.");
-    EXPECT_EQ(buttonText(u"but_Language"), u"English");
+    EXPECT_EQ(buttonText(u"but_Language"), u"EN");
 }
 
 TEST_F(TrainerTest, TellsThatTheInstallationIsMissing)

@@ -276,13 +276,14 @@ TEST_F(TrainerResult, EverythingOnThePageIsReachedByTab)
     playRound();
 
     std::vector<String> stops;
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 10; ++i) {
         stops.push_back(focused());
         phial::headless::tab(form());
     }
     EXPECT_THAT(stops,
                 ::testing::ElementsAre(u"but_Again", u"but_Quit", u"but_Sound", u"ctl_User", u"but_Language",
-                                       u"but_List", u"but_Certificate", u"but_Export"));
+                                       u"but_Screen", u"but_Help", u"but_List", u"but_Certificate",
+                                       u"but_Export"));
 }
 
 } // namespace
