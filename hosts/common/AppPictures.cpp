@@ -106,6 +106,7 @@ public:
     Tour(std::unique_ptr<LearningApp> app, const Take& take, StringView language)
         : window_(std::move(app)), take_(take), language_(language)
     {
+        window_.deafFor(0);
         window_.Show();
     }
 

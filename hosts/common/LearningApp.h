@@ -81,6 +81,8 @@ public:
     virtual void show(int position) = 0;
     /// What tells the task that is shown apart from all others, in any language.
     virtual phial::String taskName() const = 0;
+    /// The present answer, by which the same one is known again however it was written.
+    virtual phial::String answer() const = 0;
     /// What the present answer is worth.
     virtual Judgement judge() = 0;
     /// The present answer is to be replaced by what is typed next.
@@ -105,7 +107,7 @@ public:
     /// How the solution is come by, shown when the task is decided.
     virtual phial::String working() const { return {}; }
 
-    /// Puts an answer of that kind into the page.
+    /// Puts an answer of that kind into the page; a wrong one is another one than before.
     virtual void fill(Sample sample) = 0;
 };
 

@@ -24,6 +24,11 @@ NumberPad::NumberPad(phial::Form& form, std::shared_ptr<phial::TextBox> answer)
     });
 }
 
+void NumberPad::Enabled(bool value)
+{
+    keys_.each([value](phial::ctl_Button& key, std::int32_t) { key.Enabled(value); });
+}
+
 void NumberPad::TRANSLATE()
 {
     keys_(keys_.UBound())

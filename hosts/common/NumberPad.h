@@ -34,6 +34,8 @@ public:
     NumberPad(const NumberPad&) = delete;
     NumberPad& operator=(const NumberPad&) = delete;
 
+    /// Whether its keys can be pressed.
+    void Enabled(bool value);
     void TRANSLATE();
 
 private:

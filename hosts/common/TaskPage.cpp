@@ -28,8 +28,16 @@ MissedTasks ofThisPupil()
 
 } // namespace
 
-TaskPage::TaskPage(phial::Form& form, LearningApp& app) : form_(form), app_(app)
+namespace
 {
+
+constexpr std::int32_t DeafTime = 400; // milliseconds
+
+} // namespace
+
+TaskPage::TaskPage(phial::Form& form, LearningApp& app) : form_(form), app_(app), deaf_(u"tmr_Deaf", DeafTime)
+{
+    connections_ += deaf_.Tick.connect([this] { deaf_.Enabled(false); });
     connections_ += get<phial::ctl_Button>(u"but_Check")->CLICK.connect([this] { press(); });
     connections_ += get<phial::ctl_Button>(u"but_Hint")->CLICK.connect([this] { giveHint(); });
 }
@@ -57,8 +65,14 @@ void TaskPage::begin(std::size_t level, const TaskChoice& choice)
     showTask();
 }
 
+void TaskPage::deafFor(std::int32_t milliseconds)
+{
+    deaf_.Interval(milliseconds);
+}
+
 void TaskPage::end()
 {
+    deaf_.Enabled(false);
     round_.reset();
     caption(form_, u"lab_Points", {});
 }
@@ -73,12 +87,17 @@ void TaskPage::TRANSLATE()
 
 void TaskPage::press()
 {
+    if (deaf_.Enabled()) {
+        return;
+    }
     verdict_ && round_->decided() ? goOn() : check();
 }
 
 void TaskPage::showTask()
 {
     verdict_.reset();
+    answers_.clear();
+    isRepeated_ = false;
     hintShown_ = false;
     app_.show(round_->position());
     get<phial::ctl_Button>(u"but_Hint")->Enabled(true);
@@ -113,7 +132,8 @@ void TaskPage::showProgress()
 
 void TaskPage::check()
 {
-    verdict_ = round_->count(app_.judge());
+    count(app_.judge());
+    deaf_.Enabled(deaf_.Interval() > 0);
     showRoundTexts();
     if (round_->decided()) {
         noteOutcome();
@@ -144,6 +164,20 @@ void TaskPage::noteOutcome()
     }
 }
 
+/// The same wrong answer again is most likely a slip, and costs no try.
+void TaskPage::count(Judgement judgement)
+{
+    const String answer = app_.answer();
+    isRepeated_ = judgement == Judgement::Wrong && std::ranges::find(answers_, answer) != answers_.end();
+    if (isRepeated_) {
+        return;
+    }
+    verdict_ = round_->count(judgement);
+    if (verdict_ == Verdict::Wrong) {
+        answers_.push_back(answer);
+    }
+}
+
 void TaskPage::goOn()
 {
     if (round_->next()) {
@@ -165,6 +199,10 @@ String TaskPage::verdictText()
 {
     if (!verdict_) {
         return {};
+    }
+    if (isRepeated_) {
+        return translate(u"Das hattest du schon. Versuche es anders.",
+                         u"You had that already. Try another way.");
     }
     switch (*verdict_) {
     case Verdict::Right:

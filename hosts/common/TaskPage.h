@@ -3,6 +3,7 @@
 #include "common/LearningApp.h"
 #include "core/Event.h"
 #include "visual/Form.h"
+#include "visual/Timer.h"
 
 #include <optional>
 #include <vector>
@@ -30,6 +31,9 @@ public:
     void end();
     /// The round under way or just finished; null without one.
     const Round* round() const { return round_ ? &*round_ : nullptr; }
+    /// How long the coloured button hears no press behind a verdict, in milliseconds: 400 at first, so that a
+    /// press that was meant once does not skip what it has brought. 0: it always hears.
+    void deafFor(std::int32_t milliseconds);
     /// Tells the hint, once a task. Without a round nothing happens.
     void giveHint();
     /// Puts all texts that are not of the design in the language in force.
@@ -49,6 +53,7 @@ private:
     void showCheckCaption();
     void showProgress();
     void check();
+    void count(Judgement judgement);
     void goOn();
     void showVerdict();
     phial::String verdictText();
@@ -69,6 +74,9 @@ private:
     std::vector<phial::String> missed_; ///< of this round
     std::optional<Verdict> verdict_;    ///< what the present task shows
     bool hintShown_ = false;
+    bool isRepeated_ = false;            ///< the last answer has been judged before
+    std::vector<phial::String> answers_; ///< wrong ones to the present task
+    phial::Timer deaf_;
 };
 
 } // namespace learning

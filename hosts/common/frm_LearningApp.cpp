@@ -13,8 +13,11 @@
 #include "common/FrameDesign.h"
 #include "common/FrameTexts.h"
 #include "common/ListNotices.h"
+#include "common/frm_LeaveRound.h"
 #include "core/CoreTheme.h"
 #include "core/SessionState.h"
+
+#include <utility>
 
 namespace learning
 {
@@ -110,20 +113,35 @@ void frm_LearningApp::connect()
 {
     form_.press(u"but_Again", [this] { show(Page::Start); });
     form_.press(u"but_Missed", [this] { startMissed(); });
-    form_.press(u"but_Language", [] {
+    form_.press(u"but_Language", [this] {
         const bool german = LNG()->EFFECTIVE() == phial::ID_Language_German;
         LNG()->CURRENT(german ? phial::ID_Language_English : phial::ID_Language_German);
+        backToTask();
     });
-    for (const auto* button : {u"but_Stop", u"but_Quit", u"but_GiveUp", u"but_Leave"}) {
+    for (const auto* button : {u"but_Quit", u"but_GiveUp", u"but_Leave"}) {
         form_.press(button, [this] { form_->Unload(); });
     }
+    form_.press(u"but_Stop", [this] { leave(); });
     form_.on(get<phial::ctl_Avatar>(u"ctl_User")->CLICK, [this] { askForUser(); });
-    form_.press(u"but_Help", [] { QVAPP()->DIALOG()->ABOUT(); });
-    form_.press(u"but_Screen", [this] { toggleFullScreen(); });
+    form_.press(u"but_Help", [this] {
+        QVAPP()->DIALOG()->ABOUT();
+        backToTask();
+    });
+    form_.press(u"but_Screen", [this] {
+        toggleFullScreen();
+        backToTask();
+    });
     form_.on(form_->Resize, [this] { layout_->follow(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->KeyDown, [this](phial::KeyEvent& event) { keyDown(event); });
     form_.on(tasks_->Judged, [this](Verdict verdict) { sounds_->judged(verdict); });
+    form_.on(form_->KeyUp, [this](phial::KeyEvent& event) {
+        if (event.is(phial::Key::Return)) {
+            isReturnHeld_ = false;
+        }
+    });
+    form_.on(form_->Deactivate, [this] { isReturnHeld_ = false; }); // the key is let go elsewhere
+    form_.on(form_->Activate, [this] { isReturnHeld_ = false; });
     form_.on(tasks_->Finished, [this] { finishRound(); });
     levels_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
         return button.CLICK.connect([this, index] { startRound(static_cast<std::size_t>(index)); });
@@ -137,6 +155,28 @@ void frm_LearningApp::connectClassroom()
     form_.on(classroom_.Changed, [this] { showClassroom(); });
     form_.on(asking_.Tick, [this] { admit(false); });
     form_.on(form_->Unloaded, [this] { asking_.Enabled(false); });
+}
+
+/// Behind what was pressed in the header typing goes on in the answer.
+void frm_LearningApp::backToTask()
+{
+    if (page_ == Page::Task && form_->Visible()) {
+        app_->field()->SetFocus();
+    }
+}
+
+/// Out of a round to the start page, which the pupil has to confirm; out of any other page to the end.
+void frm_LearningApp::leave()
+{
+    if (page_ != Page::Task) {
+        form_->Unload();
+        return;
+    }
+    if (frm_LeaveRound(tasks_->round()->points()).Show() && form_->Visible()) {
+        classroom_.roundLeft();
+        show(Page::Start);
+    }
+    backToTask();
 }
 
 void frm_LearningApp::toggleFullScreen()
@@ -285,6 +325,7 @@ void frm_LearningApp::show(Page page)
     get<phial::ctl_Pannel>(u"pan_Waiting")->Visible(page == Page::Waiting);
     get<phial::ctl_Pannel>(u"pan_Missing")->Visible(page == Page::Missing);
     get<phial::ctl_Avatar>(u"ctl_User")->frame().Visible(page != Page::Missing);
+    get<phial::ctl_Avatar>(u"ctl_User")->frame().Enabled(page != Page::Task); // a round has one pupil
     if (page != Page::Task && page != Page::Summary) {
         tasks_->end();
     }
@@ -365,7 +406,11 @@ void frm_LearningApp::keyDown(phial::KeyEvent& event)
         toggleFullScreen();
     } else if (event.is(phial::Key::Escape)) {
         event.KeyCode = 0;
-        form_->Unload();
+        leave();
+    } else if (event.is(phial::Key::Return)) {
+        if (std::exchange(isReturnHeld_, true)) {
+            event.KeyCode = 0; // a repeat of the held key presses nothing
+        }
     }
 }
 

@@ -35,6 +35,8 @@ public:
     void TRANSLATE();
 
     LearningApp& app() { return *app_; }
+    /// See TaskPage; for whoever presses faster than a hand.
+    void deafFor(std::int32_t milliseconds) { tasks_->deafFor(milliseconds); }
     /// The round under way; null before the first.
     const Round* round() const { return tasks_->round(); }
 
@@ -46,6 +48,8 @@ private:
     void connectClassroom();
 
     void toggleFullScreen();
+    void backToTask();
+    void leave();
     void askForUser();
     void nameUser();
 
@@ -85,6 +89,7 @@ private:
     Page page_ = Page::Start;
     std::size_t level_ = 0;
     bool isAsking_ = false;
+    bool isReturnHeld_ = false;
     RoundKind kind_ = RoundKind::Counting;
 };
 

@@ -2,6 +2,8 @@
 
 #include "common/Drawing.h"
 #include "common/FrameTexts.h"
+#include "core/NumberText.h"
+#include "core/Palette.h"
 #include "molmasse/MassJudge.h"
 #include "molmasse/Mistakes.h"
 #include "molmasse/TrainerDesign.h"
@@ -116,6 +118,14 @@ void Trainer::show(int position)
     showName();
     answer_->Text({});
     answer_->Locked(false);
+    answer_->BackColor(phial::Palette::Surface);
+    pad_->Enabled(true);
+}
+
+String Trainer::answer() const
+{
+    const auto mass = typedMass(answer_->Text());
+    return mass ? phial::plainText(*mass, u',') : String();
 }
 
 Judgement Trainer::judge()
@@ -133,6 +143,8 @@ void Trainer::retry()
 void Trainer::close()
 {
     answer_->Locked(true);
+    answer_->BackColor(phial::Palette::Ground); // as nothing that one types into
+    pad_->Enabled(false);
 }
 
 String Trainer::solution() const
@@ -142,8 +154,8 @@ String Trainer::solution() const
 
 String Trainer::unreadable() const
 {
-    return translate(u"Bitte gib eine Zahl ein, zum Beispiel 18,0.",
-                     u"Please type a number, for example 18.0.");
+    return translate(u"Bitte gib eine Zahl ein, zum Beispiel 12,5.",
+                     u"Please type a number, for example 12.5.");
 }
 
 String Trainer::hint() const
@@ -173,6 +185,15 @@ String Trainer::working() const
     return workedLine(*data_.elements, task_.formula);
 }
 
+void Trainer::fillWrong()
+{
+    const String typical = massOfFirstElement(*data_.elements, task_.formula);
+    const auto before = typedMass(answer_->Text());
+    answer_->Text(before && before == typedMass(typical) ? massText(*before + 1000)
+                  : before                               ? massText(*before + 1)
+                                                         : typical);
+}
+
 void Trainer::fill(Sample sample)
 {
     switch (sample) {
@@ -180,7 +201,7 @@ void Trainer::fill(Sample sample)
         answer_->Text(massText(mass_));
         return;
     case Sample::Wrong:
-        answer_->Text(massOfFirstElement(*data_.elements, task_.formula));
+        fillWrong();
         return;
     case Sample::Unreadable:
         answer_->Text(translate(u"viel", u"much"));

@@ -28,6 +28,7 @@ public:
     int begin(std::size_t level, const learning::TaskChoice& choice) override;
     void show(int position) override;
     phial::String taskName() const override { return task_.formula; }
+    phial::String answer() const override;
     learning::Judgement judge() override;
     void retry() override;
     void close() override;
@@ -42,6 +43,7 @@ public:
 
 private:
     void showName();
+    void fillWrong();
 
     TrainerData data_;
     std::vector<Task> tasks_; ///< of the round

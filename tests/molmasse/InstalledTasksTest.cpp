@@ -2,6 +2,7 @@
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
 #include "core/NativePath.h"
+#include "molmasse/MassJudge.h"
 #include "molmasse/TaskList.h"
 #include "support/HeadlessSession.h"
 #include "support/Places.h"
@@ -55,6 +56,16 @@ TEST_F(InstalledTasks, CountEachAtomOfKnownElements)
                 EXPECT_TRUE(elements.EXISTS(atoms.Item(index).Name())) << toUtf8(task.formula);
                 EXPECT_GE(atoms.Item(index).Values().Item(1).toReal(), 1) << toUtf8(task.formula);
             }
+        }
+    }
+}
+
+// The error message for an answer that is none has a number in it.
+TEST_F(InstalledTasks, AreNotSolvedByTheExampleOfANumber)
+{
+    for (const Level& level : tasks.levels) {
+        for (const Task& task : level.tasks) {
+            EXPECT_FALSE(isRight(12.5, elements.MOL(task.formula))) << toUtf8(task.formula);
         }
     }
 }

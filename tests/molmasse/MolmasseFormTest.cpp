@@ -149,8 +149,118 @@ TEST_F(TrainerTest, AWholeRoundGoesByTouchAlone)
     touch(u"but_Again");
     touch(u"but_Level", 1);
     EXPECT_EQ(formula(), u"HCl");
+    answerLeaving(u"but_Leave");
     touch(u"but_Stop");
+    EXPECT_TRUE(isSeen(u"pan_Start"));
+}
+
+TEST_F(TrainerTest, EscapeInARoundAsksFirstAndLeadsToTheStartPage)
+{
+    openInstalled();
+    type(u"{enter}18{enter}");
+    outside.visual().onModal(u"frm_LeaveRound", [](phial::Form& asking) {
+        EXPECT_EQ(asking.control<phial::ctl_Label>(u"lab_Question")->Caption(),
+                  u"Runde abbrechen? 10 Punkte gehen verloren.");
+        phial::headless::type(asking, u"{enter}"); // goes on practising
+    });
+    type(u"{esc}");
+    EXPECT_TRUE(isSeen(u"pan_Task"));
+    EXPECT_EQ(focused(), u"txt_Answer");
+    EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
+
+    answerLeaving(u"but_Leave");
+    type(u"{esc}");
+    EXPECT_TRUE(isSeen(u"pan_Start"));
+    EXPECT_EQ(seen(u"lab_Points"), u"");
+    type(u"{esc}");
     EXPECT_FALSE(isOpen());
+}
+
+TEST_F(TrainerTest, EscapeInThatQuestionGoesOnToo)
+{
+    openInstalled();
+    type(u"{enter}");
+    outside.visual().onModal(u"frm_LeaveRound",
+                             [](phial::Form& asking) { phial::headless::type(asking, u"{esc}"); });
+    touch(u"but_Stop");
+    EXPECT_TRUE(isSeen(u"pan_Task"));
+    EXPECT_EQ(focused(), u"txt_Answer");
+}
+
+TEST_F(TrainerTest, TheSameWrongAnswerAgainCostsNothing)
+{
+    openInstalled();
+    type(u"{enter}25{enter}25{enter}25.0{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Das hattest du schon. Versuche es anders.");
+    type(u"26{enter}25,0{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Das hattest du schon. Versuche es anders.");
+    type(u"18{enter}");
+    EXPECT_EQ(seen(u"lab_Points"), u"4 Punkte");
+
+    type(u"{enter}25{enter}"); // of another task
+    EXPECT_EQ(seen(u"lab_Feedback").find(u"Das hattest du schon"), String::npos);
+}
+
+TEST_F(TrainerTest, AHeldReturnPressesOnce)
+{
+    openInstalled();
+    type(u"{enter}18");
+    phial::KeyEvent down{static_cast<std::int32_t>(phial::Key::Return)};
+    for (int repeat = 0; repeat < 5; ++repeat) {
+        phial::KeyEvent again = down;
+        form().inputKeyDown(again);
+    }
+    EXPECT_EQ(buttonText(u"but_Check"), u"Weiter");
+    EXPECT_EQ(formula(), u"H2O");
+
+    form().inputKeyUp(down);
+    type(u"{enter}");
+    EXPECT_EQ(formula(), u"NaCl");
+}
+
+TEST_F(TrainerTest, APressRightBehindAVerdictIsNotHeard)
+{
+    openInstalled();
+    trainer->deafFor(400);
+    type(u"{enter}18");
+    touch(u"but_Check");
+    touch(u"but_Check");
+    EXPECT_EQ(formula(), u"H2O");
+    outside.advance(0.399);
+    touch(u"but_Check");
+    EXPECT_EQ(formula(), u"H2O");
+    outside.advance(0.001);
+    touch(u"but_Check");
+    EXPECT_EQ(formula(), u"NaCl");
+}
+
+TEST_F(TrainerTest, ADecidedTasksFieldLooksLockedAndItsPadIsOff)
+{
+    openInstalled();
+    type(u"{enter}18");
+    const auto field = form().control<phial::TextBox>(u"txt_Answer");
+    EXPECT_EQ(field->BackColor(), phial::Palette::Surface);
+    type(u"{enter}");
+    EXPECT_EQ(field->BackColor(), phial::Palette::Ground);
+    EXPECT_FALSE(form().control<phial::ctl_Button>(u"but_Key", 0)->Enabled());
+
+    type(u"{enter}");
+    EXPECT_EQ(field->BackColor(), phial::Palette::Surface);
+    EXPECT_TRUE(form().control<phial::ctl_Button>(u"but_Key", 0)->Enabled());
+}
+
+TEST_F(TrainerTest, TypingGoesOnInTheAnswerBehindEachButtonOfTheHeader)
+{
+    openInstalled();
+    type(u"{enter}");
+    for (const auto* button : {u"but_Language", u"but_Screen", u"but_Help"}) {
+        if (StringView(button) == u"but_Help") {
+            outside.visual().onModal(u"frm_AppAbout", [](phial::Form& about) { about.Unload(); });
+        }
+        form().control<phial::Control>(button)->SetFocus();
+        touch(button);
+        EXPECT_EQ(focused(), u"txt_Answer");
+    }
 }
 
 TEST_F(TrainerTest, TheSecondLevelIsReachedByTab)
@@ -235,10 +345,10 @@ TEST_F(TrainerTest, WhatIsNoNumberIsTurnedDownWithoutLosingATry)
 {
     openInstalled();
     type(u"{enter}viel{enter}");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Bitte gib eine Zahl ein, zum Beispiel 18,0.");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Bitte gib eine Zahl ein, zum Beispiel 12,5.");
 
     type(u"{del}{enter}");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Bitte gib eine Zahl ein, zum Beispiel 18,0.");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Bitte gib eine Zahl ein, zum Beispiel 12,5.");
 
     type(u"18{enter}");
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");

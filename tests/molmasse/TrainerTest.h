@@ -67,6 +67,7 @@ protected:
                                    path(u"installed\\"));
         phial::ignoringErrors([&] { phial::QVAPP()->INIT(phial::String(commandLine)); });
         trainer = newWindow(std::move(searchMasters));
+        trainer->deafFor(0);
         trainer->Show();
     }
     static std::unique_ptr<learning::frm_LearningApp> newWindow(learning::MasterSearch searchMasters = {})
@@ -91,6 +92,14 @@ protected:
 
     phial::Form& form() { return trainer->form(); }
     bool isOpen() { return form().Visible(); }
+
+    /// What the pupil presses when asked whether a round is to end.
+    void answerLeaving(phial::StringView button)
+    {
+        outside.visual().onModal(u"frm_LeaveRound", [button = phial::String(button)](phial::Form& asking) {
+            phial::headless::click(*asking.control<phial::ctl_Button>(button));
+        });
+    }
 
     // The pupil's hand.
     void type(phial::StringView keys) { phial::headless::type(form(), keys); }

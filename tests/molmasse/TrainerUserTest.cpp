@@ -88,17 +88,29 @@ TEST_F(TrainerUser, IsNotAskedForWhileTheTrainerCannotRun)
     EXPECT_FALSE(isSeen(u"ctl_User"));
 }
 
-TEST_F(TrainerUser, IsChangedByATouchInTheMiddleOfARound)
+TEST_F(TrainerUser, IsChangedByATouch)
 {
     phial::rememberName({u"Uli", u"owl"});
     openInstalled();
-    type(u"{enter}1");
     expectName(u"Maxi");
     phial::headless::click(*avatar());
 
     EXPECT_THAT(drawn(), HasSubstr("\"Maxi\""));
     EXPECT_EQ(phial::QVAPP()->USER()->SCREENNAME(), u"Maxi");
-    EXPECT_EQ(answer(), u"1");
+}
+
+TEST_F(TrainerUser, StaysTheSameThroughoutARound)
+{
+    phial::rememberName({u"Uli", u"owl"});
+    openInstalled();
+    type(u"{enter}1");
+    phial::headless::click(*avatar());
+    EXPECT_EQ(phial::QVAPP()->USER()->SCREENNAME(), u"Uli");
+    EXPECT_FALSE(avatar()->frame().Enabled());
+
+    answerLeaving(u"but_Leave");
+    type(u"{esc}");
+    EXPECT_TRUE(avatar()->frame().Enabled());
 }
 
 TEST_F(TrainerUser, IsChangedByKeysAlone)
