@@ -280,10 +280,9 @@ TEST_F(TrainerResult, EverythingOnThePageIsReachedByTab)
         stops.push_back(focused());
         phial::headless::tab(form());
     }
-    EXPECT_THAT(stops,
-                ::testing::ElementsAre(u"but_Again", u"but_Quit", u"but_Sound", u"ctl_User", u"but_Language",
-                                       u"but_Screen", u"but_Help", u"but_List", u"but_Certificate",
-                                       u"but_Export"));
+    EXPECT_THAT(stops, ::testing::ElementsAre(u"but_Again", u"but_Quit", u"but_Sound", u"ctl_User",
+                                              u"but_Language", u"but_Screen", u"but_Help", u"but_List",
+                                              u"but_Certificate", u"but_Export"));
 }
 
 } // namespace
