@@ -1,9 +1,10 @@
 #include "Recorder.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QTimer>
 
 #include <cstring>
 #include <stdexcept>
@@ -48,7 +49,9 @@ bool Recorder::record(double seconds)
     QElapsedTimer timer;
     timer.start();
     while (frames() < end && timer.elapsed() < RecorderPatience) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+        QEventLoop loop;
+        QTimer::singleShot(10, &loop, &QEventLoop::quit);
+        loop.exec();
     }
     return frames() >= end;
 }

@@ -25,11 +25,13 @@ SoundServer::SoundServer(std::int32_t rate)
     process_.setProcessEnvironment(environment());
     process_.setProcessChannelMode(QProcess::MergedChannels);
     process_.setStandardOutputFile(path("log"));
+    // The server ends with our end of the pipe, even if a test breaks down.
     process_.start(
-        QStringLiteral("pulseaudio"),
-        {"-n", "--daemonize=no", "--exit-idle-time=-1", "--realtime=no", "--high-priority=no",
-         "--use-pid-file=no", "--log-target=stderr", "-L",
-         "module-native-protocol-unix auth-anonymous=1 socket=" + path("socket"), "-L",
+        QStringLiteral("sh"),
+        {"-c", "pulseaudio \"$@\" & read end; kill -9 $!; wait", "server", "-n", "--daemonize=no",
+         "--exit-idle-time=-1", "--realtime=no", "--high-priority=no", "--use-pid-file=no",
+         "--log-target=stderr", "-L", "module-native-protocol-unix auth-anonymous=1 socket=" + path("socket"),
+         "-L",
          QStringLiteral("module-null-sink sink_name=heard norewinds=1 format=s16le channels=2 rate=%1")
              .arg(rate)});
     QElapsedTimer timer;
@@ -73,7 +75,7 @@ void SoundServer::useHere() const
 
 void SoundServer::kill()
 {
-    process_.kill();
+    process_.closeWriteChannel();
     process_.waitForFinished();
 }
 

@@ -33,7 +33,7 @@ int main(int argc, char** argv)
         output.waitForEnd(voice);
     }
     while (output.isPlaying(voice)) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     const double took = clock->seconds() - begin;
     tell("whole length", took >= seconds);
