@@ -82,10 +82,17 @@ TEST_F(SoundCache, FindsASoundOfACategoryByItsRelativeName)
 
 TEST_F(SoundCache, TheCommonSoundsAreListedOnce)
 {
-    EXPECT_EQ(played(u"late"), 0);
+    sound(u"early.wav", 0.5, 6);
+    sound(u"click\\deep.wav", 0.5, 8);
+    EXPECT_EQ(played(u"none"), 0); // makes the list
     sound(u"late.wav", 0.5, 7);
-    EXPECT_EQ(played(u"late"), 7); // it lies below the folder of sounds, no list is needed
-    EXPECT_EQ(played(u"Later"), 0);
+    const String folderOfSounds = QVAPP()->URL()->RESOURCESFX();
+    QVAPP()->URL()->RESOURCESFX(path(u"elsewhere\\"));
+    EXPECT_EQ(played(u"Early"), 6);
+    EXPECT_EQ(played(u"late"), 0);
+    EXPECT_EQ(played(u"deep"), 0);
+    QVAPP()->URL()->RESOURCESFX(folderOfSounds);
+    EXPECT_EQ(played(u"late"), 7);
 }
 
 TEST_F(SoundCache, OwnSoundsAreListedEachTime)
