@@ -132,7 +132,8 @@ TEST_F(DialogSound, TheSameSoundIsNotOpenedAgain)
     EXPECT_EQ(mci().Command(), u"play");
     std::filesystem::remove(nativePath(file));
     EXPECT_NEAR(show(u"a.wav", file, false), 0.5, Exact);
-    EXPECT_EQ(outside.audio().heard().size(), 2U);
+    ASSERT_EQ(outside.audio().heard().size(), 2U);
+    EXPECT_EQ(outside.audio().heard()[0].sound, outside.audio().heard()[1].sound);
 }
 
 TEST_F(DialogSound, AnotherSoundStopsTheOneThatRingsOut)
