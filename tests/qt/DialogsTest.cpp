@@ -101,6 +101,12 @@ TEST_F(RunDialogsTest, TheUsualSignStandsInForAnIconThatIsNotThere)
     EXPECT_EQ(shownIcon(u"Ico\\32\\Missing.ico"), usual);
 }
 
+TEST_F(DialogsTest, ReturnAnswersAQuestionWithNo)
+{
+    whenShown([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(dialogs_.YesNo(u"Löschen?", {}), DialogAnswer::No);
+}
+
 TEST_F(DialogsTest, ClosingAQuestionAnswersNo)
 {
     whenShown([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });

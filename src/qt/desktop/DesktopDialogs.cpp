@@ -136,8 +136,8 @@ DialogAnswer DesktopDialogs::YesNo(StringView pText, StringView pTitle)
     box.setIcon(QMessageBox::Question);
     QPushButton* yes = addButton(box, Yes, QMessageBox::YesRole);
     QPushButton* no = addButton(box, No, QMessageBox::NoRole);
-    markAccent(*yes, true);
-    box.setDefaultButton(yes);
+    markAccent(*no, true);
+    box.setDefaultButton(no); // what is asked may destroy something
     box.setEscapeButton(no);
     runBox(box);
     return box.clickedButton() == yes ? DialogAnswer::Yes : DialogAnswer::No;

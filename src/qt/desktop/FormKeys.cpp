@@ -71,6 +71,9 @@ bool keyPressed(Control& control, const QKeyEvent& event)
 
 bool keyReleased(Control& control, const QKeyEvent& event)
 {
+    if (event.isAutoRepeat()) {
+        return true; // a held key is let go once, at the end
+    }
     const auto self = control.shared_from_this();
     KeyEvent key = keyEvent(event);
     if (const std::shared_ptr<Form> form = control.frame().form()) {

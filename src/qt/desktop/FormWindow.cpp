@@ -253,7 +253,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event)
 
 void FormWindow::keyReleaseEvent(QKeyEvent* event)
 {
-    if (!open_ || form_->ActiveControl()) {
+    if (!open_ || form_->ActiveControl() || event->isAutoRepeat()) {
         return;
     }
     dispatch([&] {
