@@ -101,6 +101,15 @@ TEST_F(RunDialogsTest, TheUsualSignStandsInForAnIconThatIsNotThere)
     EXPECT_EQ(shownIcon(u"Ico\\32\\Missing.ico"), usual);
 }
 
+// They are a package of their own; without it file dialogs are half English.
+TEST_F(DialogsTest, TheToolkitsOwnTextsAreThereInGerman)
+{
+    SessionState::current().locale().language = German;
+    whenShown([](QDialog& box) { box.reject(); });
+    dialogs_.SaveFile({}, {}, u"Text|*.txt");
+    EXPECT_EQ(QCoreApplication::translate("QFileDialog", "Look in:"), QStringLiteral("Suchen in:"));
+}
+
 TEST_F(DialogsTest, ReturnAnswersAQuestionWithNo)
 {
     whenShown([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
