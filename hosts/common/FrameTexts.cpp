@@ -28,6 +28,11 @@ String number(int value)
     return phial::plainText(static_cast<std::int32_t>(value));
 }
 
+char16_t decimalSign()
+{
+    return phial::LNG()->EFFECTIVE() == phial::ID_Language_German ? u',' : u'.';
+}
+
 void caption(const phial::Form& form, StringView label, String text)
 {
     form.control<phial::ctl_Label>(label)->Caption(std::move(text));

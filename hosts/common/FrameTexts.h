@@ -20,6 +20,9 @@ phial::String translate(phial::StringView both, const phial::Variant::Array& val
 /// A whole number as it is read.
 phial::String number(int value);
 
+/// The decimal sign of the language in force, whatever the computer's settings say.
+char16_t decimalSign();
+
 /// Gives a label its text.
 void caption(const phial::Form& form, phial::StringView label, phial::String text);
 

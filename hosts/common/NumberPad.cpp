@@ -3,8 +3,6 @@
 #include "app/cls_App.h"
 #include "app/sys_Global.h"
 #include "common/FrameTexts.h"
-#include "core/Locale.h"
-#include "core/SessionState.h"
 #include "media/cls_AppMedia.h"
 
 namespace learning
@@ -14,11 +12,6 @@ NumberPad::NumberPad(phial::Form& form, std::shared_ptr<phial::TextBox> answer)
     : answer_(std::move(answer)), keys_(form, u"but_Key")
 {
     keys_.adopt();
-    keys_.each([](phial::ctl_Button& key, std::int32_t index) {
-        const phial::StringView face = Faces[index];
-        key.Caption(face == u"," ? phial::String(1, phial::currentLocale().decimalSign)
-                                 : phial::String(face));
-    });
     keys_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
         return button.CLICK.connect([this, index] { press(index); });
     });
@@ -31,6 +24,10 @@ void NumberPad::Enabled(bool value)
 
 void NumberPad::TRANSLATE()
 {
+    keys_.each([](phial::ctl_Button& key, std::int32_t index) {
+        const phial::StringView face = Faces[index];
+        key.Caption(face == u"," ? phial::String(1, decimalSign()) : phial::String(face));
+    });
     keys_(keys_.UBound())
         ->frame()
         .AccessibleName(translate(u"Letztes Zeichen löschen", u"Delete last character"));

@@ -1,6 +1,7 @@
 #include "molmasse/Working.h"
 
 #include "chem/FormulaAnalysis.h"
+#include "common/FrameTexts.h"
 #include "core/Format.h"
 #include "core/NumberText.h"
 
@@ -28,7 +29,9 @@ String massOf(const phial::cls_DataElements& elements, phial::StringView symbol)
 
 String massText(double mass)
 {
-    return phial::formatPattern(mass, u"0.0");
+    String text = phial::formatPattern(mass, u"0.0");
+    text[text.size() - 2] = learning::decimalSign();
+    return text;
 }
 
 String atomsCounted(const phial::cls_DataElements& elements, const String& formula, AtomMasses masses)

@@ -5,7 +5,7 @@
 namespace molmasse
 {
 
-/// A mass as the trainer shows it: one decimal, with the user's decimal sign.
+/// A mass as the trainer shows it: one decimal, with the sign of the language in force.
 phial::String massText(double mass);
 
 /// Whether a list of atoms tells their masses too.

@@ -455,7 +455,7 @@ TEST_F(TrainerTest, SpeaksEnglishWithTheDecimalSignOfTheUser)
     EXPECT_EQ(form().Caption(), u"Molar mass trainer");
     type(u"{enter}18.0{enter}");
     EXPECT_EQ(seen(u"lab_Name"), u"water");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18,0 g/mol, 10 points for you.");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0 g/mol, 10 points for you.");
     EXPECT_EQ(buttonText(u"but_Check"), u"Next");
 }
 
@@ -484,6 +484,23 @@ TEST_F(TrainerTest, TheLanguageButtonTranslatesEverythingThatIsSeen)
     EXPECT_EQ(seen(u"lab_Feedback"),
               u"Das ist erst die Masse von H. Es fehlen noch Atome.<br>Du hast noch 2 Versuche.");
     EXPECT_EQ(buttonText(u"but_Language"), u"EN");
+}
+
+TEST_F(TrainerTest, TheDecimalSignIsThatOfTheLanguageAndBothAreRead)
+{
+    constexpr std::int32_t CommaKey = 9;
+    openInstalled();
+    touch(u"but_Language");
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Key", CommaKey)->Caption(), u".");
+    touch(u"but_Level", 0);
+    touch(u"but_Hint");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1.0 g/mol)<br>1 \u00D7 O (16.0 g/mol)");
+    type(u"18,0{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0 g/mol, 7 points for you.");
+
+    touch(u"but_Language");
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Key", CommaKey)->Caption(), u",");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0 g/mol, 7 Punkte für dich.");
 }
 
 TEST_F(TrainerTest, TellsThatTheInstallationIsMissing)
