@@ -34,11 +34,12 @@ std::optional<double> typedMass(phial::StringView answer)
     return phial::CoreNumbers::ToDouble(phial::trimmed(answer), value) ? std::optional(value) : std::nullopt;
 }
 
-Judgement judgeMass(std::optional<double> answer, double molarMass)
+Judgement judgeMass(std::optional<double> answer, double schoolMass, double exactMass)
 {
-    return !answer                       ? Judgement::Unreadable
-           : isRight(*answer, molarMass) ? Judgement::Right
-                                         : Judgement::Wrong;
+    if (!answer) {
+        return Judgement::Unreadable;
+    }
+    return isRight(*answer, schoolMass) || isRight(*answer, exactMass) ? Judgement::Right : Judgement::Wrong;
 }
 
 } // namespace molmasse

@@ -31,8 +31,11 @@ constexpr learning::AppTexts Texts{
         u"mit Komma oder Punkt. Wähle, wie schwer es werden soll:|"
         u"Ten formulas are waiting for you. Work out the molar mass of each in g/mol and type it, "
         u"with a comma or a point. Choose how hard it shall be:",
-    .note = u"Gerundete Werte zählen: ±0,1 g/mol, bei großen Massen ±0,2 % und höchstens ±0,5 g/mol.|"
-            u"Rounded values count: ±0.1 g/mol, for large masses ±0.2 % and at most ±0.5 g/mol.",
+    .note =
+        u"Gerundete Atommassen zählen so gut wie genaue: ±0,1 g/mol, bei großen Massen ±0,2 % und höchstens "
+        u"±0,5 g/mol.|"
+        u"Rounded atomic masses count as well as exact ones: ±0.1 g/mol, for large masses ±0.2 % and at "
+        u"most ±0.5 g/mol.",
     .waiting = u"Sobald deine Lehrkraft den Molmassen-Trainer freigibt, geht es hier von selbst weiter.|"
                u"As soon as your teacher opens the molar mass trainer for you, it goes on here by itself.",
     .solved = u"{1} von {2} Formeln gelöst|{1} of {2} formulas solved",
@@ -114,6 +117,7 @@ void Trainer::show(int position)
 {
     task_ = tasks_.at(static_cast<std::size_t>(position - 1));
     mass_ = data_.elements->MOL(task_.formula);
+    exactMass_ = exactMass(data_.exactMasses, task_.formula).value_or(mass_);
     formula_->Term(task_.formula);
     showName();
     answer_->Text({});
@@ -131,7 +135,7 @@ String Trainer::answer() const
 Judgement Trainer::judge()
 {
     judged_ = typedMass(answer_->Text());
-    return judgeMass(judged_, mass_);
+    return judgeMass(judged_, mass_, exactMass_);
 }
 
 void Trainer::retry()

@@ -48,7 +48,8 @@ private:
     TrainerData data_;
     std::vector<Task> tasks_; ///< of the round
     Task task_;
-    double mass_ = 0;              ///< its molar mass, in g/mol
+    double mass_ = 0;              ///< its molar mass by the table, one decimal an element, in g/mol
+    double exactMass_ = 0;         ///< the same with all digits
     std::optional<double> judged_; ///< the last answer, in g/mol
     phial::Form* form_ = nullptr;
     std::shared_ptr<phial::ctl_TermLabel> formula_;

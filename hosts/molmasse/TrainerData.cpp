@@ -3,6 +3,8 @@
 #include "app/cls_App.h"
 #include "app/cls_AppURL.h"
 #include "app/sys_Global.h"
+#include "chem/ElementFileReader.h"
+#include "chem/FormulaAnalysis.h"
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
 
@@ -30,6 +32,34 @@ TaskList readTasks(const String& file)
 
 } // namespace
 
+std::map<String, double> readExactMasses(phial::StringView text)
+{
+    std::map<String, double> masses;
+    phial::ElementFileReader reader(phial::ElementFileReader::Format::FiveLines);
+    for (phial::StringView line : phial::split(text, u"\n")) {
+        if (line.ends_with(u'\r')) {
+            line.remove_suffix(1);
+        }
+        if (const auto record = reader.take(line)) {
+            masses[record->symbol] = record->exactMass;
+        }
+    }
+    return masses;
+}
+
+std::optional<double> exactMass(const std::map<String, double>& masses, phial::StringView formula)
+{
+    double sum = 0;
+    for (const phial::AtomCount& atoms : phial::AtomCounts(formula)) {
+        const auto mass = masses.find(String(atoms.symbol));
+        if (mass == masses.end()) {
+            return std::nullopt;
+        }
+        sum += mass->second * atoms.count;
+    }
+    return sum;
+}
+
 TrainerData loadTrainerData()
 {
     TrainerData data;
@@ -40,6 +70,8 @@ TrainerData loadTrainerData()
         data.missingFile = elementFile;
         return data;
     }
+    phial::ignoringErrors(
+        [&] { data.exactMasses = readExactMasses(phial::coreRoot().CoreFiles().ReadText(elementFile)); });
     const String taskFile = folders->DATAAPP() + u"formeln.txt";
     data.tasks = readTasks(taskFile);
     if (data.tasks.levels.empty()) {

@@ -3,7 +3,9 @@
 #include "chem/cls_DataElements.h"
 #include "molmasse/TaskList.h"
 
+#include <map>
 #include <memory>
+#include <optional>
 
 namespace molmasse
 {
@@ -14,8 +16,16 @@ struct TrainerData {
     phial::String missingFile;
     /// The table of the elements; null when that file is missing.
     std::shared_ptr<phial::cls_DataElements> elements;
+    /// The elements' molar masses with all digits of their file, by symbol; the table has one decimal.
+    std::map<phial::String, double> exactMasses;
     TaskList tasks;
 };
+
+/// The molar masses of the five-line element file in that text, in g/mol by symbol.
+std::map<phial::String, double> readExactMasses(phial::StringView text);
+
+/// The molar mass of a formula by these masses, in g/mol; empty when one is missing.
+std::optional<double> exactMass(const std::map<phial::String, double>& masses, phial::StringView formula);
 
 /// Reads the element table and the tasks. The root must have been started; nothing is raised.
 TrainerData loadTrainerData();

@@ -45,7 +45,7 @@ ElementRecord ElementFileReader::record() const
 {
     const auto& [symbol, names, mass, period, group] = fields_;
     ElementRecord result{CoreTextFilter::Clean(symbol), CoreTextFilter::Clean(names),
-                         schoolMass(number(mass))};
+                         schoolMass(number(mass)), number(mass)};
     if (fieldCount_ == static_cast<std::size_t>(Format::FiveLines)) {
         result.period = toWhole(number(period));
         result.group = toWhole(number(group));

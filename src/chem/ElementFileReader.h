@@ -15,6 +15,7 @@ struct ElementRecord {
     String symbol;
     String names;            ///< `Name*Alternative*...`
     double mass = 0;         ///< g/mol, rounded to one decimal
+    double exactMass = 0;    ///< the same with the digits of the file
     std::int32_t period = 0; ///< 0 in the three-line format
     std::int32_t group = 0;  ///< 0 in the three-line format
 };

@@ -4,9 +4,11 @@
 #include "core/NativePath.h"
 #include "molmasse/MassJudge.h"
 #include "molmasse/TaskList.h"
+#include "molmasse/TrainerData.h"
 #include "support/HeadlessSession.h"
 #include "support/Places.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -25,10 +27,15 @@ protected:
     {
         const String tree = systemPath(test::treeFolder());
         elements.IMPORT2(tree + u"\\Resources\\data\\elements2.dat");
+        exactMasses =
+            readExactMasses(coreRoot().CoreFiles().ReadText(tree + u"\\Resources\\data\\elements2.dat"));
         tasks = readTaskList(coreRoot().CoreFiles().ReadText(tree + u"\\apps\\Molmasse\\data\\formeln.txt"));
     }
 
+    bool holdsHydrogen(const String& formula) const { return elements.ELEMENTSCOUNT(formula).Exists(u"H"); }
+
     cls_DataElements elements;
+    std::map<String, double> exactMasses;
     TaskList tasks;
 };
 
@@ -55,6 +62,28 @@ TEST_F(InstalledTasks, CountEachAtomOfKnownElements)
             for (std::int32_t index = 1; index <= atoms.Count(); ++index) {
                 EXPECT_TRUE(elements.EXISTS(atoms.Item(index).Name())) << toUtf8(task.formula);
                 EXPECT_GE(atoms.Item(index).Values().Item(1).toReal(), 1) << toUtf8(task.formula);
+            }
+        }
+    }
+}
+
+// Whoever works with the digits of another table is right, and whoever forgets a hydrogen atom is not.
+TEST_F(InstalledTasks, AreSolvedByBothMassesAndByNeitherWithoutAHydrogenAtom)
+{
+    using learning::Judgement;
+    for (const Level& level : tasks.levels) {
+        for (const Task& task : level.tasks) {
+            SCOPED_TRACE(toUtf8(task.formula));
+            const double school = elements.MOL(task.formula);
+            const auto exact = exactMass(exactMasses, task.formula);
+            ASSERT_TRUE(exact);
+            const double shown = std::round(*exact * 100) / 100;
+            for (const double answer : {school, *exact, shown}) {
+                EXPECT_EQ(judgeMass(answer, school, *exact), Judgement::Right) << answer;
+            }
+            if (holdsHydrogen(task.formula)) {
+                EXPECT_EQ(judgeMass(school - 1.0, school, *exact), Judgement::Wrong);
+                EXPECT_EQ(judgeMass(*exact - 1.008, school, *exact), Judgement::Wrong);
             }
         }
     }

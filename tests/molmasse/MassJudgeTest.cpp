@@ -11,14 +11,21 @@ using learning::Judgement;
 
 TEST(MassJudgeTest, CommaAndPointAreBothDecimalSigns)
 {
-    EXPECT_EQ(judgeMass(typedMass(u"18,5"), 18.5), Judgement::Right);
-    EXPECT_EQ(judgeMass(typedMass(u" 18.5 "), 18.5), Judgement::Right);
+    EXPECT_EQ(judgeMass(typedMass(u"18,5"), 18.5, 18.5), Judgement::Right);
+    EXPECT_EQ(judgeMass(typedMass(u" 18.5 "), 18.5, 18.5), Judgement::Right);
 }
 
 TEST(MassJudgeTest, WhatIsNoNumberIsNoAnswer)
 {
-    EXPECT_EQ(judgeMass(typedMass(u""), 18), Judgement::Unreadable);
-    EXPECT_EQ(judgeMass(typedMass(u"viel"), 18), Judgement::Unreadable);
+    EXPECT_EQ(judgeMass(typedMass(u""), 18, 18), Judgement::Unreadable);
+    EXPECT_EQ(judgeMass(typedMass(u"viel"), 18, 18), Judgement::Unreadable);
+}
+
+TEST(MassJudgeTest, TheExactMassIsAsRightAsTheSchools)
+{
+    EXPECT_EQ(judgeMass(114.0, 114.0, 114.232), Judgement::Right);
+    EXPECT_EQ(judgeMass(114.23, 114.0, 114.232), Judgement::Right);
+    EXPECT_EQ(judgeMass(113.2, 114.0, 114.232), Judgement::Wrong);
 }
 
 TEST(MassJudgeTest, AnAnswerMayDifferByTheTolerance)
