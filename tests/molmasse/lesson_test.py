@@ -45,6 +45,9 @@ def free_port():
         return probe.getsockname()[1]
 
 
+READING_TIME = 1  # seconds; the trainer hears no press right behind a verdict
+
+
 class Master:
     """The master's program and the teacher who types into it."""
 
@@ -107,6 +110,7 @@ class Trainer:
         """The one task of the round, and on to its result."""
         self.screen.type("18,0")
         self.screen.press(RETURN)
+        time.sleep(READING_TIME)
         self.screen.press(RETURN)
 
     def complaints(self):
