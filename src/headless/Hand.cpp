@@ -33,15 +33,6 @@ ControlPtr controlAt(const Container& container, PixelPoint place)
     return nullptr;
 }
 
-/// A press takes the focus along.
-void focusByPress(Control& control)
-{
-    const auto form = control.frame().form();
-    if (form && control.frame().canFocus() && control.frame().isReachable()) {
-        form->focus(control.shared_from_this());
-    }
-}
-
 void press(Control& control, double x, double y)
 {
     const auto self = control.shared_from_this();
@@ -77,17 +68,34 @@ void click(Control& control)
 
 void click(Control& control, double x, double y)
 {
+    PixelPoint at{x, y};
+    if (const ControlPtr hit = controlHit(control, at)) {
+        press(*hit, at.x, at.y);
+    }
+}
+
+std::shared_ptr<Control> controlHit(Control& control, PixelPoint& rAt)
+{
     const Container* container = control.frame().container();
     UserControl* painted = control.painted();
-    if (!container || !painted || painted->surface().hits({x, y})) {
-        press(control, x, y);
-        return;
+    if (!container || !painted || painted->surface().hits(rAt)) {
+        return control.shared_from_this();
     }
     const PixelRectangle area = control.frame().pixelRectangle();
-    const PixelPoint place{area.left + x, area.top + y};
-    if (const ControlPtr below = controlAt(*container, place)) {
+    const PixelPoint place{area.left + rAt.x, area.top + rAt.y};
+    ControlPtr below = controlAt(*container, place);
+    if (below) {
         const PixelRectangle hit = below->frame().pixelRectangle();
-        press(*below, place.x - hit.left, place.y - hit.top);
+        rAt = {place.x - hit.left, place.y - hit.top};
+    }
+    return below;
+}
+
+void focusByPress(Control& control)
+{
+    const auto form = control.frame().form();
+    if (form && control.frame().canFocus() && control.frame().isReachable()) {
+        form->focus(control.shared_from_this());
     }
 }
 

@@ -4,6 +4,8 @@
 #include "visual/Geometry.h"
 #include "visual/KeyNotation.h"
 
+#include <memory>
+
 namespace phial
 {
 class Control;
@@ -29,6 +31,12 @@ void drag(Control& control, PixelPoint from, PixelPoint to);
 void turnWheel(Control& control, double notches);
 /// Presses a command bar's button by its key.
 void clickButton(Control& bar, StringView key);
+
+/// What a press at that place of the control meets: the control, or what lies below its holes; null for
+/// nothing. `rAt` is then a place of that.
+std::shared_ptr<Control> controlHit(Control& control, PixelPoint& rAt);
+/// Gives the focus to a control that is pressed, where it can have it.
+void focusByPress(Control& control);
 
 /// One key for the form's control that has the focus.
 void strike(Form& form, const KeyStroke& stroke);

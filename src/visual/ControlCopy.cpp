@@ -28,6 +28,9 @@ void copyControl(const Control& from, Control& to)
 {
     auto& source = const_cast<Control&>(from); // reading through the table does not change it
     to.frame().pixelRectangle(from.frame().pixelRectangle());
+    to.frame().takesTouch(from.frame().takesTouch());
+    to.frame().ownKeyboard(from.frame().ownKeyboard());
+    to.frame().AccessibleRole(from.frame().AccessibleRole());
     for (const Member& member : from.members()) {
         if (member.read && member.write && !isOwn(member.name)) {
             member.write(to, ownCopy(member.read(source)));

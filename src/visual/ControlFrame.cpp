@@ -247,6 +247,22 @@ void ControlFrame::inputComposition(Composition value)
     }
 }
 
+void ControlFrame::ownKeyboard(bool value)
+{
+    if (ownKeyboard_ != value) {
+        ownKeyboard_ = value;
+        report(ControlAspect::TextEntry);
+    }
+}
+
+void ControlFrame::takesTouch(bool value)
+{
+    if (takesTouch_ != value) {
+        takesTouch_ = value;
+        report(ControlAspect::Touch);
+    }
+}
+
 void ControlFrame::ToolTipText(String value)
 {
     if (toolTip_ != value) {
@@ -285,6 +301,28 @@ void ControlFrame::HelpText(String value)
         helpText_ = std::move(value);
         report(ControlAspect::Accessibility);
     }
+}
+
+void ControlFrame::AccessibleRole(std::optional<PartRole> value)
+{
+    if (accessibleRole_ != value) {
+        accessibleRole_ = value;
+        report(ControlAspect::Accessibility);
+    }
+}
+
+void ControlFrame::AccessibleState(PartState value)
+{
+    if (accessibleState_ != value) {
+        accessibleState_ = value;
+        report(ControlAspect::Accessibility);
+    }
+}
+
+void ControlFrame::announce(String text)
+{
+    announcement_ = std::move(text);
+    report(ControlAspect::Announcement);
 }
 
 void ControlFrame::ZOrder(std::int32_t position)

@@ -113,6 +113,15 @@ public:
     /// when the control takes no text any more.
     void inputComposition(Composition value);
 
+    /// Its form brings a keyboard for it: the desktop's touch keyboard stays away.
+    bool ownKeyboard() const { return ownKeyboard_; }
+    void ownKeyboard(bool value);
+    /// Each touch point on it is a press of its own, as on a keyboard where the second key goes down before
+    /// the first is let go; no double clicks then. Of painted controls; false at first: one finger is the
+    /// mouse.
+    bool takesTouch() const { return takesTouch_; }
+    void takesTouch(bool value);
+
     String ToolTipText() const { return toolTip_; }
     void ToolTipText(String value);
     phial::MousePointer MousePointer() const { return pointer_; }
@@ -125,6 +134,15 @@ public:
     void AccessibleName(String value);
     String HelpText() const { return helpText_; }
     void HelpText(String value);
+    /// What a painted control is for screen readers, such as a picture that is a key; none: what it says.
+    std::optional<PartRole> AccessibleRole() const { return accessibleRole_; }
+    void AccessibleRole(std::optional<PartRole> value);
+    PartState AccessibleState() const { return accessibleState_; }
+    void AccessibleState(PartState value);
+    /// Screen readers say the text at once, wherever the focus is: what a pupil who sees would notice.
+    void announce(String text);
+    /// The last one.
+    String announcement() const { return announcement_; }
 
     /// To the front (0) or the back (1) of the container's controls.
     void ZOrder(std::int32_t position = 0);
@@ -189,11 +207,16 @@ private:
     bool seen_ = false; ///< as last told
     std::optional<phial::TextEntry> textEntry_;
     Composition composition_;
+    bool ownKeyboard_ = false;
+    bool takesTouch_ = false;
     String toolTip_;
     phial::MousePointer pointer_ = phial::MousePointer::Default;
     PicturePtr pointerIcon_;
     String accessibleName_;
     String helpText_;
+    std::optional<PartRole> accessibleRole_;
+    PartState accessibleState_;
+    String announcement_;
     Container* container_ = nullptr;
     std::weak_ptr<ControlParent> parent_;
     WindowHandle handle_;

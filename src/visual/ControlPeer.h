@@ -14,11 +14,13 @@ enum class ControlAspect : std::int32_t {
     Focus, ///< the control has taken the focus
     Pointer,
     ToolTip,
-    Accessibility, ///< names, roles or rectangles of parts
+    Accessibility, ///< names, roles, states or rectangles, of the control or of its parts
+    Announcement,  ///< screen readers are to say the frame's announcement
+    Touch,         ///< whether it takes touch
     Children,
     Text,
     Selection,
-    TextEntry, ///< the text of a painted control, its caret, or whether it takes typing
+    TextEntry, ///< the text of a painted control, its caret, whether it takes typing, and by which keyboard
     Style,     ///< font, colours, alignment, border, flags
     Items,
     Range,

@@ -90,6 +90,8 @@ void dress(Control& control, const ControlDesign& design)
     if (design.takesFocus) {
         frame.canFocus(*design.takesFocus);
     }
+    frame.takesTouch(design.takesTouch);
+    frame.ownKeyboard(design.ownKeyboard);
     frame.AccessibleName(String(design.spokenName));
     if (!design.bar.empty()) {
         addButtons(control, design.bar);

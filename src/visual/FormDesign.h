@@ -89,6 +89,8 @@ struct ControlDesign {
     std::array<DesignSetting, MostSettings> settings{};
     std::size_t settingCount = 0;
     std::optional<bool> takesFocus{};
+    bool takesTouch = false;
+    bool ownKeyboard = false;
     StringView spokenName{}; ///< "German|English", what a screen reader says
     std::span<const ButtonDesign> bar{};
     Role role = Role::Plain;
@@ -148,6 +150,10 @@ public:
 
     constexpr ControlDesign focusable() const { return with(&ControlDesign::takesFocus, true); }
     constexpr ControlDesign unfocusable() const { return with(&ControlDesign::takesFocus, false); }
+    /// Each touch point on it is a press of its own.
+    constexpr ControlDesign touchable() const { return with(&ControlDesign::takesTouch, true); }
+    /// The form is its keyboard.
+    constexpr ControlDesign keyboarded() const { return with(&ControlDesign::ownKeyboard, true); }
     constexpr ControlDesign spoken(StringView both) const { return with(&ControlDesign::spokenName, both); }
     constexpr ControlDesign buttons(std::span<const ButtonDesign> row) const
     {

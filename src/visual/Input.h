@@ -19,12 +19,15 @@ inline constexpr std::int32_t Alt = 4;
 } // namespace ShiftMask
 
 /// A press, a move or a release of the pointer. X and Y are pixels from the control's or form's corner,
-/// whatever its scale mode. During a move Button holds the buttons that are down.
+/// whatever its scale mode. During a move Button holds the buttons that are down. Where a control takes
+/// touch, each point of it is a press of its own, with the left button and with its number from press to
+/// release; points that are down together have different ones.
 struct PointerEvent {
     PointerButton Button = PointerButton::Left;
     std::int32_t Shift = 0;
     double X = 0;
     double Y = 0;
+    std::int32_t Touch = 0; ///< from 1; 0 for the mouse
 };
 
 /// The wheel was turned over a control. Notches are positive away from the user, that is, towards the start;
@@ -93,6 +96,24 @@ enum class MousePointer : std::int32_t {
 };
 
 /// What an accessible part is, for screen readers.
-enum class PartRole : std::int32_t { StaticText, Graphic, Button, Cell, Grouping, Editable };
+enum class PartRole : std::int32_t {
+    StaticText,
+    Graphic,
+    Button,
+    Cell,
+    Grouping,
+    Editable,
+    Table,      ///< a control whose parts are cells
+    Decoration, ///< only looks; screen readers pass it over
+};
+
+/// How an accessible part stands.
+struct PartState {
+    bool pressed = false;   ///< held down, or on for what comes next, as a shift key
+    bool checkable = false; ///< can be locked in, ticked or chosen
+    bool checked = false;   ///< is so
+
+    friend bool operator==(const PartState&, const PartState&) = default;
+};
 
 } // namespace phial

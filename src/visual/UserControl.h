@@ -18,7 +18,11 @@ struct NamedPart {
     PartRole role = PartRole::StaticText;
     String name;
     String action; ///< what activatePart does, such as "Press"; empty for nothing
-    bool checked = false;
+    PartState state{};
+    std::int32_t row = 0;    ///< of a cell, from 1; 0 outside of rows and columns
+    std::int32_t column = 0; ///< likewise
+
+    friend bool operator==(const NamedPart&, const NamedPart&) = default;
 };
 
 /// A control that paints itself: interface of all `ctl_…` controls and of what is only shown. One widget of
@@ -47,11 +51,13 @@ public:
     /// Whether its size is its own, whatever it is given; a layout leaves it that size.
     virtual bool keepsOwnSize() const { return false; }
 
-    /// The parts that can be named, in reading order. Empty: the control itself is the only part.
+    /// The parts that can be named, in reading order. Empty: the control itself is the only part. They are
+    /// asked for once a change; a change that the control does not report otherwise (picture, size, text) is
+    /// told by ControlAspect::Accessibility.
     virtual std::vector<NamedPart> parts() const { return {}; }
     /// Does the part's action, as a click would.
     virtual void activatePart(std::size_t /*part*/) {}
-    /// The role of the control as a whole.
+    /// The role of the control as a whole, where its frame has no other.
     virtual PartRole role() const { return PartRole::Graphic; }
 
     /// A property was changed by its writer: the property's name.

@@ -1,5 +1,6 @@
 #include "qt/desktop/ControlWidget.h"
 
+#include "core/Locale.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/Composing.h"
 #include "qt/desktop/ContainerWidgets.h"
@@ -23,6 +24,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QScopedValueRollback>
+#include <QTouchEvent>
 #include <QWheelEvent>
 
 namespace phial::qt
@@ -54,11 +56,13 @@ private:
 };
 
 ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* parent, Placement placement)
-    : QWidget(parent), control_(std::move(control)), placement_(placement), inputMethod_(*this, *control_)
+    : QWidget(parent), control_(std::move(control)), placement_(placement), inputMethod_(*this, *control_),
+      touch_(*this, *control_)
 {
     installPartAccessibility();
     setMouseTracking(true);
     setAcceptDrops(true);
+    setAttribute(Qt::WA_AcceptTouchEvents, control_->frame().takesTouch());
     peer_ = std::make_unique<Peer>(*this);
     registerWindow(control_->hWnd(), *this);
     if (Container* inner = control_->container()) {
@@ -114,6 +118,7 @@ void ControlWidget::orderStops()
 
 void ControlWidget::modelChanged(ControlAspect aspect)
 {
+    parts_.reset();
     switch (aspect) {
     case ControlAspect::Picture:
         update();
@@ -132,7 +137,10 @@ void ControlWidget::modelChanged(ControlAspect aspect)
         beginDrag();
         break;
     case ControlAspect::TextEntry:
-        inputMethod_.update();
+        textChanged();
+        break;
+    case ControlAspect::Touch:
+        setAttribute(Qt::WA_AcceptTouchEvents, control_->frame().takesTouch());
         break;
     case ControlAspect::Geometry:
         if (!following_) {
@@ -141,7 +149,7 @@ void ControlWidget::modelChanged(ControlAspect aspect)
         break;
     case ControlAspect::Accessibility:
         applyFrameAspect(*this, *control_, aspect);
-        forgetParts(*this);
+        tellAccessibility(*this);
         break;
     case ControlAspect::Visibility:
     case ControlAspect::Enabled:
@@ -149,6 +157,7 @@ void ControlWidget::modelChanged(ControlAspect aspect)
     case ControlAspect::Pointer:
     case ControlAspect::ToolTip:
     case ControlAspect::Text:
+    case ControlAspect::Announcement:
         applyFrameAspect(*this, *control_, aspect);
         break;
     case ControlAspect::Selection: // of the toolkit's own widgets
@@ -160,16 +169,56 @@ void ControlWidget::modelChanged(ControlAspect aspect)
     }
 }
 
+void ControlWidget::textChanged()
+{
+    inputMethod_.update();
+    const TextEntry before = std::exchange(toldText_, control_->frame().textEntry().value_or(TextEntry()));
+    tellText(*this, before, toldText_);
+}
+
+const std::vector<NamedPart>& ControlWidget::parts() const
+{
+    const std::int32_t language = currentLocale().language;
+    if (!parts_ || partsLanguage_ != language) {
+        parts_ = control_->parts();
+        partsLanguage_ = language;
+    }
+    return *parts_;
+}
+
 bool ControlWidget::event(QEvent* event)
 {
     if (peer_ && !peer_->isLinked()) {
         event->ignore(); // the control has left its window; this widget ends when its events are over
         return false;
     }
-    if (event->type() == QEvent::ParentChange && isForeign()) {
-        findParent();
+    switch (event->type()) {
+    case QEvent::ParentChange:
+        if (isForeign()) {
+            findParent();
+        }
+        return QWidget::event(event);
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        return touched(static_cast<QTouchEvent&>(*event));
+    default:
+        return QWidget::event(event);
     }
-    return QWidget::event(event);
+}
+
+bool ControlWidget::touched(QTouchEvent& event)
+{
+    if (!isEnabled() || !control_->frame().takesTouch()) {
+        event.ignore();
+        return false;
+    }
+    if (event.type() == QEvent::TouchBegin) {
+        InputMethodLink::commit();
+    }
+    event.setAccepted(touch_.take(event));
+    return true;
 }
 
 void ControlWidget::paintEvent(QPaintEvent* /*event*/)
@@ -182,7 +231,7 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/)
         const PixelRectangle part = control_->surface().imagedPart();
         painter.drawImage(QPointF(part.left, part.top), imageForPainting(*picture));
         if (hasFocus()) {
-            paintPartFocus(painter, *control_, currentPart_, palette().color(QPalette::Highlight));
+            paintPartFocus(painter, parts(), currentPart_, palette().color(QPalette::Highlight));
         }
     });
 }
@@ -310,6 +359,12 @@ bool ControlWidget::passOn(QMouseEvent& event)
     return true;
 }
 
+// Some desktops make a mouse of a finger even where the finger has been taken.
+bool ControlWidget::isTouched(const QMouseEvent& event) const
+{
+    return control_->frame().takesTouch() && event.deviceType() == QInputDevice::DeviceType::TouchScreen;
+}
+
 void ControlWidget::press(const QMouseEvent& event, bool second)
 {
     InputMethodLink::commit();
@@ -347,14 +402,14 @@ void ControlWidget::release(const QMouseEvent& event)
 
 void ControlWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (!passOn(*event)) {
+    if (!passOn(*event) && !isTouched(*event)) {
         press(*event, false);
     }
 }
 
 void ControlWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (!passOn(*event)) {
+    if (!passOn(*event) && !isTouched(*event)) {
         press(*event, true);
     }
 }
@@ -368,7 +423,7 @@ void ControlWidget::mouseReleaseEvent(QMouseEvent* event)
 
 void ControlWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!passOn(*event)) {
+    if (!passOn(*event) && !isTouched(*event)) {
         dispatch([&] { control_->pointerMove(pointerEvent(*event, zoomOf(*control_))); });
     }
 }
@@ -445,14 +500,14 @@ void ControlWidget::focusOutEvent(QFocusEvent* event)
 void ControlWidget::showPartFocus()
 {
     if (!currentPart_) {
-        currentPart_ = nextPart(control_->parts(), std::nullopt, Qt::Key_Right);
+        currentPart_ = nextPart(parts(), std::nullopt, Qt::Key_Right);
         update();
     }
 }
 
 bool ControlWidget::moveToPart(int key)
 {
-    const auto next = nextPart(control_->parts(), currentPart_, key);
+    const auto next = nextPart(parts(), currentPart_, key);
     if (!next) {
         return false;
     }
@@ -466,8 +521,7 @@ bool ControlWidget::activateKey(const QKeyEvent& event)
 {
     const bool isPress =
         event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    const std::vector<NamedPart> parts = control_->parts();
-    if (!isPress || !currentPart_ || *currentPart_ >= parts.size()) {
+    if (!isPress || !currentPart_ || *currentPart_ >= parts().size()) {
         return false;
     }
     control_->activatePart(*currentPart_);
@@ -499,7 +553,8 @@ void ControlWidget::dropEvent(QDropEvent* event)
     event->acceptProposedAction();
     dispatch([&] {
         if (auto* source = qobject_cast<ControlWidget*>(event->source())) {
-            control_->dragDrop(source->control(), event->position().x(), event->position().y());
+            const QPointF place = event->position() / zoomOf(*control_);
+            control_->dragDrop(source->control(), place.x(), place.y());
         } else {
             control_->textDropped(fromQt(event->mimeData()->text()));
         }

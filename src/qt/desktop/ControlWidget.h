@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qt/desktop/InputMethodLink.h"
+#include "qt/desktop/TouchPresses.h"
 #include "visual/UserControl.h"
 
 #include <QPointer>
@@ -60,6 +61,9 @@ public:
     /// The focus has come by the keyboard: shows where it is among the parts.
     void showPartFocus();
 
+    /// The control's named parts, asked for once a change.
+    const std::vector<NamedPart>& parts() const;
+
     /// The part that the arrow keys have reached; none until the keyboard is used.
     std::optional<std::size_t> currentPart() const { return currentPart_; }
 
@@ -88,6 +92,8 @@ private:
     class Peer;
 
     void modelChanged(ControlAspect aspect);
+    void textChanged();
+    bool touched(QTouchEvent& event);
     void findParent();
     void orderStops();
     bool isForeign() const { return placement_ != Placement::OnForm; }
@@ -99,6 +105,7 @@ private:
     QWidget* widgetBelow(QPoint place) const;
     bool hits(const QMouseEvent& event) const;
     bool passOn(QMouseEvent& event);
+    bool isTouched(const QMouseEvent& event) const;
     void press(const QMouseEvent& event, bool second);
     void release(const QMouseEvent& event);
     bool moveToPart(int key);
@@ -109,9 +116,13 @@ private:
     Placement placement_;
     std::unique_ptr<Peer> peer_;
     InputMethodLink inputMethod_;
+    TouchPresses touch_;
     std::unique_ptr<ContainerWidgets> children_;
     QPointer<QWidget> passedTo_; ///< has the press that began on a hole of this one
     std::optional<std::size_t> currentPart_;
+    mutable std::optional<std::vector<NamedPart>> parts_; ///< none since they have changed
+    mutable std::int32_t partsLanguage_ = 0;
+    TextEntry toldText_; ///< as screen readers know it
     bool pressed_ = false;
     bool secondPress_ = false;
     bool following_ = false; ///< the control's place is being set to the widget's

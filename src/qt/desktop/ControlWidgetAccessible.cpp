@@ -1,14 +1,10 @@
 #include "qt/desktop/ControlWidgetAccessible.h"
 
 #include "qt/base/QtText.h"
-#include "qt/desktop/ControlWidget.h"
-#include "qt/desktop/Dispatch.h"
-#include "qt/desktop/WidgetAspects.h"
+#include "qt/desktop/AccessibleChanges.h"
+#include "qt/desktop/ControlInterface.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
-
-#include <map>
+#include <QPointer>
 
 namespace phial::qt
 {
@@ -16,171 +12,52 @@ namespace phial::qt
 namespace
 {
 
-QAccessible::Role toolkitRole(PartRole role)
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
 {
-    switch (role) {
-    case PartRole::StaticText:
-        return QAccessible::StaticText;
-    case PartRole::Graphic:
-        return QAccessible::Graphic;
-    case PartRole::Button:
-        return QAccessible::PushButton;
-    case PartRole::Cell:
-        return QAccessible::Cell;
-    case PartRole::Grouping:
-        return QAccessible::Grouping;
-    case PartRole::Editable:
-        return QAccessible::EditableText;
-    }
-    return QAccessible::Graphic;
+    auto* widget = dynamic_cast<ControlWidget*>(object);
+    return widget ? new ControlInterface(*widget) : nullptr;
 }
 
-/// One part of a control; void as soon as the control has fewer parts.
-class PartInterface final : public QAccessibleInterface, public QAccessibleActionInterface
+/// What is announced: an alert in a window, which nobody sees.
+class Announcement final : public QAccessibleInterface
 {
 public:
-    PartInterface(ControlWidget& widget, std::size_t part) : widget_(&widget), part_(part) {}
+    void say(QWidget& widget, const QString& text)
+    {
+        widget_ = widget.window();
+        text_ = text;
+    }
 
-    bool isValid() const override { return widget_ && part_ < widget_->control().parts().size(); }
+    bool isValid() const override { return widget_; }
     QObject* object() const override { return nullptr; }
-    QWindow* window() const override { return widget_ ? widget_->window()->windowHandle() : nullptr; }
+    QWindow* window() const override { return widget_ ? widget_->windowHandle() : nullptr; }
     QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(widget_); }
     QAccessibleInterface* child(int) const override { return nullptr; }
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-
-    QRect rect() const override
-    {
-        if (!isValid()) {
-            return {};
-        }
-        const PixelRectangle area = part().area;
-        const double zoom = zoomOf(widget_->control());
-        const QRectF inWidget(area.left * zoom, area.top * zoom, area.width * zoom, area.height * zoom);
-        return {widget_->mapToGlobal(inWidget.topLeft().toPoint()), inWidget.size().toSize()};
-    }
-
-    QAccessible::Role role() const override
-    {
-        return isValid() ? toolkitRole(part().role) : QAccessible::NoRole;
-    }
-
-    QAccessible::State state() const override
-    {
-        QAccessible::State state;
-        if (!isValid()) {
-            state.invalid = true;
-            return state;
-        }
-        state.disabled = !widget_->isEnabled();
-        state.invisible = !widget_->isVisible();
-        state.checked = part().checked;
-        state.focusable = !part().action.empty();
-        state.focused = widget_->hasFocus() && widget_->currentPart() == part_;
-        return state;
-    }
-
+    QRect rect() const override { return widget_ ? widget_->geometry() : QRect(); }
+    QAccessible::Role role() const override { return QAccessible::AlertMessage; }
+    QAccessible::State state() const override { return {}; }
     QString text(QAccessible::Text text) const override
     {
-        return isValid() && text == QAccessible::Name ? toQt(part().name) : QString();
+        return text == QAccessible::Name || text == QAccessible::Value ? text_ : QString();
     }
     void setText(QAccessible::Text, const QString&) override {}
 
-    void* interface_cast(QAccessible::InterfaceType type) override
-    {
-        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                    : nullptr;
-    }
-    QStringList actionNames() const override
-    {
-        return isValid() && !part().action.empty() ? QStringList{pressAction()} : QStringList();
-    }
-    void doAction(const QString& action) override
-    {
-        if (isValid() && action == pressAction()) {
-            dispatch([&] { widget_->control().activatePart(part_); });
-        }
-    }
-    QStringList keyBindingsForAction(const QString&) const override { return {}; }
-
 private:
-    NamedPart part() const { return widget_->control().parts()[part_]; }
-
-    QPointer<ControlWidget> widget_;
-    std::size_t part_;
+    QPointer<QWidget> widget_;
+    QString text_;
 };
 
-/// The control itself, with its parts before the widgets that stand in it. A control that is one text is read
-/// as a whole, so what stands in it is not told.
-class ControlInterface final : public QAccessibleWidget
+Announcement& announced()
 {
-public:
-    explicit ControlInterface(ControlWidget& widget)
-        : QAccessibleWidget(&widget, toolkitRole(widget.control().role()))
-    {
-    }
-    ~ControlInterface() override { forget(); }
-
-    void forget()
-    {
-        for (const auto& [part, id] : parts_) {
-            QAccessible::deleteAccessibleInterface(id);
-        }
-        parts_.clear();
-    }
-
-    int childCount() const override { return partCount() + innerCount(); }
-
-    QAccessibleInterface* child(int index) const override
-    {
-        if (index < 0 || index >= partCount()) {
-            return isOneText() ? nullptr : QAccessibleWidget::child(index - partCount());
-        }
-        const auto part = static_cast<std::size_t>(index);
-        auto known = parts_.find(part);
-        if (known == parts_.end()) {
-            const QAccessible::Id id =
-                QAccessible::registerAccessibleInterface(new PartInterface(controlWidget(), part));
-            known = parts_.emplace(part, id).first;
-        }
-        return QAccessible::accessibleInterface(known->second);
-    }
-
-    int indexOfChild(const QAccessibleInterface* child) const override
-    {
-        for (const auto& [part, id] : parts_) {
-            if (QAccessible::accessibleInterface(id) == child) {
-                return static_cast<int>(part);
-            }
-        }
-        const int inner = isOneText() ? -1 : QAccessibleWidget::indexOfChild(child);
-        return inner < 0 ? inner : inner + partCount();
-    }
-
-    QAccessibleInterface* childAt(int x, int y) const override
-    {
-        for (int part = 0; part < partCount(); ++part) {
-            if (QAccessibleInterface* found = child(part); found->rect().contains(x, y)) {
-                return found;
-            }
-        }
-        return isOneText() ? nullptr : QAccessibleWidget::childAt(x, y);
-    }
-
-private:
-    ControlWidget& controlWidget() const { return static_cast<ControlWidget&>(*widget()); }
-    bool isOneText() const { return controlWidget().control().role() == PartRole::StaticText; }
-    int innerCount() const { return isOneText() ? 0 : QAccessibleWidget::childCount(); }
-    int partCount() const { return static_cast<int>(controlWidget().control().parts().size()); }
-
-    mutable std::map<std::size_t, QAccessible::Id> parts_;
-};
-
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
-{
-    auto* widget = dynamic_cast<ControlWidget*>(object);
-    return widget ? new ControlInterface(*widget) : nullptr;
+    static auto* const only = [] {
+        auto* made = new Announcement; // the toolkit ends it
+        QAccessible::registerAccessibleInterface(made);
+        return made;
+    }();
+    return *only;
 }
 
 } // namespace
@@ -191,14 +68,28 @@ void installPartAccessibility()
     static_cast<void>(installed);
 }
 
-void forgetParts(ControlWidget& widget)
+void tellAccessibility(ControlWidget& widget)
 {
     if (!QAccessible::isActive()) {
         return;
     }
     if (auto* known = dynamic_cast<ControlInterface*>(QAccessible::queryAccessibleInterface(&widget))) {
-        known->forget();
-        QAccessibleEvent event(&widget, QAccessible::ObjectReorder);
+        known->partsChanged();
+    }
+}
+
+void tellText(ControlWidget& widget, const TextEntry& before, const TextEntry& now)
+{
+    if (!QAccessible::isActive()) {
+        return;
+    }
+    const TextChange change = changeOf(toQt(before.text), toQt(now.text));
+    if (!change.isNone()) {
+        QAccessibleTextUpdateEvent event(&widget, change.place, change.removed, change.inserted);
+        QAccessible::updateAccessibility(&event);
+    }
+    if (before.caret != now.caret) {
+        QAccessibleTextCursorEvent event(&widget, now.caret);
         QAccessible::updateAccessibility(&event);
     }
 }
@@ -211,6 +102,26 @@ void announcePart(ControlWidget& widget, std::size_t part)
     QAccessibleEvent event(&widget, QAccessible::Focus);
     event.setChild(static_cast<int>(part));
     QAccessible::updateAccessibility(&event);
+}
+
+void announceText(QWidget& widget, const QString& text)
+{
+    if (text.isEmpty()) {
+        return;
+    }
+    announced().say(widget, text);
+    for (const QAccessible::Event type :
+         {QAccessible::ObjectShow, QAccessible::NameChanged, QAccessible::Alert}) {
+        QAccessibleEvent event(&announced(), type);
+        QAccessible::updateAccessibility(&event);
+    }
+    QAccessibleValueChangeEvent value(&announced(), text);
+    QAccessible::updateAccessibility(&value);
+}
+
+QAccessibleInterface& announcement()
+{
+    return announced();
 }
 
 } // namespace phial::qt

@@ -6,12 +6,12 @@
 #include "qt/base/Processes.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/PictureImage.h"
+#include "qt/desktop/TouchPresses.h"
 #include "qt/desktop/WindowHandles.h"
 #include "visual/Form.h"
 #include "visual/TextBox.h"
 #include "visual/VisualHost.h"
 
-#include <QCursor>
 #include <QDesktopServices>
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -67,11 +67,11 @@ std::shared_ptr<Form> formOf(WindowHandle handle)
 
 std::int32_t DesktopDisplay::CursorX() const
 {
-    return QCursor::pos().x();
+    return pointerPlace().x();
 }
 std::int32_t DesktopDisplay::CursorY() const
 {
-    return QCursor::pos().y();
+    return pointerPlace().y();
 }
 
 std::int32_t DesktopDisplay::Width() const

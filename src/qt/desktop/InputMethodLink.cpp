@@ -68,15 +68,13 @@ QVariant InputMethodLink::answer(Qt::InputMethodQuery query) const
     if (!entry) {
         return {};
     }
-    const PixelRectangle& caret = entry->caretArea;
-    const double zoom = zoomOf(control_);
     const QString text = toQt(entry->text);
     switch (query) {
     case Qt::ImEnabled:
         return control_.frame().takesText();
     case Qt::ImCursorRectangle:
     case Qt::ImAnchorRectangle:
-        return QRectF(caret.left * zoom, caret.top * zoom, caret.width * zoom, caret.height * zoom);
+        return zoomed(entry->caretArea, control_);
     case Qt::ImSurroundingText:
         return text;
     case Qt::ImCursorPosition:

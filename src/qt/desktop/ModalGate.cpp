@@ -33,6 +33,7 @@ bool isBlockedInput(QEvent::Type type)
     case QEvent::Shortcut:
     case QEvent::ShortcutOverride:
     case QEvent::TouchBegin:
+    case QEvent::TouchUpdate: // brings further fingers
     case QEvent::Drop:
     case QEvent::Close:
         return true;

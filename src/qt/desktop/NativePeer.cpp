@@ -75,6 +75,7 @@ void NativePeer::show(ControlAspect aspect)
 {
     switch (aspect) {
     case ControlAspect::Style:
+    case ControlAspect::TextEntry:
         showStyle();
         break;
     case ControlAspect::Text:
@@ -108,7 +109,8 @@ void NativePeer::show(ControlAspect aspect)
     case ControlAspect::Pointer:
     case ControlAspect::ToolTip:
     case ControlAspect::Children: // of painted controls
-    case ControlAspect::TextEntry:
+    case ControlAspect::Touch:
+    case ControlAspect::Announcement:
     case ControlAspect::Drag:
         break;
     }

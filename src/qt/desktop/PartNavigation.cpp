@@ -84,10 +84,9 @@ std::optional<std::size_t> nextPart(const std::vector<NamedPart>& parts, std::op
     return nearest;
 }
 
-void paintPartFocus(QPainter& painter, const UserControl& control, std::optional<std::size_t> part,
+void paintPartFocus(QPainter& painter, const std::vector<NamedPart>& parts, std::optional<std::size_t> part,
                     QColor colour)
 {
-    const std::vector<NamedPart> parts = control.parts();
     if (!part || *part >= parts.size()) {
         return;
     }

@@ -18,7 +18,7 @@ std::optional<std::size_t> nextPart(const std::vector<NamedPart>& parts, std::op
                                     int key);
 
 /// The ring around the part that the arrow keys have reached.
-void paintPartFocus(QPainter& painter, const UserControl& control, std::optional<std::size_t> part,
+void paintPartFocus(QPainter& painter, const std::vector<NamedPart>& parts, std::optional<std::size_t> part,
                     QColor colour);
 
 } // namespace phial::qt

@@ -1,6 +1,7 @@
 #include "qt/desktop/WidgetAspects.h"
 
 #include "qt/base/QtText.h"
+#include "qt/desktop/ControlWidgetAccessible.h"
 #include "qt/desktop/Cursors.h"
 #include "qt/desktop/FormWindow.h"
 
@@ -52,6 +53,12 @@ FontSpec zoomed(FontSpec font, const Control& control)
     return font;
 }
 
+QRectF zoomed(const PixelRectangle& area, const Control& control)
+{
+    const double zoom = zoomOf(control);
+    return {area.left * zoom, area.top * zoom, area.width * zoom, area.height * zoom};
+}
+
 QRect pixelPlace(const Control& control)
 {
     const double zoom = zoomOf(control);
@@ -96,6 +103,9 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)
     case ControlAspect::Text:
         applyNames(widget, control);
         break;
+    case ControlAspect::Announcement:
+        announceText(widget, toQt(frame.announcement()));
+        break;
     case ControlAspect::ZOrder: // the container puts its widgets in order
     case ControlAspect::Children:
     case ControlAspect::Selection:
@@ -105,6 +115,7 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)
     case ControlAspect::Value:
     case ControlAspect::Picture:
     case ControlAspect::TextEntry:
+    case ControlAspect::Touch:
     case ControlAspect::Drag:
         break;
     }

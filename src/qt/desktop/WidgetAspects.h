@@ -4,6 +4,7 @@
 #include "visual/Control.h"
 #include "visual/FontSpec.h"
 
+#include <QRectF>
 #include <Qt>
 
 class QRect;
@@ -24,6 +25,7 @@ void applyFrame(QWidget& widget, Control& control);
 double zoomOf(const Control& control);
 /// The font as the control's window shows it.
 FontSpec zoomed(FontSpec font, const Control& control);
+QRectF zoomed(const PixelRectangle& area, const Control& control);
 
 /// The control's rectangle in its window, with its edges rounded to pixels.
 QRect pixelPlace(const Control& control);

@@ -1,0 +1,231 @@
+#include "DesktopSession.h"
+#include "visual/PictureBox.h"
+
+#include <QPointingDevice>
+#include <QTest>
+
+#include <string>
+#include <vector>
+
+using namespace phial;
+using namespace phial::qt;
+
+namespace
+{
+
+class TouchTest : public DesktopSession
+{
+protected:
+    TouchTest()
+    {
+        form_->ScaleMode(ScaleUnit::Pixels);
+        form_->innerSize({300, 200});
+        form_->Move(100 * TwipsPerPixel, 50 * TwipsPerPixel);
+    }
+    ~TouchTest() override { form_->discard(); }
+
+    std::shared_ptr<PictureBox> key(const char* name, double left, bool takesTouch = true)
+    {
+        auto box = form_->add<PictureBox>(fromUtf8(name));
+        box->Move(left, 10, 48, 48);
+        box->frame().takesTouch(takesTouch);
+        const auto tell = [this, name](const char* what, const PointerEvent& event) {
+            told_.push_back(name + std::string(what) + std::to_string(event.Touch) + " " +
+                            std::to_string(static_cast<int>(event.X)));
+        };
+        connections_ += box->MouseDown.connect([=](const PointerEvent& event) { tell(" down ", event); });
+        connections_ += box->MouseMove.connect([=](const PointerEvent& event) {
+            if (event.Touch > 0) { // the toolkit moves its mouse before it presses
+                tell(" move ", event);
+            }
+        });
+        connections_ += box->MouseUp.connect([=](const PointerEvent& event) { tell(" up ", event); });
+        connections_ += box->Click.connect([=, this] { told_.push_back(name + std::string(" click")); });
+        connections_ += box->DblClick.connect([=, this] { told_.push_back(name + std::string(" double")); });
+        return box;
+    }
+
+    auto touch() { return QTest::touchEvent(&widgetOf(*form_), device_); }
+    void cancel()
+    {
+        QTouchEvent event(QEvent::TouchCancel, device_);
+        QApplication::sendEvent(&widgetOf(*form_->control<PictureBox>(u"a")), &event);
+    }
+
+    using Told = std::vector<std::string>;
+
+    std::unique_ptr<QPointingDevice> owned_{QTest::createTouchDevice()};
+    QPointingDevice* device_ = owned_.get();
+    std::shared_ptr<Form> form_ = std::make_shared<Form>(u"frm_Test");
+    Connections connections_;
+    Told told_;
+};
+
+TEST_F(TouchTest, ASecondKeyBeforeTheFirstIsLetGoIsNotLost)
+{
+    QWidget& a = widgetOf(*(form_->Show(), key("a", 0)));
+    QWidget& b = widgetOf(*key("b", 60));
+    touch().press(0, {5, 5}, &a);
+    touch().stationary(0).press(1, {6, 5}, &b);
+    touch().release(0, {5, 5}, &a).stationary(1);
+    touch().release(1, {6, 5}, &b);
+    EXPECT_EQ(told_, (Told{"a down 1 5", "b down 1 6", "a up 1 5", "a click", "b up 1 6", "b click"}));
+}
+
+TEST_F(TouchTest, FingersOnOneControlHaveNumbersAndMoveAlone)
+{
+    form_->Show();
+    QWidget& a = widgetOf(*key("a", 0));
+    touch().press(3, {5, 5}, &a).press(4, {20, 5}, &a);
+    touch().move(3, {7, 5}, &a).stationary(4);
+    touch().release(3, {60, 5}, &a).stationary(4);
+    touch().stationary(4).press(5, {9, 9}, &a);
+    touch().release(4, {20, 5}, &a).release(5, {9, 9}, &a);
+    EXPECT_EQ(told_, (Told{"a down 1 5", "a down 2 20", "a move 1 7", "a up 1 60", "a down 1 9", "a up 2 20",
+                           "a click", "a up 1 9", "a click"}));
+}
+
+TEST_F(TouchTest, NoMouseIsMadeBesideIt)
+{
+    form_->Show();
+    QWidget& a = widgetOf(*key("a", 0));
+    for (int tap = 0; tap < 2; ++tap) {
+        touch().press(0, {5, 5}, &a);
+        touch().release(0, {5, 5}, &a);
+    }
+    EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5", "a click", "a down 1 5", "a up 1 5", "a click"}));
+    told_.clear();
+    QMouseEvent made(QEvent::MouseButtonPress, {5, 5}, a.mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
+                     Qt::LeftButton, Qt::NoModifier, device_); // as some desktops do all the same
+    QApplication::sendEvent(&a, &made);
+    EXPECT_TRUE(told_.empty());
+    QTest::mousePress(&a, Qt::LeftButton, Qt::NoModifier, {5, 5});
+    EXPECT_EQ(told_, (Told{"a down 0 5"}));
+}
+
+TEST_F(TouchTest, ElsewhereOneFingerIsTheMouse)
+{
+    form_->Show();
+    QWidget& a = widgetOf(*key("a", 0, false));
+    QWidget& b = widgetOf(*key("b", 60));
+    touch().press(0, {5, 5}, &a);
+    touch().stationary(0).press(1, {6, 5}, &b);
+    touch().stationary(0).release(1, {6, 5}, &b);
+    touch().release(0, {5, 5}, &a);
+    EXPECT_EQ(told_, (Told{"a down 0 5", "b down 1 6", "b up 1 6", "b click", "a up 0 5", "a click"}));
+}
+
+TEST_F(TouchTest, TakingTouchCanChangeWhileItIsShown)
+{
+    form_->Show();
+    const auto box = key("a", 0, false);
+    QWidget& a = widgetOf(*box);
+    box->frame().takesTouch(true);
+    touch().press(0, {5, 5}, &a);
+    touch().release(0, {5, 5}, &a);
+    box->frame().takesTouch(false);
+    touch().press(0, {40, 5}, &a);
+    touch().release(0, {40, 5}, &a);
+    EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5", "a click", "a down 0 40", "a up 0 40", "a click"}));
+}
+
+TEST_F(TouchTest, AFingerOnAHoleMeetsWhatLiesBelow)
+{
+    form_->Show();
+    key("below", 0);
+    const auto above = key("above", 10);
+    above->transparent(true);
+    above->Cls();
+    above->MaskPicture(above->Image());
+    touch().press(0, {5, 5}, &widgetOf(*above));
+    touch().release(0, {5, 5}, &widgetOf(*above));
+    ASSERT_FALSE(told_.empty());
+    EXPECT_EQ(told_.front().substr(0, 10), "below down");
+    EXPECT_EQ(told_.back(), "below click");
+}
+
+TEST_F(TouchTest, WhatTheDesktopTakesBackIsNoClick)
+{
+    form_->Show();
+    QWidget& a = widgetOf(*key("a", 0));
+    touch().press(0, {5, 5}, &a);
+    cancel();
+    EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5"}));
+}
+
+TEST_F(TouchTest, ADisabledControlHearsNothing)
+{
+    form_->Show();
+    const auto box = key("a", 0);
+    box->Enabled(false);
+    touch().press(0, {5, 5}, &widgetOf(*box));
+    touch().release(0, {5, 5}, &widgetOf(*box));
+    EXPECT_TRUE(told_.empty());
+}
+
+TEST_F(TouchTest, AHandlerMayCloseTheForm)
+{
+    form_->Show();
+    QWidget& a = widgetOf(*key("a", 0));
+    connections_ +=
+        form_->control<PictureBox>(u"a")->MouseUp.connect([this](const PointerEvent&) { form_->Unload(); });
+    touch().press(0, {5, 5}, &a).press(1, {9, 5}, &a);
+    touch().release(0, {5, 5}, &a).release(1, {9, 5}, &a);
+    EXPECT_EQ(std::count(told_.begin(), told_.end(), "a click"), 0);
+}
+
+TEST_F(TouchTest, APressGivesTheFocus)
+{
+    form_->Show();
+    const auto box = key("a", 0);
+    const auto other = key("b", 60);
+    for (const auto& each : {box, other}) {
+        each->frame().canFocus(true);
+        widgetOf(*each).setFocusPolicy(Qt::ClickFocus);
+    }
+    other->SetFocus();
+    touch().press(0, {5, 5}, &widgetOf(*box));
+    EXPECT_EQ(form_->ActiveControl(), box);
+}
+
+TEST_F(TouchTest, FingersOnWhatADialogBlocksAreNoPresses)
+{
+    form_->Show();
+    QWidget& a = widgetOf(*key("a", 0));
+    const auto dialog = std::make_shared<Form>(u"frm_Dialog");
+    QMetaObject::invokeMethod(
+        &a,
+        [&] {
+            touch().press(0, {5, 5}, &a);
+            touch().stationary(0).press(1, {9, 5}, &a);
+            touch().release(0, {5, 5}, &a).release(1, {9, 5}, &a);
+            dialog->Unload();
+        },
+        Qt::QueuedConnection);
+    dialog->Show(FormShow::Modal);
+    EXPECT_TRUE(told_.empty());
+}
+
+TEST_F(TouchTest, ThePointerGoesWithTheFingerThatPressedLast)
+{
+    form_->Show();
+    QWidget& a = widgetOf(*key("a", 0));
+    QWidget& b = widgetOf(*key("b", 60));
+    const DesktopDisplay display;
+    const auto pointer = [&] { return QPoint(display.CursorX(), display.CursorY()); };
+    touch().press(0, {5, 5}, &a);
+    EXPECT_EQ(pointer(), a.mapToGlobal(QPoint(5, 5)));
+    touch().move(0, {9, 7}, &a);
+    EXPECT_EQ(pointer(), a.mapToGlobal(QPoint(9, 7)));
+    touch().stationary(0).press(1, {2, 3}, &b);
+    touch().move(0, {1, 1}, &a).stationary(1);
+    EXPECT_EQ(pointer(), b.mapToGlobal(QPoint(2, 3)));
+    touch().stationary(0).release(1, {4, 4}, &b);
+    touch().move(0, {2, 2}, &a);
+    EXPECT_EQ(pointer(), b.mapToGlobal(QPoint(4, 4)));
+    touch().release(0, {2, 2}, &a);
+    QCursor::setPos(b.mapToGlobal(QPoint(30, 30)));
+    EXPECT_EQ(pointer(), QCursor::pos()) << "the mouse has moved again";
+}
+
+} // namespace
