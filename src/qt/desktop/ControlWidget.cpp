@@ -450,6 +450,9 @@ void ControlWidget::keyPressEvent(QKeyEvent* event)
     }
     const QPointer<ControlWidget> self(this);
     dispatch([&] {
+        if (inputMethod_.filter(*event)) {
+            return;
+        }
         const bool consumed = !keyPressed(*control_, *event);
         if (self && !consumed && !moveToPart(event->key()) && !activateKey(*event)) {
             event->ignore();
@@ -463,7 +466,11 @@ void ControlWidget::keyReleaseEvent(QKeyEvent* event)
         event->ignore();
         return;
     }
-    dispatch([&] { keyReleased(*control_, *event); });
+    dispatch([&] {
+        if (!inputMethod_.filter(*event)) {
+            keyReleased(*control_, *event);
+        }
+    });
 }
 
 void ControlWidget::inputMethodEvent(QInputMethodEvent* event)
@@ -493,6 +500,7 @@ void ControlWidget::focusInEvent(QFocusEvent* event)
 void ControlWidget::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
+    inputMethod_.left();
     dispatch([&] { focusLeft(*control_); });
     update();
 }

@@ -3,7 +3,8 @@
 #include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/WidgetAspects.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -24,6 +25,11 @@ bool hasManyLines(const RichTextBox& /*model*/)
     return true;
 }
 
+bool hasOwnKeyboard(const Control& model)
+{
+    return model.frame().ownKeyboard();
+}
+
 EditorStyle styleOf(const TextBox& model)
 {
     EditorStyle style;
@@ -32,6 +38,7 @@ EditorStyle styleOf(const TextBox& model)
     style.background = toQColor(model.BackColor());
     style.alignment = model.Alignment();
     style.locked = model.Locked();
+    style.ownKeyboard = hasOwnKeyboard(model);
     style.password = !model.PasswordChar().empty();
     style.maximumLength = model.MaxLength();
     return style;
@@ -44,6 +51,7 @@ EditorStyle styleOf(const RichTextBox& model)
     style.text = toQColor(SystemColour::WindowText);
     style.background = toQColor(model.BackColor());
     style.locked = model.Locked();
+    style.ownKeyboard = hasOwnKeyboard(model);
     return style;
 }
 
@@ -97,6 +105,7 @@ void EditorPeer<Model>::showStyle()
         makeEditor();
     }
     editor_->style(styleOf(*model_));
+    keepTouchKeyboard();
     if (remade) {
         showText();
     }
@@ -123,9 +132,37 @@ void EditorPeer<Model>::showNames()
     passNames(holder_, editor_->widget());
 }
 
+// The toolkit asks for the desktop's keyboard when a field is tapped, whether or not an input method serves
+// it.
+template <typename Model>
+void EditorPeer<Model>::keepTouchKeyboard()
+{
+    if (editor_->widget().hasFocus()) {
+        qApp->setAutoSipEnabled(!hasOwnKeyboard(*model_));
+    }
+}
+
 template <typename Model>
 bool EditorPeer<Model>::eventFilter(QObject* watched, QEvent* event)
 {
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        keepTouchKeyboard();
+        break;
+    case QEvent::FocusOut:
+        qApp->setAutoSipEnabled(true);
+        deadKeys_.forget();
+        break;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (hasOwnKeyboard(*model_) && !model_->Locked() && watched->isWidgetType() &&
+            deadKeys_.filter(static_cast<QWidget&>(*watched), static_cast<QKeyEvent&>(*event))) {
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
     const bool filtered = NativePeer::eventFilter(watched, event);
     if (event->type() == QEvent::MouseButtonRelease) {
         input([this] { model_->click(); });

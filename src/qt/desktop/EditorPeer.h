@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/desktop/DeadKeys.h"
 #include "qt/desktop/NativePeer.h"
 #include "qt/desktop/TextEditor.h"
 #include "visual/RichTextBox.h"
@@ -21,6 +22,7 @@ private:
     void showText() override;
     void showSelection() override;
     void showNames() override;
+    void keepTouchKeyboard();
     bool eventFilter(QObject* watched, QEvent* event) override;
     void makeEditor();
     void edited();
@@ -28,6 +30,7 @@ private:
     std::shared_ptr<Model> model_;
     QWidget& holder_;
     std::unique_ptr<TextEditor> editor_;
+    DeadKeys deadKeys_;
     bool many_ = false;
 };
 

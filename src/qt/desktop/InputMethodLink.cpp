@@ -52,12 +52,16 @@ InputMethodLink::InputMethodLink(QWidget& widget, Control& control) : widget_(wi
     update();
 }
 
+bool InputMethodLink::isServed() const
+{
+    return control_.frame().takesText() && !control_.frame().ownKeyboard();
+}
+
 void InputMethodLink::update()
 {
-    const ControlFrame& frame = control_.frame();
     widget_.setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
-    widget_.setAttribute(Qt::WA_InputMethodEnabled, frame.takesText());
-    if (widget_.hasFocus() && frame.takesText()) {
+    widget_.setAttribute(Qt::WA_InputMethodEnabled, isServed());
+    if (widget_.hasFocus() && isServed()) {
         QGuiApplication::inputMethod()->update(Qt::ImQueryInput);
     }
 }
@@ -71,7 +75,7 @@ QVariant InputMethodLink::answer(Qt::InputMethodQuery query) const
     const QString text = toQt(entry->text);
     switch (query) {
     case Qt::ImEnabled:
-        return control_.frame().takesText();
+        return isServed();
     case Qt::ImCursorRectangle:
     case Qt::ImAnchorRectangle:
         return zoomed(entry->caretArea, control_);
@@ -110,6 +114,21 @@ void InputMethodLink::take(const QInputMethodEvent& event)
     }
 }
 
+bool InputMethodLink::filter(const QKeyEvent& event)
+{
+    if (!control_.frame().takesText() || !control_.frame().ownKeyboard()) {
+        return false;
+    }
+    const auto control = control_.shared_from_this(); // a handler may close the window
+    const QPointer<QWidget> widget(&widget_);
+    const bool isDone = deadKeys_.filter(widget_, event);
+    if (widget) {
+        const String sign = fromQt(deadKeys_.waiting());
+        control->frame().inputComposition({sign, static_cast<std::int32_t>(sign.size())});
+    }
+    return isDone;
+}
+
 // What the input method replaces goes as by hand, so that the control hears of it as of any other key.
 void InputMethodLink::replace(int start, int length)
 {
@@ -138,7 +157,7 @@ void InputMethodLink::commit()
 
 void InputMethodLink::tapped(const QMouseEvent& event) const
 {
-    if (event.button() == Qt::LeftButton && control_.frame().takesText() && qApp->autoSipEnabled()) {
+    if (event.button() == Qt::LeftButton && isServed() && qApp->autoSipEnabled()) {
         QGuiApplication::inputMethod()->show();
     }
 }

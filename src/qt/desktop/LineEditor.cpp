@@ -83,6 +83,7 @@ public:
         line_->setFont(fontCatalogue().font(style.font));
         line_->setAlignment(lineAlignment(style.alignment));
         line_->setReadOnly(style.locked);
+        line_->setAttribute(Qt::WA_InputMethodEnabled, !style.locked && !style.ownKeyboard);
         line_->setEchoMode(style.password ? QLineEdit::Password : QLineEdit::Normal);
         QPalette palette = line_->palette();
         palette.setColor(QPalette::Text, style.text);

@@ -88,6 +88,7 @@ public:
         allowed_ = limit_ > 0 ? std::max(limit_, static_cast<std::int32_t>(text().size())) : 0;
         page_->setFont(fontCatalogue().font(style.font));
         page_->setReadOnly(style.locked);
+        page_->setAttribute(Qt::WA_InputMethodEnabled, !style.locked && !style.ownKeyboard);
         QPalette palette = page_->palette();
         palette.setColor(QPalette::Text, style.text);
         palette.setColor(QPalette::Base, style.background);

@@ -22,6 +22,7 @@ struct EditorStyle {
     Alignment alignment = Alignment::Left;
     bool locked = false;
     bool password = false;
+    bool ownKeyboard = false;       ///< no input method serves it
     std::int32_t maximumLength = 0; ///< of what is typed; 0 for no limit
 };
 
