@@ -121,6 +121,27 @@ TEST_F(OwnKeyboardTest, ATapOnItDoesNotAskForTheDesktopsKeyboard)
     }
 }
 
+TEST_F(OwnKeyboardTest, TheDesktopsKeyboardIsBackWhenTheFieldGoes)
+{
+    const auto own = field<TextBox>(u"txt_Own", 10, true);
+    own->SetFocus();
+    EXPECT_FALSE(qApp->autoSipEnabled());
+    form_->Unload();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(qApp->autoSipEnabled());
+}
+
+TEST_F(OwnKeyboardTest, AProgramsOwnWishIsLeftAlone)
+{
+    const auto plain = field<TextBox>(u"txt_Plain", 10, false);
+    const auto other = field<TextBox>(u"txt_Other", 60, false);
+    qApp->setAutoSipEnabled(false);
+    plain->SetFocus();
+    other->SetFocus();
+    EXPECT_FALSE(qApp->autoSipEnabled());
+    qApp->setAutoSipEnabled(true);
+}
+
 TEST_F(OwnKeyboardTest, DeadKeysOnTheDeskStillWork)
 {
     const auto own = field<TextBox>(u"txt_Own", 10, true);

@@ -9,6 +9,8 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include <utility>
+
 namespace phial::qt
 {
 
@@ -105,7 +107,7 @@ void EditorPeer<Model>::showStyle()
         makeEditor();
     }
     editor_->style(styleOf(*model_));
-    keepTouchKeyboard();
+    showKeyboard();
     if (remade) {
         showText();
     }
@@ -135,10 +137,16 @@ void EditorPeer<Model>::showNames()
 // The toolkit asks for the desktop's keyboard when a field is tapped, whether or not an input method serves
 // it.
 template <typename Model>
-void EditorPeer<Model>::keepTouchKeyboard()
+void EditorPeer<Model>::showKeyboard()
 {
-    if (editor_->widget().hasFocus()) {
-        qApp->setAutoSipEnabled(!hasOwnKeyboard(*model_));
+    keepDesktopKeyboard(editor_->widget().hasFocus() && hasOwnKeyboard(*model_));
+}
+
+template <typename Model>
+void EditorPeer<Model>::keepDesktopKeyboard(bool away)
+{
+    if (std::exchange(keepsAway_, away) != away) {
+        qApp->setAutoSipEnabled(!away);
     }
 }
 
@@ -147,10 +155,10 @@ bool EditorPeer<Model>::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::FocusIn:
-        keepTouchKeyboard();
+        showKeyboard();
         break;
     case QEvent::FocusOut:
-        qApp->setAutoSipEnabled(true);
+        keepDesktopKeyboard(false);
         deadKeys_.forget();
         break;
     case QEvent::KeyPress:

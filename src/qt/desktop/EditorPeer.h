@@ -15,6 +15,7 @@ class EditorPeer final : public NativePeer
 {
 public:
     static QWidget* make(std::shared_ptr<Model> model, QWidget& holder);
+    ~EditorPeer() override { keepDesktopKeyboard(false); }
 
 private:
     EditorPeer(std::shared_ptr<Model> model, QWidget& holder);
@@ -22,7 +23,8 @@ private:
     void showText() override;
     void showSelection() override;
     void showNames() override;
-    void keepTouchKeyboard();
+    void showKeyboard();
+    void keepDesktopKeyboard(bool away);
     bool eventFilter(QObject* watched, QEvent* event) override;
     void makeEditor();
     void edited();
@@ -32,6 +34,7 @@ private:
     std::unique_ptr<TextEditor> editor_;
     DeadKeys deadKeys_;
     bool many_ = false;
+    bool keepsAway_ = false; ///< the desktop's keyboard
 };
 
 extern template class EditorPeer<TextBox>;
