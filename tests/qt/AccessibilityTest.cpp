@@ -97,6 +97,49 @@ TEST_F(AccessibilityTest, SuchAKeyIsPressedAsByHand)
     EXPECT_EQ(heard.size(), 3U);
 }
 
+TEST_F(AccessibilityTest, AHandlerOfItMayCloseTheForm)
+{
+    const auto key = added<PictureBox>(u"pic_Key");
+    key->frame().AccessibleRole(PartRole::Button);
+    bool clicked = false;
+    Connections connections;
+    connections += key->MouseDown.connect([this](const PointerEvent&) { form_->Unload(); });
+    connections += key->Click.connect([&] { clicked = true; });
+    read(*key).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_FALSE(form_->Visible());
+    EXPECT_FALSE(clicked);
+}
+
+TEST_F(AccessibilityTest, NothingIsPressedThatAPersonCouldNotPress)
+{
+    const auto control = board();
+    const auto key = added<PictureBox>(u"pic_Key");
+    key->frame().AccessibleRole(PartRole::Button);
+    int clicks = 0;
+    const auto connection = key->Click.connect([&] { ++clicks; });
+    const auto press = [&] {
+        read(*control).child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        read(*key).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        return control->activated.size() + static_cast<std::size_t>(clicks);
+    };
+    EXPECT_EQ(press(), 2U);
+    control->Enabled(false);
+    key->Enabled(false);
+    EXPECT_EQ(press(), 2U);
+    control->Enabled(true);
+    key->Enabled(true);
+    const auto dialog = std::make_shared<Form>(u"frm_Dialog");
+    QMetaObject::invokeMethod(
+        &widgetOf(*form_),
+        [&] {
+            EXPECT_EQ(press(), 2U) << "a dialog stands before it";
+            dialog->Unload();
+        },
+        Qt::QueuedConnection);
+    dialog->Show(FormShow::Modal);
+    EXPECT_EQ(press(), 4U);
+}
+
 TEST_F(AccessibilityTest, DecorationIsPassedOver)
 {
     const auto face = added<PictureBox>(u"pic_Face");

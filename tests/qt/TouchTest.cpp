@@ -1,6 +1,8 @@
 #include "DesktopSession.h"
+#include "support/PaintedField.h"
 #include "visual/PictureBox.h"
 
+#include <QInputMethodEvent>
 #include <QPointingDevice>
 #include <QTest>
 
@@ -9,6 +11,7 @@
 
 using namespace phial;
 using namespace phial::qt;
+using phial::test::PaintedField;
 
 namespace
 {
@@ -60,6 +63,17 @@ protected:
     Connections connections_;
     Told told_;
 };
+
+TEST_F(TouchTest, AFingerIsToldInTheFormsOwnPixels)
+{
+    const auto box = key("a", 0);
+    form_->Show();
+    form_->Zoom(2);
+    QWidget& a = widgetOf(*box);
+    touch().press(0, {80, 10}, &a); // outside of what it would be without the zoom
+    touch().release(0, {60, 10}, &a);
+    EXPECT_EQ(told_, (Told{"a down 1 40", "a up 1 30", "a click"}));
+}
 
 TEST_F(TouchTest, ASecondKeyBeforeTheFirstIsLetGoIsNotLost)
 {
@@ -153,6 +167,115 @@ TEST_F(TouchTest, WhatTheDesktopTakesBackIsNoClick)
     EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5"}));
 }
 
+TEST_F(TouchTest, WhatIsDownComesUpWhenItsControlGoes)
+{
+    form_->Show();
+    const auto box = key("a", 0);
+    QWidget& a = widgetOf(*box);
+    touch().press(0, {5, 5}, &a);
+    box->Visible(false);
+    EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5"}));
+    touch().release(0, {5, 5}, &a);
+    box->Visible(true);
+    told_.clear();
+    touch().press(0, {6, 5}, &a);
+    box->frame().takesTouch(false);
+    EXPECT_EQ(told_, (Told{"a down 1 6", "a up 1 6"}));
+    touch().release(0, {6, 5}, &a);
+    EXPECT_EQ(told_.size(), 2U);
+}
+
+TEST_F(TouchTest, WhatIsDisabledWhileItIsDownComesUpAndIsNotClicked)
+{
+    form_->Show();
+    const auto box = key("a", 0);
+    QWidget& a = widgetOf(*box);
+    touch().press(0, {5, 5}, &a);
+    box->Enabled(false);
+    touch().stationary(0).press(1, {20, 5}, &a);
+    touch().release(0, {5, 5}, &a).release(1, {20, 5}, &a);
+    EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5"}));
+    box->Enabled(true);
+    told_.clear();
+    touch().press(0, {5, 5}, &a);
+    EXPECT_EQ(told_, (Told{"a down 1 5"})) << "the number is free again";
+}
+
+TEST_F(TouchTest, AKeyPressedTogetherWithAHoleIsNotLost)
+{
+    form_->Show();
+    const auto box = key("a", 0);
+    box->transparent(true);
+    box->Cls();
+    box->device().ScaleMode(ScaleUnit::Pixels);
+    box->device().Line(24, 0, 47, 47, QBColor(0), LineShape::Filled);
+    box->MaskPicture(box->Image());
+    QWidget& a = widgetOf(*box);
+    touch().press(0, {40, 5}, &a).press(1, {5, 5}, &a);
+    touch().release(0, {40, 5}, &a).release(1, {5, 5}, &a);
+    EXPECT_EQ(told_, (Told{"a down 1 40", "a up 1 40", "a click"}));
+}
+
+TEST_F(TouchTest, AFingerThatIsDownWhenADialogComesIsLetGo)
+{
+    form_->Show();
+    QWidget& a = widgetOf(*key("a", 0));
+    const auto dialog = std::make_shared<Form>(u"frm_Dialog");
+    touch().press(0, {5, 5}, &a).press(1, {9, 5}, &a);
+    told_.clear();
+    QMetaObject::invokeMethod(
+        &a,
+        [&] {
+            touch().release(0, {5, 5}, &a).stationary(1).press(2, {12, 5}, &a);
+            EXPECT_EQ(told_, (Told{"a up 1 5"}));
+            dialog->Unload();
+        },
+        Qt::QueuedConnection);
+    dialog->Show(FormShow::Modal);
+    touch().release(1, {9, 5}, &a).release(2, {12, 5}, &a);
+    EXPECT_EQ(told_, (Told{"a up 1 5", "a up 2 9", "a click"}));
+}
+
+TEST_F(TouchTest, APressEndsWhatIsBeingComposed)
+{
+    form_->Show();
+    widgetOf(*form_).activateWindow();
+    ASSERT_TRUE(eventually([&] { return widgetOf(*form_).isActiveWindow(); }));
+    const auto box = form_->add<PictureBox>(u"pic_Input");
+    box->Move(0, 100, 200, 40);
+    PaintedField field(box);
+    box->SetFocus();
+    const auto compose = [&] {
+        QInputMethodEvent composing(QStringLiteral("^"), {});
+        QApplication::sendEvent(&widgetOf(*box), &composing);
+    };
+    QWidget& a = widgetOf(*key("a", 0));
+    compose();
+    touch().press(0, {5, 5}, &a);
+    EXPECT_EQ(field.shown(), u"^");
+    touch().release(0, {5, 5}, &a);
+    compose();
+    QTest::mouseClick(&a, Qt::LeftButton, Qt::NoModifier, {5, 5});
+    EXPECT_EQ(field.shown(), u"^^");
+}
+
+TEST_F(TouchTest, AHandlerOfTheComposedTextMayCloseTheForm)
+{
+    form_->Show();
+    widgetOf(*form_).activateWindow();
+    ASSERT_TRUE(eventually([&] { return widgetOf(*form_).isActiveWindow(); }));
+    const auto box = form_->add<PictureBox>(u"pic_Input");
+    box->Move(0, 100, 200, 40);
+    const PaintedField field(box);
+    box->SetFocus();
+    QWidget& a = widgetOf(*key("a", 0));
+    QInputMethodEvent composing(QStringLiteral("^"), {});
+    QApplication::sendEvent(&widgetOf(*box), &composing);
+    connections_ += box->KeyPress.connect([this](KeyPressEvent&) { form_->Unload(); });
+    touch().press(0, {5, 5}, &a);
+    EXPECT_TRUE(told_.empty());
+}
+
 TEST_F(TouchTest, ADisabledControlHearsNothing)
 {
     form_->Show();
@@ -226,6 +349,20 @@ TEST_F(TouchTest, ThePointerGoesWithTheFingerThatPressedLast)
     touch().release(0, {2, 2}, &a);
     QCursor::setPos(b.mapToGlobal(QPoint(30, 30)));
     EXPECT_EQ(pointer(), QCursor::pos()) << "the mouse has moved again";
+}
+
+TEST_F(TouchTest, ThePointerIsFreeWhenTheFingersControlGoes)
+{
+    form_->Show();
+    const auto box = key("a", 0);
+    const DesktopDisplay display;
+    touch().press(0, {5, 5}, &widgetOf(*box));
+    const QPoint pressed = widgetOf(*box).mapToGlobal(QPoint(5, 5));
+    form_->remove(*box);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(QPoint(display.CursorX(), display.CursorY()), pressed);
+    QCursor::setPos(pressed + QPoint(30, 30));
+    EXPECT_EQ(QPoint(display.CursorX(), display.CursorY()), QCursor::pos());
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "qt/base/QtText.h"
 #include "qt/desktop/Dispatch.h"
+#include "qt/desktop/ModalGate.h"
 #include "qt/desktop/PartInterface.h"
 #include "qt/desktop/WidgetAspects.h"
 
@@ -26,7 +27,9 @@ void pressWhole(UserControl& control)
     const PointerEvent event{PointerButton::Left, 0, area.width / 2, area.height / 2};
     control.pointerDown(event);
     control.pointerUp(event);
-    control.click();
+    if (control.frame().peer() && control.frame().isReachable()) { // a handler may have closed the window
+        control.click();
+    }
 }
 
 } // namespace
@@ -127,7 +130,7 @@ void ControlInterface::doAction(const QString& action)
 {
     if (action != pressAction()) {
         QAccessibleWidget::doAction(action);
-    } else if (isPressable() && widget()->isEnabled()) {
+    } else if (isPressable() && widget()->isEnabled() && !isBlockedByDialog(*widget())) {
         dispatch([&] { pressWhole(control()); });
     }
 }

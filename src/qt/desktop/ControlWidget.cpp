@@ -141,6 +141,7 @@ void ControlWidget::modelChanged(ControlAspect aspect)
         break;
     case ControlAspect::Touch:
         setAttribute(Qt::WA_AcceptTouchEvents, control_->frame().takesTouch());
+        touch_.cancel();
         break;
     case ControlAspect::Geometry:
         if (!following_) {
@@ -210,12 +211,10 @@ bool ControlWidget::event(QEvent* event)
 
 bool ControlWidget::touched(QTouchEvent& event)
 {
-    if (!isEnabled() || !control_->frame().takesTouch()) {
+    const bool begins = event.type() == QEvent::TouchBegin;
+    if (begins && (!isEnabled() || !control_->frame().takesTouch() || !commitBeforePress())) {
         event.ignore();
         return false;
-    }
-    if (event.type() == QEvent::TouchBegin) {
-        InputMethodLink::commit();
     }
     event.setAccepted(touch_.take(event));
     return true;
@@ -299,6 +298,7 @@ void ControlWidget::showEvent(QShowEvent* event)
 void ControlWidget::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
+    touch_.cancel();
     if (isInForeignWindow()) {
         dispatch([&] {
             control_->frame().Visible(!isHidden()); // not when the window alone has gone
@@ -365,9 +365,19 @@ bool ControlWidget::isTouched(const QMouseEvent& event) const
     return control_->frame().takesTouch() && event.deviceType() == QInputDevice::DeviceType::TouchScreen;
 }
 
+// What is being composed goes in before; gives whether the control is still there.
+bool ControlWidget::commitBeforePress()
+{
+    const QPointer<ControlWidget> self(this);
+    commitComposition();
+    return self && peer_->isLinked();
+}
+
 void ControlWidget::press(const QMouseEvent& event, bool second)
 {
-    InputMethodLink::commit();
+    if (!commitBeforePress()) {
+        return;
+    }
     pressed_ = true;
     secondPress_ = second;
     dispatch([&] { control_->pointerDown(pointerEvent(event, zoomOf(*control_))); });

@@ -106,6 +106,7 @@ private:
     bool hits(const QMouseEvent& event) const;
     bool passOn(QMouseEvent& event);
     bool isTouched(const QMouseEvent& event) const;
+    bool commitBeforePress();
     void press(const QMouseEvent& event, bool second);
     void release(const QMouseEvent& event);
     bool moveToPart(int key);

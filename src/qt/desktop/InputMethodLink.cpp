@@ -150,11 +150,6 @@ void InputMethodLink::strike(Key key, int times)
     }
 }
 
-void InputMethodLink::commit()
-{
-    QGuiApplication::inputMethod()->commit();
-}
-
 void InputMethodLink::tapped(const QMouseEvent& event) const
 {
     if (event.button() == Qt::LeftButton && isServed() && qApp->autoSipEnabled()) {

@@ -33,8 +33,6 @@ public:
     bool filter(const QKeyEvent& event);
     /// The focus has gone.
     void left() { deadKeys_.forget(); }
-    /// A press: what is being composed goes in before.
-    static void commit();
     /// The control has been tapped, which brings the touch keyboard.
     void tapped(const QMouseEvent& event) const;
 

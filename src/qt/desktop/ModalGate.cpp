@@ -5,6 +5,7 @@
 #include "qt/desktop/SystemBox.h"
 #include "qt/desktop/WindowHandles.h"
 #include "visual/Form.h"
+#include "visual/VisualHost.h"
 
 #include <QApplication>
 #include <QScopedValueRollback>
@@ -33,7 +34,6 @@ bool isBlockedInput(QEvent::Type type)
     case QEvent::Shortcut:
     case QEvent::ShortcutOverride:
     case QEvent::TouchBegin:
-    case QEvent::TouchUpdate: // brings further fingers
     case QEvent::Drop:
     case QEvent::Close:
         return true;
@@ -43,14 +43,24 @@ bool isBlockedInput(QEvent::Type type)
 }
 
 // The widget's form, also from a list that drops down or a menu that pops up.
-FormWindow* formWindowOf(QWidget* widget)
+const FormWindow* formWindowOf(const QWidget* widget)
 {
-    for (QWidget* at = widget; at; at = at->parentWidget()) {
-        if (auto* window = qobject_cast<FormWindow*>(at)) {
+    for (const QWidget* at = widget; at; at = at->parentWidget()) {
+        if (const auto* window = qobject_cast<const FormWindow*>(at)) {
             return window;
         }
     }
     return nullptr;
+}
+
+bool isBlocked(const QWidget& widget, const Forms& forms)
+{
+    const std::shared_ptr<Form> modal = forms.innermostModal();
+    if (SystemBox::isOpen() || !modal || !modal->Visible() || widget.window()->windowType() == Qt::Popup) {
+        return false;
+    }
+    const FormWindow* window = formWindowOf(&widget);
+    return !window || &window->form() != modal.get();
 }
 
 } // namespace
@@ -62,16 +72,8 @@ ModalGate::ModalGate(Forms& forms) : forms_(forms)
 
 bool ModalGate::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!isBlockedInput(event->type()) || !watched->isWidgetType() || SystemBox::isOpen()) {
-        return false;
-    }
-    const std::shared_ptr<Form> modal = forms_.innermostModal();
-    auto* widget = static_cast<QWidget*>(watched);
-    if (!modal || !modal->Visible() || widget->window()->windowType() == Qt::Popup) {
-        return false;
-    }
-    const FormWindow* window = formWindowOf(widget);
-    if (window && &window->form() == modal.get()) {
+    if (!isBlockedInput(event->type()) || !watched->isWidgetType() ||
+        !isBlocked(static_cast<QWidget&>(*watched), forms_)) {
         return false;
     }
     if (isPress(event->type())) {
@@ -96,6 +98,11 @@ void ModalGate::pressedOutside()
             modal->SetFocus();
         }
     });
+}
+
+bool isBlockedByDialog(const QWidget& widget)
+{
+    return isBlocked(widget, visualHost().forms());
 }
 
 } // namespace phial::qt

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+class QWidget;
+
 namespace phial::qt
 {
 
@@ -26,5 +28,8 @@ private:
     Forms& forms_;
     bool telling_ = false;
 };
+
+/// Whether a modal form keeps the user's input away from the widget.
+bool isBlockedByDialog(const QWidget& widget);
 
 } // namespace phial::qt

@@ -2,6 +2,7 @@
 
 #include "qt/base/QtText.h"
 #include "qt/desktop/Dispatch.h"
+#include "qt/desktop/ModalGate.h"
 #include "qt/desktop/WidgetAspects.h"
 
 namespace phial::qt
@@ -101,7 +102,7 @@ QStringList PartInterface::actionNames() const
 
 void PartInterface::doAction(const QString& action)
 {
-    if (isValid() && action == pressAction()) {
+    if (isValid() && action == pressAction() && widget_->isEnabled() && !isBlockedByDialog(*widget_)) {
         dispatch([&] { widget_->control().activatePart(part_); });
     }
 }

@@ -2,6 +2,7 @@
 
 #include "qt/desktop/Dispatch.h"
 #include "qt/desktop/InputCodes.h"
+#include "qt/desktop/ModalGate.h"
 #include "qt/desktop/WidgetAspects.h"
 #include "visual/PaintSurface.h"
 
@@ -21,8 +22,8 @@ namespace
 
 /// The touch point that was pressed last.
 struct LeadingTouch {
+    const TouchPresses* presses = nullptr; ///< null since it is up
     int point = 0;
-    bool isDown = false;
     QPoint place;
     QPoint mouse; ///< where the mouse was meanwhile
 };
@@ -33,16 +34,18 @@ std::optional<LeadingTouch>& leadingTouch()
     return touch;
 }
 
-void lead(int point, QPoint place)
+bool leads(const TouchPresses& presses, int point)
 {
-    leadingTouch() = LeadingTouch{point, true, place, QCursor::pos()};
+    const auto& touch = leadingTouch();
+    return touch && touch->presses == &presses && touch->point == point;
 }
 
-void follow(int point, QPoint place, bool isDown)
+/// The toolkit will not tell when the touch point is let go.
+void stopLeading(const TouchPresses& presses)
 {
-    auto& touch = leadingTouch();
-    if (touch && touch->isDown && touch->point == point) {
-        touch = LeadingTouch{point, isDown, place, QCursor::pos()};
+    if (auto& touch = leadingTouch(); touch && touch->presses == &presses) {
+        touch->presses = nullptr;
+        touch->mouse = QCursor::pos();
     }
 }
 
@@ -58,7 +61,12 @@ QPoint pointerPlace()
 {
     const auto& touch = leadingTouch();
     const QPoint mouse = QCursor::pos();
-    return touch && (touch->isDown || touch->mouse == mouse) ? touch->place : mouse;
+    return touch && (touch->presses || touch->mouse == mouse) ? touch->place : mouse;
+}
+
+TouchPresses::~TouchPresses()
+{
+    stopLeading(*this);
 }
 
 bool TouchPresses::take(const QTouchEvent& event)
@@ -78,15 +86,20 @@ bool TouchPresses::take(const QTouchEvent& event)
         const QPoint place = point.globalPosition().toPoint();
         switch (isLive ? point.state() : QEventPoint::Stationary) {
         case QEventPoint::Pressed:
-            lead(point.id(), place);
+            leadingTouch() = LeadingTouch{this, point.id(), place, QCursor::pos()};
             press(point.id(), touchEvent(event, point, zoom));
             break;
         case QEventPoint::Updated:
-            follow(point.id(), place, true);
+            if (leads(*this, point.id())) {
+                leadingTouch()->place = place;
+            }
             move(point.id(), touchEvent(event, point, zoom));
             break;
         case QEventPoint::Released:
-            follow(point.id(), place, false);
+            if (leads(*this, point.id())) {
+                leadingTouch()->place = place;
+                stopLeading(*this);
+            }
             release(point.id(), touchEvent(event, point, zoom));
             break;
         default:
@@ -96,9 +109,14 @@ bool TouchPresses::take(const QTouchEvent& event)
     return true;
 }
 
+bool TouchPresses::takesPresses() const
+{
+    return widget_.isEnabled() && !isBlockedByDialog(widget_);
+}
+
 bool TouchPresses::beginsHere(const QTouchEvent& event) const
 {
-    return std::ranges::all_of(event.points(), [&](const QEventPoint& point) {
+    return std::ranges::any_of(event.points(), [&](const QEventPoint& point) {
         const QPointF place = point.position() / zoomOf(control_);
         return control_.surface().hits({place.x(), place.y()});
     });
@@ -118,7 +136,7 @@ std::int32_t TouchPresses::freeNumber() const
 
 void TouchPresses::press(int point, PointerEvent event)
 {
-    if (control_.surface().hits({event.X, event.Y})) {
+    if (takesPresses() && control_.surface().hits({event.X, event.Y})) {
         event.Touch = freeNumber();
         down_[point] = event;
         dispatch([&] { control_.pointerDown(event); });
@@ -146,16 +164,17 @@ void TouchPresses::release(int point, PointerEvent event)
     const QPointer<QWidget> widget(&widget_);
     dispatch([&] {
         control->pointerUp(event);
-        if (widget && control->frame().peer() && control->surface().hits({event.X, event.Y})) {
+        if (widget && control->frame().peer() && takesPresses() &&
+            control->surface().hits({event.X, event.Y})) {
             control->click();
         }
     });
 }
 
-// The desktop has taken the touch for itself: what is down comes up, but is no click.
 void TouchPresses::cancel()
 {
-    const auto control = control_.shared_from_this();
+    stopLeading(*this);
+    const auto control = control_.shared_from_this(); // a handler may close the window
     for (const auto& [point, event] : std::exchange(down_, {})) {
         dispatch([&, &last = event] { control->pointerUp(last); });
     }

@@ -13,22 +13,28 @@ namespace phial::qt
 {
 
 /// The touch points on a painted control that takes touch: each is a press of its own, with its move, its
-/// release and, where it is let go on the control, its click.
+/// release and, where it is let go on the control, its click. Nothing that is disabled meanwhile, or that a
+/// dialog blocks, is pressed or clicked, but what is down always comes up.
 class TouchPresses
 {
 public:
     TouchPresses(QWidget& widget, UserControl& control) : widget_(widget), control_(control) {}
+    ~TouchPresses();
+    TouchPresses(const TouchPresses&) = delete;
+    TouchPresses& operator=(const TouchPresses&) = delete;
 
     /// Gives whether the points are the control's. Touch that begins where the control lets through what lies
     /// below is not; the toolkit makes the mouse of it.
     bool take(const QTouchEvent& event);
+    /// Touch is over without the fingers: what is down comes up where it was last, but is no click.
+    void cancel();
 
 private:
+    bool takesPresses() const;
     bool beginsHere(const QTouchEvent& event) const;
     void press(int point, PointerEvent event);
     void move(int point, PointerEvent event);
     void release(int point, PointerEvent event);
-    void cancel();
     std::int32_t freeNumber() const;
 
     QWidget& widget_;
