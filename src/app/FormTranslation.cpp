@@ -20,12 +20,12 @@ constexpr int FewestLetters = 3;             // of a text that counts as forgott
 constexpr Colour FieldBlue = RGB(0, 106, 181);
 constexpr double FieldBlend = 80;
 
-constexpr std::array<StringView, 7> ControlTexts = {u"TITLE",       u"TEXT",    u"TEXTLEFT", u"TEXTRIGHT",
-                                                    u"TOOLTIPTEXT", u"CAPTION", u"TAG"};
-constexpr std::array<StringView, 5> ButtonTexts = {u"TEXT", u"CAPTION", u"TOOLTIPTEXT", u"DESCRIPTION",
-                                                   u"TAG"};
-constexpr std::array<StringView, 4> ItemTexts = {u"TITLE", u"TITLESHORT", u"TOOLTIPTEXT", u"TAG"};
-constexpr std::array<StringView, 2> ColumnTexts = {u"TEXT", u"TOOLTIPTEXT"};
+constexpr auto ControlTexts = std::to_array<StringView>(
+    {u"TITLE", u"TEXT", u"TEXTLEFT", u"TEXTRIGHT", u"TOOLTIPTEXT", u"CAPTION", u"TAG"});
+constexpr auto ButtonTexts =
+    std::to_array<StringView>({u"TEXT", u"CAPTION", u"TOOLTIPTEXT", u"DESCRIPTION", u"TAG"});
+constexpr auto ItemTexts = std::to_array<StringView>({u"TITLE", u"TITLESHORT", u"TOOLTIPTEXT", u"TAG"});
+constexpr auto ColumnTexts = std::to_array<StringView>({u"TEXT", u"TOOLTIPTEXT"});
 
 /// The text of a member, none when the object has no such member or it cannot be read.
 std::optional<String> textOf(Object& object, StringView property)
