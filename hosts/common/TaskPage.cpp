@@ -21,17 +21,12 @@ using phial::String;
 namespace
 {
 
+constexpr std::int32_t DeafTime = 400; // milliseconds
+
 MissedTasks ofThisPupil()
 {
     return MissedTasks(phial::QVAPP()->USER()->SCREENNAME());
 }
-
-} // namespace
-
-namespace
-{
-
-constexpr std::int32_t DeafTime = 400; // milliseconds
 
 } // namespace
 
@@ -143,7 +138,9 @@ void TaskPage::check()
         app_.retry();
     }
     app_.field()->SetFocus();
-    Judged.emit(*verdict_);
+    if (!isRepeated_) {
+        Judged.emit(*verdict_);
+    }
 }
 
 /// Remembers for later rounds what went wrong, and forgets what has been learnt.
@@ -218,20 +215,15 @@ String TaskPage::verdictText()
     return app_.unreadable();
 }
 
-/// A kind of error that can be told says more than the number of tries, and both find room.
+/// A kind of error that can be told says more than "not quite".
 String TaskPage::wrongText()
 {
-    const bool isLast = round_->triesLeft() == 1;
+    const String tries = round_->triesLeft() == 1
+                             ? translate(u"Du hast noch einen Versuch.", u"You have one try left.")
+                             : translate(u"Du hast noch {1} Versuche.", u"You have {1} tries left.",
+                                         {number(round_->triesLeft())});
     const String remark = app_.remark();
-    if (!remark.empty()) {
-        return isLast ? remark + translate(u"<br>Du hast noch einen Versuch.", u"<br>You have one try left.")
-                      : remark + translate(u"<br>Du hast noch {1} Versuche.", u"<br>You have {1} tries left.",
-                                           {number(round_->triesLeft())});
-    }
-    return isLast
-               ? translate(u"Leider nicht. Du hast noch einen Versuch.", u"Not quite. You have one try left.")
-               : translate(u"Leider nicht. Du hast noch {1} Versuche.",
-                           u"Not quite. You have {1} tries left.", {number(round_->triesLeft())});
+    return (remark.empty() ? translate(u"Leider nicht. ", u"Not quite. ") : remark + u"<br>") + tries;
 }
 
 void TaskPage::showHelp()

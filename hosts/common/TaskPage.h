@@ -39,7 +39,7 @@ public:
     /// Puts all texts that are not of the design in the language in force.
     void TRANSLATE();
 
-    /// An answer has been judged, and the page shows it.
+    /// An answer has been judged, and the page shows it. One that was given before is not judged again.
     phial::Event<Verdict> Judged;
     /// The last task is decided and the pupil wants the result.
     phial::Event<> Finished;

@@ -69,6 +69,8 @@ TEST_F(TrainerSounds, AnswersArePraisedAndBlamedWithoutAWindow)
     touch(u"but_Level", 0);
     type(u"17{enter}");
     EXPECT_THAT(heard(), ElementsAre(Blame));
+    type(u"17{enter}"); // the same once more
+    EXPECT_THAT(heard(), IsEmpty());
     type(u"nichts{enter}"); // no answer at all
     EXPECT_THAT(heard(), IsEmpty());
     type(u"18,0{enter}");
