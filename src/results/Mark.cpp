@@ -55,13 +55,8 @@ const MarkRow& markFor(double points, double pointsMax)
     if (pointsMax == 0) {
         pointsMax = PointsMaxIfNone;
     }
-    if (points > pointsMax) {
-        points = pointsMax;
-    }
-    if (points < 0) {
-        points = 0;
-    }
-    const double ratio = points / pointsMax;
+    // Less than nothing falls to the lowest row and more than the maximum to the highest by themselves.
+    const double ratio = pointsMax > 0 ? points / pointsMax : 0;
     const auto* const found =
         std::ranges::find_if(MarkRows, [ratio](const MarkRow& row) { return ratio < row.below; });
     return found != MarkRows.end() ? *found : MarkRows.back();
