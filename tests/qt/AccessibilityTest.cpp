@@ -255,20 +255,19 @@ TEST_F(AccessibilityTest, ATextThatIsTypedIntoHasItsCaret)
     EXPECT_FALSE(whole.state().editable);
 }
 
-TEST_F(AccessibilityTest, AnAnnouncementIsAnAlertWithThatName)
+TEST_F(AccessibilityTest, AnAnnouncementIsANotificationWithThatName)
 {
     added<PictureBox>(u"ctl_Bubble1")->frame().announce(u"Gut gemacht!");
-    const QAccessibleInterface& alert = announcement();
-    EXPECT_TRUE(alert.isValid());
-    EXPECT_EQ(alert.role(), QAccessible::AlertMessage);
-    EXPECT_FALSE(alert.state().invisible);
-    EXPECT_EQ(alert.text(QAccessible::Name), QStringLiteral("Gut gemacht!"));
-    EXPECT_EQ(alert.text(QAccessible::Value), QStringLiteral("Gut gemacht!"));
-    EXPECT_EQ(alert.parent()->object(), &widgetOf(*form_));
+    const QAccessibleInterface& notification = announcement();
+    EXPECT_TRUE(notification.isValid());
+    EXPECT_EQ(notification.role(), QAccessible::Notification);
+    EXPECT_FALSE(notification.state().invisible);
+    EXPECT_EQ(notification.text(QAccessible::Name), QStringLiteral("Gut gemacht!"));
+    EXPECT_EQ(notification.parent()->object(), &widgetOf(*form_));
     added<TextBox>(u"txt_Display")->frame().announce(u"18,015");
-    EXPECT_EQ(alert.text(QAccessible::Name), QStringLiteral("18,015"));
+    EXPECT_EQ(notification.text(QAccessible::Name), QStringLiteral("18,015"));
     form_->control<TextBox>(u"txt_Display")->frame().announce(u"");
-    EXPECT_EQ(alert.text(QAccessible::Name), QStringLiteral("18,015")) << "nothing to say";
+    EXPECT_EQ(notification.text(QAccessible::Name), QStringLiteral("18,015")) << "nothing to say";
 }
 
 TEST_F(AccessibilityTest, PartsThatComeOrGoAreReadAnew)

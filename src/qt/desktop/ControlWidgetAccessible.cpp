@@ -18,7 +18,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
     return widget ? new ControlInterface(*widget) : nullptr;
 }
 
-/// What is announced: an alert in a window, which nobody sees.
+/// What is announced: a notification in a window, which nobody sees.
 class Announcement final : public QAccessibleInterface
 {
 public:
@@ -37,11 +37,11 @@ public:
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
     QRect rect() const override { return widget_ ? widget_->geometry() : QRect(); }
-    QAccessible::Role role() const override { return QAccessible::AlertMessage; }
+    QAccessible::Role role() const override { return QAccessible::Notification; }
     QAccessible::State state() const override { return {}; }
     QString text(QAccessible::Text text) const override
     {
-        return text == QAccessible::Name || text == QAccessible::Value ? text_ : QString();
+        return text == QAccessible::Name ? text_ : QString();
     }
     void setText(QAccessible::Text, const QString&) override {}
 
@@ -110,13 +110,10 @@ void announceText(QWidget& widget, const QString& text)
         return;
     }
     announced().say(widget, text);
-    for (const QAccessible::Event type :
-         {QAccessible::ObjectShow, QAccessible::NameChanged, QAccessible::Alert}) {
+    for (const QAccessible::Event type : {QAccessible::NameChanged, QAccessible::ObjectShow}) {
         QAccessibleEvent event(&announced(), type);
         QAccessible::updateAccessibility(&event);
     }
-    QAccessibleValueChangeEvent value(&announced(), text);
-    QAccessible::updateAccessibility(&value);
 }
 
 QAccessibleInterface& announcement()

@@ -30,11 +30,11 @@ void tellText(ControlWidget& widget, const TextEntry& before, const TextEntry& n
 /// Tells screen readers that the arrow keys have reached a part.
 void announcePart(ControlWidget& widget, std::size_t part);
 
-/// Has screen readers say a text. The toolkit has no word for that before its version 6.8; until then an
-/// alert with that name appears in the widget's window and tells its name and value, of which desktops heed
-/// one or another.
+/// Has screen readers say a text. The toolkit has no word for that before its version 6.8; until then a
+/// notification with that name appears in the widget's window, which readers say wherever the focus is.
+/// It is no alert: the toolkit makes a noise for those on some desktops.
 void announceText(QWidget& widget, const QString& text);
-/// That alert, with what was said last.
+/// That notification, with what was said last.
 QAccessibleInterface& announcement();
 
 } // namespace phial::qt
