@@ -81,6 +81,8 @@ public:
     virtual void show(int position) = 0;
     /// What tells the task that is shown apart from all others, in any language.
     virtual phial::String taskName() const = 0;
+    /// What screen readers say of the task that is shown, in the language in force; its name by itself.
+    virtual phial::String spoken() const { return taskName(); }
     /// The present answer, by which the same one is known again however it was written.
     virtual phial::String answer() const = 0;
     /// What the present answer is worth.

@@ -99,6 +99,21 @@ void TaskPage::showTask()
     showRoundTexts();
 }
 
+void TaskPage::sayTask()
+{
+    say({get<phial::ctl_Label>(u"lab_Progress")->accessibleText(), app_.spoken()});
+}
+
+/// What comes into view while the focus stays in the answer is said, one sentence after the other.
+void TaskPage::say(std::initializer_list<String> texts)
+{
+    String said;
+    for (const String& text : texts) {
+        said += said.empty() || text.empty() ? text : u"\n" + text;
+    }
+    get<phial::ctl_Label>(u"lab_Feedback")->frame().announce(said);
+}
+
 /// The texts that depend on the state of the round.
 void TaskPage::showRoundTexts()
 {
@@ -138,6 +153,8 @@ void TaskPage::check()
         app_.retry();
     }
     app_.field()->SetFocus();
+    say({get<phial::ctl_Label>(u"lab_Feedback")->accessibleText(),
+         get<phial::ctl_Label>(u"lab_Hint")->accessibleText()});
     if (!isRepeated_) {
         Judged.emit(*verdict_);
     }
@@ -180,6 +197,7 @@ void TaskPage::goOn()
     if (round_->next()) {
         showTask();
         app_.field()->SetFocus();
+        sayTask();
     } else {
         Finished.emit();
     }
@@ -256,6 +274,7 @@ void TaskPage::giveHint()
     if (verdict_ == Verdict::Wrong) {
         app_.retry(); // the next try replaces the wrong one
     }
+    say({get<phial::ctl_Label>(u"lab_Hint")->accessibleText()});
 }
 
 } // namespace learning

@@ -5,6 +5,7 @@
 #include "visual/Form.h"
 #include "visual/Timer.h"
 
+#include <initializer_list>
 #include <optional>
 #include <vector>
 
@@ -36,6 +37,8 @@ public:
     void deafFor(std::int32_t milliseconds);
     /// Tells the hint, once a task. Without a round nothing happens.
     void giveHint();
+    /// Has screen readers say the task that is shown, once its page has the focus.
+    void sayTask();
     /// Puts all texts that are not of the design in the language in force.
     void TRANSLATE();
 
@@ -55,6 +58,7 @@ private:
     void check();
     void count(Judgement judgement);
     void goOn();
+    void say(std::initializer_list<phial::String> texts);
     void showVerdict();
     phial::String verdictText();
     phial::String wrongText();

@@ -360,6 +360,7 @@ void frm_LearningApp::startRound(std::size_t level)
     kind_ = RoundKind::Counting;
     tasks_->begin(level);
     show(Page::Task);
+    tasks_->sayTask();
     classroom_.roundStarted(levelTitles_[level].german);
 }
 
@@ -369,6 +370,7 @@ void frm_LearningApp::startMissed()
     kind_ = RoundKind::Practice;
     tasks_->beginMissed(level_);
     show(Page::Task);
+    tasks_->sayTask();
 }
 
 void frm_LearningApp::finishRound()

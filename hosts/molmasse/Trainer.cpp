@@ -126,6 +126,11 @@ void Trainer::show(int position)
     pad_->Enabled(true);
 }
 
+String Trainer::spoken() const
+{
+    return translate(task_.germanName, task_.englishName) + u", " + task_.formula;
+}
+
 String Trainer::answer() const
 {
     const auto mass = typedMass(answer_->Text());

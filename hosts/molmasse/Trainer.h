@@ -28,6 +28,7 @@ public:
     int begin(std::size_t level, const learning::TaskChoice& choice) override;
     void show(int position) override;
     phial::String taskName() const override { return task_.formula; }
+    phial::String spoken() const override;
     phial::String answer() const override;
     learning::Judgement judge() override;
     void retry() override;

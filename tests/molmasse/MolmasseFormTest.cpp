@@ -273,6 +273,25 @@ TEST_F(TrainerTest, TheSecondLevelIsReachedByTab)
     EXPECT_EQ(seen(u"lab_Name"), u"");
 }
 
+TEST_F(TrainerTest, ScreenReadersSayTaskVerdictHintAndWorking)
+{
+    openInstalled();
+    const auto said = [this] {
+        return form().control<phial::ctl_Label>(u"lab_Feedback")->frame().announcement();
+    };
+    EXPECT_EQ(said(), u"");
+    type(u"{enter}");
+    EXPECT_EQ(said(), u"Aufgabe 1 von 2\nWasser, H2O");
+    type(u"25{enter}");
+    EXPECT_EQ(said(), u"Leider nicht. Du hast noch 2 Versuche.");
+    type(u"{f1}");
+    EXPECT_EQ(said(), phial::plainMarkup(seen(u"lab_Hint")));
+    type(u"18{enter}");
+    EXPECT_EQ(said(), u"Richtig! 18,0 g/mol, 4 Punkte für dich.\n2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+    type(u"{enter}");
+    EXPECT_EQ(said(), u"Aufgabe 2 von 2\nNatriumchlorid, NaCl");
+}
+
 TEST_F(TrainerTest, AWrongAnswerMayBeMended)
 {
     openInstalled();
