@@ -15,6 +15,8 @@
 #include "server/WireText.h"
 #include "server/cls_AppServer.h"
 
+#include <algorithm>
+
 namespace phial
 {
 
@@ -63,8 +65,7 @@ std::int32_t cls_AppRate::POINTS(std::int32_t pPoints, std::int32_t pErrorsMax,
                                  std::int32_t pErrorsMade) const
 {
     // Not std::clamp, which knows no negative greatest number of errors.
-    const std::int32_t atLeastNone = pErrorsMade < 0 ? 0 : pErrorsMade;
-    const std::int32_t made = atLeastNone > pErrorsMax ? pErrorsMax : atLeastNone;
+    const std::int32_t made = std::min(std::max(pErrorsMade, 0), pErrorsMax);
     return toWhole(pPoints - checkedDivide(pPoints, pErrorsMax) * made);
 }
 

@@ -145,6 +145,13 @@ TEST_F(AppRateTest, TheLastOfTheListIsTold)
                               u"Leider bist Du damit allerdings LETZTER!");
 }
 
+TEST_F(AppRateTest, TheSecondOfTwoIsTheLastToo)
+{
+    fill({9});
+    EXPECT_EQ(submit(7), 2);
+    EXPECT_EQ(outside.dialogs().shown().back().title, u"Naja...");
+}
+
 TEST_F(AppRateTest, AnyOtherPlaceIsCongratulated)
 {
     fill({9, 5});

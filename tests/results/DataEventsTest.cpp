@@ -162,6 +162,7 @@ TEST_F(DataEvents, AreReadBackPackedAndCopiedWhole)
         EXPECT_EQ(other->TEXT(), log.TEXT());
         EXPECT_EQ(other->DATA()->ID(), Variant(u"Log"));
         EXPECT_EQ(other->ITEM(2)->TIMESTAMP(), log.ITEM(2)->TIMESTAMP());
+        EXPECT_EQ(other->ITEM(2)->DATA()->ID(), log.ITEM(2)->DATA()->ID());
     }
     log.ITEM(1)->ADDITIONAL()->Clear();
     EXPECT_EQ(copy.ITEM(1)->ADDITIONAL()->Count(), 1);

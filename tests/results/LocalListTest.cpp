@@ -45,6 +45,14 @@ TEST_F(LocalListTest, AResetTakesEffectInTheFile)
     EXPECT_EQ(storedCount(), 0);
 }
 
+TEST_F(LocalListTest, AResetOfOneEntryTakesEffectInTheFileToo)
+{
+    fill({5});
+    outside.dialogs().expectYesNo(DialogAnswer::Yes);
+    show([](Form& form) { click(form, u"DIALOG.RESET();"); });
+    EXPECT_EQ(storedCount(), 0);
+}
+
 TEST_F(LocalListTest, WhatAnotherProgramEntersWhileTheWindowIsOpenStays)
 {
     fill({5, 6});
