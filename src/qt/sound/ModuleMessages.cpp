@@ -17,8 +17,9 @@ QtMessageHandler otherMessages = nullptr;
 bool isOfSoundModule(const QString& message)
 {
     constexpr QLatin1String Beginnings[] = {
-        QLatin1String("PulseAudioService:"), QLatin1String("\"Stream error:"),
-        QLatin1String("Failed to initialize output ALSA device"), QLatin1String("No audio device detected")};
+        QLatin1String("PulseAudioService:"), QLatin1String("\"PulseAudioService:"),
+        QLatin1String("\"Stream error:"), QLatin1String("Failed to initialize output ALSA device"),
+        QLatin1String("No audio device detected")};
     return std::any_of(std::begin(Beginnings), std::end(Beginnings),
                        [&message](QLatin1String beginning) { return message.startsWith(beginning); });
 }

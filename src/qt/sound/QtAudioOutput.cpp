@@ -1,9 +1,8 @@
 #include "qt/sound/QtAudioOutput.h"
 
 #include "qt/sound/ModuleMessages.h"
-#include "qt/sound/SinkVoice.h"
-
-#include <QMediaDevices>
+#include "qt/sound/SoundThread.h"
+#include "qt/sound/VoiceBoard.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,7 +13,8 @@ namespace phial::qt
 namespace
 {
 
-constexpr int FeedMilliseconds = 20;
+constexpr std::chrono::milliseconds FirstLook{50};
+constexpr double WaitPiece = 0.02; // seconds; a sound may be lost while it is waited for
 
 bool isPlayable(const Sound* sound)
 {
@@ -23,87 +23,71 @@ bool isPlayable(const Sound* sound)
 
 } // namespace
 
-QtAudioOutput::QtAudioOutput(std::shared_ptr<Clock> clock) : clock_(std::move(clock))
+QtAudioOutput::QtAudioOutput(std::shared_ptr<Clock> clock)
+    : clock_(std::move(clock)), board_(std::make_shared<VoiceBoard>())
 {
     silenceSoundModule();
-    feeding_.setTimerType(Qt::PreciseTimer);
-    feeding_.setInterval(FeedMilliseconds);
-    QObject::connect(&feeding_, &QTimer::timeout, &feeding_, [this] { feed(); });
 }
 
-QtAudioOutput::~QtAudioOutput() = default;
+QtAudioOutput::~QtAudioOutput()
+{
+    board_->close();
+    if (thread_) {
+        wake();
+    }
+}
+
+/// Has the thread of sounds look at the board, and at the device.
+void QtAudioOutput::wake() const
+{
+    if (!thread_) {
+        thread_ = SoundThread::shared();
+        thread_->loudspeakers().serve(board_, clock_);
+    }
+    thread_->loudspeakers().wake();
+}
 
 bool QtAudioOutput::available() const
 {
-    const bool isLost = isLost_ || std::any_of(sounding_.begin(), sounding_.end(),
-                                               [](const Sounding& each) { return each.sink->isLost(); });
-    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
-    return !device.isNull() && (!isLost || takesSounds(device));
+    wake();
+    return board_->hasDeviceWithin(FirstLook).value_or(false);
 }
 
 AudioOutput::Voice QtAudioOutput::start(std::shared_ptr<const Sound> sound)
 {
-    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
-    if (device.isNull() || !isPlayable(sound.get())) {
+    if (!isPlayable(sound.get())) {
         return Voice::None;
     }
-    auto sink = std::make_unique<SinkVoice>(device, std::move(sound), gain_, *clock_);
-    isLost_ = sink->isLost();
-    if (isLost_) {
-        return Voice::None;
-    }
-    endOldest();
-    sounding_.push_back({Voice{++lastVoice_}, std::move(sink)});
-    feeding_.start();
-    return sounding_.back().voice;
+    const Voice voice = board_->hasDevice().value_or(true)
+                            ? board_->add(std::move(sound), clock_->seconds())
+                            : Voice::None; // by the next time the device may be back
+    wake();
+    return voice;
 }
 
-/// Makes room for one more voice.
-void QtAudioOutput::endOldest()
+void QtAudioOutput::gain(double value)
 {
-    const auto isPlaying = [](const Sounding& each) { return each.sink->isPlaying(); };
-    if (std::count_if(sounding_.begin(), sounding_.end(), isPlaying) >= MostVoices) {
-        sounding_.erase(std::find_if(sounding_.begin(), sounding_.end(), isPlaying));
-    }
+    board_->gain(value);
 }
 
 void QtAudioOutput::stop(Voice voice)
 {
     if (isPlaying(voice)) {
-        std::erase_if(sounding_, [voice](const Sounding& each) { return each.voice == voice; });
+        board_->stop(voice);
+        wake();
     }
-}
-
-const SinkVoice* QtAudioOutput::find(Voice voice) const
-{
-    const auto found = std::find_if(sounding_.begin(), sounding_.end(),
-                                    [voice](const Sounding& each) { return each.voice == voice; });
-    return found == sounding_.end() ? nullptr : found->sink.get();
 }
 
 bool QtAudioOutput::isPlaying(Voice voice) const
 {
-    const SinkVoice* const sink = find(voice);
-    return sink != nullptr && sink->isPlaying();
+    return board_->isPlaying(voice, clock_->seconds());
 }
 
 void QtAudioOutput::waitForEnd(Voice voice)
 {
     while (isPlaying(voice)) {
-        clock_->sleep(std::min(find(voice)->end() - clock_->seconds(), FeedMilliseconds / 1000.0));
-        feed();
-    }
-}
-
-void QtAudioOutput::feed()
-{
-    for (const Sounding& each : sounding_) {
-        each.sink->feed(gain_);
-        isLost_ = isLost_ || each.sink->isLost();
-    }
-    std::erase_if(sounding_, [](const Sounding& each) { return each.sink->hasRungOut(); });
-    if (sounding_.empty()) {
-        feeding_.stop();
+        const double left = board_->end(voice).value_or(0) - clock_->seconds();
+        clock_->sleep(std::min(left, WaitPiece));
     }
 }
 

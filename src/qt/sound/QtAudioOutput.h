@@ -3,50 +3,42 @@
 #include "core/AudioOutput.h"
 #include "core/Clock.h"
 
-#include <QTimer>
-
 #include <memory>
-#include <vector>
 
 namespace phial::qt
 {
 
-class SinkVoice;
+class SoundThread;
+class VoiceBoard;
 
 /// The loudspeakers of the desktop, whichever the user has chosen at the time when a sound begins. They are
 /// asked for when the first sound is played, so a silent program costs nothing.
 ///
-/// Sounds are mixed by the desktop's own server, each on its own connection, which is kept until the sound
-/// has rung out. Where there is no server, or it dies, nothing is heard and nothing is said.
+/// Sounds are handed to a thread of their own, so nothing here waits for a server of sounds, however long
+/// that takes. Where there is no server, or it dies, nothing is heard and nothing is said. A voice that has
+/// been given plays by the clock, until it turns out that it cannot be heard.
 class QtAudioOutput final : public AudioOutput
 {
 public:
+    /// The clock may be asked by every thread.
     explicit QtAudioOutput(std::shared_ptr<Clock> clock);
     /// Ends all sounds.
     ~QtAudioOutput() override;
 
+    /// The first time it waits for the answer, for a twentieth of a second at most; false without one.
     bool available() const override;
     Voice start(std::shared_ptr<const Sound> sound) override;
-    void gain(double value) override { gain_ = value; }
+    void gain(double value) override;
     void stop(Voice voice) override;
     bool isPlaying(Voice voice) const override;
     void waitForEnd(Voice voice) override;
 
 private:
-    struct Sounding {
-        Voice voice;
-        std::unique_ptr<SinkVoice> sink;
-    };
-    const SinkVoice* find(Voice voice) const;
-    void endOldest();
-    void feed();
+    void wake() const;
 
     std::shared_ptr<Clock> clock_;
-    std::vector<Sounding> sounding_; ///< the oldest first; those that ring out too
-    std::int64_t lastVoice_ = 0;
-    double gain_ = 1;
-    bool isLost_ = false; ///< the last that was heard of the device
-    QTimer feeding_;
+    std::shared_ptr<VoiceBoard> board_;
+    mutable std::shared_ptr<SoundThread> thread_; ///< null before it was needed
 };
 
 } // namespace phial::qt

@@ -1,7 +1,8 @@
 #include "qt/sound/SinkVoice.h"
 
+#include "qt/sound/VoiceBoard.h"
+
 #include <QAudioSink>
-#include <QCoreApplication>
 #include <QIODevice>
 
 #include <algorithm>
@@ -58,8 +59,7 @@ QByteArray bytesOf(std::span<const float> samples, QAudioFormat::SampleFormat ki
     return bytes;
 }
 
-/// Ends a sink, which is deleted later: its destructor runs events, whoever waits above it. The program owns
-/// it until then.
+/// Ends a sink, which is deleted later: its destructor runs events.
 void letGo(QAudioSink* sink)
 {
     sink->stop();
@@ -68,16 +68,15 @@ void letGo(QAudioSink* sink)
 
 } // namespace
 
-SinkVoice::SinkVoice(const QAudioDevice& device, std::shared_ptr<const Sound> sound, double gain,
-                     const Clock& clock)
-    : clock_(clock), begin_(clock.seconds()), end_(begin_ + sound->seconds()), fedUntil_(begin_),
-      format_(formatFor(device)), feed_(std::move(sound), format_.sampleRate(), format_.channelCount()),
+SinkVoice::SinkVoice(const QAudioDevice& device, std::shared_ptr<const Sound> sound, const Clock& clock)
+    : clock_(clock), length_(sound->seconds()), format_(formatFor(device)),
+      feed_(std::move(sound), format_.sampleRate(), format_.channelCount()),
       silence_(static_cast<std::size_t>(LeadSeconds * format_.sampleRate())),
-      sink_(new QAudioSink(device, format_, QCoreApplication::instance()))
+      sink_(new QAudioSink(device, format_))
 {
     sink_->setBufferSize(format_.bytesForDuration(static_cast<qint64>(LeadSeconds * 1e6)));
     device_ = sink_->start();
-    feed(gain);
+    begin_ = fedUntil_ = clock_.seconds();
 }
 
 SinkVoice::~SinkVoice()
@@ -91,14 +90,11 @@ bool SinkVoice::isLost() const
     return device_ == nullptr || sink_->state() == QAudio::StoppedState || sink_->bytesFree() < 0;
 }
 
-bool SinkVoice::isPlaying() const
-{
-    return !isLost() && clock_.seconds() < end_;
-}
-
 bool SinkVoice::hasRungOut() const
 {
-    return isLost() || (!isWanted() && clock_.seconds() > fedUntil_ + RingingSeconds);
+    const double now = clock_.seconds();
+    return isLost() || (!isWanted() && now > fedUntil_ + RingingSeconds) ||
+           now > begin_ + length_ + VoiceBoard::LatestSeconds;
 }
 
 bool SinkVoice::isWanted() const
@@ -136,7 +132,7 @@ QByteArray SinkVoice::nextPiece(double gain)
 
 bool takesSounds(const QAudioDevice& device)
 {
-    auto* const sink = new QAudioSink(device, formatFor(device), QCoreApplication::instance());
+    auto* const sink = new QAudioSink(device, formatFor(device));
     const bool takes = sink->start() != nullptr;
     letGo(sink);
     return takes;

@@ -26,21 +26,17 @@ class SinkVoice
 public:
     static constexpr double LeadSeconds = 0.2;
 
-    /// Begins. The sound has samples, a rate and channels; the clock outlives the voice.
-    SinkVoice(const QAudioDevice& device, std::shared_ptr<const Sound> sound, double gain,
-              const Clock& clock);
+    /// Connects, which takes as long as the device likes, and waits to be fed. The sound has samples, a rate
+    /// and channels; the clock outlives the voice.
+    SinkVoice(const QAudioDevice& device, std::shared_ptr<const Sound> sound, const Clock& clock);
     ~SinkVoice();
     SinkVoice(const SinkVoice&) = delete;
     SinkVoice& operator=(const SinkVoice&) = delete;
 
     /// Whether the device did not take the sound, or has been lost while it played.
     bool isLost() const;
-    /// By the clock since the start, as nothing else tells the place: the device reports what it has taken,
-    /// not what is heard.
-    bool isPlaying() const;
-    /// When it ends, by the clock, if it is not lost.
-    double end() const { return end_; }
-    /// Whether nothing of it can be heard any more. Letting go of a connection before takes the end away.
+    /// Whether nothing of it can be heard any more, or should be, since the device has been held up for too
+    /// long. Letting go of a connection before takes the end away.
     bool hasRungOut() const;
 
     void feed(double gain);
@@ -50,9 +46,7 @@ private:
     QByteArray nextPiece(double gain);
 
     const Clock& clock_;
-    double begin_;
-    double end_;
-    double fedUntil_; ///< when the last frames were written
+    double length_;
     QAudioFormat format_;
     VoiceFeed feed_;
     std::size_t fed_ = 0; ///< frames
@@ -60,7 +54,9 @@ private:
     std::vector<float> samples_;
     QByteArray waiting_; ///< shaped for the device, which had no room for it
     QAudioSink* sink_;
-    QIODevice* device_; ///< the sink's; null where it refused
+    QIODevice* device_;   ///< the sink's; null where it refused
+    double begin_ = 0;    ///< when it was connected
+    double fedUntil_ = 0; ///< when the last frames were written
 };
 
 /// Whether the device takes sounds now. A server of sounds that has gone keeps its devices on the list.

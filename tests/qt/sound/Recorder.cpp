@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstring>
 #include <stdexcept>
 
@@ -54,6 +55,19 @@ bool Recorder::record(double seconds)
         loop.exec();
     }
     return frames() >= end;
+}
+
+bool Recorder::hearsSomething(double seconds)
+{
+    const std::size_t begin = frames();
+    const std::size_t end = begin + static_cast<std::size_t>(seconds * rate_);
+    const auto isHeard = [this, begin] {
+        const std::vector<float> samples = left(begin);
+        return std::any_of(samples.begin(), samples.end(), [](float sample) { return sample != 0; });
+    };
+    while (!isHeard() && frames() < end && record(0.05)) {
+    }
+    return isHeard();
 }
 
 std::vector<float> Recorder::left(std::size_t from) const

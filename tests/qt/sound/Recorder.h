@@ -20,13 +20,16 @@ class Recorder
 {
 public:
     /// Waits until the loudspeaker is heard.
-    Recorder(const QProcessEnvironment& environment, std::int32_t rate);
+    explicit Recorder(const QProcessEnvironment& environment, std::int32_t rate = 44'100);
     ~Recorder();
 
     /// Frames so far.
     std::size_t frames() const;
     /// Runs events until so many seconds more have been recorded. False when they do not come.
     bool record(double seconds);
+    /// Records until there is something else than silence, for so many seconds more at most; gives whether
+    /// there was.
+    bool hearsSomething(double seconds);
     /// The left channel from a frame on, -1 to 1.
     std::vector<float> left(std::size_t from) const;
 

@@ -18,22 +18,28 @@ constexpr int ServerPatience = 30'000; // milliseconds
 
 } // namespace
 
-SoundServer::SoundServer(std::int32_t rate)
+SoundServer::SoundServer(std::int32_t rate) : rate_(rate)
 {
     QDir(path("")).mkdir(QStringLiteral("pulse"));
+    QFile::setPermissions(path(""), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QFile::setPermissions(path("pulse"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     process_.setProcessEnvironment(environment());
     process_.setProcessChannelMode(QProcess::MergedChannels);
     process_.setStandardOutputFile(path("log"));
+    start();
+}
+
+void SoundServer::start()
+{
     // The server ends with our end of the pipe, even if a test breaks down.
     process_.start(
         QStringLiteral("sh"),
-        {"-c", "pulseaudio \"$@\" & read end; kill -9 $!; wait", "server", "-n", "--daemonize=no",
-         "--exit-idle-time=-1", "--realtime=no", "--high-priority=no", "--use-pid-file=no",
+        {"-c", "pulseaudio \"$@\" & echo $! > \"$HOME/process\"; read end; kill -9 $!; wait", "server", "-n",
+         "--daemonize=no", "--exit-idle-time=-1", "--realtime=no", "--high-priority=no", "--use-pid-file=no",
          "--log-target=stderr", "-L", "module-native-protocol-unix auth-anonymous=1 socket=" + path("socket"),
          "-L",
          QStringLiteral("module-null-sink sink_name=heard norewinds=1 format=s16le channels=2 rate=%1")
-             .arg(rate)});
+             .arg(rate_)});
     QElapsedTimer timer;
     timer.start();
     while (!answers()) {
@@ -77,6 +83,24 @@ void SoundServer::kill()
 {
     process_.closeWriteChannel();
     process_.waitForFinished();
+}
+
+void SoundServer::halt()
+{
+    signal(SIGSTOP);
+}
+
+void SoundServer::goOn()
+{
+    signal(SIGCONT);
+}
+
+void SoundServer::signal(int number) const
+{
+    QFile file(path("process"));
+    if (!file.open(QFile::ReadOnly) || ::kill(file.readAll().trimmed().toInt(), number) != 0) {
+        throw std::runtime_error("the sound server takes no signal");
+    }
 }
 
 bool SoundServer::answers() const

@@ -30,12 +30,19 @@ public:
 
     /// Ends it without a word.
     void kill();
+    /// Starts it again where it was, and waits until it answers.
+    void start();
+    /// Lets it stand still, without ending it, and go on.
+    void halt();
+    void goOn();
 
 private:
     bool answers() const;
+    void signal(int number) const;
     QString path(const char* name) const;
 
     TemporaryFolder folder_;
+    std::int32_t rate_;
     QProcess process_;
 };
 

@@ -1,0 +1,129 @@
+#include "Recorder.h"
+#include "SoundProgram.h"
+#include "SoundServer.h"
+#include "support/MarkedWaves.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+/// A server of sounds that stands still, as a debugger or a computer that is falling asleep leaves it: it
+/// neither answers nor ends.
+namespace
+{
+
+using namespace phial;
+using namespace phial::test;
+
+constexpr double ShortSeconds = 0.4;
+
+class HaltedServer : public testing::Test
+{
+protected:
+    /// Gives an order to the program, with a sound of so many seconds.
+    double ask(const char* order, double seconds)
+    {
+        std::string name = std::to_string(seconds) + ".wav";
+        folder_.write(name, markedWave(seconds));
+        std::string path = (folder_.native() / name).string();
+        std::replace(path.begin(), path.end(), '/', '\\');
+        return program_.ask(QByteArray(order) + ' ' + QByteArray::fromStdString(path));
+    }
+
+    void expectTheWindowGoesOn()
+    {
+        EXPECT_GE(program_.ask("gap"), 0);
+        double gap = 1;
+        for (int time = 0; time < 5 && gap > 0.1; ++time) { // a busy computer makes gaps, but not always
+            EXPECT_GT(ask("play", ShortSeconds), 0);
+            const double stood = ask("praise", ShortSeconds);
+            EXPECT_GE(stood, ShortSeconds);
+            EXPECT_LT(stood, 3);
+            gap = program_.ask("gap");
+        }
+        EXPECT_GT(gap, 0);
+        EXPECT_LE(gap, 0.1);
+    }
+
+    /// Whether the program's sounds are heard: asked until one is, since what stood still has to catch up.
+    bool isHeard()
+    {
+        Recorder recorder(server_.environment());
+        bool heard = false;
+        for (int time = 0; time < 20 && !heard; ++time) {
+            EXPECT_GT(ask("play", ShortSeconds), 0);
+            heard = recorder.hearsSomething(2 * ShortSeconds);
+        }
+        return heard;
+    }
+
+    void expectTheProgramEnds()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        program_.tell("end");
+        EXPECT_TRUE(program_.ends());
+        EXPECT_LT(timer.elapsed(), 2000);
+    }
+
+    SoundServer server_;
+    TemporaryFolder folder_;
+    SoundProgram program_{
+        "sound_app", server_.environment(), {QString::fromStdString(folder_.native().string())}};
+};
+
+TEST_F(HaltedServer, HoldsUpNoWindowBeforeTheFirstSound)
+{
+    server_.halt();
+    ASSERT_TRUE(program_.hasTold("ready"));
+    expectTheWindowGoesOn();
+    server_.goOn();
+    EXPECT_TRUE(isHeard());
+}
+
+TEST_F(HaltedServer, HoldsUpNoWindowInMidSound)
+{
+    ASSERT_TRUE(program_.hasTold("ready"));
+    EXPECT_TRUE(isHeard());
+    EXPECT_GT(ask("play", 20), 0);
+    server_.halt();
+    expectTheWindowGoesOn();
+    server_.goOn();
+    EXPECT_TRUE(isHeard());
+}
+
+TEST_F(HaltedServer, HoldsUpNoProgramThatEndsBeforeTheFirstSound)
+{
+    server_.halt();
+    ASSERT_TRUE(program_.hasTold("ready"));
+    EXPECT_GT(ask("play", ShortSeconds), 0);
+    EXPECT_GE(ask("praise", ShortSeconds), 0);
+    expectTheProgramEnds();
+}
+
+TEST_F(HaltedServer, HoldsUpNoProgramThatEndsInMidSound)
+{
+    ASSERT_TRUE(program_.hasTold("ready"));
+    EXPECT_TRUE(isHeard());
+    server_.halt();
+    EXPECT_GT(ask("play", ShortSeconds), 0);
+    EXPECT_GE(ask("praise", ShortSeconds), 0);
+    expectTheProgramEnds();
+}
+
+class DeadServer : public HaltedServer
+{
+};
+
+TEST_F(DeadServer, IsHeardAgainWhenItIsBack)
+{
+    ASSERT_TRUE(program_.hasTold("ready"));
+    EXPECT_TRUE(isHeard());
+    server_.kill();
+    EXPECT_GT(ask("play", ShortSeconds), 0);
+    server_.start();
+    EXPECT_TRUE(isHeard());
+}
+
+} // namespace
