@@ -15,6 +15,7 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <cstdio>
 #include <ctime>
@@ -46,6 +47,8 @@ void playFourVoices(const String& path, double seconds)
     CoreSoundFacet& player = coreRoot().CoreSoundFacet();
     const auto sound = player.load(path);
     std::vector<CoreSoundFacet::Voice> voices(4);
+    QTimer looking;
+    looking.start(50);
     const double begin = secondsOf(CLOCK_MONOTONIC);
     const double used = secondsOf(CLOCK_PROCESS_CPUTIME_ID);
     while (secondsOf(CLOCK_MONOTONIC) < begin + seconds) {
