@@ -53,6 +53,7 @@ struct ListRow::Properties {
         rows::property<u"TitleShort">(&ListRow::titleShort_),
         rows::property<u"ToolTipText">(&ListRow::toolTip_),
         rows::property<u"Tag">(&ListRow::tag_).still(),
+        rows::property<u"ForeColor">(&ListRow::foreColor_),
     };
     static constexpr auto Effect = &ListRow::tellChanged;
 };
@@ -78,6 +79,7 @@ void ListRow::Title(String value) { rows::set<Properties, u"Title">(*this, std::
 void ListRow::TitleShort(String value) { rows::set<Properties, u"TitleShort">(*this, std::move(value)); }
 void ListRow::ToolTipText(String value) { rows::set<Properties, u"ToolTipText">(*this, std::move(value)); }
 void ListRow::Tag(String value) { rows::set<Properties, u"Tag">(*this, std::move(value)); }
+void ListRow::ForeColor(Colour value) { rows::set<Properties, u"ForeColor">(*this, value); }
 // clang-format on
 
 String ListRow::Cell(std::int32_t column) const

@@ -61,6 +61,9 @@ public:
     void ToolTipText(String value);
     String Tag() const { return tag_; }
     void Tag(String value);
+    /// The slot of window text, as at first, stands for the list's own colour.
+    Colour ForeColor() const { return foreColor_; }
+    void ForeColor(Colour value);
     /// The text in a column, which counts from 1 (the title) to MostColumns; empty where none was set. Raises
     /// 9 outside.
     static constexpr std::int32_t MostColumns = 100;
@@ -78,6 +81,7 @@ private:
     String titleShort_;
     String toolTip_;
     String tag_;
+    Colour foreColor_ = SystemColour::WindowText;
     std::vector<String> further_;            ///< from the second column on
     std::shared_ptr<const Event<>> changed_; ///< of the list's rows
 };

@@ -420,6 +420,21 @@ TEST_F(NativeControlsTest, AShortTitleStandsWhereTheColumnHasNoRoom)
     EXPECT_EQ(shownTitle(), QStringLiteral("Wasserstoff"));
 }
 
+TEST_F(NativeControlsTest, RowsOfAListViewShowTheirColourAndCanBeTouched)
+{
+    const auto list = shown<ListView>(u"lst_Elements");
+    list->Move(0, 0, 400, 200);
+    list->COLUMNHEADERS()->Add(u"Element", 0);
+    list->ITEMS()->Add(u"Helium");
+    list->ITEMS()->Add(u"Neon")->ForeColor(RGB(0, 128, 0));
+    auto& widget = static_cast<QTreeWidget&>(widgetOf(*list));
+    EXPECT_EQ(widget.topLevelItem(0)->foreground(0), QBrush());
+    EXPECT_EQ(widget.topLevelItem(1)->foreground(0).color(), QColor(0, 128, 0));
+    EXPECT_GE(widget.visualItemRect(widget.topLevelItem(1)).height(), 36);
+    list->ITEMS()->Item(2)->ForeColor(SystemColour::WindowText);
+    EXPECT_EQ(widget.topLevelItem(1)->foreground(0), QBrush());
+}
+
 TEST_F(NativeControlsTest, DisabledAndHiddenFollowTheModel)
 {
     const auto field = shown<TextBox>(u"txt_Input");

@@ -1,5 +1,6 @@
 #include "visual/ListView.h"
 
+#include "core/Palette.h"
 #include "core/Variant.h"
 #include "visual/FormTest.h"
 
@@ -63,6 +64,16 @@ TEST_F(ListViews, RefuseWhatIsNotThere)
     EXPECT_RAISES(list->ITEMS()->Item(4), IndexOutOfBounds);
     EXPECT_RAISES(list->ITEMS()->RemoveAt(4), IndexOutOfBounds);
     EXPECT_RAISES(list->COLUMNHEADERS()->Add(u"Name", 100)->Width(-1), InvalidArgument);
+}
+
+TEST_F(ListViews, ARowMayHaveAColourOfItsOwn)
+{
+    const auto row = list->ITEMS()->Item(2);
+    EXPECT_EQ(row->ForeColor(), SystemColour::WindowText);
+    logs(list->ITEMS()->changed(), "changed");
+    row->ForeColor(Palette::Right);
+    EXPECT_EQ(row->ForeColor(), Palette::Right);
+    EXPECT_EQ(log.size(), 1U);
 }
 
 TEST_F(ListViews, TheTitleIsTheFirstCellAndFurtherOnesComeAsTheyAreSet)

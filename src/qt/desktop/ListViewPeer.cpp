@@ -17,7 +17,8 @@ namespace phial::qt
 namespace
 {
 
-constexpr int CellPadding = 12; // left and right of a text together, as the sheet has it
+constexpr int CellPadding = 12;  // left and right of a text together, as the sheet has it
+constexpr double RowHeight = 36; // pixels of the form: what a finger meets
 
 } // namespace
 
@@ -105,7 +106,11 @@ void ListViewPeer::showColumns()
 void ListViewPeer::showRow(QTreeWidgetItem& line, const ListRow& row)
 {
     const auto& columns = *model_->COLUMNHEADERS();
+    const bool isOwn = !(row.ForeColor() == SystemColour::WindowText);
+    const QBrush ink = isOwn ? QBrush(toQColor(row.ForeColor())) : QBrush();
+    line.setSizeHint(0, QSize(0, static_cast<int>(std::ceil(RowHeight * zoomOf(*model_)))));
     for (int at = 0; at < columns.Count(); ++at) {
+        line.setForeground(at, ink);
         if (at > 0) {
             line.setText(at, toQt(row.Cell(at + 1)));
         }
