@@ -18,6 +18,7 @@
 #include "core/NativePath.h"
 #include "results/cls_DataScores.h"
 #include "server/cls_AppServer.h"
+#include "visual/ListView.h"
 
 #include <filesystem>
 
@@ -134,6 +135,8 @@ public:
         take(u"missed");
         finishRound();
         take(u"summary");
+        window_.form().control<phial::ListView>(u"lst_Review")->inputChoice(2);
+        take(u"working");
     }
 
     /// The insides of windows on the screens that schools have; the second one at 125 %.

@@ -4,6 +4,7 @@
 #include "common/ctl_RoundDots.h"
 #include "results/ctl_Mark.h"
 #include "visual/FormDesign.h"
+#include "visual/ListView.h"
 #include "visual/Shape.h"
 #include "visual/ctl_Button.h"
 #include "visual/ctl_Gradient.h"
@@ -24,6 +25,7 @@ using phial::ctl_Mark;
 using phial::ctl_Pannel;
 using phial::design;
 using phial::FontWeight;
+using phial::ListView;
 using phial::Shape;
 using phial::StringView;
 namespace Palette = phial::Palette;
@@ -180,26 +182,37 @@ inline constexpr ControlDesign Tail[] = {
         .align(TopLeft),
     sideButton(u"but_Stop", {640, 424, 228, 56}, u"Beenden|Quit").inside(u"pan_Task"),
 
-    centred(u"lab_Praise", {60, 20, 780, 48}, 24, FontWeight::Bold).inside(u"pan_Summary"),
-    centred(u"lab_Result", {60, 68, 780, 40}, 18).inside(u"pan_Summary"),
-    panel(u"pan_ResultBack", {200, 116, 500, 14}, Palette::Divider, Palette::Divider).inside(u"pan_Summary"),
-    panel(u"pan_ResultDone", {200, 116, 500, 14}, Palette::Accent, Palette::Accent).inside(u"pan_Summary"),
-    design<ctl_Label>(u"lab_Solved", {60, 136, 780, 32})
+    centred(u"lab_Praise", {32, 12, 836, 44}, 20, FontWeight::Bold).inside(u"pan_Summary"),
+    centred(u"lab_Result", {32, 64, 308, 36}, 18).inside(u"pan_Summary"),
+    panel(u"pan_ResultBack", {32, 108, 308, 14}, Palette::Divider, Palette::Divider).inside(u"pan_Summary"),
+    panel(u"pan_ResultDone", {32, 108, 308, 14}, Palette::Accent, Palette::Accent).inside(u"pan_Summary"),
+    design<ctl_Label>(u"lab_Solved", {32, 130, 308, 48})
         .inside(u"pan_Summary")
         .font(13)
         .ink(Palette::Muted)
         .align(MiddleCentre),
-    design<ctl_Mark>(u"ctl_Mark1", {300, 180, 300, 60}).inside(u"pan_Summary").ground(Palette::Ground),
-    centred(u"lab_Mark", {60, 248, 780, 32}, 14, FontWeight::Bold).inside(u"pan_Summary"),
-    centred(u"lab_Rank", {60, 280, 780, 32}, 13).inside(u"pan_Summary"),
-    sideButton(u"but_List", {60, 328, 246, 64}, u"Bestenliste|Best rounds").inside(u"pan_Summary"),
-    sideButton(u"but_Certificate", {327, 328, 246, 64}, u"Urkunde drucken|Print certificate")
+    design<ctl_Mark>(u"ctl_Mark1", {36, 192, 300, 37}).inside(u"pan_Summary").ground(Palette::Ground),
+    centred(u"lab_Mark", {32, 236, 308, 32}, 14, FontWeight::Bold).inside(u"pan_Summary"),
+    centred(u"lab_Rank", {32, 276, 308, 84}, 13).inside(u"pan_Summary"),
+    design<ListView>(u"lst_Review", {364, 64, 504, 220})
+        .inside(u"pan_Summary")
+        .font(12)
+        .ground(Palette::Surface)
+        .ink(Palette::Ink)
+        .spoken(u"Die Aufgaben der Runde|The tasks of the round"),
+    design<ctl_Label>(u"lab_Working", {364, 292, 504, 68})
+        .inside(u"pan_Summary")
+        .font(12)
+        .ink(Palette::Ink)
+        .align(TopLeft),
+    sideButton(u"but_List", {32, 376, 268, 52}, u"Bestenliste|Best rounds").inside(u"pan_Summary"),
+    sideButton(u"but_Certificate", {316, 376, 268, 52}, u"Urkunde drucken|Print certificate")
         .inside(u"pan_Summary"),
-    sideButton(u"but_Export", {594, 328, 246, 64}, u"Liste als Text|List as text").inside(u"pan_Summary"),
-    mainButton(u"but_Again", {60, 412, 246, 76}, u"Noch einmal|Again").inside(u"pan_Summary"),
-    leavingButton(u"but_Missed", {327, 412, 246, 76}, u"Nur die falschen|Only the missed ones")
+    sideButton(u"but_Export", {600, 376, 268, 52}, u"Liste als Text|List as text").inside(u"pan_Summary"),
+    mainButton(u"but_Again", {32, 444, 268, 72}, u"Noch einmal|Again").inside(u"pan_Summary"),
+    leavingButton(u"but_Missed", {316, 444, 268, 72}, u"Nur die falschen|Only the missed ones")
         .inside(u"pan_Summary"),
-    leavingButton(u"but_Quit", {594, 412, 246, 76}, u"Beenden|Quit").inside(u"pan_Summary"),
+    leavingButton(u"but_Quit", {600, 444, 268, 72}, u"Beenden|Quit").inside(u"pan_Summary"),
 
     heading(u"lab_WaitingTitle", {60, 60, 780, 48}, u"Gleich geht es los|It will begin soon")
         .inside(u"pan_Waiting"),

@@ -49,8 +49,8 @@ struct TaskChoice {
 /// knows about its tasks. The frame has everything else: the window, the pages, points and tries, the
 /// classroom, lists and certificates.
 ///
-/// The frame calls `attach` once, then `begin` for each round and `show` for each of its tasks; everything
-/// below these two is called only while a task is shown.
+/// The frame calls `attach` once, then `begin` for each round and `show` for each of its tasks, behind the
+/// round once more to tell about them; everything below these two is called only while a task is shown.
 class LearningApp
 {
 public:
@@ -83,6 +83,8 @@ public:
     virtual phial::String taskName() const = 0;
     /// What screen readers say of the task that is shown, in the language in force; its name by itself.
     virtual phial::String spoken() const { return taskName(); }
+    /// The task in one line of plain text, as the summary lists it.
+    virtual phial::String taskTitle() const { return taskName(); }
     /// The present answer, by which the same one is known again however it was written.
     virtual phial::String answer() const = 0;
     /// What the present answer is worth.

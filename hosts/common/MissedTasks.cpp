@@ -1,9 +1,6 @@
 #include "common/MissedTasks.h"
 
-#include "app/Settings.h"
-#include "app/cls_App.h"
-#include "app/cls_AppConfig.h"
-#include "app/sys_Global.h"
+#include "common/PupilSetting.h"
 #include "core/CoreRegistry.h"
 #include "core/CoreRoot.h"
 #include "core/CoreStringList.h"
@@ -22,17 +19,9 @@ namespace
 
 constexpr auto Hive = phial::SettingsHive::CurrentUser;
 
-/// A setting of its own for each name; what would open another folder there becomes a blank.
-String settingOf(StringView pupil)
-{
-    String name(pupil);
-    std::replace(name.begin(), name.end(), u'\\', u' ');
-    return phial::settings::path(u"Missed\\" + phial::QVAPP()->CONFIG()->IDENT() + u"\\" + name);
-}
-
 } // namespace
 
-MissedTasks::MissedTasks(StringView pupil) : path_(settingOf(pupil))
+MissedTasks::MissedTasks(StringView pupil) : path_(pupilSetting(u"Missed", pupil))
 {
     phial::ignoringErrors([&] {
         for (const String& task : phial::coreRoot().CoreRegistry().CoreRegistryRead().ReadList(Hive, path_)) {

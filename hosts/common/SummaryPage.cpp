@@ -11,6 +11,7 @@
 #include "results/cls_DataScores.h"
 #include "results/ctl_Mark.h"
 #include "visual/ctl_Button.h"
+#include "visual/ctl_Label.h"
 #include "visual/ctl_Pannel.h"
 
 namespace learning
@@ -36,7 +37,7 @@ void orTell(Action action, const String& failure)
 
 } // namespace
 
-SummaryPage::SummaryPage(phial::Form& form, const AppTexts& texts) : form_(form), texts_(texts)
+SummaryPage::SummaryPage(phial::Form& form, const AppTexts& texts) : form_(form), texts_(texts), review_(form)
 {
     const auto press = [this](StringView button, auto action) {
         connections_ += form_.control<phial::ctl_Button>(button)->CLICK.connect(action);
@@ -46,18 +47,18 @@ SummaryPage::SummaryPage(phial::Form& form, const AppTexts& texts) : form_(form)
     press(u"but_Export", [this] { exportList(); });
 }
 
-void SummaryPage::show(const RoundResult& result, LevelTitle level, RoundKind kind)
+void SummaryPage::show(FinishedRound round, std::vector<ReviewedTask> tasks)
 {
-    result_ = result;
-    level_ = std::move(level);
-    kind_ = kind;
+    round_ = std::move(round);
+    const RoundResult& result = round_.result;
     rank_ = 0;
     const auto bar = form_.control<phial::ctl_Pannel>(u"pan_ResultDone");
-    bar->Width(form_.control<phial::ctl_Pannel>(u"pan_ResultBack")->Width() * result_.share());
-    bar->Visible(result_.points > 0);
-    form_.control<phial::ctl_Button>(u"but_Certificate")->Enabled(kind == RoundKind::Counting);
+    bar->Width(form_.control<phial::ctl_Pannel>(u"pan_ResultBack")->Width() * round_.result.share());
+    bar->Visible(round_.result.points > 0);
+    form_.control<phial::ctl_Button>(u"but_Certificate")->Enabled(round_.kind == RoundKind::Counting);
     offerMissed(result.solved < result.tasks);
     showMark();
+    review_.show(std::move(tasks));
     TRANSLATE();
 }
 
@@ -77,8 +78,9 @@ void SummaryPage::submit()
     submitting(true);
     phial::HandedIn handedIn;
     try {
-        const phial::CoreParameters additional = additionalValues(result_);
-        handedIn = QVAPP()->RATE()->handIn(result_.points, result_.maximum, result_.exercise, &additional);
+        const phial::CoreParameters additional = additionalValues(round_.result);
+        handedIn = QVAPP()->RATE()->handIn(round_.result.points, round_.result.maximum,
+                                           round_.result.exercise, &additional);
     } catch (const phial::RuntimeError&) {
         submitting(false); // the page goes on whatever happens to the lists
         throw;
@@ -107,35 +109,55 @@ void SummaryPage::showMark()
 {
     const auto mark = form_.control<phial::ctl_Mark>(u"ctl_Mark1");
     mark->MARK(static_cast<phial::enm_Mark>(
-        QVAPP()->RATE()->MARKPOINTS(result_.points, result_.maximum, result_.exercise)));
+        QVAPP()->RATE()->MARKPOINTS(round_.result.points, round_.result.maximum, round_.result.exercise)));
     // The control has its own size.
-    const auto page = form_.control<phial::ctl_Pannel>(u"pan_Summary");
-    mark->frame().Left((page->Width() - mark->frame().Width()) / 2);
+    const auto words = form_.control<phial::ctl_Label>(u"lab_Mark");
+    mark->frame().Left(words->Left() + (words->Width() - mark->frame().Width()) / 2);
 }
 
 void SummaryPage::TRANSLATE()
 {
-    caption(form_, u"lab_Praise",
-            result_.share() >= 0.9   ? translate(u"Ausgezeichnet!", u"Excellent!")
-            : result_.share() >= 0.6 ? translate(u"Gut gemacht!", u"Well done!")
-                                     : translate(u"Übung macht den Meister!", u"Practice makes perfect!"));
+    const RoundResult& result = round_.result;
+    showPraise();
     caption(form_, u"lab_Result",
             translate(u"{1} von {2} Punkten", u"{1} of {2} points",
-                      {number(result_.points), number(result_.maximum)}));
-    caption(form_, u"lab_Solved", translate(texts_.solved, {number(result_.solved), number(result_.tasks)}));
-    caption(form_, u"lab_Mark", translate(u"Note {1}", u"Mark {1}", {markText(result_)}));
+                      {number(result.points), number(result.maximum)}));
+    caption(form_, u"lab_Mark", translate(u"Note {1}", u"Mark {1}", {markText(result)}));
     showRank();
+}
+
+/// What comes first, and what stands below the points.
+void SummaryPage::showPraise()
+{
+    const double share = round_.result.share();
+    const String praise = share >= 0.9   ? translate(u"Ausgezeichnet!", u"Excellent!")
+                          : share >= 0.6 ? translate(u"Gut gemacht!", u"Well done!")
+                                         : translate(u"Übung macht den Meister!", u"Practice makes perfect!");
+    const bool solvedFirst = share < 0.6 && round_.result.solved > 0;
+    caption(form_, u"lab_Praise", solvedFirst ? solvedText() : praise);
+    caption(form_, u"lab_Solved", solvedFirst ? praise : solvedText());
+}
+
+String SummaryPage::solvedText() const
+{
+    const RoundResult& result = round_.result;
+    const int more = result.solved - round_.solvedBefore.value_or(result.solved);
+    return translate(texts_.solved, {number(result.solved), number(result.tasks)}) +
+           (more == 1  ? translate(u", eine mehr als zuletzt", u", one more than last time")
+            : more > 1 ? translate(u", {1} mehr als zuletzt", u", {1} more than last time", {number(more)})
+                       : String());
 }
 
 void SummaryPage::showRank()
 {
-    caption(
-        form_, u"lab_Rank",
-        isSubmitting_ ? translate(u"Dein Ergebnis wird eingetragen …", u"Your result is being handed in …")
-        : kind_ == RoundKind::Practice ? translate(u"Diese Runde war zum Üben, sie zählt in keiner Liste.",
-                                                   u"This round was for practice, it counts in no list.")
-        : rank_ > 0 ? translate(u"Platz {1} der Bestenliste", u"Number {1} of the best", {number(rank_)})
-                    : String());
+    caption(form_, u"lab_Rank",
+            isSubmitting_
+                ? translate(u"Dein Ergebnis wird eingetragen …", u"Your result is being handed in …")
+            : round_.kind == RoundKind::Practice
+                ? translate(u"Diese Runde war zum Üben, sie zählt in keiner Liste.",
+                            u"This round was for practice, it counts in no list.")
+            : rank_ > 0 ? translate(u"Platz {1} der Bestenliste", u"Number {1} of the best", {number(rank_)})
+                        : String());
 }
 
 void SummaryPage::showList()
@@ -152,7 +174,8 @@ void SummaryPage::printCertificate()
             phial::CoreParameters more;
             more.Set(u"TITLE", translate(texts_.diploma));
             QVAPP()->RATE()->PRINTCERTIFICATE(
-                certificateText(texts_.certificate, result_, translate(level_.german, level_.english)),
+                certificateText(texts_.certificate, round_.result,
+                                translate(round_.level.german, round_.level.english)),
                 &more);
         },
         translate(u"Die Urkunde konnte nicht gedruckt werden. Bitte prüfe den Drucker.",

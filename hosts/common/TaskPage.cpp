@@ -60,6 +60,17 @@ void TaskPage::begin(std::size_t level, const TaskChoice& choice)
     showTask();
 }
 
+std::vector<ReviewedTask> TaskPage::review()
+{
+    std::vector<ReviewedTask> tasks;
+    for (int position = 1; position <= round_->count(); ++position) {
+        app_.show(position);
+        tasks.push_back(
+            {app_.taskTitle(), app_.working(), round_->outcome(position), round_->pointsOf(position)});
+    }
+    return tasks;
+}
+
 void TaskPage::deafFor(std::int32_t milliseconds)
 {
     deaf_.Interval(milliseconds);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/LearningApp.h"
+#include "common/ReviewList.h"
 #include "core/Event.h"
 #include "visual/Form.h"
 #include "visual/Timer.h"
@@ -28,6 +29,8 @@ public:
     void begin(std::size_t level);
     /// Begins a round of those tasks of the last one that were missed.
     void beginMissed(std::size_t level);
+    /// The tasks of the round that is over, in the language in force. Their page shows the last one then.
+    std::vector<ReviewedTask> review();
     /// Forgets the round; its points leave the header.
     void end();
     /// The round under way or just finished; null without one.

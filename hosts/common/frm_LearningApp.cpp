@@ -10,6 +10,7 @@
 #include "app/cls_Language.h"
 #include "app/ctl_Avatar.h"
 #include "app/sys_Global.h"
+#include "common/FormerRound.h"
 #include "common/FrameDesign.h"
 #include "common/FrameTexts.h"
 #include "common/ListNotices.h"
@@ -296,6 +297,9 @@ void frm_LearningApp::TRANSLATE()
     caption(*form_, u"lab_Missing", missingText());
     tasks_->TRANSLATE();
     summary_->TRANSLATE();
+    if (page_ == Page::Summary) {
+        summary_->showAgain(tasks_->review());
+    }
     sounds_->TRANSLATE();
     showClassroom();
 }
@@ -382,10 +386,15 @@ void frm_LearningApp::finishRound()
                              .maximum = round.maximum(),
                              .solved = round.solved(),
                              .tasks = round.count()};
-    summary_->show(result, level, kind_);
+    const bool counts = kind_ == RoundKind::Counting;
+    summary_->show({.result = result,
+                    .level = level,
+                    .kind = kind_,
+                    .solvedBefore = counts ? keepRound(QVAPP()->USER()->SCREENNAME(), result) : std::nullopt},
+                   tasks_->review());
     show(Page::Summary);
     sounds_->roundFinished(result.points);
-    if (kind_ == RoundKind::Practice) {
+    if (!counts) {
         return;
     }
     summary_->submit();

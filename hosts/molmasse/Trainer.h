@@ -3,6 +3,7 @@
 #include "common/LearningApp.h"
 #include "common/NumberPad.h"
 #include "molmasse/TrainerData.h"
+#include "molmasse/Working.h"
 #include "term/ctl_TermLabel.h"
 #include "visual/TextBox.h"
 
@@ -29,6 +30,7 @@ public:
     void show(int position) override;
     phial::String taskName() const override { return task_.formula; }
     phial::String spoken() const override;
+    phial::String taskTitle() const override { return formulaLine(task_.formula); }
     phial::String answer() const override;
     learning::Judgement judge() override;
     void retry() override;

@@ -7,6 +7,7 @@
 #include "results/cls_DataScores.h"
 #include "results/ctl_Mark.h"
 #include "visual/Label.h"
+#include "visual/ListView.h"
 
 #include <gmock/gmock-matchers.h>
 
@@ -18,6 +19,8 @@ namespace
 using phial::String;
 using phial::StringView;
 using phial::headless::Box;
+using ::testing::_;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
 // What follows a round on a computer of its own: lists, mark, certificate, text file.
@@ -41,6 +44,17 @@ protected:
     }
 
     std::shared_ptr<phial::ctl_Mark> mark() { return form().control<phial::ctl_Mark>(u"ctl_Mark1"); }
+    std::shared_ptr<phial::ListView> reviewed() { return form().control<phial::ListView>(u"lst_Review"); }
+    std::shared_ptr<phial::ListRow> reviewRow(std::int32_t row) { return reviewed()->ITEMS()->Item(row); }
+    /// The cells of the rows.
+    std::vector<std::vector<String>> review()
+    {
+        std::vector<std::vector<String>> rows;
+        for (const auto& row : *reviewed()->ITEMS()) {
+            rows.push_back({row->Cell(1), row->Cell(2), row->Cell(3)});
+        }
+        return rows;
+    }
     String lastBoxTitle() { return outside.dialogs().shown().back().title; }
 };
 
@@ -82,8 +96,8 @@ TEST_F(TrainerResult, OfARoundWithMissedTasksOffersThemAgain)
     expectRankBox();
     type(u"{enter}");
     EXPECT_TRUE(isSeen(u"but_Missed"));
-    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Again")->Width(), 246);
-    EXPECT_EQ(seen(u"lab_Solved"), u"1 von 2 Formeln gelöst");
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Again")->Width(), 268);
+    EXPECT_EQ(seen(u"lab_Praise"), u"1 von 2 Formeln gelöst");
 
     touch(u"but_Missed");
     EXPECT_EQ(seen(u"lab_Progress"), u"Aufgabe 1 von 1");
@@ -91,7 +105,7 @@ TEST_F(TrainerResult, OfARoundWithMissedTasksOffersThemAgain)
     type(u"18{enter}{enter}");
     EXPECT_EQ(seen(u"lab_Rank"), u"Diese Runde war zum Üben, sie zählt in keiner Liste.");
     EXPECT_FALSE(isSeen(u"but_Missed")) << "nothing is left";
-    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Again")->Width(), 513);
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Again")->Width(), 552);
     EXPECT_FALSE(form().control<phial::ctl_Button>(u"but_Certificate")->Enabled());
     EXPECT_EQ(stored(u"HIGHSCORE.qv-hsr")->COUNT(), 1);
     EXPECT_EQ(stored(u"results.qv-rsl")->COUNT(), 1);
@@ -101,6 +115,82 @@ TEST_F(TrainerResult, OfARoundWithMissedTasksOffersThemAgain)
     playRound();
     EXPECT_FALSE(isSeen(u"but_Missed"));
     EXPECT_TRUE(form().control<phial::ctl_Button>(u"but_Certificate")->Enabled());
+}
+
+TEST_F(TrainerResult, ListsTheTasksWithSignWordAndColour)
+{
+    open();
+    touch(u"but_Level", 0);
+    type(u"1{enter}18{enter}{enter}1{enter}2{enter}3{enter}");
+    expectRankBox();
+    type(u"{enter}");
+    EXPECT_THAT(review(), ElementsAre(ElementsAre(u"H\u2082O", u"\u21BB später richtig", u"7"),
+                                      ElementsAre(u"NaCl", u"\u2715 nicht gelöst", u"0")));
+    EXPECT_EQ(reviewRow(1)->ForeColor(), phial::Palette::TryAgain);
+    EXPECT_EQ(reviewRow(2)->ForeColor(), phial::Palette::Failure);
+
+    touch(u"but_Again");
+    touch(u"but_Level", 0);
+    type(u"58,4{enter}{enter}18{enter}"); // what was missed comes first
+    expectRankBox();
+    type(u"{enter}");
+    EXPECT_THAT(review(), ElementsAre(ElementsAre(u"NaCl", _, u"10"),
+                                      ElementsAre(u"H\u2082O", u"\u2713 gleich richtig", u"10")));
+    EXPECT_EQ(reviewRow(2)->ForeColor(), phial::Palette::Right);
+}
+
+TEST_F(TrainerResult, ShowsTheWorkingOfTheChosenTask)
+{
+    open();
+    expectRankBox();
+    playRound();
+    EXPECT_EQ(seen(u"lab_Working"), u"Wähle eine Aufgabe, dann siehst du hier den Rechenweg.");
+    reviewed()->inputChoice(1);
+    EXPECT_EQ(seen(u"lab_Working"), u"H\u2082O:<br>2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+    EXPECT_EQ(reviewed()->frame().announcement(), u"H\u2082O:\n2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+
+    touch(u"but_Language");
+    EXPECT_EQ(seen(u"lab_Working"), u"H\u2082O:<br>2 \u00D7 1.0 + 16.0 = 18.0 g/mol");
+    EXPECT_EQ(reviewRow(1)->Cell(2), u"\u2713 right at once");
+    EXPECT_EQ(reviewed()->COLUMNHEADERS()->Item(3)->Text(), u"Points");
+
+    touch(u"but_Again");
+    expectRankBox();
+    playRound();
+    EXPECT_EQ(seen(u"lab_Working"), u"Choose a task to see here how it is worked out.");
+}
+
+TEST_F(TrainerResult, TheTasksAreReachedByTab)
+{
+    open();
+    expectRankBox();
+    playRound();
+    while (focused() != u"lst_Review") {
+        phial::headless::tab(form(), true);
+        ASSERT_NE(focused(), u"but_Again");
+    }
+    EXPECT_EQ(reviewed()->frame().AccessibleName(), u"Die Aufgaben der Runde");
+}
+
+TEST_F(TrainerResult, OfAWeakRoundBeginsWithWhatWasSolved)
+{
+    open();
+    const auto play = [this](StringView keys) {
+        touch(u"but_Level", 0);
+        type(keys);
+        expectRankBox();
+        type(u"{enter}");
+    };
+    play(u"1{enter}2{enter}3{enter}{enter}1{enter}2{enter}3{enter}");
+    EXPECT_EQ(seen(u"lab_Praise"), u"Übung macht den Meister!");
+    EXPECT_EQ(seen(u"lab_Solved"), u"0 von 2 Formeln gelöst");
+
+    touch(u"but_Again");
+    play(u"18{enter}{enter}1{enter}2{enter}3{enter}");
+    EXPECT_EQ(seen(u"lab_Praise"), u"1 von 2 Formeln gelöst, eine mehr als zuletzt");
+    EXPECT_EQ(seen(u"lab_Solved"), u"Übung macht den Meister!");
+    touch(u"but_Language");
+    EXPECT_EQ(seen(u"lab_Praise"), u"1 of 2 formulas solved, one more than last time");
 }
 
 TEST_F(TrainerResult, LetsTheNextRoundBeginWithWhatWasMissed)
@@ -153,14 +243,14 @@ TEST_F(TrainerResult, ShowsTheMarkAsASignAndInWords)
     EXPECT_EQ(seen(u"lab_Rank"), u"Number 2 of the best");
 }
 
-TEST_F(TrainerResult, TheMarkStandsInTheMiddleOfThePage)
+TEST_F(TrainerResult, TheMarkStandsAboveTheMiddleOfItsWords)
 {
     open();
     expectRankBox();
     playRound();
 
-    const double page = form().control<phial::ctl_Pannel>(u"pan_Summary")->Width();
-    EXPECT_NEAR(mark()->frame().Left() + mark()->frame().Width() / 2, page / 2, 1);
+    const auto middleOf = [](const phial::Control& control) { return control.Left() + control.Width() / 2; };
+    EXPECT_NEAR(middleOf(*mark()), middleOf(*form().control<phial::ctl_Label>(u"lab_Mark")), 1);
 }
 
 TEST_F(TrainerResult, ThatTheListDoesNotTakeHasNoRank)
@@ -276,13 +366,13 @@ TEST_F(TrainerResult, EverythingOnThePageIsReachedByTab)
     playRound();
 
     std::vector<String> stops;
-    for (int i = 0; i < 10; ++i) {
+    for (int i = 0; i < 11; ++i) {
         stops.push_back(focused());
         phial::headless::tab(form());
     }
     EXPECT_THAT(stops, ::testing::ElementsAre(u"but_Again", u"but_Quit", u"but_Sound", u"ctl_User",
-                                              u"but_Language", u"but_Screen", u"but_Help", u"but_List",
-                                              u"but_Certificate", u"but_Export"));
+                                              u"but_Language", u"but_Screen", u"but_Help", u"lst_Review",
+                                              u"but_List", u"but_Certificate", u"but_Export"));
 }
 
 } // namespace
