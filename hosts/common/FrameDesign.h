@@ -158,6 +158,13 @@ inline constexpr ControlDesign Head[] = {
         .ink(Palette::Muted)
         .align(TopLeft),
 
+    design<ctl_Label>(u"lab_Complaint", {60, 488, 780, 44})
+        .inside(u"pan_Start")
+        .font(10)
+        .ink(Palette::TryAgain)
+        .align(MiddleLeft)
+        .set(u"PlainText", true),
+
     design<ctl_Label>(u"lab_Progress", {32, 12, 400, 28})
         .inside(u"pan_Task")
         .font(12)

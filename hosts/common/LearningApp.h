@@ -66,6 +66,8 @@ public:
     /// What keeps the app from starting, in the language in force; empty when it has all it needs.
     virtual phial::String missing() const { return {}; }
     virtual std::vector<LevelTitle> levels() const = 0;
+    /// What the teacher should mend in the app's files, in the language in force; empty for nothing.
+    virtual phial::String complaint() const { return {}; }
 
     /// The app's controls, which stand in `pan_Task` at the places that frame_design::TaskPlaces tells. The
     /// Tab key goes through them before it comes to the frame's buttons.

@@ -18,6 +18,10 @@ namespace
 
 constexpr StringView Cross = u"\u2715";
 constexpr double EdgeWidth = 2;
+constexpr double LeastDisc = 26;     // pixels, so that its points can be read
+constexpr double LeastPoints = 9.75; // size of the points, in points: 13 pixels
+constexpr double BarHeight = 14;
+constexpr double BarGap = 12; // between the present disc and the bar
 
 } // namespace
 
@@ -30,6 +34,25 @@ void ctl_RoundDots::show(const Round& round)
     present_ = static_cast<std::size_t>(round.position() - 1);
     triesLeft_ = round.triesLeft();
     surface_.invalidate();
+}
+
+bool ctl_RoundDots::hasRoomForAll() const
+{
+    return surface_.size().width >= LeastDisc * static_cast<double>(dots_.size());
+}
+
+/// The square of the present task's disc where it is the only one.
+PixelRectangle ctl_RoundDots::presentPlace() const
+{
+    const double side = surface_.size().height;
+    return {0, 0, side, side};
+}
+
+PixelRectangle ctl_RoundDots::bar() const
+{
+    const auto [width, height] = surface_.size();
+    const double left = presentPlace().right() + BarGap;
+    return {left, (height - BarHeight) / 2, std::max(0.0, width - left), BarHeight};
 }
 
 /// The square of a disc: as large as the row is high, or as its share of the width.
@@ -46,14 +69,47 @@ void ctl_RoundDots::paint()
 {
     surface_.BackColor(Palette::Ground);
     surface_.device().Cls();
+    if (!hasRoomForAll()) {
+        paintDot(present_, presentPlace());
+        paintBar();
+        return;
+    }
     for (std::size_t dot = 0; dot < dots_.size(); ++dot) {
-        paintDot(dot);
+        paintDot(dot, place(dot));
     }
 }
 
-void ctl_RoundDots::paintDot(std::size_t dot)
+void ctl_RoundDots::paintBar()
 {
-    const PixelRectangle square = place(dot);
+    const PixelRectangle area = bar();
+    phial::DrawDevice& device = surface_.device();
+    device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, Palette::Surface,
+                phial::LineShape::Filled);
+    for (std::size_t dot = 0; dot < dots_.size(); ++dot) {
+        paintShare(dot);
+    }
+    device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, Palette::ControlBorder,
+                phial::LineShape::Box);
+}
+
+/// The part of the bar that belongs to a task.
+void ctl_RoundDots::paintShare(std::size_t dot)
+{
+    const Outcome outcome = dots_[dot].outcome;
+    if (outcome == Outcome::Open) {
+        return;
+    }
+    const PixelRectangle area = bar();
+    const bool missed = outcome == Outcome::Missed;
+    const double share = area.width / static_cast<double>(dots_.size());
+    const double left = area.left + share * static_cast<double>(dot);
+    const double top = area.bottom() - (missed ? area.height / 3 : area.height);
+    surface_.device().Line(left, top, left + share - 1, area.bottom() - 1,
+                           missed ? Palette::Failure : Palette::Right, phial::LineShape::Filled);
+}
+
+void ctl_RoundDots::paintDot(std::size_t dot, const PixelRectangle& square)
+{
     const phial::String points = number(dots_[dot].points);
     switch (dots_[dot].outcome) {
     case Outcome::AtOnce:
@@ -105,7 +161,7 @@ void ctl_RoundDots::disc(const PixelRectangle& place, Colour fill, Colour edge)
 void ctl_RoundDots::print(const PixelRectangle& place, StringView text, Colour ink)
 {
     phial::DrawDevice& device = surface_.device();
-    device.FontSize(0.32 * place.height);
+    device.FontSize(std::max(LeastPoints, 0.32 * place.height));
     device.FontBold(true);
     device.ForeColor(ink);
     device.CurrentX(place.left + (place.width - device.TextWidth(text)) / 2);
@@ -116,13 +172,31 @@ void ctl_RoundDots::print(const PixelRectangle& place, StringView text, Colour i
 std::vector<phial::NamedPart> ctl_RoundDots::parts() const
 {
     std::vector<phial::NamedPart> parts;
+    const auto add = [&parts](const PixelRectangle& area, phial::String name) {
+        phial::NamedPart& part = parts.emplace_back();
+        part.area = area;
+        part.name = std::move(name);
+    };
+    if (!hasRoomForAll()) {
+        add(presentPlace(), spoken(present_));
+        add(bar(), spokenBar());
+        return parts;
+    }
     for (std::size_t dot = 0; dot < dots_.size(); ++dot) {
-        phial::NamedPart part;
-        part.area = place(dot);
-        part.name = spoken(dot);
-        parts.push_back(std::move(part));
+        add(place(dot), spoken(dot));
     }
     return parts;
+}
+
+phial::String ctl_RoundDots::spokenBar() const
+{
+    const auto open = std::ranges::count(dots_, Outcome::Open, &Dot::outcome);
+    const auto missed = std::ranges::count(dots_, Outcome::Missed, &Dot::outcome);
+    const auto all = static_cast<std::ptrdiff_t>(dots_.size());
+    return translate(u"{1} gelöst, {2} nicht gelöst, {3} kommen noch",
+                     u"{1} solved, {2} not solved, {3} to come",
+                     {number(static_cast<int>(all - open - missed)), number(static_cast<int>(missed)),
+                      number(static_cast<int>(open))});
 }
 
 phial::String ctl_RoundDots::spoken(std::size_t dot) const

@@ -312,6 +312,7 @@ void frm_LearningApp::showAppTexts()
     caption(*form_, u"lab_Intro", translate(texts.introduction));
     caption(*form_, u"lab_Note", translate(texts.note));
     caption(*form_, u"lab_Waiting", translate(texts.waiting));
+    caption(*form_, u"lab_Complaint", app_->complaint());
 }
 
 String frm_LearningApp::missingText() const

@@ -1,7 +1,5 @@
 #include "molmasse/MassJudge.h"
 
-#include "core/CoreNumbers.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -26,12 +24,6 @@ double tolerance(double molarMass)
 bool isRight(double answer, double molarMass)
 {
     return std::abs(answer - molarMass) <= tolerance(molarMass) + RoundingAllowance;
-}
-
-std::optional<double> typedMass(phial::StringView answer)
-{
-    double value = 0;
-    return phial::CoreNumbers::ToDouble(phial::trimmed(answer), value) ? std::optional(value) : std::nullopt;
 }
 
 Judgement judgeMass(std::optional<double> answer, double schoolMass, double exactMass)

@@ -16,9 +16,6 @@ double tolerance(double molarMass);
 /// Whether an answer counts as right. The bound itself is still right.
 bool isRight(double answer, double molarMass);
 
-/// A typed mass, in g/mol; comma and point are both decimal signs. Empty where it is no number.
-std::optional<double> typedMass(phial::StringView answer);
-
 /// What a typed mass is worth: it is right when it is so for the molar mass of the school's table, with one
 /// decimal an element, or for the exact one, with all digits. Of octane both 114.0 and 114.23 are right.
 learning::Judgement judgeMass(std::optional<double> answer, double schoolMass, double exactMass);

@@ -1,16 +1,11 @@
 #include "molmasse/Trainer.h"
 
-#include "common/Drawing.h"
 #include "common/FrameTexts.h"
-#include "core/NumberText.h"
-#include "core/Palette.h"
+#include "common/TermFit.h"
 #include "molmasse/MassJudge.h"
 #include "molmasse/Mistakes.h"
 #include "molmasse/TrainerDesign.h"
 #include "molmasse/Working.h"
-
-#include <algorithm>
-#include <functional>
 
 namespace molmasse
 {
@@ -26,11 +21,10 @@ constexpr learning::AppTexts Texts{
     .title = u"Molmassen-Trainer|Molar mass trainer",
     .question = u"Was wiegt ein Mol davon?|What does a mole of it weigh?",
     .introduction =
-        u"Bis zu zehn Formeln warten auf dich. Bestimme zu jeder die molare Masse in g/mol und tippe sie "
-        u"ein, "
-        u"mit Komma oder Punkt. Wähle, wie schwer es werden soll:|"
-        u"Ten formulas are waiting for you. Work out the molar mass of each in g/mol and type it, "
-        u"with a comma or a point. Choose how hard it shall be:",
+        u"Bestimme zu jeder Formel die molare Masse in g/mol und tippe sie ein, mit Komma oder Punkt. "
+        u"Wähle, wie schwer es werden soll:|"
+        u"Work out the molar mass of each formula in g/mol and type it, with a comma or a point. "
+        u"Choose how hard it shall be:",
     .note =
         u"Gerundete Atommassen zählen so gut wie genaue: ±0,1 g/mol, bei großen Massen ±0,2 % und höchstens "
         u"±0,5 g/mol.|"
@@ -69,15 +63,6 @@ String Trainer::missing() const
                                       {data_.missingFile});
 }
 
-std::vector<learning::LevelTitle> Trainer::levels() const
-{
-    std::vector<learning::LevelTitle> titles;
-    for (const Level& level : data_.tasks.levels) {
-        titles.push_back({level.germanTitle, level.englishTitle});
-    }
-    return titles;
-}
-
 std::span<const phial::ControlDesign> Trainer::controls() const
 {
     return trainer_design::Controls;
@@ -87,13 +72,12 @@ void Trainer::attach(phial::Form& form)
 {
     form_ = &form;
     formula_ = form.control<phial::ctl_TermLabel>(u"trm_Formula");
-    answer_ = form.control<phial::TextBox>(u"txt_Answer");
-    pad_.emplace(form, answer_);
+    answer_.emplace(form);
 }
 
 void Trainer::TRANSLATE()
 {
-    pad_->TRANSLATE();
+    answer_->TRANSLATE();
     showName();
 }
 
@@ -104,56 +88,29 @@ void Trainer::showName()
 
 int Trainer::begin(std::size_t level, const learning::TaskChoice& choice)
 {
-    const auto isPreferred = [&choice](const Task& task) { return choice.preferred(task.formula); };
-    std::vector<Task> pool = data_.tasks.levels.at(level).tasks;
-    if (choice.preferredOnly && std::ranges::any_of(pool, isPreferred)) {
-        std::erase_if(pool, std::not_fn(isPreferred));
-    }
-    tasks_ = learning::drawTasks(std::move(pool), TasksInRound, learning::randomBelow, isPreferred);
+    tasks_ = drawRound(data_.tasks.levels.at(level), choice);
     return static_cast<int>(tasks_.size());
 }
 
 void Trainer::show(int position)
 {
     task_ = tasks_.at(static_cast<std::size_t>(position - 1));
-    mass_ = data_.elements->MOL(task_.formula);
-    exactMass_ = exactMass(data_.exactMasses, task_.formula).value_or(mass_);
-    formula_->Term(task_.formula);
+    mass_ = data_.elements->MOL(task_.text);
+    exactMass_ = exactMass(data_.exactMasses, task_.text).value_or(mass_);
+    learning::showFitting(*formula_, task_.text);
     showName();
-    answer_->Text({});
-    answer_->Locked(false);
-    answer_->BackColor(phial::Palette::Surface);
-    pad_->Enabled(true);
+    answer_->open();
 }
 
 String Trainer::spoken() const
 {
-    return translate(task_.germanName, task_.englishName) + u", " + task_.formula;
-}
-
-String Trainer::answer() const
-{
-    const auto mass = typedMass(answer_->Text());
-    return mass ? phial::plainText(*mass, u',') : String();
+    return translate(task_.germanName, task_.englishName) + u", " + task_.text;
 }
 
 Judgement Trainer::judge()
 {
-    judged_ = typedMass(answer_->Text());
+    judged_ = answer_->value();
     return judgeMass(judged_, mass_, exactMass_);
-}
-
-void Trainer::retry()
-{
-    answer_->SelStart(0);
-    answer_->SelLength(static_cast<std::int32_t>(answer_->Text().size()));
-}
-
-void Trainer::close()
-{
-    answer_->Locked(true);
-    answer_->BackColor(phial::Palette::Ground); // as nothing that one types into
-    pad_->Enabled(false);
 }
 
 String Trainer::solution() const
@@ -169,7 +126,7 @@ String Trainer::unreadable() const
 
 String Trainer::hint() const
 {
-    return atomsCounted(*data_.elements, task_.formula, AtomMasses::Shown);
+    return atomsCounted(*data_.elements, task_.text, AtomMasses::Shown);
 }
 
 String Trainer::remark() const
@@ -180,40 +137,40 @@ String Trainer::remark() const
                                            ? data_.elements->ITEM(symbol, false)->PROTONS()
                                            : 0;
                             }};
-    const auto diagnosis = mistakeOf(task_.formula, judged_.value_or(0), source);
+    const auto diagnosis = mistakeOf(task_.text, judged_.value_or(0), source);
     return diagnosis ? explained(*diagnosis) : String();
 }
 
 String Trainer::support() const
 {
-    return atomsCounted(*data_.elements, task_.formula, AtomMasses::Hidden);
+    return atomsCounted(*data_.elements, task_.text, AtomMasses::Hidden);
 }
 
 String Trainer::working() const
 {
-    return workedLine(*data_.elements, task_.formula);
+    return workedLine(*data_.elements, task_.text);
 }
 
 void Trainer::fillWrong()
 {
-    const String typical = massOfFirstElement(*data_.elements, task_.formula);
-    const auto before = typedMass(answer_->Text());
-    answer_->Text(before && before == typedMass(typical) ? massText(*before + 1000)
-                  : before                               ? massText(*before + 1)
-                                                         : typical);
+    const String typical = massOfFirstElement(*data_.elements, task_.text);
+    const auto before = answer_->value();
+    answer_->field()->Text(before && before == learning::typedNumber(typical) ? massText(*before + 1000)
+                           : before                                           ? massText(*before + 1)
+                                                                              : typical);
 }
 
 void Trainer::fill(Sample sample)
 {
     switch (sample) {
     case Sample::Right:
-        answer_->Text(massText(mass_));
+        answer_->field()->Text(massText(mass_));
         return;
     case Sample::Wrong:
         fillWrong();
         return;
     case Sample::Unreadable:
-        answer_->Text(translate(u"viel", u"much"));
+        answer_->field()->Text(translate(u"viel", u"much"));
         return;
     }
 }

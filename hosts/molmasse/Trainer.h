@@ -1,11 +1,10 @@
 #pragma once
 
 #include "common/LearningApp.h"
-#include "common/NumberPad.h"
+#include "common/NumberAnswer.h"
 #include "molmasse/TrainerData.h"
 #include "molmasse/Working.h"
 #include "term/ctl_TermLabel.h"
-#include "visual/TextBox.h"
 
 #include <optional>
 
@@ -16,26 +15,25 @@ namespace molmasse
 class Trainer final : public learning::LearningApp
 {
 public:
-    static constexpr std::size_t TasksInRound = 10;
-
     explicit Trainer(TrainerData data) : data_(std::move(data)) {}
 
     const learning::AppTexts& texts() const override;
     phial::String missing() const override;
-    std::vector<learning::LevelTitle> levels() const override;
+    std::vector<learning::LevelTitle> levels() const override { return titlesOf(data_.tasks); }
+    phial::String complaint() const override { return complaintText(data_.tasks, TaskFileName); }
     std::span<const phial::ControlDesign> controls() const override;
     void attach(phial::Form& form) override;
     void TRANSLATE() override;
     int begin(std::size_t level, const learning::TaskChoice& choice) override;
     void show(int position) override;
-    phial::String taskName() const override { return task_.formula; }
+    phial::String taskName() const override { return task_.text; }
     phial::String spoken() const override;
-    phial::String taskTitle() const override { return formulaLine(task_.formula); }
-    phial::String answer() const override;
+    phial::String taskTitle() const override { return formulaLine(task_.text); }
+    phial::String answer() const override { return answer_->text(); }
     learning::Judgement judge() override;
-    void retry() override;
-    void close() override;
-    phial::ControlPtr field() const override { return answer_; }
+    void retry() override { answer_->retry(); }
+    void close() override { answer_->close(); }
+    phial::ControlPtr field() const override { return answer_->field(); }
     phial::String solution() const override;
     phial::String unreadable() const override;
     phial::String hint() const override;
@@ -49,15 +47,14 @@ private:
     void fillWrong();
 
     TrainerData data_;
-    std::vector<Task> tasks_; ///< of the round
-    Task task_;
+    std::vector<learning::ListedTask> tasks_; ///< of the round
+    learning::ListedTask task_;
     double mass_ = 0;              ///< its molar mass by the table, one decimal an element, in g/mol
     double exactMass_ = 0;         ///< the same with all digits
     std::optional<double> judged_; ///< the last answer, in g/mol
     phial::Form* form_ = nullptr;
     std::shared_ptr<phial::ctl_TermLabel> formula_;
-    std::shared_ptr<phial::TextBox> answer_;
-    std::optional<learning::NumberPad> pad_;
+    std::optional<learning::NumberAnswer> answer_;
 };
 
 } // namespace molmasse

@@ -5,8 +5,10 @@
 #include "app/sys_Global.h"
 #include "chem/ElementFileReader.h"
 #include "chem/FormulaAnalysis.h"
+#include "common/TermFit.h"
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
+#include "molmasse/TrainerDesign.h"
 
 namespace molmasse
 {
@@ -23,10 +25,13 @@ std::shared_ptr<phial::cls_DataElements> readElements(const String& file)
     return elements->COUNT() > 0 ? elements : nullptr;
 }
 
-TaskList readTasks(const String& file)
+learning::TaskFile readTasks(const String& file, const phial::cls_DataElements& elements)
 {
-    TaskList tasks;
-    phial::ignoringErrors([&] { tasks = readTaskList(phial::coreRoot().CoreFiles().ReadText(file)); });
+    learning::TaskFile tasks;
+    phial::ignoringErrors([&] {
+        tasks = learning::readTaskFile(phial::coreRoot().CoreFiles().ReadText(file),
+                                       [&](const String& formula) { return faultOf(elements, formula); });
+    });
     return tasks;
 }
 
@@ -60,6 +65,22 @@ std::optional<double> exactMass(const std::map<String, double>& masses, phial::S
     return sum;
 }
 
+std::optional<learning::TaskFault> faultOf(const phial::cls_DataElements& elements, const String& formula)
+{
+    std::size_t position = 0;
+    phial::StringView symbol = phial::nextSymbol(formula, position);
+    if (symbol.empty()) {
+        return learning::TaskFault::NoTask;
+    }
+    for (; !symbol.empty(); symbol = phial::nextSymbol(formula, position)) {
+        if (!elements.EXISTS(String(symbol))) {
+            return learning::TaskFault::UnknownElement;
+        }
+    }
+    const bool fits = learning::fittingTermSize(formula, trainer_design::FormulaWidth).has_value();
+    return fits ? std::nullopt : std::optional(learning::TaskFault::TooLong);
+}
+
 TrainerData loadTrainerData()
 {
     TrainerData data;
@@ -72,8 +93,8 @@ TrainerData loadTrainerData()
     }
     phial::ignoringErrors(
         [&] { data.exactMasses = readExactMasses(phial::coreRoot().CoreFiles().ReadText(elementFile)); });
-    const String taskFile = folders->DATAAPP() + u"formeln.txt";
-    data.tasks = readTasks(taskFile);
+    const String taskFile = folders->DATAAPP() + String(TaskFileName);
+    data.tasks = readTasks(taskFile, *data.elements);
     if (data.tasks.levels.empty()) {
         data.missingFile = taskFile;
     }

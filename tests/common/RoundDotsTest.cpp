@@ -13,6 +13,7 @@ namespace
 
 using phial::String;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 
 class RoundDots : public phial::test::AppSession
 {
@@ -58,6 +59,38 @@ TEST_F(RoundDots, SayHowEachTaskStands)
     phial::LNG()->CURRENT(phial::ID_Language_English);
     EXPECT_THAT(spoken(), ElementsAre(u"Task 1: 10 points", u"Task 2: not solved", u"Task 3: to come",
                                       u"Task 4: to come"));
+}
+
+TEST_F(RoundDots, OfALongRoundAreTheOnePresentAndABar)
+{
+    constexpr int Tasks = 37;
+    Round longRound(Tasks);
+    longRound.count(Judgement::Right);
+    longRound.next();
+    for (int tries = 0; tries < Round::Tries; ++tries) {
+        longRound.count(Judgement::Wrong);
+    }
+    longRound.next();
+    dots->frame().Move(0, 0, 600 * 15, 30 * 15);
+    dots->show(longRound);
+    EXPECT_THAT(spoken(),
+                ElementsAre(u"Aufgabe 3: noch 3 Versuche", u"1 gelöst, 1 nicht gelöst, 35 kommen noch"));
+    const auto parts = dots->parts();
+    EXPECT_EQ(parts[0].area, (phial::PixelRectangle{0, 0, 30, 30}));
+    EXPECT_EQ(parts[1].area, (phial::PixelRectangle{42, 8, 558, 14}));
+
+    const std::string drawn = outside.visual().drawing(*dots);
+    EXPECT_THAT(drawn, HasSubstr("box 42,8 15.081x14 fill")) << "solved: as high as the bar";
+    EXPECT_THAT(drawn, HasSubstr("box 57.081,17.333 15.081x4.667 fill")) << "missed: a third of it";
+}
+
+TEST_F(RoundDots, HaveADiscEachAsLongAsTheirPointsCanBeRead)
+{
+    dots->frame().Move(0, 0, 560 * 15, 30 * 15);
+    dots->show(Round(21));
+    EXPECT_EQ(dots->parts().size(), 21U);
+    dots->show(Round(22));
+    EXPECT_EQ(dots->parts().size(), 2U);
 }
 
 TEST_F(RoundDots, StandInARowOfSquares)

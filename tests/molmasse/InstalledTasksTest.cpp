@@ -3,7 +3,6 @@
 #include "core/CoreRoot.h"
 #include "core/NativePath.h"
 #include "molmasse/MassJudge.h"
-#include "molmasse/TaskList.h"
 #include "molmasse/TrainerData.h"
 #include "support/HeadlessSession.h"
 #include "support/Places.h"
@@ -29,14 +28,16 @@ protected:
         elements.IMPORT2(tree + u"\\Resources\\data\\elements2.dat");
         exactMasses =
             readExactMasses(coreRoot().CoreFiles().ReadText(tree + u"\\Resources\\data\\elements2.dat"));
-        tasks = readTaskList(coreRoot().CoreFiles().ReadText(tree + u"\\apps\\Molmasse\\data\\formeln.txt"));
+        tasks = learning::readTaskFile(
+            coreRoot().CoreFiles().ReadText(tree + u"\\apps\\Molmasse\\data\\formeln.txt"),
+            [this](const String& formula) { return faultOf(elements, formula); });
     }
 
     bool holdsHydrogen(const String& formula) const { return elements.ELEMENTSCOUNT(formula).Exists(u"H"); }
 
     cls_DataElements elements;
     std::map<String, double> exactMasses;
-    TaskList tasks;
+    learning::TaskFile tasks;
 };
 
 TEST_F(InstalledTasks, HaveThreeLevelsOfAtLeastTwentyFormulas)
@@ -46,9 +47,9 @@ TEST_F(InstalledTasks, HaveThreeLevelsOfAtLeastTwentyFormulas)
     EXPECT_EQ(tasks.levels[0].key, u"leicht");
     EXPECT_EQ(tasks.levels[1].key, u"mittel");
     EXPECT_EQ(tasks.levels[2].key, u"schwer");
-    for (const Level& level : tasks.levels) {
+    for (const learning::TaskLevel& level : tasks.levels) {
         EXPECT_GE(level.tasks.size(), 20U) << toUtf8(level.key);
-        EXPECT_NE(level.germanTitle, level.englishTitle);
+        EXPECT_NE(level.title.german, level.title.english);
     }
 }
 
@@ -56,12 +57,12 @@ TEST_F(InstalledTasks, HaveThreeLevelsOfAtLeastTwentyFormulas)
 // nothing.
 TEST_F(InstalledTasks, CountEachAtomOfKnownElements)
 {
-    for (const Level& level : tasks.levels) {
-        for (const Task& task : level.tasks) {
-            const CoreTokenList atoms = elements.ELEMENTSCOUNT(task.formula);
+    for (const learning::TaskLevel& level : tasks.levels) {
+        for (const learning::ListedTask& task : level.tasks) {
+            const CoreTokenList atoms = elements.ELEMENTSCOUNT(task.text);
             for (std::int32_t index = 1; index <= atoms.Count(); ++index) {
-                EXPECT_TRUE(elements.EXISTS(atoms.Item(index).Name())) << toUtf8(task.formula);
-                EXPECT_GE(atoms.Item(index).Values().Item(1).toReal(), 1) << toUtf8(task.formula);
+                EXPECT_TRUE(elements.EXISTS(atoms.Item(index).Name())) << toUtf8(task.text);
+                EXPECT_GE(atoms.Item(index).Values().Item(1).toReal(), 1) << toUtf8(task.text);
             }
         }
     }
@@ -71,17 +72,17 @@ TEST_F(InstalledTasks, CountEachAtomOfKnownElements)
 TEST_F(InstalledTasks, AreSolvedByBothMassesAndByNeitherWithoutAHydrogenAtom)
 {
     using learning::Judgement;
-    for (const Level& level : tasks.levels) {
-        for (const Task& task : level.tasks) {
-            SCOPED_TRACE(toUtf8(task.formula));
-            const double school = elements.MOL(task.formula);
-            const auto exact = exactMass(exactMasses, task.formula);
+    for (const learning::TaskLevel& level : tasks.levels) {
+        for (const learning::ListedTask& task : level.tasks) {
+            SCOPED_TRACE(toUtf8(task.text));
+            const double school = elements.MOL(task.text);
+            const auto exact = exactMass(exactMasses, task.text);
             ASSERT_TRUE(exact);
             const double shown = std::round(*exact * 100) / 100;
             for (const double answer : {school, *exact, shown}) {
                 EXPECT_EQ(judgeMass(answer, school, *exact), Judgement::Right) << answer;
             }
-            if (holdsHydrogen(task.formula)) {
+            if (holdsHydrogen(task.text)) {
                 EXPECT_EQ(judgeMass(school - 1.0, school, *exact), Judgement::Wrong);
                 EXPECT_EQ(judgeMass(*exact - 1.008, school, *exact), Judgement::Wrong);
             }
@@ -92,9 +93,9 @@ TEST_F(InstalledTasks, AreSolvedByBothMassesAndByNeitherWithoutAHydrogenAtom)
 // The error message for an answer that is none has a number in it.
 TEST_F(InstalledTasks, AreNotSolvedByTheExampleOfANumber)
 {
-    for (const Level& level : tasks.levels) {
-        for (const Task& task : level.tasks) {
-            EXPECT_FALSE(isRight(12.5, elements.MOL(task.formula))) << toUtf8(task.formula);
+    for (const learning::TaskLevel& level : tasks.levels) {
+        for (const learning::ListedTask& task : level.tasks) {
+            EXPECT_FALSE(isRight(12.5, elements.MOL(task.text))) << toUtf8(task.text);
         }
     }
 }
@@ -102,10 +103,10 @@ TEST_F(InstalledTasks, AreNotSolvedByTheExampleOfANumber)
 TEST_F(InstalledTasks, AreDistinctAndNamedInBothLanguages)
 {
     std::set<String> formulas;
-    for (const Level& level : tasks.levels) {
-        for (const Task& task : level.tasks) {
-            EXPECT_TRUE(formulas.insert(task.formula).second) << toUtf8(task.formula);
-            EXPECT_FALSE(task.germanName.empty() || task.englishName.empty()) << toUtf8(task.formula);
+    for (const learning::TaskLevel& level : tasks.levels) {
+        for (const learning::ListedTask& task : level.tasks) {
+            EXPECT_TRUE(formulas.insert(task.text).second) << toUtf8(task.text);
+            EXPECT_FALSE(task.germanName.empty() || task.englishName.empty()) << toUtf8(task.text);
         }
     }
 }

@@ -1,5 +1,7 @@
 #include "molmasse/MassJudge.h"
 
+#include "common/NumberAnswer.h"
+
 #include <gtest/gtest.h>
 
 namespace molmasse
@@ -11,14 +13,14 @@ using learning::Judgement;
 
 TEST(MassJudgeTest, CommaAndPointAreBothDecimalSigns)
 {
-    EXPECT_EQ(judgeMass(typedMass(u"18,5"), 18.5, 18.5), Judgement::Right);
-    EXPECT_EQ(judgeMass(typedMass(u" 18.5 "), 18.5, 18.5), Judgement::Right);
+    EXPECT_EQ(judgeMass(learning::typedNumber(u"18,5"), 18.5, 18.5), Judgement::Right);
+    EXPECT_EQ(judgeMass(learning::typedNumber(u" 18.5 "), 18.5, 18.5), Judgement::Right);
 }
 
 TEST(MassJudgeTest, WhatIsNoNumberIsNoAnswer)
 {
-    EXPECT_EQ(judgeMass(typedMass(u""), 18, 18), Judgement::Unreadable);
-    EXPECT_EQ(judgeMass(typedMass(u"viel"), 18, 18), Judgement::Unreadable);
+    EXPECT_EQ(judgeMass(learning::typedNumber(u""), 18, 18), Judgement::Unreadable);
+    EXPECT_EQ(judgeMass(learning::typedNumber(u"viel"), 18, 18), Judgement::Unreadable);
 }
 
 TEST(MassJudgeTest, TheExactMassIsAsRightAsTheSchools)

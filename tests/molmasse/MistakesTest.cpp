@@ -6,7 +6,6 @@
 #include "core/CoreNumbers.h"
 #include "core/NativePath.h"
 #include "molmasse/MassJudge.h"
-#include "molmasse/TaskList.h"
 #include "support/AppSession.h"
 #include "support/CaseTable.h"
 #include "support/Places.h"
