@@ -128,14 +128,15 @@ void Loudspeakers::play(const Client& client, const VoiceBoard::Waiting& waiting
 
 void Loudspeakers::feed()
 {
-    for (const Sounding& each : sounding_) {
+    std::erase_if(sounding_, [this](const Sounding& each) {
         each.sink->feed(each.client.board->gain());
-        if (each.sink->isLost()) {
+        const bool isLost = each.sink->isLost(); // once, as it may be lost at any moment
+        if (isLost) {
             each.client.board->lose(each.voice);
             takesSounds_ = false;
         }
-    }
-    std::erase_if(sounding_, [](const Sounding& each) { return each.sink->hasRungOut(); });
+        return isLost || each.sink->hasRungOut();
+    });
     if (sounding_.empty()) {
         feeding_->stop();
     }

@@ -16,10 +16,12 @@ QtMessageHandler otherMessages = nullptr;
 /// The module writes under the common category, so that only the beginnings tell its messages.
 bool isOfSoundModule(const QString& message)
 {
-    constexpr QLatin1String Beginnings[] = {
-        QLatin1String("PulseAudioService:"), QLatin1String("\"PulseAudioService:"),
-        QLatin1String("\"Stream error:"), QLatin1String("Failed to initialize output ALSA device"),
-        QLatin1String("No audio device detected")};
+    constexpr QLatin1String Beginnings[] = {QLatin1String("PulseAudioService:"),
+                                            QLatin1String("\"PulseAudioService:"),
+                                            QLatin1String("\"Stream error:"),
+                                            QLatin1String("QAudioSink(pulseaudio):"),
+                                            QLatin1String("Failed to initialize output ALSA device"),
+                                            QLatin1String("No audio device detected")};
     return std::any_of(std::begin(Beginnings), std::end(Beginnings),
                        [&message](QLatin1String beginning) { return message.startsWith(beginning); });
 }

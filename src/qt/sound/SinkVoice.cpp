@@ -86,14 +86,16 @@ SinkVoice::~SinkVoice()
 
 bool SinkVoice::isLost() const
 {
-    // While no events run, only the room tells that a server has gone.
-    return device_ == nullptr || sink_->state() == QAudio::StoppedState || sink_->bytesFree() < 0;
+    // Each can be the first to tell that a server has gone: the state by an event, the error when it went
+    // just before it was written to, the room at any time.
+    return device_ == nullptr || sink_->state() == QAudio::StoppedState ||
+           sink_->error() == QAudio::IOError || sink_->bytesFree() < 0;
 }
 
 bool SinkVoice::hasRungOut() const
 {
     const double now = clock_.seconds();
-    return isLost() || (!isWanted() && now > fedUntil_ + RingingSeconds) ||
+    return (!isWanted() && now > fedUntil_ + RingingSeconds) ||
            now > begin_ + length_ + VoiceBoard::LatestSeconds;
 }
 

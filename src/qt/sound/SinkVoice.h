@@ -35,8 +35,8 @@ public:
 
     /// Whether the device did not take the sound, or has been lost while it played.
     bool isLost() const;
-    /// Whether nothing of it can be heard any more, or should be, since the device has been held up for too
-    /// long. Letting go of a connection before takes the end away.
+    /// Whether nothing of it can be heard any more, if it is not lost, or should be, since the device has
+    /// been held up for too long. Letting go of a connection before takes the end away.
     bool hasRungOut() const;
 
     void feed(double gain);
