@@ -47,7 +47,7 @@ private:
     void readOne()
     {
         const char16_t unit = rest_.front();
-        if (unit == u'<' && form_ == TextForm::Markup && readTag()) {
+        if (unit == u'<' && form_ != TextForm::Plain && readTag()) {
             return;
         }
         rest_.remove_prefix(1);
@@ -198,7 +198,7 @@ private:
             breakLine();
         }
         for (Piece& piece : word_) {
-            if (form_ == TextForm::Plain) {
+            if (form_ != TextForm::Markup) {
                 breakWithin(piece);
             }
             piece.x = end_;

@@ -27,15 +27,19 @@ std::vector<MarkupRun> parseMarkup(StringView text);
 /// The text as it reads without tags; lines are parted by LF.
 String plainMarkup(StringView text);
 
-/// How a text is read: with markup, or letter by letter, so that tags are seen. Line ends part lines in both.
-enum class TextForm : std::int32_t { Markup, Plain };
+/// How a text is read: with markup, or letter by letter, so that tags are seen. Line ends part lines in all.
+enum class TextForm : std::int32_t {
+    Markup,
+    FittedMarkup, ///< words wider than the line are broken
+    Plain,        ///< likewise
+};
 
 /// Markup set in lines: measured once, drawn as often as needed. All in pixels.
 class MarkupLayout
 {
 public:
-    /// Breaks lines at blanks to fit `wrapWidth`, plain text within longer words as well; none: only where
-    /// the text says so.
+    /// Breaks lines at blanks to fit `wrapWidth`, and within longer words where the form says so; none: only
+    /// where the text says so.
     MarkupLayout(StringView text, const FontSpec& font, TextMetrics& metrics,
                  std::optional<double> wrapWidth = std::nullopt, TextForm form = TextForm::Markup);
 

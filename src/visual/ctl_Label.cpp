@@ -16,6 +16,7 @@ struct ctl_Label::Properties {
         rows::property<u"Alignment">(&ctl_Label::alignment_),
         rows::property<u"AutoSize">(&ctl_Label::autoSize_).then(&ctl_Label::refresh),
         rows::property<u"PlainText">(&ctl_Label::plain_).then(&ctl_Label::refresh).spoken(),
+        rows::property<u"BreaksWords">(&ctl_Label::breaksWords_).then(&ctl_Label::refresh),
         rows::property<u"Raised">(&ctl_Label::raised_),
         rows::property<u"Flat">(&ctl_Label::flat_),
     };
@@ -49,7 +50,7 @@ void ctl_Label::fitToText()
 
 MarkupLayout ctl_Label::layOut(double width) const
 {
-    const TextForm form = plain_ ? TextForm::Plain : TextForm::Markup;
+    const TextForm form = plain_ ? TextForm::Plain : breaksWords_ ? TextForm::FittedMarkup : TextForm::Markup;
     return {caption_, font_->traits(), visualHost().metrics(), width, form};
 }
 
@@ -61,6 +62,7 @@ void ctl_Label::ForeColor(Colour value) { rows::set<Properties, u"ForeColor">(*t
 void ctl_Label::Alignment(TEXTALIGN value) { rows::set<Properties, u"Alignment">(*this, value); }
 void ctl_Label::AutoSize(bool value) { rows::set<Properties, u"AutoSize">(*this, value); }
 void ctl_Label::PlainText(bool value) { rows::set<Properties, u"PlainText">(*this, value); }
+void ctl_Label::BreaksWords(bool value) { rows::set<Properties, u"BreaksWords">(*this, value); }
 void ctl_Label::Raised(bool value) { rows::set<Properties, u"Raised">(*this, value); }
 void ctl_Label::Flat(bool value) { rows::set<Properties, u"Flat">(*this, value); }
 // clang-format on

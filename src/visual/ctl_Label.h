@@ -33,6 +33,9 @@ public:
     /// that users have typed. False at first.
     bool PlainText() const { return plain_; }
     void PlainText(bool value);
+    /// Words wider than the label are broken, as in a plain text. False at first.
+    bool BreaksWords() const { return breaksWords_; }
+    void BreaksWords(bool value);
     /// Raised: the text carries a light edge and a shadow. Flat wins over raised.
     bool Raised() const { return raised_; }
     void Raised(bool value);
@@ -76,6 +79,7 @@ private:
     TEXTALIGN alignment_ = TEXTALIGN::MiddleLeft;
     bool autoSize_ = false;
     bool plain_ = false;
+    bool breaksWords_ = false;
     bool raised_ = false;
     bool flat_ = true;
 };
