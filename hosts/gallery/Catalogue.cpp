@@ -33,6 +33,8 @@ phial::String groupTitle(Group group)
         return say(u"Formeln|Formulas");
     case Group::Sounds:
         return say(u"Klänge|Sounds");
+    case Group::Mascot:
+        return say(u"Maskottchen|Mascot");
     }
     return {};
 }
@@ -40,8 +42,9 @@ phial::String groupTitle(Group group)
 std::vector<Exhibit> catalogue()
 {
     std::vector<Exhibit> all;
-    for (const auto section : {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits,
-                               userExhibits, resultExhibits, formulaExhibits, soundExhibits}) {
+    for (const auto section :
+         {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits, userExhibits,
+          resultExhibits, formulaExhibits, soundExhibits, mascotExhibits}) {
         std::ranges::move(section(), std::back_inserter(all));
     }
     std::ranges::stable_sort(all, {}, &Exhibit::group);

@@ -17,6 +17,7 @@ std::vector<Exhibit> windowExhibits();
 std::vector<Exhibit> resultExhibits();
 std::vector<Exhibit> formulaExhibits();
 std::vector<Exhibit> soundExhibits();
+std::vector<Exhibit> mascotExhibits();
 
 /// All exhibits, section by section.
 std::vector<Exhibit> catalogue();
