@@ -1,5 +1,6 @@
 #pragma once
 
+#include "visual/ComboBox.h"
 #include "visual/FormDesign.h"
 #include "visual/PictureBox.h"
 #include "visual/ScrollBar.h"
@@ -28,6 +29,18 @@ inline constexpr double LastStepX = 218;
 inline constexpr double LastStepY = 74;
 inline constexpr StringView NobodyYet = u"Noch Niemand|Nobody yet";
 
+/// Where nobody has been here yet, the name's field leaves room for a choice of names.
+inline constexpr double NameBesideChoice = 236;
+inline constexpr StringView NamesTitle = u"Oder wähle einen:|Or choose one:";
+/// For whoever cannot type, and for whoever would rather not tell: "German|English", each a name that the
+/// dialog takes.
+inline constexpr StringView FriendlyNames[] = {
+    u"Schlauer Fuchs|Clever Fox",   u"Flinke Biene|Busy Bee",          u"Kluge Eule|Wise Owl",
+    u"Mutiger Bär|Brave Bear",      u"Leiser Luchs|Quiet Lynx",        u"Bunter Falter|Bright Butterfly",
+    u"Ruhiger Wal|Calm Whale",      u"Froher Otter|Happy Otter",       u"Schneller Hase|Swift Hare",
+    u"Sanfter Delfin|Kind Dolphin", u"Neugieriger Rabe|Curious Raven", u"Starker Elch|Strong Moose",
+};
+
 inline constexpr StringView Confirm = u"DIALOG.OK();";
 inline constexpr StringView Abort = u"DIALOG.ABORT();";
 inline constexpr ButtonDesign Commands[] = {{Confirm, u"OK|OK"}, {Abort, u"Abbrechen|Cancel"}};
@@ -40,6 +53,12 @@ inline constexpr ControlDesign Controls[] = {
         .ink(Palette::OnAccent),
     design<ctl_Label>(u"Label1", {24, 80, 420, 24}, u"Dein Name:|Your name:").font(11).ink(Palette::Ink),
     design<TextBox>(u"txt_Screenname", {24, 106, 420, 44}).font(15).spoken(u"Dein Name|Your name"),
+    design<ctl_Label>(u"lab_Names", {276, 80, 168, 24}).font(11).ink(Palette::Ink).hidden(),
+    design<ComboBox>(u"cbo_Names", {276, 106, 168, 44})
+        .font(11)
+        .set(u"Style", ComboStyle::ListOnly)
+        .spoken(u"Namen zum Aussuchen|Names to choose from")
+        .hidden(),
     design<ctl_Label>(u"lab_Recent", {24, 164, 420, 24}, u"Schon einmal hier:|Here before:")
         .font(11)
         .ink(Palette::Ink),

@@ -67,7 +67,8 @@ String login()
 
 frm_DialogUser::frm_DialogUser()
     : form_(user_design::Design), screenName_(form_->control<TextBox>(u"txt_Screenname")),
-      lastPictures_(*form_, u"pic_Last"), lastNames_(*form_, u"lab_Last")
+      names_(form_->control<ComboBox>(u"cbo_Names")), lastPictures_(*form_, u"pic_Last"),
+      lastNames_(*form_, u"lab_Last")
 {
     lastPictures_.adopt();
     lastNames_.adopt();
@@ -87,6 +88,7 @@ void frm_DialogUser::connect()
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->KeyDown, [this](KeyEvent& event) { keyDown(event); });
     form_.on(screenName_->Click, [this] { openKeyboard(); });
+    form_.on(names_->Click, [this] { takeName(); });
     form_.command(u"bar_Buttons", user_design::Confirm, [this] { confirm(); });
     form_.command(u"bar_Buttons", user_design::Abort, [this] { abort(); });
     const auto avatars = form_->control<PictureBox>(u"pic_Avatars");
@@ -123,6 +125,7 @@ void frm_DialogUser::TRANSLATE()
             lastNames_(place)->Caption(*name);
         }
     }
+    fillNames();
 }
 
 void frm_DialogUser::load()
@@ -148,9 +151,36 @@ void frm_DialogUser::fillLast()
         }
         drawPlace(place);
     }
-    if (!names.empty()) {
-        screenName_->Text(names.front().name);
-        selectAvatar(names.front().avatar);
+    if (names.empty()) {
+        offerNames();
+        return;
+    }
+    screenName_->Text(names.front().name);
+    selectAvatar(names.front().avatar);
+}
+
+/// Where nobody has been here yet.
+void frm_DialogUser::offerNames()
+{
+    screenName_->Width(user_design::NameBesideChoice);
+    form_->control<ctl_Label>(u"lab_Names")->Visible(true);
+    names_->Visible(true);
+}
+
+/// In the language in force; the name that was taken stays in its field.
+void frm_DialogUser::fillNames()
+{
+    form_->control<ctl_Label>(u"lab_Names")->Caption(LNG()->TRANSLATEAUTO(user_design::NamesTitle));
+    names_->Clear();
+    for (const StringView name : user_design::FriendlyNames) {
+        names_->AddItem(LNG()->TRANSLATEAUTO(name));
+    }
+}
+
+void frm_DialogUser::takeName()
+{
+    if (names_->ListIndex() >= 0) {
+        screenName_->Text(names_->List(names_->ListIndex()));
     }
 }
 

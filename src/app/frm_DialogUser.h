@@ -15,9 +15,9 @@
 namespace phial
 {
 
-/// The dialog in which a pupil chooses name and avatar, afresh or out of the six latest entries. Return
-/// confirms and Escape aborts, as the two buttons do; closing its frame aborts too. An object serves for one
-/// dialog.
+/// The dialog in which a pupil chooses name and avatar, afresh or out of the six latest entries; where there
+/// is none yet, out of some friendly names too, so that a name can be had without typing. Return confirms and
+/// Escape aborts, as the two buttons do; closing its frame aborts too. An object serves for one dialog.
 class frm_DialogUser
 {
 public:
@@ -40,6 +40,9 @@ private:
     void connectLast();
     void load();
     void fillLast();
+    void offerNames();
+    void fillNames();
+    void takeName();
     void fillPlace(std::int32_t place, const String& name, const String& avatar);
     void drawPlace(std::int32_t place);
     void takeLast(std::int32_t place);
@@ -54,6 +57,7 @@ private:
     String userAvatar_;
     DesignedForm form_;
     std::shared_ptr<TextBox> screenName_;
+    std::shared_ptr<ComboBox> names_;
     ControlArray<PictureBox> lastPictures_;
     ControlArray<ctl_Label> lastNames_;
     std::array<std::optional<String>, dialog_user_design::LastPlaces>

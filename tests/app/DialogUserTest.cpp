@@ -3,6 +3,7 @@
 #include "app/frm_DialogUser.h"
 #include "headless/Hand.h"
 #include "support/MarkedWaves.h"
+#include "visual/ComboBox.h"
 #include "visual/ScrollBar.h"
 #include "visual/Shape.h"
 #include "visual/ctl_CmdBar.h"
@@ -80,6 +81,40 @@ protected:
 
     std::shared_ptr<Form> dialog;
 };
+
+TEST_F(DialogUser, OffersNamesToChooseFromWhereNobodyHasBeenHere)
+{
+    LNG()->CURRENT(ID_Language_German);
+    EXPECT_TRUE(play([&] {
+        const auto names = get<ComboBox>(u"cbo_Names");
+        ASSERT_TRUE(names->frame().isReachable());
+        EXPECT_EQ(names->ListIndex(), -1);
+        EXPECT_LE(get<TextBox>(u"txt_Screenname")->Left() + get<TextBox>(u"txt_Screenname")->Width(),
+                  names->Left());
+        names->inputChoice(2);
+        EXPECT_EQ(name(), u"Kluge Eule");
+        confirm();
+    }));
+    EXPECT_EQ(QVAPP()->USER()->SCREENNAME(), u"Kluge Eule");
+    look([&] { EXPECT_FALSE(get<ComboBox>(u"cbo_Names")->frame().isReachable()) << "there is a name now"; });
+}
+
+TEST_F(DialogUser, OffersNamesInTheLanguageInForceAndEachIsTaken)
+{
+    for (const auto language : {ID_Language_German, ID_Language_English}) {
+        look([&] {
+            LNG()->CURRENT(language);
+            const auto names = get<ComboBox>(u"cbo_Names");
+            EXPECT_EQ(names->List(0), language == ID_Language_German ? u"Schlauer Fuchs" : u"Clever Fox");
+            EXPECT_EQ(names->ListCount(), 12);
+            for (std::int32_t at = 0; at < names->ListCount(); ++at) {
+                EXPECT_GE(names->List(at).size(), 3U);
+                EXPECT_LE(names->List(at).size(), 20U);
+                EXPECT_EQ(names->List(at).find(u':'), String::npos);
+            }
+        });
+    }
+}
 
 TEST_F(DialogUser, BeginsWithTheLoginAndTheFirstAvatar)
 {
