@@ -7,8 +7,12 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QTimer>
 
 using namespace phial;
@@ -150,6 +154,18 @@ TEST_F(DialogsTest, EscapeAndTheFramesCloseAbortEachBox)
         abort();
         dialogs_.Done(u"Gespeichert");
     }
+}
+
+TEST_F(DialogsTest, ALongTextIsScrolledSidewaysInsteadOfBroken)
+{
+    whenShown([](QDialog& box) {
+        const auto* text = box.findChild<QPlainTextEdit*>();
+        ASSERT_TRUE(text);
+        EXPECT_EQ(text->document()->firstBlock().layout()->lineCount(), 1);
+        EXPECT_GT(text->horizontalScrollBar()->maximum(), 0);
+        box.close();
+    });
+    dialogs_.Text(replaced(String(300, u'x'), u"x", u"Maxi 12 "), {});
 }
 
 TEST_F(DialogsTest, TextsAreShownAsTheyAre)

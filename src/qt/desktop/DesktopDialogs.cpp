@@ -151,6 +151,7 @@ void DesktopDialogs::Text(StringView pText, StringView pTitle)
     auto* layout = new QVBoxLayout(&dialog);
     auto* text = new QPlainTextEdit(toQt(pText), &dialog);
     text->setReadOnly(true);
+    text->setLineWrapMode(QPlainTextEdit::NoWrap); // one line an entry of a list or log
     layout->addWidget(text);
     layout->addWidget(closingButton(dialog, CloseText, &QDialog::accept), 0, Qt::AlignRight);
     runBox(dialog);
