@@ -111,7 +111,7 @@ public:
         window_.Show();
     }
 
-    ~Tour() { window_.form().Unload(); }
+    ~Tour() { window_.form().discard(); }
     Tour(const Tour&) = delete;
     Tour& operator=(const Tour&) = delete;
 
@@ -120,6 +120,9 @@ public:
         take(u"start");
         press(u"but_Level", static_cast<std::int32_t>(window_.app().levels().size()) - 1);
         take(u"task");
+        press(u"but_Reference");
+        take(u"reference");
+        press(u"but_Reference");
         answer(Judgement::Wrong);
         take(u"wrong");
         press(u"but_Hint");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ctl_Avatar.h"
+#include "common/ctl_Reference.h"
 #include "common/ctl_RoundDots.h"
 #include "results/ctl_Mark.h"
 #include "visual/FormDesign.h"
@@ -158,6 +159,14 @@ inline constexpr ControlDesign Head[] = {
         .ink(Palette::Muted)
         .align(TopLeft),
 
+    design<ctl_Label>(u"lab_Remembered", {60, 428, 513, 48})
+        .inside(u"pan_Start")
+        .font(12)
+        .ink(Palette::Ink)
+        .align(MiddleLeft),
+    sideButton(u"but_Forget", {594, 428, 246, 48}, u"Vergessen …|Forget them …")
+        .inside(u"pan_Start")
+        .hidden(),
     design<ctl_Label>(u"lab_Complaint", {60, 488, 780, 44})
         .inside(u"pan_Start")
         .font(10)
@@ -171,6 +180,8 @@ inline constexpr ControlDesign Head[] = {
         .ink(Palette::Muted)
         .align(MiddleLeft),
     design<ctl_RoundDots>(u"dot_Round", {32, 42, 560, 30}).inside(u"pan_Task"),
+    sideButton(u"but_Reference", {640, 20, 228, 44}, {}).inside(u"pan_Task").unfocusable(),
+    design<ctl_Reference>(u"ref_Drawer", {32, 4, 560, 72}).inside(u"pan_Task").hidden(),
 };
 
 /// Behind the app's own controls: what is pressed when an answer stands there, and the pages that follow.

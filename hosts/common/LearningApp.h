@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/Round.h"
+#include "common/ctl_Reference.h"
 #include "core/String.h"
 #include "visual/Form.h"
 #include "visual/FormDesign.h"
@@ -20,6 +21,8 @@ struct AppTexts {
     phial::StringView question;
     phial::StringView introduction; ///< up to four lines; ends with the choice of the level
     phial::StringView note;         ///< what counts as right
+    /// What may be looked up while a task is worked on, such as "Atommassen|Atomic masses".
+    phial::StringView reference{};
     /// What a pupil reads whom the teacher has not let in yet.
     phial::StringView waiting;
     // Behind a round. {1} solved, {2} tasks.
@@ -112,6 +115,9 @@ public:
     virtual phial::String support() const { return {}; }
     /// How the solution is come by, shown when the task is decided.
     virtual phial::String working() const { return {}; }
+    /// What may be looked up for nothing in a round of the level that has begun, in the language in force;
+    /// without any there is no drawer.
+    virtual std::vector<ReferenceEntry> reference() const { return {}; }
 
     /// Puts an answer of that kind into the page; a wrong one is another one than before.
     virtual void fill(Sample sample) = 0;

@@ -30,7 +30,8 @@ MissedTasks ofThisPupil()
 
 } // namespace
 
-TaskPage::TaskPage(phial::Form& form, LearningApp& app) : form_(form), app_(app), deaf_(u"tmr_Deaf", DeafTime)
+TaskPage::TaskPage(phial::Form& form, LearningApp& app)
+    : form_(form), app_(app), deaf_(u"tmr_Deaf", DeafTime), drawer_(form)
 {
     connections_ += deaf_.Tick.connect([this] { deaf_.Enabled(false); });
     connections_ += get<phial::ctl_Button>(u"but_Check")->CLICK.connect([this] { press(); });
@@ -57,7 +58,14 @@ void TaskPage::begin(std::size_t level, const TaskChoice& choice)
 {
     missed_.clear();
     round_.emplace(app_.begin(level, choice));
+    drawer_.close();
+    fillDrawer();
     showTask();
+}
+
+void TaskPage::fillDrawer()
+{
+    drawer_.fill(app_.reference(), translate(app_.texts().reference));
 }
 
 std::vector<ReviewedTask> TaskPage::review()
@@ -87,6 +95,7 @@ void TaskPage::TRANSLATE()
 {
     app_.TRANSLATE();
     if (round_) {
+        fillDrawer();
         showRoundTexts();
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/LearningApp.h"
+#include "common/ReferenceDrawer.h"
 #include "common/ReviewList.h"
 #include "core/Event.h"
 #include "visual/Form.h"
@@ -40,6 +41,10 @@ public:
     void deafFor(std::int32_t milliseconds);
     /// Tells the hint, once a task. Without a round nothing happens.
     void giveHint();
+    /// Opens, turns and closes the drawer with what may be looked up.
+    void lookUp() { drawer_.turn(); }
+    /// Whether it was open.
+    bool closeDrawer() { return drawer_.close(); }
     /// Has screen readers say the task that is shown, once its page has the focus.
     void sayTask();
     /// Puts all texts that are not of the design in the language in force.
@@ -52,6 +57,7 @@ public:
 
 private:
     void begin(std::size_t level, const TaskChoice& choice);
+    void fillDrawer();
     void press();
     void noteOutcome();
     void showTask();
@@ -84,6 +90,7 @@ private:
     bool isRepeated_ = false;            ///< the last answer has been judged before
     std::vector<phial::String> answers_; ///< wrong ones to the present task
     phial::Timer deaf_;
+    ReferenceDrawer drawer_;
 };
 
 } // namespace learning

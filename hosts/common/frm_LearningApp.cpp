@@ -14,7 +14,10 @@
 #include "common/FrameDesign.h"
 #include "common/FrameTexts.h"
 #include "common/ListNotices.h"
+#include "common/MissedTasks.h"
 #include "common/frm_LeaveRound.h"
+#include "core/CoreDialogs.h"
+#include "core/CoreRoot.h"
 #include "core/CoreTheme.h"
 #include "core/SessionState.h"
 
@@ -33,6 +36,7 @@ namespace
 
 constexpr auto FullScreenKey = // F11
     static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 10);
+constexpr auto ReferenceKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 1); // F2
 constexpr std::int32_t AskingInterval = 5'000; // milliseconds
 
 phial::FormDesign designOf(const AppTexts& texts)
@@ -123,6 +127,8 @@ void frm_LearningApp::connect()
         form_.press(button, [this] { form_->Unload(); });
     }
     form_.press(u"but_Stop", [this] { leave(); });
+    form_.press(u"but_Forget", [this] { forgetMissed(); });
+    form_.on(form_->QueryUnload, [this](bool& rKeeps) { askBeforeClosing(rKeeps); });
     form_.on(get<phial::ctl_Avatar>(u"ctl_User")->CLICK, [this] { askForUser(); });
     form_.press(u"but_Help", [this] {
         QVAPP()->DIALOG()->ABOUT();
@@ -173,11 +179,60 @@ void frm_LearningApp::leave()
         form_->Unload();
         return;
     }
-    if (frm_LeaveRound(tasks_->round()->points()).Show() && form_->Visible()) {
-        classroom_.roundLeft();
+    if (leavesRound() && form_->Visible()) {
         show(Page::Start);
     }
     backToTask();
+}
+
+/// Whether the round is to end, which the pupil has to confirm.
+bool frm_LearningApp::leavesRound()
+{
+    const bool leaves = frm_LeaveRound(tasks_->round()->points()).Show();
+    if (leaves) {
+        classroom_.roundLeft();
+    }
+    return leaves;
+}
+
+/// The window is to be closed by its frame.
+void frm_LearningApp::askBeforeClosing(bool& rKeeps)
+{
+    if (page_ == Page::Task) {
+        rKeeps = !leavesRound();
+        if (rKeeps) {
+            backToTask();
+        }
+    }
+}
+
+/// What the next rounds begin with, and the way to do without it.
+void frm_LearningApp::showRemembered()
+{
+    const auto count = static_cast<int>(MissedTasks(QVAPP()->USER()->SCREENNAME()).count());
+    caption(*form_, u"lab_Remembered",
+            count == 0 ? String()
+            : count == 1
+                ? translate(u"Eine Aufgabe ist zum Üben gemerkt. Sie kommt in ihrer Stufe zuerst dran.",
+                            u"One task is remembered for practice. It comes first in its level.")
+                : translate(u"{1} Aufgaben sind zum Üben gemerkt. Sie kommen in ihrer Stufe zuerst dran.",
+                            u"{1} tasks are remembered for practice. They come first in their level.",
+                            {number(count)}));
+    get<phial::ctl_Button>(u"but_Forget")->Visible(count > 0);
+}
+
+void frm_LearningApp::forgetMissed()
+{
+    const auto answer = phial::coreRoot().CoreDialogs().YesNo(
+        translate(u"Sollen die gemerkten Aufgaben vergessen werden? Sie kommen dann nicht mehr zuerst dran.",
+                  u"Shall the remembered tasks be forgotten? They will not come first any more."));
+    if (answer == phial::DialogAnswer::Yes) {
+        MissedTasks(QVAPP()->USER()->SCREENNAME()).forget();
+    }
+    showRemembered();
+    if (form_->Visible()) {
+        levels_(0)->SetFocus();
+    }
 }
 
 void frm_LearningApp::toggleFullScreen()
@@ -198,6 +253,7 @@ void frm_LearningApp::askForUser()
     QVAPP()->USER()->SCREENNAMEINPUT();
     get<phial::ctl_Avatar>(u"ctl_User")->UPDATE();
     nameUser();
+    showRemembered();
 }
 
 /// What the avatar is for, seen and heard.
@@ -313,6 +369,7 @@ void frm_LearningApp::showAppTexts()
     caption(*form_, u"lab_Note", translate(texts.note));
     caption(*form_, u"lab_Waiting", translate(texts.waiting));
     caption(*form_, u"lab_Complaint", app_->complaint());
+    showRemembered();
 }
 
 String frm_LearningApp::missingText() const
@@ -333,6 +390,9 @@ void frm_LearningApp::show(Page page)
     get<phial::ctl_Avatar>(u"ctl_User")->frame().Enabled(page != Page::Task); // a round has one pupil
     if (page != Page::Task && page != Page::Summary) {
         tasks_->end();
+    }
+    if (page == Page::Start) {
+        showRemembered();
     }
     form_->DefaultControl(page == Page::Task ? get<phial::ctl_Button>(u"but_Check") : nullptr);
     showClassroom();
@@ -413,12 +473,19 @@ void frm_LearningApp::keyDown(phial::KeyEvent& event)
             tasks_->giveHint();
         }
         event.KeyCode = 0;
+    } else if (event.is(ReferenceKey)) {
+        if (page_ == Page::Task) {
+            tasks_->lookUp();
+        }
+        event.KeyCode = 0;
     } else if (event.is(FullScreenKey)) {
         event.KeyCode = 0;
         toggleFullScreen();
     } else if (event.is(phial::Key::Escape)) {
         event.KeyCode = 0;
-        leave();
+        if (!tasks_->closeDrawer()) {
+            leave();
+        }
     } else if (event.is(phial::Key::Return)) {
         if (std::exchange(isReturnHeld_, true)) {
             event.KeyCode = 0; // a repeat of the held key presses nothing

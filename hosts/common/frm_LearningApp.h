@@ -20,7 +20,7 @@ namespace learning
 /// The window of a learning app: choice of the level, the tasks of a round, the summary; or what is missing,
 /// or that the teacher has not opened the app yet. The header shows who works here, and changes it when it is
 /// pressed; the footer tells about the classroom. Return does what the coloured button says, F1 gives the
-/// hint, Escape ends; everything can be touched as well.
+/// hint, F2 the masses or whatever may be looked up, Escape ends; everything can be touched as well.
 class frm_LearningApp
 {
 public:
@@ -50,6 +50,10 @@ private:
     void toggleFullScreen();
     void backToTask();
     void leave();
+    bool leavesRound();
+    void askBeforeClosing(bool& rKeeps);
+    void showRemembered();
+    void forgetMissed();
     void askForUser();
     void nameUser();
 

@@ -30,6 +30,7 @@ constexpr learning::AppTexts Texts{
         u"±0,5 g/mol.|"
         u"Rounded atomic masses count as well as exact ones: ±0.1 g/mol, for large masses ±0.2 % and at "
         u"most ±0.5 g/mol.",
+    .reference = u"Atommassen|Atomic masses",
     .waiting = u"Sobald deine Lehrkraft den Molmassen-Trainer freigibt, geht es hier von selbst weiter.|"
                u"As soon as your teacher opens the molar mass trainer for you, it goes on here by itself.",
     .solved = u"{1} von {2} Formeln gelöst|{1} of {2} formulas solved",
@@ -88,6 +89,7 @@ void Trainer::showName()
 
 int Trainer::begin(std::size_t level, const learning::TaskChoice& choice)
 {
+    level_ = level;
     tasks_ = drawRound(data_.tasks.levels.at(level), choice);
     return static_cast<int>(tasks_.size());
 }
@@ -149,6 +151,11 @@ String Trainer::support() const
 String Trainer::working() const
 {
     return workedLine(*data_.elements, task_.text);
+}
+
+std::vector<learning::ReferenceEntry> Trainer::reference() const
+{
+    return massesOfElements(*data_.elements, data_.tasks.levels.at(level_).tasks);
 }
 
 void Trainer::fillWrong()

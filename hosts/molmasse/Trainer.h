@@ -40,6 +40,7 @@ public:
     phial::String remark() const override;
     phial::String support() const override;
     phial::String working() const override;
+    std::vector<learning::ReferenceEntry> reference() const override;
     void fill(Sample sample) override;
 
 private:
@@ -47,6 +48,7 @@ private:
     void fillWrong();
 
     TrainerData data_;
+    std::size_t level_ = 0;
     std::vector<learning::ListedTask> tasks_; ///< of the round
     learning::ListedTask task_;
     double mass_ = 0;              ///< its molar mass by the table, one decimal an element, in g/mol

@@ -1,9 +1,13 @@
 #include "molmasse/Working.h"
 
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
 #include "chem/FormulaAnalysis.h"
 #include "common/FrameTexts.h"
 #include "core/Format.h"
 #include "core/NumberText.h"
+
+#include <set>
 
 namespace molmasse
 {
@@ -77,6 +81,29 @@ String workedLine(const phial::cls_DataElements& elements, const String& formula
         text += massOf(elements, atoms.symbol);
     }
     return text.append(u" = ").append(massText(elements.MOL(formula))).append(u" g/mol");
+}
+
+std::vector<learning::ReferenceEntry> massesOfElements(phial::cls_DataElements& elements,
+                                                       const std::vector<learning::ListedTask>& tasks)
+{
+    std::set<String> symbols;
+    for (const learning::ListedTask& task : tasks) {
+        std::size_t position = 0;
+        for (auto symbol = phial::nextSymbol(task.text, position); !symbol.empty();
+             symbol = phial::nextSymbol(task.text, position)) {
+            symbols.insert(String(symbol));
+        }
+    }
+    std::vector<learning::ReferenceEntry> entries;
+    const bool german = phial::LNG()->EFFECTIVE() == phial::ID_Language_German;
+    for (std::int32_t at = 1; at <= elements.COUNT(); ++at) {
+        const auto element = elements.ITEM(at);
+        if (const String symbol = element->SYMBOL(); symbols.contains(symbol)) {
+            const String mass = massOf(elements, symbol);
+            entries.push_back({symbol, mass, (german ? element->NAME() : symbol) + u": " + mass + u" g/mol"});
+        }
+    }
+    return entries;
 }
 
 String massOfFirstElement(const phial::cls_DataElements& elements, phial::StringView formula)

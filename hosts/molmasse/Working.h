@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chem/cls_DataElements.h"
+#include "common/TaskFile.h"
 
 namespace molmasse
 {
@@ -21,6 +22,10 @@ phial::String atomsCounted(const phial::cls_DataElements& elements, const phial:
 
 /// The molar mass worked out in one line: "2 × 1,0 + 16,0 = 18,0 g/mol".
 phial::String workedLine(const phial::cls_DataElements& elements, const phial::String& formula);
+
+/// The table's molar masses of the elements in these tasks, in the order of the atomic numbers.
+std::vector<learning::ReferenceEntry> massesOfElements(phial::cls_DataElements& elements,
+                                                       const std::vector<learning::ListedTask>& tasks);
 
 /// What a pupil may write down who stops too early.
 phial::String massOfFirstElement(const phial::cls_DataElements& elements, phial::StringView formula);

@@ -1,4 +1,5 @@
 #include "app/cls_Language.h"
+#include "common/ctl_Reference.h"
 #include "common/ctl_RoundDots.h"
 #include "molmasse/TrainerTest.h"
 
@@ -185,6 +186,106 @@ TEST_F(TrainerTest, EscapeInThatQuestionGoesOnToo)
     touch(u"but_Stop");
     EXPECT_TRUE(isSeen(u"pan_Task"));
     EXPECT_EQ(focused(), u"txt_Answer");
+}
+
+TEST_F(TrainerTest, ClosingTheWindowInARoundAsksAsEscapeDoes)
+{
+    openInstalled();
+    type(u"{enter}18{enter}");
+    answerLeaving(u"but_GoOn");
+    form().inputClose();
+    EXPECT_TRUE(isOpen());
+    EXPECT_TRUE(isSeen(u"pan_Task"));
+    EXPECT_EQ(focused(), u"txt_Answer");
+    EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
+
+    answerLeaving(u"but_Leave");
+    form().inputClose();
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(TrainerTest, ClosingTheWindowElsewhereDoesNotAsk)
+{
+    openInstalled();
+    form().inputClose();
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(TrainerTest, TheMassesAreAtHandForNothing)
+{
+    openInstalled();
+    const auto drawer = form().control<learning::ctl_Reference>(u"ref_Drawer");
+    type(u"{enter}1");
+    EXPECT_FALSE(isSeen(u"ref_Drawer"));
+    EXPECT_EQ(buttonText(u"but_Reference"), u"Atommassen (F2)");
+    type(u"{f2}");
+    ASSERT_TRUE(isSeen(u"ref_Drawer"));
+    EXPECT_EQ(focused(), u"txt_Answer");
+    ASSERT_EQ(drawer->parts().size(), 4U) << "of both formulas of the level";
+    EXPECT_EQ(drawer->parts()[0].name, u"Wasserstoff: 1,0 g/mol");
+    EXPECT_EQ(drawer->parts()[3].name, u"Chlor: 35,5 g/mol");
+
+    type(u"8{enter}{enter}");
+    EXPECT_EQ(formula(), u"NaCl");
+    EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
+    EXPECT_TRUE(isSeen(u"ref_Drawer")) << "it stays until it is closed";
+    touch(u"but_Language");
+    EXPECT_EQ(drawer->parts()[3].name, u"Cl: 35.5 g/mol");
+    EXPECT_TRUE(isSeen(u"ref_Drawer"));
+}
+
+TEST_F(TrainerTest, TheMassesAreClosedByEscapeByTheirKeyAndByTouch)
+{
+    openInstalled();
+    type(u"{enter}");
+    type(u"{f2}{esc}");
+    EXPECT_FALSE(isSeen(u"ref_Drawer"));
+    EXPECT_TRUE(isSeen(u"pan_Task"));
+    type(u"{f2}{f2}");
+    EXPECT_FALSE(isSeen(u"ref_Drawer"));
+    touch(u"but_Reference");
+    EXPECT_TRUE(isSeen(u"ref_Drawer"));
+    touch(u"but_Reference");
+    EXPECT_FALSE(isSeen(u"ref_Drawer"));
+    touch(u"but_Reference");
+    phial::headless::click(*form().control<learning::ctl_Reference>(u"ref_Drawer"));
+    EXPECT_FALSE(isSeen(u"ref_Drawer"));
+    EXPECT_EQ(focused(), u"txt_Answer");
+}
+
+TEST_F(TrainerTest, TheMassesCoverNothingOfTheTask)
+{
+    openInstalled();
+    type(u"{enter}{f2}");
+    const auto areaOf = [this](StringView control) {
+        const auto found = form().control<phial::Control>(control);
+        const auto corner = found->frame().originOnForm();
+        const auto area = found->frame().pixelRectangle();
+        return phial::PixelRectangle{corner.x, corner.y, area.width, area.height};
+    };
+    for (const auto [width, height] : {phial::PixelSize{1024, 572}, phial::PixelSize{1920, 1050}}) {
+        form().Width(width * phial::TwipsPerPixel);
+        form().Height(height * phial::TwipsPerPixel);
+        const auto drawer = areaOf(u"ref_Drawer");
+        for (const auto* piece :
+             {u"pan_Formula", u"txt_Answer", u"lab_Feedback", u"lab_Hint", u"but_Check"}) {
+            EXPECT_LE(drawer.bottom(), areaOf(piece).top);
+        }
+        EXPECT_LE(drawer.right(), areaOf(u"but_Reference").left);
+    }
+}
+
+TEST_F(TrainerTest, ANewRoundBeginsWithTheMassesClosedAndHasThoseOfItsLevel)
+{
+    openInstalled();
+    type(u"{enter}{f2}");
+    answerLeaving(u"but_Leave");
+    type(u"{esc}{esc}");
+    type(u"{f2}"); // on the start page there is nothing to look up
+    touch(u"but_Level", 1);
+    EXPECT_FALSE(isSeen(u"ref_Drawer"));
+    type(u"{f2}");
+    EXPECT_EQ(form().control<learning::ctl_Reference>(u"ref_Drawer")->parts().size(), 2U) << "H and Cl";
 }
 
 TEST_F(TrainerTest, TheSameWrongAnswerAgainCostsNothing)

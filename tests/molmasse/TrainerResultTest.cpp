@@ -211,6 +211,33 @@ TEST_F(TrainerResult, LetsTheNextRoundBeginWithWhatWasMissed)
     EXPECT_EQ(formula(), u"H2O") << "what was solved at once has been learnt";
 }
 
+TEST_F(TrainerResult, ThatWasMissedCanBeForgotten)
+{
+    open();
+    EXPECT_EQ(seen(u"lab_Remembered"), u"");
+    EXPECT_FALSE(isSeen(u"but_Forget"));
+    touch(u"but_Level", 0);
+    type(u"18{enter}{enter}1{enter}2{enter}3{enter}");
+    expectRankBox();
+    type(u"{enter}");
+    touch(u"but_Again");
+    EXPECT_EQ(seen(u"lab_Remembered"),
+              u"Eine Aufgabe ist zum Üben gemerkt. Sie kommt in ihrer Stufe zuerst dran.");
+
+    outside.dialogs().expectYesNo(phial::DialogAnswer::No);
+    touch(u"but_Forget");
+    EXPECT_TRUE(isSeen(u"but_Forget"));
+    outside.dialogs().expectYesNo(
+        phial::DialogAnswer::Yes,
+        u"Sollen die gemerkten Aufgaben vergessen werden? Sie kommen dann nicht mehr zuerst dran.");
+    touch(u"but_Forget");
+    EXPECT_FALSE(isSeen(u"but_Forget"));
+    EXPECT_EQ(seen(u"lab_Remembered"), u"");
+    EXPECT_EQ(focused(), u"but_Level");
+    touch(u"but_Level", 0);
+    EXPECT_EQ(formula(), u"H2O");
+}
+
 TEST_F(TrainerResult, KeepsTheGermanLabelOfTheExerciseInEitherLanguage)
 {
     phial::LNG()->CURRENT(phial::ID_Language_English);

@@ -70,6 +70,7 @@ TEST_F(TrainerUser, WhoDoesNotSayGoesOnAndIsAskedAgainAtTheNextStart)
     type(u"{enter}");
     EXPECT_EQ(formula(), u"H2O");
 
+    answerLeaving(u"but_Leave");
     trainer->form().Unload();
     trainer = newWindow();
     trainer->Show();
