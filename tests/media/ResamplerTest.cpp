@@ -90,6 +90,36 @@ TEST(Resampler, LeavesOutWhatALowerRateCannotHold)
     EXPECT_LT(difference(result, std::vector<float>(result.size(), 0)), 0.001);
 }
 
+/// How loud a tone comes out, of 1, in decibels.
+double levelOf(double frequency, std::int32_t from, std::int32_t to)
+{
+    const std::vector<float> result =
+        resampled(tone(frequency, from, static_cast<std::size_t>(from) / 5), from, to);
+    double squares = 0;
+    const std::size_t begin = result.size() / 4;
+    const std::size_t end = 3 * result.size() / 4;
+    for (std::size_t at = begin; at < end; ++at) {
+        squares += static_cast<double>(result[at]) * result[at];
+    }
+    return 10 * std::log10(2 * squares / static_cast<double>(end - begin));
+}
+
+TEST(Resampler, PassesWhatIsHeardEvenly)
+{
+    for (const double frequency : {50.0, 1'000.0, 10'000.0, 15'000.0, 17'000.0}) {
+        EXPECT_NEAR(levelOf(frequency, 44'100, 48'000), 0, 0.02) << frequency;
+    }
+    EXPECT_NEAR(levelOf(19'000, 44'100, 48'000), -0.52, 0.05);
+    EXPECT_NEAR(levelOf(20'947.5, 44'100, 48'000), -6, 0.1); // the middle of the slope
+}
+
+TEST(Resampler, ItsSlopeGoesDownToSilence)
+{
+    EXPECT_NEAR(levelOf(22'050 * 0.95, 96'000, 44'100), -6, 0.1);
+    EXPECT_LT(levelOf(24'700, 96'000, 44'100), -60);
+    EXPECT_LT(levelOf(30'000, 96'000, 44'100), -70);
+}
+
 TEST(Resampler, TakesSilenceAroundTheSound)
 {
     const std::vector<float> result = resampled({1}, 22'050, 44'100);
