@@ -29,7 +29,7 @@ SoundProgram::~SoundProgram()
 
 bool SoundProgram::hearMore()
 {
-    const bool more = process_.waitForReadyRead(ProgramPatience);
+    const bool more = process_.bytesAvailable() > 0 || process_.waitForReadyRead(ProgramPatience);
     told_ += process_.readAllStandardOutput();
     return more;
 }

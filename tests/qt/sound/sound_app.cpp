@@ -1,6 +1,7 @@
 // A program with windows on the desktop's loudspeakers that does as it is told, an order a line, and answers
 // with a line for each:
 //   play FILE     PLAYWAVE without wait; the steady clock's seconds at the call
+//   burst FILE|…  the same with all of them in a row; the time at the first call
 //   praise FILE   the praise window with that sound; for how many seconds it stood
 //   gap           for how many seconds at most its events have stood still since it was asked last
 //   end           ends; no answer
@@ -88,6 +89,12 @@ void obey(const std::string& line, Gap& gap)
     if (line.starts_with("play ")) {
         answer(now());
         QVAPP()->MEDIA()->PLAYWAVE(file, false);
+    } else if (line.starts_with("burst ")) {
+        answer(now());
+        for (std::size_t at = 0, end = 0; end != String::npos; at = end + 1) {
+            end = file.find(u'|', at);
+            QVAPP()->MEDIA()->PLAYWAVE(file.substr(at, end - at), false);
+        }
     } else if (line.starts_with("praise ")) {
         answer(praise(file));
     } else if (line == "gap") {
