@@ -115,4 +115,21 @@ TEST_F(QueueHeard, ABurstIsHeardWholeInItsOrderAndInTime)
     expectInOrderAndTime(heard);
 }
 
+TEST(SilentProgram, PicturesAreTakenWithoutASound)
+{
+    const SoundServer server;
+    const TemporaryFolder folder;
+    folder.write("click.wav", click(ClickLevels));
+    const QString place = QString::fromStdString(folder.native().string());
+    SoundProgram program("sound_app", server.environment(), {place, "--shots", place});
+    ASSERT_TRUE(program.hasTold("ready"));
+    Recorder recorder(server.environment(), ClickRate);
+    const QByteArray file = QString(place).replace('/', '\\').toUtf8() + "\\click.wav";
+    EXPECT_GT(program.ask("play " + file), 0);
+    EXPECT_GE(program.ask("praise " + file), 0);
+    ASSERT_TRUE(recorder.record(1));
+    const std::vector<float> samples = recorder.left(0);
+    EXPECT_TRUE(std::all_of(samples.begin(), samples.end(), [](float sample) { return sample == 0; }));
+}
+
 } // namespace
