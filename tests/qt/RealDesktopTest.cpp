@@ -1,12 +1,16 @@
 #include "DesktopRun.h"
+#include "media/frm_DialogSound.h"
 #include "qt/desktop/WindowShape.h"
+#include "visual/TextBox.h"
 
 #include <QLibrary>
 #include <QPixmap>
 #include <QProcess>
 #include <QScreen>
+#include <QTest>
 
 #include <cstdio>
+#include <functional>
 
 using namespace phial;
 using namespace phial::qt;
@@ -178,6 +182,56 @@ TEST_F(RealDesktop, ADialogStandsInTheMiddleOfItsFormsScreen)
     const QPoint middle = SecondScreen.center();
     EXPECT_TRUE(eventually([&] { return (frameOf(*dialog).center() - middle).manhattanLength() < 40; }))
         << frameOf(*dialog).x() << " " << frameOf(*dialog).y();
+}
+
+/// How a praise window may go away.
+struct PraiseEnd {
+    const char* name;
+    std::function<void(QWidget& praise, QWidget& behind)> act;
+};
+
+TEST_F(RealDesktop, FocusAndCaretAreWhereTheyWereBehindAPraiseWindow)
+{
+    const auto form = makeForm();
+    form->add<TextBox>(u"txt_Other");
+    const auto text = form->add<TextBox>(u"txt_Answer");
+    text->Text(u"58,44 g/mol");
+    form->Show();
+    ASSERT_TRUE(eventually([&] { return widgetOf(*form).isActiveWindow(); }));
+    text->SetFocus();
+    text->SelStart(3);
+    text->SelLength(2);
+    const auto* const caret = QApplication::focusWidget();
+    ASSERT_NE(caret, nullptr);
+
+    const PraiseEnd ends[] = {
+        {"by itself", [](QWidget&, QWidget&) {}},
+        {"Escape", [](QWidget& praise, QWidget&) { QTest::keyClick(&praise, Qt::Key_Escape); }},
+        {"a press outside",
+         [](QWidget&, QWidget& behind) {
+             QTest::mouseClick(behind.windowHandle(), Qt::LeftButton, {}, QPoint(200, 250));
+         }},
+    };
+    for (const PraiseEnd& end : ends) {
+        SCOPED_TRACE(end.name);
+        frm_DialogSound praise;
+        praise.SoundText(u"Bravo!");
+        bool wasActive = false;
+        QTimer watch;
+        QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+            QWidget* const window = QApplication::activeWindow();
+            if (window != nullptr && window != &widgetOf(*form) && !wasActive) {
+                wasActive = true;
+                end.act(*window, widgetOf(*form));
+            }
+        });
+        watch.start(20);
+        praise.Show();
+        EXPECT_TRUE(wasActive);
+        EXPECT_TRUE(eventually([&] { return QApplication::focusWidget() == caret; }));
+        EXPECT_EQ(text->SelStart(), 3);
+        EXPECT_EQ(text->SelLength(), 2);
+    }
 }
 
 TEST_F(RealDesktop, AWindowIsSoftWhereACompositorRuns)
