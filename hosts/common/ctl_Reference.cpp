@@ -106,10 +106,11 @@ ctl_Reference::Grid ctl_Reference::gridOf(double size) const
 PixelRectangle ctl_Reference::cell(std::size_t place) const
 {
     const auto [width, height] = surface_.size();
+    const std::size_t row = place / grid().columns;
     const double cellWidth = (width - 2 * ReferenceEdge) / static_cast<double>(grid().columns);
     const double cellHeight = (height - 2 * ReferenceEdge) / static_cast<double>(grid().rows);
     return {ReferenceEdge + cellWidth * static_cast<double>(place % grid().columns),
-            ReferenceEdge + cellHeight * static_cast<double>(place / grid().columns), cellWidth, cellHeight};
+            ReferenceEdge + cellHeight * static_cast<double>(row), cellWidth, cellHeight};
 }
 
 std::size_t ctl_Reference::entriesOnPage() const
