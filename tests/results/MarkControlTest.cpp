@@ -95,6 +95,20 @@ protected:
         EXPECT_EQ(sign.ForeColor() == control->BackColor(), !holds);
     }
 
+    std::string lastPicture()
+    {
+        const std::string all = outside.visual().drawing(*control);
+        return all.substr(all.rfind("clear"));
+    }
+    static int occurrences(const std::string& text, const std::string& part)
+    {
+        int count = 0;
+        for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+            ++count;
+        }
+        return count;
+    }
+
     std::shared_ptr<Form> form = std::make_shared<Form>(u"frm_Test");
     std::shared_ptr<ctl_Mark> control = form->add<ctl_Mark>(u"ctl_Mark1");
 };
@@ -106,6 +120,7 @@ TEST_F(MarkControl, ShowsEachMarkOfTheScale)
         show(shown.value);
         EXPECT_EQ(value(), shown.value);
         EXPECT_EQ(control->MARKTEXT(), shown.text);
+        EXPECT_EQ(number(shown.wholeMark).ForeColor(), Colours[shown.wholeMark]);
         for (std::size_t wholeMark = 1; wholeMark <= 6; ++wholeMark) {
             EXPECT_EQ(isStressed(number(wholeMark)), wholeMark == shown.wholeMark) << wholeMark;
         }
@@ -244,6 +259,10 @@ TEST_F(MarkControl, KeepsTheSizeOfItsRow)
         control->Move(30, 45, side * TwipsPerPixel, side * TwipsPerPixel);
         expectOwnSize();
     }
+    control->Width(100);
+    expectOwnSize();
+    control->Height(100);
+    expectOwnSize();
     EXPECT_EQ(control->Left(), 30);
     EXPECT_EQ(control->Top(), 45);
 }
@@ -261,6 +280,46 @@ TEST_F(MarkControl, EdgesEachMarkInAShadeThatStandsOffFromTheGround)
         const std::string other = toUtf8(CoreColors::ToHtml(CoreColors::Blend(quiet, 55, shade)));
         EXPECT_THAT(outside.visual().drawing(*control), HasSubstr("\"6\" Tahoma 17 " + other));
     }
+}
+
+TEST_F(MarkControl, TheEdgeIsDarkOnALightGroundAndLightOnADarkOne)
+{
+    struct Ground {
+        Colour colour;
+        bool isDark;
+    };
+    constexpr auto Grounds = std::to_array<Ground>({
+        {RGB(127, 127, 127), true},
+        {RGB(128, 128, 128), false},
+        {RGB(0, 216, 0), true},
+        {RGB(0, 217, 0), false},
+        {RGB(255, 87, 0), true},
+        {RGB(255, 88, 0), false},
+        {RGB(100, 160, 0), true},
+        {RGB(100, 160, 50), false},
+    });
+    show(2);
+    for (const Ground& ground : Grounds) {
+        control->BackColor(ground.colour);
+        const Colour edge = CoreColors::Blend(RGB(255, 0, 0), 55, ground.isDark ? White : RGB(0, 0, 0));
+        EXPECT_THAT(lastPicture(), HasSubstr("\"5\" Tahoma 17 bold " + toUtf8(CoreColors::ToHtml(edge))))
+            << toUtf8(CoreColors::ToHtml(ground.colour));
+    }
+}
+
+TEST_F(MarkControl, TheChosenMarkStandsInAFrameWithAWiderEdge)
+{
+    control->BackColor(White);
+    show(2);
+    const std::string picture = lastPicture();
+    EXPECT_THAT(picture, HasSubstr("box 200,0 50x37 line #730000\nbox 201,1 48x35 line #730000\n"));
+    // A digit is 9 pixels wide and a line 21 high, so that it stands at (20, 8) of its cell.
+    EXPECT_EQ(occurrences(picture, "\"5\""), 25);
+    EXPECT_THAT(picture, HasSubstr("text 218.75,5.875 \"5\""));
+    EXPECT_THAT(picture, HasSubstr("text 222.75,9.875 \"5\""));
+    EXPECT_EQ(occurrences(picture, "\"1\""), 9);
+    EXPECT_THAT(picture, HasSubstr("text 21.75,8.875 \"1\""));
+    EXPECT_EQ(occurrences(picture, "box "), 2);
 }
 
 TEST_F(MarkControl, DrawsNoEdgeOfASignThatDoesNotHold)
