@@ -285,13 +285,21 @@ TEST_F(FormTranslationTest, TheFirstWalkTintsFieldsInTheWindowColour)
 TEST_F(FormTranslationTest, NamesTextsThatNobodyHasTranslated)
 {
     for (const auto* text :
-         {u"Vergessen", u"OK", u"a1", u"C:\\Ordner", u"Text", u"Title", u"Ärger", u"Ahz"}) {
+         {u"Vergessen", u"OK", u"a1", u"a12", u"C:\\Ordner", u"Text", u"Title", u"Ärger", u"Ahz"}) {
         form->add<Label>(String(u"lab_") + text)->Caption(text);
     }
     language.Form(*form, buffer);
     EXPECT_EQ(test::texts(language.untranslated()),
               (std::vector<String>{u"lab_Vergessen.CAPTION in frm_Test", u"lab_Ärger.CAPTION in frm_Test",
                                    u"lab_Ahz.CAPTION in frm_Test"}));
+}
+
+TEST_F(FormTranslationTest, WhatHoldsNoControlsIsLeftAlone)
+{
+    Font font;
+    language.Form(font, buffer);
+    EXPECT_EQ(test::texts(language.untranslated()), std::vector<String>());
+    EXPECT_EQ(font.traits(), FontSpec{});
 }
 
 TEST_F(FormTranslationTest, TheLanguageOfOpenFormsFollowsTheChoice)

@@ -35,6 +35,7 @@ TEST_F(ServerQuestions, ASettingIsTheMasters)
     EXPECT_EQ(master.package(), u"Level");
     master.knows(u"PROPERTIES:GET", false);
     EXPECT_EQ(server().SETTING(u"Level", 1), Variant(false));
+    EXPECT_THAT(master.requests(), ElementsAre(u"SERVER:LOGON", u"PROPERTIES:GET", u"PROPERTIES:GET"));
 }
 
 TEST_F(ServerQuestions, ASettingIsTheDefaultWhereTheMasterSaysNothing)
