@@ -36,6 +36,15 @@ TEST_F(ServerRequest, GivesTheValueOfTheAnswer)
     EXPECT_EQ(server().lastAnswer(), u"42");
 }
 
+TEST_F(ServerRequest, AnAnswerIsToldApartFromNone)
+{
+    master.knows(u"A:B", 7);
+    EXPECT_EQ(server().answerTo(u"A", u"B"), Variant(7));
+    EXPECT_THAT(requestsFrom(1), ElementsAre(u"A:B")) << "the one logon does";
+    master.isThere(false);
+    EXPECT_EQ(server().answerTo(u"A", u"B"), std::nullopt);
+}
+
 TEST_F(ServerRequest, WaitsLongerForLargerPackages)
 {
     struct Row {
