@@ -26,11 +26,11 @@ inline constexpr double Height = 462;
 inline constexpr std::int32_t LongestAddress = 255; // characters, as of a host's name
 
 inline constexpr phial::ControlDesign Controls[] = {
-    design<ctl_Gradient>(u"bar_Header", {0, 0, Width, 64}).gradient(Palette::Accent, Palette::AccentDeep, 0),
+    design<ctl_Gradient>(u"bar_Header", {0, 0, Width, 64}).gradient(Palette::Header, Palette::HeaderDeep, 0),
     design<ctl_Label>(u"lab_Title", {24, 0, 512, 64}, u"Klassenraum|Classroom")
         .inside(u"bar_Header")
         .font(18, FontWeight::Bold)
-        .ink(Palette::OnAccent),
+        .ink(Palette::OnHeader),
     design<ctl_Label>(u"lab_Masters", {24, 80, 512, 24}, u"Gefundene Master:|Masters found:")
         .font(11)
         .ink(Palette::Ink),

@@ -34,7 +34,7 @@ std::vector<Exhibit> formulaExhibits()
          term(u"Markiert|Marked", u"Na§Cl"), term(u"Gekürzt|Cancelled", u"g|mol", 28),
          sample<ctl_TermLabel>(u"Passende Größe|Size to fit", [](ctl_TermLabel& label) {
              label.TEXTFONT(galleryFont(28));
-             label.TEXTCOLOR(colours::Blue);
+             label.TEXTCOLOR(colours::Link);
              label.Term(u"MgO");
              label.AUTOSIZE(true);
          })})};

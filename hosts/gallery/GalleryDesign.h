@@ -59,12 +59,12 @@ inline constexpr ControlDesign remark(StringView name, ControlDesign::Rectangle 
 
 inline constexpr ControlDesign Controls[] = {
     design<ctl_Gradient>(u"bar_Header", {0, 0, Width, HeaderHeight})
-        .gradient(Palette::Accent, Palette::AccentDeep, 0),
+        .gradient(Palette::Header, Palette::HeaderDeep, 0),
     design<ctl_Label>(u"lab_Title", {16, 0, 600, HeaderHeight},
                       u"Galerie der Steuerelemente|Gallery of the controls")
         .inside(u"bar_Header")
         .font(18, FontWeight::Bold)
-        .ink(Palette::OnAccent)
+        .ink(Palette::OnHeader)
         .align(MiddleLeft),
     design<ListBox>(u"lst_Exhibits", {16, 80, ListWidth, 572})
         .font(10)

@@ -22,7 +22,7 @@ std::shared_ptr<ctl_Label> putCounter(Stage& stage, const PixelRectangle& area)
 {
     const auto label = stage.put<ctl_Label>(area);
     label->Font(galleryFont(28, true));
-    label->ForeColor(colours::Blue);
+    label->ForeColor(colours::Link);
     label->Alignment(MiddleCentre);
     label->Caption(u"0");
     return label;

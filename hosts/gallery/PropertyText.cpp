@@ -2,6 +2,7 @@
 
 #include "core/Colour.h"
 #include "core/CoreText.h"
+#include "core/Palette.h"
 
 #include <optional>
 
@@ -70,7 +71,8 @@ String propertyText(StringView name, const Variant& value)
     }
     if (value.kind() == Variant::Kind::Whole && namesColour(name)) {
         const Colour colour{static_cast<std::uint32_t>(value.toWhole())};
-        return colour.isSystem() ? value.toText() : colourText(colour);
+        const bool isSlot = colour.isSystem() && !phial::Palette::has(colour);
+        return isSlot ? value.toText() : colourText(phial::defaultColour(colour));
     }
     const String line = phial::CoreText::Replace(value.toText(), LineEnd, LineEndSign);
     return phial::CoreText::Replace(line, u"\n", LineEndSign);

@@ -52,7 +52,7 @@ Exhibit label()
                                sized(label, u"Weiß auf Blau|White on blue");
                                label.BackStyle(BackStyle::Opaque);
                                label.BackColor(colours::Blue);
-                               label.ForeColor(colours::White);
+                               label.ForeColor(colours::OnBlue);
                            })});
 }
 
@@ -204,7 +204,7 @@ Exhibit panel()
          sample<ctl_Pannel>(u"Farbig|Coloured", [](ctl_Pannel& panel) {
              panel.BackColor(colours::Blue);
              panel.BorderColor(colours::DarkBlue);
-             panel.ForeColor(colours::White);
+             panel.ForeColor(colours::OnBlue);
              panel.Font(galleryFont(16, true));
              panel.Caption(say(u"Weiter so!|Keep going!"));
          })});

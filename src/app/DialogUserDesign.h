@@ -46,13 +46,16 @@ inline constexpr StringView Abort = u"DIALOG.ABORT();";
 inline constexpr ButtonDesign Commands[] = {{Confirm, u"OK|OK"}, {Abort, u"Abbrechen|Cancel"}};
 
 inline constexpr ControlDesign Controls[] = {
-    design<ctl_Gradient>(u"bar_Header", {0, 0, Width, 64}).gradient(Palette::Accent, Palette::AccentDeep, 90),
+    design<ctl_Gradient>(u"bar_Header", {0, 0, Width, 64}).gradient(Palette::Header, Palette::HeaderDeep, 90),
     design<ctl_Label>(u"lab_Title", {24, 0, Width - 48, 64}, u"Wer bist du?|Who are you?")
         .inside(u"bar_Header")
         .font(18, FontWeight::Bold)
-        .ink(Palette::OnAccent),
+        .ink(Palette::OnHeader),
     design<ctl_Label>(u"Label1", {24, 80, 420, 24}, u"Dein Name:|Your name:").font(11).ink(Palette::Ink),
-    design<TextBox>(u"txt_Screenname", {24, 106, 420, 44}).font(15).spoken(u"Dein Name|Your name"),
+    design<TextBox>(u"txt_Screenname", {24, 106, 420, 44})
+        .font(15)
+        .ground(Palette::Field)
+        .spoken(u"Dein Name|Your name"),
     design<ctl_Label>(u"lab_Names", {276, 80, 168, 24}).font(11).ink(Palette::Ink).hidden(),
     design<ComboBox>(u"cbo_Names", {276, 106, 168, 44})
         .font(11)
@@ -86,7 +89,7 @@ inline constexpr ControlDesign Controls[] = {
         .edge(Palette::Accent)
         .set(u"BorderWidth", 3)
         .hidden(),
-    design<ScrollBar>(u"srl_Avatars", {584, 105, 32, 302}),
+    design<ScrollBar>(u"srl_Avatars", {584, 105, 36, 302}),
     design<ctl_CmdBar>(u"bar_Buttons", {0, Height - 76, Width, 76}).buttons(Commands),
 };
 

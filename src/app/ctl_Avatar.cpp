@@ -2,6 +2,7 @@
 
 #include "app/RecentNames.h"
 #include "app/screen/Avatars.h"
+#include "core/Palette.h"
 #include "visual/OneLine.h"
 #include "visual/PropertyRows.h"
 
@@ -13,7 +14,7 @@ namespace phial
 namespace
 {
 
-constexpr Colour Ground = RGB(0, 64, 118);
+constexpr Colour AvatarGround = Palette::HeaderDeep;
 constexpr double Margin = 4; ///< between the frame and the picture
 constexpr double Gap = 8;    ///< between picture and name
 constexpr double LargestIcon = 96;
@@ -37,7 +38,7 @@ struct ctl_Avatar::Properties {
 ctl_Avatar::ctl_Avatar() : frame_(*this), surface_(*this)
 {
     frame_.canFocus(true);
-    surface_.BackColor(Ground);
+    surface_.BackColor(AvatarGround);
     rows::start<Properties>(*this);
 }
 

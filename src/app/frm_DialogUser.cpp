@@ -12,6 +12,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
 #include "core/RuntimeError.h"
+#include "core/SessionState.h"
 #include "media/cls_AppMedia.h"
 #include "visual/VisualHost.h"
 
@@ -87,6 +88,9 @@ void frm_DialogUser::connect()
     form_.on(form_->Load, [this] { load(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->KeyDown, [this](KeyEvent& event) { keyDown(event); });
+    form_.on(coreTheme().COLOURSCHANGED, [this](ColourSet) {
+        lastPictures_.each([this](auto&, std::int32_t place) { drawPlace(place); });
+    });
     form_.on(screenName_->Click, [this] { openKeyboard(); });
     form_.on(names_->Click, [this] { takeName(); });
     form_.command(u"bar_Buttons", user_design::Confirm, [this] { confirm(); });

@@ -1,6 +1,7 @@
 #include "core/Colour.h"
 
 #include "core/Palette.h"
+#include "core/SessionState.h"
 
 #include <array>
 #include <cstddef>
@@ -8,7 +9,13 @@
 namespace phial
 {
 
-Colour defaultColour(Colour colour)
+namespace
+{
+
+constexpr std::uint32_t SlotMask = 0xFF;
+
+/// The desktop's colours by daylight, as they were when they were numbered.
+Colour slotByDaylight(std::size_t slot)
 {
     static constexpr std::array<Colour, 25> Slots = {
         RGB(200, 200, 200), // scroll bar
@@ -37,14 +44,76 @@ Colour defaultColour(Colour colour)
         RGB(0, 0, 0),       // text of tool tips
         RGB(255, 255, 225), // ground of tool tips
     };
+    return slot < Slots.size() ? Slots[slot] : Colour();
+}
+
+struct SlotRole {
+    std::uint32_t slot;
+    Colour role;
+};
+
+/// What the slots are when the palette shows another set.
+constexpr auto SlotRoles = std::to_array<SlotRole>({
+    {0, Palette::Track},           // scroll bar
+    {1, Palette::Ground},          // desktop
+    {4, Palette::Surface},         // menu
+    {5, Palette::Surface},         // window
+    {6, Palette::ControlBorder},   // window frame
+    {7, Palette::Ink},             // menu text
+    {8, Palette::Ink},             // window text
+    {13, Palette::Accent},         // highlight
+    {14, Palette::OnAccent},       // highlighted text
+    {15, Palette::Ground},         // button face
+    {16, Palette::ControlBorder},  // button shadow
+    {17, Palette::DisabledText},   // grey text
+    {18, Palette::Ink},            // button text
+    {20, Palette::SurfacePressed}, // button light
+    {21, Palette::ControlBorder},  // deep shadow
+    {22, Palette::SurfaceHover},   // soft light
+    {23, Palette::Ink},            // text of tool tips
+    {24, Palette::Surface},        // ground of tool tips
+});
+
+Colour slotColour(std::uint32_t slot, ColourSet set)
+{
+    if (set != ColourSet::Light) {
+        for (const SlotRole& entry : SlotRoles) {
+            if (entry.slot == slot) {
+                return Palette::resolved(entry.role, set);
+            }
+        }
+    }
+    return slotByDaylight(slot);
+}
+
+/// Whether dark letters can be read on it better than light ones.
+bool isLight(Colour colour)
+{
+    constexpr int Middle = 128'000; // of 255,000
+    return 299 * colour.red() + 587 * colour.green() + 114 * colour.blue() > Middle;
+}
+
+} // namespace
+
+Colour defaultColour(Colour colour, ColourSet set)
+{
     if (!colour.isSystem()) {
         return colour;
     }
-    if (Palette::has(colour)) {
-        return Palette::resolved(colour);
+    return Palette::has(colour) ? Palette::resolved(colour, set) : slotColour(colour.value & SlotMask, set);
+}
+
+Colour defaultColour(Colour colour)
+{
+    return defaultColour(colour, SessionState::isOpen() ? coreTheme().Colours() : ColourSet::Light);
+}
+
+Colour inkOn(Colour ground, Colour ink)
+{
+    if (ground.isSystem() || !ink.isSystem()) {
+        return ink;
     }
-    const std::size_t slot = colour.value & 0xFFU;
-    return slot < Slots.size() ? Slots[slot] : Colour();
+    return defaultColour(ink, isLight(ground) ? ColourSet::Light : ColourSet::Dark);
 }
 
 } // namespace phial

@@ -25,6 +25,9 @@ struct Colour {
     friend constexpr bool operator==(Colour, Colour) = default;
 };
 
+/// The sets of colours in which windows are shown, see Palette.h.
+enum class ColourSet : std::uint8_t { Light, Dark, HighContrast };
+
 /// Colour slots of the desktop that the system uses.
 namespace SystemColour
 {
@@ -64,7 +67,13 @@ constexpr Colour QBColor(int index)
 }
 
 /// What a symbolic colour stands for: a role of the palette, or a slot of the desktop when no desktop is
-/// asked (headless, tests). A plain colour gives itself.
+/// asked (headless, tests). A plain colour gives itself. In the set of the session's theme, or by daylight
+/// when no session is open.
 Colour defaultColour(Colour colour);
+Colour defaultColour(Colour colour, ColourSet set);
+
+/// A symbolic ink on a ground that is a plain colour, whatever set is shown: in the set that can be read
+/// there. Any other ink stays what it is.
+Colour inkOn(Colour ground, Colour ink);
 
 } // namespace phial

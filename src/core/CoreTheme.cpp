@@ -54,12 +54,35 @@ void CoreTheme::SetColour(ThemeSlot pSlot, phial::Colour pColour)
         return;
     }
     colour = pColour;
+    ++changes_;
     CHANGED.emit(pSlot);
 }
 
 void CoreTheme::SetColour(ThemeSlot pSlot, StringView pHtml)
 {
     SetColour(pSlot, colourFromHtml(pHtml));
+}
+
+void CoreTheme::SetColours(std::optional<ColourSet> pChosen)
+{
+    const ColourSet before = Colours();
+    chosen_ = pChosen;
+    tellFrom(before);
+}
+
+void CoreTheme::desktopColours(ColourSet pSet)
+{
+    const ColourSet before = Colours();
+    desktop_ = pSet;
+    tellFrom(before);
+}
+
+void CoreTheme::tellFrom(ColourSet before)
+{
+    if (Colours() != before) {
+        ++changes_;
+        COLOURSCHANGED.emit(Colours());
+    }
 }
 
 } // namespace phial

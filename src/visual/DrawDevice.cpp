@@ -175,7 +175,7 @@ double DrawDevice::ScaleHeight()
 
 Ink DrawDevice::ink(Colour colour) const
 {
-    return {colour, maskColor_ && *maskColor_ == colour};
+    return {shown(colour), maskColor_ && *maskColor_ == colour};
 }
 
 std::optional<Fill> DrawDevice::fill() const
@@ -194,7 +194,13 @@ Stroke DrawDevice::stroke(Colour colour) const
 // Only what is painted cuts holes; combined bits are those of the mask colour.
 Ink DrawDevice::penInk(Colour colour) const
 {
-    return penMode() == RasterMode::Paint ? ink(colour) : Ink{colour};
+    return penMode() == RasterMode::Paint ? ink(colour) : Ink{shown(colour)};
+}
+
+// Paper is white, whatever the screen shows.
+Colour DrawDevice::shown(Colour colour) const
+{
+    return paper_ ? defaultColour(colour, ColourSet::Light) : colour;
 }
 
 Raster DrawDevice::raster(RasterMode mode) const
@@ -280,7 +286,7 @@ void DrawDevice::PrintLine(StringView text)
 void DrawDevice::Cls()
 {
     draw([&] {
-        canvas().clear(transparent_ ? Ink{backColor_, true} : ink(backColor_));
+        canvas().clear(transparent_ ? Ink{shown(backColor_), true} : ink(backColor_));
         current_ = {};
     });
 }
@@ -389,7 +395,7 @@ void DrawDevice::Gradient(double left, double top, double width, double height, 
     draw([&] {
         const PixelRectangle area{toPixels(left), toPixels(top), toPixels(width), toPixels(height)};
         if (!area.isEmpty()) {
-            canvas().gradient(area, from, to, angle, std::max(steps, 1));
+            canvas().gradient(area, shown(from), shown(to), angle, std::max(steps, 1));
         }
     });
 }

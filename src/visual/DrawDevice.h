@@ -69,6 +69,8 @@ public:
     DrawDevice(const DrawDevice&) = delete;
     DrawDevice& operator=(const DrawDevice&) = delete;
 
+    /// What is drawn is for paper: symbolic colours are those by daylight, whatever set windows are shown in.
+    void onPaper() { paper_ = true; }
     /// Drops the back end; the next use asks the target again. State stays.
     void detach();
 
@@ -188,6 +190,7 @@ private:
     Raster raster(RasterMode mode) const;
     RasterMode penMode() const;
     Ink penInk(Colour colour) const;
+    Colour shown(Colour colour) const;
     double toPixels(double value) const { return value / unitsPerPixel_; }
     double fromPixels(double value) const { return value * unitsPerPixel_; }
     PixelPoint pixel(double x, double y) const { return {toPixels(x), toPixels(y)}; }
@@ -219,6 +222,7 @@ private:
     phial::DrawMode drawMode_ = phial::DrawMode::CopyPen;
     std::optional<Colour> maskColor_;
     bool transparent_ = false;
+    bool paper_ = false;
 
     ScaleUnit unit_ = ScaleUnit::Pixels;
     double unitsPerPixel_ = 1;

@@ -1,5 +1,6 @@
 #include "visual/PaintSurface.h"
 
+#include "core/SessionState.h"
 #include "visual/UserControl.h"
 #include "visual/VisualHost.h"
 
@@ -39,6 +40,7 @@ PicturePtr PaintSurface::image(double pixelRatio)
     if (!backend_ || ratio_ != pixelRatio || madeFor_ != imageSize()) {
         remake(pixelRatio);
     }
+    followTheme();
     if (!painted_ && !painting_) {
         paintControl();
     }
@@ -50,6 +52,8 @@ void PaintSurface::paintControl()
 {
     painting_ = true;
     painted_ = true;
+    paintedIn_ = coreTheme().changes();
+    isDrawnUpon_ = false;
     try {
         control_.paint();
     } catch (...) {
@@ -60,9 +64,18 @@ void PaintSurface::paintControl()
     painted_ = true; // whatever a setter within the painting has asked for is done
 }
 
+/// What a program has drawn on a control that keeps it stays as it is.
+void PaintSurface::followTheme()
+{
+    if (paintedIn_ != coreTheme().changes() && !painting_ && !(retains_ && isDrawnUpon_)) {
+        painted_ = false;
+        device_.detach();
+    }
+}
+
 void PaintSurface::remake(double pixelRatio)
 {
-    const PicturePtr before = retains_ && painted_ ? backend_->picture() : nullptr;
+    const PicturePtr before = retains_ && painted_ && isDrawnUpon_ ? backend_->picture() : nullptr;
     ratio_ = pixelRatio;
     madeFor_ = imageSize();
     painted_ = false;
@@ -72,6 +85,7 @@ void PaintSurface::remake(double pixelRatio)
         paintControl();
     }
     if (before) {
+        isDrawnUpon_ = true;
         const PixelRectangle area{0, 0, before->Width(), before->Height()};
         backend_->image(*before, area, area, {});
     }
@@ -81,14 +95,14 @@ void PaintSurface::invalidate()
 {
     painted_ = false;
     device_.detach(); // asks openBackend again, which lays the background first where it is kept
-    drawn();
+    report();
 }
 
 void PaintSurface::resized()
 {
     device_.detach(); // asks openBackend again, which sees the new size
     if (retains_) {
-        drawn();
+        report();
     } else {
         invalidate();
     }
@@ -116,7 +130,7 @@ void PaintSurface::MaskPicture(PicturePtr value)
         mask_ = std::move(value);
         reported_ = false; // another shape is told whatever has been told of the picture
     }
-    drawn();
+    report();
 }
 
 bool PaintSurface::hits(PixelPoint point) const
@@ -150,6 +164,12 @@ std::shared_ptr<DrawBackend> PaintSurface::openBackend()
 }
 
 void PaintSurface::drawn()
+{
+    isDrawnUpon_ = isDrawnUpon_ || !painting_;
+    report();
+}
+
+void PaintSurface::report()
 {
     if (!painting_ && !reported_) {
         reported_ = true;

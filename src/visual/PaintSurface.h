@@ -12,7 +12,7 @@ class UserControl;
 
 /// The persistent image of a painted control and the device that draws in it. The image is made at the first
 /// use, in the size of the control and at the screen's pixel ratio; it is remade, and the control painted
-/// again, when either changes. What is drawn stays until the next Cls.
+/// again, when either changes, and when the theme's colours have. What is drawn stays until the next Cls.
 class PaintSurface final : private DrawTarget
 {
 public:
@@ -47,6 +47,8 @@ public:
     /// upon it. False at first: `paint` alone makes the image.
     bool retains() const { return retains_; }
     void retains(bool value) { retains_ = value; }
+    /// For `paint` called by a program: what was drawn is gone.
+    void nothingDrawn() { isDrawnUpon_ = false; }
     /// Marks the control as shaped by the holes of a picture, usually Image(): a click on a hole goes to what
     /// lies below. Null: the control is its rectangle.
     PicturePtr MaskPicture() const { return mask_; }
@@ -61,8 +63,10 @@ public:
 private:
     std::shared_ptr<DrawBackend> openBackend() override;
     void drawn() override;
+    void report();
     PixelSize imageSize() const;
     void remake(double pixelRatio);
+    void followTheme();
     void paintControl();
 
     UserControl& control_;
@@ -75,6 +79,8 @@ private:
     bool painted_ = false;
     bool reported_ = false;
     bool retains_ = false;
+    bool isDrawnUpon_ = false;    ///< by others than `paint`
+    std::uint32_t paintedIn_ = 0; ///< the theme's count of changes then
     PicturePtr mask_;
     std::unique_ptr<Container> children_;
 };

@@ -72,6 +72,7 @@ void PictureBox::border(bool value)
 void PictureBox::Cls()
 {
     layBackground();
+    surface_.nothingDrawn();
 }
 
 void PictureBox::Refresh()

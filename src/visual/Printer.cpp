@@ -6,6 +6,7 @@ namespace phial
 Printer::Printer() : device_(*this, DrawErrors::Raise)
 {
     device_.ScaleMode(ScaleUnit::Twips);
+    device_.onPaper();
 }
 
 void Printer::Orientation(PageOrientation value)

@@ -30,7 +30,7 @@ TEST_F(Cover, FillsTheScreenAlmostSolidInAnEmbeddedRun)
     const Form& form = cover()->form();
     EXPECT_EQ(form.WindowState(), WindowState::Maximized);
     EXPECT_EQ(form.BorderStyle(), BorderStyle::None);
-    EXPECT_EQ(form.BackColor(), Palette::Accent);
+    EXPECT_EQ(form.BackColor(), RGB(0, 106, 181));
     EXPECT_EQ(form.Caption(), u"Form1");
     EXPECT_EQ(form.controlCount(), 0U);
     EXPECT_FALSE(form.isModal());

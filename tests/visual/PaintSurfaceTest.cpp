@@ -1,5 +1,7 @@
 #include "visual/PaintSurface.h"
 
+#include "core/Palette.h"
+#include "core/SessionState.h"
 #include "visual/FormTest.h"
 #include "visual/PictureBox.h"
 #include "visual/Shape.h"
@@ -115,6 +117,38 @@ TEST_F(PaintedControls, WhatIsDrawnIsReportedOnceUntilItIsFetched)
     box->surface().image(1);
     box->device().PSet(3, 3);
     EXPECT_EQ(peer.heardOf(ControlAspect::Picture), 2);
+}
+
+TEST_F(PaintedControls, AnotherSetOfColoursPaintsWhatIsShownAnew)
+{
+    box->AutoRedraw(false);
+    box->BackColor(Palette::Ground);
+    connections += box->Paint.connect([this] {
+        log.emplace_back("paint");
+        box->device().Line(0, 0, 5, 5, Palette::Ink);
+    });
+    EXPECT_EQ(drawn(*box), "clear #F6F9FC\nline 0,0 - 5,5 #1C2836\n");
+    coreTheme().SetColours(ColourSet::Dark);
+    EXPECT_THAT(drawn(*box), ::testing::EndsWith("clear #0F1C29\nline 0,0 - 5,5 #EDF3F8\n"));
+    coreTheme().SetColours(ColourSet::HighContrast);
+    EXPECT_THAT(drawn(*box), ::testing::EndsWith("clear #000000\nline 0,0 - 5,5 #FFFFFF\n"));
+    box->surface().image(1);
+    EXPECT_THAT(log, ElementsAre("paint", "paint", "paint")) << "once a set";
+}
+
+TEST_F(PaintedControls, AnotherSetOfColoursLeavesWhatAProgramHasDrawn)
+{
+    box->BackColor(Palette::Ground);
+    EXPECT_EQ(drawn(*box), "clear #F6F9FC\n");
+    coreTheme().SetColours(ColourSet::Dark);
+    EXPECT_THAT(drawn(*box), ::testing::EndsWith("clear #0F1C29\n")) << "nothing has been drawn yet";
+    box->device().PSet(1, 1, Palette::Ink);
+    const std::string before = drawn(*box);
+    coreTheme().SetColours(ColourSet::Light);
+    EXPECT_EQ(drawn(*box), before);
+    box->Cls();
+    coreTheme().SetColours(ColourSet::Dark);
+    EXPECT_THAT(drawn(*box), ::testing::EndsWith("clear #0F1C29\n")) << "nothing is drawn any more";
 }
 
 TEST_F(PaintedControls, DrawingSurvivesWhenTheImageIsRemade)

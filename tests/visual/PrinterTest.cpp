@@ -1,5 +1,7 @@
 #include "visual/Printer.h"
 
+#include "core/Palette.h"
+#include "core/SessionState.h"
 #include "support/HeadlessSession.h"
 #include "support/Raises.h"
 
@@ -42,6 +44,23 @@ TEST_F(PrinterTest, PrintsPagesInTheUnitItIsTold)
                                      "text 0,0 \"2\" Arial 8 #000000\n"
                                      "end\n");
     EXPECT_GT(document.page->size().width, document.page->size().height);
+}
+
+TEST_F(PrinterTest, PaperIsWhiteWhateverTheScreenShows)
+{
+    coreTheme().SetColours(ColourSet::Dark);
+    Printer printer;
+    DrawDevice& page = printer.device();
+    page.ForeColor(Palette::Ink);
+    page.Print(u"a");
+    page.Line(0, 0, 15, 15, SystemColour::WindowText, LineShape::Filled);
+    page.Gradient(0, 0, 15, 15, Palette::Ground, Palette::Surface, 0, 2);
+    printer.EndDoc();
+    const std::string text = outside.visual().printed().front().page->text();
+    EXPECT_NE(text.find("#1C2836"), std::string::npos) << text;
+    EXPECT_NE(text.find("#000000"), std::string::npos) << text;
+    EXPECT_NE(text.find("#F6F9FC"), std::string::npos) << text;
+    EXPECT_EQ(text.find("#EDF3F8"), std::string::npos) << text;
 }
 
 TEST_F(PrinterTest, OrientationIsSetBeforeTheFirstDrawingAndAgainBehindTheEnd)

@@ -114,20 +114,20 @@ void frm_AppAbout::paintEmblem()
 {
     DrawDevice& device = form_->control<PictureBox>(u"Picture1")->device();
     device.ScaleMode(ScaleUnit::Pixels);
-    device.Gradient(0, 0, about_design::Emblem, about_design::Emblem, Palette::Accent, Palette::AccentDeep, 0,
+    device.Gradient(0, 0, about_design::Emblem, about_design::Emblem, Palette::Header, Palette::HeaderDeep, 0,
                     EmblemBands);
     device.FillStyle(FillStyle::Solid);
-    device.FillColor(Palette::OnAccent);
-    device.ForeColor(Palette::OnAccent);
+    device.FillColor(Palette::OnHeader);
+    device.ForeColor(Palette::OnHeader);
     constexpr auto Rim = std::to_array<PixelPoint>({{36, 14}, {60, 14}, {60, 19}, {36, 19}});
     constexpr auto Neck = std::to_array<PixelPoint>({{40, 19}, {56, 19}, {56, 44}, {40, 44}});
     device.Polygon(Rim);
     device.Polygon(Neck);
-    disc(device, 48, 58, 24, Palette::OnAccent);
+    disc(device, 48, 58, 24, Palette::OnHeader);
     disc(device, 48, 58, 19, Liquid);
-    disc(device, 42, 62, 4, Palette::OnAccent);
-    disc(device, 54, 55, 3, Palette::OnAccent);
-    disc(device, 49, 47, 2, Palette::OnAccent);
+    disc(device, 42, 62, 4, Palette::OnHeader);
+    disc(device, 54, 55, 3, Palette::OnHeader);
+    disc(device, 49, 47, 2, Palette::OnHeader);
 }
 
 void frm_AppAbout::hyperlinkCursor(StringView file)

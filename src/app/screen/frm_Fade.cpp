@@ -11,7 +11,7 @@ namespace
 
 constexpr FormDesign Design{.name = u"frm_Fade",
                             .caption = u"Form1",
-                            .ground = Palette::Accent,
+                            .ground = RGB(0, 106, 181), // of the cover in every set
                             .unit = ScaleUnit::Twips,
                             .isCentred = false};
 
