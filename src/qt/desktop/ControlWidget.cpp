@@ -12,6 +12,7 @@
 #include "qt/desktop/PartNavigation.h"
 #include "qt/desktop/PictureImage.h"
 #include "qt/desktop/PixelRatio.h"
+#include "qt/desktop/Theme.h"
 #include "qt/desktop/WidgetAspects.h"
 #include "qt/desktop/WindowHandles.h"
 #include "visual/KeyboardFocus.h"
@@ -65,6 +66,7 @@ ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* pare
     setAttribute(Qt::WA_AcceptTouchEvents, control_->frame().takesTouch());
     peer_ = std::make_unique<Peer>(*this);
     registerWindow(control_->hWnd(), *this);
+    connect(&ThemeNews::instance(), &ThemeNews::changed, this, [this] { update(); });
     if (Container* inner = control_->container()) {
         children_ = std::make_unique<ContainerWidgets>(*inner, *this);
     }

@@ -36,7 +36,7 @@ EditorStyle styleOf(const TextBox& model)
 {
     EditorStyle style;
     style.font = zoomed(model.Font()->traits(), model);
-    style.text = toQColor(model.ForeColor());
+    style.text = toQColor(inkOn(model.BackColor(), model.ForeColor()));
     style.background = toQColor(model.BackColor());
     style.alignment = model.Alignment();
     style.locked = model.Locked();
@@ -50,7 +50,7 @@ EditorStyle styleOf(const RichTextBox& model)
 {
     EditorStyle style;
     style.font = zoomed(model.Font()->traits(), model);
-    style.text = toQColor(SystemColour::WindowText);
+    style.text = toQColor(inkOn(model.BackColor(), SystemColour::WindowText));
     style.background = toQColor(model.BackColor());
     style.locked = model.Locked();
     style.ownKeyboard = hasOwnKeyboard(model);

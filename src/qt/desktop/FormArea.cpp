@@ -5,6 +5,7 @@
 #include "qt/desktop/FormWindow.h"
 #include "qt/desktop/InputCodes.h"
 #include "qt/desktop/PictureImage.h"
+#include "qt/desktop/Theme.h"
 #include "qt/desktop/WindowShape.h"
 
 #include <QPainter>
@@ -16,6 +17,7 @@ FormArea::FormArea(std::shared_ptr<Form> form, FormWindow& window)
     : QWidget(&window), form_(std::move(form)), window_(window)
 {
     setMouseTracking(true);
+    connect(&ThemeNews::instance(), &ThemeNews::changed, this, [this] { update(); });
 }
 
 void FormArea::paintEvent(QPaintEvent* /*event*/)

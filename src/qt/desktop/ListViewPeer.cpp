@@ -60,7 +60,7 @@ void ListViewPeer::showStyle()
 {
     list_.setFont(fontCatalogue().font(zoomed(model_->Font()->traits(), *model_)));
     QPalette palette = list_.palette();
-    palette.setColor(QPalette::Text, toQColor(model_->ForeColor()));
+    palette.setColor(QPalette::Text, toQColor(inkOn(model_->BackColor(), model_->ForeColor())));
     palette.setColor(QPalette::Base, toQColor(model_->BackColor()));
     list_.setPalette(palette);
     showTitles();

@@ -4,6 +4,7 @@
 #include "qt/desktop/Dispatch.h"
 #include "qt/desktop/FormKeys.h"
 #include "qt/desktop/InputCodes.h"
+#include "qt/desktop/Theme.h"
 #include "qt/desktop/WidgetAspects.h"
 #include "qt/desktop/WindowHandles.h"
 
@@ -22,6 +23,11 @@ NativePeer::NativePeer(ControlPtr control, QWidget& widget)
 {
     control_->frame().peer(this);
     registerWindow(control_->hWnd(), widget_);
+    connect(&ThemeNews::instance(), &ThemeNews::changed, this, [this] {
+        if (isLinked()) {
+            modelChanged(ControlAspect::Style);
+        }
+    });
 }
 
 NativePeer::~NativePeer()

@@ -5,6 +5,7 @@
 #include "qt/base/QtText.h"
 #include "qt/desktop/Composing.h"
 #include "qt/desktop/Cursors.h"
+#include "qt/desktop/DesktopLook.h"
 #include "qt/desktop/Dispatch.h"
 #include "qt/desktop/FormWindow.h"
 #include "qt/desktop/InputCodes.h"
@@ -142,8 +143,10 @@ void QtVisualHost::useTheme()
 {
     if (!themed_) {
         themed_ = true;
+        desktopLook_ = std::make_unique<DesktopLook>();
         CoreTheme& theme = coreTheme();
-        themeChanged_ = theme.CHANGED.connect([&theme](ThemeSlot) { applyTheme(theme); });
+        themeChanged_ += theme.CHANGED.connect([&theme](ThemeSlot) { applyTheme(theme); });
+        themeChanged_ += theme.COLOURSCHANGED.connect([&theme](ColourSet) { applyTheme(theme); });
         applyTheme(theme);
     }
 }

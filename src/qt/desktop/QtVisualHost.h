@@ -12,6 +12,7 @@ class QEventLoop;
 namespace phial::qt
 {
 
+class DesktopLook;
 class ModalGate;
 
 /// What is seen, on the toolkit. Needs the application object for as long as it lives.
@@ -46,7 +47,8 @@ private:
     std::unique_ptr<ModalGate> gate_;
     std::map<const Form*, QEventLoop*> loops_;
     PrintOutlet outlet_;
-    Connection themeChanged_;
+    std::unique_ptr<DesktopLook> desktopLook_;
+    Connections themeChanged_;
     bool themed_ = false;
     bool pointerSet_ = false;
 };

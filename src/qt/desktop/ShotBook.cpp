@@ -1,6 +1,7 @@
 #include "qt/desktop/ShotBook.h"
 
 #include "core/RuntimeError.h"
+#include "core/SessionState.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/FormWindow.h"
 #include "qt/desktop/PictureImage.h"
@@ -119,6 +120,7 @@ void ShotBook::write(StringView name, const Picture& picture) const
 
 void takeShots(const std::filesystem::path& folder, const std::function<void(ShotBook& book)>& tour)
 {
+    coreTheme().SetColours(ColourSet::Light); // whatever desktop the pictures are taken on
     for (const double scale : {1.0, 2.0}) {
         ShotBook book(folder, scale);
         tour(book);
