@@ -40,7 +40,7 @@ inline constexpr double Footer = 40;
 inline constexpr double PageHeight = Height - Header - Footer;
 /// Of header and footer in windows that are too low for the design.
 inline constexpr double LeastHeader = 52;
-inline constexpr double LeastFooter = 32;
+inline constexpr double LeastFooter = 36; // its buttons are no lower
 /// How much smaller and larger the design is shown.
 inline constexpr double LeastZoom = 0.75;
 inline constexpr double MostZoom = 4;
@@ -61,6 +61,7 @@ inline constexpr ControlDesign page(StringView name)
 
 /// The header's buttons from left to right.
 inline constexpr double HeaderTop = (Header - 44) / 2;
+inline constexpr ControlDesign::Rectangle ColoursPlace{652, HeaderTop, 48, 44};
 inline constexpr ControlDesign::Rectangle LanguagePlace{708, HeaderTop, 48, 44};
 inline constexpr ControlDesign::Rectangle ScreenPlace{764, HeaderTop, 48, 44};
 inline constexpr ControlDesign::Rectangle HelpPlace{820, HeaderTop, 48, 44};
@@ -123,7 +124,7 @@ inline constexpr ControlDesign sideButton(StringView name, ControlDesign::Rectan
 /// Up to the app's own controls.
 inline constexpr ControlDesign Head[] = {
     design<ctl_Gradient>(u"bar_Header", {0, 0, Width, Header})
-        .gradient(Palette::Accent, Palette::AccentDeep, 0),
+        .gradient(Palette::Header, Palette::HeaderDeep, 0),
     page(u"pan_Start"),
     page(u"pan_Task"),
     page(u"pan_Summary"),
@@ -132,17 +133,18 @@ inline constexpr ControlDesign Head[] = {
     panel(u"pan_Footer", {0, Height - Footer, Width, Footer}, Palette::Footer, Palette::Divider),
 
     // All but the title keep their distance from the right edge.
-    design<ctl_Label>(u"lab_Title", {32, 0, 360, Header})
+    design<ctl_Label>(u"lab_Title", {32, 0, 304, Header})
         .inside(u"bar_Header")
         .font(18, FontWeight::Bold)
-        .ink(Palette::OnAccent)
+        .ink(Palette::OnHeader)
         .align(MiddleLeft),
-    design<ctl_Label>(u"lab_Points", {402, 0, 106, Header})
+    design<ctl_Label>(u"lab_Points", {346, 0, 106, Header})
         .inside(u"bar_Header")
         .font(14)
-        .ink(Palette::OnAccent)
+        .ink(Palette::OnHeader)
         .align(MiddleRight),
-    design<ctl_Avatar>(u"ctl_User", {520, 6, 176, 52}).inside(u"bar_Header"),
+    design<ctl_Avatar>(u"ctl_User", {464, 6, 176, 52}).inside(u"bar_Header"),
+    headerButton(u"but_Colours", ColoursPlace, {}),
     headerButton(u"but_Language", LanguagePlace, u"EN|DE").spoken(u"Auf Englisch|In German"),
     headerButton(u"but_Screen", ScreenPlace, u"\u2922").spoken(u"Ganzer Bildschirm (F11)|Full screen (F11)"),
     headerButton(u"but_Help", HelpPlace, u"?").spoken(u"Hilfe|Help"),
@@ -202,7 +204,7 @@ inline constexpr ControlDesign Tail[] = {
 
     centred(u"lab_Praise", {32, 12, 836, 44}, 20, FontWeight::Bold).inside(u"pan_Summary"),
     centred(u"lab_Result", {32, 64, 308, 36}, 18).inside(u"pan_Summary"),
-    panel(u"pan_ResultBack", {32, 108, 308, 14}, Palette::Divider, Palette::Divider).inside(u"pan_Summary"),
+    panel(u"pan_ResultBack", {32, 108, 308, 14}, Palette::Track, Palette::Track).inside(u"pan_Summary"),
     panel(u"pan_ResultDone", {32, 108, 308, 14}, Palette::Accent, Palette::Accent).inside(u"pan_Summary"),
     design<ctl_Label>(u"lab_Solved", {32, 130, 308, 48})
         .inside(u"pan_Summary")

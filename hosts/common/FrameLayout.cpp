@@ -17,7 +17,8 @@ constexpr double LowestHeight =
     frame_design::PageHeight + frame_design::LeastHeader + frame_design::LeastFooter;
 /// Left of this a piece of a bar keeps its distance from the left edge.
 constexpr double LeftBound = 200;
-constexpr double LeastEdge = 6; // above and below a piece together
+constexpr double HeaderEdge = 6; // above and below a piece together
+constexpr double FooterEdge = 0;
 
 PixelSize leastInside()
 {
@@ -77,22 +78,22 @@ void FrameLayout::follow()
     form_.control<phial::ctl_Pannel>(u"pan_Footer")
         ->frame()
         .pixelRectangle({0, now.area.height - now.footer, now.area.width, now.footer});
-    placeBar(header_, now.area.width, now.header, frame_design::Header);
-    placeBar(footer_, now.area.width, now.footer, frame_design::Footer);
+    placeBar(header_, now.area.width, now.header, frame_design::Header, HeaderEdge);
+    placeBar(footer_, now.area.width, now.footer, frame_design::Footer, FooterEdge);
     for (const phial::ControlPtr& page : pages_) {
         page->frame().Move(now.page.x, now.page.y);
     }
 }
 
 // A piece as high as the bar stays so; any other one keeps its height, if the bar has it, and its middle.
-void FrameLayout::placeBar(const std::vector<Piece>& pieces, double width, double height, double designHeight)
+void FrameLayout::placeBar(const std::vector<Piece>& pieces, double width, double height, double designHeight,
+                           double edge)
 {
     for (const Piece& piece : pieces) {
         const PixelRectangle& design = piece.place;
         const double left =
             design.left < LeftBound ? design.left : width - (frame_design::Width - design.left);
-        const double most =
-            design.height >= designHeight ? height : std::min(design.height, height - LeastEdge);
+        const double most = design.height >= designHeight ? height : std::min(design.height, height - edge);
         piece.control->frame().pixelRectangle({left, (height - most) / 2, design.width, most});
     }
 }

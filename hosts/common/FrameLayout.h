@@ -40,7 +40,8 @@ private:
         phial::PixelRectangle place; ///< in the design
     };
 
-    void placeBar(const std::vector<Piece>& pieces, double width, double height, double designHeight);
+    void placeBar(const std::vector<Piece>& pieces, double width, double height, double designHeight,
+                  double edge);
     static std::vector<Piece> piecesIn(const phial::Container& container);
 
     phial::Form& form_;

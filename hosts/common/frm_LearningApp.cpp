@@ -62,13 +62,22 @@ String missingInstallation()
         u"program from its own folder.");
 }
 
+/// Bars and titles of the boxes that the app opens are those of the frame.
+void useFrameColours()
+{
+    phial::CoreTheme& theme = phial::coreTheme();
+    theme.SetColour(phial::ThemeSlot::Accent, phial::Palette::Accent);
+    theme.SetColour(phial::ThemeSlot::Frame, phial::Palette::Header);
+    theme.SetColour(phial::ThemeSlot::FrameText, phial::Palette::OnHeader);
+}
+
 } // namespace
 
 frm_LearningApp::frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch searchMasters)
     : app_(std::move(app)), levelTitles_(app_->levels()), searchMasters_(std::move(searchMasters)),
       form_(designOf(app_->texts())), levels_(*form_, u"but_Level"), asking_(u"tmr_Asking", AskingInterval)
 {
-    phial::coreTheme().SetColour(phial::ThemeSlot::Accent, phial::Palette::Accent);
+    useFrameColours();
     form_.add(app_->controls());
     form_.add(frame_design::Tail);
     buildLevels();
@@ -77,6 +86,7 @@ frm_LearningApp::frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch 
     tasks_.emplace(*form_, *app_);
     summary_.emplace(*form_, app_->texts());
     sounds_.emplace(*form_);
+    colours_.emplace(*form_);
     connect();
     connectClassroom();
     TRANSLATE();
@@ -134,6 +144,7 @@ void frm_LearningApp::connect()
         QVAPP()->DIALOG()->ABOUT();
         backToTask();
     });
+    form_.press(u"but_Colours", [this] { backToTask(); });
     form_.press(u"but_Screen", [this] {
         toggleFullScreen();
         backToTask();
@@ -357,6 +368,7 @@ void frm_LearningApp::TRANSLATE()
         summary_->showAgain(tasks_->review());
     }
     sounds_->TRANSLATE();
+    colours_->TRANSLATE();
     showClassroom();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/AppColours.h"
 #include "common/AppSounds.h"
 #include "common/ClassroomLink.h"
 #include "common/FrameLayout.h"
@@ -87,6 +88,7 @@ private:
     std::optional<TaskPage> tasks_;
     std::optional<SummaryPage> summary_;
     std::optional<AppSounds> sounds_;
+    std::optional<AppColours> colours_;
     ClassroomLink classroom_;
     phial::Timer asking_;                        ///< asks the master again while the pupil waits
     std::optional<phial::WindowState> windowed_; ///< the state before the full screen; none without it

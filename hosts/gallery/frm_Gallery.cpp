@@ -1,5 +1,6 @@
 #include "gallery/frm_Gallery.h"
 
+#include "app/ColourChoice.h"
 #include "app/FormTexts.h"
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
@@ -26,6 +27,18 @@ namespace
 constexpr std::int32_t WatchInterval = 400;
 constexpr StringView Indent = u"    ";
 
+/// The entries of the menu of colours, in the order of its indices.
+struct ColourEntry {
+    std::optional<phial::ColourSet> set;
+    StringView both; ///< "German|English"
+};
+constexpr auto ColourEntries = std::to_array<ColourEntry>({
+    {std::nullopt, u"&Wie am Computer|&As the computer"},
+    {phial::ColourSet::Light, u"&Hell|&Light"},
+    {phial::ColourSet::Dark, u"&Dunkel|&Dark"},
+    {phial::ColourSet::HighContrast, u"Hoher &Kontrast|High &contrast"},
+});
+
 /// The entries of the menu of languages, in the order of its indices.
 constexpr auto Languages =
     std::to_array<phial::enm_LanguageC>({phial::ID_Language_German, phial::ID_Language_English});
@@ -36,7 +49,10 @@ frm_Gallery::frm_Gallery()
     : exhibits_(catalogue()), form_(layout::Design), states_(*form_, u"but_State"),
       watch_(std::make_shared<phial::Timer>(u"tmr_Watch", WatchInterval))
 {
-    phial::coreTheme().SetColour(phial::ThemeSlot::Accent, phial::Palette::Accent);
+    phial::CoreTheme& theme = phial::coreTheme();
+    theme.SetColour(phial::ThemeSlot::Accent, phial::Palette::Accent);
+    theme.SetColour(phial::ThemeSlot::Frame, phial::Palette::Header);
+    theme.SetColour(phial::ThemeSlot::FrameText, phial::Palette::OnHeader);
     states_.adopt();
     buildMenu();
     form_->addComponent(watch_);
@@ -64,6 +80,10 @@ void frm_Gallery::buildMenu()
     for (std::size_t i = 0; i < Languages.size(); ++i) {
         language->add(u"men_Choice", Languages[i] == phial::ID_Language_German ? u"&Deutsch" : u"&English",
                       static_cast<std::int32_t>(i));
+    }
+    const auto colours = form_->menu().add(u"men_Colours", u"&Farben|&Colours");
+    for (std::size_t i = 0; i < ColourEntries.size(); ++i) {
+        colours->add(u"men_Set", phial::String(ColourEntries[i].both), static_cast<std::int32_t>(i));
     }
     form_->menu().add(u"men_Help", u"&Hilfe|&Help")->add(u"men_Info", u"&Info|&About");
     const auto& recent = phial::QVAPP()->MRU();
@@ -96,6 +116,10 @@ void frm_Gallery::connect()
     });
     form_.on(menu.entry(u"men_Help")->entry(u"men_Info")->Click,
              [](std::int32_t) { phial::QVAPP()->DIALOG()->ABOUT(); });
+    form_.on(menu.entry(u"men_Colours")->Chosen, [this](phial::Menu& choice) {
+        phial::chooseColours(ColourEntries[static_cast<std::size_t>(choice.Index())].set);
+        markColours();
+    });
     form_.on(menu.entry(u"men_Language")->Chosen, [](phial::Menu& choice) {
         phial::LNG()->CURRENT(Languages[static_cast<std::size_t>(choice.Index())]);
     });
@@ -110,10 +134,20 @@ void frm_Gallery::TRANSLATE()
         language->entry(u"men_Choice", static_cast<std::int32_t>(i))
             ->Checked(phial::LNG()->EFFECTIVE() == Languages[i]);
     }
+    markColours();
     listExhibits();
     // What opens a box, plays or prints does not do so again because of the language.
     const Sample& state = exhibits_[exhibit_].samples[state_];
     show(exhibit_, state.waits || state.prints ? 0 : state_);
+}
+
+void frm_Gallery::markColours()
+{
+    const auto colours = form_->menu().entry(u"men_Colours");
+    for (std::size_t i = 0; i < ColourEntries.size(); ++i) {
+        colours->entry(u"men_Set", static_cast<std::int32_t>(i))
+            ->Checked(phial::coreTheme().chosenColours() == ColourEntries[i].set);
+    }
 }
 
 void frm_Gallery::listExhibits()

@@ -38,6 +38,7 @@ private:
     void buildMenu();
     void connect();
 
+    void markColours();
     void listExhibits();
     void listChosen();
     void remember(std::size_t exhibit);

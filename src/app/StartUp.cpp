@@ -1,5 +1,6 @@
 #include "app/StartUp.h"
 
+#include "app/ColourChoice.h"
 #include "app/Session.h"
 #include "app/Settings.h"
 #include "app/cls_App.h"
@@ -41,6 +42,7 @@ void setThemeColours()
     theme.SetColour(ThemeSlot::Accent, QBColor(2));
     theme.SetColour(ThemeSlot::Frame, u"#383838");
     theme.SetColour(ThemeSlot::FrameText, u"#ffffff");
+    theme.SetColours(rememberedColours());
 }
 
 void addParameters(const CoreTokenList& tokens, CoreParameters& parameters)

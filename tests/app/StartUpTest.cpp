@@ -1,4 +1,5 @@
 #include "app/AppTest.h"
+#include "app/ColourChoice.h"
 #include "app/cls_Language.h"
 #include "app/screen/Avatars.h"
 #include "core/CoreParameters.h"
@@ -45,6 +46,24 @@ TEST_F(StartUp, SetsThreeColoursOfTheTheme)
     EXPECT_EQ(coreTheme().Colour(ThemeSlot::Accent), RGB(0, 128, 0));
     EXPECT_EQ(coreTheme().Colour(ThemeSlot::Frame), RGB(0x38, 0x38, 0x38));
     EXPECT_EQ(coreTheme().Colour(ThemeSlot::FrameText), RGB(255, 255, 255));
+}
+
+TEST_F(StartUp, ShowsTheSetOfColoursThatTheUserHasChosen)
+{
+    start();
+    EXPECT_EQ(coreTheme().chosenColours(), std::nullopt) << "as the desktop";
+    chooseColours(ColourSet::HighContrast);
+    EXPECT_EQ(coreTheme().Colours(), ColourSet::HighContrast);
+    EXPECT_EQ(rememberedColours(), ColourSet::HighContrast);
+    coreTheme().SetColours(std::nullopt);
+    QVAPP()->INIT(u"");
+    EXPECT_EQ(coreTheme().Colours(), ColourSet::HighContrast);
+    for (const ColourSet set : {ColourSet::Light, ColourSet::Dark}) {
+        chooseColours(set);
+        EXPECT_EQ(rememberedColours(), set);
+    }
+    chooseColours(std::nullopt);
+    EXPECT_EQ(rememberedColours(), std::nullopt);
 }
 
 TEST_F(StartUp, KeepsTheCommandLineAsItWasGiven)

@@ -45,14 +45,14 @@ TEST(FrameLayoutTest, InALowWindowHeaderAndFooterGiveWayFirst)
 {
     const Arrangement some = arrange({1024, 630});
     EXPECT_EQ(some.zoom, 1);
-    EXPECT_EQ(some.header, 58);
-    EXPECT_EQ(some.footer, 36);
+    EXPECT_EQ(some.header, 56.5);
+    EXPECT_EQ(some.footer, 37.5);
     expectWhole(some);
 
     const Arrangement low = arrange({1024, 572});
-    EXPECT_DOUBLE_EQ(low.zoom, 572.0 / 620);
+    EXPECT_DOUBLE_EQ(low.zoom, 572.0 / 624);
     EXPECT_EQ(low.header, 52);
-    EXPECT_EQ(low.footer, 32);
+    EXPECT_EQ(low.footer, 36) << "a button's height";
     expectWhole(low);
 }
 

@@ -354,7 +354,7 @@ TEST_F(TrainerTest, TypingGoesOnInTheAnswerBehindEachButtonOfTheHeader)
 {
     openInstalled();
     type(u"{enter}");
-    for (const auto* button : {u"but_Language", u"but_Screen", u"but_Help"}) {
+    for (const auto* button : {u"but_Colours", u"but_Language", u"but_Screen", u"but_Help"}) {
         if (StringView(button) == u"but_Help") {
             outside.visual().onModal(u"frm_AppAbout", [](phial::Form& about) { about.Unload(); });
         }

@@ -398,8 +398,8 @@ TEST_F(TrainerResult, EverythingOnThePageIsReachedByTab)
         phial::headless::tab(form());
     }
     EXPECT_THAT(stops, ::testing::ElementsAre(u"but_Again", u"but_Quit", u"but_Sound", u"ctl_User",
-                                              u"but_Language", u"but_Screen", u"but_Help", u"lst_Review",
-                                              u"but_List", u"but_Certificate", u"but_Export"));
+                                              u"but_Colours", u"but_Language", u"but_Screen", u"but_Help",
+                                              u"lst_Review", u"but_List", u"but_Certificate", u"but_Export"));
 }
 
 } // namespace

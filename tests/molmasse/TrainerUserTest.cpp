@@ -129,7 +129,7 @@ TEST_F(TrainerUser, IsChangedByKeysAlone)
 TEST_F(TrainerUser, IsReachedByTab)
 {
     openInstalled();
-    for (const auto* stop : {u"but_Help", u"but_Screen", u"but_Language", u"ctl_User"}) {
+    for (const auto* stop : {u"but_Help", u"but_Screen", u"but_Language", u"but_Colours", u"ctl_User"}) {
         phial::headless::tab(form(), true);
         EXPECT_EQ(focused(), stop);
     }
