@@ -16,6 +16,7 @@
 #include "core/CoreStringList.h"
 #include "core/CoreSystem.h"
 #include "core/NativePath.h"
+#include "core/SessionState.h"
 #include "results/cls_DataScores.h"
 #include "server/cls_AppServer.h"
 #include "visual/ListView.h"
@@ -142,6 +143,19 @@ public:
         take(u"working");
     }
 
+    /// The pages with most of the colours.
+    void showColours()
+    {
+        take(u"start");
+        press(u"but_Level", 0);
+        answer(Judgement::Wrong);
+        take(u"wrong");
+        answer(Judgement::Right);
+        take(u"right");
+        finishRound();
+        take(u"summary");
+    }
+
     /// The insides of windows on the screens that schools have; the second one at 125 %.
     void showSizes()
     {
@@ -233,6 +247,21 @@ void showMissing(const MakeApp& makeApp, const Take& take, StringView language)
     Tour(std::move(app), take, language).take(u"missing");
 }
 
+void showInOtherColours(StringView language, const MakeApp& makeApp, const Take& take)
+{
+    constexpr std::pair<phial::ColourSet, StringView> Sets[] = {
+        {phial::ColourSet::Dark, u"dark"}, {phial::ColourSet::HighContrast, u"contrast"}};
+    const auto before = phial::coreTheme().chosenColours();
+    for (const auto& [set, name] : Sets) {
+        phial::coreTheme().SetColours(set);
+        const String where = String(language) + u"-" + String(name);
+        Tour(makeApp(), take, where).showColours();
+        showMasterChoice(where, take);
+        showAbout(where, take);
+    }
+    phial::coreTheme().SetColours(before);
+}
+
 void showIn(phial::enm_LanguageC language, StringView name, const MakeApp& makeApp, const Take& take)
 {
     phial::LNG()->CURRENT(language);
@@ -248,6 +277,7 @@ void showIn(phial::enm_LanguageC language, StringView name, const MakeApp& makeA
         if (language == phial::ID_Language_German) {
             Tour(makeApp(), take, name).showSizes();
         }
+        showInOtherColours(name, makeApp, take);
         Tour(makeApp(), take, name).showClassroom(*newClassroom());
         showMasterChoice(name, take);
     }

@@ -2,6 +2,7 @@
 
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
+#include "core/SessionState.h"
 #include "core/Variant.h"
 #include "gallery/frm_Gallery.h"
 #include "visual/VisualHost.h"
@@ -96,6 +97,29 @@ void tourProperties(const Camera& camera)
     camera.take(u"Properties-font-de", form);
 }
 
+/// The library's windows in the other sets of colours, upon the gallery.
+void tourColours(const Camera& camera)
+{
+    constexpr std::pair<phial::ColourSet, StringView> Sets[] = {
+        {phial::ColourSet::Dark, u"dark"}, {phial::ColourSet::HighContrast, u"contrast"}};
+    const auto before = phial::coreTheme().chosenColours();
+    for (const auto& [set, setName] : Sets) {
+        phial::coreTheme().SetColours(set);
+        frm_Gallery gallery;
+        gallery.Show();
+        for (std::size_t exhibit = 0; exhibit < gallery.exhibits().size(); ++exhibit) {
+            const auto& shown = gallery.exhibits()[exhibit];
+            constexpr std::size_t Opened = 1;
+            if (shown.group == Group::Windows && shown.samples.size() > Opened &&
+                !shown.samples[Opened].prints && !shown.samples[Opened].waits) {
+                gallery.show(exhibit, Opened);
+                takeOpenWindows(camera, gallery, String(shown.title) + u"-" + String(setName));
+            }
+        }
+    }
+    phial::coreTheme().SetColours(before);
+}
+
 } // namespace
 
 void showEachState(const Camera& camera)
@@ -104,6 +128,7 @@ void showEachState(const Camera& camera)
     phial::LNG()->CURRENT(phial::ID_Language_German);
     tour(camera, u"de", Thoroughness::EachState);
     tourProperties(camera);
+    tourColours(camera);
     phial::LNG()->CURRENT(phial::ID_Language_English);
     tour(camera, u"en", Thoroughness::FirstState);
     phial::LNG()->CURRENT(before);
