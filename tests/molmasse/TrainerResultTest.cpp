@@ -393,7 +393,7 @@ TEST_F(TrainerResult, EverythingOnThePageIsReachedByTab)
     playRound();
 
     std::vector<String> stops;
-    for (int i = 0; i < 11; ++i) {
+    for (int i = 0; i < 12; ++i) {
         stops.push_back(focused());
         phial::headless::tab(form());
     }

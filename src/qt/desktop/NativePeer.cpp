@@ -26,6 +26,7 @@ NativePeer::NativePeer(ControlPtr control, QWidget& widget)
     connect(&ThemeNews::instance(), &ThemeNews::changed, this, [this] {
         if (isLinked()) {
             modelChanged(ControlAspect::Style);
+            modelChanged(ControlAspect::Items); // which may have colours of their own
         }
     });
 }
