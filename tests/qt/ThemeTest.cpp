@@ -93,7 +93,7 @@ TEST_F(ThemeTest, FieldsHaveTheInkThatCanBeReadOnTheirGround)
 TEST_F(ThemeTest, RowsWithAColourOfTheirOwnFollowAndKeepTheChoice)
 {
     const auto list = form->add<ListView>(u"lst_Rows");
-    list->COLUMNHEADERS()->Add(u"a");
+    list->COLUMNHEADERS()->Add(u"a", 100);
     list->ITEMS()->Add(u"1");
     list->ITEMS()->Add(u"2");
     list->ITEMS()->Item(2)->ForeColor(Palette::Failure);
