@@ -189,7 +189,8 @@ inline constexpr ControlDesign Head[] = {
 /// Behind the app's own controls: what is pressed when an answer stands there, and the pages that follow.
 inline constexpr ControlDesign Tail[] = {
     mainButton(u"but_Check", {372, 272, 220, 64}, u"Prüfen|Check").inside(u"pan_Task"),
-    design<ctl_Label>(u"lab_Feedback", {32, 352, 560, 60})
+    centred(u"lab_Verdict", {32, 352, 28, 60}, 18, FontWeight::Bold).inside(u"pan_Task"),
+    design<ctl_Label>(u"lab_Feedback", {68, 352, 524, 60})
         .inside(u"pan_Task")
         .font(14, FontWeight::Bold)
         .ink(Palette::Ink)
@@ -204,7 +205,7 @@ inline constexpr ControlDesign Tail[] = {
 
     centred(u"lab_Praise", {32, 12, 836, 44}, 20, FontWeight::Bold).inside(u"pan_Summary"),
     centred(u"lab_Result", {32, 64, 308, 36}, 18).inside(u"pan_Summary"),
-    panel(u"pan_ResultBack", {32, 108, 308, 14}, Palette::Track, Palette::Track).inside(u"pan_Summary"),
+    panel(u"pan_ResultBack", {32, 108, 308, 14}, Palette::Surface, Palette::Track).inside(u"pan_Summary"),
     panel(u"pan_ResultDone", {32, 108, 308, 14}, Palette::Accent, Palette::Accent).inside(u"pan_Summary"),
     design<ctl_Label>(u"lab_Solved", {32, 130, 308, 48})
         .inside(u"pan_Summary")

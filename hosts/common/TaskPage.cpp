@@ -17,11 +17,32 @@ namespace learning
 {
 
 using phial::String;
+using phial::StringView;
 
 namespace
 {
 
 constexpr std::int32_t DeafTime = 400; // milliseconds
+
+/// A verdict beside its word.
+struct VerdictLook {
+    StringView sign;
+    phial::Colour colour = phial::Palette::Ink;
+};
+
+VerdictLook lookOf(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::Right:
+        return {u"\u2713", phial::Palette::Right};
+    case Verdict::Missed:
+        return {u"\u2715", phial::Palette::Failure};
+    case Verdict::Wrong:
+    case Verdict::Unreadable:
+        break;
+    }
+    return {u"\u21BB", phial::Palette::TryAgain};
+}
 
 MissedTasks ofThisPupil()
 {
@@ -225,9 +246,12 @@ void TaskPage::goOn()
 
 void TaskPage::showVerdict()
 {
+    const VerdictLook look = verdict_ ? lookOf(*verdict_) : VerdictLook{};
+    caption(form_, u"lab_Verdict", String(look.sign));
     caption(form_, u"lab_Feedback", verdictText());
-    get<phial::ctl_Label>(u"lab_Feedback")
-        ->ForeColor(verdict_ == Verdict::Right ? phial::Palette::Right : phial::Palette::Failure);
+    for (const StringView label : {u"lab_Verdict", u"lab_Feedback"}) {
+        get<phial::ctl_Label>(label)->ForeColor(look.colour);
+    }
 }
 
 String TaskPage::verdictText()

@@ -1,6 +1,7 @@
 #include "app/cls_Language.h"
 #include "common/ctl_Reference.h"
 #include "common/ctl_RoundDots.h"
+#include "core/Palette.h"
 #include "molmasse/TrainerTest.h"
 
 #include <gmock/gmock-matchers.h>
@@ -419,6 +420,23 @@ TEST_F(TrainerTest, AWrongAnswerTellsTheMistakeThatItShows)
     type(u"16{enter}");
     EXPECT_EQ(seen(u"lab_Feedback"),
               u"Das ist erst die Masse von O. Es fehlen noch Atome.<br>Du hast noch einen Versuch.");
+}
+
+TEST_F(TrainerTest, AVerdictHasASignAWordAndAColour)
+{
+    openInstalled();
+    const auto colour = [this] { return form().control<phial::ctl_Label>(u"lab_Feedback")->ForeColor(); };
+    type(u"{enter}");
+    EXPECT_EQ(seen(u"lab_Verdict"), u"");
+    type(u"17{enter}");
+    EXPECT_EQ(seen(u"lab_Verdict"), u"\u21BB");
+    EXPECT_EQ(colour(), phial::Palette::TryAgain);
+    type(u"18{enter}");
+    EXPECT_EQ(seen(u"lab_Verdict"), u"\u2713");
+    EXPECT_EQ(colour(), phial::Palette::Right);
+    type(u"{enter}1{enter}2{enter}3{enter}");
+    EXPECT_EQ(seen(u"lab_Verdict"), u"\u2715");
+    EXPECT_EQ(colour(), phial::Palette::Failure);
 }
 
 TEST_F(TrainerTest, TheSecondWrongAnswerShowsTheAtomsForNothing)
