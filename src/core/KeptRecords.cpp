@@ -9,6 +9,18 @@
 namespace phial
 {
 
+namespace
+{
+
+/// A file may have been seen in another spelling than the one in which it is looked for.
+bool eraseNamed(std::set<std::filesystem::path>& rFiles, const String& name)
+{
+    return std::erase_if(rFiles,
+                         [&](const auto& file) { return equalsIgnoringCase(systemPath(file), name); }) > 0;
+}
+
+} // namespace
+
 std::vector<KeptRecord> KeptRecords::takeUntold()
 {
     const std::size_t count = std::exchange(untold_, 0);
@@ -24,17 +36,22 @@ void KeptRecords::add(KeptRecord record)
     untold_ = std::min(untold_ + 1, Most);
 }
 
+void KeptRecords::saw(const std::filesystem::path& file)
+{
+    seen_.insert(file);
+    eraseNamed(gone_, systemPath(file));
+}
+
 bool KeptRecords::missed(const std::filesystem::path& file)
 {
-    // It may have been seen in another spelling than the one in which it is looked for.
     const String name = systemPath(file);
-    const bool wasThere = std::erase_if(seen_, [&](const auto& seen) {
-                              return equalsIgnoringCase(systemPath(seen), name);
-                          }) > 0;
-    if (wasThere) {
+    if (eraseNamed(seen_, name)) {
+        gone_.insert(file);
         add({KeptRecord::Reason::Gone, name, {}});
+        return true;
     }
-    return wasThere;
+    return std::ranges::any_of(gone_,
+                               [&](const auto& gone) { return equalsIgnoringCase(systemPath(gone), name); });
 }
 
 KeptRecords& keptRecords()

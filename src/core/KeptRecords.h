@@ -40,15 +40,16 @@ public:
     void add(KeptRecord record);
 
     /// A record file was read or written there.
-    void saw(const std::filesystem::path& file) { seen_.insert(file); }
-    /// A record file is not there. One that was seen in this session is added as gone, once; gives whether it
-    /// was.
+    void saw(const std::filesystem::path& file);
+    /// A record file is not there. Gives whether it was seen in this session, and not again since; the first
+    /// time it is added as gone.
     bool missed(const std::filesystem::path& file);
 
 private:
     std::vector<KeptRecord> all_;
     std::size_t untold_ = 0; // at the end of the list
     std::set<std::filesystem::path> seen_;
+    std::set<std::filesystem::path> gone_;
 };
 
 /// Those of the open session; raises 91 when none is open.

@@ -42,14 +42,18 @@ TEST(KeptRecords, RememberTheLatestOnly)
     EXPECT_THAT(kept.takeUntold(), SizeIs(KeptRecords::Most));
 }
 
-TEST(KeptRecords, KnowWhatHasGoneOnce)
+TEST(KeptRecords, KnowWhatHasGoneAndTellItOnce)
 {
     KeptRecords kept;
     EXPECT_FALSE(kept.missed("/lists/a"));
     kept.saw("/lists/a");
     EXPECT_TRUE(kept.missed("/lists/a"));
-    EXPECT_FALSE(kept.missed("/lists/a"));
+    EXPECT_TRUE(kept.missed("/lists/a"));
+    EXPECT_TRUE(kept.missed("/lists/A")) << "in another spelling";
     EXPECT_THAT(kept.all(), ElementsAre(KeptRecord{Reason::Gone, u"\\lists\\a", u""}));
+    kept.saw("/lists/a");
+    EXPECT_TRUE(kept.missed("/lists/A"));
+    EXPECT_EQ(kept.all().size(), 2U) << "it was back meanwhile";
 }
 
 } // namespace

@@ -255,9 +255,11 @@ TEST_F(ListFaults, LookingAtAListThatHasVanishedMakesNoNewOne)
         layOutScores(name);
         QVAPP()->RATE()->HIGHSCORE();
         std::filesystem::remove(lists() / name);
-        outside.visual().onModal(u"frm_DialogHighscore", [](Form& form) { form.Unload(); });
-        QVAPP()->RATE()->HIGHSCORELIST();
-        EXPECT_THAT(folder.names("lists"), IsEmpty()) << name;
+        for (int look = 0; look < 2; ++look) {
+            outside.visual().onModal(u"frm_DialogHighscore", [](Form& form) { form.Unload(); });
+            QVAPP()->RATE()->HIGHSCORELIST();
+            EXPECT_THAT(folder.names("lists"), IsEmpty()) << name << look;
+        }
     }
 }
 
