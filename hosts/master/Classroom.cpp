@@ -97,6 +97,7 @@ void Classroom::receive(const Envelope& envelope, StringView text, Reply reply)
     const auto request = parseRequest(text);
     const Rule* rule = request ? ruleFor(*request) : nullptr;
     if (rule == nullptr) {
+        notices_.tell({Notice::UnknownRequest, {envelope.address}});
         reply(answerOf(NoSense));
         return;
     }
@@ -175,12 +176,16 @@ String Classroom::logOn(const Message& message)
     const Envelope& envelope = message.envelope;
     const LogOn logOn{envelope.id.sender, cleaned(message.request.package, MaxNameLength), envelope.address,
                       message.at};
+    const std::size_t crowdedOut = roster_.crowdedOut();
     StoreJob job;
     job.work = [logOn, replaced = roster_.logOn(logOn)](ClassBook& book, auto&) -> AnswerText {
         book.keepLogOn(logOn, replaced);
         return nullptr;
     };
     desk_.add(std::move(job), 0, {});
+    if (roster_.crowdedOut() != crowdedOut) {
+        notices_.tell({Notice::ManyPupils, {logOn.address}});
+    }
     return u"LOGON:OK";
 }
 

@@ -128,7 +128,9 @@ void ClientConnection::checkTimes()
     const bool takesNothing = socket_->hasEnded() && !isBusy() && now - heard_ > limits_.unfinishedSeconds;
     if (isOpen() && isUnfinished && hasTakenAll_) {
         cutOff(Notice::TooSlow);
-    } else if (saysNothing || takesNothing || now - heard_ > limits_.silentSeconds) {
+    } else if (isOpen() && saysNothing) {
+        cutOff(Notice::SaysNothing);
+    } else if (takesNothing || now - heard_ > limits_.silentSeconds) {
         makeRoom();
     }
 }

@@ -246,7 +246,11 @@ void MasterServer::answerQuestions()
         const QNetworkDatagram datagram =
             datagrams_.receiveDatagram(static_cast<qint64>(MaxAnnouncementBytes) + 1);
         const auto question = decodeAnnouncement(datagram.data().toStdString());
-        if (!question || !question->isQuestion() || !questions_.pass(clock_.seconds())) {
+        if (!question || !question->isQuestion()) {
+            continue;
+        }
+        if (!questions_.pass(clock_.seconds())) {
+            notices_.tell({Notice::ManyQuestions, {qt::addressText(datagram.senderAddress())}});
             continue;
         }
         const String own = qt::addressText(ownAddressFor(datagram));

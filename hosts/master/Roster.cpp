@@ -107,7 +107,7 @@ bool Roster::isSame(const LogOn& left, const LogOn& right)
     return left.address == right.address && equalsIgnoringCase(left.name, right.name);
 }
 
-std::vector<std::uint64_t> Roster::replacedBy(const LogOn& logOn) const
+std::vector<std::uint64_t> Roster::replacedBy(const LogOn& logOn)
 {
     std::vector<std::uint64_t> replaced;
     const auto isQuieter = [](const Entry& entry, const std::optional<Pupil>& than) {
@@ -138,8 +138,10 @@ std::vector<std::uint64_t> Roster::replacedBy(const LogOn& logOn) const
     const std::size_t others = entries_.size() - replaced.size() - (entries_.contains(logOn.client) ? 1 : 0);
     if (there >= ofComputer_) {
         replaced.push_back(quietestThere->logOn.client);
+        ++crowdedOut_;
     } else if (others >= MaxPupils) {
         replaced.push_back(quietest->logOn.client);
+        ++crowdedOut_;
     }
     return replaced;
 }

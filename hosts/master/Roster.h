@@ -58,6 +58,8 @@ public:
     void disconnect(std::uint64_t client, bool hasLeft);
 
     std::size_t count() const { return entries_.size(); }
+    /// How many have lost their place so far since there was no room.
+    std::size_t crowdedOut() const { return crowdedOut_; }
     /// Sorted by name.
     std::vector<Pupil> pupils(Moment now) const;
 
@@ -69,10 +71,11 @@ private:
     using Entries = std::unordered_map<std::uint64_t, Entry>;
 
     static bool isSame(const LogOn& left, const LogOn& right);
-    std::vector<std::uint64_t> replacedBy(const LogOn& logOn) const;
+    std::vector<std::uint64_t> replacedBy(const LogOn& logOn);
     Presence presenceOf(const Entry& entry, Moment now) const;
 
     std::size_t ofComputer_;
+    std::size_t crowdedOut_ = 0;
     Entries entries_;
     std::unordered_map<std::uint64_t, int> connections_;
 };

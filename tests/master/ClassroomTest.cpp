@@ -101,6 +101,20 @@ TEST_F(ClassroomTest, AnswersAMessageThatMakesNoSenseWithAnError)
         EXPECT_EQ(send(text), u"008:ERROR") << toUtf8(text);
     }
     EXPECT_TRUE(room_.store.committed().answers.empty());
+    EXPECT_THAT(room_.said,
+                testing::Contains(u"192.168.1.20 asked for what the master does not know; it was refused."));
+    EXPECT_THAT(room_.said,
+                testing::Contains(u"192.168.1.20 handed in what makes no sense; it was refused."));
+}
+
+TEST_F(ClassroomTest, WhoeverIsCrowdedOutOfTheListIsTold)
+{
+    for (std::int32_t pupil = 1; pupil <= 65; ++pupil) {
+        EXPECT_TRUE(room_.said.empty());
+        EXPECT_EQ(send(u"SERVER::LOGON::P" + plainText(pupil), static_cast<std::uint64_t>(pupil)),
+                  u"008:LOGON:OK");
+    }
+    EXPECT_EQ(room_.said.size(), 1U);
 }
 
 TEST_F(ClassroomTest, TellsWhetherALearningAppIsChosenAndWhich)
@@ -355,6 +369,9 @@ TEST_F(ClassroomTest, MadeUpListsOfManyComputersLeaveThoseOfTheChosenAppAndOfThe
         EXPECT_EQ(submitFrom(u"10.0.1." + plainText(number / 10), u"M" + plainText(number), 1), u"008:1");
     }
     EXPECT_EQ(submitFrom(u"10.0.0.1", u"real", 1), u"008:ERROR");
+    EXPECT_THAT(room_.said,
+                testing::Contains(u"There are 200 highscores already; REAL was refused. \"reset\" makes "
+                                  u"room, \"app\" admits those of the learning app."));
     EXPECT_EQ(submitFrom(u"10.0.0.1", u"highscore", 1), u"008:1") << "the usual one";
     room_.set(u"ALKANE.MAX", u"5");
     EXPECT_EQ(submitFrom(u"10.0.0.1", u"alkane", 1), u"008:1") << "the teacher knows it";
@@ -432,6 +449,7 @@ TEST_F(ClassroomTest, AnEntryWhoseNamesAreTooLongForAListIsRefused)
     const String package =
         CoreValuePacker::Pack({5.0, 10.0, longest, CoreParameters().Pack(), longest, longest, longest});
     EXPECT_EQ(send(requestText(u"HIGHSCORE", u"SUBMIT", package)), u"008:ERROR");
+    EXPECT_EQ(room_.said.size(), 1U) << "too long for a highscore";
     EXPECT_EQ(send(requestText(u"RESULTS", u"SUBMIT", package)), u"008:OK");
 }
 

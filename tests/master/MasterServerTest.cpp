@@ -386,6 +386,7 @@ TEST_F(MasterServerTest, CutsOffWhoConnectsAndSaysNothing)
     connectAndAsk();
     outside.clock().advance(limits_.unfinishedSeconds + 1);
     EXPECT_TRUE(client.isCutOff());
+    EXPECT_TRUE(isTold(u"127.0.0.1 connected and said nothing, and was cut off."));
 }
 
 TEST_F(MasterServerTest, CutsOffWhoIsSilentForLong)
@@ -526,6 +527,7 @@ TEST_F(MasterServerTest, AnswersQuestionsOnlyAndNotTooMany)
     connectAndAsk(); // whatever was sent has been read by now
     count();
     EXPECT_EQ(answers, 2);
+    EXPECT_TRUE(isTold(u"The master is looked for too often, last by 127.0.0.1; a part gets no answer."));
 }
 
 } // namespace

@@ -122,8 +122,11 @@ TEST(Roster, OfOneComputerTheLongestSilentGoesFirst)
     roster.logOn(logOn(2, u"Ben", 2));
     roster.logOn(logOn(3, u"Cem", 3));
     roster.hear(2, at(10));
+    EXPECT_EQ(roster.crowdedOut(), 0U);
     EXPECT_THAT(roster.logOn(logOn(4, u"Dora", 11)), ElementsAre(3U));
+    EXPECT_EQ(roster.crowdedOut(), 1U);
     EXPECT_THAT(roster.logOn(logOn(4, u"Eva", 12)), IsEmpty()) << "no further client";
+    EXPECT_EQ(roster.crowdedOut(), 1U);
     EXPECT_THAT(names(roster.pupils(at(12))), ElementsAre(u"Anna", u"Ben", u"Eva"));
 }
 
@@ -138,6 +141,7 @@ TEST(Roster, OfAllTheLongestSilentGoesFirst)
     }
     roster.hear(1, at(10000));
     EXPECT_THAT(roster.logOn(logOn(9999, u"new", 10001, u"10.9")), ElementsAre(2U));
+    EXPECT_EQ(roster.crowdedOut(), 1U);
     EXPECT_EQ(roster.count(), Roster::MaxPupils);
 }
 
