@@ -1,5 +1,6 @@
 #include "DesktopSession.h"
 #include "support/PaintedField.h"
+#include "visual/ComboBox.h"
 #include "visual/RichTextBox.h"
 #include "visual/TextBox.h"
 
@@ -63,6 +64,17 @@ protected:
 
     std::shared_ptr<Form> form_ = std::make_shared<Form>(u"frm_Test");
 };
+
+TEST_F(OwnKeyboardTest, NorTheLineOfAChoiceThatHasOne)
+{
+    const auto combo = field<ComboBox>(u"cmb_Own", 10, true);
+    combo->Style(ComboStyle::Editable);
+    EXPECT_FALSE(isServed(widgetOf(*combo)));
+    combo->frame().ownKeyboard(false);
+    EXPECT_TRUE(isServed(widgetOf(*combo)));
+    combo->frame().ownKeyboard(true);
+    EXPECT_FALSE(isServed(widgetOf(*combo)));
+}
 
 TEST_F(OwnKeyboardTest, NoInputMethodServesAFieldThatHasOne)
 {

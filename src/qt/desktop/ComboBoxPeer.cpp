@@ -35,9 +35,19 @@ void ComboBoxPeer::showStyle()
         line->setFont(font);
     }
     const bool editable = model_->Style() == ComboStyle::Editable;
-    if (editable == box_.isEditable()) {
-        return;
+    if (editable != box_.isEditable()) {
+        makeEditable(editable, font);
     }
+    // The box has the focus for its line.
+    const bool isServed = editable && !model_->frame().ownKeyboard();
+    box_.setAttribute(Qt::WA_InputMethodEnabled, isServed);
+    if (QLineEdit* line = box_.lineEdit()) {
+        line->setAttribute(Qt::WA_InputMethodEnabled, isServed);
+    }
+}
+
+void ComboBoxPeer::makeEditable(bool editable, const QFont& font)
+{
     box_.setEditable(editable);
     if (QLineEdit* line = box_.lineEdit()) {
         line->setFont(font);

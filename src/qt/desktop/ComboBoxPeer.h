@@ -4,6 +4,7 @@
 #include "visual/ComboBox.h"
 
 class QComboBox;
+class QFont;
 
 namespace phial::qt
 {
@@ -17,6 +18,7 @@ public:
 private:
     ComboBoxPeer(std::shared_ptr<ComboBox> model, QComboBox& box);
     void showStyle() override;
+    void makeEditable(bool editable, const QFont& font);
     void showItems() override;
     void showText() override;
     void showSelection() override;
