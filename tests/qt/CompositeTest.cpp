@@ -116,6 +116,11 @@ TEST_F(CompositeOnForm, KeysReachTheFieldOnceAndTheFormsControls)
     EXPECT_EQ(composite_->first->Text(), u"H2");
     press(*QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(log_, std::vector<std::string>{"enter"});
+    const auto leave = form_->add<ctl_Button>(u"but_Leave");
+    form_->CancelControl(leave);
+    logs(leave->CLICK, "leave");
+    press(*QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(log_, (std::vector<std::string>{"enter", "leave"}));
 }
 
 TEST_F(CompositeOnForm, AKeyThatAFieldInAContainerHasNoUseForIsHeardOnce)

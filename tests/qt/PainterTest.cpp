@@ -6,6 +6,7 @@
 #include "visual/DrawDevice.h"
 
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 
 #include <numbers>
@@ -415,6 +416,17 @@ TEST_F(PainterTest, AGradientDrawnAgainWithAnotherTraitIsAnotherOne)
     EXPECT_FALSE(same(first, drawn(30, QBColor(9), QBColor(12), 90, 16)));
     EXPECT_FALSE(same(first, drawn(30, QBColor(9), QBColor(12), 45, 17)));
     EXPECT_TRUE(same(first, usual()));
+}
+
+TEST_F(PainterTest, AGradientIsMadeOnceForSeveralDrawings)
+{
+    const Gradient gradient{QSize(30, 30), qRgb(0, 0, 255), qRgb(255, 0, 0), 45, 16};
+    const QImage first = gradientImage(gradient);
+    EXPECT_EQ(gradientImage(gradient).constBits(), first.constBits());
+    Gradient other = gradient;
+    other.steps = 17;
+    EXPECT_NE(gradientImage(other).constBits(), first.constBits());
+    EXPECT_EQ(gradientImage(gradient).constBits(), first.constBits());
 }
 
 TEST_F(PainterTest, AGradientKeepsToTheClip)
