@@ -424,6 +424,7 @@ TEST_F(MasterServerTest, CutsOffWhoDoesNotTakeHisAnswers)
         client.send(u"PROPERTIES::GET::LONG");
     }
     EXPECT_TRUE(eventually([&] { return server_->connections() == 0; }));
+    EXPECT_TRUE(isTold(u"127.0.0.1 does not take its answers, and was cut off."));
 }
 
 TEST_F(MasterServerTest, WhoAsksForLongListsAgainAndAgainIsCutOffAndOthersAreAnswered)
