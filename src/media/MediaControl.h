@@ -38,6 +38,8 @@ public:
 
     /// Milliseconds.
     std::int32_t Length() const;
+    /// Whether it was told to play and not to stop; the sound may have ended since.
+    bool isPlaying() const { return isPlaying_; }
     /// Milliseconds from the beginning; as the clock says while it plays.
     std::int32_t Position() const;
 
@@ -57,7 +59,7 @@ private:
     String command_;
     std::shared_ptr<const Sound> sound_; ///< null: nothing is open
     std::int32_t position_ = 0;          ///< where it stands or began to play
-    bool isPlaying_ = false;             ///< it was started and not stopped; it may have ended since
+    bool isPlaying_ = false;
     AudioOutput::Voice voice_ = AudioOutput::Voice::None;
     double begin_ = 0; ///< by the clock
 };

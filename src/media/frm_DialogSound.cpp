@@ -185,7 +185,7 @@ bool frm_DialogSound::isOver() const
 {
     if (!soundFile_.empty()) {
         const MediaControl& control = *Session::current().sharedForm<frm_AppMCI>()->mci();
-        return control.Position() >= control.Length();
+        return !control.isPlaying() || control.Position() >= control.Length(); // a host may have stopped it
     }
     constexpr double CharactersPerTick = 15;
     constexpr double LeastTicks = 5;

@@ -123,6 +123,16 @@ TEST_F(DialogSound, ItClosesWithoutADeviceAndWhenTheDeviceIsLost)
                 0.5, Exact);
 }
 
+TEST_F(DialogSound, ItClosesWhenAHostStopsTheSound)
+{
+    EXPECT_NEAR(show(u"a.wav", sound(u"a.wav", 3), false,
+                     [&](Form&) {
+                         outside.advance(0.25);
+                         mci().Command(u"stop");
+                     }),
+                0.3, Exact);
+}
+
 TEST_F(DialogSound, TheSameSoundIsNotOpenedAgain)
 {
     const String file = sound(u"a.wav", 0.5);
@@ -400,8 +410,11 @@ TEST_F(DialogSound, WordsOfPraiseAndBlameInBothLanguages)
                 ElementsAre(u"Voll daneben", u"Echt nicht!", u"War nix!", u"So nicht",
                             u"Das wird nichts mehr!", u"Ende im Gelände!"));
     LNG()->CURRENT(ID_Language_English);
-    EXPECT_EQ(words(ID_MediaComment_Correct, 5)[1], u"Great");
-    EXPECT_EQ(words(ID_MediaComment_Wrong, 6)[3], u"Not like that");
+    EXPECT_THAT(words(ID_MediaComment_Correct, 5),
+                ElementsAre(u"That was first-class", u"Great", u"That does it!", u"Brilliant", u"Geeeenius"));
+    EXPECT_THAT(words(ID_MediaComment_Wrong, 6),
+                ElementsAre(u"Way off", u"Not really!", u"That was nothing!", u"Not like that",
+                            u"That will not work out!", u"End of the road!"));
 }
 
 TEST_F(DialogSound, ACommentThatFailsRaisesNothing)
