@@ -22,13 +22,14 @@ class HaltedServer : public testing::Test
 {
 protected:
     /// Gives an order to the program, with a sound of so many seconds.
-    double ask(const char* order, double seconds)
+    double ask(const char* order, double seconds) { return program_.ask(orderFor(order, seconds)); }
+    QByteArray orderFor(const char* order, double seconds)
     {
         std::string name = std::to_string(seconds) + ".wav";
         folder_.write(name, markedWave(seconds));
         std::string path = (folder_.native() / name).string();
         std::replace(path.begin(), path.end(), '/', '\\');
-        return program_.ask(QByteArray(order) + ' ' + QByteArray::fromStdString(path));
+        return QByteArray(order) + ' ' + QByteArray::fromStdString(path);
     }
 
     void expectTheWindowGoesOn()
@@ -65,6 +66,7 @@ protected:
         program_.tell("end");
         EXPECT_TRUE(program_.ends());
         EXPECT_LT(timer.elapsed(), 2000);
+        EXPECT_EQ(program_.complaints(), "");
     }
 
     SoundServer server_;
@@ -115,6 +117,22 @@ TEST_F(HaltedServer, HoldsUpNoProgramThatEndsInMidSound)
 class DeadServer : public HaltedServer
 {
 };
+
+TEST_F(DeadServer, ClosesThePraiseWindowAndSaysNothing)
+{
+    ASSERT_TRUE(program_.hasTold("ready"));
+    EXPECT_TRUE(isHeard());
+    Recorder recorder(server_.environment());
+    EXPECT_TRUE(recorder.record(2 * ShortSeconds)); // what was heard rings out
+    constexpr double LongSeconds = 20;
+    program_.tell(orderFor("praise", LongSeconds));
+    EXPECT_TRUE(recorder.hearsSomething(5));
+    server_.kill();
+    const double stood = program_.answer();
+    EXPECT_GT(stood, 0);
+    EXPECT_LT(stood, LongSeconds / 2);
+    expectTheProgramEnds();
+}
 
 TEST_F(DeadServer, IsHeardAgainWhenItIsBack)
 {

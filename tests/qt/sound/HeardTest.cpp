@@ -1,3 +1,4 @@
+#include "HeardSamples.h"
 #include "Recorder.h"
 #include "SoundServer.h"
 #include "qt/base/QtClock.h"
@@ -10,7 +11,6 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <numbers>
-#include <numeric>
 #include <optional>
 #include <span>
 #include <vector>
@@ -43,43 +43,6 @@ std::vector<float> rising(std::int32_t rate, double seconds)
         samples[at] = static_cast<float>(0.5 * std::exp(-time) * std::cos(phase));
     }
     return samples;
-}
-
-/// How alike two sounds of the same length are: 1 when one is the other, louder or softer.
-double correlation(std::span<const float> left, std::span<const float> right)
-{
-    const auto product = [](std::span<const float> one, std::span<const float> other) {
-        return std::inner_product(one.begin(), one.end(), other.begin(), 0.0);
-    };
-    return product(left, right) / std::sqrt(product(left, left) * product(right, right));
-}
-
-bool isSilent(float sample)
-{
-    return sample == 0;
-}
-
-/// What was heard, without silence before, behind and within it. A busy machine makes pauses when the program
-/// gets no time to hand on samples; `rPauses` tells how many there were.
-std::vector<float> withoutSilence(const std::vector<float>& samples, int& rPauses)
-{
-    constexpr std::ptrdiff_t ShortestPause = 64; // a sound may go through 0
-    std::vector<float> sounding;
-    rPauses = 0;
-    for (auto at = std::find_if_not(samples.begin(), samples.end(), isSilent); at != samples.end();) {
-        const auto end = std::find_if(at, samples.end(), isSilent);
-        sounding.insert(sounding.end(), at, end);
-        at = std::find_if_not(end, samples.end(), isSilent);
-        if (at - end < ShortestPause) {
-            sounding.insert(sounding.end(), end, at);
-        } else if (at != samples.end()) {
-            ++rPauses;
-        }
-    }
-    while (!sounding.empty() && isSilent(sounding.back())) {
-        sounding.pop_back();
-    }
-    return sounding;
 }
 
 /// The last level that was held for 20 milliseconds, in thousandths, or 0; pauses do not count.

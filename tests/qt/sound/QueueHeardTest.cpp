@@ -1,12 +1,19 @@
+#include "HeardSamples.h"
 #include "Recorder.h"
 #include "SoundProgram.h"
 #include "SoundServer.h"
+#include "core/AudioOutput.h"
+#include "core/WaveFile.h"
+#include "support/Places.h"
 #include "support/WaveBytes.h"
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <numeric>
+#include <span>
 #include <vector>
 
 /// What is heard of sounds that wait for their turn in the queue of an app.
@@ -17,7 +24,8 @@ using namespace phial::test;
 
 constexpr std::int32_t ClickRate = 44'100;
 constexpr int ClickLevels = 8; // levels that tell sounds apart
-constexpr int Clicks = 40;
+constexpr int Clicks = 40;     // few enough that none fall together in most bursts
+constexpr int ManyClicks = 100;
 constexpr int ClickStep = 4'000; // of a sample
 constexpr double QueueBeat = 0.025;
 constexpr std::size_t ClickFrames = ClickRate / 200; // shorter than the server's pieces of time
@@ -55,29 +63,39 @@ class QueueHeard : public testing::Test
 protected:
     void SetUp() override
     {
-        for (int count = 0; count < Clicks; ++count) {
+        for (int count = 0; count < ManyClicks; ++count) {
             const std::string name = std::to_string(levelOf(count)) + ".wav";
             folder_.write(name, click(levelOf(count)));
-            files_ += (count > 0 ? "|" : "") + (folder_.native() / name).string();
+            files_.push_back(systemText(folder_.native() / name));
         }
-        std::replace(files_.begin(), files_.end(), '/', '\\');
         ASSERT_TRUE(program_.hasTold("ready"));
     }
 
     static int levelOf(int count) { return count % ClickLevels + 1; }
 
-    std::vector<float> burst()
+    static std::string systemText(const std::filesystem::path& file)
     {
+        std::string text = file.string();
+        std::replace(text.begin(), text.end(), '/', '\\');
+        return text;
+    }
+
+    std::vector<float> burst(int count)
+    {
+        std::string files;
+        for (int file = 0; file < count; ++file) {
+            files += (file > 0 ? "|" : "") + files_[static_cast<std::size_t>(file)];
+        }
         const std::size_t begin = recorder_.frames();
-        EXPECT_GT(program_.ask(QByteArray::fromStdString("burst " + files_)), 0);
-        EXPECT_TRUE(recorder_.record(Clicks * QueueBeat + 1));
+        EXPECT_GT(program_.ask(QByteArray::fromStdString("burst " + files)), 0);
+        EXPECT_TRUE(recorder_.record(count * QueueBeat + 1));
         return recorder_.left(begin);
     }
 
-    static void expectWhole(const std::vector<float>& samples)
+    static void expectWhole(const std::vector<float>& samples, int clicks)
     {
         int levels = 0;
-        for (int count = 0; count < Clicks; ++count) {
+        for (int count = 0; count < clicks; ++count) {
             levels += levelOf(count);
         }
         const double sum = std::accumulate(samples.begin(), samples.end(), 0.0);
@@ -96,7 +114,7 @@ protected:
 
     SoundServer server_;
     TemporaryFolder folder_;
-    std::string files_;
+    std::vector<std::string> files_;
     SoundProgram program_{
         "sound_app", server_.environment(), {QString::fromStdString(folder_.native().string())}};
     Recorder recorder_{server_.environment(), ClickRate};
@@ -107,12 +125,60 @@ TEST_F(QueueHeard, ABurstIsHeardWholeInItsOrderAndInTime)
     std::vector<HeardClick> heard;
     for (int time = 0; time < 10 && heard.size() != Clicks;
          ++time) { // a busy computer lets two fall together
-        const std::vector<float> samples = burst();
-        expectWhole(samples);
+        const std::vector<float> samples = burst(Clicks);
+        expectWhole(samples, Clicks);
         heard = clicksIn(samples);
     }
     ASSERT_EQ(heard.size(), static_cast<std::size_t>(Clicks));
     expectInOrderAndTime(heard);
+}
+
+TEST_F(QueueHeard, OfAHundredNoneIsLost)
+{
+    expectWhole(burst(ManyClicks), ManyClicks);
+}
+
+TEST_F(QueueHeard, ASoundBeginsSoonBehindItsCall)
+{
+    constexpr double SoonEnough = 0.15; // the queue, the server, and the recording
+    double onset = 1;
+    for (int time = 0; time < 10 && onset > SoonEnough; ++time) { // a busy computer takes longer
+        const std::size_t begin = recorder_.frames();
+        EXPECT_GT(program_.ask(QByteArray::fromStdString("play " + files_.front())), 0);
+        EXPECT_TRUE(recorder_.record(0.5));
+        const std::vector<float> samples = recorder_.left(begin);
+        const auto first = std::find_if_not(samples.begin(), samples.end(), isSilent);
+        ASSERT_NE(first, samples.end());
+        onset = static_cast<double>(first - samples.begin()) / ClickRate;
+    }
+    EXPECT_LE(onset, SoonEnough);
+}
+
+/// By the queue and by the praise window.
+TEST_F(QueueHeard, AnInstalledSoundIsHeardAsItsFile)
+{
+    const auto file = treeFolder() / "Resources/sfx/correct/Bravo.wav";
+    std::ifstream stream(file, std::ios::binary);
+    const auto sound = phial::decodeWave(std::string(std::istreambuf_iterator<char>(stream), {}));
+    ASSERT_TRUE(sound);
+    ASSERT_EQ(sound->sampleRate, ClickRate);
+    int pauses = 0;
+    const std::vector<float> expected = withoutSilence(sound->samples, pauses);
+    for (const char* const order : {"play ", "praise "}) {
+        pauses = 1;
+        for (int time = 0; time < 10 && pauses > 0; ++time) {
+            const std::size_t begin = recorder_.frames();
+            EXPECT_GT(program_.ask(QByteArray::fromStdString(order + systemText(file))), 0);
+            EXPECT_TRUE(recorder_.record(sound->seconds() + 0.6));
+            const std::vector<float> whole = withoutSilence(recorder_.left(begin), pauses);
+            const std::size_t size = std::min(whole.size(), expected.size());
+            EXPECT_GE(static_cast<double>(whole.size()), 0.99 * static_cast<double>(expected.size()))
+                << order;
+            EXPECT_GE(correlation(std::span(whole).first(size), std::span(expected).first(size)), 0.99)
+                << order;
+        }
+        EXPECT_EQ(pauses, 0) << order;
+    }
 }
 
 TEST(SilentProgram, PicturesAreTakenWithoutASound)
