@@ -1,4 +1,5 @@
 #include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
 #include "app/sys_Global.h"
 #include "core/AudioOutput.h"
 #include "core/CoreRoot.h"
@@ -89,7 +90,43 @@ Exhibit media()
                                [](ctl_Label&) {
                                    QVAPP()->MEDIA()->VOLUME()->FADEOUT(Quiet);
                                    QVAPP()->MEDIA()->PLAYCATEGORY(u"reward", false);
-                               })},
+                               }),
+             playing(u"Ergebnis|Result", u"result"), playing(u"Maskottchen|Mascot", u"say")},
+            false};
+}
+
+/// The gallery keeps no choice: what was set before comes back when the exhibit goes.
+ObjectPtr buildSoundChoice(Stage& stage)
+{
+    const auto config = QVAPP()->CONFIG();
+    stage.atEnd([config, sound = config->SOUND(), mode = config->SOUNDMODE()] {
+        config->SOUND(sound);
+        config->SOUNDMODE(mode);
+    });
+    const auto note = putNote(stage, u"Ein Knopf unten wählt, was zu hören ist, und spielt Klick und Hymne.|"
+                                     u"A button below chooses what is heard, and plays click and hymn.");
+    putMeter(stage);
+    return note;
+}
+
+Exhibit soundChoice()
+{
+    const auto choosing = [](StringView name, bool isOn, enm_SoundMode mode) {
+        return sample<ctl_Label>(name, [isOn, mode](ctl_Label&) {
+            QVAPP()->CONFIG()->SOUND(isOn);
+            QVAPP()->CONFIG()->SOUNDMODE(mode);
+            QVAPP()->MEDIA()->PLAYCATEGORY(u"click", false);
+            QVAPP()->MEDIA()->PLAYCATEGORY(u"reward", false);
+        });
+    };
+    return {Group::Sounds,
+            u"enm_SoundMode",
+            u"Wählt, welche Klänge zu hören sind.|Chooses which sounds are heard.",
+            buildSoundChoice,
+            {sample<ctl_Label>(u"Wie eingestellt|As set", [](ctl_Label&) {}),
+             choosing(u"Alles|All", true, ID_SoundMode_User),
+             choosing(u"Nur Belohnung|Rewards only", true, ID_SoundMode_OnlyReward),
+             choosing(u"Aus|Off", false, ID_SoundMode_User)},
             false};
 }
 
@@ -124,7 +161,7 @@ Exhibit praise()
 
 std::vector<Exhibit> soundExhibits()
 {
-    return {media(), praise()};
+    return {media(), soundChoice(), praise()};
 }
 
 } // namespace gallery

@@ -1,4 +1,5 @@
 #include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
 #include "app/cls_AppURL.h"
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
@@ -139,6 +140,29 @@ TEST_F(CatalogueTest, AnotherLanguageOpensNoWindowAgain)
     gallery->show(exhibit(u"frm_DialogSound"), 1);
     phial::LNG()->CURRENT(phial::ID_Language_English);
     EXPECT_EQ(get<phial::ctl_Label>(u"ctl_Label1")->Caption(), u"A button below shows the window.");
+}
+
+TEST_F(CatalogueTest, TheChoiceOfSoundsIsHeardAndGoesWithItsExhibit)
+{
+    folder.write("sfx/click/a.wav", phial::test::markedWave(0.1, 64));
+    folder.write("sfx/reward/a.wav", phial::test::markedWave(0.1, 64));
+    phial::QVAPP()->URL()->RESOURCESFX(path(u"sfx\\"));
+    open();
+    const auto config = phial::QVAPP()->CONFIG();
+    config->SOUND(true);
+    const auto heardBy = [&](std::size_t sample) {
+        const std::size_t before = outside.audio().heard().size();
+        gallery->show(exhibit(u"enm_SoundMode"), sample);
+        outside.advance(1);
+        return outside.audio().heard().size() - before;
+    };
+    EXPECT_EQ(heardBy(1), 2U);
+    EXPECT_EQ(heardBy(2), 1U);
+    EXPECT_EQ(heardBy(3), 0U);
+    EXPECT_FALSE(config->SOUND());
+    gallery->show(exhibit(u"ctl_Label"));
+    EXPECT_TRUE(config->SOUND());
+    EXPECT_EQ(config->SOUNDMODE(), phial::ID_SoundMode_User);
 }
 
 TEST_F(CatalogueTest, TheMeterIsAsLongAsTheSoundIsLoud)
