@@ -116,6 +116,11 @@ protected:
     }
 
     // What the pupil sees.
+    static constexpr phial::StringView DeleteSign = u"\u232B"; ///< on the pad
+    static bool contains(const phial::String& text, phial::StringView part)
+    {
+        return text.find(part) != phial::String::npos;
+    }
     phial::String seen(phial::StringView label)
     {
         const auto found = form().control<phial::ctl_Label>(label);

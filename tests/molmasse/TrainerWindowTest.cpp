@@ -1,0 +1,173 @@
+#include "app/cls_Language.h"
+#include "molmasse/TrainerTest.h"
+
+namespace molmasse
+{
+namespace
+{
+
+using phial::StringView;
+
+TEST_F(TrainerTest, BeginsWithTheChoiceOfTheLevel)
+{
+    openInstalled();
+
+    EXPECT_EQ(form().Caption(), u"Molmassen-Trainer");
+    EXPECT_TRUE(isSeen(u"pan_Start"));
+    EXPECT_FALSE(isSeen(u"pan_Task"));
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Level", 0)->Caption(), u"Leicht");
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Level", 1)->Caption(), u"Mittel");
+    EXPECT_EQ(form().find(u"but_Level", 2), nullptr);
+    EXPECT_EQ(focused(), u"but_Level");
+}
+
+TEST_F(TrainerTest, HelpTellsAboutTheTrainerInTheLanguageInForce)
+{
+    openInstalled();
+    const auto expectAbout = [this](StringView button, StringView caption) {
+        EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Help")->frame().AccessibleName(), button);
+        outside.visual().onModal(u"frm_AppAbout", [caption](phial::Form& about) {
+            EXPECT_EQ(about.Caption(), caption);
+            about.Unload();
+        });
+        touch(u"but_Help");
+    };
+    expectAbout(u"Hilfe", u"Info über Molmassen-Trainer");
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    expectAbout(u"Help", u"About Molar mass trainer");
+}
+
+TEST_F(TrainerTest, FillsItsWindowAtEachSize)
+{
+    openInstalled();
+    form().Width(1920 * phial::TwipsPerPixel);
+    form().Height(1080 * phial::TwipsPerPixel);
+
+    EXPECT_DOUBLE_EQ(form().Zoom(), 1080.0 / 640);
+    const auto placeOf = [this](StringView control) {
+        return form().control<phial::Control>(control)->frame().pixelRectangle();
+    };
+    const double width = form().ScaleWidth();
+    EXPECT_NEAR(placeOf(u"bar_Header").width, width, 1e-6);
+    EXPECT_NEAR(placeOf(u"pan_Footer").bottom(), form().ScaleHeight(), 1e-6);
+    EXPECT_NEAR(placeOf(u"but_Help").right(), width - 32, 0.1);
+    EXPECT_EQ(placeOf(u"lab_Title").left, 32);
+    EXPECT_NEAR(placeOf(u"pan_Start").left, (width - 900) / 2, 0.1);
+}
+
+TEST_F(TrainerTest, F11FillsTheScreenAndLetsItGo)
+{
+    openInstalled();
+    type(u"{f11}");
+    EXPECT_EQ(form().BorderStyle(), phial::BorderStyle::None);
+    EXPECT_EQ(form().WindowState(), phial::WindowState::Maximized);
+    type(u"{f11}");
+    EXPECT_EQ(form().BorderStyle(), phial::BorderStyle::Sizable);
+    EXPECT_EQ(form().WindowState(), phial::WindowState::Normal);
+}
+
+TEST_F(TrainerTest, TheFullScreenIsReachedByTouchFromAMaximizedWindow)
+{
+    openInstalled();
+    form().WindowState(phial::WindowState::Maximized);
+    touch(u"but_Screen");
+    EXPECT_EQ(form().BorderStyle(), phial::BorderStyle::None);
+    touch(u"but_Screen");
+    EXPECT_EQ(form().BorderStyle(), phial::BorderStyle::Sizable);
+    EXPECT_EQ(form().WindowState(), phial::WindowState::Maximized);
+}
+
+TEST_F(TrainerTest, TypingGoesOnInTheAnswerBehindEachButtonOfTheHeader)
+{
+    openInstalled();
+    type(u"{enter}");
+    for (const auto* button : {u"but_Colours", u"but_Language", u"but_Screen", u"but_Help"}) {
+        if (StringView(button) == u"but_Help") {
+            outside.visual().onModal(u"frm_AppAbout", [](phial::Form& about) { about.Unload(); });
+        }
+        form().control<phial::Control>(button)->SetFocus();
+        touch(button);
+        EXPECT_EQ(focused(), u"txt_Answer");
+    }
+}
+
+TEST_F(TrainerTest, TheSecondLevelIsReachedByTab)
+{
+    openInstalled();
+
+    type(u"{tab}{enter}");
+
+    EXPECT_EQ(formula(), u"HCl");
+    EXPECT_EQ(seen(u"lab_Name"), u"");
+}
+
+TEST_F(TrainerTest, TheWindowGoesWithItsForm)
+{
+    openInstalled();
+    const auto window = form().shared_from_this();
+
+    trainer.reset();
+
+    EXPECT_FALSE(window->Visible());
+    EXPECT_FALSE(window->isLoaded());
+}
+
+TEST_F(TrainerTest, SpeaksEnglishWithTheDecimalSignOfTheUser)
+{
+    install();
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    open();
+
+    EXPECT_EQ(form().Caption(), u"Molar mass trainer");
+    type(u"{enter}18.0{enter}");
+    EXPECT_EQ(seen(u"lab_Name"), u"water");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0 g/mol, 10 points for you.");
+    EXPECT_EQ(buttonText(u"but_Check"), u"Next");
+}
+
+TEST_F(TrainerTest, TheLanguageButtonTranslatesEverythingThatIsSeen)
+{
+    openInstalled();
+    type(u"{enter}");
+    touchPad(u"1");
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Progress"), u"Aufgabe 1 von 2");
+
+    touch(u"but_Language");
+    EXPECT_EQ(form().Caption(), u"Molar mass trainer");
+    EXPECT_EQ(seen(u"lab_Title"), u"Molar mass trainer");
+    EXPECT_EQ(seen(u"lab_Progress"), u"Task 1 of 2");
+    EXPECT_EQ(seen(u"lab_Points"), u"0 points");
+    EXPECT_EQ(seen(u"lab_Name"), u"water");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"That is the mass of H alone. Other atoms are missing.<br>You have 2 tries left.");
+    EXPECT_EQ(buttonText(u"but_Check"), u"Check");
+    EXPECT_EQ(buttonText(u"but_Language"), u"DE");
+    EXPECT_EQ(answer(), u"1");
+
+    touchPad(u"7"); // what is typed meanwhile has not been judged
+    touch(u"but_Language");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"Das ist erst die Masse von H. Es fehlen noch Atome.<br>Du hast noch 2 Versuche.");
+    EXPECT_EQ(buttonText(u"but_Language"), u"EN");
+}
+
+TEST_F(TrainerTest, TheDecimalSignIsThatOfTheLanguageAndBothAreRead)
+{
+    constexpr std::int32_t CommaKey = 9;
+    openInstalled();
+    touch(u"but_Language");
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Key", CommaKey)->Caption(), u".");
+    touch(u"but_Level", 0);
+    touch(u"but_Hint");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1.0 g/mol)<br>1 \u00D7 O (16.0 g/mol)");
+    type(u"18,0{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0 g/mol, 7 points for you.");
+
+    touch(u"but_Language");
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Key", CommaKey)->Caption(), u",");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0 g/mol, 7 Punkte für dich.");
+}
+
+} // namespace
+} // namespace molmasse
