@@ -1,7 +1,7 @@
 #include "common/ReviewList.h"
 
 #include "common/FrameTexts.h"
-#include "core/Palette.h"
+#include "common/OutcomeSigns.h"
 #include "visual/ctl_Label.h"
 
 #include <algorithm>
@@ -22,23 +22,22 @@ constexpr double PointsColumn = 90;
 
 /// How a task went.
 struct OutcomeLook {
-    StringView sign;
+    OutcomeSign sign;
     StringView word; ///< "German|English"
-    phial::Colour colour;
 };
 
 OutcomeLook lookOf(Outcome outcome)
 {
     switch (outcome) {
     case Outcome::AtOnce:
-        return {u"\u2713", u"gleich richtig|right at once", phial::Palette::Right};
+        return {RightSign, u"gleich richtig|right at once"};
     case Outcome::Later:
-        return {u"\u21BB", u"später richtig|right later", phial::Palette::TryAgain};
+        return {TryAgainSign, u"später richtig|right later"};
     case Outcome::Missed:
     case Outcome::Open:
         break;
     }
-    return {u"\u2715", u"nicht gelöst|not solved", phial::Palette::Failure};
+    return {MissedSign, u"nicht gelöst|not solved"};
 }
 
 } // namespace
@@ -78,9 +77,9 @@ void ReviewList::fill()
         const auto row = list_->ITEMS()->Item(++at);
         const OutcomeLook look = lookOf(task.outcome);
         row->Title(task.title);
-        row->Cell(2, String(look.sign).append(u" ").append(translate(look.word)));
+        row->Cell(2, String(look.sign.sign).append(u" ").append(translate(look.word)));
         row->Cell(3, number(task.points));
-        row->ForeColor(look.colour);
+        row->ForeColor(look.sign.colour);
     }
     showWorking();
 }

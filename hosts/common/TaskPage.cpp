@@ -5,8 +5,8 @@
 #include "app/sys_Global.h"
 #include "common/FrameTexts.h"
 #include "common/MissedTasks.h"
+#include "common/OutcomeSigns.h"
 #include "common/ctl_RoundDots.h"
-#include "core/Palette.h"
 #include "visual/ctl_Button.h"
 #include "visual/ctl_Label.h"
 
@@ -24,24 +24,18 @@ namespace
 
 constexpr std::int32_t DeafTime = 400; // milliseconds
 
-/// A verdict beside its word.
-struct VerdictLook {
-    StringView sign;
-    phial::Colour colour = phial::Palette::Ink;
-};
-
-VerdictLook lookOf(Verdict verdict)
+OutcomeSign signOf(Verdict verdict)
 {
     switch (verdict) {
     case Verdict::Right:
-        return {u"\u2713", phial::Palette::Right};
+        return RightSign;
     case Verdict::Missed:
-        return {u"\u2715", phial::Palette::Failure};
+        return MissedSign;
     case Verdict::Wrong:
     case Verdict::Unreadable:
         break;
     }
-    return {u"\u21BB", phial::Palette::TryAgain};
+    return TryAgainSign;
 }
 
 MissedTasks ofThisPupil()
@@ -246,7 +240,7 @@ void TaskPage::goOn()
 
 void TaskPage::showVerdict()
 {
-    const VerdictLook look = verdict_ ? lookOf(*verdict_) : VerdictLook{};
+    const OutcomeSign look = verdict_ ? signOf(*verdict_) : OutcomeSign{};
     caption(form_, u"lab_Verdict", String(look.sign));
     caption(form_, u"lab_Feedback", verdictText());
     for (const StringView label : {u"lab_Verdict", u"lab_Feedback"}) {

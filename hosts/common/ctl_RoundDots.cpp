@@ -1,6 +1,7 @@
 #include "common/ctl_RoundDots.h"
 
 #include "common/FrameTexts.h"
+#include "common/OutcomeSigns.h"
 #include "core/Palette.h"
 
 #include <algorithm>
@@ -16,7 +17,6 @@ namespace Palette = phial::Palette;
 namespace
 {
 
-constexpr StringView Cross = u"\u2715";
 constexpr double EdgeWidth = 2;
 constexpr double LeastDisc = 26;     // pixels, so that its points can be read
 constexpr double LeastPoints = 9.75; // size of the points, in points: 13 pixels
@@ -121,8 +121,8 @@ void ctl_RoundDots::paintDot(std::size_t dot, const PixelRectangle& square)
         print(square, points, Palette::Right);
         return;
     case Outcome::Missed:
-        disc(square, Palette::Surface, Palette::Failure);
-        print(square, Cross, Palette::Failure);
+        disc(square, Palette::Surface, MissedSign.colour);
+        print(square, MissedSign.sign, MissedSign.colour);
         return;
     case Outcome::Open:
         break;
