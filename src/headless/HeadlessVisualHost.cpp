@@ -109,12 +109,14 @@ std::shared_ptr<DrawBackend> HeadlessVisualHost::createSurface(PixelSize size, d
     return surface;
 }
 
-PicturePtr HeadlessVisualHost::decodePicture(const std::filesystem::path& file)
+PicturePtr HeadlessVisualHost::decodePicture(const std::filesystem::path& file, double pixelRatio)
 {
     if (const auto known = pictures_.find(file); known != pictures_.end()) {
         return known->second;
     }
-    return std::make_shared<Picture>(pictureSize(file));
+    const PixelSize held = pictureSize(file);
+    return std::make_shared<Picture>(PixelSize{held.width / pixelRatio, held.height / pixelRatio},
+                                     pixelRatio);
 }
 
 std::unique_ptr<FormPeer> HeadlessVisualHost::openWindow(Form& form, bool)

@@ -72,7 +72,7 @@ public:
     double pixelRatio() const override { return pixelRatio_; }
     /// A picture that was added; otherwise a see-through one of the size that the file's head tells (PNG,
     /// GIF, BMP).
-    PicturePtr decodePicture(const std::filesystem::path& file) override;
+    PicturePtr decodePicture(const std::filesystem::path& file, double pixelRatio) override;
     std::unique_ptr<FormPeer> openWindow(Form& form, bool modal) override;
     void runModal(Form& form) override;
     std::vector<PixelRectangle> screens() const override;

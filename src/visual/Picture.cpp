@@ -1,12 +1,15 @@
 #include "visual/Picture.h"
 
+#include "core/CorePathText.h"
 #include "core/Members.h"
 #include "core/NativePath.h"
 #include "core/RuntimeError.h"
 #include "visual/VisualHost.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <optional>
 
 namespace phial
 {
@@ -31,7 +34,34 @@ void checkSize(PixelSize size, double ratio)
     }
 }
 
+constexpr int FinestRatio = 3;
+
+/// `name@3x.png` for `name.gif`.
+String finerFile(const String& path, int ratio)
+{
+    return CorePathText::WithoutExtension(path) + u'@' + static_cast<char16_t>(u'0' + ratio) + u"x.png";
+}
+
 } // namespace
+
+/// The versions at the ratios 2 to FinestRatio, as far as they have been asked for.
+struct Picture::FinerVersions {
+    FinerVersion find;
+    std::array<std::optional<PicturePtr>, FinestRatio - 1> found;
+
+    const Picture* at(int ratio, PixelSize size)
+    {
+        std::optional<PicturePtr>& version = found.at(static_cast<std::size_t>(ratio - 2));
+        if (!version) {
+            version = PicturePtr();
+            ignoringErrors([&] { version = find(ratio); });
+            if (*version && (*version)->size() != size) {
+                version = PicturePtr();
+            }
+        }
+        return version->get();
+    }
+};
 
 Picture::Picture(PixelSize size, double pixelRatio) : size_(size), ratio_(pixelRatio)
 {
@@ -63,6 +93,30 @@ bool Picture::isSeeThrough(PixelPoint point) const
     return (at(std::min(column, columns_ - 1), std::min(row, rows_ - 1)) >> AlphaShift) == 0;
 }
 
+void Picture::finer(FinerVersion find)
+{
+    finer_ = std::make_shared<FinerVersions>(FinerVersions{std::move(find), {}});
+}
+
+const Picture& Picture::versionFor(double density) const
+{
+    if (!finer_ || density <= ratio_) {
+        return *this;
+    }
+    const int enough = static_cast<int>(std::ceil(std::clamp(density, 2.0, double{FinestRatio})));
+    for (int ratio = enough; ratio <= FinestRatio; ++ratio) {
+        if (const Picture* version = finer_->at(ratio, size_)) {
+            return *version;
+        }
+    }
+    for (int ratio = enough - 1; ratio >= 2; --ratio) {
+        if (const Picture* version = finer_->at(ratio, size_)) {
+            return *version;
+        }
+    }
+    return *this;
+}
+
 MemberTable Picture::members() const
 {
     static constexpr auto Table = std::to_array<Member>({
@@ -74,7 +128,10 @@ MemberTable Picture::members() const
 
 PicturePtr LoadPicture(const String& path)
 {
-    return visualHost().decodePicture(nativePath(path));
+    PicturePtr picture = visualHost().decodePicture(nativePath(path), 1);
+    picture->finer(
+        [path](int ratio) { return visualHost().decodePicture(nativePath(finerFile(path, ratio)), ratio); });
+    return picture;
 }
 
 } // namespace phial

@@ -4,6 +4,7 @@
 #include "visual/Geometry.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -11,9 +12,15 @@
 namespace phial
 {
 
+class Picture;
+using PicturePtr = std::shared_ptr<Picture>;
+
 /// A picture in memory: rows of premultiplied ARGB pixels (0xAARRGGBB), top row first, without padding. An
 /// adapter wraps the memory without copying. A picture has a size in logical pixels and a pixel ratio: at
 /// ratio 2 it holds two by two pixels for each logical one.
+///
+/// It may have finer versions of itself, for screens, windows and paper that show it larger; whoever draws it
+/// takes the one that fits there.
 class Picture final : public Object
 {
 public:
@@ -41,23 +48,36 @@ public:
     /// Whether the picture lets through what lies below at that logical point; outside it always does.
     bool isSeeThrough(PixelPoint point) const;
 
+    /// Finds the version at that ratio, which has the same logical size; null where there is none. Raising an
+    /// error says so too.
+    using FinerVersion = std::function<PicturePtr(int ratio)>;
+    /// Where finer versions come from, which is asked once for each when drawing first needs it.
+    void finer(FinerVersion find);
+    /// The version to draw where each logical pixel takes that many pixels of the device: the coarsest one
+    /// that has as many, else the finest, else the picture itself. Versions at the ratios 2 and 3 are looked
+    /// for.
+    const Picture& versionFor(double density) const;
+
     std::shared_ptr<Picture> copy() const { return std::make_shared<Picture>(*this); }
 
     StringView typeName() const override { return u"Picture"; }
     MemberTable members() const override;
 
 private:
+    struct FinerVersions;
+
     PixelSize size_;
     double ratio_;
     std::size_t columns_;
     std::size_t rows_;
     std::vector<std::uint32_t> pixels_;
+    std::shared_ptr<FinerVersions> finer_; ///< null without any; shared by copies
 };
 
-using PicturePtr = std::shared_ptr<Picture>;
-
 /// The picture of a file (path as the system writes it); raises 53 for a missing file and 481 for one that is
-/// no picture.
+/// no picture. Its finer versions are the files `name@2x.png` and `name@3x.png` beside `name.gif` (or `.png`,
+/// `.jpg`
+/// ...), where they hold just two and three times as many pixels in width and height.
 PicturePtr LoadPicture(const String& path);
 
 } // namespace phial

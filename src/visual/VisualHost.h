@@ -42,8 +42,9 @@ public:
     /// The pixel ratio of the screen on which new windows appear.
     virtual double pixelRatio() const = 0;
 
-    /// Decodes a picture; raises 53 for a missing file and 481 for one that is no picture.
-    virtual PicturePtr decodePicture(const std::filesystem::path& file) = 0;
+    /// Decodes a picture that holds its pixels at that ratio; raises 53 for a missing file and 481 for one
+    /// that is no picture.
+    virtual PicturePtr decodePicture(const std::filesystem::path& file, double pixelRatio) = 0;
 
     /// Opens a window for the form's model, in its present state; the peer's end closes the window. A modal
     /// form's window blocks the program's other windows.

@@ -192,6 +192,53 @@ TEST_F(PainterTest, APictureComesOutAsItIsAtItsOwnRatio)
     EXPECT_TRUE(same(source, copy));
 }
 
+TEST_F(PainterTest, APictureMadeMuchSmallerShowsTheMeanOfItsPixels)
+{
+    const Surface source = white({40, 40});
+    for (double row = 0; row < 40; row += 4) {
+        source.device->Line(0, row, 40, row);
+    }
+    const Surface ground = white({10, 10});
+    ground.device->PaintPicture(source.picture, 0, 0, 10, 10);
+    for (std::size_t row = 0; row < 10; ++row) {
+        EXPECT_NEAR(ground.at(5, row) & 0xFFU, 191, 2) << row; // one row of four is black
+    }
+}
+
+TEST_F(PainterTest, APartMadeMuchSmallerTakesInNothingBesideIt)
+{
+    const Surface source = white({60, 40});
+    source.device->Line(40, 0, 60, 39, QBColor(0), LineShape::Filled);
+    const Surface ground = white({10, 10});
+    ground.device->PaintPicture(source.picture, PixelRectangle{0, 0, 40, 40}, 0, 0, 10, 10);
+    EXPECT_EQ(ground.count(White), 100U);
+}
+
+TEST_F(PainterTest, APictureIsDrawnInTheVersionThatFitsTheDevice)
+{
+    const auto plain = [](Colour colour, double ratio) {
+        const Surface surface = empty({8, 8}, ratio);
+        surface.backend->clear({colour});
+        return surface.picture;
+    };
+    const PicturePtr twice = plain(QBColor(10), 2);
+    const PicturePtr thrice = plain(QBColor(12), 3);
+    const auto shownAt = [&](double ratio, double side, RasterMode mode) {
+        const PicturePtr picture = plain(QBColor(9), 1);
+        picture->finer([&](int wanted) { return wanted == 2 ? twice : thrice; });
+        const Surface ground = white({40, 40}, ratio);
+        ground.device->PaintPicture(picture, 0, 0, side, side, mode);
+        return ground.device->Point(3, 3);
+    };
+    EXPECT_EQ(shownAt(1, 8, RasterMode::Paint), QBColor(9));
+    EXPECT_EQ(shownAt(2, 4, RasterMode::Paint), QBColor(9));
+    EXPECT_EQ(shownAt(2, 8, RasterMode::Paint), QBColor(10));
+    EXPECT_EQ(shownAt(1, 16, RasterMode::Copy), QBColor(10));
+    EXPECT_EQ(shownAt(3, 8, RasterMode::Paint), QBColor(12));
+    EXPECT_EQ(shownAt(1.5, 40, RasterMode::Paint), QBColor(12));
+    EXPECT_EQ(shownAt(3, 8, RasterMode::And), QBColor(9)) << "bits of masks and sprites belong together";
+}
+
 TEST_F(PainterTest, AndWithTheMaskThenXorWithTheSpriteShowsTheSprite)
 {
     const Surface mask = white({8, 8});

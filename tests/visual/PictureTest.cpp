@@ -5,6 +5,7 @@
 #include "visual/ImageList.h"
 
 #include <fstream>
+#include <map>
 
 namespace phial::test
 {
@@ -45,6 +46,92 @@ TEST_F(PictureTest, MissingFileRaises53AndOneThatIsNoPicture481)
     EXPECT_RAISES(LoadPicture(folder.path() + u"none.gif"), FileNotFound);
     std::ofstream(folder.native() / "text.gif") << "no picture at all, for sure";
     EXPECT_EQ(raisedBy([&] { LoadPicture(folder.path() + u"text.gif"); }), 481);
+}
+
+TEST_F(PictureTest, IsItsOwnVersionWithoutFinerOnes)
+{
+    const Picture picture({8, 8});
+    EXPECT_EQ(&picture.versionFor(0.5), &picture);
+    EXPECT_EQ(&picture.versionFor(3), &picture);
+}
+
+/// A picture that has the named finer versions, and what it was asked for.
+struct Versions {
+    explicit Versions(std::map<int, PicturePtr> has) : finer(std::move(has))
+    {
+        picture.finer([this](int ratio) {
+            asked.push_back(ratio);
+            return finer.at(ratio);
+        });
+    }
+    const Picture& at(int ratio) const { return *finer.at(ratio); }
+
+    std::map<int, PicturePtr> finer;
+    std::vector<int> asked;
+    Picture picture{{8, 8}};
+};
+
+PicturePtr pictureOfEight(double ratio)
+{
+    return std::make_shared<Picture>(PixelSize{8, 8}, ratio);
+}
+
+TEST_F(PictureTest, TakesTheCoarsestVersionThatIsFineEnough)
+{
+    const Versions versions({{2, pictureOfEight(2)}, {3, pictureOfEight(3)}});
+    EXPECT_EQ(&versions.picture.versionFor(1), &versions.picture);
+    EXPECT_TRUE(versions.asked.empty());
+    EXPECT_EQ(&versions.picture.versionFor(1.25), &versions.at(2));
+    EXPECT_EQ(&versions.picture.versionFor(2), &versions.at(2));
+    EXPECT_EQ(&versions.picture.versionFor(2.25), &versions.at(3));
+    EXPECT_EQ(&versions.picture.versionFor(8), &versions.at(3));
+}
+
+TEST_F(PictureTest, TakesTheFinestVersionWhereNoneIsFineEnough)
+{
+    const Versions onlyTwo({{2, pictureOfEight(2)}});
+    EXPECT_EQ(&onlyTwo.picture.versionFor(4), &onlyTwo.at(2));
+    const Versions onlyThree({{3, pictureOfEight(3)}});
+    EXPECT_EQ(&onlyThree.picture.versionFor(1.25), &onlyThree.at(3));
+}
+
+TEST_F(PictureTest, AsksForEachVersionOnce)
+{
+    const Versions none({});
+    for (int times = 0; times < 2; ++times) {
+        EXPECT_EQ(&none.picture.versionFor(3), &none.picture);
+    }
+    EXPECT_EQ(none.asked, (std::vector{3, 2}));
+}
+
+TEST_F(PictureTest, DoesWithoutAVersionOfAnotherSize)
+{
+    const Versions other({{2, std::make_shared<Picture>(PixelSize{8, 9}, 2)}});
+    EXPECT_EQ(&other.picture.versionFor(2), &other.picture);
+}
+
+TEST_F(PictureTest, SharesItsVersionsWithItsCopies)
+{
+    const Versions versions({{2, pictureOfEight(2)}});
+    EXPECT_EQ(&versions.picture.copy()->versionFor(2), &versions.at(2));
+}
+
+TEST_F(PictureTest, OfAFileHasTheFilesBesideItAsFinerVersions)
+{
+    const PicturePtr finest = pictureOfEight(3);
+    outside.visual().addPicture(folder.native() / "cat.gif", pictureOfEight(1));
+    outside.visual().addPicture(folder.native() / "cat@3x.png", finest);
+    const PicturePtr picture = LoadPicture(folder.path() + u"cat.gif");
+    EXPECT_EQ(&picture->versionFor(1), picture.get());
+    EXPECT_EQ(&picture->versionFor(2), finest.get());
+}
+
+TEST_F(PictureTest, OfAFileIsShownAsItIsWhereTheFileBesideItIsBroken)
+{
+    outside.visual().addPicture(folder.native() / "cat.gif", pictureOfEight(1));
+    std::ofstream(folder.native() / "cat@3x.png") << "no picture at all, for sure";
+    const PicturePtr picture = LoadPicture(folder.path() + u"cat.gif");
+    EXPECT_EQ(&picture->versionFor(3), picture.get());
 }
 
 TEST_F(ImageListTest, FindsByNumberFromOneAndByKeyWithoutRegardToCase)

@@ -66,6 +66,18 @@ std::optional<BitMerge> mergeOf(const Raster& raster)
     return BitMerge(raster.mode, hole);
 }
 
+QRectF heldPart(const Picture& picture, const PixelRectangle& part)
+{
+    const double ratio = picture.pixelRatio();
+    return {part.left * ratio, part.top * ratio, part.width * ratio, part.height * ratio};
+}
+
+// A painter that makes a picture smaller than half leaves pixels out.
+QImage averaged(const QImage& image, const QRectF& part, const QSize& size)
+{
+    return image.copy(part.toAlignedRect()).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 // Two by two pixels, of which one diagonal is see-through.
 QBrush hatchBrush(const QColor& colour, HatchStart start)
 {
@@ -315,21 +327,36 @@ void PainterBackend::image(const Picture& picture, const PixelRectangle& source,
                            Raster raster)
 {
     const QRect box = snapped(target);
-    const QRectF part(source.left * picture.pixelRatio(), source.top * picture.pixelRatio(),
-                      source.width * picture.pixelRatio(), source.height * picture.pixelRatio());
-    const bool own = this->picture().get() == &picture;
-    const QImage image = own ? imageOf(picture).copy() : imageOf(picture);
-    const auto draw = [&](QPainter& painter) { painter.drawImage(QRectF(box), image, part); };
     if (const auto merge = mergeOf(raster)) {
-        combine(merge, box, draw);
+        combine(merge, box, [&](QPainter& painter) {
+            painter.drawImage(QRectF(box), readable(picture), heldPart(picture, source));
+        });
         return;
     }
-    painter_.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    const double density = std::max(box.width() / source.width, box.height() / source.height);
+    const Picture& version = picture.versionFor(density);
     if (raster.mode == RasterMode::Copy) {
         painter_.setCompositionMode(QPainter::CompositionMode_Source);
     }
-    draw(painter_);
+    drawSmoothly(readable(version), heldPart(version, source), box);
     painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+// A picture that is drawn in itself is copied first.
+QImage PainterBackend::readable(const Picture& picture) const
+{
+    const bool own = this->picture().get() == &picture;
+    return own ? imageOf(picture).copy() : imageOf(picture);
+}
+
+void PainterBackend::drawSmoothly(const QImage& image, const QRectF& part, const QRect& box)
+{
+    if (part.width() > 2 * box.width() || part.height() > 2 * box.height()) {
+        painter_.drawImage(box, averaged(image, part, box.size()));
+    } else {
+        painter_.setRenderHint(QPainter::SmoothPixmapTransform, true);
+        painter_.drawImage(QRectF(box), image, part);
+    }
 }
 
 void PainterBackend::hatch(const PixelRectangle& area, Ink ink, HatchStart start)

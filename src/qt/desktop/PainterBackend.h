@@ -65,6 +65,8 @@ private:
     void apply(const Ink& ink, const Raster& raster, const QRectF& bounds, const Drawing& drawing);
     void straightLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
     void slantedLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
+    QImage readable(const Picture& picture) const;
+    void drawSmoothly(const QImage& image, const QRectF& part, const QRect& box);
     void drawLine(QPainter& painter, QPointF baseLine, StringView text, const QtFontFace& face);
     void drawTextLines(QPainter& painter, QPointF baseLine, double width, const QtFontFace& face);
     QPointF middle(PixelPoint point) const { return {(point.x + 0.5) * ratio_, (point.y + 0.5) * ratio_}; }

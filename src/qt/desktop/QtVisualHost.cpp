@@ -120,7 +120,7 @@ double QtVisualHost::pixelRatio() const
     return screenRatio();
 }
 
-PicturePtr QtVisualHost::decodePicture(const std::filesystem::path& file)
+PicturePtr QtVisualHost::decodePicture(const std::filesystem::path& file, double pixelRatio)
 {
     QImageReader reader(toQt(file.u16string()));
     reader.setAutoTransform(true);
@@ -135,7 +135,7 @@ PicturePtr QtVisualHost::decodePicture(const std::filesystem::path& file)
     if (image.isNull()) {
         throw RuntimeError(InvalidPicture, u"Invalid picture");
     }
-    return pictureOf(image);
+    return pictureOf(image, pixelRatio);
 }
 
 // The theme gets its colours when the session starts, so that windows are the first to need it.

@@ -26,7 +26,7 @@ public:
     TextMetrics& metrics() override { return *metrics_; }
     std::shared_ptr<DrawBackend> createSurface(PixelSize size, double pixelRatio) override;
     double pixelRatio() const override;
-    PicturePtr decodePicture(const std::filesystem::path& file) override;
+    PicturePtr decodePicture(const std::filesystem::path& file, double pixelRatio) override;
     std::unique_ptr<FormPeer> openWindow(Form& form, bool modal) override;
     void runModal(Form& form) override;
     std::vector<PixelRectangle> screens() const override;
