@@ -6,34 +6,40 @@ SIDE = 96
 """Width and height of an avatar in pixels; shapes are placed in these units, y downward."""
 
 _FINE = 4  # samples across a pixel
+_FINE_ENOUGH = 2  # the same where pixels are smaller than a unit
 _MOST_COLOURS = 255
 
 
 class Canvas:
     """Paints shapes one upon the other, sampled finely, and averages the samples at the end."""
 
-    def __init__(self):
-        self._size = SIDE * _FINE
+    def __init__(self, scale=1):
+        """`scale` is how many pixels each unit takes; `side` then is the width and height in pixels."""
+        self.side = SIDE * scale
+        self._samples = _FINE if scale == 1 else _FINE_ENOUGH
+        self._fine = self._samples * scale
+        self._size = SIDE * self._fine
         self._rows = [[None] * self._size for _ in range(self._size)]
 
     def polygon(self, points, colour):
         """A filled figure; colour is (red, green, blue)."""
-        corners = [(x * _FINE, y * _FINE) for x, y in points]
-        edges = list(zip(corners, corners[1:] + corners[:1]))
-        top = max(0, math.floor(min(y for _, y in corners)))
-        bottom = min(self._size, math.ceil(max(y for _, y in corners)) + 1)
-        for row in range(top, bottom):
-            middle = row + 0.5
-            crossings = sorted(
-                x1 + (middle - y1) * (x2 - x1) / (y2 - y1)
-                for (x1, y1), (x2, y2) in edges
-                if (y1 <= middle) != (y2 <= middle)
-            )
+        corners = [(x * self._fine, y * self._fine) for x, y in points]
+        for row, crossings in self._crossings(corners).items():
+            crossings.sort()
             for left, right in zip(crossings[::2], crossings[1::2]):
                 start = max(0, round(left))
                 end = min(self._size, round(right))
                 if end > start:
                     self._rows[row][start:end] = [colour] * (end - start)
+
+    def _crossings(self, corners):
+        """Where the figure's edges cross the middle of each row."""
+        crossings = {}
+        for (x1, y1), (x2, y2) in zip(corners, corners[1:] + corners[:1]):
+            top, bottom = sorted((y1, y2))
+            for row in range(max(0, math.ceil(top - 0.5)), min(self._size, math.ceil(bottom - 0.5))):
+                crossings.setdefault(row, []).append(x1 + (row + 0.5 - y1) * (x2 - x1) / (y2 - y1))
+        return crossings
 
     def ellipse(self, x, y, rx, ry, colour, turn=0):
         """An ellipse around (x, y), turned by degrees clockwise."""
@@ -73,21 +79,49 @@ class Canvas:
 
     def picture(self):
         """Colours and pixels as `gif.encode` takes them."""
-        averaged = [self._pixel(x, y) for y in range(SIDE) for x in range(SIDE)]
+        averaged = self._averaged(self._colour)
         numbers, palette = _number_colours(averaged)
         return palette, [0 if colour is None else numbers[colour] for colour in averaged]
 
-    def _pixel(self, x, y):
+    def soft_picture(self):
+        """Pixels as `png.encode` takes them, with soft edges."""
+        return self._averaged(self._soft_colour)
+
+    def _averaged(self, average):
+        """A value for each pixel, from the samples across it."""
+        averages = _Averages(average)
+        steps = range(self._samples)
+        pixels = []
+        for top in range(0, self._size, self._samples):
+            across = (self._rows[top + down][right :: self._samples] for down in steps for right in steps)
+            pixels += [averages[samples] for samples in zip(*across)]
+        return pixels
+
+    @staticmethod
+    def _colour(painted, total):
         """The mean of the painted samples; None where less than half of them are painted."""
-        samples = [
-            sample
-            for row in self._rows[y * _FINE : (y + 1) * _FINE]
-            for sample in row[x * _FINE : (x + 1) * _FINE]
-            if sample is not None
-        ]
-        if len(samples) * 2 < _FINE * _FINE:
-            return None
-        return tuple(round(sum(part) / len(samples)) for part in zip(*samples))
+        return None if len(painted) * 2 < total else _mean(painted)
+
+    @staticmethod
+    def _soft_colour(painted, total):
+        return _mean(painted) + (round(255 * len(painted) / total),) if painted else (0, 0, 0, 0)
+
+
+class _Averages(dict):
+    """What `average` makes of samples, worked out once for each set of them: most pixels lie within a shape."""
+
+    def __init__(self, average):
+        super().__init__()
+        self._average = average
+
+    def __missing__(self, samples):
+        painted = [sample for sample in samples if sample is not None]
+        self[samples] = self._average(painted, len(samples))
+        return self[samples]
+
+
+def _mean(samples):
+    return tuple(round(sum(part) / len(samples)) for part in zip(*samples))
 
 
 def arc_points(x, y, radius, start, end):

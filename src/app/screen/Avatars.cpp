@@ -33,12 +33,12 @@ ImageList& store()
 }
 
 /// Head and shoulders of nobody in particular.
-PicturePtr drawDefaultAvatar()
+PicturePtr drawDefaultAvatar(double pixelRatio)
 {
     constexpr double Size = 96;
     constexpr Colour ShadeColour = RGB(215, 222, 229);
     constexpr Colour Figure = RGB(120, 134, 148);
-    DrawDevice device(visualHost().createSurface({Size, Size}, visualHost().pixelRatio()));
+    DrawDevice device(visualHost().createSurface({Size, Size}, pixelRatio));
     device.FillStyle(FillStyle::Solid);
     device.Line(0, 0, Size - 1, Size - 1, ShadeColour, LineShape::Filled);
     device.FillColor(Figure);
@@ -49,8 +49,11 @@ PicturePtr drawDefaultAvatar()
 
 PicturePtr defaultAvatar()
 {
-    const auto box = resources().part<PictureBox>(
-        u"pic_AvatarDefault", [](PictureBox& fresh) { fresh.Picture(drawDefaultAvatar()); });
+    const auto box = resources().part<PictureBox>(u"pic_AvatarDefault", [](PictureBox& fresh) {
+        const PicturePtr picture = drawDefaultAvatar(1);
+        picture->finer(drawDefaultAvatar);
+        fresh.Picture(picture);
+    });
     return box->Picture();
 }
 

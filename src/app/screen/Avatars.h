@@ -15,8 +15,9 @@ namespace phial
 /// Empties the store.
 void AvatarImagesClear();
 
-/// Fills the store anew with the GIF files of the folder URL.RESOURCEAVATARS. They are listed only; a picture
-/// is decoded when it is first asked for. Of two files whose names differ only in case the first counts.
+/// Fills the store anew with the GIF files of the folder URL.RESOURCEAVATARS, each with the finer pictures
+/// beside it (see LoadPicture). They are listed only; a picture is decoded when it is first asked for. Of two
+/// files whose names differ only in case the first counts.
 void AvatarImagesLoad();
 
 /// How many entries there are.
