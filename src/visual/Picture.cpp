@@ -42,12 +42,29 @@ String finerFile(const String& path, int ratio)
     return CorePathText::WithoutExtension(path) + u'@' + static_cast<char16_t>(u'0' + ratio) + u"x.png";
 }
 
+/// Whether there are both opaque and see-through pixels and none between, as in a GIF file: the edges look
+/// torn unless pixels are averaged.
+bool hasHardEdges(std::span<const std::uint32_t> pixels)
+{
+    constexpr unsigned AlphaShift = 24;
+    constexpr std::uint32_t Opaque = 0xFF;
+    std::size_t opaque = 0;
+    std::size_t seeThrough = 0;
+    for (const std::uint32_t pixel : pixels) {
+        const std::uint32_t alpha = pixel >> AlphaShift;
+        opaque += alpha == Opaque ? 1U : 0U;
+        seeThrough += alpha == 0 ? 1U : 0U;
+    }
+    return opaque > 0 && seeThrough > 0 && opaque + seeThrough == pixels.size();
+}
+
 } // namespace
 
 /// The versions at the ratios 2 to FinestRatio, as far as they have been asked for.
 struct Picture::FinerVersions {
     FinerVersion find;
     std::array<std::optional<PicturePtr>, FinestRatio - 1> found;
+    std::optional<bool> isTorn; ///< whether the picture itself has hard edges
 
     const Picture* at(int ratio, PixelSize size)
     {
@@ -95,12 +112,18 @@ bool Picture::isSeeThrough(PixelPoint point) const
 
 void Picture::finer(FinerVersion find)
 {
-    finer_ = std::make_shared<FinerVersions>(FinerVersions{std::move(find), {}});
+    finer_ = std::make_shared<FinerVersions>(FinerVersions{std::move(find), {}, {}});
 }
 
 const Picture& Picture::versionFor(double density) const
 {
-    if (!finer_ || density <= ratio_) {
+    if (!finer_ || density <= ratio_ / 2) {
+        return *this;
+    }
+    if (!finer_->isTorn) {
+        finer_->isTorn = hasHardEdges(pixels_);
+    }
+    if (density <= ratio_ && !*finer_->isTorn) {
         return *this;
     }
     const int enough = static_cast<int>(std::ceil(std::clamp(density, 2.0, double{FinestRatio})));

@@ -53,9 +53,9 @@ public:
     using FinerVersion = std::function<PicturePtr(int ratio)>;
     /// Where finer versions come from, which is asked once for each when drawing first needs it.
     void finer(FinerVersion find);
-    /// The version to draw where each logical pixel takes that many pixels of the device: the coarsest one
-    /// that has as many, else the finest, else the picture itself. Versions at the ratios 2 and 3 are looked
-    /// for.
+    /// The version to draw where a logical pixel takes that many pixels of the device: the coarsest with as
+    /// many, at ratio 2 or 3, else the finest. The picture itself does up to its ratio, or to half of it
+    /// where its edges are hard, with nothing between opaque and see-through.
     const Picture& versionFor(double density) const;
 
     std::shared_ptr<Picture> copy() const { return std::make_shared<Picture>(*this); }

@@ -126,6 +126,23 @@ TEST_F(PictureTest, OfAFileHasTheFilesBesideItAsFinerVersions)
     EXPECT_EQ(&picture->versionFor(2), finest.get());
 }
 
+TEST_F(PictureTest, WithHardEdgesIsShownItselfAtHalfItsSizeOnly)
+{
+    Versions versions({{2, pictureOfEight(2)}});
+    versions.picture.pixels()[3] = 0xFF102030U;
+    EXPECT_EQ(&versions.picture.versionFor(0.5), &versions.picture);
+    EXPECT_EQ(&versions.picture.versionFor(0.75), &versions.at(2));
+    EXPECT_EQ(&versions.picture.versionFor(1), &versions.at(2));
+}
+
+TEST_F(PictureTest, WithSoftEdgesIsShownItselfAtItsSize)
+{
+    Versions versions({{2, pictureOfEight(2)}});
+    versions.picture.pixels()[3] = 0xFF102030U;
+    versions.picture.pixels()[4] = 0x80081018U;
+    EXPECT_EQ(&versions.picture.versionFor(1), &versions.picture);
+}
+
 TEST_F(PictureTest, OfAFileIsShownAsItIsWhereTheFileBesideItIsBroken)
 {
     outside.visual().addPicture(folder.native() / "cat.gif", pictureOfEight(1));
