@@ -4,6 +4,9 @@
 #include "qt/desktop/PrinterChoice.h"
 #include "results/cls_DataScores.h"
 
+#include <QImage>
+#include <QProcess>
+
 namespace phial::qt
 {
 
@@ -14,6 +17,8 @@ namespace
 constexpr double Margin = 5;
 constexpr double Blank = 10;
 constexpr double Width = 287;
+
+constexpr int Resolution = 150; // pixels an inch, of a page's picture
 
 /// Score lists printed into a PDF file, as another program reads it.
 class PrintedListTest : public DesktopSession
@@ -44,6 +49,31 @@ protected:
     {
         list.PRINTOUT(u"Bestenliste");
         return readPdf(pdf());
+    }
+
+    /// The first page as it is seen.
+    QImage pagePicture() const
+    {
+        QProcess painter;
+        painter.start(QStringLiteral("pdftoppm"),
+                      {QStringLiteral("-gray"), QStringLiteral("-r"), QString::number(Resolution), pdf()});
+        painter.waitForFinished();
+        return QImage::fromData(painter.readAllStandardOutput());
+    }
+
+    /// Whether nothing is printed there; millimetres.
+    static bool isBlank(const QImage& page, const QRectF& area)
+    {
+        constexpr double Pixels = Resolution / 25.4;
+        const QRect pixels(QPointF(area.topLeft() * Pixels).toPoint(), QSizeF(area.size() * Pixels).toSize());
+        for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+            for (int x = pixels.left(); x <= pixels.right(); ++x) {
+                if (qGray(page.pixel(x, y)) < 200) {
+                    return false;
+                }
+            }
+        }
+        return !page.isNull();
     }
 
     static double column(double factor) { return Margin + Blank + (Width - 2 * Blank) * factor; }
@@ -93,6 +123,24 @@ TEST_F(PrintedListTest, HoldsTheWholeTextOfAColumnThatIsClipped)
     EXPECT_FALSE(computer.text.isEmpty());
     EXPECT_GT(computer.area.right(), column(0.55));
     EXPECT_NEAR(pages.word(QStringLiteral("75")).area.right(), column(0.55), 0.5);
+}
+
+TEST_F(PrintedListTest, PrintsNothingOverAnything)
+{
+    CoreParameters more;
+    more.Set(u"Bemerkung", String(80, u'W'));
+    for (int row = 0; row < 3; ++row) {
+        list.ADD(55, 100, u"", &more, String(60, u'M'), String(60, u'W'), String(60, u'M'));
+    }
+    const PdfPages pages = printed();
+    const QImage page = pagePicture();
+    const double rows = pages.word(QStringLiteral("Rang")).area.bottom() + 2;
+    for (const double factor : {0.05, 0.25, 0.35, 0.67, 0.75, 0.9}) {
+        const double edge = column(factor);
+        EXPECT_TRUE(isBlank(page, {edge - 0.8, rows, 0.5, 20})) << factor;
+        EXPECT_FALSE(isBlank(page, {edge, rows, 5, 20})) << factor;
+    }
+    EXPECT_TRUE(isBlank(page, {column(1) + 0.5, rows, Blank - 1, 20}));
 }
 
 TEST_F(PrintedListTest, RepeatsItsColumnsOnEveryPage)
