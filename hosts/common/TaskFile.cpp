@@ -3,6 +3,8 @@
 #include "common/Drawing.h"
 #include "common/FrameTexts.h"
 #include "core/CoreNumbers.h"
+#include "core/CoreStringOps.h"
+#include "visual/OneLine.h"
 
 #include <algorithm>
 #include <array>
@@ -50,7 +52,7 @@ public:
     void take(StringView raw)
     {
         ++line_;
-        const String line = withoutBlanks(raw);
+        const String line = withoutBlanks(phial::oneLine(String(raw)));
         if (line.empty() || line.front() == u'#') {
             return;
         }
@@ -72,18 +74,29 @@ private:
     void beginLevel(const String& line)
     {
         const auto end = line.find(u']');
-        TaskLevel level;
-        level.key =
-            withoutBlanks(StringView(line).substr(1, end == String::npos ? StringView::npos : end - 1));
+        const auto [key, second, third] =
+            columnsOf(StringView(line).substr(1, end == String::npos ? end : end - 1));
         const auto [german, english, count] =
-            columnsOf(end == String::npos ? StringView() : StringView(line).substr(end + 1));
-        level.title.german = german.empty() ? level.key : german;
-        level.title.english = english.empty() ? level.title.german : english;
+            end == String::npos ? std::array{String(), second, third} // the bracket was forgotten
+                                : columnsOf(StringView(line).substr(end + 1));
+        TaskLevel level;
+        level.key = key;
+        level.title = titleOf(level.key, german, english);
         if (!count.empty()) {
             level.tasksInRound = countOf(count);
         }
         file_.levels.push_back(std::move(level));
         headings_.push_back(line_);
+    }
+
+    LevelTitle titleOf(const String& key, const String& german, const String& english) const
+    {
+        const String& first = german.empty() ? key : german;
+        if (first.empty() && english.empty()) {
+            const String place = number(static_cast<int>(file_.levels.size()) + 1);
+            return {u"Stufe " + place, u"Level " + place};
+        }
+        return {first.empty() ? english : first, english.empty() ? first : english};
     }
 
     std::size_t countOf(const String& text)
@@ -115,7 +128,9 @@ private:
     {
         for (std::size_t at = 0; at < file_.levels.size(); ++at) {
             if (file_.levels[at].tasks.empty()) {
-                complain(TaskFault::NoTasks, headings_[at], file_.levels[at].key);
+                const TaskLevel& level = file_.levels[at];
+                complain(TaskFault::NoTasks, headings_[at],
+                         level.key.empty() ? level.title.german : level.key);
             }
         }
         std::erase_if(file_.levels, [](const TaskLevel& level) { return level.tasks.empty(); });
@@ -173,7 +188,10 @@ String complaintText(const TaskFile& file, StringView name)
     }
     const TaskComplaint& first = file.complaints.front();
     const String quote =
-        first.text.size() > LongestQuote ? first.text.substr(0, LongestQuote - 1) + u"…" : first.text;
+        first.text.size() > LongestQuote
+            ? phial::CoreStringOps::Shorten(first.text, static_cast<std::int32_t>(LongestQuote) - 1, {}) +
+                  u"…"
+            : first.text;
     const String text =
         translate(u"Für die Lehrkraft: {1}, Zeile {2}: „{3}“ ", u"For the teacher: {1}, line {2}: “{3}” ",
                   {String(name), number(first.line), quote}) +

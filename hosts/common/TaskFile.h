@@ -63,9 +63,9 @@ using TaskCheck = std::function<std::optional<TaskFault>(const phial::String& te
 ///     H2O | Wasser | Water
 ///
 /// A heading opens a level: German and English title, and how many tasks a round has at most, 10 where it
-/// does not tell. Every other line is a task with its German and English name, which may be left out. A task
-/// before the first heading, one that does not pass the check and a level without tasks are left out with a
-/// complaint; the rest of the file counts.
+/// does not tell. One without any name is called by its place, "Stufe 2". Every other line is a task with its
+/// German and English name, which may be left out. A task before the first heading, one that does not pass
+/// the check and a level without tasks are left out with a complaint; the rest of the file counts.
 TaskFile readTaskFile(phial::StringView text, const TaskCheck& check);
 
 /// The complaints for the teacher, in the language in force: the first one in full, and how many more there

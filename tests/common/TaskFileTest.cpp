@@ -80,6 +80,28 @@ TEST(TaskFiles, SurvivesAnUnclosedHeading)
 
     ASSERT_EQ(list.levels.size(), 1U);
     EXPECT_EQ(list.levels[0].key, u"leicht");
+    EXPECT_EQ(read(u"[leicht | Easy | 5\nH2O\n").levels.at(0).title.german, u"leicht");
+    EXPECT_EQ(read(u"[leicht | Easy | 5\nH2O\n").levels.at(0).title.english, u"Easy");
+    EXPECT_EQ(read(u"[leicht | Easy | 5\nH2O\n").levels.at(0).tasksInRound, 5U);
+}
+
+TEST(TaskFiles, ALevelWithoutANameIsCalledByItsPlace)
+{
+    const TaskFile list = read(u"[a]\nH2O\n[]\nCO2\n[] | Third\nNH3\n[]\n");
+    ASSERT_EQ(list.levels.size(), 3U);
+    EXPECT_EQ(list.levels[1].title.german, u"Stufe 2");
+    EXPECT_EQ(list.levels[1].title.english, u"Level 2");
+    EXPECT_EQ(list.levels[2].title.german, u"Third");
+    EXPECT_THAT(list.complaints, ElementsAre(TaskComplaint{TaskFault::NoTasks, 7, u"Stufe 4"}));
+}
+
+TEST(TaskFiles, TakesControlSignsForBlanks)
+{
+    const TaskFile list = read(u"[a\tb] Eins\rZwei\nH2O\u0001 | Wasser\n");
+    ASSERT_EQ(list.levels.size(), 1U);
+    EXPECT_EQ(list.levels[0].key, u"a b");
+    EXPECT_EQ(list.levels[0].title.german, u"Eins Zwei");
+    EXPECT_EQ(list.levels[0].tasks.at(0).text, u"H2O");
 }
 
 TEST(TaskFiles, AnEmptyTextHasNoLevels)
@@ -135,6 +157,13 @@ TEST_F(TaskComplaints, QuoteTheBeginningOfALongLine)
 {
     const String text = complaintText(read(u"[a]\nH2O\n" + String(5000, u'x')), u"f");
     EXPECT_LT(text.size(), 140U);
+}
+
+TEST_F(TaskComplaints, QuoteNoHalfOfASign)
+{
+    const String line = String(38, u'x') + u"\U0001F600\U0001F600";
+    const String text = complaintText(read(u"[a]\nH2O\n" + line + u"\n"), u"f");
+    EXPECT_THAT(phial::toUtf8(text), ::testing::HasSubstr(std::string(38, 'x') + "…"));
 }
 
 using TaskRounds = phial::test::AppSession;
