@@ -1,5 +1,6 @@
 #include "common/NumberAnswer.h"
 
+#include "common/FrameTexts.h"
 #include "core/CoreNumbers.h"
 #include "core/NumberText.h"
 
@@ -26,6 +27,12 @@ phial::String NumberAnswer::text() const
 {
     const auto number = value();
     return number ? phial::plainText(*number, u',') : phial::String();
+}
+
+phial::String NumberAnswer::unreadable()
+{
+    return translate(u"Bitte gib eine Zahl ein, zum Beispiel 12,5.",
+                     u"Please type a number, for example 12.5.");
 }
 
 void NumberAnswer::open()

@@ -52,6 +52,8 @@ public:
     void retry();
     /// It can be read and no longer changed, and looks so.
     void close();
+    /// What is told to whom has not typed a number.
+    static phial::String unreadable();
     void TRANSLATE() { pad_.TRANSLATE(); }
 
 private:

@@ -1,10 +1,8 @@
 #include "molmasse/Trainer.h"
 
 #include "common/FrameTexts.h"
-#include "common/TermFit.h"
 #include "molmasse/MassJudge.h"
 #include "molmasse/Mistakes.h"
-#include "molmasse/TrainerDesign.h"
 #include "molmasse/Working.h"
 
 namespace molmasse
@@ -42,6 +40,15 @@ constexpr learning::AppTexts Texts{
         u"points.\r\nMark: {6}",
 };
 
+constexpr phial::ControlDesign Controls[] = {
+    learning::FormulaCard::card(),
+    learning::FormulaCard::formula(),
+    learning::FormulaCard::name(),
+    learning::NumberAnswer::row(u"Molare Masse in g/mol|Molar mass in g/mol"),
+    learning::NumberAnswer::unit(u"g/mol|g/mol"),
+    learning::NumberPad::row(),
+};
+
 } // namespace
 
 const learning::AppTexts& Trainer::texts() const
@@ -66,47 +73,28 @@ String Trainer::missing() const
 
 std::span<const phial::ControlDesign> Trainer::controls() const
 {
-    return trainer_design::Controls;
+    return Controls;
 }
 
 void Trainer::attach(phial::Form& form)
 {
-    form_ = &form;
-    formula_ = form.control<phial::ctl_TermLabel>(u"trm_Formula");
+    card_.emplace(form);
     answer_.emplace(form);
 }
 
 void Trainer::TRANSLATE()
 {
     answer_->TRANSLATE();
-    showName();
-}
-
-void Trainer::showName()
-{
-    learning::caption(*form_, u"lab_Name", translate(task_.germanName, task_.englishName));
-}
-
-int Trainer::begin(std::size_t level, const learning::TaskChoice& choice)
-{
-    level_ = level;
-    tasks_ = drawRound(data_.tasks.levels.at(level), choice);
-    return static_cast<int>(tasks_.size());
+    card_->TRANSLATE();
 }
 
 void Trainer::show(int position)
 {
-    task_ = tasks_.at(static_cast<std::size_t>(position - 1));
+    task_ = data_.tasks.at(position);
     mass_ = data_.elements->MOL(task_.text);
     exactMass_ = exactMass(data_.exactMasses, task_.text).value_or(mass_);
-    learning::showFitting(*formula_, task_.text);
-    showName();
+    card_->show(task_);
     answer_->open();
-}
-
-String Trainer::spoken() const
-{
-    return translate(task_.germanName, task_.englishName) + u", " + task_.text;
 }
 
 Judgement Trainer::judge()
@@ -118,12 +106,6 @@ Judgement Trainer::judge()
 String Trainer::solution() const
 {
     return massText(mass_) + u" g/mol";
-}
-
-String Trainer::unreadable() const
-{
-    return translate(u"Bitte gib eine Zahl ein, zum Beispiel 12,5.",
-                     u"Please type a number, for example 12.5.");
 }
 
 String Trainer::hint() const
@@ -155,7 +137,7 @@ String Trainer::working() const
 
 std::vector<learning::ReferenceEntry> Trainer::reference() const
 {
-    return massesOfElements(*data_.elements, data_.tasks.levels.at(level_).tasks);
+    return massesOfElements(*data_.elements, data_.tasks.tasks());
 }
 
 void Trainer::fillWrong()

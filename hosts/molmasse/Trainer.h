@@ -1,10 +1,10 @@
 #pragma once
 
+#include "common/FormulaCard.h"
 #include "common/LearningApp.h"
 #include "common/NumberAnswer.h"
 #include "molmasse/TrainerData.h"
 #include "molmasse/Working.h"
-#include "term/ctl_TermLabel.h"
 
 #include <optional>
 
@@ -19,23 +19,26 @@ public:
 
     const learning::AppTexts& texts() const override;
     phial::String missing() const override;
-    std::vector<learning::LevelTitle> levels() const override { return titlesOf(data_.tasks); }
-    phial::String complaint() const override { return complaintText(data_.tasks, TaskFileName); }
+    std::vector<learning::LevelTitle> levels() const override { return data_.tasks.titles(); }
+    phial::String complaint() const override { return data_.tasks.complaint(); }
     std::span<const phial::ControlDesign> controls() const override;
     void attach(phial::Form& form) override;
     void TRANSLATE() override;
-    int begin(std::size_t level, const learning::TaskChoice& choice) override;
+    int begin(std::size_t level, const learning::TaskChoice& choice) override
+    {
+        return data_.tasks.begin(level, choice);
+    }
     void show(int position) override;
     phial::String taskName() const override { return task_.text; }
-    phial::String spoken() const override;
-    phial::String taskTitle() const override { return formulaLine(task_.text); }
+    phial::String spoken() const override { return card_->spoken(); }
+    phial::String taskTitle() const override { return learning::formulaLine(task_.text); }
     phial::String answer() const override { return answer_->text(); }
     learning::Judgement judge() override;
     void retry() override { answer_->retry(); }
     void close() override { answer_->close(); }
     phial::ControlPtr field() const override { return answer_->field(); }
     phial::String solution() const override;
-    phial::String unreadable() const override;
+    phial::String unreadable() const override { return learning::NumberAnswer::unreadable(); }
     phial::String hint() const override;
     phial::String remark() const override;
     phial::String support() const override;
@@ -44,18 +47,14 @@ public:
     void fill(Sample sample) override;
 
 private:
-    void showName();
     void fillWrong();
 
     TrainerData data_;
-    std::size_t level_ = 0;
-    std::vector<learning::ListedTask> tasks_; ///< of the round
     learning::ListedTask task_;
     double mass_ = 0;              ///< its molar mass by the table, one decimal an element, in g/mol
     double exactMass_ = 0;         ///< the same with all digits
     std::optional<double> judged_; ///< the last answer, in g/mol
-    phial::Form* form_ = nullptr;
-    std::shared_ptr<phial::ctl_TermLabel> formula_;
+    std::optional<learning::FormulaCard> card_;
     std::optional<learning::NumberAnswer> answer_;
 };
 

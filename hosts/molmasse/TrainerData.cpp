@@ -5,10 +5,9 @@
 #include "app/sys_Global.h"
 #include "chem/ElementFileReader.h"
 #include "chem/FormulaAnalysis.h"
-#include "common/TermFit.h"
+#include "common/FormulaCard.h"
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
-#include "molmasse/TrainerDesign.h"
 
 namespace molmasse
 {
@@ -23,16 +22,6 @@ std::shared_ptr<phial::cls_DataElements> readElements(const String& file)
     auto elements = std::make_shared<phial::cls_DataElements>();
     phial::ignoringErrors([&] { elements->IMPORT2(file); });
     return elements->COUNT() > 0 ? elements : nullptr;
-}
-
-learning::TaskFile readTasks(const String& file, const phial::cls_DataElements& elements)
-{
-    learning::TaskFile tasks;
-    phial::ignoringErrors([&] {
-        tasks = learning::readTaskFile(phial::coreRoot().CoreFiles().ReadText(file),
-                                       [&](const String& formula) { return faultOf(elements, formula); });
-    });
-    return tasks;
 }
 
 } // namespace
@@ -65,27 +54,10 @@ std::optional<double> exactMass(const std::map<String, double>& masses, phial::S
     return sum;
 }
 
-std::optional<learning::TaskFault> faultOf(const phial::cls_DataElements& elements, const String& formula)
-{
-    std::size_t position = 0;
-    phial::StringView symbol = phial::nextSymbol(formula, position);
-    if (symbol.empty()) {
-        return learning::TaskFault::NoTask;
-    }
-    for (; !symbol.empty(); symbol = phial::nextSymbol(formula, position)) {
-        if (!elements.EXISTS(String(symbol))) {
-            return learning::TaskFault::UnknownElement;
-        }
-    }
-    const bool fits = learning::fittingTermSize(formula, trainer_design::FormulaWidth).has_value();
-    return fits ? std::nullopt : std::optional(learning::TaskFault::TooLong);
-}
-
 TrainerData loadTrainerData()
 {
     TrainerData data;
-    const auto& folders = phial::QVAPP()->URL();
-    const String elementFile = folders->DATASHARED() + u"elements2.dat";
+    const String elementFile = phial::QVAPP()->URL()->DATASHARED() + u"elements2.dat";
     data.elements = readElements(elementFile);
     if (!data.elements) {
         data.missingFile = elementFile;
@@ -93,10 +65,11 @@ TrainerData loadTrainerData()
     }
     phial::ignoringErrors(
         [&] { data.exactMasses = readExactMasses(phial::coreRoot().CoreFiles().ReadText(elementFile)); });
-    const String taskFile = folders->DATAAPP() + String(TaskFileName);
-    data.tasks = readTasks(taskFile, *data.elements);
-    if (data.tasks.levels.empty()) {
-        data.missingFile = taskFile;
+    data.tasks = learning::TaskList(TaskFileName, [&](const String& formula) {
+        return learning::FormulaCard::faultOf(formula, *data.elements);
+    });
+    if (data.tasks.isEmpty()) {
+        data.missingFile = data.tasks.path();
     }
     return data;
 }

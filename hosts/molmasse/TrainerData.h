@@ -1,7 +1,7 @@
 #pragma once
 
 #include "chem/cls_DataElements.h"
-#include "common/TaskFile.h"
+#include "common/TaskList.h"
 
 #include <map>
 #include <memory>
@@ -21,7 +21,7 @@ struct TrainerData {
     std::shared_ptr<phial::cls_DataElements> elements;
     /// The elements' molar masses with all digits of their file, by symbol; the table has one decimal.
     std::map<phial::String, double> exactMasses;
-    learning::TaskFile tasks;
+    learning::TaskList tasks;
 };
 
 /// The molar masses of the five-line element file in that text, in g/mol by symbol.
@@ -29,11 +29,6 @@ std::map<phial::String, double> readExactMasses(phial::StringView text);
 
 /// The molar mass of a formula by these masses, in g/mol; empty when one is missing.
 std::optional<double> exactMass(const std::map<phial::String, double>& masses, phial::StringView formula);
-
-/// What keeps a line of the task file from being one: it has no symbol, an unknown one, or is too wide for
-/// the card even in the smallest size.
-std::optional<learning::TaskFault> faultOf(const phial::cls_DataElements& elements,
-                                           const phial::String& formula);
 
 /// Reads the element table and the tasks. The root must have been started; nothing is raised.
 TrainerData loadTrainerData();

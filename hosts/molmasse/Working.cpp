@@ -38,21 +38,6 @@ String massText(double mass)
     return text;
 }
 
-String formulaLine(phial::StringView formula)
-{
-    constexpr char16_t LoweredZero = u'\u2080';
-    String line(formula);
-    bool isIndex = false; // a number in front belongs to no symbol
-    for (char16_t& unit : line) {
-        if (isIndex && phial::isDigit(unit)) {
-            unit = static_cast<char16_t>(LoweredZero + (unit - u'0'));
-        } else {
-            isIndex = !phial::isDigit(unit) && unit != u' ' && unit != u'(';
-        }
-    }
-    return line;
-}
-
 String atomsCounted(const phial::cls_DataElements& elements, const String& formula, AtomMasses masses)
 {
     String text;

@@ -9,9 +9,6 @@ namespace molmasse
 /// A mass as the trainer shows it: one decimal, with the sign of the language in force.
 phial::String massText(double mass);
 
-/// A formula in one line of plain text, its indices lowered: "Ca(OH)₂" for Ca(OH)2.
-phial::String formulaLine(phial::StringView formula);
-
 /// Whether a list of atoms tells their masses too.
 enum class AtomMasses : bool { Hidden, Shown };
 

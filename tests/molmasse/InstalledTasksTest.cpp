@@ -1,4 +1,5 @@
 #include "chem/cls_DataElements.h"
+#include "common/FormulaCard.h"
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
 #include "core/NativePath.h"
@@ -30,7 +31,7 @@ protected:
             readExactMasses(coreRoot().CoreFiles().ReadText(tree + u"\\Resources\\data\\elements2.dat"));
         tasks = learning::readTaskFile(
             coreRoot().CoreFiles().ReadText(tree + u"\\apps\\Molmasse\\data\\formeln.txt"),
-            [this](const String& formula) { return faultOf(elements, formula); });
+            [this](const String& formula) { return learning::FormulaCard::faultOf(formula, elements); });
     }
 
     bool holdsHydrogen(const String& formula) const { return elements.ELEMENTSCOUNT(formula).Exists(u"H"); }
