@@ -23,11 +23,10 @@ constexpr learning::AppTexts Texts{
         u"Wähle, wie schwer es werden soll:|"
         u"Work out the molar mass of each formula in g/mol and type it, with a comma or a point. "
         u"Choose how hard it shall be:",
-    .note =
-        u"Gerundete Atommassen zählen so gut wie genaue: ±0,1 g/mol, bei großen Massen ±0,2 % und höchstens "
-        u"±0,5 g/mol.|"
-        u"Rounded atomic masses count as well as exact ones: ±0.1 g/mol, for large masses ±0.2 % and at "
-        u"most ±0.5 g/mol.",
+    .note = u"Gerundete Atommassen zählen so gut wie genaue:<br>"
+            u"±0,1\u00A0g/mol, bei großen Massen ±0,2\u00A0% und höchstens ±0,5\u00A0g/mol.|"
+            u"Rounded atomic masses count as well as exact ones:<br>"
+            u"±0.1\u00A0g/mol, for large masses ±0.2\u00A0% and at most ±0.5\u00A0g/mol.",
     .reference = u"Atommassen|Atomic masses",
     .waiting = u"Sobald deine Lehrkraft den Molmassen-Trainer freigibt, geht es hier von selbst weiter.|"
                u"As soon as your teacher opens the molar mass trainer for you, it goes on here by itself.",
@@ -105,7 +104,7 @@ Judgement Trainer::judge()
 
 String Trainer::solution() const
 {
-    return massText(mass_) + u" g/mol";
+    return massText(mass_) + u"\u00A0g/mol";
 }
 
 String Trainer::hint() const

@@ -47,7 +47,7 @@ String atomsCounted(const phial::cls_DataElements& elements, const String& formu
         }
         text.append(countText(atoms)).append(Times).append(atoms.symbol);
         if (masses == AtomMasses::Shown) {
-            text.append(u" (").append(massOf(elements, atoms.symbol)).append(u" g/mol)");
+            text.append(u" (").append(massOf(elements, atoms.symbol)).append(u"\u00A0g/mol)");
         }
     }
     return text;
@@ -65,7 +65,7 @@ String workedLine(const phial::cls_DataElements& elements, const String& formula
         }
         text += massOf(elements, atoms.symbol);
     }
-    return text.append(u" = ").append(massText(elements.MOL(formula))).append(u" g/mol");
+    return text.append(u" = ").append(massText(elements.MOL(formula))).append(u"\u00A0g/mol");
 }
 
 std::vector<learning::ReferenceEntry> massesOfElements(phial::cls_DataElements& elements,
@@ -85,7 +85,8 @@ std::vector<learning::ReferenceEntry> massesOfElements(phial::cls_DataElements& 
         const auto element = elements.ITEM(at);
         if (const String symbol = element->SYMBOL(); symbols.contains(symbol)) {
             const String mass = massOf(elements, symbol);
-            entries.push_back({symbol, mass, (german ? element->NAME() : symbol) + u": " + mass + u" g/mol"});
+            entries.push_back(
+                {symbol, mass, (german ? element->NAME() : symbol) + u": " + mass + u"\u00A0g/mol"});
         }
     }
     return entries;

@@ -84,7 +84,7 @@ TEST_F(TrainerTest, AWrongAnswerMayBeMended)
     EXPECT_EQ(seen(u"lab_Feedback"), u"Leider nicht. Du hast noch einen Versuch.");
 
     type(u"18{enter}");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0 g/mol, 4 Punkte für dich.");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0\u00A0g/mol, 4 Punkte für dich.");
 }
 
 TEST_F(TrainerTest, AWrongAnswerTellsTheMistakeThatItShows)
@@ -132,9 +132,9 @@ TEST_F(TrainerTest, ARightAnswerIsWorkedOutToo)
 {
     openInstalled();
     type(u"{enter}18{enter}");
-    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
     type(u"{f1}"); // there is nothing left to give a hint for
-    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
 }
 
@@ -143,8 +143,8 @@ TEST_F(TrainerTest, TheThirdWrongAnswerTellsTheSolutionWorkedOut)
     openInstalled();
     type(u"{enter}1{enter}2{enter}3{enter}");
 
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Schade. Richtig wären 18,0 g/mol.");
-    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Schade. Richtig wären 18,0\u00A0g/mol.");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
     EXPECT_EQ(seen(u"lab_Points"), u"0 Punkte");
 
     // What is decided is not edited any more.
@@ -173,7 +173,7 @@ TEST_F(TrainerTest, F1ShowsTheAtomsCountedAndCostsThreePoints)
     openInstalled();
     type(u"{enter}{f1}");
 
-    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1,0 g/mol)<br>1 \u00D7 O (16,0 g/mol)");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1,0\u00A0g/mol)<br>1 \u00D7 O (16,0\u00A0g/mol)");
     EXPECT_EQ(focused(), u"txt_Answer");
 
     type(u"18{enter}");

@@ -146,11 +146,11 @@ TEST_F(TrainerResult, ShowsTheWorkingOfTheChosenTask)
     playRound();
     EXPECT_EQ(seen(u"lab_Working"), u"Wähle eine Aufgabe, dann siehst du hier den Rechenweg.");
     reviewed()->inputChoice(1);
-    EXPECT_EQ(seen(u"lab_Working"), u"H\u2082O:<br>2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
-    EXPECT_EQ(reviewed()->frame().announcement(), u"H\u2082O:\n2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+    EXPECT_EQ(seen(u"lab_Working"), u"H\u2082O:<br>2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
+    EXPECT_EQ(reviewed()->frame().announcement(), u"H\u2082O:\n2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
 
     touch(u"but_Language");
-    EXPECT_EQ(seen(u"lab_Working"), u"H\u2082O:<br>2 \u00D7 1.0 + 16.0 = 18.0 g/mol");
+    EXPECT_EQ(seen(u"lab_Working"), u"H\u2082O:<br>2 \u00D7 1.0 + 16.0 = 18.0\u00A0g/mol");
     EXPECT_EQ(reviewRow(1)->Cell(2), u"\u2713 right at once");
     EXPECT_EQ(reviewed()->COLUMNHEADERS()->Item(3)->Text(), u"Points");
 

@@ -20,7 +20,7 @@ TEST_F(TrainerTest, AWholeRoundGoesByKeysAlone)
     EXPECT_EQ(focused(), u"txt_Answer");
 
     type(u"18,0{enter}");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0 g/mol, 10 Punkte für dich.");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0\u00A0g/mol, 10 Punkte für dich.");
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
     EXPECT_EQ(buttonText(u"but_Check"), u"Weiter");
 
@@ -142,15 +142,15 @@ TEST_F(TrainerTest, TheMassesAreAtHandForNothing)
     ASSERT_TRUE(isSeen(u"ref_Drawer"));
     EXPECT_EQ(focused(), u"txt_Answer");
     ASSERT_EQ(drawer->parts().size(), 4U) << "of both formulas of the level";
-    EXPECT_EQ(drawer->parts()[0].name, u"Wasserstoff: 1,0 g/mol");
-    EXPECT_EQ(drawer->parts()[3].name, u"Chlor: 35,5 g/mol");
+    EXPECT_EQ(drawer->parts()[0].name, u"Wasserstoff: 1,0\u00A0g/mol");
+    EXPECT_EQ(drawer->parts()[3].name, u"Chlor: 35,5\u00A0g/mol");
 
     type(u"8{enter}{enter}");
     EXPECT_EQ(formula(), u"NaCl");
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
     EXPECT_TRUE(isSeen(u"ref_Drawer")) << "it stays until it is closed";
     touch(u"but_Language");
-    EXPECT_EQ(drawer->parts()[3].name, u"Cl: 35.5 g/mol");
+    EXPECT_EQ(drawer->parts()[3].name, u"Cl: 35.5\u00A0g/mol");
     EXPECT_TRUE(isSeen(u"ref_Drawer"));
 }
 
@@ -222,7 +222,7 @@ TEST_F(TrainerTest, ScreenReadersSayTaskVerdictHintAndWorking)
     type(u"{f1}");
     EXPECT_EQ(said(), phial::plainMarkup(seen(u"lab_Hint")));
     type(u"18{enter}");
-    EXPECT_EQ(said(), u"Richtig! 18,0 g/mol, 4 Punkte für dich.\n2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
+    EXPECT_EQ(said(), u"Richtig! 18,0\u00A0g/mol, 4 Punkte für dich.\n2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
     type(u"{enter}");
     EXPECT_EQ(said(), u"Aufgabe 2 von 2\nNatriumchlorid, NaCl");
 }

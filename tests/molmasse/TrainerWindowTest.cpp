@@ -121,7 +121,7 @@ TEST_F(TrainerTest, SpeaksEnglishWithTheDecimalSignOfTheUser)
     EXPECT_EQ(form().Caption(), u"Molar mass trainer");
     type(u"{enter}18.0{enter}");
     EXPECT_EQ(seen(u"lab_Name"), u"water");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0 g/mol, 10 points for you.");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0\u00A0g/mol, 10 points for you.");
     EXPECT_EQ(buttonText(u"but_Check"), u"Next");
 }
 
@@ -160,13 +160,13 @@ TEST_F(TrainerTest, TheDecimalSignIsThatOfTheLanguageAndBothAreRead)
     EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Key", CommaKey)->Caption(), u".");
     touch(u"but_Level", 0);
     touch(u"but_Hint");
-    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1.0 g/mol)<br>1 \u00D7 O (16.0 g/mol)");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1.0\u00A0g/mol)<br>1 \u00D7 O (16.0\u00A0g/mol)");
     type(u"18,0{enter}");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0 g/mol, 7 points for you.");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0\u00A0g/mol, 7 points for you.");
 
     touch(u"but_Language");
     EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Key", CommaKey)->Caption(), u",");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0 g/mol, 7 Punkte für dich.");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0\u00A0g/mol, 7 Punkte für dich.");
 }
 
 } // namespace

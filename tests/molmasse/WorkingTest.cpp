@@ -26,16 +26,17 @@ protected:
 
 TEST_F(Working, AddsUpTheElementsInTheOrderOfTheFormula)
 {
-    EXPECT_EQ(workedLine(table, u"H2O"), u"2 \u00D7 1,0 + 16,0 = 18,0 g/mol");
-    EXPECT_EQ(workedLine(table, u"Ca(OH)2"), u"40,1 + 2 \u00D7 16,0 + 2 \u00D7 1,0 = 74,1 g/mol");
-    EXPECT_EQ(workedLine(table, u"O2"), u"2 \u00D7 16,0 = 32,0 g/mol");
+    EXPECT_EQ(workedLine(table, u"H2O"), u"2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
+    EXPECT_EQ(workedLine(table, u"Ca(OH)2"), u"40,1 + 2 \u00D7 16,0 + 2 \u00D7 1,0 = 74,1\u00A0g/mol");
+    EXPECT_EQ(workedLine(table, u"O2"), u"2 \u00D7 16,0 = 32,0\u00A0g/mol");
 }
 
 TEST_F(Working, CountsAtomsWithTheirMassesOrWithout)
 {
     EXPECT_EQ(atomsCounted(table, u"CH3COOH", AtomMasses::Hidden), u"2 \u00D7 C<br>4 \u00D7 H<br>2 \u00D7 O");
-    EXPECT_EQ(atomsCounted(table, u"NaOH", AtomMasses::Shown),
-              u"1 \u00D7 Na (23,0 g/mol)<br>1 \u00D7 O (16,0 g/mol)<br>1 \u00D7 H (1,0 g/mol)");
+    EXPECT_EQ(
+        atomsCounted(table, u"NaOH", AtomMasses::Shown),
+        u"1 \u00D7 Na (23,0\u00A0g/mol)<br>1 \u00D7 O (16,0\u00A0g/mol)<br>1 \u00D7 H (1,0\u00A0g/mol)");
 }
 
 } // namespace
