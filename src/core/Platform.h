@@ -41,7 +41,7 @@ struct Platform {
     std::shared_ptr<CoreMachine> machine;
     std::shared_ptr<VisualHost> visual;
 
-    /// Left out: nothing is found, nothing happens, False is answered; the pointer is at 0, 0.
+    /// Left out: nothing is found, nothing happens, False is answered; the pointer is told nowhere.
     std::shared_ptr<CoreWindowOps> windows;
     std::shared_ptr<CoreDisplay> display;
     std::shared_ptr<CoreCursors> cursors;

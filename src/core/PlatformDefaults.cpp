@@ -52,9 +52,11 @@ class NoDisplay : public CoreDisplay
 public:
     std::int32_t CursorX() const override { return 0; }
     std::int32_t CursorY() const override { return 0; }
+    bool TellsCursor() const override { return false; }
     std::int32_t Width() const override { return 0; }
     std::int32_t Height() const override { return 0; }
     std::optional<std::int32_t> TextHeight() const override { return std::nullopt; }
+    bool ReducesMotion() const override { return false; }
 };
 
 class NoCursors : public CoreCursors

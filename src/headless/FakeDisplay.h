@@ -5,7 +5,7 @@
 namespace phial::headless
 {
 
-/// A display of 1024 by 768 pixels with small fonts, and a pointer that a test moves.
+/// A display of 1024 by 768 pixels with small fonts, all motion, and a pointer that a test moves.
 class FakeDisplay : public CoreDisplay
 {
 public:
@@ -14,6 +14,9 @@ public:
         cursorX_ = x;
         cursorY_ = y;
     }
+    /// From now on the desktop does not tell where the pointer is, or tells it again.
+    void tellsCursor(bool value) { tellsCursor_ = value; }
+    void reducesMotion(bool value) { reducesMotion_ = value; }
     void resize(std::int32_t width, std::int32_t height)
     {
         width_ = width;
@@ -24,13 +27,17 @@ public:
 
     std::int32_t CursorX() const override { return cursorX_; }
     std::int32_t CursorY() const override { return cursorY_; }
+    bool TellsCursor() const override { return tellsCursor_; }
     std::int32_t Width() const override { return width_; }
     std::int32_t Height() const override { return height_; }
     std::optional<std::int32_t> TextHeight() const override { return textHeight_; }
+    bool ReducesMotion() const override { return reducesMotion_; }
 
 private:
     std::int32_t cursorX_ = 0;
     std::int32_t cursorY_ = 0;
+    bool tellsCursor_ = true;
+    bool reducesMotion_ = false;
     std::int32_t width_ = 1024;
     std::int32_t height_ = 768;
     std::optional<std::int32_t> textHeight_ = 16;

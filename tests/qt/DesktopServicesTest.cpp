@@ -1,5 +1,8 @@
 #include "qt/desktop/DesktopServices.h"
 
+#include <QApplication>
+#include <QProxyStyle>
+
 #include <gtest/gtest.h>
 
 using namespace phial::qt;
@@ -30,6 +33,33 @@ TEST(TextHeight, GrowsWithFontAndDotsAlike)
     EXPECT_EQ(textHeightOf(22, 96), 32);
     EXPECT_EQ(textHeightOf(11, 192), 32);
     EXPECT_EQ(textHeightOf(5.5, 96), 8);
+}
+
+/// A style that has no time for animations.
+class StillStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+TEST(DesktopDisplay, MotionIsReducedWhereTheStyleHasNoTimeForIt)
+{
+    const QString before = QApplication::style()->name();
+    const DesktopDisplay display;
+    EXPECT_FALSE(display.ReducesMotion());
+    QApplication::setStyle(new StillStyle);
+    EXPECT_TRUE(display.ReducesMotion());
+    QApplication::setStyle(before);
+}
+
+TEST(DesktopDisplay, ThePointerIsToldEverywhereButUnderWayland)
+{
+    ASSERT_FALSE(QGuiApplication::platformName().startsWith("wayland"));
+    EXPECT_TRUE(DesktopDisplay().TellsCursor());
 }
 
 } // namespace

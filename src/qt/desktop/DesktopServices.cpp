@@ -12,11 +12,13 @@
 #include "visual/TextBox.h"
 #include "visual/VisualHost.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QScreen>
+#include <QStyle>
 #include <QUrl>
 #include <QWidget>
 
@@ -74,6 +76,11 @@ std::int32_t DesktopDisplay::CursorY() const
     return pointerPlace().y();
 }
 
+bool DesktopDisplay::TellsCursor() const
+{
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 std::int32_t DesktopDisplay::Width() const
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -97,6 +104,11 @@ std::optional<std::int32_t> DesktopDisplay::TextHeight() const
     const double points =
         text.pointSizeF() > 0 ? text.pointSizeF() : text.pixelSize() * PointsPerInch / dotsPerInch;
     return textHeightOf(points, dotsPerInch * userZoom(*screen));
+}
+
+bool DesktopDisplay::ReducesMotion() const
+{
+    return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
 }
 
 std::int32_t textHeightOf(double points, double dotsPerInch)

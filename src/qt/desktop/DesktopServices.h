@@ -17,10 +17,14 @@ class DesktopDisplay final : public CoreDisplay
 public:
     std::int32_t CursorX() const override;
     std::int32_t CursorY() const override;
+    /// False under Wayland, which tells of the pointer over the program's own windows alone.
+    bool TellsCursor() const override;
     std::int32_t Width() const override;
     std::int32_t Height() const override;
     /// Of the desktop's own text as the user has set it: by its font, by dots to an inch, or by a zoom.
     std::optional<std::int32_t> TextHeight() const override;
+    /// By the style, which has no time for animations where the user wants none.
+    bool ReducesMotion() const override;
 };
 
 /// What CoreDisplay::TextHeight gives for text of that size. The largest text with which desktops come, 11
