@@ -29,6 +29,7 @@ public:
         add(control, area);
         return control;
     }
+    void put(const phial::ControlPtr& control, const phial::PixelRectangle& area) { add(control, area); }
     template <typename Class>
     std::shared_ptr<Class> putMiddle(phial::PixelSize size)
     {

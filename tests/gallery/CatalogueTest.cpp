@@ -6,7 +6,11 @@
 #include "gallery/GalleryDesign.h"
 #include "gallery/GalleryShots.h"
 #include "gallery/GalleryTest.h"
+#include "mascot/ctl_Bubble.h"
+#include "mascot/ctl_DrAtom.h"
 #include "support/MarkedWaves.h"
+#include "visual/ScrollBar.h"
+#include "visual/TextBox.h"
 #include "visual/ctl_Pannel.h"
 
 #include <set>
@@ -108,12 +112,12 @@ TEST_F(CatalogueTest, ShowsEveryControlOfTheSystem)
         shown.insert(String(exhibit.title));
     }
     for (const StringView name :
-         {u"Label",          u"TextBox",       u"RichTextBox", u"PictureBox",   u"Shape",
-          u"ScrollBar",      u"ListBox",       u"ComboBox",    u"ImageList",    u"Menu",
-          u"Timer",          u"Form",          u"ctl_Button",  u"ctl_CmdBar",   u"ctl_UICommandbar",
-          u"ctl_Title",      u"ctl_Frame",     u"ctl_Pannel",  u"ctl_Gradient", u"ctl_Label",
-          u"ctl_ReEvent",    u"ctl_TermLabel", u"ctl_Mark",    u"frm_Fade",     u"ListView",
-          u"frm_DialogSound"}) {
+         {u"Label",           u"TextBox",       u"RichTextBox", u"PictureBox",   u"Shape",
+          u"ScrollBar",       u"ListBox",       u"ComboBox",    u"ImageList",    u"Menu",
+          u"Timer",           u"Form",          u"ctl_Button",  u"ctl_CmdBar",   u"ctl_UICommandbar",
+          u"ctl_Title",       u"ctl_Frame",     u"ctl_Pannel",  u"ctl_Gradient", u"ctl_Label",
+          u"ctl_ReEvent",     u"ctl_TermLabel", u"ctl_Mark",    u"frm_Fade",     u"ListView",
+          u"frm_DialogSound", u"ctl_Bubble",    u"ctl_DrAtom"}) {
         const bool scrollBar = name == u"ScrollBar";
         EXPECT_TRUE(shown.contains(String(name)) || (scrollBar && shown.contains(u"VScrollBar")))
             << phial::toUtf8(name);
@@ -131,6 +135,34 @@ TEST_F(CatalogueTest, EveryTextIsThereInBothLanguages)
             EXPECT_NE(sample.name.find(u'|'), StringView::npos) << phial::toUtf8(sample.name);
         }
     }
+}
+
+TEST_F(CatalogueTest, ASliderSetsItsPropertyAndFollowsIt)
+{
+    open();
+    gallery->show(exhibit(u"ctl_DrAtom"));
+    const auto mascot = get<phial::ctl_DrAtom>(u"ctl_DrAtom1");
+    const auto eyes = get<phial::ScrollBar>(u"HScrollBar1");
+    EXPECT_EQ(eyes->Value(), 4);
+    eyes->inputValue(9);
+    EXPECT_EQ(mascot->EYESIZE(), 9);
+    mascot->EYESIZE(2);
+    EXPECT_EQ(eyes->Value(), 2);
+    EXPECT_EQ(get<phial::ctl_Label>(u"ctl_Label1")->Caption(), u"EYESIZE = 2");
+    const auto opening = get<phial::ScrollBar>(u"HScrollBar5");
+    opening->inputScroll(opening->Max());
+    EXPECT_EQ(mascot->MOUTHOPEN(), 5);
+}
+
+TEST_F(CatalogueTest, TheMascotSaysWhatIsTyped)
+{
+    open();
+    gallery->show(exhibit(u"ctl_DrAtom"));
+    get<phial::TextBox>(u"TextBox1")->Text(u"Wasser");
+    get<phial::ctl_Button>(u"ctl_Button2")->click();
+    EXPECT_EQ(get<phial::ctl_Bubble>(u"ctl_Bubble1")->TEXT(), u"Wasser");
+    EXPECT_EQ(get<phial::ctl_DrAtom>(u"ctl_DrAtom1")->BUBBLEMODE,
+              phial::enm_DrAtomBubbleMode::ID_DrAtomBubbleMode_Error);
 }
 
 TEST_F(CatalogueTest, AnotherLanguageOpensNoWindowAgain)

@@ -1,6 +1,7 @@
 #include "mascot/DrAtomTest.h"
 #include "media/cls_AppMedia.h"
 #include "support/MarkedWaves.h"
+#include "visual/Label.h"
 
 namespace phial
 {
