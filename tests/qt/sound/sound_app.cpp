@@ -3,6 +3,7 @@
 //   play FILE     PLAYWAVE without wait; the steady clock's seconds at the call
 //   burst FILE|…  the same with all of them in a row; the time at the first call
 //   praise FILE   the praise window with that sound; for how many seconds it stood
+//   leave FILE    the same, and Escape is pressed in it as soon as the sound plays
 //   gap           for how many seconds at most its events have stood still since it was asked last
 //   end           ends; no answer
 // It says "ready" first. FILE is a path of the system (\).
@@ -14,14 +15,17 @@
 #include "app/sys_Global.h"
 #include "core/NativePath.h"
 #include "media/cls_AppMedia.h"
+#include "media/frm_AppMCI.h"
 #include "media/frm_DialogSound.h"
 #include "qt/base/QtClock.h"
 #include "qt/desktop/DesktopApplication.h"
 #include "visual/Form.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QSocketNotifier>
 #include <QTimer>
+#include <QWidget>
 
 #include <algorithm>
 #include <cstdio>
@@ -83,6 +87,19 @@ double praise(const String& file)
     return now() - begin;
 }
 
+double leave(const String& file)
+{
+    QTimer leaving;
+    QObject::connect(&leaving, &QTimer::timeout, &leaving, [] {
+        if (Session::current().sharedForm<frm_AppMCI>()->mci()->isPlaying()) {
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::sendEvent(QApplication::activeWindow(), &escape);
+        }
+    });
+    leaving.start(50);
+    return praise(file);
+}
+
 void obey(const std::string& line, Gap& gap)
 {
     const String file = fromUtf8(std::string_view(line).substr(std::min(line.size(), line.find(' ') + 1)));
@@ -97,6 +114,8 @@ void obey(const std::string& line, Gap& gap)
         }
     } else if (line.starts_with("praise ")) {
         answer(praise(file));
+    } else if (line.starts_with("leave ")) {
+        answer(leave(file));
     } else if (line == "gap") {
         answer(gap.take());
     } else {
