@@ -93,6 +93,37 @@ TEST_F(Control, StopsGoesOnFromThereAndGoesBackToTheBeginning)
     EXPECT_EQ(outside.audio().heard().size(), 3U);
 }
 
+TEST_F(Control, OfTwoChannelsBothGoOnFromThere)
+{
+    std::string frames;
+    for (std::uint32_t frame = 0; frame < 8'000; ++frame) {
+        frames += test::littleEndian(frame, 2) + test::littleEndian(frame + 10'000, 2);
+    }
+    folder.write(native(u"installed\\Resources\\sfx\\two.wav"),
+                 test::waveFile(test::WaveHeader{.channels = 2, .rate = 8'000}, frames));
+    open(QVAPP()->URL()->RESOURCESFX() + u"two.wav");
+    mci().Command(u"play");
+    outside.advance(0.25);
+    mci().Command(u"stop");
+    mci().Command(u"play");
+    const Sound& rest = *outside.audio().heard().at(1).sound;
+    ASSERT_EQ(rest.samples.size(), 2 * 6'000U);
+    EXPECT_FLOAT_EQ(rest.samples[0], 2'000 / 32'768.0F);
+    EXPECT_FLOAT_EQ(rest.samples[1], 12'000 / 32'768.0F);
+}
+
+TEST_F(Control, ItsSoundEndsWithIt)
+{
+    {
+        MediaControl own;
+        own.FileName(sound(u"a.wav", 9));
+        own.Command(u"open");
+        own.Command(u"play");
+        outside.advance(1);
+    }
+    EXPECT_DOUBLE_EQ(outside.audio().heard().at(0).end, outside.audio().heard().at(0).begin + 1);
+}
+
 TEST_F(Control, PlayingAgainDoesNotDoubleTheSound)
 {
     open(sound(u"a.wav", 1));

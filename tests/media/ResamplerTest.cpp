@@ -128,6 +128,18 @@ TEST(Resampler, TakesSilenceAroundTheSound)
     EXPECT_NEAR(result[1], 2 / std::numbers::pi, 0.06);
 }
 
+TEST(Resampler, ItsEdgesAreThoseOfTheSoundWithSilenceAround)
+{
+    const std::vector<float> sound = tone(3'000, 44'100, 100);
+    std::vector<float> padded(2 * 441 + sound.size(), 0);
+    std::copy(sound.begin(), sound.end(), padded.begin() + 441);
+    const std::vector<float> alone = resampled(sound, 44'100, 48'000);
+    const std::vector<float> among = resampled(padded, 44'100, 48'000);
+    for (std::size_t at = 0; at < alone.size(); ++at) {
+        EXPECT_NEAR(alone[at], among[at + 480], 1e-6) << at;
+    }
+}
+
 TEST(Resampler, KeepsChannelsApart)
 {
     std::vector<float> samples;
