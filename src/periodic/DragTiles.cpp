@@ -1,0 +1,106 @@
+#include "periodic/DragTiles.h"
+
+#include "core/RuntimeError.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr std::int32_t TableColumns = 18;
+constexpr std::int32_t TableRows = 10;
+
+/// In the free row between the periods and the two rows below them.
+PixelRectangle homeOf(std::size_t slot, const TableGrid& grid)
+{
+    constexpr double FreeRow = 9; // of the whole grid
+    constexpr double FirstHome = 3;
+    constexpr double Distance = 1.5;
+    return grid.area(static_cast<double>(slot) * Distance + FirstHome, FreeRow, 1, 1);
+}
+
+bool isOnTable(double column, double row)
+{
+    return column >= 0 && column < TableColumns && row >= 0 && row < TableRows;
+}
+
+} // namespace
+
+DragTile& DragTiles::at(std::int32_t slot)
+{
+    if (slot < 0 || slot >= Slots) {
+        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+    }
+    return tiles_[static_cast<std::size_t>(slot)];
+}
+
+const DragTile& DragTiles::at(std::int32_t slot) const
+{
+    return const_cast<DragTiles&>(*this).at(slot);
+}
+
+DragTile* DragTiles::add(String symbol, const TableGrid& grid)
+{
+    const auto free = std::find_if(begin(), end(), [](const DragTile& tile) { return tile.symbol.empty(); });
+    if (free == end()) {
+        return nullptr;
+    }
+    *free = {
+        std::move(symbol), nullptr, homeOf(static_cast<std::size_t>(free - begin()), grid), {}, {}, false};
+    return &*free;
+}
+
+void DragTiles::sendHome(std::int32_t slot, const TableGrid& grid)
+{
+    DragTile& tile = at(slot);
+    tile.area = homeOf(static_cast<std::size_t>(slot), grid);
+    tile.target.reset();
+    tile.droppedSymbol.clear();
+    tile.isPlaced = false;
+}
+
+std::optional<std::int32_t> DragTiles::slotAt(PixelPoint point) const
+{
+    const auto held = std::find_if(begin(), end(), [=](const DragTile& tile) {
+        return !tile.symbol.empty() && tile.area.contains(point);
+    });
+    return held == end() ? std::nullopt : std::optional(static_cast<std::int32_t>(held - begin()));
+}
+
+bool DragTiles::drop(std::int32_t slot, const TableGrid& grid)
+{
+    const PixelRectangle& area = at(slot).area;
+    const PixelPoint offset = grid.offset();
+    const double column = std::floor((area.left + area.width / 2 - offset.x) / grid.cellWidth);
+    const double row = std::floor((area.top + area.height / 2 - offset.y) / grid.cellHeight);
+    if (!isOnTable(column, row)) {
+        sendHome(slot, grid);
+        return false;
+    }
+    put(slot, {static_cast<std::int32_t>(column), static_cast<std::int32_t>(row)}, grid);
+    return true;
+}
+
+void DragTiles::put(std::int32_t slot, DragTile::Target target, const TableGrid& grid)
+{
+    DragTile& tile = at(slot);
+    tile.target = target;
+    tile.area = grid.cell(target.column, target.row);
+    tile.droppedSymbol.clear();
+    tile.isPlaced = false;
+}
+
+void DragTiles::layOut(const TableGrid& grid)
+{
+    for (std::size_t slot = 0; slot < tiles_.size(); ++slot) {
+        DragTile& tile = tiles_[slot];
+        tile.area = tile.target ? grid.cell(tile.target->column, tile.target->row) : homeOf(slot, grid);
+    }
+}
+
+} // namespace phial

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "core/String.h"
+#include "periodic/PeriodicPlaces.h"
+
+#include <array>
+#include <memory>
+#include <optional>
+
+namespace phial
+{
+
+class cls_DataElement;
+
+/// A tile with a symbol that is put on the table.
+struct DragTile {
+    /// The cell on which it was let go, by the elements' rows and columns.
+    struct Target {
+        std::int32_t column = 0;
+        std::int32_t row = 0;
+
+        friend bool operator==(const Target&, const Target&) = default;
+    };
+
+    String symbol;                            ///< empty: the slot is free
+    std::shared_ptr<cls_DataElement> element; ///< null for a symbol that no element has
+    PixelRectangle area;
+    std::optional<Target> target; ///< none: at home
+    String droppedSymbol;         ///< of the element in the target's cell; empty for none
+    bool isPlaced = false;        ///< lies on an element's cell
+};
+
+/// The eleven slots for tiles, counted from 0.
+class DragTiles
+{
+public:
+    static constexpr std::int32_t Slots = 11;
+
+    /// Raises 9 outside.
+    DragTile& at(std::int32_t slot);
+    const DragTile& at(std::int32_t slot) const;
+
+    /// Frees all slots.
+    void clear() { tiles_ = {}; }
+    /// Fills the first free slot; null when there is none.
+    DragTile* add(String symbol, const TableGrid& grid);
+    /// Back to its place below the table.
+    void sendHome(std::int32_t slot, const TableGrid& grid);
+    /// The slot whose tile holds the point, the lowest one first.
+    std::optional<std::int32_t> slotAt(PixelPoint point) const;
+    /// Lets go of a tile where it is: it takes the cell in which its middle lies, and gives true; outside of
+    /// the table it goes home.
+    bool drop(std::int32_t slot, const TableGrid& grid);
+    /// Puts a tile on a cell.
+    void put(std::int32_t slot, DragTile::Target target, const TableGrid& grid);
+    /// All where they belong in another grid.
+    void layOut(const TableGrid& grid);
+
+    auto begin() const { return tiles_.begin(); }
+    auto end() const { return tiles_.end(); }
+    auto begin() { return tiles_.begin(); }
+    auto end() { return tiles_.end(); }
+
+private:
+    std::array<DragTile, Slots> tiles_;
+};
+
+} // namespace phial

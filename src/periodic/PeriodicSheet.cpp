@@ -1,0 +1,135 @@
+#include "periodic/PeriodicSheet.h"
+
+#include "chem/cls_DataElements.h"
+#include "periodic/TableLabels.h"
+#include "visual/DrawDevice.h"
+
+#include <algorithm>
+#include <ranges>
+
+namespace phial
+{
+
+namespace
+{
+
+/// Of a cell's ground, by its shell, from 1.
+constexpr std::array<Colour, 7> ShellColours = {
+    RGB(157, 152, 140), RGB(255, 150, 255), RGB(150, 255, 150), RGB(255, 150, 150),
+    RGB(150, 150, 255), RGB(255, 255, 150), RGB(200, 100, 200),
+};
+
+constexpr Colour NoElementsGround = QBColor(7); // of a tile
+
+Colour shellColour(std::int32_t shell)
+{
+    return ShellColours[static_cast<std::size_t>(shell - 1)];
+}
+
+} // namespace
+
+bool SheetMarks::isPale(StringView symbol, bool isTile) const
+{
+    if (isPlacing && !isTile) {
+        return !faded->Exists(symbol);
+    }
+    return symbol != highlight && (!highlight.empty() || faded->Exists(symbol));
+}
+
+CellLook SheetMarks::lookOf(StringView symbol, bool isTile) const
+{
+    CellLook look;
+    look.isPale = isPale(symbol, isTile);
+    look.isGrey = gone->Exists(symbol);
+    look.isEmpty = isPlacing && look.isPale && !isTile;
+    look.isHighlighted = symbol == highlight;
+    if (const CoreToken& frame = frames->Item(symbol); frames->Exists(symbol)) {
+        if (const Variant colour = frame.Values().Item(1); !colour.isEmpty()) {
+            ignoringErrors([&] { look.frame = Colour{static_cast<std::uint32_t>(colour.toWhole())}; });
+        }
+    }
+    return look;
+}
+
+void PeriodicSheet::fill(cls_DataElements& table)
+{
+    cells_.clear();
+    corner_ = {};
+    style.scale = grid.scale();
+    for (std::int32_t position = 1; position <= table.COUNT(); ++position) {
+        const auto place = placeOf(position);
+        if (!place) {
+            break;
+        }
+        const PixelRectangle area = grid.cell(place->column, place->row);
+        cells_.push_back({ElementCell::of(table.ITEM(position), area, shellColour(place->shell)), *place});
+        corner_ = {std::max(corner_.x, area.right()), std::max(corner_.y, area.bottom())};
+        tellTiles(cells_.back());
+    }
+}
+
+void PeriodicSheet::tellTiles(const Cell& cell)
+{
+    for (DragTile& tile : tiles) {
+        if (tile.target == DragTile::Target{cell.place.column, cell.place.row}) {
+            tile.droppedSymbol = cell.painted.element->SYMBOL();
+            tile.isPlaced = true;
+        }
+    }
+}
+
+std::optional<std::size_t> PeriodicSheet::cellAt(PixelPoint point) const
+{
+    const auto found = std::find_if(cells_.begin(), cells_.end(),
+                                    [=](const Cell& cell) { return cell.painted.area.contains(point); });
+    return found == cells_.end() ? std::nullopt
+                                 : std::optional(static_cast<std::size_t>(found - cells_.begin()));
+}
+
+std::optional<std::size_t> PeriodicSheet::cellOf(const cls_DataElement* element) const
+{
+    const auto found = std::find_if(cells_.begin(), cells_.end(),
+                                    [=](const Cell& cell) { return cell.painted.element.get() == element; });
+    return found == cells_.end() ? std::nullopt
+                                 : std::optional(static_cast<std::size_t>(found - cells_.begin()));
+}
+
+void PeriodicSheet::paint(DrawDevice& device, const cls_DataElement* hovered,
+                          std::optional<std::int32_t> leftOut) const
+{
+    for (std::size_t cell = 0; cell < cells_.size(); ++cell) {
+        paintCell(device, cell, cells_[cell].painted.element.get() == hovered);
+    }
+    paintTableLabels(device, grid);
+    if (showsElectronStates) {
+        paintElectronStates(device, grid);
+    }
+    for (std::int32_t slot = DragTiles::Slots - 1; slot >= 0; --slot) { // the first one on top
+        if (slot != leftOut) {
+            paintTile(device, tiles.at(slot));
+        }
+    }
+}
+
+void PeriodicSheet::paintCell(DrawDevice& device, std::size_t cell, bool isHovered) const
+{
+    const ElementCell& painted = cells_[cell].painted;
+    CellLook look = marks.lookOf(painted.element->SYMBOL(), false);
+    look.isHovered = isHovered;
+    painted.paint(device, style, look);
+}
+
+void PeriodicSheet::paintTile(DrawDevice& device, const DragTile& tile) const
+{
+    if (tile.symbol.empty()) {
+        return;
+    }
+    ElementCell cell{tile.area, nullptr, tile.symbol, QBColor(0), NoElementsGround};
+    if (tile.element) {
+        const auto own = cellOf(tile.element.get());
+        cell = ElementCell::of(tile.element, tile.area, own ? cells_[*own].painted.base : NoElementsGround);
+    }
+    cell.paint(device, style, marks.lookOf(tile.symbol, true));
+}
+
+} // namespace phial

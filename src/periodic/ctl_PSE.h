@@ -1,0 +1,154 @@
+#pragma once
+
+#include "periodic/PeriodicSheet.h"
+#include "visual/PaintSurface.h"
+#include "visual/Timer.h"
+#include "visual/UserControl.h"
+
+#include <memory>
+#include <optional>
+
+namespace phial
+{
+
+class cls_DataElement;
+class cls_DataElements;
+class ctl_Bubble;
+
+enum class enm_PSEMode : std::int32_t {
+    ID_PSEMode_Normal = 0,
+    ID_PSEMode_Place = 1, ///< tiles with symbols are put on the table
+};
+
+/// The periodic table: a control that draws itself on a grid of 19 by 12.5 cells, tells of the element under
+/// the pointer and of clicks, and takes tiles for exercises. Its elements are of its own; before LOAD it
+/// shows its ground alone.
+///
+/// Lists of symbols are shared with the host, which calls REDRAW when it has changed one. REDRAW works out
+/// the cells at once and marks the control for painting.
+///
+/// Persisted: "BACKCOLOR", "FIXEDSIZE", "MODE", "ElektronenZustand".
+class ctl_PSE final : public UserControl
+{
+public:
+    ctl_PSE();
+    ~ctl_PSE() override;
+
+    /// White at first.
+    Colour BACKCOLOR() const { return surface_.BackColor(); }
+    void BACKCOLOR(Colour value);
+    /// Reads the elements from a file for cls_DataElements::IMPORT, unless a file has been read already, and
+    /// shows them: as names, if the session's SheetMode says so by then, else as symbols. Raises IMPORT's
+    /// errors.
+    void LOAD(StringView pFile);
+    /// The bubble that tells of an element when the pointer has rested on it for half a second. None at
+    /// first.
+    std::shared_ptr<ctl_Bubble> BUBBLE() const { return bubble_; }
+    void BUBBLE(std::shared_ptr<ctl_Bubble> value);
+    /// Symbols that are drawn pale; in place mode those that are not. Null raises 91, as for the next two.
+    std::shared_ptr<CoreStringList> FADED() const { return sheet_.marks.faded; }
+    void FADED(std::shared_ptr<CoreStringList> value);
+    void REDRAW();
+    /// The symbol beside which all others are pale; empty for none.
+    const String& HIGHLIGHT() const { return highlight_; }
+    void HIGHLIGHT(String value);
+    /// True: the cells follow the control's size. False, as at first: the control has the size of its cells.
+    bool FIXEDSIZE() const { return fixedSize_; }
+    void FIXEDSIZE(bool value);
+    enm_PSEMode MODE() const { return mode_; }
+    void MODE(enm_PSEMode value);
+    /// Frees all slots for tiles.
+    void DRAGCLEAR();
+    /// Puts a tile with that symbol into the first free one of eleven slots; without a free one nothing
+    /// happens.
+    void DRAGADD(StringView pSymbol);
+    /// The symbol of a tile, and of the element on which it lies. Slots count from 0; raises 9 outside.
+    const String& DRAGSYMBOL(std::int32_t pI) const { return sheet_.tiles.at(pI).symbol; }
+    const String& DRAGSYMBOLDROP(std::int32_t pI) const { return sheet_.tiles.at(pI).droppedSymbol; }
+    /// Sends a tile back below the table. Raises 9 outside.
+    void DRAGRESET(std::int32_t pI);
+    /// Whether the rows of electron states are drawn, from the next REDRAW on.
+    bool ELEKTRONENZUSTAND() const { return electronStates_; }
+    void ELEKTRONENZUSTAND(bool value);
+    /// Further frames: a symbol with its colour as first value.
+    std::shared_ptr<CoreTokenList> HIGHLIGHTS() const { return sheet_.marks.frames; }
+    void HIGHLIGHTS(std::shared_ptr<CoreTokenList> value);
+    /// Symbols that are drawn grey.
+    std::shared_ptr<CoreStringList> GONE() const { return sheet_.marks.gone; }
+    void GONE(std::shared_ptr<CoreStringList> value);
+
+    /// A press on an element, on the same one again, and beside all of them once there was one.
+    Event<const std::shared_ptr<cls_DataElement>&> CLICK;
+    Event<const std::shared_ptr<cls_DataElement>&> CLICKAGAIN;
+    Event<> CLICKOUTSIDE;
+
+    StringView typeName() const override { return u"ctl_PSE"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    PartRole role() const override { return PartRole::Table; }
+    std::vector<NamedPart> parts() const override;
+    void activatePart(std::size_t part) override;
+    void readProperties(const PropertyBag& bag) override;
+    void writeProperties(PropertyBag& bag) override;
+    void resized() override;
+    void paint() override;
+    void hidden() override;
+    void ended() override;
+    void pointerDown(const PointerEvent& event) override;
+    void pointerMove(const PointerEvent& event) override;
+    void pointerUp(const PointerEvent& event) override;
+    void pointerLeave() override;
+
+private:
+    struct Properties;
+    /// The tile in the hand, and where it is held, from its corner.
+    struct Hold {
+        std::int32_t slot = 0;
+        PixelPoint at;
+    };
+
+    void import(StringView file);
+    void takeSize();
+    void fitCellsToSize();
+    void fitSizeToCells();
+    void modeChanged();
+    bool isPlacing() const { return mode_ == enm_PSEMode::ID_PSEMode_Place; }
+
+    void point(PixelPoint place);
+    void dropUnlessPointedAt();
+    void hover(std::shared_ptr<cls_DataElement> element);
+    void repaintCellOf(const cls_DataElement* element);
+    void release();
+    void choose(std::shared_ptr<cls_DataElement> element);
+
+    void placeBubble();
+    void bubbleTick();
+
+    void takeTile(PixelPoint pointer);
+    void moveTile(PixelPoint pointer);
+    void dropTile();
+
+    ControlFrame frame_;
+    PaintSurface surface_;
+    std::unique_ptr<cls_DataElements> table_;
+    PeriodicSheet sheet_;
+    bool hasFile_ = false;  ///< the table has been read
+    bool isLoaded_ = false; ///< and is shown
+    String highlight_;
+    bool fixedSize_ = false;
+    enm_PSEMode mode_{};
+    bool electronStates_ = false;
+
+    std::shared_ptr<cls_DataElement> hover_;
+    std::shared_ptr<cls_DataElement> last_; ///< clicked
+    std::shared_ptr<ctl_Bubble> bubble_;
+    Timer bubbleTimer_;
+    Connection ticking_;
+    std::int32_t ticks_ = 0; ///< since the pointer came to hover_
+    bool hasLeft_ = false;   ///< the pointer, as far as is known
+    std::optional<Hold> hold_;
+    PicturePtr ground_; ///< while a tile is moved: the table without it
+};
+
+} // namespace phial
