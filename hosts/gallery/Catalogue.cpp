@@ -35,6 +35,8 @@ phial::String groupTitle(Group group)
         return say(u"Klänge|Sounds");
     case Group::Mascot:
         return say(u"Maskottchen|Mascot");
+    case Group::Periodic:
+        return say(u"Periodensystem|Periodic table");
     }
     return {};
 }
@@ -44,7 +46,7 @@ std::vector<Exhibit> catalogue()
     std::vector<Exhibit> all;
     for (const auto section :
          {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits, userExhibits,
-          resultExhibits, formulaExhibits, soundExhibits, mascotExhibits}) {
+          resultExhibits, formulaExhibits, soundExhibits, mascotExhibits, periodicExhibits}) {
         std::ranges::move(section(), std::back_inserter(all));
     }
     std::ranges::stable_sort(all, {}, &Exhibit::group);

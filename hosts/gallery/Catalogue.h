@@ -18,6 +18,7 @@ std::vector<Exhibit> resultExhibits();
 std::vector<Exhibit> formulaExhibits();
 std::vector<Exhibit> soundExhibits();
 std::vector<Exhibit> mascotExhibits();
+std::vector<Exhibit> periodicExhibits();
 
 /// All exhibits, section by section.
 std::vector<Exhibit> catalogue();

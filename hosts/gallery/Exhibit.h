@@ -12,7 +12,18 @@ namespace gallery
 {
 
 /// The sections of the gallery, in the order in which it lists them.
-enum class Group : std::uint8_t { Shown, Input, Bars, Parts, Windows, Results, Formulas, Sounds, Mascot };
+enum class Group : std::uint8_t {
+    Shown,
+    Input,
+    Bars,
+    Parts,
+    Windows,
+    Results,
+    Formulas,
+    Sounds,
+    Mascot,
+    Periodic
+};
 
 /// The section's title in the language in force.
 phial::String groupTitle(Group group);
