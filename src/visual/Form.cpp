@@ -303,8 +303,18 @@ void Form::showModal()
 {
     const auto opener = visualHost().forms().ActiveForm();
     const OwnDialog dialog(opener);
+    Connections following;
     if (opener) {
         takeZoomOf(*opener);
+        // At a program's start the desktop may give the opener its size only while the dialog is there.
+        following += opener->Resize.connect([this, &opener] {
+            const double before = zoom_;
+            takeZoomOf(*opener);
+            if (zoom_ != before) { // where it stood it might reach out of the screen
+                centre();
+                report(FormAspect::Geometry);
+            }
+        });
     }
     modal_ = true;
     try {

@@ -79,6 +79,25 @@ TEST_F(DialogZoom, IsThatOfItsOpener)
     EXPECT_EQ(zoomOver(1.5, {200, 100}), 1.5);
 }
 
+TEST_F(DialogZoom, IsThatOfItsOpenerWhenThatGrowsMeanwhile)
+{
+    form->Show();
+    dialog->innerSize({200, 100});
+    outside.visual().onModal(u"frm_Dialog", [&](Form& opened) {
+        const PixelRectangle screen = visualHost().screen().first();
+        opened.Move(0, 0);
+        form->Zoom(1.5);
+        EXPECT_EQ(opened.Zoom(), 1.5);
+        EXPECT_EQ(opened.innerSize(), (PixelSize{200, 100}));
+        EXPECT_NEAR(opened.Left() + opened.Width() / 2, screen.width / 2 * TwipsPerPixel, TwipsPerPixel);
+        form->Zoom(2);
+        EXPECT_EQ(opened.Zoom(), 1.5) << "it does not change under the hand";
+        opened.Unload();
+    });
+    dialog->Show(FormShow::Modal);
+    form->Zoom(2.5);
+}
+
 TEST_F(DialogZoom, LeavesRoomOnTheScreen)
 {
     const PixelRectangle screen = visualHost().screen().first();
