@@ -256,10 +256,10 @@ inline constexpr ControlDesign Tail[] = {
         .font(10)
         .ink(Palette::Muted)
         .align(MiddleLeft),
-    design<ctl_Button>(u"but_Sound", {492, 2, 180, 36}).inside(u"pan_Footer").font(10),
-    design<ctl_Button>(u"but_Classroom", {684, 2, 184, 36}, u"Klassenraum …|Classroom …")
+    design<ctl_Button>(u"but_Classroom", {492, 2, 184, 36}, u"Klassenraum …|Classroom …")
         .inside(u"pan_Footer")
         .font(10),
+    design<ctl_Button>(u"but_Sound", {688, 2, 180, 36}).inside(u"pan_Footer").font(10),
 };
 
 } // namespace learning::frame_design
