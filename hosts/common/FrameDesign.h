@@ -41,6 +41,8 @@ inline constexpr double PageHeight = Height - Header - Footer;
 /// Of header and footer in windows that are too low for the design.
 inline constexpr double LeastHeader = 52;
 inline constexpr double LeastFooter = 36; // its buttons are no lower
+/// What a finger meets is never lower, however small the design is shown: pixels of the window, 9 mm.
+inline constexpr double LeastTarget = 36;
 /// How much smaller and larger the design is shown.
 inline constexpr double LeastZoom = 0.75;
 inline constexpr double MostZoom = 4;
@@ -182,7 +184,7 @@ inline constexpr ControlDesign Head[] = {
         .ink(Palette::Muted)
         .align(MiddleLeft),
     design<ctl_RoundDots>(u"dot_Round", {32, 42, 560, 30}).inside(u"pan_Task"),
-    sideButton(u"but_Reference", {640, 20, 228, 44}, {}).inside(u"pan_Task").unfocusable(),
+    sideButton(u"but_Reference", {640, 18, 228, 48}, {}).inside(u"pan_Task").unfocusable(),
     design<ctl_Reference>(u"ref_Drawer", {32, 4, 560, 72}).inside(u"pan_Task").hidden(),
 };
 

@@ -13,16 +13,17 @@ using phial::PixelSize;
 namespace
 {
 
-constexpr double LowestHeight =
-    frame_design::PageHeight + frame_design::LeastHeader + frame_design::LeastFooter;
+/// Of what is zoomed in a window that is too low.
+constexpr double LowestHeight = frame_design::PageHeight + frame_design::LeastHeader;
 /// Left of this a piece of a bar keeps its distance from the left edge.
 constexpr double LeftBound = 200;
-constexpr double HeaderEdge = 6; // above and below a piece together
+constexpr double HeaderEdge = 4; // above and below a piece together
 constexpr double FooterEdge = 0;
 
 PixelSize leastInside()
 {
-    return {frame_design::Width * frame_design::LeastZoom, LowestHeight * frame_design::LeastZoom};
+    return {frame_design::Width * frame_design::LeastZoom,
+            LowestHeight * frame_design::LeastZoom + frame_design::LeastFooter};
 }
 
 } // namespace
@@ -31,14 +32,16 @@ Arrangement arrange(PixelSize inside)
 {
     const double byWidth = inside.width / frame_design::Width;
     const double byHeight = inside.height / frame_design::Height;
-    const double lowByHeight = std::min(inside.height / LowestHeight, 1.0);
+    const double lowByHeight = std::min((inside.height - frame_design::LeastFooter) / LowestHeight, 1.0);
     const double zoom = std::clamp(std::min(byWidth, std::max(byHeight, lowByHeight)),
                                    frame_design::LeastZoom, frame_design::MostZoom);
     const PixelSize area{inside.width / zoom, inside.height / zoom};
-    const double lacking =
-        std::clamp((frame_design::Height - area.height) / (frame_design::Height - LowestHeight), 0.0, 1.0);
+    const double leastFooter = std::max(frame_design::LeastFooter, frame_design::LeastTarget / zoom);
+    const double mostFooter = std::max(frame_design::Footer, leastFooter);
+    const double most = frame_design::PageHeight + frame_design::Header + mostFooter;
+    const double lacking = std::clamp((most - area.height) / (most - LowestHeight - leastFooter), 0.0, 1.0);
     const double header = frame_design::Header - lacking * (frame_design::Header - frame_design::LeastHeader);
-    const double footer = frame_design::Footer - lacking * (frame_design::Footer - frame_design::LeastFooter);
+    const double footer = mostFooter - lacking * (mostFooter - leastFooter);
     const double room = area.height - header - footer;
     return {.zoom = zoom,
             .area = area,
@@ -85,7 +88,8 @@ void FrameLayout::follow()
     }
 }
 
-// A piece as high as the bar stays so; any other one keeps its height, if the bar has it, and its middle.
+// A piece as high as the bar stays so; any other one keeps its height, if the bar has it, and its middle. A
+// button is never too low for a finger.
 void FrameLayout::placeBar(const std::vector<Piece>& pieces, double width, double height, double designHeight,
                            double edge)
 {
@@ -93,7 +97,10 @@ void FrameLayout::placeBar(const std::vector<Piece>& pieces, double width, doubl
         const PixelRectangle& design = piece.place;
         const double left =
             design.left < LeftBound ? design.left : width - (frame_design::Width - design.left);
-        const double most = design.height >= designHeight ? height : std::min(design.height, height - edge);
+        const bool isButton = dynamic_cast<const phial::ctl_Button*>(piece.control.get()) != nullptr;
+        const double wanted =
+            std::max(design.height, isButton ? frame_design::LeastTarget / form_.Zoom() : 0);
+        const double most = design.height >= designHeight ? height : std::min(wanted, height - edge);
         piece.control->frame().pixelRectangle({left, (height - most) / 2, design.width, most});
     }
 }

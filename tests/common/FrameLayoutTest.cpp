@@ -50,10 +50,20 @@ TEST(FrameLayoutTest, InALowWindowHeaderAndFooterGiveWayFirst)
     expectWhole(some);
 
     const Arrangement low = arrange({1024, 572});
-    EXPECT_DOUBLE_EQ(low.zoom, 572.0 / 624);
-    EXPECT_EQ(low.header, 52);
-    EXPECT_EQ(low.footer, 36) << "a button's height";
+    EXPECT_DOUBLE_EQ(low.zoom, (572.0 - 36) / 588);
+    EXPECT_NEAR(low.header, 52, 1e-6);
+    EXPECT_NEAR(low.footer * low.zoom, 36, 1e-6) << "a button's height";
     expectWhole(low);
+}
+
+TEST(FrameLayoutTest, TheFooterHasRoomForAFingerHoweverSmallTheDesignIsShown)
+{
+    for (const phial::PixelSize inside :
+         {phial::PixelSize{675, 477}, {675, 640}, {720, 540}, {800, 560}, {1024, 560}, {5000, 5000}}) {
+        const Arrangement now = arrange(inside);
+        EXPECT_GE(now.footer * now.zoom, 36 - 1e-6) << inside.width;
+        expectWhole(now);
+    }
 }
 
 TEST(FrameLayoutTest, ShowsTheWholeDesignInEachWindowThatSchoolsHave)
@@ -67,7 +77,7 @@ TEST(FrameLayoutTest, ShowsTheWholeDesignInEachWindowThatSchoolsHave)
                                           {1920, 1080},
                                           {2560, 1440},
                                           {3840, 2160},
-                                          {675, 468}}) {
+                                          {675, 477}}) {
         SCOPED_TRACE(inside.width);
         expectWhole(arrange(inside));
     }

@@ -8,6 +8,22 @@ namespace
 
 using phial::StringView;
 
+/// A finger meets what lies 9 mm or further apart: 36 pixels of the window.
+void expectTargets(const phial::Container& container)
+{
+    for (const phial::ControlPtr& control : container.controls()) {
+        const phial::ControlFrame& frame = control->frame();
+        if (dynamic_cast<const phial::ctl_Button*>(control.get())) {
+            const phial::PixelRectangle place = frame.pixelRectangle();
+            EXPECT_GE(std::min(place.width, place.height) * frame.form()->Zoom(), 36 - 1e-6)
+                << phial::toUtf8(frame.NAME());
+        }
+        if (const phial::Container* within = control->container()) {
+            expectTargets(*within);
+        }
+    }
+}
+
 TEST_F(TrainerTest, BeginsWithTheChoiceOfTheLevel)
 {
     openInstalled();
@@ -53,6 +69,17 @@ TEST_F(TrainerTest, FillsItsWindowAtEachSize)
     EXPECT_NEAR(placeOf(u"but_Help").right(), width - 32, 0.1);
     EXPECT_EQ(placeOf(u"lab_Title").left, 32);
     EXPECT_NEAR(placeOf(u"pan_Start").left, (width - 900) / 2, 0.1);
+}
+
+TEST_F(TrainerTest, EachButtonIsLargeEnoughForAFingerInEachWindow)
+{
+    openInstalled();
+    for (const phial::PixelSize size : {phial::PixelSize{675, 477}, {1024, 560}, {900, 640}, {1920, 1080}}) {
+        form().Width(size.width * phial::TwipsPerPixel);
+        form().Height(size.height * phial::TwipsPerPixel);
+        SCOPED_TRACE(size.width);
+        expectTargets(form().container());
+    }
 }
 
 TEST_F(TrainerTest, F11FillsTheScreenAndLetsItGo)
