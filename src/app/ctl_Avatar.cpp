@@ -89,7 +89,7 @@ void ctl_Avatar::readName()
     }
 }
 
-/// A sunken edge; with the focus a bright line within.
+/// A sunken edge.
 void ctl_Avatar::paintFrame()
 {
     DrawDevice& device = surface_.device();
@@ -99,9 +99,6 @@ void ctl_Avatar::paintFrame()
     device.Line(0, 0, 0, bottom, QBColor(DarkGrey));
     device.Line(right, 0, right, bottom + 1, QBColor(LightGreySlot));
     device.Line(0, bottom, right, bottom, QBColor(LightGreySlot));
-    if (frame_.hasFocus()) {
-        device.Line(1, 1, right - 1, bottom - 1, QBColor(WhiteSlot), LineShape::Box);
-    }
 }
 
 void ctl_Avatar::paintUser()

@@ -43,15 +43,12 @@ StringView objection(const String& name)
                                         : StringView();
 }
 
-/// The picture of a place: a tile, with the avatar when there is one. It shows whether it has the focus.
-PicturePtr tile(PixelSize size, const PicturePtr& avatar, bool focused)
+/// The picture of a place: a tile, with the avatar when there is one.
+PicturePtr tile(PixelSize size, const PicturePtr& avatar)
 {
     DrawDevice device(visualHost().createSurface(size, visualHost().pixelRatio()));
-    device.Line(0, 0, size.width - 1, size.height - 1, focused ? Palette::Accent : Palette::Divider,
-                LineShape::Filled);
-    const double edge = focused ? 3 : 1;
-    device.Line(edge, edge, size.width - 1 - edge, size.height - 1 - edge, Palette::Surface,
-                LineShape::Filled);
+    device.Line(0, 0, size.width - 1, size.height - 1, Palette::Divider, LineShape::Box);
+    device.Line(1, 1, size.width - 2, size.height - 2, Palette::Surface, LineShape::Filled);
     if (avatar) {
         paintAvatar(device, avatar,
                     {LastInset, LastInset, size.width - 2 * LastInset, size.height - 2 * LastInset});
@@ -115,10 +112,6 @@ void frm_DialogUser::connectLast()
     };
     lastPictures_.each(wire);
     lastNames_.each(wire);
-    lastPictures_.each([this](PictureBox& picture, std::int32_t place) {
-        form_.on(picture.GotFocus, [this, place] { drawPlace(place); });
-        form_.on(picture.LostFocus, [this, place] { drawPlace(place); });
-    });
 }
 
 void frm_DialogUser::TRANSLATE()
@@ -205,9 +198,8 @@ void frm_DialogUser::drawPlace(std::int32_t place)
     const auto picture = lastPictures_(place);
     const bool taken = lastShown_[static_cast<std::size_t>(place)].has_value();
     picture->frame().TabStop(!picture->Tag().empty());
-    picture->Picture(tile(picture->surface().size(),
-                          taken ? QVAPP()->USER()->AVATARICON(picture->Tag()) : nullptr,
-                          picture->frame().hasFocus()));
+    picture->Picture(
+        tile(picture->surface().size(), taken ? QVAPP()->USER()->AVATARICON(picture->Tag()) : nullptr));
 }
 
 void frm_DialogUser::takeLast(std::int32_t place)

@@ -118,10 +118,6 @@ void Label::paint()
     } else {
         paintMarkup(device);
     }
-    if (frame_.hasFocus()) {
-        const PixelSize size = surface_.size();
-        device.Line(0, 0, size.width - 1, size.height - 1, foreColor_, LineShape::Box);
-    }
 }
 
 void Label::paintMarkup(DrawDevice& device)

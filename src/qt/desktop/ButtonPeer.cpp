@@ -1,9 +1,9 @@
 #include "qt/desktop/ButtonPeer.h"
 
 #include "qt/base/QtText.h"
+#include "qt/desktop/ButtonFace.h"
 #include "qt/desktop/FontCatalogue.h"
 #include "qt/desktop/PictureImage.h"
-#include "qt/desktop/Theme.h"
 #include "qt/desktop/WidgetAspects.h"
 
 #include <QPushButton>
@@ -38,7 +38,7 @@ void ButtonPeer::showPicture()
 
 void ButtonPeer::showStyle()
 {
-    markAccent(button_, model_->Accent()); // takes the sheet's font, so the model's comes behind
+    markAccent(button_, model_->Accent());
     button_.setFont(fontCatalogue().font(zoomed(model_->Font()->traits(), *model_)));
 }
 

@@ -1,8 +1,8 @@
 #include "qt/desktop/CommandBarPeer.h"
 
 #include "qt/base/QtText.h"
+#include "qt/desktop/ButtonFace.h"
 #include "qt/desktop/PictureImage.h"
-#include "qt/desktop/Theme.h"
 #include "qt/desktop/WidgetAspects.h"
 
 #include <QHBoxLayout>
@@ -52,7 +52,6 @@ void showPanel(QLabel& widget, const CommandBarButton& panel)
 QWidget* CommandBarPeer::make(std::shared_ptr<CommandBar> model, QWidget& holder)
 {
     auto* bar = new QWidget(&holder);
-    bar->setAttribute(Qt::WA_StyledBackground);
     markBar(*bar);
     new CommandBarPeer(std::move(model), *bar); // belongs to the bar
     return bar;

@@ -6,6 +6,7 @@
 #include "qt/desktop/ContainerWidgets.h"
 #include "qt/desktop/ControlWidgetAccessible.h"
 #include "qt/desktop/Dispatch.h"
+#include "qt/desktop/FocusRing.h"
 #include "qt/desktop/ForeignParent.h"
 #include "qt/desktop/FormKeys.h"
 #include "qt/desktop/InputCodes.h"
@@ -23,8 +24,8 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPalette>
 #include <QScopedValueRollback>
+#include <QTimer>
 #include <QTouchEvent>
 #include <QWheelEvent>
 
@@ -61,6 +62,7 @@ ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* pare
       touch_(*this, *control_)
 {
     installPartAccessibility();
+    showFocusByRing();
     setMouseTracking(true);
     setAcceptDrops(true);
     setAttribute(Qt::WA_AcceptTouchEvents, control_->frame().takesTouch());
@@ -90,6 +92,12 @@ ControlWidget::~ControlWidget()
     if (isForeign() && peer_->isLinked()) {
         dispatch([&] { control_->frame().tellEnded(); });
     }
+}
+
+QRectF ControlWidget::focusPlace() const
+{
+    const bool isPart = currentPart_ && *currentPart_ < parts().size();
+    return isPart ? zoomed(parts()[*currentPart_].area, *control_) : QRectF(rect());
 }
 
 QSize ControlWidget::sizeHint() const
@@ -231,10 +239,17 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/)
         painter.scale(zoom, zoom);
         const PixelRectangle part = control_->surface().imagedPart();
         painter.drawImage(QPointF(part.left, part.top), imageForPainting(*picture));
-        if (hasFocus()) {
-            paintPartFocus(painter, parts(), currentPart_, palette().color(QPalette::Highlight));
-        }
+        followParts();
     });
+}
+
+// What has changed the picture may have moved the part that has the focus.
+void ControlWidget::followParts()
+{
+    if (hasFocus() && focusPlace() != ringed_) {
+        ringed_ = focusPlace();
+        QTimer::singleShot(0, this, moveFocusRing);
+    }
 }
 
 // The control's place has changed by itself.
@@ -521,7 +536,7 @@ void ControlWidget::showPartFocus()
 {
     if (!currentPart_) {
         currentPart_ = nextPart(parts(), std::nullopt, Qt::Key_Right);
-        update();
+        moveFocusRing();
     }
 }
 
@@ -533,7 +548,7 @@ bool ControlWidget::moveToPart(int key)
     }
     currentPart_ = next;
     announcePart(*this, *next);
-    update();
+    moveFocusRing();
     return true;
 }
 

@@ -67,6 +67,9 @@ public:
     /// The part that the arrow keys have reached; none until the keyboard is used.
     std::optional<std::size_t> currentPart() const { return currentPart_; }
 
+    /// Where the focus is within the widget while it has it: that part, or all of it.
+    QRectF focusPlace() const;
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -111,6 +114,7 @@ private:
     void release(const QMouseEvent& event);
     bool moveToPart(int key);
     bool activateKey(const QKeyEvent& event);
+    void followParts();
     void beginDrag();
 
     std::shared_ptr<UserControl> control_;
@@ -123,6 +127,7 @@ private:
     std::optional<std::size_t> currentPart_;
     mutable std::optional<std::vector<NamedPart>> parts_; ///< none since they have changed
     mutable std::int32_t partsLanguage_ = 0;
+    QRectF ringed_;      ///< the place of the focus, as it was painted last
     TextEntry toldText_; ///< as screen readers know it
     bool pressed_ = false;
     bool secondPress_ = false;

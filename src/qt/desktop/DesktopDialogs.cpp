@@ -8,6 +8,9 @@
 #include "core/RuntimeError.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/BoxParts.h"
+#include "qt/desktop/BoxSigns.h"
+#include "qt/desktop/ButtonFace.h"
+#include "qt/desktop/PixelRatio.h"
 #include "qt/desktop/SystemBox.h"
 #include "qt/desktop/Theme.h"
 #include "qt/desktop/Toast.h"
@@ -17,13 +20,17 @@
 #include <QDialog>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTreeView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace phial::qt
 {
@@ -32,6 +39,7 @@ namespace
 {
 
 constexpr QSize TextBoxSize(560, 420);
+constexpr QSize FileBoxSize(760, 520);
 constexpr int InputWidth = 360;
 constexpr int IconSize = 48;
 
@@ -71,6 +79,16 @@ void prepare(QMessageBox& box, StringView text, StringView title)
     box.setText(toQt(text));
 }
 
+// The toolkit would take the screen's ratio, whatever pictures are being taken for.
+void showSign(QMessageBox& box, QStyle::StandardPixmap icon)
+{
+    const auto draw = [&box, icon] {
+        box.setIconPixmap(drawnSign(icon, IconSize, std::max(screenRatio(), box.devicePixelRatioF())));
+    };
+    draw();
+    QObject::connect(&ThemeNews::instance(), &ThemeNews::changed, &box, draw);
+}
+
 void showMessage(QMessageBox& box)
 {
     QPushButton* ok = addButton(box, Ok, QMessageBox::AcceptRole);
@@ -86,6 +104,14 @@ void label(QFileDialog& dialog)
     dialog.setLabelText(QFileDialog::FileType, inLanguage(FileType));
     dialog.setLabelText(QFileDialog::Accept, inLanguage(Save));
     dialog.setLabelText(QFileDialog::Reject, inLanguage(Cancel));
+}
+
+// Its columns are as wide as the toolkit's smaller text would need.
+void showWholeColumns(QFileDialog& dialog)
+{
+    for (const auto* table : dialog.findChildren<QTreeView*>()) {
+        table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    }
 }
 
 void beginAt(QFileDialog& dialog, StringView place)
@@ -114,7 +140,7 @@ void DesktopDialogs::Info(StringView pText, StringView pTitle, StringView pIcon)
     prepare(box, pText, pTitle);
     const QPixmap icon = iconOfBox(pIcon);
     if (icon.isNull()) {
-        box.setIcon(QMessageBox::Information);
+        showSign(box, QStyle::SP_MessageBoxInformation);
     } else {
         box.setIconPixmap(icon.scaled(IconSize, IconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     }
@@ -125,7 +151,7 @@ void DesktopDialogs::Error(StringView pText, StringView pTitle)
 {
     QMessageBox box(QApplication::activeWindow());
     prepare(box, pText, pTitle);
-    box.setIcon(QMessageBox::Critical);
+    showSign(box, QStyle::SP_MessageBoxCritical);
     showMessage(box);
 }
 
@@ -133,7 +159,7 @@ DialogAnswer DesktopDialogs::YesNo(StringView pText, StringView pTitle)
 {
     QMessageBox box(QApplication::activeWindow());
     prepare(box, pText, pTitle);
-    box.setIcon(QMessageBox::Question);
+    showSign(box, QStyle::SP_MessageBoxQuestion);
     QPushButton* yes = addButton(box, Yes, QMessageBox::YesRole);
     QPushButton* no = addButton(box, No, QMessageBox::NoRole);
     markAccent(*no, true);
@@ -164,6 +190,8 @@ String DesktopDialogs::SaveFile(StringView pFolder, StringView pTitle, StringVie
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     label(dialog);
+    showWholeColumns(dialog);
+    dialog.resize(FileBoxSize);
     beginAt(dialog, pFolder);
     const QString filter = toQt(toolkitFilter(pFilter));
     dialog.setNameFilter(filter);

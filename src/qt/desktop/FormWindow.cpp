@@ -4,6 +4,7 @@
 #include "qt/desktop/ControlWidget.h"
 #include "qt/desktop/Cursors.h"
 #include "qt/desktop/Dispatch.h"
+#include "qt/desktop/FocusRing.h"
 #include "qt/desktop/FormArea.h"
 #include "qt/desktop/InputCodes.h"
 #include "qt/desktop/MenuBar.h"
@@ -12,6 +13,7 @@
 #include "qt/desktop/WindowHandles.h"
 #include "qt/desktop/WindowShape.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -126,7 +128,9 @@ void FormWindow::show(FormAspect aspect)
         break;
     case FormAspect::Zoom:
         showZoom(form_->container());
+        restyleLists();
         area_->update();
+        moveFocusRing();
         break;
     case FormAspect::WindowState:
         showFrame();
@@ -187,6 +191,15 @@ void FormWindow::showZoom(const Container& container)
         if (const Container* within = control->container()) {
             showZoom(*within);
         }
+    }
+}
+
+// Lists keep the width of their frames and bars until they hear that the style has others.
+void FormWindow::restyleLists()
+{
+    QEvent restyled(QEvent::StyleChange);
+    for (QAbstractScrollArea* list : area_->findChildren<QAbstractScrollArea*>()) {
+        QApplication::sendEvent(list, &restyled);
     }
 }
 

@@ -64,6 +64,7 @@ private:
     void showState();
     void showShape();
     void showZoom(const Container& container);
+    void restyleLists();
     void showFocus();
     void tellGeometry();
     void tellState();

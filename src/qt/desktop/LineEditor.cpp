@@ -85,10 +85,7 @@ public:
         line_->setReadOnly(style.locked);
         line_->setAttribute(Qt::WA_InputMethodEnabled, !style.locked && !style.ownKeyboard);
         line_->setEchoMode(style.password ? QLineEdit::Password : QLineEdit::Normal);
-        QPalette palette = line_->palette();
-        palette.setColor(QPalette::Text, style.text);
-        palette.setColor(QPalette::Base, style.background);
-        line_->setPalette(palette);
+        showColours(*line_, style.text, style.background);
     }
 
 private:

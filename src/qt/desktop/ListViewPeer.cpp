@@ -17,8 +17,7 @@ namespace phial::qt
 namespace
 {
 
-constexpr int CellPadding = 12;  // left and right of a text together, as the sheet has it
-constexpr double RowHeight = 36; // pixels of the form: what a finger meets
+constexpr double CellPadding = 12; // left and right of a text together, as the style has it
 
 } // namespace
 
@@ -59,10 +58,8 @@ void ListViewPeer::choose(const QTreeWidgetItem* line)
 void ListViewPeer::showStyle()
 {
     list_.setFont(fontCatalogue().font(zoomed(model_->Font()->traits(), *model_)));
-    QPalette palette = list_.palette();
-    palette.setColor(QPalette::Text, toQColor(inkOn(model_->BackColor(), model_->ForeColor())));
-    palette.setColor(QPalette::Base, toQColor(model_->BackColor()));
-    list_.setPalette(palette);
+    showColours(list_, toQColor(inkOn(model_->BackColor(), model_->ForeColor())),
+                toQColor(model_->BackColor()));
     showTitles();
 }
 
@@ -108,7 +105,6 @@ void ListViewPeer::showRow(QTreeWidgetItem& line, const ListRow& row)
     const auto& columns = *model_->COLUMNHEADERS();
     const bool isOwn = !(row.ForeColor() == SystemColour::WindowText);
     const QBrush ink = isOwn ? QBrush(toQColor(row.ForeColor())) : QBrush();
-    line.setSizeHint(0, QSize(0, static_cast<int>(std::ceil(RowHeight * zoomOf(*model_)))));
     for (int at = 0; at < columns.Count(); ++at) {
         line.setForeground(at, ink);
         if (at > 0) {
@@ -123,7 +119,8 @@ void ListViewPeer::showRow(QTreeWidgetItem& line, const ListRow& row)
 void ListViewPeer::showTitles()
 {
     const int lines = std::min(list_.topLevelItemCount(), static_cast<int>(model_->ITEMS()->Count()));
-    const int room = list_.columnCount() > 0 ? list_.columnWidth(0) - CellPadding : 0;
+    const int room =
+        list_.columnCount() > 0 ? list_.columnWidth(0) - static_cast<int>(CellPadding * zoomOf(*model_)) : 0;
     for (int at = 0; at < lines; ++at) {
         const ListRow& row = *model_->ITEMS()->Item(at + 1);
         const QString title = toQt(row.Title());

@@ -2,6 +2,7 @@
 #include "qt/desktop/FontCatalogue.h"
 #include "qt/desktop/LineEnds.h"
 #include "qt/desktop/TextEditor.h"
+#include "qt/desktop/WidgetAspects.h"
 
 #include <QKeyEvent>
 #include <QPlainTextEdit>
@@ -89,10 +90,7 @@ public:
         page_->setFont(fontCatalogue().font(style.font));
         page_->setReadOnly(style.locked);
         page_->setAttribute(Qt::WA_InputMethodEnabled, !style.locked && !style.ownKeyboard);
-        QPalette palette = page_->palette();
-        palette.setColor(QPalette::Text, style.text);
-        palette.setColor(QPalette::Base, style.background);
-        page_->setPalette(palette);
+        showColours(*page_, style.text, style.background);
     }
 
 private:

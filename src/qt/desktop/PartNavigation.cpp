@@ -1,7 +1,5 @@
 #include "qt/desktop/PartNavigation.h"
 
-#include <QPainter>
-
 #include <limits>
 
 namespace phial::qt
@@ -10,7 +8,6 @@ namespace phial::qt
 namespace
 {
 
-constexpr double RingWidth = 2;
 constexpr double AsideWeight = 3; // a part that lies aside counts as that much further away
 
 PixelPoint middleOf(const NamedPart& part)
@@ -82,22 +79,6 @@ std::optional<std::size_t> nextPart(const std::vector<NamedPart>& parts, std::op
         }
     }
     return nearest;
-}
-
-void paintPartFocus(QPainter& painter, const std::vector<NamedPart>& parts, std::optional<std::size_t> part,
-                    QColor colour)
-{
-    if (!part || *part >= parts.size()) {
-        return;
-    }
-    const PixelRectangle& area = parts[*part].area;
-    const double inset = RingWidth / 2;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour, RingWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(
-        QRectF(area.left, area.top, area.width, area.height).adjusted(inset, inset, -inset, -inset),
-        RingWidth, RingWidth);
 }
 
 } // namespace phial::qt

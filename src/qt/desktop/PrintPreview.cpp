@@ -5,8 +5,8 @@
 #include "core/RuntimeError.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/BoxParts.h"
+#include "qt/desktop/ButtonFace.h"
 #include "qt/desktop/PrinterChoice.h"
-#include "qt/desktop/Theme.h"
 #include "qt/desktop/ToolkitLanguage.h"
 
 #include <QApplication>

@@ -4,9 +4,6 @@
 
 #include <QObject>
 
-class QPushButton;
-class QWidget;
-
 namespace phial::qt
 {
 
@@ -34,15 +31,12 @@ public:
     static bool isUnderWay();
 };
 
-/// The look of the toolkit's own widgets: one palette and one style sheet for the whole program, made from
-/// the theme's colours. Needs the application object.
+/// The look of the toolkit's own widgets: one style, and one palette made from the theme's colours, for the
+/// whole program. Needs the application object.
 void applyTheme(const CoreTheme& theme);
+/// Whether the program has that look.
+bool isThemed();
 /// The session's theme, unless the program has one already: for boxes that come before the first window.
 void ensureTheme();
-
-/// The button stands out as the one to press, or does so no longer.
-void markAccent(QPushButton& button, bool accent);
-/// The widget is the ground of a command bar.
-void markBar(QWidget& bar);
 
 } // namespace phial::qt

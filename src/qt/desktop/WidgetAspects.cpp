@@ -1,10 +1,13 @@
 #include "qt/desktop/WidgetAspects.h"
 
+#include "core/Palette.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/ControlWidgetAccessible.h"
 #include "qt/desktop/Cursors.h"
+#include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/FormWindow.h"
 
+#include <QPalette>
 #include <QWidget>
 
 #include <cmath>
@@ -141,6 +144,18 @@ void passNames(const QWidget& holder, QWidget& field)
 {
     field.setAccessibleName(holder.accessibleName());
     field.setAccessibleDescription(holder.accessibleDescription());
+}
+
+void showColours(QWidget& widget, const QColor& text, const QColor& ground)
+{
+    QPalette palette = widget.palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Text, text);
+        palette.setColor(group, QPalette::Base, ground);
+    }
+    palette.setColor(QPalette::Disabled, QPalette::Text, toQColor(Palette::DisabledText));
+    palette.setColor(QPalette::Disabled, QPalette::Base, toQColor(Palette::DisabledGround));
+    widget.setPalette(palette);
 }
 
 Qt::Alignment lineAlignment(Alignment alignment)

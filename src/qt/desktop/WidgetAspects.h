@@ -7,6 +7,7 @@
 #include <QRectF>
 #include <Qt>
 
+class QColor;
 class QRect;
 class QWidget;
 
@@ -34,6 +35,9 @@ void applyGeometry(QWidget& widget, const Control& control);
 
 /// Tells a form's window that the widget lets through another part of it.
 void tellShape(QWidget& widget);
+
+/// Of a field or a list; one that is off looks so whatever its colours are.
+void showColours(QWidget& widget, const QColor& text, const QColor& ground);
 
 /// Where a text of one line stands: at its side, and in the middle of the height.
 Qt::Alignment lineAlignment(Alignment alignment);

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QColor>
+
+class QPainter;
+class QPushButton;
+class QStyleOption;
+class QWidget;
+
+namespace phial::qt
+{
+
+/// Of the edge of controls, in pixels of a form.
+inline constexpr double EdgeWidth = 1.5;
+
+/// The colours of a button as it is now.
+struct ButtonFace {
+    QColor ground;
+    QColor text;
+    QColor edge;
+};
+
+/// By its state, by whether it is the one to press, and by whether it stands on a command bar.
+ButtonFace buttonFace(const QStyleOption& option, const QWidget* button);
+
+void paintButton(const QStyleOption& option, QPainter& painter, const ButtonFace& face, double zoom);
+
+/// The button stands out as the one to press, or does so no longer.
+void markAccent(QPushButton& button, bool accent);
+
+/// The widget is the ground of a command bar, in the theme's colours for it, whichever they become.
+void markBar(QWidget& bar);
+
+} // namespace phial::qt
