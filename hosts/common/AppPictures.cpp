@@ -4,9 +4,11 @@
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
 #include "app/cls_AppURL.h"
+#include "app/cls_AppUser.h"
 #include "app/cls_Language.h"
 #include "app/screen/frm_AppAbout.h"
 #include "app/sys_Global.h"
+#include "common/FrameDesign.h"
 #include "common/PicturedMaster.h"
 #include "common/frm_LearningApp.h"
 #include "common/frm_MasterChoice.h"
@@ -118,6 +120,7 @@ public:
 
     void showRound()
     {
+        makeRoomForMascot();
         take(u"start");
         press(u"but_Level", static_cast<std::int32_t>(window_.app().levels().size()) - 1);
         take(u"task");
@@ -146,6 +149,7 @@ public:
     /// The pages with most of the colours.
     void showColours()
     {
+        makeRoomForMascot();
         take(u"start");
         press(u"but_Level", 0);
         answer(Judgement::Wrong);
@@ -159,9 +163,10 @@ public:
     /// The insides of windows on the screens that schools have; the second one at 125 %.
     void showSizes()
     {
+        makeRoomForMascot();
         press(u"but_Level", 0);
-        window_.app().fill(Judgement::Wrong);
-        press(u"but_Check");
+        answer(Judgement::Wrong);
+        answer(Judgement::Wrong); // the mascot has something to say
         constexpr PictureSize Sizes[] = {{1024, 572, u"1024x600"},
                                          {1093, 580, u"1366x768"},
                                          {1920, 1050, u"1920x1080"},
@@ -189,6 +194,11 @@ public:
     }
 
 private:
+    void makeRoomForMascot()
+    {
+        window_.form().innerSize({frame_design::WideWidth, frame_design::Height});
+        window_.welcome();
+    }
     void press(StringView button, std::int32_t index = -1)
     {
         window_.form().control<phial::ctl_Button>(button, index)->click();
@@ -273,6 +283,7 @@ void showIn(phial::enm_LanguageC language, StringView name, const MakeApp& makeA
         usersAre({u"Dorothea Wilhelmina:eule"});
         Tour(makeApp(), take, name).take(u"long-name");
         usersAre({u"Maxi:fuchs"});
+        QVAPP()->USER()->SCREENNAME(u"Maxi");
         Tour(makeApp(), take, name).showRound();
         if (language == phial::ID_Language_German) {
             Tour(makeApp(), take, name).showSizes();

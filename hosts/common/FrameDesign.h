@@ -45,7 +45,12 @@ inline constexpr double LeastFooter = 36; // its buttons are no lower
 inline constexpr double LeastTarget = 36;
 /// How much smaller and larger the design is shown.
 inline constexpr double LeastZoom = 0.75;
+/// Of the window at first where the screen has room: with room for the mascot beside the page.
+inline constexpr double WideWidth = 1080;
 inline constexpr double MostZoom = 4;
+
+/// What the pages leave empty at the left and right.
+inline constexpr double PageMargin = 32;
 
 /// Between the buttons of the levels, of which the app tells how many there are.
 inline constexpr double LevelGap = 21;
@@ -253,15 +258,16 @@ inline constexpr ControlDesign Tail[] = {
         .set(u"Shape", phial::ShapeKind::Circle)
         .set(u"BorderWidth", 0)
         .set(u"FillStyle", phial::FillStyle::Solid),
-    design<ctl_Label>(u"lab_Classroom", {56, 0, 428, Footer})
+    design<ctl_Label>(u"lab_Classroom", {56, 0, 276, Footer})
         .inside(u"pan_Footer")
         .font(10)
         .ink(Palette::Muted)
         .align(MiddleLeft),
-    design<ctl_Button>(u"but_Classroom", {492, 2, 184, 36}, u"Klassenraum …|Classroom …")
+    design<ctl_Button>(u"but_Classroom", {340, 2, 184, 36}, u"Klassenraum …|Classroom …")
         .inside(u"pan_Footer")
         .font(10),
-    design<ctl_Button>(u"but_Sound", {688, 2, 180, 36}).inside(u"pan_Footer").font(10),
+    design<ctl_Button>(u"but_Mascot", {536, 2, 164, 36}).inside(u"pan_Footer").font(10),
+    design<ctl_Button>(u"but_Sound", {712, 2, 156, 36}).inside(u"pan_Footer").font(10),
 };
 
 } // namespace learning::frame_design

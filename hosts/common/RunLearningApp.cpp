@@ -46,6 +46,7 @@ int runLearningApp(int argc, char** argv, const AppIdentity& identity, const Mak
     }
     frm_LearningApp window(makeApp(), searchMasters);
     app->TOOLS()->RESOLUTION(window.form());
+    window.widen();
     window.Show();
     app->READY();
     window.welcome();

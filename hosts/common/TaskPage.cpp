@@ -132,6 +132,7 @@ void TaskPage::showTask()
     app_.show(round_->position());
     get<phial::ctl_Button>(u"but_Hint")->Enabled(true);
     showRoundTexts();
+    Shown.emit();
 }
 
 void TaskPage::sayTask()
@@ -313,6 +314,7 @@ void TaskPage::giveHint()
         app_.retry(); // the next try replaces the wrong one
     }
     say({get<phial::ctl_Label>(u"lab_Hint")->accessibleText()});
+    HintGiven.emit();
 }
 
 } // namespace learning

@@ -52,6 +52,10 @@ public:
 
     /// An answer has been judged, and the page shows it. One that was given before is not judged again.
     phial::Event<Verdict> Judged;
+    /// Another task is shown.
+    phial::Event<> Shown;
+    /// The hint has been taken.
+    phial::Event<> HintGiven;
     /// The last task is decided and the pupil wants the result.
     phial::Event<> Finished;
 

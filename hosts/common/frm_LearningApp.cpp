@@ -20,6 +20,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreTheme.h"
 #include "core/SessionState.h"
+#include "visual/VisualHost.h"
 
 #include <utility>
 
@@ -37,6 +38,7 @@ namespace
 constexpr auto FullScreenKey = // F11
     static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 10);
 constexpr auto ReferenceKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 1); // F2
+constexpr auto SayAgainKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 2);  // F3
 constexpr std::int32_t AskingInterval = 5'000; // milliseconds
 
 phial::FormDesign designOf(const AppTexts& texts)
@@ -87,6 +89,7 @@ frm_LearningApp::frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch 
     summary_.emplace(*form_, app_->texts());
     sounds_.emplace(*form_);
     colours_.emplace(*form_);
+    mascot_.emplace(form_);
     connect();
     connectClassroom();
     TRANSLATE();
@@ -98,6 +101,14 @@ void frm_LearningApp::Show()
     form_->Show();
 }
 
+void frm_LearningApp::widen()
+{
+    const bool fits = phial::visualHost().screen().first().width >= frame_design::WideWidth;
+    if (fits && form_->WindowState() == phial::WindowState::Normal) {
+        form_->innerSize({frame_design::WideWidth, frame_design::Height});
+    }
+}
+
 void frm_LearningApp::welcome()
 {
     if (page_ == Page::Missing) {
@@ -107,6 +118,7 @@ void frm_LearningApp::welcome()
     if (phial::recentNames().empty()) {
         askForUser();
     }
+    mascot_->greet(QVAPP()->USER()->SCREENNAME());
     enterClassroom();
 }
 
@@ -149,10 +161,15 @@ void frm_LearningApp::connect()
         toggleFullScreen();
         backToTask();
     });
-    form_.on(form_->Resize, [this] { layout_->follow(); });
+    form_.on(form_->Resize, [this] {
+        layout_->follow();
+        mascot_->follow();
+    });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->KeyDown, [this](phial::KeyEvent& event) { keyDown(event); });
-    form_.on(tasks_->Judged, [this](Verdict verdict) { sounds_->judged(verdict); });
+    form_.on(tasks_->Judged, [this](Verdict verdict) { judged(verdict); });
+    form_.on(tasks_->Shown, [this] { mascot_->taskShown(); });
+    form_.on(tasks_->HintGiven, [this] { mascot_->hintTaken(); });
     form_.on(form_->KeyUp, [this](phial::KeyEvent& event) {
         if (event.is(phial::Key::Return)) {
             isReturnHeld_ = false;
@@ -368,6 +385,7 @@ void frm_LearningApp::TRANSLATE()
         summary_->showAgain(tasks_->review());
     }
     sounds_->TRANSLATE();
+    mascot_->TRANSLATE();
     colours_->TRANSLATE();
     showClassroom();
 }
@@ -400,6 +418,9 @@ void frm_LearningApp::show(Page page)
     get<phial::ctl_Pannel>(u"pan_Missing")->Visible(page == Page::Missing);
     get<phial::ctl_Avatar>(u"ctl_User")->frame().Visible(page != Page::Missing);
     get<phial::ctl_Avatar>(u"ctl_User")->frame().Enabled(page != Page::Task); // a round has one pupil
+    if (page != Page::Task) {
+        mascot_->leaveTask();
+    }
     if (page != Page::Task && page != Page::Summary) {
         tasks_->end();
     }
@@ -438,6 +459,7 @@ void frm_LearningApp::startRound(std::size_t level)
     tasks_->begin(level);
     show(Page::Task);
     tasks_->sayTask();
+    mascot_->roundBegins(QVAPP()->USER()->SCREENNAME());
     classroom_.roundStarted(levelTitles_[level].german);
 }
 
@@ -448,6 +470,7 @@ void frm_LearningApp::startMissed()
     tasks_->beginMissed(level_);
     show(Page::Task);
     tasks_->sayTask();
+    mascot_->roundBegins(QVAPP()->USER()->SCREENNAME());
 }
 
 void frm_LearningApp::finishRound()
@@ -467,6 +490,7 @@ void frm_LearningApp::finishRound()
                    tasks_->review());
     show(Page::Summary);
     sounds_->roundFinished(result.points);
+    mascot_->roundFinished(round);
     if (!counts) {
         return;
     }
@@ -478,8 +502,20 @@ void frm_LearningApp::finishRound()
     tellAboutKeptLists();
 }
 
+void frm_LearningApp::judged(Verdict verdict)
+{
+    sounds_->judged(verdict);
+    mascot_->judged(verdict, *tasks_->round(), verdict == Verdict::Wrong ? app_->remark() : String());
+}
+
 void frm_LearningApp::keyDown(phial::KeyEvent& event)
 {
+    if (event.is(SayAgainKey)) {
+        event.KeyCode = 0;
+        mascot_->sayLastAgain();
+    } else if (page_ == Page::Task) {
+        mascot_->typed();
+    }
     if (event.is(phial::Key::F1)) {
         if (page_ == Page::Task) {
             tasks_->giveHint();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/AppColours.h"
+#include "common/AppMascot.h"
 #include "common/AppSounds.h"
 #include "common/ClassroomLink.h"
 #include "common/FrameLayout.h"
@@ -21,7 +22,8 @@ namespace learning
 /// The window of a learning app: choice of the level, the tasks of a round, the summary; or what is missing,
 /// or that the teacher has not opened the app yet. The header shows who works here, and changes it when it is
 /// pressed; the footer tells about the classroom. Return does what the coloured button says, F1 gives the
-/// hint, F2 the masses or whatever may be looked up, Escape ends; everything can be touched as well.
+/// hint, F2 the masses or whatever may be looked up, F3 what the mascot has said last, Escape ends;
+/// everything can be touched as well.
 class frm_LearningApp
 {
 public:
@@ -29,6 +31,8 @@ public:
     explicit frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch searchMasters = {});
     phial::Form& form() { return *form_; }
     void Show();
+    /// Before it is shown: makes room for the mascot where the screen has it.
+    void widen();
     /// For the moment in which the window stands: asks who works here when no name is known yet, and logs on
     /// to the classroom. Events run meanwhile.
     void welcome();
@@ -68,6 +72,7 @@ private:
     void startRound(std::size_t level);
     void startMissed();
     void finishRound();
+    void judged(Verdict verdict);
     void keyDown(phial::KeyEvent& event);
 
     phial::String classroomText() const;
@@ -89,6 +94,7 @@ private:
     std::optional<SummaryPage> summary_;
     std::optional<AppSounds> sounds_;
     std::optional<AppColours> colours_;
+    std::optional<AppMascot> mascot_;
     ClassroomLink classroom_;
     phial::Timer asking_;                        ///< asks the master again while the pupil waits
     std::optional<phial::WindowState> windowed_; ///< the state before the full screen; none without it

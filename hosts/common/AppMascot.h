@@ -1,0 +1,82 @@
+#pragma once
+
+#include "common/MascotTexts.h"
+#include "common/Round.h"
+#include "mascot/ctl_Bubble.h"
+#include "mascot/ctl_DrAtom.h"
+#include "visual/DesignedForm.h"
+#include "visual/Timer.h"
+#include "visual/ctl_Label.h"
+
+#include <memory>
+
+namespace learning
+{
+
+/// The mascot at the lower left of an app's window, beside its page, with its balloon above it: so neither
+/// ever covers anything of the page, and both are away where the window leaves too little room there. It is
+/// no stop of the Tab key.
+///
+/// It greets, reacts to answers by its mood, and has a word at a few moments; what matters stands on the page
+/// as well. Whoever types ends its text, and a click on it or F3 brings the last one back. The switch
+/// `but_Mascot` in the footer tells how much of it there is; the choice is the user's, for all apps.
+class AppMascot
+{
+public:
+    /// How much there is of it.
+    enum class Choice : std::uint8_t {
+        On,
+        LongReading, ///< its texts stay twice as long
+        Still,       ///< it does not move
+        Off,
+    };
+
+    /// Takes up the choice that was made last.
+    explicit AppMascot(phial::DesignedForm& form);
+
+    static Choice choice();
+
+    /// The window has another size.
+    void follow();
+    /// Says on the switch what is chosen, in the language in force.
+    void TRANSLATE();
+
+    /// The window stands, and someone of that name sits before it.
+    void greet(const phial::String& name);
+    void roundBegins(const phial::String& name);
+    /// Another task is shown.
+    void taskShown();
+    /// An answer has been judged; `remark` is what the page tells about it, empty for nothing.
+    void judged(Verdict verdict, const Round& round, const phial::String& remark);
+    void hintTaken();
+    void roundFinished(const Round& round);
+    /// No task is shown any more.
+    void leaveTask();
+    /// A key has gone down.
+    void typed();
+    void sayLastAgain();
+
+private:
+    /// Whether the page says the same, and so tells screen readers about it.
+    enum class Source { MascotAlone, PageToo };
+
+    void say(MascotMoment moment, const phial::Variant::Array& values = {});
+    void sayText(const phial::String& text, Source source);
+    void rightAnswer(const Round& round);
+    void fitBalloon(const phial::String& text);
+    void startThinking();
+    void chooseNext();
+    void applyChoice();
+
+    phial::DesignedForm& form_;
+    std::shared_ptr<phial::ctl_Bubble> balloon_;
+    std::shared_ptr<phial::ctl_DrAtom> atom_;
+    std::shared_ptr<phial::ctl_Label> measure_; ///< stands nowhere and tells how high a text is
+    MascotWords words_;
+    phial::Timer thinking_;
+    phial::PixelRectangle column_; ///< beside the page; empty without room
+    int streak_ = 0;
+    bool isAnswerAwaited_ = false;
+};
+
+} // namespace learning
