@@ -2,6 +2,7 @@
 // an open form of 200 controls, and the way of the user's dialog with 200 avatars to its first paint. The
 // windows are real ones, drawn into memory; each round ends when what has changed is painted.
 
+#include "PaintWatch.h"
 #include "app/Session.h"
 #include "app/cls_App.h"
 #include "app/cls_AppURL.h"
@@ -47,35 +48,6 @@ constexpr int Columns = 10;
 constexpr int CellWidth = 96;
 constexpr int CellHeight = 32;
 constexpr int Avatars = 200;
-
-/// Notes that something of a window has been painted.
-class PaintWatch final : public QObject
-{
-public:
-    PaintWatch() { qApp->installEventFilter(this); }
-
-    /// Runs events until the window's changes are on the screen in memory.
-    void finish()
-    {
-        painted_ = false;
-        for (int round = 0; round < 1000 && !painted_; ++round) {
-            QApplication::processEvents();
-        }
-        if (!painted_) {
-            throw std::runtime_error("nothing was painted");
-        }
-        QApplication::processEvents();
-    }
-
-private:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        painted_ = painted_ || event->type() == QEvent::Paint;
-        return QObject::eventFilter(watched, event);
-    }
-
-    bool painted_ = false;
-};
 
 String germanText(int number)
 {
