@@ -33,6 +33,7 @@ using EyeMove = enm_DrAtomEyeMove;
 
 constexpr double AtomEdge = 100;                   // pixels
 constexpr std::int32_t FrameTime = 50;             // milliseconds
+constexpr std::int32_t RestTime = 500;             // between looks whether there is something to do again
 constexpr double OrbitTurn = 6.28318;              // radians
 constexpr double PhaseStep = OrbitTurn / 100 / 10; // by the orbit's speed
 constexpr double OrbitRadius = 40;
@@ -261,6 +262,7 @@ void ctl_DrAtom::tick()
     }
     const bool wasResting = std::exchange(resting_, !mayMove());
     tickBubble();
+    animation_.Interval(resting_ && !BUSY() ? RestTime : FrameTime);
     if (resting_) {
         if (!wasResting) {
             rest();
@@ -273,6 +275,12 @@ void ctl_DrAtom::tick()
     if (!blinking_ && eyeSizeRemembered_ != 0) {
         eyeSize_ = eyeSizeRemembered_;
     }
+}
+
+void ctl_DrAtom::moves(bool value)
+{
+    moves_ = value;
+    animation_.Interval(FrameTime);
 }
 
 bool ctl_DrAtom::mayMove() const
@@ -371,6 +379,7 @@ void ctl_DrAtom::BUBBLESAYSPEED(cls_App* /*pGame*/, StringView pText, bool pErro
     BUBBLETEXTLAST = BUBBLETEXT = pText;
     BUBBLEMODE = BUBBLEMODELAST;
     BUBBLETIME = readingTime(pText.size(), pSpeedFactor);
+    animation_.Interval(FrameTime);
     showBalloon(pError);
 }
 

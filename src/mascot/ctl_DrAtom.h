@@ -33,8 +33,8 @@ enum class enm_DrAtomBubbleMode : std::int32_t {
 
 /// The mascot: a small atom with a face, 100 by 100 pixels whatever size it is given. Electrons circle it,
 /// its eyes blink and look about, and it says things by a ctl_Bubble on the same form. One timer of 50
-/// milliseconds drives it while it is seen and not DEAD; while another window than its own is active it
-/// pauses, its text too.
+/// milliseconds drives it while it is seen and not DEAD, a slow one while it rests in silence; while another
+/// window than its own is active it pauses, its text too.
 ///
 /// A mood sets a whole look. A talk brings the happy or the angry one, and at its end the look from before
 /// comes back, down to MOOD; what was set meanwhile of DEAD, BUBBLE and BUBBLEKEEP stays.
@@ -115,7 +115,7 @@ public:
     /// Whether it may move; true at first. Where it may not, or CONFIG.EFFECTS or the desktop are against
     /// motion, electrons, eyes and mouth rest and only texts and moods change what is seen.
     bool moves() const { return moves_; }
-    void moves(bool value) { moves_ = value; }
+    void moves(bool value);
     /// Whether screen readers are told what it says; true at first. For a program that tells them itself.
     bool announces() const { return announces_; }
     void announces(bool value) { announces_ = value; }

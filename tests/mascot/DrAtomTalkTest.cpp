@@ -300,6 +300,14 @@ TEST_F(DrAtomTalk, AtRestItTalksWithAStillMouth)
     EXPECT_EQ(atom->MOOD(), Mood::ID_DrAtomMood_Custom);
 }
 
+TEST_F(DrAtomTalk, ATextOutOfRestTakesNoLongerThanAnyOther)
+{
+    atom->moves(false);
+    outside.advance(5);
+    atom->BUBBLESAY(nullptr, u"Ja");
+    EXPECT_NEAR(ticksOfTalk(), 41, 1);
+}
+
 TEST_F(DrAtomTalk, BehindAnotherWindowItsTextWaits)
 {
     atom->BUBBLESAY(nullptr, u"Ja");

@@ -421,7 +421,7 @@ TEST_F(DrAtomTest, RestsWhereMotionIsNotWanted)
     outside.random().numbers({0.01});
     atom->EYEMOVE(Move::ID_DrAtomEyeMove_RollingRight);
     const auto rests = [this] {
-        ticks(3); // the first one comes to rest
+        outside.advance(0.6); // one at rest looks twice a second whether it may move again
         const std::string before = drawn();
         ticks(5);
         return drawn() == before && atom->EYESIZE() == 4;
