@@ -132,7 +132,9 @@ void ctl_Avatar::keyDown(KeyEvent& event)
 {
     if (event.is(Key::Space) || event.is(Key::Return)) {
         event.KeyCode = 0;
-        click();
+        if (!event.isRepeat) {
+            click();
+        }
     }
 }
 

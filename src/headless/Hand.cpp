@@ -33,6 +33,11 @@ ControlPtr controlAt(const Container& container, PixelPoint place)
     return nullptr;
 }
 
+std::int32_t codeOf(const KeyStroke& stroke)
+{
+    return stroke.character != 0 ? upperCase(stroke.character) : static_cast<std::int32_t>(stroke.key);
+}
+
 void press(Control& control, double x, double y)
 {
     const auto self = control.shared_from_this();
@@ -157,28 +162,58 @@ void clickButton(Control& bar, StringView key)
     throw RuntimeError(ErrorNumber::NoSuchMember);
 }
 
-void strike(Form& form, const KeyStroke& stroke)
+void press(Form& form, const KeyStroke& stroke, KeyDown down)
 {
     const auto self = form.shared_from_this();
     const bool wasShown = form.Visible();
     const auto hasClosed = [&] { return wasShown && !form.Visible(); };
-    const std::int32_t code =
-        stroke.character != 0 ? upperCase(stroke.character) : static_cast<std::int32_t>(stroke.key);
-    KeyEvent down{code, stroke.Shift};
+    KeyEvent key{codeOf(stroke), stroke.Shift, down == KeyDown::Repeat};
     const ControlPtr active = form.keyboardFocus()->field();
-    if (form.inputKeyDown(down) && !hasClosed()) {
-        KeyPressEvent typed{typedCharacter({sentCharacter(stroke), stroke.key, stroke.Shift})};
-        const bool goesOn = typed.KeyAscii == 0 || form.inputKeyPress(typed);
-        if (goesOn && !hasClosed() && stroke.key == Key::Tab) {
-            moveFocus(form, (stroke.Shift & ShiftMask::Shift) != 0);
-        } else if (goesOn && !hasClosed() && active) {
-            typeInto(*active, stroke, typed.KeyAscii);
-        }
+    if (!form.inputKeyDown(key) || hasClosed()) {
+        return;
+    }
+    KeyPressEvent typed{typedCharacter({sentCharacter(stroke), stroke.key, stroke.Shift})};
+    const bool goesOn = typed.KeyAscii == 0 || form.inputKeyPress(typed);
+    if (goesOn && !hasClosed() && stroke.key == Key::Tab) {
+        moveFocus(form, (stroke.Shift & ShiftMask::Shift) != 0);
+    } else if (goesOn && !hasClosed() && active) {
+        typeInto(*active, stroke, typed.KeyAscii);
+    }
+}
+
+void letGo(Form& form, const KeyStroke& stroke)
+{
+    KeyEvent up{codeOf(stroke), stroke.Shift};
+    form.inputKeyUp(up);
+}
+
+namespace
+{
+
+void strikeTimes(Form& form, const KeyStroke& stroke, int times)
+{
+    const auto self = form.shared_from_this();
+    const bool wasShown = form.Visible();
+    const auto hasClosed = [&] { return wasShown && !form.Visible(); };
+    for (int time = 0; time < times && !hasClosed(); ++time) {
+        press(form, stroke, time == 0 ? KeyDown::First : KeyDown::Repeat);
     }
     if (!hasClosed()) {
-        KeyEvent up{code, stroke.Shift};
-        form.inputKeyUp(up);
+        letGo(form, stroke);
     }
+}
+
+} // namespace
+
+void hold(Form& form, const KeyStroke& stroke)
+{
+    constexpr int Downs = 5;
+    strikeTimes(form, stroke, Downs);
+}
+
+void strike(Form& form, const KeyStroke& stroke)
+{
+    strikeTimes(form, stroke, 1);
 }
 
 void type(Form& form, StringView notation)

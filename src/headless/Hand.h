@@ -38,7 +38,14 @@ std::shared_ptr<Control> controlHit(Control& control, PixelPoint& rAt);
 /// Gives the focus to a control that is pressed, where it can have it.
 void focusByPress(Control& control);
 
-/// One key for the form's control that has the focus.
+/// A key that goes down for the form's control that has the focus, for the first time or since it is held.
+enum class KeyDown : bool { First, Repeat };
+void press(Form& form, const KeyStroke& stroke, KeyDown down = KeyDown::First);
+/// The key goes up.
+void letGo(Form& form, const KeyStroke& stroke);
+/// The key goes down, is held for some repeats and let go, unless the form closes meanwhile.
+void hold(Form& form, const KeyStroke& stroke);
+/// The key goes down and up.
 void strike(Form& form, const KeyStroke& stroke);
 /// Keys in the notation of keyboard emulation, at once.
 void type(Form& form, StringView notation);

@@ -263,6 +263,7 @@ private:
     /// Drops the window and all that ties the form to the host, without any event.
     void hostEnds();
     void focusFirst();
+    bool isWanted(const KeyEvent& event) const;
     bool pressDefault(const KeyEvent& event);
 
     String name_;

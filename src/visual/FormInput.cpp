@@ -9,6 +9,17 @@
 namespace phial
 {
 
+namespace
+{
+
+/// Whether the key presses the default or the cancel control.
+bool isPressKey(const KeyEvent& event)
+{
+    return event.Shift == 0 && (event.is(Key::Return) || event.is(Key::Escape));
+}
+
+} // namespace
+
 void Form::inputActivate()
 {
     if (isActive_ || !Visible()) {
@@ -88,6 +99,10 @@ void Form::inputFocus(const ControlPtr& control)
 
 bool Form::inputKeyDown(KeyEvent& event)
 {
+    if (event.isRepeat && isPressKey(event) && !isWanted(event)) {
+        event.KeyCode = 0;
+        return false;
+    }
     const auto self = shared_from_this();
     if (keyPreview_) {
         KeyDown.emit(event);
@@ -99,18 +114,24 @@ bool Form::inputKeyDown(KeyEvent& event)
     return event.KeyCode != 0 && !pressDefault(event);
 }
 
-bool Form::pressDefault(const KeyEvent& event)
+/// Whether the control that has the focus, or one that holds it privately, has a use for the key.
+bool Form::isWanted(const KeyEvent& event) const
 {
-    const bool isReturn = event.is(Key::Return);
-    if (event.Shift != 0 || (!isReturn && !event.is(Key::Escape))) {
-        return false;
-    }
-    const ControlPtr active = focus_.field();
-    for (const Control* asked = active.get(); asked; asked = asked->frame().privateHolder()) {
-        if (asked->wantsKey(isReturn ? Key::Return : Key::Escape)) {
-            return false;
+    for (const Control* asked = focus_.field().get(); asked; asked = asked->frame().privateHolder()) {
+        if (asked->wantsKey(static_cast<Key>(event.KeyCode))) {
+            return true;
         }
     }
+    return false;
+}
+
+bool Form::pressDefault(const KeyEvent& event)
+{
+    if (!isPressKey(event) || isWanted(event)) {
+        return false;
+    }
+    const bool isReturn = event.is(Key::Return);
+    const ControlPtr active = focus_.field();
     ControlPtr pressed = isReturn ? default_.lock() : cancel_.lock();
     if (isReturn && std::dynamic_pointer_cast<ctl_Button>(active)) {
         pressed = active; // a button that has the focus takes Return itself

@@ -61,10 +61,13 @@ enum class Key : std::int32_t {
     F12 = 123,
 };
 
-/// A key going down or up. A handler that sets KeyCode to 0 keeps the key from going further.
+/// A key going down or up. A handler that sets KeyCode to 0 keeps the key from going further. While a key is
+/// held it goes down again and again; a form hears the repeats of Return and Escape only where the control
+/// that has the focus wants these keys, as they press what one press was meant for.
 struct KeyEvent {
     std::int32_t KeyCode = 0;
     std::int32_t Shift = 0;
+    bool isRepeat = false; ///< the key has gone down before, perhaps in another window, and is held
 
     bool is(Key key) const { return KeyCode == static_cast<std::int32_t>(key); }
 };

@@ -104,7 +104,9 @@ void Label::keyDown(KeyEvent& event)
 {
     if (event.is(Key::Return) || event.is(Key::Space)) {
         event.KeyCode = 0;
-        click();
+        if (!event.isRepeat) {
+            click();
+        }
     }
 }
 

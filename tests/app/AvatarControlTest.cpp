@@ -87,6 +87,8 @@ TEST_F(AvatarControl, IsClickedByTheSpaceBarAndReturnToo)
     control->SetFocus();
     headless::type(*form, u" {ENTER}");
     EXPECT_EQ(clicks, 2);
+    headless::hold(*form, {0, Key::Return, 0});
+    EXPECT_EQ(clicks, 3);
 }
 
 TEST_F(AvatarControl, SurvivesAHandlerThatTakesItAway)

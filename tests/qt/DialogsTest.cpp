@@ -120,6 +120,19 @@ TEST_F(DialogsTest, ReturnAnswersAQuestionWithNo)
     EXPECT_EQ(dialogs_.YesNo(u"Löschen?", {}), DialogAnswer::No);
 }
 
+TEST_F(DialogsTest, ABoxIsNotAnsweredByTheRepeatsOfAHeldKey)
+{
+    whenShown([](QDialog& box) {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+            QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+            QApplication::sendEvent(&button(box, QStringLiteral("Nein")), &repeat);
+            EXPECT_TRUE(box.isVisible());
+        }
+        button(box, QStringLiteral("Ja")).click();
+    });
+    EXPECT_EQ(dialogs_.YesNo(u"Weiter?", {}), DialogAnswer::Yes);
+}
+
 TEST_F(DialogsTest, ClosingAQuestionAnswersNo)
 {
     whenShown([](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });

@@ -152,6 +152,29 @@ TEST_F(FormWindowTest, ReturnPressesTheDefaultAndEscapeTheCancelButton)
     EXPECT_EQ(pressed, (std::vector<String>{u"ok", u"cancel"}));
 }
 
+TEST_F(FormWindowTest, TheToolkitTellsRepeatsOfAHeldKey)
+{
+    const auto form = makeForm();
+    const auto button = place<ctl_Button>(*form, u"but_Ok", 10, 10);
+    form->KeyPreview(true);
+    std::vector<bool> repeats;
+    int presses = 0;
+    Connections connections;
+    connections += form->KeyDown.connect([&](KeyEvent& event) { repeats.push_back(event.isRepeat); });
+    connections += button->CLICK.connect([&] { ++presses; });
+    form->Show();
+    button->SetFocus();
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Return}) {
+        for (const bool isRepeat : {false, true, true}) {
+            QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, {}, isRepeat);
+            QApplication::sendEvent(
+                widgetOf(*button).focusProxy() ? widgetOf(*button).focusProxy() : &widgetOf(*button), &down);
+        }
+    }
+    EXPECT_EQ(repeats, (std::vector<bool>{false, true, true, false}));
+    EXPECT_EQ(presses, 1);
+}
+
 TEST_F(FormWindowTest, ThePreviewCanKeepAndChangeKeys)
 {
     const auto form = makeForm();

@@ -258,6 +258,35 @@ TEST_F(FormKeys, ReturnAndEscapePressTheDefaultAndTheCancelControl)
     EXPECT_THAT(log, ElementsAre("enter", "quit", "quit")) << "a button with the focus takes Return itself";
 }
 
+TEST_F(FormKeys, HeldReturnAndEscapePressOnceAndTheirRepeatsAreNotHeard)
+{
+    form->add<TextBox>(u"txt_Input");
+    const auto enter = form->add<ctl_Button>(u"but_Enter");
+    form->DefaultControl(enter);
+    logs(enter->CLICK, "enter");
+    form->KeyPreview(true);
+    connections += form->KeyDown.connect([this](KeyEvent& key) {
+        log.push_back(std::string(key.isRepeat ? "again " : "") + std::to_string(key.KeyCode));
+    });
+    form->Show();
+    headless::hold(*form, {0, Key::Return, 0});
+    EXPECT_THAT(log, ElementsAre("13", "enter"));
+    log.clear();
+    headless::press(*form, {0, Key::Escape, 0}, headless::KeyDown::Repeat); // went down in another window
+    EXPECT_THAT(log, IsEmpty());
+    headless::hold(*form, {0, Key::Left, 0});
+    EXPECT_THAT(log, ElementsAre("37", "again 37", "again 37", "again 37", "again 37"));
+}
+
+TEST_F(FormKeys, AFieldOfSeveralLinesHearsTheRepeatsOfReturn)
+{
+    const auto box = form->add<TextBox>(u"txt_Input");
+    box->MultiLine(true);
+    form->Show();
+    headless::hold(*form, {0, Key::Return, 0});
+    EXPECT_EQ(box->Text(), u"\r\n\r\n\r\n\r\n\r\n");
+}
+
 TEST_F(FormKeys, AFieldOfSeveralLinesKeepsReturn)
 {
     const auto box = form->add<TextBox>(u"txt_Input");

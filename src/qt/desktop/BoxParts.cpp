@@ -5,7 +5,9 @@
 #include "qt/desktop/SystemBox.h"
 #include "qt/desktop/ToolkitLanguage.h"
 
+#include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QPushButton>
 
 namespace phial::qt
@@ -16,6 +18,31 @@ namespace
 
 constexpr double TextSize = 10; // points: larger than in forms, since a box stands alone
 constexpr int HeightForFingers = 8;
+
+/// Keeps the repeats of a held Return or Escape from the box: they belong to the press that has opened it, or
+/// to one that was for a box before.
+class HeldKeys final : public QObject
+{
+public:
+    explicit HeldKeys(const QDialog& box) : box_(box) { qApp->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* part =
+            event->type() == QEvent::KeyPress ? qobject_cast<const QWidget*>(watched) : nullptr;
+        if (!part || part->window() != &box_) {
+            return false;
+        }
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        const bool ends =
+            key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Escape;
+        return ends && key.isAutoRepeat();
+    }
+
+private:
+    const QDialog& box_;
+};
 
 } // namespace
 
@@ -50,6 +77,7 @@ int runBox(QDialog& box)
         part->setFont(font);
     }
     const SystemBox running;
+    const HeldKeys held(box);
     return box.exec();
 }
 

@@ -130,6 +130,7 @@ KeyEvent keyEvent(const QKeyEvent& event)
     KeyEvent key;
     key.KeyCode = codeOf(event.key());
     key.Shift = shiftBits(event.modifiers());
+    key.isRepeat = event.isAutoRepeat();
     return key;
 }
 

@@ -183,7 +183,7 @@ bool NativePeer::filterKey(QWidget& widget, QKeyEvent& event)
     const int key = character == 0 ? event.key() : QChar(character).toUpper().unicode();
     const QString text =
         character == 0 ? QString() : QString(QChar(character)); // a command's sign is not typed
-    QKeyEvent changed(event.type(), key, event.modifiers(), text);
+    QKeyEvent changed(event.type(), key, event.modifiers(), text, event.isAutoRepeat());
     const QScopedValueRollback<bool> resending(resending_, true);
     QApplication::sendEvent(&widget, &changed);
     return true;
