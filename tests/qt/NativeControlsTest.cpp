@@ -300,6 +300,16 @@ TEST_F(NativeControlsTest, ACommandBarReportsTheKeyOfItsButton)
     EXPECT_EQ(keys, (std::vector<String>{u"DIALOG.CANCEL();", u"DIALOG.OK();"}));
 }
 
+TEST_F(NativeControlsTest, AnAmpersandInATextIsShownAsItStands)
+{
+    const auto button = shown<ctl_Button>(u"but_Level");
+    button->Caption(u"Säuren & Basen");
+    auto* widget = qobject_cast<QPushButton*>(&widgetOf(*button));
+    ASSERT_TRUE(widget);
+    EXPECT_EQ(widget->text(), QStringLiteral("Säuren && Basen")); // two of them are one that is shown
+    EXPECT_TRUE(widget->shortcut().isEmpty());
+}
+
 TEST_F(NativeControlsTest, TheFocusOfACommandBarBeginsWithTheDefaultButton)
 {
     const auto bar = shown<ctl_CmdBar>(u"bar_Commands");

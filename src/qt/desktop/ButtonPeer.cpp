@@ -28,7 +28,7 @@ ButtonPeer::ButtonPeer(std::shared_ptr<ctl_Button> model, QPushButton& button)
 
 void ButtonPeer::showText()
 {
-    button_.setText(toQt(model_->Caption()));
+    button_.setText(buttonText(model_->Caption()));
 }
 
 void ButtonPeer::showPicture()

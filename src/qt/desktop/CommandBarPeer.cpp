@@ -36,7 +36,7 @@ void showPart(QWidget& widget, const CommandBarButton& part)
 
 void showButton(QPushButton& widget, const CommandBarButton& button)
 {
-    widget.setText(toQt(button.face()));
+    widget.setText(buttonText(button.face()));
     widget.setIcon(iconOf(button.Picture()));
     showPart(widget, button);
 }

@@ -140,6 +140,11 @@ void applyFrame(QWidget& widget, Control& control)
     }
 }
 
+QString buttonText(StringView text)
+{
+    return toQt(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 void passNames(const QWidget& holder, QWidget& field)
 {
     field.setAccessibleName(holder.accessibleName());

@@ -5,6 +5,7 @@
 #include "visual/FontSpec.h"
 
 #include <QRectF>
+#include <QString>
 #include <Qt>
 
 class QColor;
@@ -41,6 +42,9 @@ void showColours(QWidget& widget, const QColor& text, const QColor& ground);
 
 /// Where a text of one line stands: at its side, and in the middle of the height.
 Qt::Alignment lineAlignment(Alignment alignment);
+
+/// The text as a push button of the toolkit takes it: no sign in it stands for a key.
+QString buttonText(StringView text);
 
 /// Gives the field in a holder the names of the holder, since that is what screen readers come to.
 void passNames(const QWidget& holder, QWidget& field);
