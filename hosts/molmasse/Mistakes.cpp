@@ -76,9 +76,11 @@ private:
             best_ = std::move(diagnosis);
         }
     }
-    void considerFormula(const String& misread, Diagnosis diagnosis)
+    /// So many times a formula, or the mass of one that was misread.
+    void considerFormula(const String& misread, const Diagnosis& diagnosis, double times = 1)
     {
-        consider(source_.molarMass(misread), std::move(diagnosis));
+        consider(times * source_.molarMass(misread), diagnosis);
+        consider(times * source_.exactMass(misread), diagnosis);
     }
 
     /// Each index left out by itself, then all of them. The numbers behind brackets stay.
@@ -140,9 +142,8 @@ private:
         }
         for (const phial::AtomCount& atom : atoms_) {
             const String symbol(atom.symbol);
-            const double mass = source_.molarMass(symbol);
-            consider(mass * atom.count, {Mistake::OneElementOnly, symbol, {}});
-            consider(mass, {Mistake::OneElementOnly, symbol, {}});
+            considerFormula(symbol, {Mistake::OneElementOnly, symbol, {}}, atom.count);
+            considerFormula(symbol, {Mistake::OneElementOnly, symbol, {}});
         }
     }
 
@@ -158,7 +159,13 @@ private:
 
     void shiftComma()
     {
-        const double mass = source_.molarMass(String(formula_));
+        const String formula(formula_);
+        for (const double mass : {source_.molarMass(formula), source_.exactMass(formula)}) {
+            shiftComma(mass);
+        }
+    }
+    void shiftComma(double mass)
+    {
         for (const double factor : {10.0, 100.0, 1000.0, 10000.0}) {
             for (const double moved : {answer_ / factor, answer_ * factor}) {
                 if (isRight(moved, mass)) {

@@ -33,12 +33,13 @@ struct Diagnosis {
 /// What a diagnosis needs to know about formulas in plain notation and about elements.
 struct MassSource {
     std::function<double(const phial::String& formula)> molarMass; ///< in g/mol, as it is taught
+    std::function<double(const phial::String& formula)> exactMass; ///< in g/mol, with all digits
     std::function<int(const phial::String& symbol)> atomicNumber;  ///< 0 for an unknown element
 };
 
 /// The mistake that explains a wrong answer, in g/mol: the formula is worked out again with each usual
-/// mistake, and the one whose result lies nearest counts, if the answer would be right for it. Empty where
-/// none does. The answer must not be right.
+/// mistake, with the masses as they are taught and with the exact ones; the one whose result lies nearest
+/// counts, if the answer would be right for it. Empty where none does. The answer must not be right.
 ///
 /// Where two mistakes come to the same number, the one that stands first in `Mistake` is told.
 std::optional<Diagnosis> mistakeOf(phial::StringView formula, double answer, const MassSource& source);

@@ -3,9 +3,12 @@
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "chem/cls_DataElements.h"
+#include "core/CoreFiles.h"
 #include "core/CoreNumbers.h"
+#include "core/CoreRoot.h"
 #include "core/NativePath.h"
 #include "molmasse/MassJudge.h"
+#include "molmasse/TrainerData.h"
 #include "support/AppSession.h"
 #include "support/CaseTable.h"
 #include "support/Places.h"
@@ -58,11 +61,16 @@ class Mistakes : public phial::test::AppSession
 protected:
     Mistakes()
     {
-        table.IMPORT2(phial::systemPath(phial::test::treeFolder()) + u"\\Resources\\data\\elements2.dat");
+        const String file =
+            phial::systemPath(phial::test::treeFolder()) + u"\\Resources\\data\\elements2.dat";
+        table.IMPORT2(file);
+        exactMasses = readExactMasses(phial::coreRoot().CoreFiles().ReadText(file));
     }
 
     phial::cls_DataElements table;
+    std::map<String, double> exactMasses;
     MassSource source{[this](const String& formula) { return table.MOL(formula); },
+                      [this](const String& formula) { return exactMass(exactMasses, formula).value_or(0); },
                       [this](const String& symbol) { return table.ITEM(symbol, false)->PROTONS(); }};
 };
 
