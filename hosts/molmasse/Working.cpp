@@ -17,7 +17,8 @@ using phial::String;
 namespace
 {
 
-constexpr phial::StringView Times = u" \u00D7 ";
+constexpr phial::StringView Times = u" \u00D7 "; // so often that atom
+constexpr phial::StringView Dot = u" \u00B7 ";   // so often that mass
 
 String countText(const phial::AtomCount& atoms)
 {
@@ -27,6 +28,15 @@ String countText(const phial::AtomCount& atoms)
 String massOf(const phial::cls_DataElements& elements, phial::StringView symbol)
 {
     return massText(elements.MOL(symbol));
+}
+
+String sum(const std::vector<String>& terms)
+{
+    String text;
+    for (const String& term : terms) {
+        text.append(text.empty() ? u"" : u" + ").append(term);
+    }
+    return text;
 }
 
 } // namespace
@@ -55,17 +65,21 @@ String atomsCounted(const phial::cls_DataElements& elements, const String& formu
 
 String workedLine(const phial::cls_DataElements& elements, const String& formula)
 {
-    String text;
-    for (const phial::AtomCount& atoms : phial::AtomCounts(formula)) {
-        if (!text.empty()) {
-            text += u" + ";
-        }
-        if (atoms.count != 1) {
-            text.append(countText(atoms)).append(Times);
-        }
-        text += massOf(elements, atoms.symbol);
+    const phial::AtomCounts atoms(formula);
+    std::vector<String> factors;
+    std::vector<String> products;
+    bool isMultiplied = false;
+    for (const phial::AtomCount& atom : atoms) {
+        const String mass = massOf(elements, atom.symbol);
+        isMultiplied = isMultiplied || atom.count != 1;
+        factors.push_back(atom.count == 1 ? mass : countText(atom).append(Dot).append(mass));
+        products.push_back(massText(atom.count * elements.MOL(atom.symbol)));
     }
-    return text.append(u" = ").append(massText(elements.MOL(formula))).append(u"\u00A0g/mol");
+    String line = sum(factors);
+    if (isMultiplied && products.size() > 1) {
+        line.append(u" = ").append(sum(products));
+    }
+    return line.append(u" = ").append(massText(elements.MOL(formula))).append(u"\u00A0g/mol");
 }
 
 std::vector<learning::ReferenceEntry> massesOfElements(phial::cls_DataElements& elements,

@@ -17,7 +17,8 @@ enum class AtomMasses : bool { Hidden, Shown };
 phial::String atomsCounted(const phial::cls_DataElements& elements, const phial::String& formula,
                            AtomMasses masses);
 
-/// The molar mass worked out in one line: "2 × 1,0 + 16,0 = 18,0 g/mol".
+/// The molar mass worked out in one line: "2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0 g/mol". The products stand in
+/// it where there are some to add.
 phial::String workedLine(const phial::cls_DataElements& elements, const phial::String& formula);
 
 /// The table's molar masses of the elements in these tasks, in the order of the atomic numbers.

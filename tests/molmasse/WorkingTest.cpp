@@ -26,9 +26,25 @@ protected:
 
 TEST_F(Working, AddsUpTheElementsInTheOrderOfTheFormula)
 {
-    EXPECT_EQ(workedLine(table, u"H2O"), u"2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
-    EXPECT_EQ(workedLine(table, u"Ca(OH)2"), u"40,1 + 2 \u00D7 16,0 + 2 \u00D7 1,0 = 74,1\u00A0g/mol");
-    EXPECT_EQ(workedLine(table, u"O2"), u"2 \u00D7 16,0 = 32,0\u00A0g/mol");
+    EXPECT_EQ(workedLine(table, u"H2O"), u"2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
+    EXPECT_EQ(workedLine(table, u"Ca(OH)2"),
+              u"40,1 + 2 · 16,0 + 2 · 1,0 = 40,1 + 32,0 + 2,0 = 74,1\u00A0g/mol");
+    EXPECT_EQ(workedLine(table, u"C8H18"), u"8 · 12,0 + 18 · 1,0 = 96,0 + 18,0 = 114,0\u00A0g/mol");
+}
+
+TEST_F(Working, HasNoStepThatTellsNothing)
+{
+    EXPECT_EQ(workedLine(table, u"O2"), u"2 · 16,0 = 32,0\u00A0g/mol");
+    EXPECT_EQ(workedLine(table, u"NaCl"), u"23,0 + 35,5 = 58,5\u00A0g/mol");
+}
+
+TEST(FormulaLine, LowersIndicesAlone)
+{
+    EXPECT_EQ(formulaLine(u"H2O"), u"H\u2082O");
+    EXPECT_EQ(formulaLine(u"Ca3(PO4)2"), u"Ca\u2083(PO\u2084)\u2082");
+    EXPECT_EQ(formulaLine(u"C12H22O11"), u"C\u2081\u2082H\u2082\u2082O\u2081\u2081");
+    EXPECT_EQ(formulaLine(u"2H2O"), u"2H\u2082O");
+    EXPECT_EQ(formulaLine(u""), u"");
 }
 
 TEST_F(Working, CountsAtomsWithTheirMassesOrWithout)
