@@ -65,7 +65,7 @@ public:
 
     TaskFile finished()
     {
-        dropEmptyLevels();
+        dropLevels();
         std::ranges::stable_sort(file_.complaints, {}, &TaskComplaint::line);
         return std::move(file_);
     }
@@ -124,16 +124,21 @@ private:
         file_.levels.back().tasks.push_back({std::move(text), std::move(german), std::move(english)});
     }
 
-    void dropEmptyLevels()
+    void dropLevels()
     {
+        std::vector<TaskLevel> kept;
         for (std::size_t at = 0; at < file_.levels.size(); ++at) {
-            if (file_.levels[at].tasks.empty()) {
-                const TaskLevel& level = file_.levels[at];
-                complain(TaskFault::NoTasks, headings_[at],
-                         level.key.empty() ? level.title.german : level.key);
+            TaskLevel& level = file_.levels[at];
+            const String& name = level.key.empty() ? level.title.german : level.key;
+            if (level.tasks.empty()) {
+                complain(TaskFault::NoTasks, headings_[at], name);
+            } else if (kept.size() == MostLevelsShown) {
+                complain(TaskFault::TooManyLevels, headings_[at], name);
+            } else {
+                kept.push_back(std::move(level));
             }
         }
-        std::erase_if(file_.levels, [](const TaskLevel& level) { return level.tasks.empty(); });
+        file_.levels = std::move(kept);
     }
 
     void complain(TaskFault fault, int line, const String& text)
@@ -156,11 +161,17 @@ StringView reasonOf(TaskFault fault)
     case TaskFault::UnknownElement:
         return u"enthält ein unbekanntes Element und wurde ausgelassen.|"
                u"names an unknown element and was left out.";
+    case TaskFault::Ambiguous:
+        return u"lässt ein vergessenes H-Atom nicht erkennen und wurde ausgelassen.|"
+               u"hides a forgotten H atom and was left out.";
     case TaskFault::TooLong:
         return u"ist zu lang für die Seite und wurde ausgelassen.|"
                u"is too long for the page and was left out.";
     case TaskFault::NoTasks:
         return u"hat keine Aufgabe und wurde ausgelassen.|has no task and was left out.";
+    case TaskFault::TooManyLevels:
+        return u"hat auf der Startseite keinen Platz mehr und wurde ausgelassen.|"
+               u"has no room left on the start page and was left out.";
     case TaskFault::NoCount:
         return u"ist keine Zahl von Aufgaben; es bleibt bei zehn.|is no number of tasks; it stays at ten.";
     }
@@ -210,6 +221,13 @@ std::vector<LevelTitle> titlesOf(const TaskFile& file)
         titles.push_back(level.title);
     }
     return titles;
+}
+
+bool holds(const TaskFile& file, StringView text)
+{
+    return std::ranges::any_of(file.levels, [&](const TaskLevel& level) {
+        return std::ranges::find(level.tasks, text, &ListedTask::text) != level.tasks.end();
+    });
 }
 
 std::vector<ListedTask> drawRound(const TaskLevel& level, const TaskChoice& choice)

@@ -33,8 +33,10 @@ struct TaskLevel {
 enum class TaskFault : std::uint8_t {
     NoTask,         ///< nothing that the app can ask
     UnknownElement, ///< it names an element that there is not
+    Ambiguous,      ///< a forgotten hydrogen atom could not be told from a right answer
     TooLong,        ///< there is no room for it on the page
     NoTasks,        ///< a heading with no task below it
+    TooManyLevels,  ///< a heading behind the last one that has room on the start page
     NoCount         ///< what should tell how many tasks a round has; the level counts all the same
 };
 
@@ -65,7 +67,8 @@ using TaskCheck = std::function<std::optional<TaskFault>(const phial::String& te
 /// A heading opens a level: German and English title, and how many tasks a round has at most, 10 where it
 /// does not tell. One without any name is called by its place, "Stufe 2". Every other line is a task with its
 /// German and English name, which may be left out. A task before the first heading, one that does not pass
-/// the check and a level without tasks are left out with a complaint; the rest of the file counts.
+/// the check, a level without tasks and one behind MostLevelsShown others are left out with a complaint; the
+/// rest of the file counts.
 TaskFile readTaskFile(phial::StringView text, const TaskCheck& check);
 
 /// The complaints for the teacher, in the language in force: the first one in full, and how many more there
@@ -73,6 +76,9 @@ TaskFile readTaskFile(phial::StringView text, const TaskCheck& check);
 phial::String complaintText(const TaskFile& file, phial::StringView name);
 
 std::vector<LevelTitle> titlesOf(const TaskFile& file);
+
+/// Whether a task of that text stands in one of the levels.
+bool holds(const TaskFile& file, phial::StringView text);
 
 /// Draws the tasks of a round.
 std::vector<ListedTask> drawRound(const TaskLevel& level, const TaskChoice& choice);

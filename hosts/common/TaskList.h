@@ -24,6 +24,8 @@ public:
 
     /// Draws the tasks of a round of that level and gives how many there are.
     int begin(std::size_t level, const TaskChoice& choice);
+    /// Whether a task of that text stands in one of the levels.
+    bool holds(phial::StringView text) const { return learning::holds(file_, text); }
     /// All tasks of the level that has begun.
     const std::vector<ListedTask>& tasks() const { return file_.levels.at(level_).tasks; }
     /// The task of the round at that position, counted from 1.

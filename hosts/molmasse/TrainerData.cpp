@@ -8,6 +8,7 @@
 #include "common/FormulaCard.h"
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
+#include "molmasse/MassJudge.h"
 
 namespace molmasse
 {
@@ -54,6 +55,17 @@ std::optional<double> exactMass(const std::map<String, double>& masses, phial::S
     return sum;
 }
 
+std::optional<learning::TaskFault> faultOf(const phial::cls_DataElements& elements,
+                                           const std::map<String, double>& exactMasses, const String& formula)
+{
+    if (const auto fault = learning::FormulaCard::faultOf(formula, elements)) {
+        return fault;
+    }
+    const double mass = elements.MOL(formula);
+    const bool isClear = canBeJudged(massesOf(formula, mass, exactMass(exactMasses, formula).value_or(mass)));
+    return isClear ? std::nullopt : std::optional(learning::TaskFault::Ambiguous);
+}
+
 TrainerData loadTrainerData()
 {
     TrainerData data;
@@ -66,7 +78,7 @@ TrainerData loadTrainerData()
     phial::ignoringErrors(
         [&] { data.exactMasses = readExactMasses(phial::coreRoot().CoreFiles().ReadText(elementFile)); });
     data.tasks = learning::TaskList(TaskFileName, [&](const String& formula) {
-        return learning::FormulaCard::faultOf(formula, *data.elements);
+        return faultOf(*data.elements, data.exactMasses, formula);
     });
     if (data.tasks.isEmpty()) {
         data.missingFile = data.tasks.path();

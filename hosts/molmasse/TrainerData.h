@@ -30,6 +30,12 @@ std::map<phial::String, double> readExactMasses(phial::StringView text);
 /// The molar mass of a formula by these masses, in g/mol; empty when one is missing.
 std::optional<double> exactMass(const std::map<phial::String, double>& masses, phial::StringView formula);
 
+/// What keeps a line of the task file from being one: what keeps it off the card, or masses that cannot be
+/// judged.
+std::optional<learning::TaskFault> faultOf(const phial::cls_DataElements& elements,
+                                           const std::map<phial::String, double>& exactMasses,
+                                           const phial::String& formula);
+
 /// Reads the element table and the tasks. The root must have been started; nothing is raised.
 TrainerData loadTrainerData();
 

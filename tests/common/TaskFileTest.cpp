@@ -185,5 +185,19 @@ TEST_F(TaskRounds, HaveTheTasksThatAreWantedFirst)
               2U);
 }
 
+TEST(TaskFiles, LevelsBehindTheLastThatHasRoomAreToldAndLeftOut)
+{
+    String text = u"[leer]\n";
+    for (int level = 1; level <= 10; ++level) {
+        text += u"[" + number(level) + u"]\nH2O\n";
+    }
+    const TaskFile list = read(text);
+    EXPECT_EQ(list.levels.size(), MostLevelsShown);
+    EXPECT_EQ(list.levels.back().key, u"8");
+    EXPECT_THAT(list.complaints, ElementsAre(TaskComplaint{TaskFault::NoTasks, 1, u"leer"},
+                                             TaskComplaint{TaskFault::TooManyLevels, 18, u"9"},
+                                             TaskComplaint{TaskFault::TooManyLevels, 20, u"10"}));
+}
+
 } // namespace
 } // namespace learning

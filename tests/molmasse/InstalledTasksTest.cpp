@@ -31,7 +31,7 @@ protected:
             readExactMasses(coreRoot().CoreFiles().ReadText(tree + u"\\Resources\\data\\elements2.dat"));
         tasks = learning::readTaskFile(
             coreRoot().CoreFiles().ReadText(tree + u"\\apps\\Molmasse\\data\\formeln.txt"),
-            [this](const String& formula) { return learning::FormulaCard::faultOf(formula, elements); });
+            [this](const String& formula) { return faultOf(elements, exactMasses, formula); });
     }
 
     bool holdsHydrogen(const String& formula) const { return elements.ELEMENTSCOUNT(formula).Exists(u"H"); }
@@ -45,6 +45,8 @@ TEST_F(InstalledTasks, HaveThreeLevelsOfAtLeastTwentyFormulas)
 {
     EXPECT_TRUE(tasks.complaints.empty());
     ASSERT_EQ(tasks.levels.size(), 3U);
+    EXPECT_EQ(tasks.levels[0].tasks.size() + tasks.levels[1].tasks.size() + tasks.levels[2].tasks.size(),
+              82U);
     EXPECT_EQ(tasks.levels[0].key, u"leicht");
     EXPECT_EQ(tasks.levels[1].key, u"mittel");
     EXPECT_EQ(tasks.levels[2].key, u"schwer");
@@ -79,13 +81,15 @@ TEST_F(InstalledTasks, AreSolvedByBothMassesAndByNeitherWithoutAHydrogenAtom)
             const double school = elements.MOL(task.text);
             const auto exact = exactMass(exactMasses, task.text);
             ASSERT_TRUE(exact);
+            const TaskMasses masses = massesOf(task.text, school, *exact);
+            EXPECT_TRUE(canBeJudged(masses));
             const double shown = std::round(*exact * 100) / 100;
             for (const double answer : {school, *exact, shown}) {
-                EXPECT_EQ(judgeMass(answer, school, *exact), Judgement::Right) << answer;
+                EXPECT_EQ(judgeMass(answer, masses), Judgement::Right) << answer;
             }
             if (holdsHydrogen(task.text)) {
-                EXPECT_EQ(judgeMass(school - 1.0, school, *exact), Judgement::Wrong);
-                EXPECT_EQ(judgeMass(*exact - 1.008, school, *exact), Judgement::Wrong);
+                EXPECT_EQ(judgeMass(school - 1.0, masses), Judgement::Wrong);
+                EXPECT_EQ(judgeMass(*exact - 1.008, masses), Judgement::Wrong);
             }
         }
     }
