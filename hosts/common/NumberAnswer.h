@@ -28,10 +28,10 @@ public:
     static constexpr phial::ControlDesign unit(phial::StringView text)
     {
         constexpr auto Place = frame_design::TaskPlaces::Answer;
-        return phial::design<phial::ctl_Label>(
-                   u"lab_Unit",
-                   {Place.left + FieldWidth + 12, Place.top, Place.width - FieldWidth - 12, Place.height},
-                   text)
+        return phial::design<phial::ctl_Label>(u"lab_Unit",
+                                               {Place.left + FieldWidth + 12, Place.top,
+                                                Place.width - FieldWidth - 12 - LockWidth, Place.height},
+                                               text)
             .inside(u"pan_Task")
             .font(18)
             .ink(phial::Palette::Ink)
@@ -58,7 +58,11 @@ public:
 
 private:
     static constexpr double FieldWidth = 220;
+    static constexpr double LockWidth = 24; ///< left free by the unit
 
+    void look(bool decided);
+
+    phial::Form& form_;
     std::shared_ptr<phial::TextBox> field_;
     NumberPad pad_;
 };
