@@ -122,7 +122,8 @@ public:
     {
         makeRoomForMascot();
         take(u"start");
-        press(u"but_Level", static_cast<std::int32_t>(window_.app().levels().size()) - 1);
+        press(u"but_Level",
+              static_cast<std::int32_t>(std::min(window_.app().levels().size(), MostLevelsShown)) - 1);
         take(u"task");
         press(u"but_Reference");
         take(u"reference");

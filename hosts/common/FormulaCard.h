@@ -34,7 +34,8 @@ public:
             .inside(u"pan_Formula")
             .font(13)
             .ink(phial::Palette::Muted)
-            .align(phial::TEXTALIGN::MiddleCentre);
+            .align(phial::TEXTALIGN::MiddleCentre)
+            .set(u"PlainText", true);
     }
 
     /// What keeps a line of a task file from being a formula for the card: it has no symbol, counts what

@@ -52,8 +52,15 @@ inline constexpr double MostZoom = 4;
 /// What the pages leave empty at the left and right.
 inline constexpr double PageMargin = 32;
 
-/// Between the buttons of the levels, of which the app tells how many there are.
+/// Room for the buttons of the levels, of which the app tells how many there are: between those of a row,
+/// and between two rows. A single row is lower than its room.
+inline constexpr ControlDesign::Rectangle LevelsPlace{60, 220, 780, 132};
+inline constexpr double LevelHeight = 104;
 inline constexpr double LevelGap = 21;
+inline constexpr double LevelRowGap = 12;
+
+/// Of what explains a task, in points, where it is not so long that it needs smaller letters.
+inline constexpr double HelpSize = 12;
 
 inline constexpr ControlDesign panel(StringView name, ControlDesign::Rectangle place, phial::Colour ground,
                                      phial::Colour edge)
@@ -157,12 +164,13 @@ inline constexpr ControlDesign Head[] = {
     headerButton(u"but_Help", HelpPlace, u"?").spoken(u"Hilfe|Help"),
 
     heading(u"lab_Question", {60, 60, 780, 44}).inside(u"pan_Start"),
-    paragraph(u"lab_Intro", {60, 112, 780, 84}).inside(u"pan_Start"),
-    design<ctl_Button>(u"but_Level", {60, 220, 246, 104})
+    // No line of what is read has more than 66 letters.
+    paragraph(u"lab_Intro", {60, 112, 560, 96}).inside(u"pan_Start"),
+    design<ctl_Button>(u"but_Level", {LevelsPlace.left, LevelsPlace.top, 246, LevelHeight})
         .at(0)
         .inside(u"pan_Start")
         .font(16, FontWeight::Bold),
-    design<ctl_Label>(u"lab_Note", {60, 360, 780, 60})
+    design<ctl_Label>(u"lab_Note", {60, 360, 480, 64})
         .inside(u"pan_Start")
         .font(11)
         .ink(Palette::Muted)
@@ -202,10 +210,10 @@ inline constexpr ControlDesign Tail[] = {
         .font(14, FontWeight::Bold)
         .ink(Palette::Ink)
         .align(MiddleLeft),
-    sideButton(u"but_Hint", {32, 424, 220, 56}, u"Tipp (−3 Punkte)|Hint (−3 points)").inside(u"pan_Task"),
-    design<ctl_Label>(u"lab_Hint", {268, 420, 324, 96})
+    sideButton(u"but_Hint", {32, 424, 220, 56}, {}).inside(u"pan_Task"),
+    design<ctl_Label>(u"lab_Hint", {268, 416, 324, 120})
         .inside(u"pan_Task")
-        .font(12)
+        .font(HelpSize)
         .ink(Palette::Ink)
         .align(TopLeft),
     sideButton(u"but_Stop", {640, 424, 228, 56}, u"Beenden|Quit").inside(u"pan_Task"),
@@ -228,9 +236,9 @@ inline constexpr ControlDesign Tail[] = {
         .ground(Palette::Surface)
         .ink(Palette::Ink)
         .spoken(u"Die Aufgaben der Runde|The tasks of the round"),
-    design<ctl_Label>(u"lab_Working", {364, 292, 504, 68})
+    design<ctl_Label>(u"lab_Working", {364, 292, 504, 72})
         .inside(u"pan_Summary")
-        .font(12)
+        .font(HelpSize)
         .ink(Palette::Ink)
         .align(TopLeft),
     sideButton(u"but_List", {32, 376, 268, 52}, u"Bestenliste|Best rounds").inside(u"pan_Summary"),
@@ -238,7 +246,9 @@ inline constexpr ControlDesign Tail[] = {
         .inside(u"pan_Summary"),
     sideButton(u"but_Export", {600, 376, 268, 52}, u"Liste als Text|List as text").inside(u"pan_Summary"),
     mainButton(u"but_Again", {32, 444, 268, 72}, u"Noch einmal|Again").inside(u"pan_Summary"),
-    leavingButton(u"but_Missed", {316, 444, 268, 72}, u"Nur die falschen|Only the missed ones")
+    leavingButton(u"but_Missed", {316, 444, 268, 72},
+                  u"Nur die falschen\nnoch einmal|Only the missed ones\nonce more")
+        .spoken(u"Nur die falschen noch einmal|Only the missed ones once more")
         .inside(u"pan_Summary"),
     leavingButton(u"but_Quit", {600, 444, 268, 72}, u"Beenden|Quit").inside(u"pan_Summary"),
 

@@ -27,11 +27,17 @@ struct AppTexts {
     phial::StringView waiting;
     // Behind a round. {1} solved, {2} tasks.
     phial::StringView solved;
+    /// Behind it, where it is more than in the last round: one more, and {1} more.
+    phial::StringView oneMore{};
+    phial::StringView more{};
     phial::StringView diploma; ///< title of the certificate
     /// The certificate's sentence, behind the name: {1} solved, {2} tasks, {3} level, {4} points, {5} of how
     /// many, {6} mark.
     phial::StringView certificate;
 };
+
+/// The start page has room for so many levels.
+inline constexpr std::size_t MostLevelsShown = 8;
 
 /// A level's name on the start page. The German one goes to the lists, in every language, since they compare
 /// by it.
@@ -68,6 +74,7 @@ public:
     virtual const AppTexts& texts() const = 0;
     /// What keeps the app from starting, in the language in force; empty when it has all it needs.
     virtual phial::String missing() const { return {}; }
+    /// Further ones than MostLevelsShown are not offered.
     virtual std::vector<LevelTitle> levels() const = 0;
     /// What the teacher should mend in the app's files, in the language in force; empty for nothing.
     virtual phial::String complaint() const { return {}; }
@@ -80,6 +87,8 @@ public:
     /// Puts the texts that are not of the design in the language in force.
     virtual void TRANSLATE() {}
 
+    /// Whether there is a task of that name, which may be from a former run and another list.
+    virtual bool hasTask(phial::StringView /*name*/) const { return true; }
     /// Draws the tasks of a round and gives how many there are, at least one.
     virtual int begin(std::size_t level, const TaskChoice& choice) = 0;
     /// Shows a task of the round, counted from 1, without an answer and open for one.
@@ -111,6 +120,9 @@ public:
     /// What the answer that was judged last, a wrong one, shows about how it was come by, in one sentence
     /// that does not give the solution; empty where nothing can be told.
     virtual phial::String remark() const { return {}; }
+    /// What a pupil has mastered who has solved the task: short sentences about the work, "German|English",
+    /// of which the frame chooses one. It has some of its own for how the task was solved.
+    virtual std::vector<phial::StringView> mastered() const { return {}; }
     /// What is shown free of charge after a second wrong try; lines are divided by "<br>".
     virtual phial::String support() const { return {}; }
     /// How the solution is come by, shown when the task is decided.

@@ -37,6 +37,11 @@ bool MissedTasks::has(StringView task) const
     return std::find(tasks_.begin(), tasks_.end(), task) != tasks_.end();
 }
 
+std::size_t MissedTasks::count(const std::function<bool(StringView task)>& counts) const
+{
+    return static_cast<std::size_t>(std::ranges::count_if(tasks_, counts));
+}
+
 void MissedTasks::missed(StringView task)
 {
     std::erase(tasks_, task);

@@ -3,6 +3,7 @@
 #include "core/String.h"
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 namespace learning
@@ -22,6 +23,8 @@ public:
     explicit MissedTasks(phial::StringView pupil);
 
     bool has(phial::StringView task) const;
+    /// How many there are of which that is true, such as that they can still be asked.
+    std::size_t count(const std::function<bool(phial::StringView task)>& counts) const;
     std::size_t count() const { return tasks_.size(); }
 
     /// Each of these keeps what it changes. A failure to keep it is silent: nothing but an order is lost.

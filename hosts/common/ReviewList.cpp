@@ -1,7 +1,9 @@
 #include "common/ReviewList.h"
 
+#include "common/FrameDesign.h"
 #include "common/FrameTexts.h"
 #include "common/OutcomeSigns.h"
+#include "common/TermFit.h"
 #include "visual/ctl_Label.h"
 
 #include <algorithm>
@@ -87,7 +89,7 @@ void ReviewList::fill()
 void ReviewList::showWorking()
 {
     const String text = workingText();
-    caption(form_, u"lab_Working", text);
+    showFitting(*form_.control<phial::ctl_Label>(u"lab_Working"), text, frame_design::HelpSize);
     if (list_->ListIndex() > 0) {
         list_->frame().announce(phial::plainMarkup(text));
     }

@@ -143,8 +143,8 @@ String SummaryPage::solvedText() const
     const RoundResult& result = round_.result;
     const int more = result.solved - round_.solvedBefore.value_or(result.solved);
     return translate(texts_.solved, {number(result.solved), number(result.tasks)}) +
-           (more == 1  ? translate(u", eine mehr als zuletzt", u", one more than last time")
-            : more > 1 ? translate(u", {1} mehr als zuletzt", u", {1} more than last time", {number(more)})
+           (more == 1  ? translate(texts_.oneMore)
+            : more > 1 ? translate(texts_.more, phial::Variant::Array{number(more)})
                        : String());
 }
 

@@ -3,9 +3,11 @@
 #include "app/cls_App.h"
 #include "app/cls_AppUser.h"
 #include "app/sys_Global.h"
+#include "common/FrameDesign.h"
 #include "common/FrameTexts.h"
 #include "common/MissedTasks.h"
 #include "common/OutcomeSigns.h"
+#include "common/TermFit.h"
 #include "common/ctl_RoundDots.h"
 #include "visual/ctl_Button.h"
 #include "visual/ctl_Label.h"
@@ -157,6 +159,8 @@ void TaskPage::showRoundTexts()
     showHelp();
     showCheckCaption();
     showProgress();
+    get<phial::ctl_Button>(u"but_Hint")
+        ->Caption(translate(u"Tipp (−{1} Punkte)", u"Hint (−{1} points)", {number(Round::Deduction)}));
 }
 
 void TaskPage::showCheckCaption()
@@ -225,6 +229,8 @@ void TaskPage::count(Judgement judgement)
     verdict_ = round_->count(judgement);
     if (verdict_ == Verdict::Wrong) {
         answers_.push_back(answer);
+    } else if (verdict_ == Verdict::Right) {
+        praise_ = praises_.choose(app_.mastered(), round_->outcome(round_->position()));
     }
 }
 
@@ -260,8 +266,7 @@ String TaskPage::verdictText()
     }
     switch (*verdict_) {
     case Verdict::Right:
-        return translate(u"Richtig! {1}, {2} Punkte für dich.", u"Right! {1}, {2} points for you.",
-                         {app_.solution(), number(round_->lastPoints())});
+        return rightText();
     case Verdict::Wrong:
         return wrongText();
     case Verdict::Missed:
@@ -270,6 +275,17 @@ String TaskPage::verdictText()
         break;
     }
     return app_.unreadable();
+}
+
+String TaskPage::rightText() const
+{
+    const int points = round_->lastPoints();
+    const String right =
+        points == 1 ? translate(u"Richtig! {1}, ein Punkt für dich.", u"Right! {1}, one point for you.",
+                                {app_.solution()})
+                    : translate(u"Richtig! {1}, {2} Punkte für dich.", u"Right! {1}, {2} points for you.",
+                                {app_.solution(), number(points)});
+    return right + u"<br>" + translate(praise_);
 }
 
 /// A kind of error that can be told says more than "not quite".
@@ -285,7 +301,7 @@ String TaskPage::wrongText()
 
 void TaskPage::showHelp()
 {
-    caption(form_, u"lab_Hint", helpText());
+    showFitting(*get<phial::ctl_Label>(u"lab_Hint"), helpText(), frame_design::HelpSize);
 }
 
 /// What stands beside the button of the hint.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/LearningApp.h"
+#include "common/PraiseChoice.h"
 #include "common/ReferenceDrawer.h"
 #include "common/ReviewList.h"
 #include "core/Event.h"
@@ -74,6 +75,7 @@ private:
     void say(std::initializer_list<phial::String> texts);
     void showVerdict();
     phial::String verdictText();
+    phial::String rightText() const;
     phial::String wrongText();
     void showHelp();
     phial::String helpText() const;
@@ -90,6 +92,8 @@ private:
     std::optional<Round> round_;
     std::vector<phial::String> missed_; ///< of this round
     std::optional<Verdict> verdict_;    ///< what the present task shows
+    PraiseChoice praises_;
+    phial::StringView praise_; ///< of the present task, once it is solved
     bool hintShown_ = false;
     bool isRepeated_ = false;            ///< the last answer has been judged before
     std::vector<phial::String> answers_; ///< wrong ones to the present task

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "term/ctl_TermLabel.h"
+#include "visual/ctl_Label.h"
 
 #include <optional>
+#include <vector>
 
 namespace learning
 {
@@ -13,5 +15,14 @@ std::optional<double> fittingTermSize(phial::StringView term, double width);
 
 /// Shows the formula as large as it fits.
 void showFitting(phial::ctl_TermLabel& label, phial::StringView term);
+
+/// Shows the text in that size, or in smaller ones down to 10 points (13 pixels) until all its lines have
+/// room.
+void showFitting(phial::ctl_Label& label, phial::StringView text, double size);
+
+/// The text in lines no wider than the room, broken between words; none where a word is wider, or all of them
+/// are higher.
+std::optional<std::vector<phial::String>> brokenLines(phial::StringView text, const phial::FontSpec& font,
+                                                      phial::PixelSize room);
 
 } // namespace learning

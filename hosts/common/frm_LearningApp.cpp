@@ -13,6 +13,7 @@
 #include "common/FormerRound.h"
 #include "common/FrameDesign.h"
 #include "common/FrameTexts.h"
+#include "common/LevelButtons.h"
 #include "common/ListNotices.h"
 #include "common/MissedTasks.h"
 #include "common/frm_LeaveRound.h"
@@ -22,6 +23,7 @@
 #include "core/SessionState.h"
 #include "visual/VisualHost.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace learning
@@ -125,15 +127,17 @@ void frm_LearningApp::welcome()
 void frm_LearningApp::buildLevels()
 {
     levels_.adopt();
-    const auto first = levels_(0);
-    const double left = first->Left();
-    for (std::size_t i = 0; i < levelTitles_.size(); ++i) {
-        const auto index = static_cast<std::int32_t>(i);
-        const auto button = levels_.has(index) ? levels_(index) : levels_.load(index);
-        button->Left(left + static_cast<double>(i) * (first->Width() + frame_design::LevelGap));
-        button->Visible(true);
+    levelTitles_.resize(std::min(levelTitles_.size(), MostLevelsShown));
+    arrangeLevels(levels_, levelTitles_.size());
+}
+
+void frm_LearningApp::nameLevelButtons()
+{
+    std::vector<String> titles;
+    for (const LevelTitle& level : levelTitles_) {
+        titles.push_back(translate(level.german, level.english));
     }
-    first->Visible(!levelTitles_.empty());
+    nameLevels(levels_, titles);
 }
 
 void frm_LearningApp::connect()
@@ -156,7 +160,9 @@ void frm_LearningApp::connect()
         QVAPP()->DIALOG()->ABOUT();
         backToTask();
     });
-    form_.press(u"but_Colours", [this] { backToTask(); });
+    for (const auto* button : {u"but_Colours", u"but_Sound", u"but_Mascot"}) {
+        form_.press(button, [this] { backToTask(); });
+    }
     form_.press(u"but_Screen", [this] {
         toggleFullScreen();
         backToTask();
@@ -170,13 +176,6 @@ void frm_LearningApp::connect()
     form_.on(tasks_->Judged, [this](Verdict verdict) { judged(verdict); });
     form_.on(tasks_->Shown, [this] { mascot_->taskShown(); });
     form_.on(tasks_->HintGiven, [this] { mascot_->hintTaken(); });
-    form_.on(form_->KeyUp, [this](phial::KeyEvent& event) {
-        if (event.is(phial::Key::Return)) {
-            isReturnHeld_ = false;
-        }
-    });
-    form_.on(form_->Deactivate, [this] { isReturnHeld_ = false; }); // the key is let go elsewhere
-    form_.on(form_->Activate, [this] { isReturnHeld_ = false; });
     form_.on(tasks_->Finished, [this] { finishRound(); });
     levels_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
         return button.CLICK.connect([this, index] { startRound(static_cast<std::size_t>(index)); });
@@ -192,7 +191,7 @@ void frm_LearningApp::connectClassroom()
     form_.on(form_->Unloaded, [this] { asking_.Enabled(false); });
 }
 
-/// Behind what was pressed in the header typing goes on in the answer.
+/// Behind what was pressed in the header or the footer typing goes on in the answer.
 void frm_LearningApp::backToTask()
 {
     if (page_ == Page::Task && form_->Visible()) {
@@ -216,7 +215,9 @@ void frm_LearningApp::leave()
 /// Whether the round is to end, which the pupil has to confirm.
 bool frm_LearningApp::leavesRound()
 {
-    const bool leaves = frm_LeaveRound(tasks_->round()->points()).Show();
+    const bool counts = kind_ == RoundKind::Counting;
+    const bool leaves =
+        frm_LeaveRound(counts ? std::optional(tasks_->round()->points()) : std::nullopt).Show();
     if (leaves) {
         classroom_.roundLeft();
     }
@@ -237,7 +238,9 @@ void frm_LearningApp::askBeforeClosing(bool& rKeeps)
 /// What the next rounds begin with, and the way to do without it.
 void frm_LearningApp::showRemembered()
 {
-    const auto count = static_cast<int>(MissedTasks(QVAPP()->USER()->SCREENNAME()).count());
+    const MissedTasks missed(QVAPP()->USER()->SCREENNAME());
+    const auto count =
+        static_cast<int>(missed.count([this](StringView task) { return app_->hasTask(task); }));
     caption(*form_, u"lab_Remembered",
             count == 0 ? String()
             : count == 1
@@ -370,12 +373,7 @@ void frm_LearningApp::TRANSLATE()
 {
     phial::translateForm(form_);
     QVAPP()->CONFIG()->NAME(form_->Caption());
-    levels_.each([this](phial::ctl_Button& button, std::int32_t index) {
-        if (static_cast<std::size_t>(index) < levelTitles_.size()) {
-            const LevelTitle& level = levelTitles_[static_cast<std::size_t>(index)];
-            button.Caption(translate(level.german, level.english));
-        }
-    });
+    nameLevelButtons();
     nameUser();
     showAppTexts();
     caption(*form_, u"lab_Missing", missingText());
@@ -417,7 +415,8 @@ void frm_LearningApp::show(Page page)
     get<phial::ctl_Pannel>(u"pan_Waiting")->Visible(page == Page::Waiting);
     get<phial::ctl_Pannel>(u"pan_Missing")->Visible(page == Page::Missing);
     get<phial::ctl_Avatar>(u"ctl_User")->frame().Visible(page != Page::Missing);
-    get<phial::ctl_Avatar>(u"ctl_User")->frame().Enabled(page != Page::Task); // a round has one pupil
+    // A round and all that it gives belong to the pupil who plays it.
+    get<phial::ctl_Avatar>(u"ctl_User")->frame().Enabled(page == Page::Start || page == Page::Waiting);
     if (page != Page::Task) {
         mascot_->leaveTask();
     }
@@ -510,35 +509,50 @@ void frm_LearningApp::judged(Verdict verdict)
 
 void frm_LearningApp::keyDown(phial::KeyEvent& event)
 {
-    if (event.is(SayAgainKey)) {
-        event.KeyCode = 0;
-        mascot_->sayLastAgain();
-    } else if (page_ == Page::Task) {
+    if (page_ == Page::Task && !event.is(SayAgainKey)) {
         mascot_->typed();
     }
-    if (event.is(phial::Key::F1)) {
-        if (page_ == Page::Task) {
-            tasks_->giveHint();
-        }
-        event.KeyCode = 0;
-    } else if (event.is(ReferenceKey)) {
-        if (page_ == Page::Task) {
-            tasks_->lookUp();
-        }
-        event.KeyCode = 0;
-    } else if (event.is(FullScreenKey)) {
-        event.KeyCode = 0;
-        toggleFullScreen();
-    } else if (event.is(phial::Key::Escape)) {
-        event.KeyCode = 0;
-        if (!tasks_->closeDrawer()) {
-            leave();
-        }
-    } else if (event.is(phial::Key::Return)) {
-        if (std::exchange(isReturnHeld_, true)) {
-            event.KeyCode = 0; // a repeat of the held key presses nothing
-        }
+    const auto does = actionOf(event);
+    if (!does) {
+        return;
     }
+    event.KeyCode = 0;
+    if (!event.isRepeat) {
+        does();
+    }
+}
+
+/// What the key does anywhere in the window; empty for a key that is the page's.
+std::function<void()> frm_LearningApp::actionOf(const phial::KeyEvent& event)
+{
+    if (event.is(phial::Key::F1)) {
+        return [this] {
+            if (page_ == Page::Task) {
+                tasks_->giveHint();
+            }
+        };
+    }
+    if (event.is(ReferenceKey)) {
+        return [this] {
+            if (page_ == Page::Task) {
+                tasks_->lookUp();
+            }
+        };
+    }
+    if (event.is(SayAgainKey)) {
+        return [this] { mascot_->sayLastAgain(); };
+    }
+    if (event.is(FullScreenKey)) {
+        return [this] { toggleFullScreen(); };
+    }
+    if (event.is(phial::Key::Escape)) {
+        return [this] {
+            if (!tasks_->closeDrawer()) {
+                leave();
+            }
+        };
+    }
+    return {};
 }
 
 } // namespace learning

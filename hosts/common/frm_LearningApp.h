@@ -14,6 +14,7 @@
 #include "visual/Timer.h"
 #include "visual/ctl_Button.h"
 
+#include <functional>
 #include <optional>
 
 namespace learning
@@ -49,6 +50,7 @@ private:
     enum class Page { Start, Task, Summary, Waiting, Missing };
 
     void buildLevels();
+    void nameLevelButtons();
     void connect();
     void connectClassroom();
 
@@ -74,6 +76,7 @@ private:
     void finishRound();
     void judged(Verdict verdict);
     void keyDown(phial::KeyEvent& event);
+    std::function<void()> actionOf(const phial::KeyEvent& event);
 
     phial::String classroomText() const;
     phial::String missingText() const;
@@ -101,7 +104,6 @@ private:
     Page page_ = Page::Start;
     std::size_t level_ = 0;
     bool isAsking_ = false;
-    bool isReturnHeld_ = false;
     RoundKind kind_ = RoundKind::Counting;
 };
 

@@ -2,6 +2,8 @@
 
 #include "visual/DesignedForm.h"
 
+#include <optional>
+
 namespace learning
 {
 
@@ -10,8 +12,8 @@ namespace learning
 class frm_LeaveRound
 {
 public:
-    /// `points` are those that would be lost.
-    explicit frm_LeaveRound(int points);
+    /// `points` are those that would be lost; none in a round for practice, whose points count nowhere.
+    explicit frm_LeaveRound(std::optional<int> points);
 
     /// Modal. Gives whether the round is to end.
     bool Show();
@@ -20,7 +22,9 @@ public:
 private:
     void TRANSLATE();
 
-    int points_;
+    phial::String question() const;
+
+    std::optional<int> points_;
     bool leaves_ = false;
     phial::DesignedForm form_;
 };

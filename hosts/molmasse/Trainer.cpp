@@ -31,6 +31,8 @@ constexpr learning::AppTexts Texts{
     .waiting = u"Sobald deine Lehrkraft den Molmassen-Trainer freigibt, geht es hier von selbst weiter.|"
                u"As soon as your teacher opens the molar mass trainer for you, it goes on here by itself.",
     .solved = u"{1} von {2} Formeln gelöst|{1} of {2} formulas solved",
+    .oneMore = u", eine mehr als zuletzt|, one more than last time",
+    .more = u", {1} mehr als zuletzt|, {1} more than last time",
     .diploma = u"Molmassen-Diplom|Molar Mass Diploma",
     .certificate =
         u"hat zu {1} von {2} Formeln (Schwierigkeit: {3}) die molare Masse bestimmt und dabei {4} von {5} "
@@ -99,7 +101,7 @@ void Trainer::show(int position)
 Judgement Trainer::judge()
 {
     judged_ = answer_->value();
-    return judgeMass(judged_, mass_, exactMass_);
+    return judgeMass(judged_, massesOf(task_.text, mass_, exactMass_));
 }
 
 String Trainer::solution() const
@@ -114,12 +116,14 @@ String Trainer::hint() const
 
 String Trainer::remark() const
 {
-    const MassSource source{[this](const String& formula) { return data_.elements->MOL(formula); },
-                            [this](const String& symbol) {
-                                return data_.elements->EXISTS(symbol)
-                                           ? data_.elements->ITEM(symbol, false)->PROTONS()
-                                           : 0;
-                            }};
+    const MassSource source{
+        [this](const String& formula) { return data_.elements->MOL(formula); },
+        [this](const String& formula) {
+            return exactMass(data_.exactMasses, formula).value_or(data_.elements->MOL(formula));
+        },
+        [this](const String& symbol) {
+            return data_.elements->EXISTS(symbol) ? data_.elements->ITEM(symbol, false)->PROTONS() : 0;
+        }};
     const auto diagnosis = mistakeOf(task_.text, judged_.value_or(0), source);
     return diagnosis ? explained(*diagnosis) : String();
 }

@@ -3,6 +3,7 @@
 #include "common/FormulaCard.h"
 #include "common/LearningApp.h"
 #include "common/NumberAnswer.h"
+#include "molmasse/Praise.h"
 #include "molmasse/TrainerData.h"
 #include "molmasse/Working.h"
 
@@ -24,6 +25,7 @@ public:
     std::span<const phial::ControlDesign> controls() const override;
     void attach(phial::Form& form) override;
     void TRANSLATE() override;
+    bool hasTask(phial::StringView name) const override { return data_.tasks.holds(name); }
     int begin(std::size_t level, const learning::TaskChoice& choice) override
     {
         return data_.tasks.begin(level, choice);
@@ -41,6 +43,7 @@ public:
     phial::String unreadable() const override { return learning::NumberAnswer::unreadable(); }
     phial::String hint() const override;
     phial::String remark() const override;
+    std::vector<phial::StringView> mastered() const override { return masteredIn(task_.text); }
     phial::String support() const override;
     phial::String working() const override;
     std::vector<learning::ReferenceEntry> reference() const override;

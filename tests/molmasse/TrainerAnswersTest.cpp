@@ -1,5 +1,8 @@
+#include "app/cls_Language.h"
 #include "core/Palette.h"
 #include "molmasse/TrainerTest.h"
+#include "support/Contrast.h"
+#include "visual/Shape.h"
 
 namespace molmasse
 {
@@ -22,21 +25,56 @@ TEST_F(TrainerTest, TheSameWrongAnswerAgainCostsNothing)
     EXPECT_EQ(seen(u"lab_Feedback").find(u"Das hattest du schon"), String::npos);
 }
 
+constexpr phial::KeyStroke Return{0, phial::Key::Return, 0};
+
 TEST_F(TrainerTest, AHeldReturnPressesOnce)
 {
     openInstalled();
     type(u"{enter}18");
-    phial::KeyEvent down{static_cast<std::int32_t>(phial::Key::Return)};
-    for (int repeat = 0; repeat < 5; ++repeat) {
-        phial::KeyEvent again = down;
-        form().inputKeyDown(again);
-    }
+    phial::headless::hold(form(), Return);
     EXPECT_EQ(buttonText(u"but_Check"), u"Weiter");
     EXPECT_EQ(formula(), u"H2O");
 
-    form().inputKeyUp(down);
     type(u"{enter}");
     EXPECT_EQ(formula(), u"NaCl");
+}
+
+/// The box gets the key-up of the Return that has opened it.
+TEST_F(TrainerTest, ReturnGoesOnBehindAMessageBoxThatItHasOpened)
+{
+    openInstalled();
+    answerLeaving(u"but_Leave");
+    type(u"{enter}25{enter}26{enter}27{enter}{esc}"); // a missed task is remembered
+    form().focus(form().control<phial::ctl_Button>(u"but_Forget"));
+    outside.dialogs().expectYesNo(phial::DialogAnswer::No);
+    phial::headless::press(form(), Return);
+    type(u"{enter}");
+    EXPECT_EQ(seen(u"lab_Progress"), u"Aufgabe 1 von 2");
+}
+
+TEST_F(TrainerTest, PraisesTheWorkWithAnotherSentenceEachTime)
+{
+    install(Elements, "[a] A\nH2O\nH2O2\n");
+    open();
+    type(u"{enter}18{enter}");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"<br>Alle kleinen Zahlen mitgerechnet."));
+    type(u"{enter}34{enter}");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"<br>Sauber gerechnet."));
+}
+
+TEST_F(TrainerTest, TheButtonsTellWhatTheyCostAndWhatTheyBegin)
+{
+    openInstalled();
+    type(u"{enter}");
+    EXPECT_EQ(buttonText(u"but_Hint"), u"Tipp (−3 Punkte)");
+    expectRankBox();
+    type(u"25{enter}26{enter}27{enter}{enter}58,4{enter}{enter}");
+    EXPECT_EQ(buttonText(u"but_Missed"), u"Nur die falschen\nnoch einmal");
+    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Missed")->frame().AccessibleName(),
+              u"Nur die falschen noch einmal");
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    EXPECT_EQ(buttonText(u"but_Hint"), u"Hint (−3 points)");
+    EXPECT_EQ(buttonText(u"but_Missed"), u"Only the missed ones\nonce more");
 }
 
 TEST_F(TrainerTest, APressRightBehindAVerdictIsNotHeard)
@@ -55,20 +93,56 @@ TEST_F(TrainerTest, APressRightBehindAVerdictIsNotHeard)
     EXPECT_EQ(formula(), u"NaCl");
 }
 
-TEST_F(TrainerTest, ADecidedTasksFieldLooksLockedAndItsPadIsOff)
+/// How the answer's field looks.
+struct ShownField {
+    phial::Colour ground;
+    phial::Colour ink;
+    std::optional<phial::Colour> sign; ///< the lock's; none while it is not shown
+};
+
+class DecidedField : public TrainerTest, public testing::WithParamInterface<phial::ColourSet>
 {
+protected:
+    ShownField shown()
+    {
+        const auto field = form().control<phial::TextBox>(u"txt_Answer");
+        const auto lock = form().control<phial::Shape>(u"shp_Lock");
+        return {field->BackColor(), field->ForeColor(),
+                lock->frame().isReachable() ? std::optional(lock->FillColor()) : std::nullopt};
+    }
+    static double between(phial::Colour one, phial::Colour other)
+    {
+        return phial::test::contrast(one, other, GetParam());
+    }
+};
+
+TEST_P(DecidedField, LooksLockedAndItsPadIsOff)
+{
+    constexpr double Readable = 4.3; // what is off, see the palette's own test
+    constexpr double OfSigns = 3;
+    constexpr double Told = 1.8;
     openInstalled();
     type(u"{enter}18");
-    const auto field = form().control<phial::TextBox>(u"txt_Answer");
-    EXPECT_EQ(field->BackColor(), phial::Palette::Surface);
+    const ShownField open = shown();
+    EXPECT_FALSE(open.sign);
     type(u"{enter}");
-    EXPECT_EQ(field->BackColor(), phial::Palette::Ground);
+    const ShownField decided = shown();
+    EXPECT_GE(between(decided.ink, decided.ground), Readable);
+    EXPECT_GE(between(open.ink, decided.ink), Told);
+    ASSERT_TRUE(decided.sign);
+    EXPECT_GE(between(*decided.sign, phial::Palette::Ground), OfSigns);
     EXPECT_FALSE(form().control<phial::ctl_Button>(u"but_Key", 0)->Enabled());
 
     type(u"{enter}");
-    EXPECT_EQ(field->BackColor(), phial::Palette::Surface);
+    EXPECT_EQ(shown().ground, open.ground);
+    EXPECT_EQ(shown().ink, open.ink);
+    EXPECT_FALSE(shown().sign);
     EXPECT_TRUE(form().control<phial::ctl_Button>(u"but_Key", 0)->Enabled());
 }
+
+INSTANTIATE_TEST_SUITE_P(Sets, DecidedField,
+                         testing::Values(phial::ColourSet::Light, phial::ColourSet::Dark,
+                                         phial::ColourSet::HighContrast));
 
 TEST_F(TrainerTest, AWrongAnswerMayBeMended)
 {
@@ -84,7 +158,8 @@ TEST_F(TrainerTest, AWrongAnswerMayBeMended)
     EXPECT_EQ(seen(u"lab_Feedback"), u"Leider nicht. Du hast noch einen Versuch.");
 
     type(u"18{enter}");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0\u00A0g/mol, 4 Punkte für dich.");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"Richtig! 18,0\u00A0g/mol, 4 Punkte für dich.<br>Alle kleinen Zahlen mitgerechnet.");
 }
 
 TEST_F(TrainerTest, AWrongAnswerTellsTheMistakeThatItShows)
@@ -132,9 +207,9 @@ TEST_F(TrainerTest, ARightAnswerIsWorkedOutToo)
 {
     openInstalled();
     type(u"{enter}18{enter}");
-    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
     type(u"{f1}"); // there is nothing left to give a hint for
-    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
 }
 
@@ -144,7 +219,7 @@ TEST_F(TrainerTest, TheThirdWrongAnswerTellsTheSolutionWorkedOut)
     type(u"{enter}1{enter}2{enter}3{enter}");
 
     EXPECT_EQ(seen(u"lab_Feedback"), u"Schade. Richtig wären 18,0\u00A0g/mol.");
-    EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
+    EXPECT_EQ(seen(u"lab_Hint"), u"2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
     EXPECT_EQ(seen(u"lab_Points"), u"0 Punkte");
 
     // What is decided is not edited any more.

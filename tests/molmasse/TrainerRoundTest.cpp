@@ -20,7 +20,8 @@ TEST_F(TrainerTest, AWholeRoundGoesByKeysAlone)
     EXPECT_EQ(focused(), u"txt_Answer");
 
     type(u"18,0{enter}");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0\u00A0g/mol, 10 Punkte für dich.");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"Richtig! 18,0\u00A0g/mol, 10 Punkte für dich.<br>Alle kleinen Zahlen mitgerechnet.");
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
     EXPECT_EQ(buttonText(u"but_Check"), u"Weiter");
 
@@ -106,6 +107,22 @@ TEST_F(TrainerTest, EscapeInThatQuestionGoesOnToo)
     touch(u"but_Stop");
     EXPECT_TRUE(isSeen(u"pan_Task"));
     EXPECT_EQ(focused(), u"txt_Answer");
+}
+
+TEST_F(TrainerTest, AHeldEscapeAsksOnceAndDoesNotAnswer)
+{
+    constexpr phial::KeyStroke Escape{0, phial::Key::Escape, 0};
+    openInstalled();
+    type(u"{enter}");
+    int questions = 0;
+    outside.visual().onModal(u"frm_LeaveRound", [&](phial::Form& asking) {
+        ++questions;
+        phial::headless::press(asking, Escape, phial::headless::KeyDown::Repeat);
+        EXPECT_TRUE(asking.Visible());
+        asking.Unload();
+    });
+    phial::headless::hold(form(), Escape);
+    EXPECT_EQ(questions, 1);
 }
 
 TEST_F(TrainerTest, ClosingTheWindowInARoundAsksAsEscapeDoes)
@@ -222,7 +239,9 @@ TEST_F(TrainerTest, ScreenReadersSayTaskVerdictHintAndWorking)
     type(u"{f1}");
     EXPECT_EQ(said(), phial::plainMarkup(seen(u"lab_Hint")));
     type(u"18{enter}");
-    EXPECT_EQ(said(), u"Richtig! 18,0\u00A0g/mol, 4 Punkte für dich.\n2 \u00D7 1,0 + 16,0 = 18,0\u00A0g/mol");
+    EXPECT_EQ(said(),
+              u"Richtig! 18,0\u00A0g/mol, 4 Punkte für dich.\nAlle kleinen Zahlen mitgerechnet.\n2 · 1,0 "
+              u"+ 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
     type(u"{enter}");
     EXPECT_EQ(said(), u"Aufgabe 2 von 2\nNatriumchlorid, NaCl");
 }

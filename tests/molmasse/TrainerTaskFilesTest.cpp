@@ -1,5 +1,7 @@
 #include "molmasse/TrainerTest.h"
 
+#include <algorithm>
+
 namespace molmasse
 {
 namespace
@@ -46,6 +48,74 @@ TEST_F(TrainerTest, ATaskFileWithoutTasksCountsAsMissing)
     open();
 
     EXPECT_TRUE(isSeen(u"pan_Missing"));
+}
+
+/// A list of that many levels, whose titles have 60 letters in six words.
+std::string levels(int count)
+{
+    std::string tasks;
+    for (int level = 1; level <= count; ++level) {
+        tasks += "[" + std::to_string(level) +
+                 "] Organische Stoffe mit Sauerstoff & Stickstoff im Molekuel " + std::to_string(level) +
+                 "\nH2O\n";
+    }
+    return tasks;
+}
+
+TEST_F(TrainerTest, EachLevelOfATeachersListIsSeenWithItsWholeTitleAndCanBeTouched)
+{
+    constexpr double Touchable = 44;
+    install();
+    open();
+    for (int count = 1; count <= 8; ++count) {
+        SCOPED_TRACE(count);
+        trainer.reset();
+        install(Elements, levels(count));
+        trainer = newWindow();
+        trainer->Show();
+        for (int level = 0; level < count; ++level) {
+            const auto button = form().control<phial::ctl_Button>(u"but_Level", level);
+            const phial::PixelRectangle place = button->frame().pixelRectangle();
+            ASSERT_TRUE(button->frame().isReachable());
+            EXPECT_GE(place.left, 60);
+            EXPECT_LE(place.right(), 840 + 1e-6);
+            EXPECT_LE(place.bottom(), 360);
+            EXPECT_GE(std::min(place.width, place.height), Touchable);
+            String title = button->Caption();
+            std::ranges::replace(title, u'\n', u' ');
+            EXPECT_EQ(title, button->frame().AccessibleName());
+            EXPECT_EQ(title.size(), 59U);
+        }
+        touch(u"but_Level", count - 1);
+        EXPECT_EQ(formula(), u"H2O");
+    }
+}
+
+TEST_F(TrainerTest, ANameFromAListIsShownAsItStands)
+{
+    install(Elements, "[a] A\nH2O | a <b>bold</b> name\n");
+    open();
+    type(u"{enter}");
+    EXPECT_EQ(form().control<phial::ctl_Label>(u"lab_Name")->accessibleText(), u"a <b>bold</b> name");
+}
+
+TEST_F(TrainerTest, TellsTheTeacherOfALevelThatHasNoRoom)
+{
+    install(Elements, levels(9));
+    open();
+    EXPECT_TRUE(contains(seen(u"lab_Complaint"), u"Zeile 17")) << phial::toUtf8(seen(u"lab_Complaint"));
+    EXPECT_TRUE(contains(seen(u"lab_Complaint"), u"auf der Startseite keinen Platz"));
+}
+
+TEST_F(TrainerTest, ATitleThatHasNoRoomAtAllEndsInDots)
+{
+    const std::string title(300, 'm');
+    install(Elements, "[a] " + title + "\nH2O\n");
+    open();
+    const auto button = form().control<phial::ctl_Button>(u"but_Level", 0);
+    EXPECT_LT(button->Caption().size(), 60U);
+    EXPECT_EQ(button->Caption().back(), u'…');
+    EXPECT_EQ(phial::toUtf8(button->frame().ToolTipText()), title);
 }
 
 TEST_F(TrainerTest, ARoundIsAsLongAsTheTeachersListTells)

@@ -114,6 +114,20 @@ TEST_F(TrainerUser, StaysTheSameThroughoutARound)
     EXPECT_TRUE(avatar()->frame().Enabled());
 }
 
+TEST_F(TrainerUser, OwnsTheCertificateOfTheRound)
+{
+    phial::rememberName({u"Uli", u"owl"});
+    openInstalled();
+    expectRankBox();
+    playRound();
+    EXPECT_FALSE(avatar()->frame().Enabled());
+    phial::headless::click(*avatar());
+    EXPECT_EQ(phial::QVAPP()->USER()->SCREENNAME(), u"Uli");
+
+    touch(u"but_Again");
+    EXPECT_TRUE(avatar()->frame().Enabled());
+}
+
 TEST_F(TrainerUser, IsChangedByKeysAlone)
 {
     phial::rememberName({u"Uli", u"owl"});

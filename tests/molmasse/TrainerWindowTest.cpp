@@ -93,6 +93,21 @@ TEST_F(TrainerTest, F11FillsTheScreenAndLetsItGo)
     EXPECT_EQ(form().WindowState(), phial::WindowState::Normal);
 }
 
+TEST_F(TrainerTest, HeldKeysOfTheFrameActOnce)
+{
+    openInstalled();
+    const auto function = [](int number) {
+        return phial::KeyStroke{
+            0, static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + number - 1), 0};
+    };
+    phial::headless::hold(form(), function(11));
+    EXPECT_EQ(form().BorderStyle(), phial::BorderStyle::None);
+
+    type(u"{enter}");
+    phial::headless::hold(form(), function(2));
+    EXPECT_TRUE(isSeen(u"ref_Drawer"));
+}
+
 TEST_F(TrainerTest, TheFullScreenIsReachedByTouchFromAMaximizedWindow)
 {
     openInstalled();
@@ -104,11 +119,12 @@ TEST_F(TrainerTest, TheFullScreenIsReachedByTouchFromAMaximizedWindow)
     EXPECT_EQ(form().WindowState(), phial::WindowState::Maximized);
 }
 
-TEST_F(TrainerTest, TypingGoesOnInTheAnswerBehindEachButtonOfTheHeader)
+TEST_F(TrainerTest, TypingGoesOnInTheAnswerBehindEachButtonOfTheHeaderAndTheFooter)
 {
     openInstalled();
     type(u"{enter}");
-    for (const auto* button : {u"but_Colours", u"but_Language", u"but_Screen", u"but_Help"}) {
+    for (const auto* button :
+         {u"but_Colours", u"but_Language", u"but_Screen", u"but_Help", u"but_Sound", u"but_Mascot"}) {
         if (StringView(button) == u"but_Help") {
             outside.visual().onModal(u"frm_AppAbout", [](phial::Form& about) { about.Unload(); });
         }
@@ -148,7 +164,8 @@ TEST_F(TrainerTest, SpeaksEnglishWithTheDecimalSignOfTheUser)
     EXPECT_EQ(form().Caption(), u"Molar mass trainer");
     type(u"{enter}18.0{enter}");
     EXPECT_EQ(seen(u"lab_Name"), u"water");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0\u00A0g/mol, 10 points for you.");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"Right! 18.0\u00A0g/mol, 10 points for you.<br>All the small numbers taken in.");
     EXPECT_EQ(buttonText(u"but_Check"), u"Next");
 }
 
@@ -189,11 +206,13 @@ TEST_F(TrainerTest, TheDecimalSignIsThatOfTheLanguageAndBothAreRead)
     touch(u"but_Hint");
     EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1.0\u00A0g/mol)<br>1 \u00D7 O (16.0\u00A0g/mol)");
     type(u"18,0{enter}");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Right! 18.0\u00A0g/mol, 7 points for you.");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"Right! 18.0\u00A0g/mol, 7 points for you.<br>All the small numbers taken in.");
 
     touch(u"but_Language");
     EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Key", CommaKey)->Caption(), u",");
-    EXPECT_EQ(seen(u"lab_Feedback"), u"Richtig! 18,0\u00A0g/mol, 7 Punkte für dich.");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"Richtig! 18,0\u00A0g/mol, 7 Punkte für dich.<br>Alle kleinen Zahlen mitgerechnet.");
 }
 
 } // namespace

@@ -38,15 +38,6 @@ TEST_F(Working, HasNoStepThatTellsNothing)
     EXPECT_EQ(workedLine(table, u"NaCl"), u"23,0 + 35,5 = 58,5\u00A0g/mol");
 }
 
-TEST(FormulaLine, LowersIndicesAlone)
-{
-    EXPECT_EQ(formulaLine(u"H2O"), u"H\u2082O");
-    EXPECT_EQ(formulaLine(u"Ca3(PO4)2"), u"Ca\u2083(PO\u2084)\u2082");
-    EXPECT_EQ(formulaLine(u"C12H22O11"), u"C\u2081\u2082H\u2082\u2082O\u2081\u2081");
-    EXPECT_EQ(formulaLine(u"2H2O"), u"2H\u2082O");
-    EXPECT_EQ(formulaLine(u""), u"");
-}
-
 TEST_F(Working, CountsAtomsWithTheirMassesOrWithout)
 {
     EXPECT_EQ(atomsCounted(table, u"CH3COOH", AtomMasses::Hidden), u"2 \u00D7 C<br>4 \u00D7 H<br>2 \u00D7 O");

@@ -1,4 +1,6 @@
 #include "DesktopSession.h"
+#include "core/Palette.h"
+#include "qt/desktop/DesktopColours.h"
 #include "visual/ComboBox.h"
 #include "visual/ListBox.h"
 #include "visual/ListView.h"
@@ -298,6 +300,19 @@ TEST_F(NativeControlsTest, ACommandBarReportsTheKeyOfItsButton)
     QTest::keyClick(buttons[0], Qt::Key_Right);
     EXPECT_EQ(widgetOf(*form_).focusWidget(), buttons[1]);
     EXPECT_EQ(keys, (std::vector<String>{u"DIALOG.CANCEL();", u"DIALOG.OK();"}));
+}
+
+TEST_F(NativeControlsTest, AFieldThatIsSeenTakesAnotherGroundAtOnce)
+{
+    const auto field = shown<TextBox>(u"txt_Answer");
+    const auto ground = [&] {
+        const QImage seen = widgetOf(*field).grab().toImage();
+        return seen.pixelColor(seen.width() / 2, seen.height() / 2);
+    };
+    field->BackColor(Palette::Surface);
+    EXPECT_EQ(ground(), toQColor(Palette::Surface));
+    field->BackColor(Palette::DisabledGround);
+    EXPECT_EQ(ground(), toQColor(Palette::DisabledGround));
 }
 
 TEST_F(NativeControlsTest, AnAmpersandInATextIsShownAsItStands)

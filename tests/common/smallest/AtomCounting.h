@@ -23,6 +23,8 @@ inline constexpr learning::AppTexts Texts{
     .waiting = u"Sobald deine Lehrkraft das Programm freigibt, geht es hier weiter.|"
                u"As soon as your teacher opens the program for you, it goes on here.",
     .solved = u"{1} von {2} Formeln gelöst|{1} of {2} formulas solved",
+    .oneMore = u", eine mehr als zuletzt|, one more than last time",
+    .more = u", {1} mehr als zuletzt|, {1} more than last time",
     .diploma = u"Zähl-Diplom|Counting Diploma",
     .certificate = u"hat die Atome von {1} der {2} Formeln gezählt ({3}): {4} von {5} Punkten.\r\nNote: {6}|"
                    u"has counted the atoms of {1} of {2} formulas ({3}): {4} of {5} points.\r\nMark: {6}",
@@ -63,6 +65,7 @@ public:
         answer_->TRANSLATE();
     }
 
+    bool hasTask(phial::StringView name) const override { return tasks_.holds(name); }
     int begin(std::size_t level, const learning::TaskChoice& choice) override
     {
         return tasks_.begin(level, choice);
