@@ -165,7 +165,7 @@ inline constexpr ControlDesign Head[] = {
 
     heading(u"lab_Question", {60, 60, 780, 44}).inside(u"pan_Start"),
     // No line of what is read has more than 66 letters.
-    paragraph(u"lab_Intro", {60, 112, 560, 96}).inside(u"pan_Start"),
+    paragraph(u"lab_Intro", {60, 112, 520, 96}).inside(u"pan_Start"),
     design<ctl_Button>(u"but_Level", {LevelsPlace.left, LevelsPlace.top, 246, LevelHeight})
         .at(0)
         .inside(u"pan_Start")

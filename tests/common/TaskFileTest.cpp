@@ -2,6 +2,7 @@
 
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
+#include "common/FrameTexts.h"
 #include "support/AppSession.h"
 
 #include <gmock/gmock-matchers.h>

@@ -1,5 +1,6 @@
 #include "app/RecentNames.h"
 #include "app/cls_AppURL.h"
+#include "app/cls_AppUser.h"
 #include "app/cls_Language.h"
 #include "common/MissedTasks.h"
 #include "core/CoreFiles.h"

@@ -7,6 +7,7 @@
 #include "visual/RichTextBox.h"
 #include "visual/ScrollBar.h"
 #include "visual/TextBox.h"
+#include "visual/ctl_Button.h"
 #include "visual/ctl_CmdBar.h"
 
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "DesktopSession.h"
+#include "DesktopRun.h"
 #include "chem/cls_DataElements.h"
 #include "common/TermFit.h"
 #include "core/CoreFiles.h"
@@ -18,7 +18,7 @@ namespace
 constexpr double Unbounded = 1e6; // pixels
 
 /// The texts of the trainer in the fonts in which they are shown.
-class TrainerFit : public DesktopSession
+class TrainerFit : public DesktopRun
 {
 protected:
     TrainerFit()

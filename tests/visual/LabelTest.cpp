@@ -139,7 +139,6 @@ TEST_F(LabelTest, OneThatCanTakeTheFocusIsALink)
     EXPECT_EQ(clicks, 3) << "Return and Space click it, other keys do not";
     headless::hold(*form, {0, Key::Return, 0});
     EXPECT_EQ(clicks, 4);
-    EXPECT_THAT(drawn(*label), ::testing::HasSubstr("box"));
     EXPECT_THAT(drawn(*label), ::testing::Not(::testing::HasSubstr("box"))) << "the ring is not its own";
 }
 
