@@ -169,6 +169,9 @@ void ControlFrame::tellSeen()
         if (painted) {
             seen ? painted->shown() : painted->hidden();
         }
+        if (painted && !isSeen()) { // a handler may have shown it again
+            painted->surface().forgetImage();
+        }
     }
     if (Container* inner = control_.container()) {
         const auto within = inner->controls(); // a handler may add or remove

@@ -98,6 +98,15 @@ void PaintSurface::invalidate()
     report();
 }
 
+void PaintSurface::forgetImage()
+{
+    if (!retains_ && !painting_) {
+        painted_ = false;
+        device_.detach();
+        backend_.reset();
+    }
+}
+
 void PaintSurface::resized()
 {
     device_.detach(); // asks openBackend again, which sees the new size

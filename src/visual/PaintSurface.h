@@ -34,6 +34,9 @@ public:
     void imagedPart(std::optional<PixelRectangle> value);
     /// The control is painted anew when its image is next needed.
     void invalidate();
+    /// Gives the image's memory back while the control is not seen; a control that keeps what is drawn keeps
+    /// it.
+    void forgetImage();
     /// Called by the frame's owner when the size may have changed.
     void resized();
 

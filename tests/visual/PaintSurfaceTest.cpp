@@ -186,6 +186,19 @@ TEST_F(PaintedControls, WithoutAutoRedrawTheControlPaintsAnew)
     EXPECT_EQ(log.size(), 2U);
 }
 
+TEST_F(PaintedControls, OutOfSightItHasNoImageUnlessItKeepsWhatIsDrawn)
+{
+    form->Show();
+    for (const bool retains : {false, true}) {
+        box->AutoRedraw(retains);
+        const std::weak_ptr<Picture> image = box->surface().image(1);
+        box->Visible(false);
+        EXPECT_EQ(image.expired(), !retains);
+        box->Visible(true);
+        EXPECT_EQ(box->surface().image(1)->size(), (PixelSize{20, 10}));
+    }
+}
+
 TEST_F(PaintedControls, PictureLiesBelowWhatIsDrawn)
 {
     box->Picture(std::make_shared<Picture>(PixelSize{4, 4}));
