@@ -23,6 +23,7 @@
 #include "server/cls_AppServer.h"
 #include "visual/ListView.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace learning
@@ -143,7 +144,8 @@ public:
         take(u"missed");
         finishRound();
         take(u"summary");
-        window_.form().control<phial::ListView>(u"lst_Review")->inputChoice(2);
+        const auto review = window_.form().control<phial::ListView>(u"lst_Review");
+        review->inputChoice(std::min(2, review->ITEMS()->Count()));
         take(u"working");
     }
 
