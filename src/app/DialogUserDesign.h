@@ -46,7 +46,7 @@ inline constexpr StringView Abort = u"DIALOG.ABORT();";
 inline constexpr ButtonDesign Commands[] = {{Confirm, u"OK|OK"}, {Abort, u"Abbrechen|Cancel"}};
 
 inline constexpr ControlDesign Controls[] = {
-    design<ctl_Gradient>(u"bar_Header", {0, 0, Width, 64}).gradient(Palette::Header, Palette::HeaderDeep, 90),
+    design<ctl_Gradient>(u"bar_Header", {0, 0, Width, 64}).gradient(Palette::Header, Palette::HeaderDeep, 0),
     design<ctl_Label>(u"lab_Title", {24, 0, Width - 48, 64}, u"Wer bist du?|Who are you?")
         .inside(u"bar_Header")
         .font(18, FontWeight::Bold)
