@@ -3,6 +3,7 @@
 #include "core/RuntimeError.h"
 #include "visual/Form.h"
 #include "visual/KeyboardFocus.h"
+#include "visual/PaintSurface.h"
 #include "visual/UserControl.h"
 
 namespace phial

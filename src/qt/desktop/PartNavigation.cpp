@@ -1,5 +1,7 @@
 #include "qt/desktop/PartNavigation.h"
 
+#include <Qt>
+
 #include <limits>
 
 namespace phial::qt
