@@ -6,7 +6,9 @@
 #include "common/FrameTexts.h"
 #include "core/CoreRegistry.h"
 #include "core/CoreRoot.h"
+#include "core/CoreTiming.h"
 #include "visual/Markup.h"
+#include "visual/VisualHost.h"
 #include "visual/ctl_Button.h"
 
 #include <algorithm>
@@ -63,7 +65,7 @@ MascotMoment momentOf(const Round& round)
     if (round.solved() == 0) {
         return MascotMoment::NoneSolved;
     }
-    return 2 * round.solved() >= round.count() ? MascotMoment::ManySolved : MascotMoment::FewSolved;
+    return 2 * round.solved() > round.count() ? MascotMoment::ManySolved : MascotMoment::FewSolved;
 }
 
 } // namespace
@@ -71,6 +73,7 @@ MascotMoment momentOf(const Round& round)
 AppMascot::AppMascot(phial::DesignedForm& form)
     : form_(form), balloon_(form->add<phial::ctl_Bubble>(u"bub_Mascot")),
       atom_(form->add<phial::ctl_DrAtom>(u"atm_Mascot")), measure_(phial::makeControl<phial::ctl_Label>()),
+      words_(static_cast<std::size_t>(phial::coreRoot().CoreTiming().Now())),
       thinking_(u"tmr_Thinking", ThinkingTime)
 {
     balloon_->Visible(false);
@@ -87,10 +90,8 @@ AppMascot::AppMascot(phial::DesignedForm& form)
     measure_->AutoSize(true);
     atom_->readProperties(attentiveLook(balloon_->NAME()));
     form_.on(atom_->CLICK, [this] { sayLastAgain(); });
-    form_.on(thinking_.Tick, [this] {
-        thinking_.Enabled(false);
-        say(MascotMoment::LongThinking);
-    });
+    form_.on(thinking_.Tick, [this] { offerPatience(); });
+    form_.on(form_->Unloaded, [this] { leaveTask(); });
     form_.press(u"but_Mascot", [this] { chooseNext(); });
     applyChoice();
 }
@@ -132,11 +133,22 @@ void AppMascot::fitBalloon(const String& text)
 
 void AppMascot::TRANSLATE()
 {
+    forgetText();
+    nameSwitch();
+}
+
+void AppMascot::nameSwitch()
+{
     const String chosen = translate(ChoiceTexts.at(static_cast<std::size_t>(choice())));
     form_->control<phial::ctl_Button>(u"but_Mascot")->Caption(chosen);
     atom_->frame().AccessibleName(translate(u"Maskottchen|Mascot"));
     atom_->frame().ToolTipText(translate(u"Letzten Text noch einmal (F3)|Last text again (F3)"));
+}
+
+void AppMascot::forgetText()
+{
     atom_->BUBBLECANCEL = true;
+    atom_->BUBBLETEXTLAST.clear();
 }
 
 void AppMascot::chooseNext()
@@ -145,7 +157,7 @@ void AppMascot::chooseNext()
     phial::coreRoot().CoreRegistry().CoreRegistryWrite().WriteLong(phial::SettingsHive::CurrentUser,
                                                                    phial::settings::path(MascotSetting),
                                                                    static_cast<std::int32_t>(next));
-    TRANSLATE();
+    nameSwitch();
     applyChoice();
     const auto button = form_->control<phial::ctl_Button>(u"but_Mascot");
     button->frame().announce(button->Caption());
@@ -197,14 +209,32 @@ void AppMascot::roundBegins(const String& name)
 void AppMascot::taskShown()
 {
     isAnswerAwaited_ = true;
-    atom_->MOOD(phial::enm_DrAtomMood::ID_DrAtomMood_Neutral);
+    mood(phial::enm_DrAtomMood::ID_DrAtomMood_Neutral);
     startThinking();
+}
+
+/// A repaint lets it move, and nobody would see that while it is away.
+void AppMascot::mood(phial::enm_DrAtomMood value)
+{
+    atom_->MOOD(value);
+    if (!atom_->frame().isSeen()) {
+        atom_->DEINIT();
+    }
 }
 
 void AppMascot::startThinking()
 {
     thinking_.Enabled(false);
     thinking_.Enabled(isAnswerAwaited_);
+}
+
+/// Whoever is in another window does not think about the task; the time begins anew.
+void AppMascot::offerPatience()
+{
+    if (phial::visualHost().screen().ActiveForm() == atom_->frame().form()) {
+        thinking_.Enabled(false);
+        say(MascotMoment::LongThinking);
+    }
 }
 
 void AppMascot::judged(Verdict verdict, const Round& round, const String& remark)
@@ -217,7 +247,7 @@ void AppMascot::judged(Verdict verdict, const Round& round, const String& remark
         rightAnswer(round);
         return;
     case Verdict::Wrong:
-        atom_->MOOD(phial::enm_DrAtomMood::ID_DrAtomMood_Surprised);
+        mood(phial::enm_DrAtomMood::ID_DrAtomMood_Surprised);
         if (round.triesLeft() == 1) {
             remark.empty() ? say(MascotMoment::Help) : sayText(remark, Source::PageToo);
         }
@@ -232,7 +262,7 @@ void AppMascot::judged(Verdict verdict, const Round& round, const String& remark
 
 void AppMascot::rightAnswer(const Round& round)
 {
-    atom_->MOOD(phial::enm_DrAtomMood::ID_DrAtomMood_Happy);
+    mood(phial::enm_DrAtomMood::ID_DrAtomMood_Happy);
     streak_ = round.outcome(round.position()) == Outcome::AtOnce ? streak_ + 1 : 0;
     if (streak_ == StreakLength) {
         streak_ = 0;
@@ -256,6 +286,13 @@ void AppMascot::leaveTask()
     isAnswerAwaited_ = false;
     thinking_.Enabled(false);
     atom_->BUBBLECANCEL = true;
+}
+
+void AppMascot::answerChanged()
+{
+    if (isAnswerAwaited_) { // the page empties the field for the next task
+        typed();
+    }
 }
 
 void AppMascot::typed()

@@ -54,6 +54,10 @@ public:
     void leaveTask();
     /// A key has gone down.
     void typed();
+    /// The answer reads otherwise, by whatever it was entered.
+    void answerChanged();
+    /// Another pupil sits before it.
+    void forgetText();
     void sayLastAgain();
 
 private:
@@ -64,7 +68,10 @@ private:
     void sayText(const phial::String& text, Source source);
     void rightAnswer(const Round& round);
     void fitBalloon(const phial::String& text);
+    void mood(phial::enm_DrAtomMood value);
     void startThinking();
+    void offerPatience();
+    void nameSwitch();
     void chooseNext();
     void applyChoice();
 

@@ -19,8 +19,8 @@ constexpr StringView RoundBeginsTexts[] = {
     u"Viel Erfolg, {1}!|Good luck, {1}!",
 };
 constexpr StringView StreakTexts[] = {
-    u"Dreimal nacheinander sicher gerechnet!|Three in a row, worked out safely!",
-    u"Drei Mal gleich richtig. Das sitzt.|Right at once three times. You know how.",
+    u"Dreimal nacheinander sicher gerechnet!|Three in a row, all worked out right!",
+    u"Drei Mal gleich richtig. Das sitzt.|Right first time, three times. You've got it.",
     u"Sauber gerechnet, dreimal in Folge.|Neatly done, three times running.",
 };
 constexpr StringView MissedTexts[] = {
@@ -28,7 +28,7 @@ constexpr StringView MissedTexts[] = {
     u"Die war nicht leicht. Nimm dir die nächste vor.|That was not easy. Take on the next one.",
 };
 constexpr StringView HintTexts[] = {
-    u"Gut, dass du nachschaust.|Good that you look it up.",
+    u"Gut, dass du nachschaust.|Good idea to look it up.",
     u"Ein Tipp ist ein guter Anfang.|A hint is a good start.",
 };
 constexpr StringView HelpTexts[] = {
@@ -48,7 +48,7 @@ constexpr StringView ManySolvedTexts[] = {
     u"Ein gutes Stück geschafft.|A good part is done.",
 };
 constexpr StringView FewSolvedTexts[] = {
-    u"Ein Anfang ist gemacht. Übe die falschen.|A start is made. Practise the missed ones.",
+    u"Ein Anfang ist gemacht. Übe die falschen noch einmal.|A start is made. Practise the missed ones.",
     u"Manches sitzt schon. Noch eine Runde?|Some of it works. Another round?",
 };
 constexpr StringView NoneSolvedTexts[] = {

@@ -20,7 +20,7 @@ enum class MascotMoment : std::uint8_t {
     Help,         ///< the second try was wrong, and nothing can be told about how
     LongThinking, ///< nothing has been typed for a while
     AllSolved,    ///< the round is over
-    ManySolved,   ///< at least half of it
+    ManySolved,   ///< more than half of it
     FewSolved,
     NoneSolved,
 };
@@ -33,6 +33,9 @@ std::span<const phial::StringView> mascotTexts(MascotMoment moment);
 class MascotWords
 {
 public:
+    /// `first` chooses where the texts of each moment begin.
+    explicit MascotWords(std::size_t first = 0) { next_.fill(first); }
+
     phial::StringView next(MascotMoment moment);
 
 private:

@@ -21,6 +21,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreTheme.h"
 #include "core/SessionState.h"
+#include "visual/TextBox.h"
 #include "visual/VisualHost.h"
 
 #include <algorithm>
@@ -175,6 +176,9 @@ void frm_LearningApp::connect()
     form_.on(form_->KeyDown, [this](phial::KeyEvent& event) { keyDown(event); });
     form_.on(tasks_->Judged, [this](Verdict verdict) { judged(verdict); });
     form_.on(tasks_->Shown, [this] { mascot_->taskShown(); });
+    if (const auto field = std::dynamic_pointer_cast<phial::TextBox>(app_->field())) {
+        form_.on(field->Change, [this] { mascot_->answerChanged(); });
+    }
     form_.on(tasks_->HintGiven, [this] { mascot_->hintTaken(); });
     form_.on(tasks_->Finished, [this] { finishRound(); });
     levels_.connectEach([this](phial::ctl_Button& button, std::int32_t index) {
@@ -284,6 +288,7 @@ void frm_LearningApp::askForUser()
     QVAPP()->USER()->SCREENNAMEINPUT();
     get<phial::ctl_Avatar>(u"ctl_User")->UPDATE();
     nameUser();
+    mascot_->forgetText();
     showRemembered();
 }
 

@@ -209,6 +209,7 @@ void ctl_Bubble::fit()
     }
     label_->AutoSize(false);
     takeSizeOfText();
+    layOut(); // also where the size is the same
     label_->Visible(true);
 }
 

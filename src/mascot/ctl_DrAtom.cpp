@@ -253,6 +253,7 @@ void ctl_DrAtom::restoreLook()
 
 void ctl_DrAtom::tick()
 {
+    const auto self = weak_from_this().lock(); // a handler may take the control away
     if (dead_) {
         animation_.Enabled(false);
         return;
@@ -373,6 +374,7 @@ void ctl_DrAtom::BUBBLESAYSPEED(cls_App* /*pGame*/, StringView pText, bool pErro
     if (visualHost().screen().MousePointer() == MousePointer::Hourglass) {
         return;
     }
+    const auto self = weak_from_this().lock(); // a handler may take the control away
     BUBBLECANCEL = false;
     BUBBLEMODELAST = pError ? BubbleMode::ID_DrAtomBubbleMode_Error : BubbleMode::ID_DrAtomBubbleMode_Say;
     QVAPP()->MEDIA()->PLAYCATEGORY(pError ? u"wrong" : u"say", false);

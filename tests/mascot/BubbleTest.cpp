@@ -73,6 +73,15 @@ TEST_F(Bubble, IsFreshWithTheseValues)
     EXPECT_EQ(bubble->CTRLID(), u"ctl_Bubble1_ID-1");
 }
 
+TEST_F(Bubble, AFitToTheSameSizePlacesItsTextAgain)
+{
+    fitted(u"Wasser");
+    const PixelRectangle place = label()->frame().pixelRectangle();
+    bubble->AUTOSIZE(false);
+    bubble->AUTOSIZE(true);
+    EXPECT_EQ(label()->frame().pixelRectangle(), place);
+}
+
 TEST_F(Bubble, ReadFromAnEmptyBagDiffersFromAFreshOne)
 {
     const PropertyBag bag;

@@ -142,11 +142,65 @@ TEST_F(TrainerMascot, SaysAtTheSecondWrongTryWhatThePageTellsOfIt)
     type(u"17{enter}"); // the index was forgotten
     const String told = atom().frame().announcement();
     type(u"16,999{enter}");
-    ASSERT_NE(said(), u"");
-    if (!isOf(MascotMoment::Help)) {
-        EXPECT_NE(seen(u"lab_Feedback").find(said()), String::npos);
-        EXPECT_EQ(atom().frame().announcement(), told) << "the page is said already";
-    }
+    EXPECT_EQ(said(), u"Denk an die kleine 2 hinter H.");
+    EXPECT_NE(seen(u"lab_Feedback").find(said()), String::npos);
+    EXPECT_EQ(atom().frame().announcement(), told) << "the page is said already";
+}
+
+TEST_F(TrainerMascot, RestsWhileItIsAway)
+{
+    begin();
+    form().innerSize({900, 640});
+    type(u"18,0{enter}{enter}1{enter}");
+    outside.advance(0.1);
+    const auto drawn = outside.visual().drawing(atom());
+    outside.advance(5);
+    EXPECT_EQ(outside.visual().drawing(atom()), drawn);
+}
+
+TEST_F(TrainerMascot, IsSilentWhileSomeoneEntersByTheTouchPad)
+{
+    touch(u"but_Level", 0);
+    EXPECT_NE(said(), u"");
+    outside.advance(44);
+    touchPad(u"1");
+    outside.advance(0.1);
+    EXPECT_EQ(said(), u"");
+    outside.advance(44);
+    EXPECT_EQ(said(), u"") << "who enters is not thinking";
+    outside.advance(2);
+    EXPECT_TRUE(isOf(MascotMoment::LongThinking));
+}
+
+TEST_F(TrainerMascot, DoesNotDisturbInAnotherWindow)
+{
+    begin();
+    const auto other = std::make_shared<phial::Form>(u"frm_Other");
+    other->Show();
+    outside.advance(60);
+    EXPECT_EQ(said(), u"");
+    other->discard();
+    form().SetFocus();
+    outside.advance(31); // 91 seconds in all
+    EXPECT_TRUE(isOf(MascotMoment::LongThinking));
+}
+
+TEST_F(TrainerMascot, OfHalfARoundItSaysNotThatMostIsDone)
+{
+    begin();
+    expectRankBox();
+    type(u"18,0{enter}{enter}1{enter}2{enter}3{enter}{enter}36,5{enter}{enter}1{enter}2{enter}3{enter}{"
+         u"enter}");
+    EXPECT_TRUE(isOf(MascotMoment::FewSolved)) << phial::toUtf8(said());
+}
+
+TEST_F(TrainerMascot, TheLastTextIsNotOfAnotherLanguage)
+{
+    trainer->welcome();
+    touch(u"but_Language");
+    outside.advance(0.1);
+    type(u"{F3}");
+    EXPECT_EQ(said(), u"");
 }
 
 TEST_F(TrainerMascot, ConsolesAfterTheThirdTry)
