@@ -71,9 +71,10 @@ void arrangeLevels(phial::ControlArray<ctl_Button>& buttons, std::size_t count)
         const auto index = static_cast<std::int32_t>(at);
         const auto button = buttons.has(index) ? buttons(index) : buttons.load(index);
         const auto column = static_cast<double>(at % columns);
-        const auto row = static_cast<double>(at / columns);
+        const std::size_t row = at / columns;
         button->frame().pixelRectangle({LevelsPlace.left + column * (width + LevelGap),
-                                        LevelsPlace.top + row * (height + LevelRowGap), width, height});
+                                        LevelsPlace.top + static_cast<double>(row) * (height + LevelRowGap),
+                                        width, height});
         button->Visible(true);
     }
     buttons(0)->Visible(levels > 0);

@@ -78,10 +78,10 @@ void putSliders(Stage& stage, const std::shared_ptr<UserControl>& control, std::
     const double width = (area.width - SliderGap) / SliderColumns;
     for (std::size_t at = 0; at < sliders.size(); ++at) {
         const auto column = static_cast<double>(at % SliderColumns);
-        const auto row = static_cast<double>(at / SliderColumns);
+        const std::size_t row = at / SliderColumns;
         const PixelRectangle place{area.left + column * (width + SliderGap),
-                                   area.top + row * (CaptionHeight + SliderHeight), width,
-                                   CaptionHeight + SliderHeight};
+                                   area.top + static_cast<double>(row) * (CaptionHeight + SliderHeight),
+                                   width, CaptionHeight + SliderHeight};
         const auto slider = std::make_shared<SliderOnStage>(stage, control, sliders[at], place);
         stage.keep(control->PropertyChanged.connect([slider](const String&) { slider->follow(); }));
         stage.keep(slider->bar().Change.connect([slider] { slider->set(); }));
