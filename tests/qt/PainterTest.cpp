@@ -83,6 +83,35 @@ TEST_F(PainterTest, ALineBackwardsLeavesOutItsEndPixelToo)
     EXPECT_EQ(surface.count(Black), 4U);
 }
 
+TEST_F(PainterTest, AStraightLineOfTwoPixelsIsCrispAndReachesBeyondItsEnds)
+{
+    const Surface plain = white({8, 8});
+    plain.device->ScaleMode(ScaleUnit::Pixels);
+    plain.device->DrawWidth(2);
+    plain.device->Line(2, 3, 5, 3, QBColor(0));
+    EXPECT_EQ(plain.count(Black), 5U * 2);
+    EXPECT_EQ(plain.count(White), 64U - 5 * 2);
+    EXPECT_EQ(plain.at(1, 2), Black);
+    EXPECT_EQ(plain.at(5, 3), Black);
+    const Surface back = white({8, 8});
+    back.device->ScaleMode(ScaleUnit::Pixels);
+    back.device->DrawWidth(2);
+    back.device->Line(5, 3, 2, 3, QBColor(0));
+    EXPECT_TRUE(same(plain, back));
+    for (const double ratio : Ratios) {
+        const Surface fine = white({8, 8}, ratio);
+        fine.device->ScaleMode(ScaleUnit::Pixels);
+        fine.device->DrawWidth(2);
+        fine.device->Line(3, 2, 3, 5, QBColor(0));
+        const auto wide = static_cast<std::size_t>(std::lround(2 * ratio));
+        EXPECT_EQ(fine.count(White) + fine.count(Black), std::as_const(*fine.picture).pixels().size())
+            << ratio;
+        EXPECT_EQ(fine.count(Black) % wide, 0U) << ratio;
+        EXPECT_NEAR(static_cast<double>(fine.count(Black)) / static_cast<double>(wide), 5 * ratio, 1)
+            << ratio;
+    }
+}
+
 TEST_F(PainterTest, ASlantedLineCoversItsFirstPixelAndNotItsLast)
 {
     const Surface surface = white({12, 12});

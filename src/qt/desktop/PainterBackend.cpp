@@ -19,11 +19,12 @@ namespace
 {
 
 constexpr double DegreesPerRadian = 180 / std::numbers::pi;
-constexpr double WidestSquareLine = 1.5; // wider pens have round ends
+constexpr double WidestThinLine = 1.5;   // wider ones reach beyond their ends by half of their width
+constexpr double WidestSquareLine = 2.5; // where that cannot be told from round ends
 
 QPen penOf(const Stroke& stroke, double ratio)
 {
-    const bool round = stroke.width > WidestSquareLine;
+    const bool round = stroke.width > WidestThinLine;
     return {toQColor(stroke.ink.colour), stroke.width * ratio, Qt::SolidLine,
             round ? Qt::RoundCap : Qt::FlatCap, round ? Qt::RoundJoin : Qt::MiterJoin};
 }
@@ -130,7 +131,9 @@ void PainterBackend::apply(const Ink& ink, const Raster& raster, const QRectF& b
 {
     const std::optional<BitMerge> merge = mergeOf(raster);
     if (!ink.cut && !merge) {
-        painter_.setRenderHint(QPainter::Antialiasing, true);
+        if (!painter_.testRenderHint(QPainter::Antialiasing)) { // setting it costs as much as a small box
+            painter_.setRenderHint(QPainter::Antialiasing);
+        }
         drawing(painter_);
         return;
     }
@@ -198,8 +201,10 @@ void PainterBackend::line(PixelPoint from, PixelPoint to, const Stroke& stroke)
         return;
     }
     const bool straight = from.x == to.x || from.y == to.y;
-    if (straight && stroke.width <= WidestSquareLine) {
+    if (straight && stroke.width <= WidestThinLine) {
         straightLine(from, to, stroke);
+    } else if (straight && stroke.width <= WidestSquareLine) {
+        straightWideLine(from, to, stroke);
     } else {
         slantedLine(from, to, stroke);
     }
@@ -220,13 +225,27 @@ void PainterBackend::straightLine(PixelPoint from, PixelPoint to, const Stroke& 
     fillBox(snapped(area), stroke.ink, stroke.raster);
 }
 
+// Where the width cannot lie evenly around the middle, the greater part is to the left and above.
+void PainterBackend::straightWideLine(PixelPoint from, PixelPoint to, const Stroke& stroke)
+{
+    const int pen = std::max(1, static_cast<int>(std::lround(stroke.width * ratio_)));
+    const auto corner = [&](double x, double y) {
+        const QPointF centre = middle({x, y});
+        return QPoint(static_cast<int>(std::floor(centre.x() - 0.5 * pen)),
+                      static_cast<int>(std::floor(centre.y() - 0.5 * pen)));
+    };
+    const QPoint first = corner(std::min(from.x, to.x), std::min(from.y, to.y));
+    const QPoint last = corner(std::max(from.x, to.x), std::max(from.y, to.y));
+    fillBox({first, last + QPoint(pen - 1, pen - 1)}, stroke.ink, stroke.raster);
+}
+
 // A thin line is moved back by half a pixel, so that it covers its first pixel and leaves out its last one. A
 // wide one has round ends on both.
 void PainterBackend::slantedLine(PixelPoint from, PixelPoint to, const Stroke& stroke)
 {
     QPointF start = middle(from);
     QPointF end = middle(to);
-    if (stroke.width <= WidestSquareLine) {
+    if (stroke.width <= WidestThinLine) {
         const QPointF way = end - start;
         const QPointF half = way * (0.5 * ratio_ / std::max(std::abs(way.x()), std::abs(way.y())));
         start -= half;

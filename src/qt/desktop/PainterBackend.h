@@ -64,6 +64,7 @@ private:
     void fillBox(const QRect& box, const Ink& ink, const Raster& raster);
     void apply(const Ink& ink, const Raster& raster, const QRectF& bounds, const Drawing& drawing);
     void straightLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
+    void straightWideLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
     void slantedLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
     QImage readable(const Picture& picture) const;
     void drawSmoothly(const QImage& image, const QRectF& part, const QRect& box);
