@@ -97,7 +97,7 @@ private:
             paintSmallText();
         }
         device_.FontName(style_.fontName);
-        device_.FontSize(mainSize());
+        device_.FontSize(style_.textSize());
         device_.FontBold(false);
         if (style_.showsNames && cell_.element) {
             paintName();
@@ -128,15 +128,6 @@ private:
         device_.Print(text);
     }
 
-    double mainSize() const
-    {
-        double size = cell_design::TextSize * style_.scale;
-        if (size > LargeText) {
-            size *= Enlargement;
-        }
-        return style_.showsNames ? NameShare * size : size;
-    }
-
     void paintName()
     {
         const NameLines lines = linesOf(cell_.element->NAME());
@@ -151,12 +142,13 @@ private:
         printCentred(lines.second, SecondLine);
     }
 
-    /// Names that are wider than the cell are set smaller.
+    /// Names that are wider than the cell within its outline are set smaller.
     void fit(const NameLines& lines)
     {
+        const double room = cell_.area.width - 2;
         const double wide = std::max(device_.TextWidth(lines.first), device_.TextWidth(lines.second));
-        if (wide > cell_.area.width) {
-            device_.FontSize(device_.FontSize() * std::max(cell_.area.width / wide, cell_design::LeastShare));
+        if (wide > room) {
+            device_.FontSize(device_.FontSize() * std::max(room / wide, cell_design::LeastShare));
         }
     }
 
@@ -208,6 +200,15 @@ private:
 };
 
 } // namespace
+
+double CellStyle::textSize() const
+{
+    double size = cell_design::TextSize * scale;
+    if (size > LargeText) {
+        size *= Enlargement;
+    }
+    return showsNames ? NameShare * size : size;
+}
 
 ElementCell ElementCell::of(std::shared_ptr<cls_DataElement> element, const PixelRectangle& area, Colour base)
 {

@@ -27,6 +27,8 @@ struct CellStyle {
     float scale = 1; ///< 1 for cells of 32 pixels
     String fontName;
     bool showsNames = false; ///< names instead of symbols
+
+    double textSize() const; ///< of the symbol or the name, in points
 };
 
 /// How a cell is painted now.

@@ -100,9 +100,9 @@ void PeriodicSheet::paint(DrawDevice& device, const cls_DataElement* hovered,
     for (std::size_t cell = 0; cell < cells_.size(); ++cell) {
         paintCell(device, cell, cells_[cell].painted.element.get() == hovered);
     }
-    paintTableLabels(device, grid);
+    paintTableLabels(device, grid, style);
     if (showsElectronStates) {
-        paintElectronStates(device, grid);
+        paintElectronStates(device, grid, style);
     }
     for (std::int32_t slot = DragTiles::Slots - 1; slot >= 0; --slot) { // the first one on top
         if (slot != leftOut) {

@@ -64,11 +64,9 @@ constexpr auto StateRuns = std::to_array<StateRun>({
 constexpr double FontStep = 0.9;
 
 /// As large as the table's text, and smaller where the area has no room for that.
-void paintCaption(DrawDevice& device, const TableGrid& grid, const PixelRectangle& area, const String& text)
+void paintCaption(DrawDevice& device, const CellStyle& style, const PixelRectangle& area, const String& text)
 {
-    FontSpec font = device.font();
-    font.bold = false;
-    font.size = cell_design::TextSize * grid.scale();
+    FontSpec font{.name = style.fontName, .size = cell_design::TextSize * style.scale};
     const auto layOut = [&] { return MarkupLayout(text, font, visualHost().metrics()); };
     MarkupLayout layout = layOut();
     const double least = font.size * cell_design::LeastShare;
@@ -81,25 +79,25 @@ void paintCaption(DrawDevice& device, const TableGrid& grid, const PixelRectangl
 
 } // namespace
 
-void paintTableLabels(DrawDevice& device, const TableGrid& grid)
+void paintTableLabels(DrawDevice& device, const TableGrid& grid, const CellStyle& style)
 {
     device.ForeColor(QBColor(0));
     for (const TableLabel& label : Labels) {
-        paintCaption(device, grid, grid.area(label.column, label.row, label.columns, 1), String(label.text));
+        paintCaption(device, style, grid.area(label.column, label.row, label.columns, 1), String(label.text));
     }
     constexpr std::int32_t Periods = 7;
     for (std::int32_t period = 1; period <= Periods; ++period) {
-        paintCaption(device, grid, grid.area(0, period + 1, 1, 1), plainText(period));
+        paintCaption(device, style, grid.area(0, period + 1, 1, 1), plainText(period));
     }
 }
 
-void paintElectronStates(DrawDevice& device, const TableGrid& grid)
+void paintElectronStates(DrawDevice& device, const TableGrid& grid, const CellStyle& style)
 {
     constexpr double Height = 0.5;
     device.ForeColor(QBColor(0));
     for (const StateRun& run : StateRuns) {
         for (std::int32_t number = 1; number <= run.count; ++number) {
-            paintCaption(device, grid, grid.area(run.column + number - 1, run.row, 1, Height),
+            paintCaption(device, style, grid.area(run.column + number - 1, run.row, 1, Height),
                          String(run.sign) + u"<sup>" + plainText(number) + u"</sup>");
         }
     }
