@@ -67,7 +67,7 @@ public:
     void hasPrinter(bool value) { hasPrinter_ = value; }
     MousePointer screenPointer() const { return screenPointer_; }
 
-    TextMetrics& metrics() override { return *metrics_; }
+    FixedTextMetrics& metrics() override { return *metrics_; }
     std::shared_ptr<DrawBackend> createSurface(PixelSize size, double pixelRatio) override;
     double pixelRatio() const override { return pixelRatio_; }
     /// A picture that was added; otherwise a see-through one of the size that the file's head tells (PNG,
