@@ -1,4 +1,4 @@
-#include "calc/LargeAllocations.h"
+#include "support/Allocations.h"
 
 #include <cstdlib>
 #include <new>
@@ -8,6 +8,7 @@ namespace
 
 constexpr std::size_t Large = 1024 * 1024;
 
+std::size_t allOnes = 0;
 std::size_t largeOnes = 0;
 
 } // namespace
@@ -18,6 +19,7 @@ void* operator new(std::size_t size)
     if (memory == nullptr) {
         throw std::bad_alloc();
     }
+    ++allOnes;
     largeOnes += size >= Large ? 1 : 0;
     return memory;
 }
@@ -34,6 +36,11 @@ void operator delete(void* memory, std::size_t /*size*/) noexcept
 
 namespace phial::test
 {
+
+std::size_t allocations()
+{
+    return allOnes;
+}
 
 std::size_t largeAllocations()
 {
