@@ -45,8 +45,7 @@ void ctl_Label::fitToText()
         return;
     }
     const PixelRectangle place = frame_.pixelRectangle();
-    fitted_ = {place.width, std::ceil(layOut(place.width).size().height)};
-    frame_.pixelRectangle({place.left, place.top, fitted_.width, fitted_.height});
+    frame_.pixelRectangle({place.left, place.top, place.width, std::ceil(layOut(place.width).size().height)});
 }
 
 MarkupLayout ctl_Label::layOut(double width) const
@@ -87,9 +86,7 @@ void ctl_Label::writeProperties(PropertyBag& bag)
 void ctl_Label::resized()
 {
     surface_.resized();
-    if (surface_.size() != fitted_) {
-        fitToText();
-    }
+    fitToText();
 }
 
 void ctl_Label::paint()
