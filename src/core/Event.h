@@ -1,9 +1,11 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -70,11 +72,9 @@ public:
 
     void emit(Args... args) const
     {
-        if (slots_->empty()) {
-            return;
-        }
-        const Slots current = *slots_;
-        for (const auto& slot : current) {
+        Few few;
+        Slots many;
+        for (const auto& slot : current(few, many)) {
             if (slot->connected) {
                 slot->handler(args...);
             }
@@ -89,6 +89,18 @@ private:
         bool connected = true;
     };
     using Slots = std::vector<std::shared_ptr<Slot>>;
+    using Few = std::array<std::shared_ptr<Slot>, 4>;
+
+    /// The handlers of now, held for an emission; a few take no memory.
+    std::span<const std::shared_ptr<Slot>> current(Few& few, Slots& many) const
+    {
+        if (slots_->size() > few.size()) {
+            many = *slots_;
+            return many;
+        }
+        std::ranges::copy(*slots_, few.begin());
+        return std::span(few).first(slots_->size());
+    }
 
     std::shared_ptr<Slots> slots_ = std::make_shared<Slots>();
 };

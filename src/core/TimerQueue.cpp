@@ -29,18 +29,10 @@ std::optional<TimerQueue::Time> TimerQueue::nextDue() const
     return next;
 }
 
+/// One that has ticked is due after `now`, and so are those that are added meanwhile.
 void TimerQueue::tick(Time now, const std::function<void(const std::function<void()>&)>& run)
 {
-    Timers due;
-    std::copy_if(timers_->begin(), timers_->end(), std::back_inserter(due),
-                 [now](const auto& timer) { return !timer->running && timer->due <= now; });
-    std::stable_sort(due.begin(), due.end(),
-                     [](const auto& left, const auto& right) { return left->due < right->due; });
-    for (const auto& timer : due) {
-        // An earlier tick may have ended this timer, or run events in which it has ticked already.
-        if (!timer->connected || timer->running || timer->due > now) {
-            continue;
-        }
+    while (const auto timer = firstDue(now)) {
         timer->due += timer->interval;
         if (timer->due <= now) {
             timer->due = now + timer->interval;
@@ -49,6 +41,17 @@ void TimerQueue::tick(Time now, const std::function<void(const std::function<voi
         run(timer->tick);
         timer->running = false;
     }
+}
+
+std::shared_ptr<TimerQueue::Timer> TimerQueue::firstDue(Time now) const
+{
+    std::shared_ptr<Timer> first;
+    for (const auto& timer : *timers_) {
+        if (!timer->running && timer->due <= now && (!first || timer->due < first->due)) {
+            first = timer;
+        }
+    }
+    return first;
 }
 
 } // namespace phial

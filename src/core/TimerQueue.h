@@ -39,6 +39,8 @@ private:
     };
     using Timers = std::vector<std::shared_ptr<Timer>>;
 
+    std::shared_ptr<Timer> firstDue(Time now) const;
+
     std::shared_ptr<Timers> timers_ = std::make_shared<Timers>();
 };
 

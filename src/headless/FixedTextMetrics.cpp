@@ -27,6 +27,7 @@ private:
 
 std::shared_ptr<const FontFace> FixedTextMetrics::face(const FontSpec& font)
 {
+    ++asked_;
     for (const auto& known : faces_) {
         if (fontOfFace(*known) == font) {
             return known;

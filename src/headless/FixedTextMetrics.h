@@ -2,6 +2,7 @@
 
 #include "visual/TextMetrics.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace phial::headless
@@ -19,8 +20,11 @@ public:
     std::shared_ptr<const FontFace> face(const FontSpec& font) override;
     /// Every name.
     bool hasFont(StringView) const override { return true; }
+    /// How often a face has been asked for, as each layout of a text does.
+    std::size_t asked() const { return asked_; }
 
 private:
+    std::size_t asked_ = 0;
     std::vector<std::shared_ptr<const FontFace>> faces_;
 };
 

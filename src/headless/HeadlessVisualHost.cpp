@@ -103,6 +103,9 @@ void HeadlessVisualHost::addPicture(const std::filesystem::path& file, PicturePt
 
 std::shared_ptr<DrawBackend> HeadlessVisualHost::createSurface(PixelSize size, double)
 {
+    if (makeSurface_) {
+        return makeSurface_(size);
+    }
     std::erase_if(surfaces_, [](const auto& entry) { return entry.expired(); });
     auto surface = std::make_shared<RecordingBackend>(size, metrics_);
     surfaces_.push_back(surface);

@@ -57,6 +57,10 @@ public:
     /// first if it has to be.
     std::string drawing(Control& control) const;
 
+    /// Further surfaces come from there in place of the recorder's.
+    using SurfaceMaker = std::function<std::shared_ptr<DrawBackend>(PixelSize size)>;
+    void surfacesFrom(SurfaceMaker make) { makeSurface_ = std::move(make); }
+
     /// The pictures of files, by native path; others are looked at in the file system, see decodePicture.
     void addPicture(const std::filesystem::path& file, PicturePtr picture);
     void pixelRatio(double value) { pixelRatio_ = value; }
@@ -67,7 +71,7 @@ public:
     void hasPrinter(bool value) { hasPrinter_ = value; }
     MousePointer screenPointer() const { return screenPointer_; }
 
-    TextMetrics& metrics() override { return *metrics_; }
+    FixedTextMetrics& metrics() override { return *metrics_; }
     std::shared_ptr<DrawBackend> createSurface(PixelSize size, double pixelRatio) override;
     double pixelRatio() const override { return pixelRatio_; }
     /// A picture that was added; otherwise a see-through one of the size that the file's head tells (PNG,
@@ -94,6 +98,7 @@ private:
     std::shared_ptr<const CoreDisplay> display_;
     FailureHandler onFailure_;
     std::shared_ptr<FixedTextMetrics> metrics_ = std::make_shared<FixedTextMetrics>();
+    SurfaceMaker makeSurface_;
     std::map<String, std::deque<Script>> scripts_; ///< by upper-case name
     std::vector<std::weak_ptr<Form>> windows_;
     std::vector<std::weak_ptr<RecordingBackend>> surfaces_;

@@ -71,7 +71,7 @@ void PeriodicSheet::fill(cls_DataElements& table)
 void PeriodicSheet::tellTiles(const Cell& cell)
 {
     for (DragTile& tile : tiles) {
-        if (tile.target == cell.target()) {
+        if (tile.target == DragTile::Target{cell.place.column, cell.place.row}) {
             tile.droppedSymbol = cell.painted.element->SYMBOL();
             tile.isPlaced = true;
         }
@@ -106,7 +106,7 @@ void PeriodicSheet::paint(DrawDevice& device, const cls_DataElement* hovered,
     }
     for (std::int32_t slot = DragTiles::Slots - 1; slot >= 0; --slot) { // the first one on top
         if (slot != leftOut) {
-            paintTile(device, slot);
+            paintTile(device, tiles.at(slot));
         }
     }
 }
@@ -119,9 +119,8 @@ void PeriodicSheet::paintCell(DrawDevice& device, std::size_t cell, bool isHover
     painted.paint(device, style, look);
 }
 
-void PeriodicSheet::paintTile(DrawDevice& device, std::int32_t slot) const
+void PeriodicSheet::paintTile(DrawDevice& device, const DragTile& tile) const
 {
-    const DragTile& tile = tiles.at(slot);
     if (tile.symbol.empty()) {
         return;
     }
@@ -130,9 +129,7 @@ void PeriodicSheet::paintTile(DrawDevice& device, std::int32_t slot) const
         const auto own = cellOf(tile.element.get());
         cell = ElementCell::of(tile.element, tile.area, own ? cells_[*own].painted.base : NoElementsGround);
     }
-    CellLook look = marks.lookOf(tile.symbol, true);
-    look.isTaken = marks.taken == slot;
-    cell.paint(device, style, look);
+    cell.paint(device, style, marks.lookOf(tile.symbol, true));
 }
 
 } // namespace phial

@@ -22,8 +22,7 @@ struct SheetMarks {
     std::shared_ptr<CoreStringList> faded = std::make_shared<CoreStringList>(); ///< pale
     std::shared_ptr<CoreStringList> gone = std::make_shared<CoreStringList>();  ///< grey
     std::shared_ptr<CoreTokenList> frames = std::make_shared<CoreTokenList>();  ///< symbols with a colour
-    bool isPlacing = false;            ///< tiles are put on: elements that are not faded are empty places
-    std::optional<std::int32_t> taken; ///< the slot of a tile that is to be put elsewhere
+    bool isPlacing = false; ///< tiles are put on: elements that are not faded are empty places
 
     /// Whether an element is pale, a cell or a tile.
     bool isPale(StringView symbol, bool isTile) const;
@@ -38,8 +37,6 @@ public:
     struct Cell {
         ElementCell painted;
         ElementPlace place;
-
-        DragTile::Target target() const { return {place.column, place.row}; }
     };
 
     TableGrid grid;
@@ -63,8 +60,7 @@ public:
     void paint(DrawDevice& device, const cls_DataElement* hovered,
                std::optional<std::int32_t> leftOut = std::nullopt) const;
     void paintCell(DrawDevice& device, std::size_t cell, bool isHovered) const;
-    /// Nothing for a free slot.
-    void paintTile(DrawDevice& device, std::int32_t slot) const;
+    void paintTile(DrawDevice& device, const DragTile& tile) const;
 
 private:
     void tellTiles(const Cell& cell);

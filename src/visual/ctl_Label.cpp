@@ -45,7 +45,8 @@ void ctl_Label::fitToText()
         return;
     }
     const PixelRectangle place = frame_.pixelRectangle();
-    frame_.pixelRectangle({place.left, place.top, place.width, std::ceil(layOut(place.width).size().height)});
+    fitted_ = {place.width, std::ceil(layOut(place.width).size().height)};
+    frame_.pixelRectangle({place.left, place.top, fitted_.width, fitted_.height});
 }
 
 MarkupLayout ctl_Label::layOut(double width) const
@@ -86,7 +87,9 @@ void ctl_Label::writeProperties(PropertyBag& bag)
 void ctl_Label::resized()
 {
     surface_.resized();
-    fitToText();
+    if (surface_.size() != fitted_) {
+        fitToText();
+    }
 }
 
 void ctl_Label::paint()

@@ -78,6 +78,7 @@ private:
     Colour foreColor_ = SystemColour::WindowText;
     TEXTALIGN alignment_ = TEXTALIGN::MiddleLeft;
     bool autoSize_ = false;
+    PixelSize fitted_; ///< the size that the text has been given last
     bool plain_ = false;
     bool breaksWords_ = false;
     bool raised_ = false;

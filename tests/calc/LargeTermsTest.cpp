@@ -1,5 +1,5 @@
 #include "calc/ExpressionSolver.h"
-#include "calc/LargeAllocations.h"
+#include "support/Allocations.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,10 @@
 #include "mascot/ctl_Bubble.h"
+#include "support/Places.h"
 #include "visual/FormTest.h"
 #include "visual/PictureBox.h"
 
+#include <array>
+#include <fstream>
 #include <limits>
 
 namespace phial
@@ -15,6 +18,23 @@ using test::IsEmpty;
 using ::testing::HasSubstr;
 using ::testing::Not;
 using Side = enm_BallonZipSide;
+
+constexpr std::array SideNames{"LeftTop",    "LeftBottom",  "RightTop", "RightBottom",
+                               "BottomLeft", "BottomRight", "TopLeft",  "TopRight"};
+
+/// The drawing of that name in the balloons' table; empty where there is none.
+std::string tabled(const std::string& name)
+{
+    std::ifstream table(test::vectorsFolder() / "balloons.txt");
+    std::string line;
+    while (std::getline(table, line) && line != name) {
+    }
+    std::string drawing;
+    while (std::getline(table, line) && !line.empty()) {
+        drawing += line + '\n';
+    }
+    return drawing;
+}
 
 /// A balloon of 120 by 80 pixels at (20, 10) on a form that counts in twips. A letter is 4 pixels wide and a
 /// line 10 high.
@@ -162,17 +182,16 @@ TEST_F(Bubble, EachWriteIsTold)
     EXPECT_THAT(told, IsEmpty()) << "the one that tells nothing";
 }
 
-TEST_F(Bubble, IsPaintedInThisOrder)
+TEST_F(Bubble, IsDrawnAsItsTableTellsForEachPlaceOfTheTailAndBothCorners)
 {
-    bubble->BORDERROUND(0);
-    EXPECT_EQ(drawn(), "clear cut\n"
-                       "box 25,5 95x75 fill #000000\n"
-                       "polygon 5,5 26,55 26,25 fill #000000 line #808000\n"
-                       "hatch 0,0 120x80 cut\n"
-                       "box 20,0 95x75 fill #FFFF96\n"
-                       "box 20,0 95x75 line #808000\n"
-                       "polygon 0,0 21,50 21,20 fill #FFFF96 line #808000\n"
-                       "box 21,1 93x73 fill #FFFF96\n");
+    for (std::size_t side = 0; side < SideNames.size(); ++side) {
+        bubble->ZIPSIDE(static_cast<Side>(side));
+        for (const bool isRound : {false, true}) {
+            bubble->BORDERROUND(isRound ? 5 : 0);
+            const std::string name = std::string(SideNames.at(side)) + (isRound ? " round" : " square");
+            EXPECT_EQ(drawn(), tabled(name)) << name;
+        }
+    }
 }
 
 TEST_F(Bubble, WithoutATailTheBoxFillsTheControlUpToItsShadow)

@@ -2,6 +2,7 @@
 #include "media/cls_AppMedia.h"
 #include "support/MarkedWaves.h"
 #include "visual/Label.h"
+#include "visual/Markup.h"
 
 namespace phial
 {
@@ -46,6 +47,30 @@ TEST_F(DrAtomTalk, SaysATextInItsBalloon)
     EXPECT_EQ(atom->MOOD(), Mood::ID_DrAtomMood_Custom) << "the look comes with the next tick";
     ticks();
     EXPECT_EQ(atom->MOOD(), Mood::ID_DrAtomMood_Happy);
+}
+
+TEST_F(DrAtomTalk, ATextOf500LettersIsLaidOutFourTimes)
+{
+    String text;
+    while (text.size() < 500) {
+        text += u"Natrium und Chlor geben Salz. ";
+    }
+    text.resize(500);
+    bubble->AUTOSIZE(true);
+    const auto label = bubble->container()->controls().front();
+    headless::FixedTextMetrics& metrics = outside.visual().metrics();
+    const auto asked = [&](const auto& work) {
+        const std::size_t before = metrics.asked();
+        work();
+        return metrics.asked() - before;
+    };
+    const std::size_t once = asked([&] { MarkupLayout(text, FontSpec{}, metrics, 300); });
+    const std::size_t all = asked([&] {
+        atom->BUBBLESAY(nullptr, text);
+        outside.visual().drawing(*bubble);
+        outside.visual().drawing(*label);
+    });
+    EXPECT_EQ(all / once, 4U) << "for 300, 250 and 200 pixels, and for its picture";
 }
 
 TEST_F(DrAtomTalk, AnErrorLooksAngryInItsBalloonToo)

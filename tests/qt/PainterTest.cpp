@@ -221,6 +221,34 @@ TEST_F(PainterTest, APictureComesOutAsItIsAtItsOwnRatio)
     EXPECT_TRUE(same(source, copy));
 }
 
+/// Where a picture lies in memory says nothing of what it shows, nor that it is still the same one.
+TEST_F(PainterTest, APictureInTheMemoryOfAnotherIsDrawnAsItself)
+{
+    const auto plain = [](PixelSize size, std::uint32_t colour) {
+        auto picture = std::make_shared<Picture>(size);
+        std::ranges::fill(picture->pixels(), colour);
+        return picture;
+    };
+    constexpr std::uint32_t Red = 0xFFFF0000;
+    const Surface ground = white({40, 40});
+    const auto picture = plain({8, 2}, Black);
+    const auto* const memory = picture->pixels().data();
+    ground.device->PaintPicture(picture, 0, 0);
+    picture->pixels()[9] = Red;
+    ground.device->PaintPicture(picture, 0, 0);
+    EXPECT_EQ(ground.at(1, 1), Red);
+    EXPECT_EQ(ground.count(Black), 15U);
+
+    *picture = *plain({8, 2}, Hole); // now see-through
+    ground.device->PaintPicture(picture, 0, 10);
+    EXPECT_EQ(ground.at(3, 10), White);
+    *picture = *plain({2, 8}, Red); // with other edges
+    ground.device->PaintPicture(picture, 20, 0);
+    ground.device->PaintPicture(picture, 20, 10, 4, 16); // stretched
+    EXPECT_EQ(ground.count(Red), 1U + 16 + 64);
+    EXPECT_EQ(picture->pixels().data(), memory) << "all in the same place";
+}
+
 TEST_F(PainterTest, APictureMadeMuchSmallerShowsTheMeanOfItsPixels)
 {
     const Surface source = white({40, 40});

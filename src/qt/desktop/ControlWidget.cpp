@@ -94,15 +94,10 @@ ControlWidget::~ControlWidget()
     }
 }
 
-std::optional<std::size_t> ControlWidget::currentPart() const
-{
-    return control_->movesThroughParts() ? control_->currentPart() : currentPart_;
-}
-
 QRectF ControlWidget::focusPlace() const
 {
-    const auto part = currentPart();
-    return part && *part < parts().size() ? zoomed(parts()[*part].area, *control_) : QRectF(rect());
+    const bool isPart = currentPart_ && *currentPart_ < parts().size();
+    return isPart ? zoomed(parts()[*currentPart_].area, *control_) : QRectF(rect());
 }
 
 QSize ControlWidget::sizeHint() const
@@ -133,9 +128,7 @@ void ControlWidget::orderStops()
 
 void ControlWidget::modelChanged(ControlAspect aspect)
 {
-    if (aspect != ControlAspect::CurrentPart) {
-        parts_.reset();
-    }
+    parts_.reset();
     switch (aspect) {
     case ControlAspect::Picture:
         update();
@@ -168,9 +161,6 @@ void ControlWidget::modelChanged(ControlAspect aspect)
     case ControlAspect::Accessibility:
         applyFrameAspect(*this, *control_, aspect);
         tellAccessibility(*this);
-        break;
-    case ControlAspect::CurrentPart:
-        followCurrentPart();
         break;
     case ControlAspect::Visibility:
     case ControlAspect::Enabled:
@@ -260,17 +250,6 @@ void ControlWidget::followParts()
         ringed_ = focusPlace();
         QTimer::singleShot(0, this, moveFocusRing);
     }
-}
-
-// The control has moved to another part.
-void ControlWidget::followCurrentPart()
-{
-    const auto part = currentPart();
-    if (!hasFocus() || !part) {
-        return;
-    }
-    announcePart(*this, *part);
-    moveFocusRing();
 }
 
 // The control's place has changed by itself.
@@ -502,9 +481,7 @@ void ControlWidget::keyPressEvent(QKeyEvent* event)
             return;
         }
         const bool consumed = !keyPressed(*control_, *event);
-        const bool isForPart = self && !consumed && !control_->movesThroughParts() &&
-                               (moveToPart(event->key()) || activateKey(*event));
-        if (self && !consumed && !isForPart) {
+        if (self && !consumed && !moveToPart(event->key()) && !activateKey(*event)) {
             event->ignore();
         }
     });
@@ -557,9 +534,7 @@ void ControlWidget::focusOutEvent(QFocusEvent* event)
 
 void ControlWidget::showPartFocus()
 {
-    if (control_->movesThroughParts()) {
-        followCurrentPart();
-    } else if (!currentPart_) {
+    if (!currentPart_) {
         currentPart_ = nextPart(parts(), std::nullopt, Qt::Key_Right);
         moveFocusRing();
     }

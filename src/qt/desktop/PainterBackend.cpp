@@ -5,7 +5,6 @@
 #include "qt/desktop/PictureImage.h"
 #include "qt/desktop/QtFontFace.h"
 
-#include <QPainterPath>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -30,13 +29,12 @@ QPen penOf(const Stroke& stroke, double ratio)
 }
 
 // Angles run counter-clockwise from 3 o'clock on both sides.
-QPainterPath pathOf(const Arc& arc, QPointF centre, double ratio)
+void addTo(QPainterPath& path, const Arc& arc, QPointF centre, double ratio)
 {
     const QRectF box(centre.x() - arc.radiusX * ratio, centre.y() - arc.radiusY * ratio,
                      2 * arc.radiusX * ratio, 2 * arc.radiusY * ratio);
     const double start = arc.start * DegreesPerRadian;
     const double sweep = arc.sweep * DegreesPerRadian;
-    QPainterPath path;
     switch (arc.shape) {
     case Arc::Shape::Whole:
         path.addEllipse(box);
@@ -51,7 +49,6 @@ QPainterPath pathOf(const Arc& arc, QPointF centre, double ratio)
         path.closeSubpath();
         break;
     }
-    return path;
 }
 
 // None where ink and pictures are simply painted.
@@ -127,7 +124,8 @@ void PainterBackend::clip(std::optional<PixelRectangle> area)
 }
 
 // Smooth shapes are painted; holes and bitwise ink take the same shape without smoothing.
-void PainterBackend::apply(const Ink& ink, const Raster& raster, const QRectF& bounds, const Drawing& drawing)
+template <typename Shape>
+void PainterBackend::apply(const Ink& ink, const Raster& raster, const QRectF& bounds, const Shape& drawing)
 {
     const std::optional<BitMerge> merge = mergeOf(raster);
     if (!ink.cut && !merge) {
@@ -137,20 +135,24 @@ void PainterBackend::apply(const Ink& ink, const Raster& raster, const QRectF& b
         drawing(painter_);
         return;
     }
-    combine(merge, bounds.toAlignedRect().adjusted(-1, -1, 1, 1), drawing);
+    combine(merge, bounds.toAlignedRect().adjusted(-1, -1, 1, 1), std::cref(drawing));
 }
 
 void PainterBackend::fillShape(const QPainterPath& path, const Fill& fill)
 {
+    const QColor colour = toQColor(fill.ink.colour);
+    const QBrush& brush = brushes_.get(colour.rgba(), [&] { return QBrush(colour); });
     apply(fill.ink, fill.raster, path.boundingRect(),
-          [&](QPainter& painter) { painter.fillPath(path, toQColor(fill.ink.colour)); });
+          [&](QPainter& painter) { painter.fillPath(path, brush); });
 }
 
 void PainterBackend::strokeShape(const QPainterPath& path, const Stroke& stroke)
 {
     const double margin = stroke.width * ratio_;
+    const QPen& pen =
+        pens_.get({toQColor(stroke.ink.colour).rgba(), stroke.width}, [&] { return penOf(stroke, ratio_); });
     apply(stroke.ink, stroke.raster, path.boundingRect().adjusted(-margin, -margin, margin, margin),
-          [&](QPainter& painter) { painter.strokePath(path, penOf(stroke, ratio_)); });
+          [&](QPainter& painter) { painter.strokePath(path, pen); });
 }
 
 void PainterBackend::fillBox(const QRect& box, const Ink& ink, const Raster& raster)
@@ -251,19 +253,21 @@ void PainterBackend::slantedLine(PixelPoint from, PixelPoint to, const Stroke& s
         start -= half;
         end -= half;
     }
-    QPainterPath path(start);
-    path.lineTo(end);
-    strokeShape(path, stroke);
+    path_.clear();
+    path_.moveTo(start);
+    path_.lineTo(end);
+    strokeShape(path_, stroke);
 }
 
 void PainterBackend::arc(const Arc& arc, std::optional<Fill> fill, std::optional<Stroke> outline)
 {
-    const QPainterPath path = pathOf(arc, middle(arc.centre), ratio_);
+    path_.clear();
+    addTo(path_, arc, middle(arc.centre), ratio_);
     if (fill && arc.shape != Arc::Shape::Open) {
-        fillShape(path, *fill);
+        fillShape(path_, *fill);
     }
     if (outline) {
-        strokeShape(path, *outline);
+        strokeShape(path_, *outline);
     }
 }
 
@@ -273,16 +277,17 @@ void PainterBackend::polygon(std::span<const PixelPoint> points, std::optional<F
     if (points.size() < 2) {
         return;
     }
-    QPainterPath path(middle(points.front()));
+    path_.clear();
+    path_.moveTo(middle(points.front()));
     for (const PixelPoint& point : points.subspan(1)) {
-        path.lineTo(middle(point));
+        path_.lineTo(middle(point));
     }
-    path.closeSubpath();
+    path_.closeSubpath();
     if (fill) {
-        fillShape(path, *fill);
+        fillShape(path_, *fill);
     }
     if (outline) {
-        strokeShape(path, *outline);
+        strokeShape(path_, *outline);
     }
 }
 
@@ -291,7 +296,7 @@ void PainterBackend::text(PixelPoint topLeft, StringView text, const FontFace& f
     const auto& known =
         static_cast<const QtFontFace&>(face); // faces of our own metrics only, see TextMetrics
     const QPointF baseLine(topLeft.x * ratio_, std::round((topLeft.y + known.ascent()) * ratio_));
-    const Drawing drawing = [&](QPainter& painter) {
+    const auto drawing = [&](QPainter& painter) {
         painter.setPen(toQColor(ink.colour));
         drawLine(painter, baseLine, text, known);
     };
@@ -302,7 +307,7 @@ void PainterBackend::text(PixelPoint topLeft, StringView text, const FontFace& f
     // Slanted letters reach out of their boxes.
     const double reach = known.height() * ratio_;
     const QRectF box(topLeft.x * ratio_, topLeft.y * ratio_, known.width(text) * ratio_, reach);
-    combine(std::nullopt, box.adjusted(-reach, -reach, reach, reach).toAlignedRect(), drawing);
+    combine(std::nullopt, box.adjusted(-reach, -reach, reach, reach).toAlignedRect(), std::cref(drawing));
 }
 
 void PainterBackend::drawLine(QPainter& painter, QPointF baseLine, StringView text, const QtFontFace& face)
@@ -347,9 +352,10 @@ void PainterBackend::image(const Picture& picture, const PixelRectangle& source,
 {
     const QRect box = snapped(target);
     if (const auto merge = mergeOf(raster)) {
-        combine(merge, box, [&](QPainter& painter) {
+        const auto drawing = [&](QPainter& painter) {
             painter.drawImage(QRectF(box), readable(picture), heldPart(picture, source));
-        });
+        };
+        combine(merge, box, std::cref(drawing));
         return;
     }
     const double density = std::max(box.width() / source.width, box.height() / source.height);
@@ -362,15 +368,23 @@ void PainterBackend::image(const Picture& picture, const PixelRectangle& source,
 }
 
 // A picture that is drawn in itself is copied first.
-QImage PainterBackend::readable(const Picture& picture) const
+QImage PainterBackend::readable(const Picture& picture)
 {
     const bool own = this->picture().get() == &picture;
-    return own ? imageOf(picture).copy() : imageOf(picture);
+    return own ? viewOf(picture).copy() : viewOf(picture);
+}
+
+// A new view each time: the printer takes one view drawn twice for one picture, which may have changed.
+QImage PainterBackend::viewOf(const Picture& picture)
+{
+    return imageOf(picture);
 }
 
 void PainterBackend::drawSmoothly(const QImage& image, const QRectF& part, const QRect& box)
 {
-    if (part.width() > 2 * box.width() || part.height() > 2 * box.height()) {
+    if (box.size() == image.size() && part == QRectF(image.rect())) {
+        painter_.drawImage(box.topLeft(), image);
+    } else if (part.width() > 2 * box.width() || part.height() > 2 * box.height()) {
         painter_.drawImage(box, averaged(image, part, box.size()));
     } else {
         painter_.setRenderHint(QPainter::SmoothPixmapTransform, true);

@@ -1,13 +1,18 @@
 #pragma once
 
+#include "qt/desktop/Recent.h"
 #include "visual/BitMerge.h"
 #include "visual/DrawBackend.h"
 
+#include <QBrush>
 #include <QGlyphRun>
 #include <QPainter>
+#include <QPainterPath>
+#include <QPen>
 #include <QRect>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace phial::qt
@@ -57,16 +62,19 @@ protected:
     /// there is no merge. A device without pixels ignores it.
     virtual void combine(const std::optional<BitMerge>& merge, const QRect& bounds,
                          const Drawing& drawing) = 0;
+    /// The toolkit's view of the picture's memory, for one drawing.
+    virtual QImage viewOf(const Picture& picture);
 
 private:
     void fillShape(const QPainterPath& path, const Fill& fill);
     void strokeShape(const QPainterPath& path, const Stroke& stroke);
     void fillBox(const QRect& box, const Ink& ink, const Raster& raster);
-    void apply(const Ink& ink, const Raster& raster, const QRectF& bounds, const Drawing& drawing);
+    template <typename Shape>
+    void apply(const Ink& ink, const Raster& raster, const QRectF& bounds, const Shape& drawing);
     void straightLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
     void straightWideLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
     void slantedLine(PixelPoint from, PixelPoint to, const Stroke& stroke);
-    QImage readable(const Picture& picture) const;
+    QImage readable(const Picture& picture);
     void drawSmoothly(const QImage& image, const QRectF& part, const QRect& box);
     void drawLine(QPainter& painter, QPointF baseLine, StringView text, const QtFontFace& face);
     void drawTextLines(QPainter& painter, QPointF baseLine, double width, const QtFontFace& face);
@@ -77,6 +85,9 @@ private:
     std::shared_ptr<TextMetrics> metrics_;
     QPainter painter_;
     std::optional<QRect> clip_;
+    QPainterPath path_; ///< of the shape at hand; kept for its memory
+    Recent<QRgb, QBrush> brushes_;
+    Recent<std::pair<QRgb, double>, QPen> pens_; ///< by colour and width
     QGlyphRun run_;
     std::vector<QPointF> scaledPlaces_;
 };

@@ -2,6 +2,7 @@
 
 #include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/GradientImage.h"
+#include "qt/desktop/PictureImage.h"
 
 #include <cmath>
 
@@ -54,6 +55,13 @@ QRect PictureBackend::visible(const QRect& bounds) const
 {
     const QRect inside = bounds.intersected(image_.rect());
     return clipping() ? inside.intersected(*clipping()) : inside;
+}
+
+// A view is nothing but a place in memory and a size: the same ones serve whatever picture stands there now.
+QImage PictureBackend::viewOf(const Picture& picture)
+{
+    return views_.get({picture.pixels().data(), picture.columns(), picture.rows()},
+                      [&] { return imageOf(picture); });
 }
 
 // The drawing goes to a layer of its own, which tells the pixels that are meant.

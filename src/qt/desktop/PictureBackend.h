@@ -4,6 +4,10 @@
 
 #include <QImage>
 
+#include <cstddef>
+#include <cstdint>
+#include <tuple>
+
 namespace phial::qt
 {
 
@@ -20,10 +24,12 @@ public:
 
 private:
     void combine(const std::optional<BitMerge>& merge, const QRect& bounds, const Drawing& drawing) override;
+    QImage viewOf(const Picture& picture) override;
     QRect visible(const QRect& bounds) const;
 
     PicturePtr picture_;
     QImage image_;
+    Recent<std::tuple<const std::uint32_t*, std::size_t, std::size_t>, QImage> views_; ///< by memory and size
 };
 
 } // namespace phial::qt
