@@ -57,6 +57,17 @@ TEST_F(TextTest, LinesHaveWholeHeights)
     }
 }
 
+/// The heights that the real font has, whatever stands for it: layouts measure their lines by them.
+TEST_F(TextTest, ASubstituteHasTheLinesOfTheFontThatItStandsFor)
+{
+    const auto lines = [](StringView name) {
+        const auto found = face({.name = String(name), .size = 75}); // 100 pixels
+        return std::pair(found->ascent(), found->height());
+    };
+    EXPECT_EQ(lines(u"Calibri"), std::pair(95.0, 122.0));
+    EXPECT_EQ(lines(u"Tahoma"), std::pair(100.0, 121.0));
+}
+
 TEST_F(TextTest, AnUnknownNameGivesASubstitute)
 {
     FontSpec font;

@@ -54,7 +54,7 @@ struct DesignedLines {
 
 constexpr DesignedLines LinesOfFonts[] = {
     {u"Tahoma", {1.000, 0.207}},    {u"Verdana", {1.005, 0.210}}, {u"Symbol", {1.005, 0.220}},
-    {u"Wingdings", {0.898, 0.211}}, {u"Marlett", {1.000, 0.000}},
+    {u"Wingdings", {0.898, 0.211}}, {u"Marlett", {1.000, 0.000}}, {u"Calibri", {0.952, 0.269}},
 };
 
 constexpr const char* GeneralFamily = "DejaVu Sans Condensed";
