@@ -142,10 +142,11 @@ private:
         printCentred(lines.second, SecondLine);
     }
 
-    /// Names that are wider than the cell within its outline are set smaller.
+    /// Names that come too near to the cell's outline are set smaller.
     void fit(const NameLines& lines)
     {
-        const double room = cell_.area.width - 2;
+        constexpr double Margin = 2;
+        const double room = cell_.area.width - 2 * Margin;
         const double wide = std::max(device_.TextWidth(lines.first), device_.TextWidth(lines.second));
         if (wide > room) {
             device_.FontSize(device_.FontSize() * std::max(room / wide, cell_design::LeastShare));

@@ -1,6 +1,10 @@
 #include "periodic/PeriodicSheet.h"
 
+#include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
+#include "app/sys_Global.h"
 #include "chem/cls_DataElements.h"
+#include "core/RuntimeError.h"
 #include "periodic/TableLabels.h"
 #include "visual/DrawDevice.h"
 
@@ -20,6 +24,18 @@ constexpr std::array<Colour, 7> ShellColours = {
 };
 
 constexpr Colour NoElementsGround = QBColor(7); // of a tile
+
+/// The first value; none without a number there.
+std::optional<Colour> colourIn(const CoreValueList& values)
+{
+    std::optional<Colour> colour;
+    ignoringErrors([&] {
+        if (const Variant first = values.Item(1); !first.isEmpty()) {
+            colour = Colour{static_cast<std::uint32_t>(first.toWhole())};
+        }
+    });
+    return colour;
+}
 
 Colour shellColour(std::int32_t shell)
 {
@@ -43,10 +59,8 @@ CellLook SheetMarks::lookOf(StringView symbol, bool isTile) const
     look.isGrey = gone->Exists(symbol);
     look.isEmpty = isPlacing && look.isPale && !isTile;
     look.isHighlighted = symbol == highlight;
-    if (const CoreToken& frame = frames->Item(symbol); frames->Exists(symbol)) {
-        if (const Variant colour = frame.Values().Item(1); !colour.isEmpty()) {
-            ignoringErrors([&] { look.frame = Colour{static_cast<std::uint32_t>(colour.toWhole())}; });
-        }
+    if (frames->Exists(symbol)) {
+        look.frame = colourIn(frames->Item(symbol).Values());
     }
     return look;
 }
@@ -97,6 +111,9 @@ std::optional<std::size_t> PeriodicSheet::cellOf(const cls_DataElement* element)
 void PeriodicSheet::paint(DrawDevice& device, const cls_DataElement* hovered,
                           std::optional<std::int32_t> leftOut) const
 {
+    if (grid.cellWidth <= 0 || grid.cellHeight <= 0) {
+        return; // no room
+    }
     for (std::size_t cell = 0; cell < cells_.size(); ++cell) {
         paintCell(device, cell, cells_[cell].painted.element.get() == hovered);
     }
@@ -115,7 +132,7 @@ void PeriodicSheet::paintCell(DrawDevice& device, std::size_t cell, bool isHover
 {
     const ElementCell& painted = cells_[cell].painted;
     CellLook look = marks.lookOf(painted.element->SYMBOL(), false);
-    look.isHovered = isHovered;
+    look.isHovered = isHovered && !QVAPP()->CONFIG()->TOUCHMODE();
     painted.paint(device, style, look);
 }
 

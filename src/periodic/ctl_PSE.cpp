@@ -16,6 +16,7 @@
 #include "periodic/SheetMode.h"
 #include "visual/PropertyRows.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -187,7 +188,8 @@ void ctl_PSE::takeSize()
 void ctl_PSE::fitCellsToSize()
 {
     const PixelSize size = surface_.size();
-    const TableGrid fitting{size.width / TableGrid::Columns - 1, size.height / TableGrid::Rows - 1};
+    const TableGrid fitting{std::max(0.0, size.width / TableGrid::Columns - 1),
+                            std::max(0.0, size.height / TableGrid::Rows - 1)};
     if (fitting != sheet_.grid) {
         sheet_.grid = fitting;
         sheet_.tiles.layOut(sheet_.grid);

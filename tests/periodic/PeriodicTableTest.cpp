@@ -1,9 +1,12 @@
 #include "PeriodicTableTest.h"
 
+#include "app/cls_AppConfig.h"
 #include "periodic/SheetMode.h"
 #include "support/Raises.h"
 #include "support/TemporaryFolder.h"
+#include "visual/VisualHost.h"
 
+#include <cmath>
 #include <gmock/gmock-more-matchers.h>
 
 namespace phial
@@ -293,6 +296,51 @@ TEST_F(PeriodicTable, HoveringPaintsTwoCellsAndNoMore)
     EXPECT_EQ(cells(), before + 4); // "clip" and "unclip" of both
     point(17, 0);
     EXPECT_EQ(cells(), before + 4);
+}
+
+TEST_F(PeriodicTable, WhitensTheCellUnderThePointerButNotUnderAFinger)
+{
+    load();
+    drawn();
+    point(0, 0);
+    EXPECT_THAT(outside.visual().drawing(*table), HasSubstr("box 32,64 32x32 fill #FFFFFF"));
+    point(17, 0);
+    QVAPP()->CONFIG()->TOUCHMODE(true);
+    table->REDRAW();
+    drawn();
+    const std::size_t before = outside.visual().drawing(*table).size();
+    point(0, 0);
+    const std::string touched = outside.visual().drawing(*table).substr(before);
+    EXPECT_THAT(touched, HasSubstr("gradient 32,64 32x32"));
+    EXPECT_THAT(touched, Not(HasSubstr("fill #FFFFFF")));
+}
+
+TEST_F(PeriodicTable, ShowsNothingWhereItHasNoRoom)
+{
+    load();
+    table->FIXEDSIZE(true);
+    table->Move(0, 0, 10, 8);
+    EXPECT_THAT(drawn(), Not(HasSubstr("text")));
+    EXPECT_EQ(table->parts().front().area.width, 0);
+    table->Move(0, 0, 19 * 33, 12.5 * 33);
+    EXPECT_NE(cell("H"), "");
+}
+
+TEST_F(PeriodicTable, PlacesTheLinesOfANameByTheirHeight)
+{
+    {
+        const NamesSheet names;
+        load();
+    }
+    const double middle = 3.5 * TableCell; // of oxygen's row
+    const double height = visualHost().metrics().face({.name = u"Calibri", .size = 6.6})->height();
+    const std::string sauerstoff = cell("Sauer-");
+    const auto top = [&](const char* line) {
+        const std::size_t at = sauerstoff.rfind("text ", sauerstoff.find(line));
+        return std::stod(sauerstoff.substr(sauerstoff.find(',', at) + 1));
+    };
+    EXPECT_EQ(top("Sauer-"), std::trunc(middle - height / 1.3));
+    EXPECT_EQ(top("stoff"), std::trunc(middle - height / 3.8));
 }
 
 TEST_F(PeriodicTable, ClicksSoundButNotTheSameOneAgain)

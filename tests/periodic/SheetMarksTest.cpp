@@ -44,6 +44,11 @@ TEST(SheetMarks, TellGreyEmptyAndFramed)
     EXPECT_EQ(oxygen.frame, RGB(255, 0, 0));
     EXPECT_EQ(marks.lookOf(u"N", false).frame, std::nullopt);
     EXPECT_EQ(marks.lookOf(u"H", false).frame, std::nullopt);
+    marks.frames->Add(u"Fe", {});
+    marks.frames->Add(u"Cu", Variant(u"red"));
+    EXPECT_EQ(marks.lookOf(u"Fe", false).frame, std::nullopt);
+    EXPECT_EQ(marks.lookOf(u"Cu", false).frame, std::nullopt);
+    EXPECT_EQ(marks.frames->Count(), 4);
     marks.isPlacing = true;
     EXPECT_TRUE(marks.lookOf(u"N", false).isEmpty);
     EXPECT_FALSE(marks.lookOf(u"N", true).isEmpty);

@@ -54,7 +54,7 @@ protected:
 
 TEST_F(PeriodicCells, HaveRoomForEachNameNearlyAsLargeAsItShouldBe)
 {
-    constexpr double LeastShare = 0.8; // of its size
+    constexpr double LeastShare = 0.75; // of its size
     sheet.style.showsNames = true;
     for (const double edge : {32.0, 48.0, 64.0}) {
         fill(edge);
@@ -66,7 +66,7 @@ TEST_F(PeriodicCells, HaveRoomForEachNameNearlyAsLargeAsItShouldBe)
             for (const PeriodicSheet::Cell& cell : sheet.cells()) {
                 const NameLines lines = linesOf(cell.painted.element->NAME());
                 for (const String& line : {lines.first, lines.second}) {
-                    EXPECT_LE(device.TextWidth(line), cell.painted.area.width - 2)
+                    EXPECT_LE(device.TextWidth(line), cell.painted.area.width - 4)
                         << toUtf8(line) << ' ' << edge << ' ' << ratio;
                 }
             }
