@@ -370,6 +370,26 @@ TEST_F(PainterTest, ACopyTakesItsHolesAlongAtEveryRatio)
     }
 }
 
+TEST_F(PainterTest, APartPutBackWhereItWasLeavesNoTrace)
+{
+    for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        const Surface drawn = white({40, 40}, ratio);
+        drawn.device->ScaleMode(ScaleUnit::Pixels);
+        for (int line = 1; line < 40; line += 3) {
+            drawn.device->Line(line, 0, line, 40, QBColor(0));
+            drawn.device->Line(0, line, 40, line, QBColor(12));
+        }
+        const PicturePtr before = drawn.picture->copy();
+        const auto held = std::as_const(*before).pixels();
+        for (int place = 3; place < 20; ++place) {
+            drawn.device->Line(place, place, place + 15, place + 15, QBColor(9), LineShape::Filled);
+            drawn.device->PaintPicture(before, {double(place), double(place), 16, 16}, place, place, 16, 16);
+            EXPECT_TRUE(std::ranges::equal(std::as_const(*drawn.picture).pixels(), held))
+                << ratio << ' ' << place;
+        }
+    }
+}
+
 TEST_F(PainterTest, AStretchedCopyKeepsSoftEdges)
 {
     const Surface source = empty({10, 10});

@@ -64,10 +64,16 @@ std::optional<BitMerge> mergeOf(const Raster& raster)
     return BitMerge(raster.mode, hole);
 }
 
-QRectF heldPart(const Picture& picture, const PixelRectangle& part)
+/// The part of a picture's own pixels that is drawn into the box. One that is drawn in its own size begins
+/// and ends at the pixels where drawing there would.
+QRectF heldPart(const Picture& picture, const PixelRectangle& part, bool isOwnSize, const QSize& box)
 {
     const double ratio = picture.pixelRatio();
-    return {part.left * ratio, part.top * ratio, part.width * ratio, part.height * ratio};
+    const QPointF corner(part.left * ratio, part.top * ratio);
+    if (isOwnSize) {
+        return {QPointF(std::round(corner.x()), std::round(corner.y())), QSizeF(box)};
+    }
+    return {corner, QSizeF(part.width * ratio, part.height * ratio)};
 }
 
 // A painter that makes a picture smaller than half leaves pixels out.
@@ -351,9 +357,14 @@ void PainterBackend::image(const Picture& picture, const PixelRectangle& source,
                            Raster raster)
 {
     const QRect box = snapped(target);
+    const auto held = [&](const Picture& version) {
+        const bool isOwnSize =
+            source.width == target.width && source.height == target.height && version.pixelRatio() == ratio_;
+        return heldPart(version, source, isOwnSize, box.size());
+    };
     if (const auto merge = mergeOf(raster)) {
         const auto drawing = [&](QPainter& painter) {
-            painter.drawImage(QRectF(box), readable(picture), heldPart(picture, source));
+            painter.drawImage(QRectF(box), readable(picture), held(picture));
         };
         combine(merge, box, std::cref(drawing));
         return;
@@ -363,7 +374,7 @@ void PainterBackend::image(const Picture& picture, const PixelRectangle& source,
     if (raster.mode == RasterMode::Copy) {
         painter_.setCompositionMode(QPainter::CompositionMode_Source);
     }
-    drawSmoothly(readable(version), heldPart(version, source), box);
+    drawSmoothly(readable(version), held(version), box);
     painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
