@@ -70,8 +70,8 @@ MascotMoment momentOf(const Round& round)
 
 } // namespace
 
-AppMascot::AppMascot(phial::DesignedForm& form)
-    : form_(form), balloon_(form->add<phial::ctl_Bubble>(u"bub_Mascot")),
+AppMascot::AppMascot(phial::DesignedForm& form, double pageMargin)
+    : form_(form), pageMargin_(pageMargin), balloon_(form->add<phial::ctl_Bubble>(u"bub_Mascot")),
       atom_(form->add<phial::ctl_DrAtom>(u"atm_Mascot")), measure_(phial::makeControl<phial::ctl_Label>()),
       words_(static_cast<std::size_t>(phial::coreRoot().CoreTiming().Now())),
       thinking_(u"tmr_Thinking", ThinkingTime)
@@ -109,7 +109,7 @@ void AppMascot::follow()
     const double zoom = form_->Zoom();
     const Arrangement now = arrange({inner.width * zoom, inner.height * zoom});
     const double bottom = now.page.y + frame_design::PageHeight - ColumnEdge;
-    column_ = {ColumnEdge, now.header + ColumnEdge, now.page.x + frame_design::PageMargin - 2 * ColumnEdge,
+    column_ = {ColumnEdge, now.header + ColumnEdge, now.page.x + pageMargin_ - 2 * ColumnEdge,
                bottom - now.header - ColumnEdge};
     if (column_.width < AtomSize) {
         column_ = {};

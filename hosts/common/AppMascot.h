@@ -31,8 +31,9 @@ public:
         Off,
     };
 
-    /// Takes up the choice that was made last.
-    explicit AppMascot(phial::DesignedForm& form);
+    /// Takes up the choice that was made last. Of the page it may stand on what that leaves empty at its
+    /// left.
+    AppMascot(phial::DesignedForm& form, double pageMargin);
 
     static Choice choice();
 
@@ -76,6 +77,7 @@ private:
     void applyChoice();
 
     phial::DesignedForm& form_;
+    double pageMargin_;
     std::shared_ptr<phial::ctl_Bubble> balloon_;
     std::shared_ptr<phial::ctl_DrAtom> atom_;
     std::shared_ptr<phial::ctl_Label> measure_; ///< stands nowhere and tells how high a text is

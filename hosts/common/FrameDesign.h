@@ -45,7 +45,8 @@ inline constexpr double LeastFooter = 36; // its buttons are no lower
 inline constexpr double LeastTarget = 36;
 /// How much smaller and larger the design is shown.
 inline constexpr double LeastZoom = 0.75;
-/// Of the window at first where the screen has room: with room for the mascot beside the page.
+/// Of the window at first where the screen has room: with room for the mascot beside a page that leaves
+/// PageMargin empty.
 inline constexpr double WideWidth = 1080;
 inline constexpr double MostZoom = 4;
 
@@ -93,6 +94,30 @@ inline constexpr ControlDesign::Rectangle Card{32, 80, 560, 172};
 inline constexpr ControlDesign::Rectangle Answer{32, 272, 328, 64};
 inline constexpr ControlDesign::Rectangle Pad{640, 80, 228, 308};
 } // namespace TaskPlaces
+
+/// The same for an app whose task is one large board: the board, and a title beside it. The board leaves
+/// so little margin that the cells of a table of 19 by 12.5 have 32 pixels in a window of 1024 by 600 with a
+/// title bar.
+namespace BoardPlaces
+{
+inline constexpr ControlDesign::Rectangle Board{6, 6, 688, 453};
+inline constexpr ControlDesign::Rectangle Title{704, 66, 186, 50};
+} // namespace BoardPlaces
+
+/// Where a control of the frame stands on the page of tasks.
+struct Placed {
+    StringView control;
+    ControlDesign::Rectangle place;
+};
+
+/// Beside and below a board.
+inline constexpr Placed BesideBoard[] = {
+    {u"lab_Progress", {704, 8, 186, 24}},  {u"dot_Round", {704, 34, 186, 30}},
+    {u"but_Check", {704, 122, 186, 56}},   {u"but_Hint", {704, 186, 186, 48}},
+    {u"lab_Hint", {704, 240, 186, 184}},   {u"but_Reference", {704, 430, 186, 44}},
+    {u"but_Stop", {704, 482, 186, 48}},    {u"lab_Verdict", {16, 463, 28, 70}},
+    {u"lab_Feedback", {48, 463, 640, 70}}, {u"ref_Drawer", {48, 463, 640, 70}},
+};
 
 /// The card that holds the task.
 inline constexpr ControlDesign card(StringView name)

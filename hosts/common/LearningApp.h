@@ -54,6 +54,12 @@ struct TaskChoice {
     bool preferredOnly = false;
 };
 
+/// How the page of tasks is divided between the app and the frame.
+enum class TaskRoom : std::uint8_t {
+    Card,  ///< a card, an answer and a pad, see frame_design::TaskPlaces
+    Board, ///< one large board, with what the frame has beside and below it, see frame_design::BoardPlaces
+};
+
 /// What a learning app brings to the frame: its texts, its levels, the controls of its task page, and what it
 /// knows about its tasks. The frame has everything else: the window, the pages, points and tries, the
 /// classroom, lists and certificates.
@@ -79,8 +85,10 @@ public:
     /// What the teacher should mend in the app's files, in the language in force; empty for nothing.
     virtual phial::String complaint() const { return {}; }
 
-    /// The app's controls, which stand in `pan_Task` at the places that frame_design::TaskPlaces tells. The
-    /// Tab key goes through them before it comes to the frame's buttons.
+    /// What the app's controls need of the page.
+    virtual TaskRoom room() const { return TaskRoom::Card; }
+    /// The app's controls, which stand in `pan_Task` at the places that its room has for them. The Tab key
+    /// goes through them before it comes to the frame's buttons.
     virtual std::span<const phial::ControlDesign> controls() const = 0;
     /// They stand: the app finishes them. They end with the form, which outlives the app's last call.
     virtual void attach(phial::Form& form) = 0;

@@ -26,8 +26,9 @@ public:
     int begin(std::size_t level, const TaskChoice& choice);
     /// Whether a task of that text stands in one of the levels.
     bool holds(phial::StringView text) const { return learning::holds(file_, text); }
-    /// All tasks of the level that has begun.
-    const std::vector<ListedTask>& tasks() const { return file_.levels.at(level_).tasks; }
+    /// The level that has begun, and all its tasks.
+    const TaskLevel& level() const { return file_.levels.at(level_); }
+    const std::vector<ListedTask>& tasks() const { return level().tasks; }
     /// The task of the round at that position, counted from 1.
     const ListedTask& at(int position) const { return round_.at(static_cast<std::size_t>(position - 1)); }
 

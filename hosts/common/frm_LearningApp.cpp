@@ -85,6 +85,7 @@ frm_LearningApp::frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch 
     useFrameColours();
     form_.add(app_->controls());
     form_.add(frame_design::Tail);
+    makeRoom();
     buildLevels();
     layout_.emplace(*form_);
     app_->attach(*form_);
@@ -92,7 +93,7 @@ frm_LearningApp::frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch 
     summary_.emplace(*form_, app_->texts());
     sounds_.emplace(*form_);
     colours_.emplace(*form_);
-    mascot_.emplace(form_);
+    mascot_.emplace(form_, pageMargin());
     connect();
     connectClassroom();
     TRANSLATE();
@@ -106,10 +107,21 @@ void frm_LearningApp::Show()
 
 void frm_LearningApp::widen()
 {
-    const bool fits = phial::visualHost().screen().first().width >= frame_design::WideWidth;
+    const bool fits = phial::visualHost().screen().first().width >= wideWidth();
     if (fits && form_->WindowState() == phial::WindowState::Normal) {
-        form_->innerSize({frame_design::WideWidth, frame_design::Height});
+        form_->innerSize({wideWidth(), frame_design::Height});
     }
+}
+
+double frm_LearningApp::wideWidth() const
+{
+    return frame_design::WideWidth + 2 * (frame_design::PageMargin - pageMargin());
+}
+
+/// What is empty at the left of the page that has the least.
+double frm_LearningApp::pageMargin() const
+{
+    return app_->room() == TaskRoom::Board ? frame_design::BoardPlaces::Board.left : frame_design::PageMargin;
 }
 
 void frm_LearningApp::welcome()
@@ -123,6 +135,17 @@ void frm_LearningApp::welcome()
     }
     mascot_->greet(QVAPP()->USER()->SCREENNAME());
     enterClassroom();
+}
+
+/// For what the app shows on the page of tasks.
+void frm_LearningApp::makeRoom()
+{
+    if (app_->room() == TaskRoom::Board) {
+        for (const auto& [control, place] : frame_design::BesideBoard) {
+            form_->control<phial::Control>(control)->frame().pixelRectangle(
+                {place.left, place.top, place.width, place.height});
+        }
+    }
 }
 
 void frm_LearningApp::buildLevels()
@@ -517,7 +540,7 @@ void frm_LearningApp::keyDown(phial::KeyEvent& event)
     if (page_ == Page::Task && !event.is(SayAgainKey)) {
         mascot_->typed();
     }
-    const auto does = actionOf(event);
+    const auto does = isForField(event) ? nullptr : actionOf(event);
     if (!does) {
         return;
     }
@@ -525,6 +548,13 @@ void frm_LearningApp::keyDown(phial::KeyEvent& event)
     if (!event.isRepeat) {
         does();
     }
+}
+
+/// Whether what has the focus has a use for Escape.
+bool frm_LearningApp::isForField(const phial::KeyEvent& event) const
+{
+    const auto active = form_->ActiveControl();
+    return event.is(phial::Key::Escape) && active && active->wantsKey(phial::Key::Escape);
 }
 
 /// What the key does anywhere in the window; empty for a key that is the page's.

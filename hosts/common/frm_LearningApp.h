@@ -34,6 +34,8 @@ public:
     void Show();
     /// Before it is shown: makes room for the mascot where the screen has it.
     void widen();
+    /// The width that this takes at the design's height, in pixels.
+    double wideWidth() const;
     /// For the moment in which the window stands: asks who works here when no name is known yet, and logs on
     /// to the classroom. Events run meanwhile.
     void welcome();
@@ -49,6 +51,8 @@ public:
 private:
     enum class Page { Start, Task, Summary, Waiting, Missing };
 
+    double pageMargin() const;
+    void makeRoom();
     void buildLevels();
     void nameLevelButtons();
     void connect();
@@ -76,6 +80,7 @@ private:
     void finishRound();
     void judged(Verdict verdict);
     void keyDown(phial::KeyEvent& event);
+    bool isForField(const phial::KeyEvent& event) const;
     std::function<void()> actionOf(const phial::KeyEvent& event);
 
     phial::String classroomText() const;
