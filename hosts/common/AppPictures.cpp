@@ -119,6 +119,9 @@ public:
     Tour(const Tour&) = delete;
     Tour& operator=(const Tour&) = delete;
 
+    /// Of the window's inside, where it is not to be the usual one.
+    void size(phial::PixelSize size) { size_ = size; }
+
     void showRound()
     {
         makeRoomForMascot();
@@ -199,7 +202,7 @@ public:
 private:
     void makeRoomForMascot()
     {
-        window_.form().innerSize({frame_design::WideWidth, frame_design::Height});
+        window_.form().innerSize(size_.value_or(phial::PixelSize{window_.wideWidth(), frame_design::Height}));
         window_.welcome();
     }
     void press(StringView button, std::int32_t index = -1)
@@ -225,6 +228,7 @@ private:
     frm_LearningApp window_;
     const Take& take_;
     StringView language_;
+    std::optional<phial::PixelSize> size_;
 };
 
 void showMasterChoice(StringView language, const Take& take)
@@ -299,13 +303,37 @@ void showIn(phial::enm_LanguageC language, StringView name, const MakeApp& makeA
     showAbout(name, take);
 }
 
+/// A round alone.
+void showRoundIn(phial::enm_LanguageC language, StringView name, const MakeApp& makeApp, const Take& take)
+{
+    constexpr StringView States[] = {u"start", u"task", u"wrong", u"hint", u"right", u"summary"};
+    const Take takeSome = [&](StringView picture, const phial::Form& form) {
+        if (std::ranges::any_of(States, [&](StringView state) {
+                return picture == String(pictureName()).append(state).append(u"-").append(name);
+            })) {
+            take(picture, form);
+        }
+    };
+    phial::LNG()->CURRENT(language);
+    const ScratchLists lists;
+    newClassroom();
+    usersAre({u"Maxi:fuchs"});
+    QVAPP()->USER()->SCREENNAME(u"Maxi");
+    Tour tour(makeApp(), takeSome, name);
+    if (language == phial::ID_Language_German) {
+        tour.size({1024, 572});
+    }
+    tour.showRound();
+}
+
 } // namespace
 
-void showEachState(const MakeApp& makeApp, const Take& take)
+void showEachState(const MakeApp& makeApp, PictureTour tour, const Take& take)
 {
+    const auto show = tour == PictureTour::Whole ? showIn : showRoundIn;
     const phial::enm_LanguageC before = phial::LNG()->CURRENT();
-    showIn(phial::ID_Language_German, u"de", makeApp, take);
-    showIn(phial::ID_Language_English, u"en", makeApp, take);
+    show(phial::ID_Language_German, u"de", makeApp, take);
+    show(phial::ID_Language_English, u"en", makeApp, take);
     phial::LNG()->CURRENT(before);
 }
 

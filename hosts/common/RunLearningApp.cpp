@@ -5,7 +5,6 @@
 #include "app/cls_AppConfig.h"
 #include "app/cls_AppTools.h"
 #include "app/sys_Global.h"
-#include "common/AppPictures.h"
 #include "common/frm_LearningApp.h"
 #include "qt/base/MasterSearch.h"
 #include "qt/desktop/DesktopApplication.h"
@@ -38,9 +37,10 @@ int runLearningApp(int argc, char** argv, const AppIdentity& identity, const Mak
     phial::ignoringErrors([&] { app->INIT(application.commandLine()); });
 
     if (const auto folder = application.shotsFolder()) {
-        phial::qt::takeShots(*folder, [&makeApp](phial::qt::ShotBook& book) {
+        phial::qt::takeShots(*folder, [&](phial::qt::ShotBook& book) {
             showEachState(
-                makeApp, [&book](phial::StringView name, const phial::Form& form) { book.take(name, form); });
+                makeApp, identity.pictures,
+                [&book](phial::StringView name, const phial::Form& form) { book.take(name, form); });
         });
         return 0;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/AppPictures.h"
 #include "common/LearningApp.h"
 
 namespace learning
@@ -10,6 +11,7 @@ struct AppIdentity {
     phial::StringView identifier; ///< names its folders and settings
     phial::StringView name;       ///< as people read it, until the app's window says it in their language
     phial::StringView version;
+    PictureTour pictures = PictureTour::Whole; ///< that `--shots` takes
 };
 
 /// The whole of a learning app's `main`: starts the system, shows the app in its window, or draws its states
