@@ -19,9 +19,9 @@ constexpr StringView RoundBeginsTexts[] = {
     u"Viel Erfolg, {1}!|Good luck, {1}!",
 };
 constexpr StringView StreakTexts[] = {
-    u"Dreimal nacheinander sicher gerechnet!|Three in a row, all worked out right!",
+    u"Dreimal nacheinander gleich gewusst!|Three in a row, all known at once!",
     u"Drei Mal gleich richtig. Das sitzt.|Right first time, three times. You've got it.",
-    u"Sauber gerechnet, dreimal in Folge.|Neatly done, three times running.",
+    u"Sauber gelöst, dreimal in Folge.|Neatly done, three times running.",
 };
 constexpr StringView MissedTexts[] = {
     u"Halb so wild. Weiter geht es.|Never mind. On we go.",
@@ -40,7 +40,7 @@ constexpr StringView LongThinkingTexts[] = {
     u"Lies die Aufgabe noch einmal in Ruhe.|Read the task once more, calmly.",
 };
 constexpr StringView AllSolvedTexts[] = {
-    u"Alle Aufgaben gelöst. Klasse gerechnet!|All tasks solved. Great work!",
+    u"Alle Aufgaben gelöst. Klasse Arbeit!|All tasks solved. Great work!",
     u"Jede Aufgabe geschafft!|You did every task!",
 };
 constexpr StringView ManySolvedTexts[] = {

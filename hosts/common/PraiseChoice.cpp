@@ -13,7 +13,7 @@ namespace
 constexpr StringView AtOnce = u"Gleich beim ersten Versuch richtig.|Right at the first try.";
 constexpr StringView Later[] = {
     u"Drangeblieben und den Weg gefunden.|Kept at it and found the way.",
-    u"Noch einmal nachgerechnet, und es stimmt.|Worked out again, and it is right.",
+    u"Noch einmal nachgedacht, und es stimmt.|Thought about it again, and it is right.",
 };
 
 } // namespace
