@@ -1,0 +1,21 @@
+#pragma once
+
+#include "puzzle/ElementFacts.h"
+
+#include <vector>
+
+namespace puzzle
+{
+
+/// What an element's neighbours tell about its place, one line in the language in force: "Cl: steht unter
+/// Fluor, also auch 7 Außenelektronen, aber eine Schale mehr."
+phial::String trendOf(const ElementFacts& element, const ElementBook& book);
+
+/// How its place is come by: "Cl (17): Periode 3, Hauptgruppe VII".
+phial::String placeText(const ElementFacts& element);
+
+/// What a pupil has mastered who has put all these where they belong, each "German|English" and one short
+/// sentence about the work; the rarest first, at least one.
+std::vector<phial::StringView> masteredIn(const std::vector<const ElementFacts*>& elements);
+
+} // namespace puzzle
