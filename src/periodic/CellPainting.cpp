@@ -181,6 +181,20 @@ private:
         if (look_.frame) {
             paintFrame(*look_.frame);
         }
+        if (look_.isTaken) {
+            paintTaken();
+        }
+    }
+
+    /// Two lines, of which one can be seen on any ground.
+    void paintTaken()
+    {
+        const double inside = FrameWidth / 2 + 1;
+        paintFrame(Black);
+        device_.DrawWidth(2);
+        device_.Line(left_ + inside, top_ + inside, right_ - 1 - inside, bottom_ - 1 - inside, White,
+                     LineShape::Box);
+        device_.DrawWidth(1);
     }
 
     void paintFrame(Colour colour)

@@ -38,6 +38,7 @@ struct CellLook {
     bool isHovered = false;
     bool isEmpty = false; ///< a place to put a tile on: without its text
     bool isHighlighted = false;
+    bool isTaken = false;        ///< a tile that is to be put elsewhere
     std::optional<Colour> frame; ///< a further frame, upon that of the highlight
 };
 

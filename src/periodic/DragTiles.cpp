@@ -15,21 +15,25 @@ namespace
 constexpr std::int32_t TableColumns = 18;
 constexpr std::int32_t TableRows = 10;
 
-/// In the free row between the periods and the two rows below them.
-PixelRectangle homeOf(std::size_t slot, const TableGrid& grid)
-{
-    constexpr double FreeRow = 9; // of the whole grid
-    constexpr double FirstHome = 3;
-    constexpr double Distance = 1.5;
-    return grid.area(static_cast<double>(slot) * Distance + FirstHome, FreeRow, 1, 1);
-}
-
+/// The tiles' own row is none of the table.
 bool isOnTable(double column, double row)
 {
-    return column >= 0 && column < TableColumns && row >= 0 && row < TableRows;
+    return column >= 0 && column < TableColumns && row >= 0 && row < TableRows && row != DragTiles::HomeRow;
 }
 
 } // namespace
+
+double DragTiles::homeColumn(std::int32_t slot)
+{
+    constexpr double FirstHome = 3; // of the whole grid
+    constexpr double Distance = 1.5;
+    return slot * Distance + FirstHome - TableGrid::FirstColumn;
+}
+
+PixelRectangle DragTiles::homeOf(std::int32_t slot, const TableGrid& grid)
+{
+    return grid.area(homeColumn(slot) + TableGrid::FirstColumn, HomeRow + TableGrid::FirstRow, 1, 1);
+}
 
 DragTile& DragTiles::at(std::int32_t slot)
 {
@@ -50,15 +54,15 @@ DragTile* DragTiles::add(String symbol, const TableGrid& grid)
     if (free == end()) {
         return nullptr;
     }
-    *free = {
-        std::move(symbol), nullptr, homeOf(static_cast<std::size_t>(free - begin()), grid), {}, {}, false};
+    const auto slot = static_cast<std::int32_t>(free - begin());
+    *free = {std::move(symbol), nullptr, homeOf(slot, grid), {}, {}, false};
     return &*free;
 }
 
 void DragTiles::sendHome(std::int32_t slot, const TableGrid& grid)
 {
     DragTile& tile = at(slot);
-    tile.area = homeOf(static_cast<std::size_t>(slot), grid);
+    tile.area = homeOf(slot, grid);
     tile.target.reset();
     tile.droppedSymbol.clear();
     tile.isPlaced = false;
@@ -70,6 +74,13 @@ std::optional<std::int32_t> DragTiles::slotAt(PixelPoint point) const
         return !tile.symbol.empty() && tile.area.contains(point);
     });
     return held == end() ? std::nullopt : std::optional(static_cast<std::int32_t>(held - begin()));
+}
+
+std::optional<std::int32_t> DragTiles::slotOn(DragTile::Target cell) const
+{
+    const auto lying = std::find_if(
+        begin(), end(), [=](const DragTile& tile) { return !tile.symbol.empty() && tile.target == cell; });
+    return lying == end() ? std::nullopt : std::optional(static_cast<std::int32_t>(lying - begin()));
 }
 
 bool DragTiles::drop(std::int32_t slot, const TableGrid& grid)
@@ -97,8 +108,8 @@ void DragTiles::put(std::int32_t slot, DragTile::Target target, const TableGrid&
 
 void DragTiles::layOut(const TableGrid& grid)
 {
-    for (std::size_t slot = 0; slot < tiles_.size(); ++slot) {
-        DragTile& tile = tiles_[slot];
+    for (std::int32_t slot = 0; slot < Slots; ++slot) {
+        DragTile& tile = at(slot);
         tile.area = tile.target ? grid.cell(tile.target->column, tile.target->row) : homeOf(slot, grid);
     }
 }

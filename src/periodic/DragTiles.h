@@ -36,6 +36,12 @@ class DragTiles
 public:
     static constexpr std::int32_t Slots = 11;
 
+    /// The place of a slot in the free row between the periods and the two rows below them.
+    static PixelRectangle homeOf(std::int32_t slot, const TableGrid& grid);
+    /// The same by the elements' columns and rows; it stands between two columns for every second slot.
+    static double homeColumn(std::int32_t slot);
+    static constexpr std::int32_t HomeRow = 7;
+
     /// Raises 9 outside.
     DragTile& at(std::int32_t slot);
     const DragTile& at(std::int32_t slot) const;
@@ -48,8 +54,10 @@ public:
     void sendHome(std::int32_t slot, const TableGrid& grid);
     /// The slot whose tile holds the point, the lowest one first.
     std::optional<std::int32_t> slotAt(PixelPoint point) const;
-    /// Lets go of a tile where it is: it takes the cell in which its middle lies, and gives true; outside of
-    /// the table it goes home.
+    /// The slot whose tile lies on that cell, the lowest one first.
+    std::optional<std::int32_t> slotOn(DragTile::Target cell) const;
+    /// Lets go of a tile where it is: it takes the cell in which its middle lies, and gives true; in
+    /// their own row and outside of the table it goes home.
     bool drop(std::int32_t slot, const TableGrid& grid);
     /// Puts a tile on a cell.
     void put(std::int32_t slot, DragTile::Target target, const TableGrid& grid);

@@ -85,7 +85,7 @@ void PeriodicSheet::fill(cls_DataElements& table)
 void PeriodicSheet::tellTiles(const Cell& cell)
 {
     for (DragTile& tile : tiles) {
-        if (tile.target == DragTile::Target{cell.place.column, cell.place.row}) {
+        if (tile.target == cell.target()) {
             tile.droppedSymbol = cell.painted.element->SYMBOL();
             tile.isPlaced = true;
         }
@@ -123,7 +123,7 @@ void PeriodicSheet::paint(DrawDevice& device, const cls_DataElement* hovered,
     }
     for (std::int32_t slot = DragTiles::Slots - 1; slot >= 0; --slot) { // the first one on top
         if (slot != leftOut) {
-            paintTile(device, tiles.at(slot));
+            paintTile(device, slot);
         }
     }
 }
@@ -136,8 +136,9 @@ void PeriodicSheet::paintCell(DrawDevice& device, std::size_t cell, bool isHover
     painted.paint(device, style, look);
 }
 
-void PeriodicSheet::paintTile(DrawDevice& device, const DragTile& tile) const
+void PeriodicSheet::paintTile(DrawDevice& device, std::int32_t slot) const
 {
+    const DragTile& tile = tiles.at(slot);
     if (tile.symbol.empty()) {
         return;
     }
@@ -146,7 +147,9 @@ void PeriodicSheet::paintTile(DrawDevice& device, const DragTile& tile) const
         const auto own = cellOf(tile.element.get());
         cell = ElementCell::of(tile.element, tile.area, own ? cells_[*own].painted.base : NoElementsGround);
     }
-    cell.paint(device, style, marks.lookOf(tile.symbol, true));
+    CellLook look = marks.lookOf(tile.symbol, true);
+    look.isTaken = marks.taken == slot;
+    cell.paint(device, style, look);
 }
 
 } // namespace phial

@@ -22,7 +22,8 @@ struct SheetMarks {
     std::shared_ptr<CoreStringList> faded = std::make_shared<CoreStringList>(); ///< pale
     std::shared_ptr<CoreStringList> gone = std::make_shared<CoreStringList>();  ///< grey
     std::shared_ptr<CoreTokenList> frames = std::make_shared<CoreTokenList>();  ///< symbols with a colour
-    bool isPlacing = false; ///< tiles are put on: elements that are not faded are empty places
+    bool isPlacing = false;            ///< tiles are put on: elements that are not faded are empty places
+    std::optional<std::int32_t> taken; ///< the slot of a tile that is to be put elsewhere
 
     /// Whether an element is pale, a cell or a tile.
     bool isPale(StringView symbol, bool isTile) const;
@@ -37,6 +38,8 @@ public:
     struct Cell {
         ElementCell painted;
         ElementPlace place;
+
+        DragTile::Target target() const { return {place.column, place.row}; }
     };
 
     TableGrid grid;
@@ -60,7 +63,8 @@ public:
     void paint(DrawDevice& device, const cls_DataElement* hovered,
                std::optional<std::int32_t> leftOut = std::nullopt) const;
     void paintCell(DrawDevice& device, std::size_t cell, bool isHovered) const;
-    void paintTile(DrawDevice& device, const DragTile& tile) const;
+    /// Nothing for a free slot.
+    void paintTile(DrawDevice& device, std::int32_t slot) const;
 
 private:
     void tellTiles(const Cell& cell);

@@ -1,23 +1,21 @@
 #include "periodic/ctl_PSE.h"
 
 #include "app/cls_App.h"
-#include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "chem/cls_DataElements.h"
 #include "core/CoreDisplay.h"
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
+#include "core/CoreTiming.h"
 #include "core/CoreWindowOps.h"
-#include "core/Format.h"
-#include "core/NumberText.h"
 #include "mascot/ctl_Bubble.h"
 #include "media/cls_AppMedia.h"
-#include "periodic/ElementBubble.h"
 #include "periodic/SheetMode.h"
+#include "periodic/TableParts.h"
+#include "periodic/TableSpeech.h"
 #include "visual/PropertyRows.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace phial
@@ -29,23 +27,6 @@ namespace
 constexpr Colour TableGround = QBColor(15);
 constexpr StringView TableFont = u"Calibri";
 constexpr double FirstCell = 32;
-constexpr std::int32_t BubbleInterval = 100; // milliseconds
-constexpr std::int32_t BubbleTick = 5;       // at which the bubble comes
-
-String stateOf(const cls_DataElement& element)
-{
-    return element.GAS()      ? LNG()->TRANSLATE(u"Gas", u"gas")
-           : element.LIQUID() ? LNG()->TRANSLATE(u"Flüssigkeit", u"liquid")
-                              : LNG()->TRANSLATE(u"Feststoff", u"solid");
-}
-
-/// "Sauerstoff, O, 8, 16,0 Gramm pro Mol, Gas"
-String spoken(const cls_DataElement& element)
-{
-    return element.NAME() + u", " + element.SYMBOL() + u", " + plainText(element.PROTONS()) + u", " +
-           formatPattern(element.MOL(), u"#0.0") + u" " +
-           LNG()->TRANSLATE(u"Gramm pro Mol", u"grams per mole") + u", " + stateOf(element);
-}
 
 template <typename Shared>
 void share(Shared& list, Shared value)
@@ -84,11 +65,18 @@ struct ctl_PSE::Properties {
 };
 
 ctl_PSE::ctl_PSE()
-    : frame_(*this), surface_(*this), table_(std::make_unique<cls_DataElements>()),
-      bubbleTimer_(u"tmr_Bubble", BubbleInterval)
+    : frame_(*this), surface_(*this), table_(std::make_unique<cls_DataElements>()), watch_(frame_, sheet_),
+      hand_(sheet_.tiles)
 {
     sheet_.style.fontName = TableFont;
-    ticking_ = bubbleTimer_.Tick.connect([this] { bubbleTick(); });
+    frame_.canFocus(true);
+    frame_.TabStop(true);
+    frame_.takesTouch(true);
+    watching_ = watch_.Ticking.connect([this] {
+        if (hasLeft_) {
+            dropUnlessPointedAt();
+        }
+    });
     rows::start<Properties>(*this);
 }
 
@@ -152,6 +140,7 @@ void ctl_PSE::REDRAW()
 {
     sheet_.marks.highlight = highlight_;
     sheet_.marks.isPlacing = isPlacing();
+    sheet_.marks.taken = hand_.taken();
     sheet_.showsElectronStates = electronStates_;
     ground_.reset();
     if (isLoaded_) {
@@ -206,175 +195,36 @@ void ctl_PSE::fitSizeToCells()
 
 void ctl_PSE::modeChanged()
 {
-    hold_.reset();
+    hand_.letGo(sheet_.grid);
+    hand_.forget();
+    sheet_.tiles.layOut(sheet_.grid);
     hover(nullptr);
+    watch_.watch(nullptr);
     REDRAW();
 }
 
 void ctl_PSE::hidden()
 {
     hover(nullptr);
+    watch_.watch(nullptr);
 }
 
 void ctl_PSE::ended()
 {
-    hover(nullptr);
-    bubble_.reset();
+    hidden();
+    watch_.bubble(nullptr);
 }
-
-// The pointer.
-
-/// A touch brings no move before its press.
-void ctl_PSE::pointerDown(const PointerEvent& event)
-{
-    pointerMove(event);
-    if (isPlacing() && event.Button == PointerButton::Left) {
-        takeTile({event.X, event.Y});
-    }
-}
-
-void ctl_PSE::pointerMove(const PointerEvent& event)
-{
-    if (hold_) {
-        moveTile({event.X, event.Y});
-    } else if (!isPlacing()) {
-        point({event.X, event.Y});
-    }
-}
-
-void ctl_PSE::pointerUp(const PointerEvent& event)
-{
-    pointerMove(event);
-    if (hold_) {
-        dropTile();
-    } else if (event.Button == PointerButton::Left) {
-        release();
-    }
-}
-
-/// The bubble that comes beneath the pointer lets it leave as well.
-void ctl_PSE::pointerLeave()
-{
-    hasLeft_ = true;
-    dropUnlessPointedAt();
-}
-
-void ctl_PSE::dropUnlessPointedAt()
-{
-    const auto cell = sheet_.cellOf(hover_.get());
-    const CoreWindowOps& windows = coreRoot().CoreSystem().CoreWindowOps();
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    coreRoot().CoreDisplay().CursorPos(x, y);
-    const PixelPoint place{double{1} * x - windows.ScreenLeft(hWnd()),
-                           double{1} * y - windows.ScreenTop(hWnd())};
-    if (!cell || !sheet_.cells()[*cell].painted.area.contains(place)) {
-        hover(nullptr);
-    }
-}
-
-void ctl_PSE::point(PixelPoint place)
-{
-    hasLeft_ = false;
-    const auto cell = sheet_.cellAt(place);
-    hover(cell ? sheet_.cells()[*cell].painted.element : nullptr);
-    placeBubble();
-}
-
-void ctl_PSE::hover(std::shared_ptr<cls_DataElement> element)
-{
-    if (element == hover_) {
-        return;
-    }
-    const auto before = std::exchange(hover_, std::move(element));
-    repaintCellOf(before.get());
-    repaintCellOf(hover_.get());
-    if (bubble_) {
-        bubble_->Visible(false);
-    }
-    ticks_ = 0;
-    bubbleTimer_.Enabled(false); // counts from now on
-    bubbleTimer_.Enabled(hover_ && bubble_);
-}
-
-void ctl_PSE::repaintCellOf(const cls_DataElement* element)
-{
-    if (const auto cell = sheet_.cellOf(element)) {
-        sheet_.paintCell(surface_.device(), *cell, element == hover_.get());
-    }
-}
-
-void ctl_PSE::release()
-{
-    if (hover_) {
-        choose(hover_);
-    } else if (last_) {
-        CLICKOUTSIDE.emit();
-    }
-}
-
-void ctl_PSE::choose(std::shared_ptr<cls_DataElement> element)
-{
-    const auto self = weak_from_this().lock();
-    if (element == last_) {
-        CLICKAGAIN.emit(element);
-        return;
-    }
-    QVAPP()->MEDIA()->CLICK();
-    CLICK.emit(element);
-    last_ = std::move(element);
-}
-
-// The bubble.
 
 void ctl_PSE::BUBBLE(std::shared_ptr<ctl_Bubble> value)
 {
-    bubble_ = std::move(value);
-    bubbleTimer_.Enabled(hover_ && bubble_);
-}
-
-void ctl_PSE::placeBubble()
-{
-    const auto cell = sheet_.cellOf(hover_.get());
-    if (!cell || !bubble_) {
-        return;
-    }
-    const PixelRectangle now = bubble_->frame().pixelRectangle();
-    const auto place =
-        BubblePlace::beside(sheet_.cells()[*cell].painted.area, {now.width, now.height}, sheet_.corner());
-    if (bubble_->ZIPSIDE() != place.side) {
-        bubble_->ZIPSIDE(place.side);
-    }
-    // Both corners as the form has them, since the bubble may stand in another container.
-    const PixelPoint table = frame_.originOnForm();
-    const PixelPoint bubble = bubble_->frame().originOnForm();
-    bubble_->frame().pixelRectangle({now.left + table.x - bubble.x + place.corner.x,
-                                     now.top + table.y - bubble.y + place.corner.y, now.width, now.height});
-}
-
-void ctl_PSE::bubbleTick()
-{
-    if (hasLeft_) {
-        dropUnlessPointedAt();
-    }
-    if (!bubble_ || !hover_) {
-        ticks_ = 0;
-        bubbleTimer_.Enabled(false);
-        return;
-    }
-    if (++ticks_ == BubbleTick) {
-        bubble_->TEXT(bubbleText(*hover_));
-        placeBubble();
-        bubble_->Visible(true);
-        bubble_->frame().ZOrder();
-    }
+    watch_.bubble(std::move(value));
 }
 
 // Tiles.
 
 void ctl_PSE::DRAGCLEAR()
 {
-    hold_.reset();
+    hand_.forget();
     sheet_.tiles.clear();
 }
 
@@ -391,61 +241,29 @@ void ctl_PSE::DRAGADD(StringView pSymbol)
 
 void ctl_PSE::DRAGRESET(std::int32_t pI)
 {
+    hand_.forget(pI);
     sheet_.tiles.sendHome(pI, sheet_.grid);
     REDRAW();
 }
 
-void ctl_PSE::takeTile(PixelPoint pointer)
-{
-    if (const auto slot = sheet_.tiles.slotAt(pointer)) {
-        const PixelRectangle& area = sheet_.tiles.at(*slot).area;
-        hold_ = {*slot, {pointer.x - area.left, pointer.y - area.top}};
-    }
-}
-
-/// What the tile has covered is painted again, from a picture of the table without it.
-void ctl_PSE::moveTile(PixelPoint pointer)
-{
-    DragTile& tile = sheet_.tiles.at(hold_->slot);
-    DrawDevice& device = surface_.device();
-    if (!ground_) {
-        device.Cls();
-        sheet_.paint(device, nullptr, hold_->slot);
-        ground_ = device.Image()->copy();
-    } else {
-        device.PaintPicture(ground_, tile.area, tile.area.left, tile.area.top, tile.area.width,
-                            tile.area.height);
-    }
-    tile.area.left = std::round(pointer.x - hold_->at.x);
-    tile.area.top = std::round(pointer.y - hold_->at.y);
-    sheet_.paintTile(device, tile);
-}
-
-void ctl_PSE::dropTile()
-{
-    const std::int32_t slot = std::exchange(hold_, std::nullopt)->slot;
-    sheet_.tiles.drop(slot, sheet_.grid);
-    REDRAW();
-}
-
-// For screen readers and the keyboard.
+// For screen readers.
 
 std::vector<NamedPart> ctl_PSE::parts() const
 {
-    constexpr std::int32_t Periods = 7; // behind them is a free row, which has no number
-    std::vector<NamedPart> all;
-    for (const PeriodicSheet::Cell& cell : sheet_.cells()) {
-        const std::int32_t row = cell.place.row < Periods ? cell.place.row + 1 : cell.place.row;
-        all.push_back({cell.painted.area, PartRole::Cell, spoken(*cell.painted.element),
-                       LNG()->TRANSLATE(u"Drücken", u"Press"), PartState{}, row, cell.place.column + 1});
-    }
-    return all;
+    return partsOf(sheet_);
 }
 
 void ctl_PSE::activatePart(std::size_t part)
 {
-    if (part < sheet_.cells().size()) {
-        choose(sheet_.cells()[part].painted.element);
+    if (const auto slot = slotOfPart(sheet_, part)) {
+        finish(hand_.choose(*slot, sheet_.grid));
+    } else if (part < sheet_.cells().size()) {
+        const PeriodicSheet::Cell& cell = sheet_.cells()[part];
+        if (isPlacing()) {
+            finish(hand_.choose(cell.target(), sheet_.grid));
+        } else {
+            choose(cell.painted.element);
+        }
     }
 }
 

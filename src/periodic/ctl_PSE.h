@@ -1,8 +1,10 @@
 #pragma once
 
+#include "periodic/ElementWatch.h"
 #include "periodic/PeriodicSheet.h"
+#include "periodic/TableCursor.h"
+#include "periodic/TileHand.h"
 #include "visual/PaintSurface.h"
-#include "visual/Timer.h"
 #include "visual/UserControl.h"
 
 #include <memory>
@@ -24,6 +26,12 @@ enum class enm_PSEMode : std::int32_t {
 /// the pointer and of clicks, and takes tiles for exercises. Its elements are of its own; before LOAD it
 /// shows its ground alone.
 ///
+/// **Keys** move a cursor over cells and tiles (TableCursor): arrows, Home, End, letters. Enter or the space
+/// bar press what it stands on, and Escape ends the bubble. In place mode Enter takes a tile and puts it on a
+/// cell, Escape lets it go, Delete and Backspace send the one at the cursor home. **Tiles** are dragged, or
+/// taken by a tap and put down by another (TileHand). A **finger** that rests on an element opens the bubble
+/// instead of pressing.
+///
 /// Lists of symbols are shared with the host, which calls REDRAW when it has changed one. REDRAW works out
 /// the cells at once and marks the control for painting.
 ///
@@ -43,7 +51,7 @@ public:
     void LOAD(StringView pFile);
     /// The bubble that tells of an element when the pointer has rested on it for half a second. None at
     /// first.
-    std::shared_ptr<ctl_Bubble> BUBBLE() const { return bubble_; }
+    std::shared_ptr<ctl_Bubble> BUBBLE() const { return watch_.bubble(); }
     void BUBBLE(std::shared_ptr<ctl_Bubble> value);
     /// Symbols that are drawn pale; in place mode those that are not. Null raises 91, as for the next two.
     std::shared_ptr<CoreStringList> FADED() const { return sheet_.marks.faded; }
@@ -81,6 +89,9 @@ public:
     Event<const std::shared_ptr<cls_DataElement>&> CLICK;
     Event<const std::shared_ptr<cls_DataElement>&> CLICKAGAIN;
     Event<> CLICKOUTSIDE;
+    /// The user has put the tile of that slot elsewhere, by drag, tap or key: onto the table, where
+    /// DRAGSYMBOLDROP tells the element, or home.
+    Event<std::int32_t> DROPPED;
 
     StringView typeName() const override { return u"ctl_PSE"; }
     MemberTable members() const override;
@@ -89,6 +100,8 @@ public:
     PartRole role() const override { return PartRole::Table; }
     std::vector<NamedPart> parts() const override;
     void activatePart(std::size_t part) override;
+    bool movesThroughParts() const override { return true; }
+    std::optional<std::size_t> currentPart() const override;
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
     void resized() override;
@@ -99,15 +112,13 @@ public:
     void pointerMove(const PointerEvent& event) override;
     void pointerUp(const PointerEvent& event) override;
     void pointerLeave() override;
+    void keyDown(KeyEvent& event) override;
+    void keyPress(KeyPressEvent& event) override;
+    bool wantsKey(Key key) const override;
+    void lostFocus() override;
 
 private:
     struct Properties;
-    /// The tile in the hand, and where it is held, from its corner.
-    struct Hold {
-        std::int32_t slot = 0;
-        PixelPoint at;
-    };
-
     void import(StringView file);
     void takeSize();
     void fitCellsToSize();
@@ -115,6 +126,7 @@ private:
     void modeChanged();
     bool isPlacing() const { return mode_ == enm_PSEMode::ID_PSEMode_Place; }
 
+    bool isOtherFinger(const PointerEvent& event) const;
     void point(PixelPoint place);
     void dropUnlessPointedAt();
     void hover(std::shared_ptr<cls_DataElement> element);
@@ -122,12 +134,19 @@ private:
     void release();
     void choose(std::shared_ptr<cls_DataElement> element);
 
-    void placeBubble();
-    void bubbleTick();
-
-    void takeTile(PixelPoint pointer);
     void moveTile(PixelPoint pointer);
-    void dropTile();
+    void releaseTile(const PointerEvent& event);
+    std::optional<DragTile::Target> placeAt(PixelPoint pointer) const;
+    void finish(const TileHand::Act& act);
+
+    std::optional<std::size_t> cursorAmong(std::span<const CursorStop> stops) const;
+    std::optional<CursorStop> cursorStop() const;
+    void putCursor(const CursorStop& stop);
+    void reach(const CursorStop& stop);
+    bool moveCursor(CursorStep step);
+    bool pressCursor();
+    bool escape();
+    bool sendCursorHome();
 
     ControlFrame frame_;
     PaintSurface surface_;
@@ -142,13 +161,14 @@ private:
 
     std::shared_ptr<cls_DataElement> hover_;
     std::shared_ptr<cls_DataElement> last_; ///< clicked
-    std::shared_ptr<ctl_Bubble> bubble_;
-    Timer bubbleTimer_;
-    Connection ticking_;
-    std::int32_t ticks_ = 0; ///< since the pointer came to hover_
-    bool hasLeft_ = false;   ///< the pointer, as far as is known
-    std::optional<Hold> hold_;
-    PicturePtr ground_; ///< while a tile is moved: the table without it
+    ElementWatch watch_;
+    Connection watching_;
+    bool hasLeft_ = false;               ///< the pointer, as far as is known
+    std::optional<std::int32_t> finger_; ///< that is down; 0 for the mouse
+    TileHand hand_;
+    PicturePtr ground_;                ///< while a tile is moved: the table without it
+    std::optional<CursorStop> cursor_; ///< of the keys; none until they or a press come
+    LetterSearch letters_;
 };
 
 } // namespace phial

@@ -15,6 +15,7 @@ enum class ControlAspect : std::int32_t {
     Pointer,
     ToolTip,
     Accessibility, ///< names, roles, states or rectangles, of the control or of its parts
+    CurrentPart,   ///< the user has reached another of its parts
     Announcement,  ///< screen readers are to say the frame's announcement
     Touch,         ///< whether it takes touch
     Children,

@@ -4,6 +4,7 @@
 #include "visual/PropertyBag.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace phial
@@ -57,6 +58,11 @@ public:
     virtual std::vector<NamedPart> parts() const { return {}; }
     /// Does the part's action, as a click would.
     virtual void activatePart(std::size_t /*part*/) {}
+    /// Whether its own keys move through the parts; an adapter does so otherwise, by the parts' places.
+    virtual bool movesThroughParts() const { return false; }
+    /// For such a control: the part that has the focus while the control has it; none for the control as a
+    /// whole. ControlAspect::CurrentPart tells that the user has moved it.
+    virtual std::optional<std::size_t> currentPart() const { return std::nullopt; }
     /// The role of the control as a whole, where its frame has no other.
     virtual PartRole role() const { return PartRole::Graphic; }
 

@@ -94,10 +94,15 @@ ControlWidget::~ControlWidget()
     }
 }
 
+std::optional<std::size_t> ControlWidget::currentPart() const
+{
+    return control_->movesThroughParts() ? control_->currentPart() : currentPart_;
+}
+
 QRectF ControlWidget::focusPlace() const
 {
-    const bool isPart = currentPart_ && *currentPart_ < parts().size();
-    return isPart ? zoomed(parts()[*currentPart_].area, *control_) : QRectF(rect());
+    const auto part = currentPart();
+    return part && *part < parts().size() ? zoomed(parts()[*part].area, *control_) : QRectF(rect());
 }
 
 QSize ControlWidget::sizeHint() const
@@ -128,7 +133,9 @@ void ControlWidget::orderStops()
 
 void ControlWidget::modelChanged(ControlAspect aspect)
 {
-    parts_.reset();
+    if (aspect != ControlAspect::CurrentPart) {
+        parts_.reset();
+    }
     switch (aspect) {
     case ControlAspect::Picture:
         update();
@@ -161,6 +168,9 @@ void ControlWidget::modelChanged(ControlAspect aspect)
     case ControlAspect::Accessibility:
         applyFrameAspect(*this, *control_, aspect);
         tellAccessibility(*this);
+        break;
+    case ControlAspect::CurrentPart:
+        followCurrentPart();
         break;
     case ControlAspect::Visibility:
     case ControlAspect::Enabled:
@@ -250,6 +260,17 @@ void ControlWidget::followParts()
         ringed_ = focusPlace();
         QTimer::singleShot(0, this, moveFocusRing);
     }
+}
+
+// The control has moved to another part.
+void ControlWidget::followCurrentPart()
+{
+    const auto part = currentPart();
+    if (!hasFocus() || !part) {
+        return;
+    }
+    announcePart(*this, *part);
+    moveFocusRing();
 }
 
 // The control's place has changed by itself.
@@ -481,7 +502,9 @@ void ControlWidget::keyPressEvent(QKeyEvent* event)
             return;
         }
         const bool consumed = !keyPressed(*control_, *event);
-        if (self && !consumed && !moveToPart(event->key()) && !activateKey(*event)) {
+        const bool isForPart = self && !consumed && !control_->movesThroughParts() &&
+                               (moveToPart(event->key()) || activateKey(*event));
+        if (self && !consumed && !isForPart) {
             event->ignore();
         }
     });
@@ -534,7 +557,9 @@ void ControlWidget::focusOutEvent(QFocusEvent* event)
 
 void ControlWidget::showPartFocus()
 {
-    if (!currentPart_) {
+    if (control_->movesThroughParts()) {
+        followCurrentPart();
+    } else if (!currentPart_) {
         currentPart_ = nextPart(parts(), std::nullopt, Qt::Key_Right);
         moveFocusRing();
     }

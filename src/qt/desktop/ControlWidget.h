@@ -64,8 +64,8 @@ public:
     /// The control's named parts, asked for once a change.
     const std::vector<NamedPart>& parts() const;
 
-    /// The part that the arrow keys have reached; none until the keyboard is used.
-    std::optional<std::size_t> currentPart() const { return currentPart_; }
+    /// The part that the keys have reached; none until the keyboard is used.
+    std::optional<std::size_t> currentPart() const;
 
     /// Where the focus is within the widget while it has it: that part, or all of it.
     QRectF focusPlace() const;
@@ -115,6 +115,7 @@ private:
     bool moveToPart(int key);
     bool activateKey(const QKeyEvent& event);
     void followParts();
+    void followCurrentPart();
     void beginDrag();
 
     std::shared_ptr<UserControl> control_;

@@ -118,6 +118,7 @@ void NativePeer::show(ControlAspect aspect)
     case ControlAspect::Children: // of painted controls
     case ControlAspect::Touch:
     case ControlAspect::Announcement:
+    case ControlAspect::CurrentPart:
     case ControlAspect::Drag:
         break;
     }

@@ -117,6 +117,7 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)
     case ControlAspect::Range:
     case ControlAspect::Value:
     case ControlAspect::Picture:
+    case ControlAspect::CurrentPart:
     case ControlAspect::TextEntry:
     case ControlAspect::Touch:
     case ControlAspect::Drag:
