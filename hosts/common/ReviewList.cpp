@@ -104,8 +104,8 @@ String ReviewList::workingText() const
     }
     const bool tells =
         std::ranges::any_of(tasks_, [](const ReviewedTask& task) { return !task.working.empty(); });
-    return tells ? translate(u"Wähle eine Aufgabe, dann siehst du hier den Rechenweg.",
-                             u"Choose a task to see here how it is worked out.")
+    return tells ? translate(u"Wähle eine Aufgabe, dann siehst du hier die Lösung.",
+                             u"Choose a task to see its solution here.")
                  : String();
 }
 

@@ -177,7 +177,7 @@ TEST_F(TrainerResult, ShowsTheWorkingOfTheChosenTask)
     open();
     expectRankBox();
     playRound();
-    EXPECT_EQ(seen(u"lab_Working"), u"Wähle eine Aufgabe, dann siehst du hier den Rechenweg.");
+    EXPECT_EQ(seen(u"lab_Working"), u"Wähle eine Aufgabe, dann siehst du hier die Lösung.");
     reviewed()->inputChoice(1);
     EXPECT_EQ(seen(u"lab_Working"), u"H\u2082O:<br>2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
     EXPECT_EQ(reviewed()->frame().announcement(),
