@@ -191,7 +191,7 @@ TEST_F(TrainerResult, ShowsTheWorkingOfTheChosenTask)
     touch(u"but_Again");
     expectRankBox();
     playRound();
-    EXPECT_EQ(seen(u"lab_Working"), u"Choose a task to see here how it is worked out.");
+    EXPECT_EQ(seen(u"lab_Working"), u"Choose a task to see its solution here.");
 }
 
 TEST_F(TrainerResult, TheTasksAreReachedByTab)
