@@ -3,6 +3,7 @@
 #include "common/FrameTexts.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace puzzle
 {
@@ -56,6 +57,9 @@ struct PlacePraise {
     bool (*fits)(const Elements& elements);
     StringView text;
 };
+
+/// There is room for so many lines.
+constexpr std::size_t MostLines = 3;
 
 constexpr PlacePraise Praises[] = {
     {[](const Elements& elements) {
@@ -116,10 +120,29 @@ String trendOf(const ElementFacts& element, const ElementBook& book)
                      {element.symbol});
 }
 
+String trendsText(const Elements& elements, const ElementBook& book)
+{
+    String lines;
+    for (const ElementFacts* const element : elements | std::views::take(MostLines)) {
+        lines += (lines.empty() ? String() : String(u"<br>")) + trendOf(*element, book);
+    }
+    return lines;
+}
+
 String placeText(const ElementFacts& element)
 {
     return translate(u"{1} ({2}): Periode {3}, {4}", u"{1} ({2}): period {3}, {4}",
                      {element.symbol, number(element.protons), number(element.period()), groupOf(element)});
+}
+
+String placesText(const Elements& elements)
+{
+    const StringView separator = elements.size() > MostLines ? u"; " : u"<br>";
+    String text;
+    for (const ElementFacts* const element : elements) {
+        text += (text.empty() ? String() : String(separator)) + placeText(*element);
+    }
+    return text;
 }
 
 std::vector<StringView> masteredIn(const Elements& elements)

@@ -59,11 +59,11 @@ constexpr phial::ControlDesign Controls[] = {
         .set(u"PlainText", true),
 };
 
-/// Between blanks that do not break a symbol is none of the table's elements, so that its tile shows it
+/// With a blank of no width behind it the symbol is none of the table's elements, so that its tile shows it
 /// without protons and mass.
 String bare(const String& symbol)
 {
-    return u'\u00A0' + symbol + u'\u00A0';
+    return symbol + u'\u200B';
 }
 
 std::int32_t slotOf(std::size_t tile)
@@ -209,6 +209,11 @@ Puzzle::Obstacle Puzzle::obstacle() const
     return Obstacle::None;
 }
 
+bool Puzzle::isSolved() const
+{
+    return std::ranges::all_of(tiles_, &Tile::isConfirmed);
+}
+
 Judgement Puzzle::judge()
 {
     if (obstacle() != Obstacle::None) {
@@ -217,17 +222,21 @@ Judgement Puzzle::judge()
     for (std::size_t slot = 0; slot < tiles_.size(); ++slot) {
         tiles_[slot].judged.push_back(placeOf(slot));
     }
-    return std::ranges::all_of(tiles_, &Tile::isConfirmed) ? Judgement::Right : Judgement::Wrong;
+    return isSolved() ? Judgement::Right : Judgement::Wrong;
 }
 
-/// Tiles that lie where they were found wrong go home; what has been moved since stays.
+/// Tiles that lie where they were found wrong go home; what has been moved since stays. Those that were found
+/// right are marked.
 void Puzzle::retry()
 {
     for (std::size_t slot = 0; slot < tiles_.size(); ++slot) {
-        if (!tiles_[slot].isConfirmed() && tiles_[slot].lies(placeOf(slot))) {
+        if (tiles_[slot].isConfirmed()) {
+            frame(tiles_[slot], phial::Palette::Right);
+        } else if (tiles_[slot].lies(placeOf(slot))) {
             table_->DRAGRESET(slotOf(slot));
         }
     }
+    table_->REDRAW();
 }
 
 /// The table shows the elements of the task where they belong.
@@ -239,24 +248,25 @@ void Puzzle::close()
         empty_.erase(tile.element->protons);
     }
     showGuides();
-    frameSolution();
-}
-
-void Puzzle::frameSolution()
-{
-    const bool isSolved = std::ranges::all_of(tiles_, &Tile::isConfirmed);
-    const phial::Colour colour = isSolved ? phial::Palette::Right : phial::Palette::Accent;
     for (const Tile& tile : tiles_) {
-        table_->HIGHLIGHTS()->Add(tile.element->symbol, static_cast<std::int32_t>(colour.value));
+        frame(tile, isSolved() ? phial::Palette::Right : phial::Palette::Accent);
     }
     table_->REDRAW();
+}
+
+/// The tile and the place where it belongs, which it lies on.
+void Puzzle::frame(const Tile& tile, phial::Colour colour)
+{
+    for (const String& symbol : {tile.element->symbol, bare(tile.element->symbol)}) {
+        table_->HIGHLIGHTS()->Add(symbol, static_cast<std::int32_t>(colour.value));
+    }
 }
 
 // What the pupil reads.
 
 String Puzzle::solution() const
 {
-    if (!std::ranges::all_of(tiles_, &Tile::isConfirmed)) {
+    if (!isSolved()) {
         return translate(u"die umrandeten Plätze", u"The framed places");
     }
     return tiles_.size() == 1 ? translate(u"Am richtigen Platz", u"In the right place")
@@ -281,15 +291,13 @@ String Puzzle::unreadable() const
 
 String Puzzle::hint() const
 {
-    constexpr int MostLines = 3;
-    String lines;
-    int count = 0;
+    std::vector<const ElementFacts*> open;
     for (const Tile& tile : tiles_) {
-        if (!tile.isConfirmed() && count++ < MostLines) {
-            lines += (lines.empty() ? String() : String(u"<br>")) + trendOf(*tile.element, data_.elements);
+        if (!tile.isConfirmed()) {
+            open.push_back(tile.element);
         }
     }
-    return lines;
+    return trendsText(open, data_.elements);
 }
 
 String Puzzle::remark() const
@@ -317,11 +325,7 @@ String Puzzle::support() const
 
 String Puzzle::working() const
 {
-    String lines;
-    for (const Tile& tile : tiles_) {
-        lines += (lines.empty() ? String() : String(u"<br>")) + placeText(*tile.element);
-    }
-    return lines;
+    return placesText(elementsOf(task_.text, data_.elements));
 }
 
 std::vector<phial::StringView> Puzzle::mastered() const

@@ -64,7 +64,8 @@ private:
     Obstacle obstacle() const;
     void showTiles();
     void showGuides();
-    void frameSolution();
+    bool isSolved() const;
+    void frame(const Tile& tile, phial::Colour colour);
     void put(std::size_t slot, const ElementFacts& place);
     const ElementFacts& wrongPlaceFor(const Tile& tile) const;
 

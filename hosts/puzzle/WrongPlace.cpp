@@ -41,12 +41,16 @@ constexpr auto LookAlikes = std::to_array<std::pair<StringView, StringView>>({
 constexpr int NearPlaces = 2;
 
 /// How many places of its row an element stands from another one of that row. The fourteen below the table
-/// stand between two neighbours.
+/// stand between two neighbours, and the first period lacks six main groups.
 int placesBetween(const ElementFacts& from, const ElementFacts& to)
 {
     constexpr int Below = 14;
     constexpr int LanthanumColumn = 2;
+    constexpr int MainGroups = 8;
     const int difference = to.protons - from.protons;
+    if (from.period() == 1) {
+        return difference * (MainGroups - 1);
+    }
     const bool isLong = !from.isBelow() && from.period() > 5;
     const bool jumps = (from.place.column > LanthanumColumn) != (to.place.column > LanthanumColumn);
     return isLong && jumps ? difference - (difference > 0 ? Below : -Below) : difference;

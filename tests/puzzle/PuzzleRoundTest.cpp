@@ -15,7 +15,9 @@ using phial::StringView;
 constexpr int Carbon = 6;
 constexpr int Fluorine = 9;
 constexpr int Sodium = 11;
+constexpr int Sulfur = 16;
 constexpr int Chlorine = 17;
+constexpr int Potassium = 19;
 
 class PuzzleRound : public PuzzleTest
 {
@@ -27,6 +29,13 @@ protected:
         open(TwoTasks);
         touch(u"but_Level", level);
     }
+    /// Puts the only tile of the empty table there, and has it judged.
+    void tryPlace(int protons)
+    {
+        drag(0, protons);
+        touch(u"but_Check");
+    }
+    String said() { return form().control<phial::ctl_Label>(u"lab_Feedback")->frame().announcement(); }
 };
 
 TEST_F(PuzzleRound, IsPlayedByDragging)
@@ -74,7 +83,151 @@ TEST_F(PuzzleRound, LeavesWhatIsRightAndSendsTheRestHome)
               u"Cl: gleiche Periode, aber 6 Gruppen weiter rechts.<br>Du hast noch 2 Versuche.");
     EXPECT_EQ(table().DRAGSYMBOLDROP(0), u"F");
     EXPECT_EQ(table().DRAGSYMBOLDROP(1), u"");
+    EXPECT_TRUE(table().HIGHLIGHTS()->Exists(u"F"));
+    EXPECT_FALSE(table().HIGHLIGHTS()->Exists(u"Cl")) << "a frame would tell where it belongs";
     EXPECT_EQ(focused(), u"pse_Table");
+}
+
+TEST_F(PuzzleRound, EndsATaskAfterThreeWrongPlacesAndShowsTheRightOne)
+{
+    begin(1);
+    tryPlace(Sodium);
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"K: gleiche Gruppe, aber eine Periode tiefer.<br>Du hast noch 2 Versuche.");
+    EXPECT_EQ(seen(u"lab_Hint"), u"");
+    tryPlace(Sulfur);
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"K ist ein Metall. Die meisten stehen links und in der Mitte.<br>Du hast noch einen Versuch.");
+    EXPECT_EQ(seen(u"lab_Hint"), u"Zahl der Protonen: K 19. In dieser Ordnung stehen sie im Periodensystem.");
+    EXPECT_FALSE(table().FADED()->Exists(u"K"));
+    tryPlace(Chlorine);
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Schade. Richtig wären die umrandeten Plätze.");
+    EXPECT_EQ(seen(u"lab_Hint"), u"K (19): Periode 4, Hauptgruppe I");
+    EXPECT_TRUE(table().FADED()->Exists(u"K")) << "the table shows it now";
+    EXPECT_TRUE(table().HIGHLIGHTS()->Exists(u"K"));
+    EXPECT_EQ(table().DRAGSYMBOL(0), u"") << "there is nothing left to be moved";
+    EXPECT_EQ(focused(), u"but_Check");
+}
+
+TEST_F(PuzzleRound, AsksWhatWasMissedOnceMore)
+{
+    begin(1);
+    for (const int wrong : {Sodium, Sulfur, Chlorine}) {
+        tryPlace(wrong);
+    }
+    expectRankBox();
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Result"), u"0 von 10 Punkten");
+    touch(u"but_Missed");
+    EXPECT_EQ(seen(u"lab_Progress"), u"Aufgabe 1 von 1");
+    EXPECT_FALSE(table().FADED()->Exists(u"K"));
+    tryPlace(Potassium);
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Rank"), u"Diese Runde war zum Üben, sie zählt in keiner Liste.");
+    touch(u"but_Again");
+    EXPECT_EQ(seen(u"lab_Remembered"), u"") << "it has been learnt";
+}
+
+TEST_F(PuzzleRound, CostsNoTryWhenTheSamePlaceIsTriedAgain)
+{
+    begin(1);
+    tryPlace(Sodium);
+    tryPlace(Sodium);
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Das hattest du schon. Versuche es anders.");
+    EXPECT_EQ(table().DRAGSYMBOLDROP(0), u"") << "it went home all the same";
+    tryPlace(Potassium);
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"7 Punkte für dich"));
+}
+
+TEST_F(PuzzleRound, WaitsUntilEachTileIsPlaced)
+{
+    begin(1);
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Lege erst jedes Kärtchen auf einen grauen Platz.");
+    drag(home(0), {grid().cell(8, 1).left + 9, grid().cell(8, 1).top + 9}); // no element stands there
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Lege erst jedes Kärtchen auf einen grauen Platz.");
+}
+
+TEST_F(PuzzleRound, TakesOneTileAPlace)
+{
+    open("[leer] Leer | Empty\nF Cl\n");
+    touch(u"but_Level", 0);
+    drag(0, Fluorine);
+    drag(1, Fluorine);
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Auf jeden Platz gehört nur ein Kärtchen.");
+}
+
+TEST_F(PuzzleRound, TellsTheTrendsOfNeighboursAsHint)
+{
+    begin(1);
+    drag(0, Sodium); // not judged yet
+    type(u"{f1}");
+    EXPECT_EQ(seen(u"lab_Hint"),
+              u"K: steht unter Natrium, also auch ein Außenelektron, aber eine Schale mehr.");
+    EXPECT_EQ(table().DRAGSYMBOLDROP(0), u"Na") << "what lies there unjudged stays";
+    drag(place(Sodium), place(Potassium));
+    touch(u"but_Check");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"7 Punkte für dich"));
+}
+
+TEST_F(PuzzleRound, TellsProtonsOnTilesOfTheFirstLevelAlone)
+{
+    begin(0);
+    EXPECT_EQ(table().DRAGSYMBOL(0), u"Na");
+    answerLeaving();
+    type(u"{esc}");
+    touch(u"but_Level", 1);
+    EXPECT_EQ(table().DRAGSYMBOL(0), u"K\u200B") << "which is none of the table's elements";
+}
+
+TEST_F(PuzzleRound, IsSpokenToScreenReaders)
+{
+    begin(1);
+    EXPECT_EQ(said(), u"Aufgabe 1 von 1\nK");
+    tryPlace(Sodium);
+    EXPECT_EQ(said(), u"K: gleiche Gruppe, aber eine Periode tiefer.\nDu hast noch 2 Versuche.");
+    tryPlace(Potassium);
+    EXPECT_EQ(said(), u"Richtig! Am richtigen Platz, 7 Punkte für dich.\nJedes Kärtchen am "
+                      u"richtigen Platz.\nK (19): Periode 4, Hauptgruppe I");
+}
+
+TEST_F(PuzzleRound, GoesOnInTheOtherLanguage)
+{
+    begin(0);
+    drag(0, Sodium);
+    touch(u"but_Language");
+    EXPECT_EQ(seen(u"lab_Theme"), u"sodium");
+    EXPECT_EQ(table().DRAGSYMBOLDROP(0), u"Na");
+    EXPECT_EQ(focused(), u"pse_Table");
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Feedback"),
+              u"Right! In the right place, 10 points for you.<br>Each tile in its right place.");
+    EXPECT_EQ(seen(u"lab_Hint"), u"Na (11): period 3, main group I");
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Theme"), u"Halogens");
+    drag(0, Chlorine);
+    drag(1, Sodium);
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"F: same group, but one period higher.<br>You have 2 tries left.");
+}
+
+TEST_F(PuzzleRound, TellsWhatIsMissing)
+{
+    makeTree(u"installed\\");
+    openHere();
+    EXPECT_TRUE(contains(seen(u"lab_Missing"), u"elements2.dat"));
+}
+
+TEST_F(PuzzleRound, TellsTheTeacherWhichLineIsWrong)
+{
+    open("[nachbarn] Anfang | Start\nNa\nNa Xy\n");
+    EXPECT_EQ(seen(u"lab_Complaint"),
+              u"Für die Lehrkraft: kaertchen.txt, Zeile 3: „Na Xy“ enthält ein unbekanntes "
+              u"Element und wurde ausgelassen.");
+    open("[nachbarn] Anfang | Start\n");
+    EXPECT_TRUE(contains(seen(u"lab_Missing"), u"kaertchen.txt"));
 }
 
 } // namespace

@@ -44,7 +44,7 @@ protected:
         const auto data = folder.native() / "installed/Resources/data";
         std::filesystem::create_directories(data);
         std::filesystem::copy_file(phial::test::treeFolder() / "Resources/data/elements2.dat",
-                                   data / "elements2.dat");
+                                   data / "elements2.dat", std::filesystem::copy_options::overwrite_existing);
         folder.write("installed/apps/Puzzle/data/kaertchen.txt", tasks);
         openHere();
     }
@@ -102,6 +102,12 @@ protected:
     {
         const auto active = form().ActiveControl();
         return active ? active->NAME() : phial::String();
+    }
+    void answerLeaving()
+    {
+        outside.visual().onModal(u"frm_LeaveRound", [](phial::Form& asking) {
+            phial::headless::click(*asking.control<phial::ctl_Button>(u"but_Leave"));
+        });
     }
     void expectRankBox() { outside.dialogs().expect(phial::headless::Box::Info); }
 
