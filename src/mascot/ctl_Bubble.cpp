@@ -256,7 +256,7 @@ void ctl_Bubble::takeSizeOfText()
     width += std::abs(1.0 * shadowOffX_);
     height += std::abs(1.0 * shadowOffY_);
     const PixelRectangle place = frame_.pixelRectangle();
-    frame_.pixelRectangle({place.left, place.top, width, height});
+    frame_.pixelRectangle({place.left, place.top, std::max(0.0, width), std::max(0.0, height)});
 }
 
 } // namespace phial

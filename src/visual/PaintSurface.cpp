@@ -1,5 +1,6 @@
 #include "visual/PaintSurface.h"
 
+#include "core/RuntimeError.h"
 #include "core/SessionState.h"
 #include "visual/UserControl.h"
 #include "visual/VisualHost.h"
@@ -142,11 +143,14 @@ void PaintSurface::MaskPicture(PicturePtr value)
     report();
 }
 
-bool PaintSurface::hits(PixelPoint point) const
+bool PaintSurface::hits(PixelPoint point)
 {
     const PixelSize extent = size();
     if (!PixelRectangle{0, 0, extent.width, extent.height}.contains(point)) {
         return false;
+    }
+    if (mask_ && !painted_ && !painting_ && backend_) {
+        ignoringErrors([this] { image(ratio_); });
     }
     return !mask_ || !mask_->isSeeThrough(point);
 }

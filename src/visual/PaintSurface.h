@@ -56,8 +56,9 @@ public:
     /// lies below. Null: the control is its rectangle.
     PicturePtr MaskPicture() const { return mask_; }
     void MaskPicture(PicturePtr value);
-    /// Whether a point (in pixels) is the control's own and not let through.
-    bool hits(PixelPoint point) const;
+    /// Whether a point (in pixels) is the control's own and not let through, by the shape that it has now: a
+    /// shaped control whose image is no longer right is painted first.
+    bool hits(PixelPoint point);
 
     /// Controls within this one; made at first use, in pixels.
     Container& children();

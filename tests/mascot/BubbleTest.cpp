@@ -1,10 +1,13 @@
 #include "mascot/ctl_Bubble.h"
 #include "support/Places.h"
 #include "visual/FormTest.h"
+#include "visual/Markup.h"
 #include "visual/PictureBox.h"
 
+#include <algorithm>
 #include <array>
 #include <fstream>
+#include <iterator>
 #include <limits>
 
 namespace phial
@@ -36,6 +39,28 @@ std::string tabled(const std::string& name)
     return drawing;
 }
 
+/// A desktop that lets a label have no other width than this.
+class FixedWidth final : public ControlPeer
+{
+public:
+    FixedWidth(Control& label, double width) : frame_(label.frame()), width_(width) { frame_.peer(this); }
+    ~FixedWidth() override { frame_.peer(nullptr); }
+    FixedWidth(const FixedWidth&) = delete;
+    FixedWidth& operator=(const FixedWidth&) = delete;
+
+    void modelChanged(ControlAspect aspect) override
+    {
+        const PixelRectangle place = frame_.pixelRectangle();
+        if (aspect == ControlAspect::Geometry && place.width != width_) {
+            frame_.pixelRectangle({place.left, place.top, width_, place.height});
+        }
+    }
+
+private:
+    ControlFrame& frame_;
+    double width_;
+};
+
 /// A balloon of 120 by 80 pixels at (20, 10) on a form that counts in twips. A letter is 4 pixels wide and a
 /// line 10 high.
 class Bubble : public test::FormTest
@@ -52,6 +77,37 @@ protected:
     {
         const std::string all = outside.visual().drawing(*bubble);
         return all.substr(all.rfind("clear"));
+    }
+    /// Gives each property a value that is not the default of reading, which a fresh SHADOW has.
+    void changeEverything()
+    {
+        bubble->ZIP(false);
+        bubble->ZIPSIDE(Side::ID_BallonZipSide_TopRight);
+        bubble->ZIPDISTANCE(0);
+        bubble->ZIPSIZE(1);
+        bubble->AUTOSIZE(true);
+        bubble->TEXTCOLOR(QBColor(1));
+        bubble->TEXT(u"Hallo");
+        bubble->TEXTALIGN(TEXTALIGN::BottomRight);
+        bubble->TEXTMARGIN(6);
+        bubble->BORDERROUND(0);
+        bubble->BORDERCOLOR(QBColor(2));
+        bubble->SHADOWCOLOR(QBColor(3));
+        bubble->SHADOWOFFX(-7);
+        bubble->SHADOWOFFY(8);
+        bubble->SHADOWALT(true);
+        bubble->FILLCOLOR(QBColor(4));
+        bubble->TEXTFONT()->Size(12);
+    }
+    /// How often it has been painted.
+    std::ptrdiff_t paintings()
+    {
+        const std::string all = outside.visual().drawing(*bubble);
+        std::ptrdiff_t count = 0;
+        for (auto at = all.find("clear"); at != std::string::npos; at = all.find("clear", at + 1)) {
+            ++count;
+        }
+        return count;
     }
     std::shared_ptr<ctl_Label> label()
     {
@@ -120,24 +176,8 @@ TEST_F(Bubble, IsWrittenWithTheDefaultsOfReading)
     bubble->writeProperties(fresh);
     EXPECT_EQ(fresh.ReadProperty(u"SHADOW", true), Variant(false));
     EXPECT_EQ(fresh.ReadProperty(u"TEXT", String(u"Bubble")), Variant(u""));
-    bubble->ZIP(false);
-    bubble->ZIPSIDE(Side::ID_BallonZipSide_TopRight);
-    bubble->ZIPDISTANCE(0);
-    bubble->ZIPSIZE(1);
-    bubble->AUTOSIZE(true);
-    bubble->TEXTCOLOR(QBColor(1));
-    bubble->TEXT(u"Hallo");
-    bubble->TEXTALIGN(TEXTALIGN::BottomRight);
-    bubble->TEXTMARGIN(6);
-    bubble->BORDERROUND(0);
-    bubble->BORDERCOLOR(QBColor(2));
-    bubble->SHADOWCOLOR(QBColor(3));
+    changeEverything();
     bubble->SHADOW(true);
-    bubble->SHADOWOFFX(-7);
-    bubble->SHADOWOFFY(8);
-    bubble->SHADOWALT(true);
-    bubble->FILLCOLOR(QBColor(4));
-    bubble->TEXTFONT()->Size(12);
     PropertyBag bag;
     bubble->writeProperties(bag);
     const auto other = form->add<ctl_Bubble>(u"ctl_Bubble2");
@@ -152,6 +192,39 @@ TEST_F(Bubble, IsWrittenWithTheDefaultsOfReading)
     }
     EXPECT_EQ(other->TEXTFONT()->Size(), 12);
     EXPECT_NE(other->TEXTFONT(), bubble->TEXTFONT());
+}
+
+TEST_F(Bubble, ItsKeysAreReadInOneOrderAndWrittenInAnother)
+{
+    changeEverything();
+    PropertyBag bag;
+    bubble->writeProperties(bag);
+    EXPECT_THAT(bag.keys(), ElementsAre(u"ZIP", u"ZIPSIDE", u"ZIPDISTANCE", u"ZIPSIZE", u"AUTOSIZE",
+                                        u"TEXTCOLOR", u"TEXTFONT", u"TEXT", u"TEXTALIGN", u"TEXTMARGIN",
+                                        u"BORDERROUND", u"BORDERCOLOR", u"SHADOWCOLOR", u"SHADOW",
+                                        u"SHADOWOFFX", u"SHADOWOFFY", u"SHADOWALT", u"FILLCOLOR"));
+    std::vector<StringView> read;
+    const auto members = bubble->members();
+    const auto first = std::ranges::find(members, u"ZIP", &Member::name);
+    std::ranges::transform(first, first + 18, std::back_inserter(read), &Member::name);
+    EXPECT_THAT(read, ElementsAre(u"ZIP", u"ZIPSIDE", u"ZIPDISTANCE", u"ZIPSIZE", u"AUTOSIZE", u"TEXTCOLOR",
+                                  u"TEXT", u"TEXTALIGN", u"TEXTMARGIN", u"BORDERROUND", u"BORDERCOLOR",
+                                  u"SHADOWCOLOR", u"SHADOW", u"SHADOWOFFX", u"SHADOWOFFY", u"SHADOWALT",
+                                  u"FILLCOLOR", u"TEXTFONT"));
+}
+
+TEST_F(Bubble, ReadingPaintsNothing)
+{
+    const auto before = paintings();
+    PropertyBag bag;
+    bag.WriteProperty(u"ZIP", false);
+    bag.WriteProperty(u"TEXT", String(u"Hallo"));
+    bubble->readProperties(bag);
+    EXPECT_EQ(paintings(), before);
+    EXPECT_THAT(told, IsEmpty());
+    bubble->REDRAW();
+    EXPECT_EQ(paintings(), before + 1);
+    EXPECT_THAT(drawn(), Not(HasSubstr("polygon"))) << "and it has been read";
 }
 
 TEST_F(Bubble, BadLengthsAreIgnoredWhole)
@@ -253,6 +326,18 @@ TEST_F(Bubble, HasHolesAroundTheBalloonAndInTheShadowOnly)
     EXPECT_NE(bubble->surface().hits({117, 40}), bubble->surface().hits({117, 41}));
 }
 
+TEST_F(Bubble, HasItsNewShapeAtOnceAndIsPaintedOnceForSeveralWrites)
+{
+    bubble->ZIP(false);
+    bubble->BORDERROUND(0);
+    const auto before = paintings();
+    EXPECT_TRUE(bubble->surface().hits({3, 40}));
+    bubble->SHADOWOFFX(-20);
+    bubble->SHADOWOFFY(0);
+    EXPECT_NE(bubble->surface().hits({3, 40}), bubble->surface().hits({3, 41})) << "now of the shadow";
+    EXPECT_EQ(paintings(), before + 1);
+}
+
 TEST_F(Bubble, ABoxWithoutRoomIsSeeThrough)
 {
     bubble->SHADOWOFFX(120);
@@ -300,6 +385,13 @@ TEST_F(Bubble, AFontThatChangesIsFollowedWithoutAFit)
     EXPECT_EQ(label()->Font()->Size(), 20);
 }
 
+TEST_F(Bubble, AFontThatChangesIsPainted)
+{
+    const auto before = paintings();
+    bubble->TEXTFONT()->Bold(true);
+    EXPECT_EQ(paintings(), before + 1);
+}
+
 TEST_F(Bubble, SeveralLinesStandAtTheLeft)
 {
     for (const StringView text : {u"a<br>b", u"a\r\nb", u"a\rb"}) {
@@ -325,6 +417,59 @@ TEST_F(Bubble, AShortTextIsNarrowedInSteps)
     EXPECT_EQ(fitted(u"Wasser"), (PixelSize{150 + 5, 10 + 10 + 60 + 5}));
     bubble->ZIP(false);
     EXPECT_EQ(fitted(u"Wasser"), (PixelSize{100 + 10 + 5, 10 + 10 + 5}));
+}
+
+TEST_F(Bubble, HalfAPixelOfTheTailsRoomGoesToTheEvenOne)
+{
+    bubble->ZIPDISTANCE(25); // 62.5
+    EXPECT_EQ(fitted(u"Wasser"), (PixelSize{100 + 10 + 25 + 5, 62 + 5}));
+    bubble->ZIPDISTANCE(27); // 67.5
+    EXPECT_EQ(fitted(u"Wasser"), (PixelSize{100 + 10 + 27 + 5, 68 + 5}));
+    bubble->ZIPSIDE(Side::ID_BallonZipSide_TopRight);
+    bubble->ZIPDISTANCE(59); // 147.5
+    EXPECT_EQ(fitted(u"Wasser"), (PixelSize{148 + 5, 10 + 10 + 59 + 5}));
+}
+
+TEST_F(Bubble, ATailNeedsRoomOnlyWhereTheTextHasLessThanTwiceItsLength)
+{
+    bubble->ZIPDISTANCE(10);
+    EXPECT_EQ(fitted(u"Wasser"), (PixelSize{100 + 10 + 10 + 5, 10 + 10 + 5})) << "just twice";
+    bubble->ZIPDISTANCE(11);
+    EXPECT_EQ(fitted(u"Wasser"), (PixelSize{100 + 10 + 11 + 5, 28 + 5}));
+}
+
+TEST_F(Bubble, ANegativeMarginLeavesNoSizeBelowNone)
+{
+    bubble->TEXTMARGIN(-3);
+    EXPECT_EQ(fitted(u"Wasser"), (PixelSize{100 - 6 + 20 + 5, 50 + 5}));
+    EXPECT_EQ(label()->frame().pixelRectangle(), (PixelRectangle{17, -3, 100, 56}));
+    bubble->TEXTMARGIN(-500);
+    EXPECT_EQ(fitted(u"Wasser"), (PixelSize{0, 50 + 5}));
+    EXPECT_EQ(drawn(), "clear cut\n");
+    bubble->ZIP(false);
+    EXPECT_EQ(fitted(u"Wasser"), (PixelSize{0, 0}));
+    bubble->TEXTMARGIN(5);
+    EXPECT_EQ(fitted(u"Wasser"), (PixelSize{100 + 10 + 5, 10 + 10 + 5})) << "and grows again";
+}
+
+TEST_F(Bubble, ATextThatTakesNoOtherWidthIsLeftAsItIs)
+{
+    String many;
+    for (int word = 0; word < 400; ++word) {
+        many += u"Atom ";
+    }
+    for (const String& text : {String(u"Wasser"), many}) { // to be narrowed, to be widened
+        bubble->AUTOSIZE(false);
+        bubble->TEXT(text);
+        label()->Visible(true);
+        label()->AutoSize(false);
+        const FixedWidth fixed(*label(), 300);
+        bubble->AUTOSIZE(true);
+        EXPECT_EQ(size(), (PixelSize{120, 80})) << text.size();
+        EXPECT_FALSE(label()->Visible());
+        EXPECT_TRUE(label()->AutoSize());
+        EXPECT_EQ(label()->Width(), 300);
+    }
 }
 
 TEST_F(Bubble, ASideThatDoesNotExistTakesNoRoomInTheFit)
@@ -359,7 +504,12 @@ TEST_F(Bubble, ManyLinesEndInABoundedFit)
     for (int line = 1; line < 200; ++line) {
         text += u"a<br>";
     }
+    headless::FixedTextMetrics& metrics = outside.visual().metrics();
+    const std::size_t before = metrics.asked();
+    MarkupLayout(text + u"a", FontSpec{}, metrics, 300);
+    const std::size_t once = metrics.asked() - before;
     EXPECT_EQ(fitted(text + u"a"), (PixelSize{4000 + 10 + 5, 2000 + 10 + 5}));
+    EXPECT_EQ((metrics.asked() - before) / once - 1, 75U) << "from 300 to 4000 in steps of 50";
 }
 
 TEST_F(Bubble, AWordWiderThanTheBalloonIsBroken)

@@ -343,6 +343,45 @@ TEST_F(DrAtomTalk, BehindAnotherWindowItsTextWaits)
     EXPECT_GE(ticksOfTalk(), 40);
 }
 
+TEST_F(DrAtomTalk, AHandlerMayTakeItAwayInTheMiddleOfATick)
+{
+    const std::weak_ptr<ctl_DrAtom> held = atom;
+    connections += atom->PropertyChanged.connect([this](const String& name) {
+        if (name == u"MOOD" && atom) {
+            form->remove(*atom);
+            atom.reset();
+        }
+    });
+    atom->BUBBLESAY(nullptr, u"Ja");
+    EXPECT_FALSE(held.expired());
+    ticks(3);
+    EXPECT_TRUE(held.expired());
+    EXPECT_TRUE(bubble->Visible()) << "nobody is there any more to end the text";
+}
+
+TEST_F(DrAtomTalk, AHandlerMayTakeItAwayWithAClick)
+{
+    const std::weak_ptr<ctl_DrAtom> held = atom;
+    connections += atom->CLICK.connect([this] {
+        form->remove(*atom);
+        atom.reset();
+    });
+    form->Show();
+    drawn();
+    headless::click(*atom);
+    EXPECT_TRUE(held.expired());
+}
+
+TEST_F(DrAtomTalk, AnEmptyTextIsSaidForTheShortestTime)
+{
+    bubble->AUTOSIZE(true);
+    atom->BUBBLESAY(nullptr, u"");
+    EXPECT_TRUE(atom->BUSY());
+    EXPECT_TRUE(bubble->Visible());
+    EXPECT_EQ(bubble->TEXT(), u"");
+    EXPECT_NEAR(ticksOfTalk(), 40, 1);
+}
+
 TEST_F(DrAtomTalk, ABlinkAtTheEndOfATalkOpensTheRightEyes)
 {
     atom->EYESIZE(9);

@@ -1,4 +1,5 @@
 #include "DesktopSession.h"
+#include "Eventually.h"
 #include "app/Session.h"
 #include "app/cls_App.h"
 #include "app/cls_AppURL.h"
@@ -209,6 +210,64 @@ TEST_F(MascotPixels, APressOnAHoleReachesWhatLiesBelow)
     press(*bubble, {1, 1});
     press(*bubble, {30, 3});
     EXPECT_EQ(clicked, (std::vector<String>{u"below", u"mascot", u"below", u"balloon"}));
+}
+
+/// Counts the paint events of a widget.
+class PaintCount final : public QObject
+{
+public:
+    explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
+    int count = 0;
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+TEST_F(MascotPixels, ATextIsPaintedOnceHoweverMuchItChanges)
+{
+    bubble->AUTOSIZE(true);
+    bubble->Visible(false);
+    atom->BUBBLE(bubble->NAME());
+    form->Show();
+    PaintCount first(widgetOf(*atom));
+    ASSERT_TRUE(test::eventually([&] { return first.count > 0; }));
+    for (const bool isError : {false, true}) { // hidden before, then shown
+        PaintCount painted(widgetOf(*bubble));
+        atom->BUBBLESAY(nullptr, u"Natrium und Chlor geben Salz, das sich in Wasser l\u00F6st.", isError);
+        EXPECT_EQ(painted.count, 0);
+        EXPECT_TRUE(test::eventually([&] { return painted.count > 0; }));
+        QApplication::processEvents();
+        EXPECT_EQ(painted.count, 1) << isError;
+    }
+}
+
+TEST_F(MascotPixels, APressOnTheTextIsOneClickOfTheBalloon)
+{
+    int clicks = 0;
+    int doubleClicks = 0;
+    Connections connections;
+    connections += bubble->CLICK.connect([&] { ++clicks; });
+    connections += bubble->DBLCLICK.connect([&] { ++doubleClicks; });
+    bubble->TEXT(u"Wasser");
+    form->Show();
+    QWidget& text = widgetOf(*bubble->container()->controls().front());
+    ASSERT_NE(&text, &widgetOf(*bubble));
+    const auto presses = [&](QWidget& widget, QPoint place) {
+        clicks = doubleClicks = 0;
+        QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, place);
+        EXPECT_EQ(clicks, 1);
+        EXPECT_EQ(doubleClicks, 0);
+        QTest::mouseDClick(&widget, Qt::LeftButton, Qt::NoModifier, place); // the second press alone
+        QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, place);
+        EXPECT_EQ(clicks, 2) << "each press counts";
+        EXPECT_EQ(doubleClicks, 1);
+    };
+    presses(text, text.rect().center());
+    presses(widgetOf(*bubble), {3, 3}); // beside the text
 }
 
 } // namespace
