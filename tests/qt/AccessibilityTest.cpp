@@ -8,6 +8,7 @@
 #include "visual/ctl_Title.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QTest>
 
 #include <vector>
@@ -258,6 +259,7 @@ TEST_F(AccessibilityTest, ATextThatIsTypedIntoHasItsCaret)
 TEST_F(AccessibilityTest, AnAnnouncementIsANotificationWithThatName)
 {
     added<PictureBox>(u"ctl_Bubble1")->frame().announce(u"Gut gemacht!");
+    QApplication::processEvents();
     const QAccessibleInterface& notification = announcement();
     EXPECT_TRUE(notification.isValid());
     EXPECT_EQ(notification.role(), QAccessible::Notification);
@@ -265,9 +267,45 @@ TEST_F(AccessibilityTest, AnAnnouncementIsANotificationWithThatName)
     EXPECT_EQ(notification.text(QAccessible::Name), QStringLiteral("Gut gemacht!"));
     EXPECT_EQ(notification.parent()->object(), &widgetOf(*form_));
     added<TextBox>(u"txt_Display")->frame().announce(u"18,015");
+    QApplication::processEvents();
     EXPECT_EQ(notification.text(QAccessible::Name), QStringLiteral("18,015"));
     form_->control<TextBox>(u"txt_Display")->frame().announce(u"");
+    QApplication::processEvents();
     EXPECT_EQ(notification.text(QAccessible::Name), QStringLiteral("18,015")) << "nothing to say";
+}
+
+/// What the notification says after a turn of the event loop.
+QString notifiedBehindTheTurn()
+{
+    QApplication::processEvents();
+    return announcement().text(QAccessible::Name);
+}
+
+TEST_F(AccessibilityTest, WhatIsAnnouncedInOneTurnIsOneNotification)
+{
+    const auto page = added<TextBox>(u"txt_Page");
+    const auto mascot = added<PictureBox>(u"pic_Mascot");
+    page->frame().announce(u"Richtig!");
+    mascot->frame().announce(u"Drei in Folge.");
+    mascot->frame().announce(u"Richtig!");
+    EXPECT_EQ(notifiedBehindTheTurn(), QStringLiteral("Richtig!\nDrei in Folge."))
+        << "neither cuts the other off, and the same is said once";
+    page->frame().announce(u"Weiter");
+    EXPECT_EQ(notifiedBehindTheTurn(), QStringLiteral("Weiter"));
+}
+
+TEST_F(AccessibilityTest, AnotherWindowHasANotificationOfItsOwn)
+{
+    const auto other = std::make_shared<Form>(u"frm_Other");
+    const auto field = other->add<TextBox>(u"txt_Other");
+    other->Show();
+    added<TextBox>(u"txt_Page")->frame().announce(u"Richtig!");
+    field->frame().announce(u"Platz 1");
+    EXPECT_EQ(announcement().text(QAccessible::Name), QStringLiteral("Richtig!"));
+    EXPECT_EQ(announcement().parent()->object(), &widgetOf(*form_));
+    EXPECT_EQ(notifiedBehindTheTurn(), QStringLiteral("Platz 1"));
+    EXPECT_EQ(announcement().parent()->object(), &widgetOf(*other));
+    other->discard();
 }
 
 TEST_F(AccessibilityTest, PartsThatComeOrGoAreReadAnew)

@@ -4,7 +4,12 @@
 #include "qt/desktop/AccessibleChanges.h"
 #include "qt/desktop/ControlInterface.h"
 
+#include <QApplication>
 #include <QPointer>
+#include <QStringList>
+#include <QTimer>
+
+#include <utility>
 
 namespace phial::qt
 {
@@ -18,14 +23,21 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
     return widget ? new ControlInterface(*widget) : nullptr;
 }
 
-/// What is announced: a notification in a window, which nobody sees.
+/// What is announced: a notification in a window, which nobody sees. A screen reader cuts off what it is
+/// saying when another notification comes, so what is announced in one turn of the event loop is one.
 class Announcement final : public QAccessibleInterface
 {
 public:
     void say(QWidget& widget, const QString& text)
     {
-        widget_ = widget.window();
-        text_ = text;
+        if (!waiting_.isEmpty() && next_ != widget.window()) {
+            tell();
+        }
+        next_ = widget.window();
+        if (!waiting_.contains(text)) {
+            waiting_.append(text);
+            QTimer::singleShot(0, qApp, [this] { tell(); });
+        }
     }
 
     bool isValid() const override { return widget_; }
@@ -46,8 +58,24 @@ public:
     void setText(QAccessible::Text, const QString&) override {}
 
 private:
+    void tell()
+    {
+        const QStringList texts = std::exchange(waiting_, {});
+        if (texts.isEmpty() || !next_) {
+            return;
+        }
+        widget_ = next_;
+        text_ = texts.join(QLatin1Char('\n'));
+        for (const QAccessible::Event type : {QAccessible::NameChanged, QAccessible::ObjectShow}) {
+            QAccessibleEvent event(this, type);
+            QAccessible::updateAccessibility(&event);
+        }
+    }
+
     QPointer<QWidget> widget_;
     QString text_;
+    QPointer<QWidget> next_;
+    QStringList waiting_; ///< to be told together
 };
 
 Announcement& announced()
@@ -106,13 +134,8 @@ void announcePart(ControlWidget& widget, std::size_t part)
 
 void announceText(QWidget& widget, const QString& text)
 {
-    if (text.isEmpty()) {
-        return;
-    }
-    announced().say(widget, text);
-    for (const QAccessible::Event type : {QAccessible::NameChanged, QAccessible::ObjectShow}) {
-        QAccessibleEvent event(&announced(), type);
-        QAccessible::updateAccessibility(&event);
+    if (!text.isEmpty()) {
+        announced().say(widget, text);
     }
 }
 
