@@ -13,17 +13,22 @@ TREE = pathlib.Path(__file__).resolve().parents[2]
 INSTALLED = TREE / "resources" / "gfx"
 NAMES = [f"atom_{part}{suffix}.png" for part in ("head", "electron", "mask") for suffix in ("", "@2x", "@3x")]
 
+SHEET = TREE / "docs" / "pictures" / "mascot.png"
+
 INKS = {"eyes": (0, 0, 0), "astonished eyes": (0, 0, 255), "mouth": (50, 0, 0)}
 ANGRY = (255, 0, 0)  # cannot have more than 4 on white
 
 
+def lines_of(data):
+    """Width, height, kind and the lines of a PNG file, however they are packed."""
+    length = struct.unpack(">I", data[33:37])[0]
+    return *struct.unpack(">II", data[16:24]), data[24:26], zlib.decompress(data[41:41 + length])
+
+
 def decode(path):
     """Width, height and the bytes of each row, as red, green, blue, alpha."""
-    data = path.read_bytes()
-    width, height = struct.unpack(">II", data[16:24])
-    assert data[24:26] == b"\x08\x06", path
-    length = struct.unpack(">I", data[33:37])[0]
-    lines = zlib.decompress(data[41:41 + length])
+    width, height, kind, lines = lines_of(path.read_bytes())
+    assert kind == b"\x08\x06", path
     step = 1 + 4 * width
     rows, above = [], bytes(4 * width)
     for row in range(height):
@@ -64,9 +69,12 @@ class Pictures(unittest.TestCase):
     def test_are_what_the_generator_draws(self):
         with tempfile.TemporaryDirectory() as folder:
             subprocess.run([sys.executable, TREE / "tools" / "make_mascot", folder], check=True)
-            self.assertEqual(sorted(path.name for path in pathlib.Path(folder).iterdir()), sorted(NAMES))
+            drawn = sorted(path.name for path in pathlib.Path(folder).iterdir())
+            self.assertEqual(drawn, sorted([*NAMES, SHEET.name]))
             for name in NAMES:
                 self.assertEqual(decode(pathlib.Path(folder) / name), decode(INSTALLED / name), name)
+            sheet = (pathlib.Path(folder) / SHEET.name).read_bytes()
+            self.assertEqual(lines_of(sheet), lines_of(SHEET.read_bytes()), "the sheet of docs/pictures is another one")
 
     def test_have_their_sizes_at_each_ratio(self):
         for part, edge in (("head", 100), ("electron", 11), ("mask", 11)):
