@@ -6,8 +6,6 @@
 #include "common/FrameTexts.h"
 #include "core/CoreRegistry.h"
 #include "core/CoreRoot.h"
-#include "core/CoreTiming.h"
-#include "visual/Markup.h"
 #include "visual/VisualHost.h"
 #include "visual/ctl_Button.h"
 
@@ -26,7 +24,6 @@ namespace
 constexpr StringView MascotSetting = u"Config\\Mascot";
 constexpr std::int32_t ThinkingTime = 45'000; // milliseconds
 constexpr double SlowReading = 0.5;           // speed of texts that stay twice as long
-constexpr int StreakLength = 3;
 
 constexpr double AtomSize = 100;
 constexpr double ColumnEdge = 4;
@@ -57,23 +54,11 @@ phial::PropertyBag attentiveLook(const String& balloon)
     return look;
 }
 
-MascotMoment momentOf(const Round& round)
-{
-    if (round.solved() == round.count()) {
-        return MascotMoment::AllSolved;
-    }
-    if (round.solved() == 0) {
-        return MascotMoment::NoneSolved;
-    }
-    return 2 * round.solved() > round.count() ? MascotMoment::ManySolved : MascotMoment::FewSolved;
-}
-
 } // namespace
 
 AppMascot::AppMascot(phial::DesignedForm& form, double pageMargin)
     : form_(form), pageMargin_(pageMargin), balloon_(form->add<phial::ctl_Bubble>(u"bub_Mascot")),
       atom_(form->add<phial::ctl_DrAtom>(u"atm_Mascot")), measure_(phial::makeControl<phial::ctl_Label>()),
-      words_(static_cast<std::size_t>(phial::coreRoot().CoreTiming().Now())),
       thinking_(u"tmr_Thinking", ThinkingTime)
 {
     balloon_->Visible(false);
@@ -172,11 +157,6 @@ void AppMascot::applyChoice()
     balloon_->Visible(isThere && atom_->BUSY() && !atom_->BUBBLECANCEL);
 }
 
-void AppMascot::say(MascotMoment moment, const phial::Variant::Array& values)
-{
-    sayText(translate(words_.next(moment), values), Source::MascotAlone);
-}
-
 void AppMascot::sayText(const String& text, Source source)
 {
     if (choice() == Choice::Off || column_.isEmpty() || text.empty()) {
@@ -184,26 +164,25 @@ void AppMascot::sayText(const String& text, Source source)
         return;
     }
     fitBalloon(text);
-    atom_->announces(source == Source::MascotAlone);
+    atom_->announces(source == Source::Request);
     atom_->BUBBLESAYSPEED(nullptr, text, false, choice() == Choice::LongReading ? SlowReading : 1);
 }
 
 void AppMascot::sayLastAgain()
 {
     if (!atom_->BUSY()) {
-        sayText(String(atom_->BUBBLETEXTLAST), Source::MascotAlone);
+        sayText(String(atom_->BUBBLETEXTLAST), Source::Request);
     }
 }
 
-void AppMascot::greet(const String& name)
+void AppMascot::greet()
 {
-    say(MascotMoment::Greeting, {phial::plainMarkup(name)});
+    mood(phial::enm_DrAtomMood::ID_DrAtomMood_Happy);
 }
 
-void AppMascot::roundBegins(const String& name)
+void AppMascot::says(const String& word)
 {
-    streak_ = 0;
-    say(MascotMoment::RoundBegins, {phial::plainMarkup(name)});
+    sayText(word, Source::Page);
 }
 
 void AppMascot::taskShown()
@@ -233,52 +212,37 @@ void AppMascot::offerPatience()
 {
     if (phial::visualHost().screen().ActiveForm() == atom_->frame().form()) {
         thinking_.Enabled(false);
-        say(MascotMoment::LongThinking);
+        mood(phial::enm_DrAtomMood::ID_DrAtomMood_Happy);
     }
 }
 
-void AppMascot::judged(Verdict verdict, const Round& round, const String& remark)
+void AppMascot::judged(Verdict verdict, const Round& round, const String& word)
 {
+    using enum phial::enm_DrAtomMood;
     isAnswerAwaited_ = !round.decided();
     startThinking();
-    streak_ = verdict == Verdict::Right ? streak_ : 0;
     switch (verdict) {
     case Verdict::Right:
-        rightAnswer(round);
-        return;
+        mood(ID_DrAtomMood_Happy);
+        break;
     case Verdict::Wrong:
-        mood(phial::enm_DrAtomMood::ID_DrAtomMood_Surprised);
-        if (round.triesLeft() == 1) {
-            remark.empty() ? say(MascotMoment::Help) : sayText(remark, Source::PageToo);
-        }
-        return;
+        mood(ID_DrAtomMood_Surprised);
+        break;
     case Verdict::Missed:
-        say(MascotMoment::Missed);
-        return;
+        mood(ID_DrAtomMood_Neutral);
+        break;
     case Verdict::Unreadable:
-        return;
+        break;
     }
-}
-
-void AppMascot::rightAnswer(const Round& round)
-{
-    mood(phial::enm_DrAtomMood::ID_DrAtomMood_Happy);
-    streak_ = round.outcome(round.position()) == Outcome::AtOnce ? streak_ + 1 : 0;
-    if (streak_ == StreakLength) {
-        streak_ = 0;
-        say(MascotMoment::Streak);
+    if (!word.empty()) {
+        says(word);
     }
 }
 
 void AppMascot::hintTaken()
 {
-    say(MascotMoment::Hint);
+    mood(phial::enm_DrAtomMood::ID_DrAtomMood_Happy);
     startThinking();
-}
-
-void AppMascot::roundFinished(const Round& round)
-{
-    say(momentOf(round));
 }
 
 void AppMascot::leaveTask()

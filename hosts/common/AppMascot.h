@@ -1,6 +1,5 @@
 #pragma once
 
-#include "common/MascotTexts.h"
 #include "common/Round.h"
 #include "mascot/ctl_Bubble.h"
 #include "mascot/ctl_DrAtom.h"
@@ -17,9 +16,10 @@ namespace learning
 /// ever covers anything of the page, and both are away where the window leaves too little room there. It is
 /// no stop of the Tab key.
 ///
-/// It greets, reacts to answers by its mood, and has a word at a few moments; what matters stands on the page
-/// as well. Whoever types ends its text, and a click on it or F3 brings the last one back. The switch
-/// `but_Mascot` in the footer tells how much of it there is; the choice is the user's, for all apps.
+/// It smiles and wonders, and says at four moments what stands on the page as well: when a round begins, at
+/// the second wrong try, behind three tasks solved at once, and when the round is over. Whoever types ends
+/// its text, and a click on it or F3 brings the last one back. The switch `but_Mascot` in the footer tells
+/// how much of it there is; the choice is the user's, for all apps.
 class AppMascot
 {
 public:
@@ -42,15 +42,15 @@ public:
     /// Says on the switch what is chosen, in the language in force.
     void TRANSLATE();
 
-    /// The window stands, and someone of that name sits before it.
-    void greet(const phial::String& name);
-    void roundBegins(const phial::String& name);
+    /// The window stands, with someone before it.
+    void greet();
+    /// A round begins, or is over, and the page says that.
+    void says(const phial::String& word);
     /// Another task is shown.
     void taskShown();
-    /// An answer has been judged; `remark` is what the page tells about it, empty for nothing.
-    void judged(Verdict verdict, const Round& round, const phial::String& remark);
+    /// An answer has been judged, and the page says that of it; empty for what it does not speak of.
+    void judged(Verdict verdict, const Round& round, const phial::String& word);
     void hintTaken();
-    void roundFinished(const Round& round);
     /// No task is shown any more.
     void leaveTask();
     /// A key has gone down.
@@ -62,12 +62,10 @@ public:
     void sayLastAgain();
 
 private:
-    /// Whether the page says the same, and so tells screen readers about it.
-    enum class Source { MascotAlone, PageToo };
+    /// Whether the page has told screen readers of it.
+    enum class Source { Page, Request };
 
-    void say(MascotMoment moment, const phial::Variant::Array& values = {});
     void sayText(const phial::String& text, Source source);
-    void rightAnswer(const Round& round);
     void fitBalloon(const phial::String& text);
     void mood(phial::enm_DrAtomMood value);
     void startThinking();
@@ -81,10 +79,8 @@ private:
     std::shared_ptr<phial::ctl_Bubble> balloon_;
     std::shared_ptr<phial::ctl_DrAtom> atom_;
     std::shared_ptr<phial::ctl_Label> measure_; ///< stands nowhere and tells how high a text is
-    MascotWords words_;
     phial::Timer thinking_;
     phial::PixelRectangle column_; ///< beside the page; empty without room
-    int streak_ = 0;
     bool isAnswerAwaited_ = false;
 };
 

@@ -10,21 +10,13 @@
 namespace learning
 {
 
-/// What the mascot has a word for.
+/// What there is a word for besides the app's own sentences. It stands on the page, and the mascot says it.
 enum class MascotMoment : std::uint8_t {
-    Greeting,     ///< {1}: the pupil's name
-    RoundBegins,  ///< likewise
-    Streak,       ///< three tasks solved at once, one after the other
-    Missed,       ///< the third try was wrong, too
-    Hint,         ///< the hint has been taken
-    Help,         ///< the second try was wrong, and nothing can be told about how
-    LongThinking, ///< nothing has been typed for a while
-    AllSolved,    ///< the round is over
-    ManySolved,   ///< more than half of it
-    FewSolved,
-    NoneSolved,
+    Greeting,    ///< the first round of a pupil begins; {1}: the pupil's name
+    RoundBegins, ///< a further one, likewise
+    Streak,      ///< three tasks solved at once, one after the other
 };
-inline constexpr std::size_t MascotMoments = 11;
+inline constexpr std::size_t MascotMoments = 3;
 
 /// The texts of a moment, "German|English": at least two, so that none has to come twice in a row.
 std::span<const phial::StringView> mascotTexts(MascotMoment moment);

@@ -60,6 +60,16 @@ void SummaryPage::show(FinishedRound round, std::vector<ReviewedTask> tasks)
     showMark();
     review_.show(std::move(tasks));
     TRANSLATE();
+    const auto praise = form_.control<phial::ctl_Label>(u"lab_Praise");
+    praise->frame().announce(praise->accessibleText() + u"\n" +
+                             form_.control<phial::ctl_Label>(u"lab_Result")->accessibleText() + u"\n" +
+                             form_.control<phial::ctl_Label>(u"lab_Solved")->accessibleText());
+}
+
+String SummaryPage::word() const
+{
+    return form_.control<phial::ctl_Label>(u"lab_Praise")->Caption() + u"<br>" +
+           form_.control<phial::ctl_Label>(u"lab_Solved")->Caption();
 }
 
 /// Where nothing was missed the coloured button has the room of both.

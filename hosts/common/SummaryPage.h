@@ -42,6 +42,8 @@ public:
     void show(FinishedRound round, std::vector<ReviewedTask> tasks);
     /// The tasks of the same round in the language that is now in force.
     void showAgain(std::vector<ReviewedTask> tasks) { review_.showAgain(std::move(tasks)); }
+    /// What the mascot may say, which stands on the page as well.
+    phial::String word() const;
     /// Hands the result in, which tells the pupil the rank in a box, and what else became of the lists.
     /// Events run until the master has answered and the boxes are closed; until then only leaving is offered.
     void submit();

@@ -9,6 +9,9 @@
 #include "common/OutcomeSigns.h"
 #include "common/TermFit.h"
 #include "common/ctl_RoundDots.h"
+#include "core/CoreRoot.h"
+#include "core/CoreTiming.h"
+#include "visual/Markup.h"
 #include "visual/ctl_Button.h"
 #include "visual/ctl_Label.h"
 
@@ -25,6 +28,7 @@ namespace
 {
 
 constexpr std::int32_t DeafTime = 400; // milliseconds
+constexpr int StreakLength = 3;
 
 OutcomeSign signOf(Verdict verdict)
 {
@@ -48,7 +52,8 @@ MissedTasks ofThisPupil()
 } // namespace
 
 TaskPage::TaskPage(phial::Form& form, LearningApp& app)
-    : form_(form), app_(app), deaf_(u"tmr_Deaf", DeafTime), drawer_(form)
+    : form_(form), app_(app), words_(static_cast<std::size_t>(phial::coreRoot().CoreTiming().Now())),
+      deaf_(u"tmr_Deaf", DeafTime), drawer_(form)
 {
     connections_ += deaf_.Tick.connect([this] { deaf_.Enabled(false); });
     connections_ += get<phial::ctl_Button>(u"but_Check")->CLICK.connect([this] { press(); });
@@ -75,9 +80,26 @@ void TaskPage::begin(std::size_t level, const TaskChoice& choice)
 {
     missed_.clear();
     round_.emplace(app_.begin(level, choice));
+    streak_ = 0;
+    opening_ = chooseOpening();
     drawer_.close();
     fillDrawer();
     showTask();
+}
+
+/// Who sits down for the first time is greeted.
+StringView TaskPage::chooseOpening()
+{
+    const String name = phial::QVAPP()->USER()->SCREENNAME();
+    const bool isKnown = std::exchange(greeted_, name) == name;
+    return words_.next(isKnown ? MascotMoment::RoundBegins : MascotMoment::Greeting);
+}
+
+/// What stands in the place of a verdict until the first one.
+String TaskPage::openingText() const
+{
+    return round_->position() == 1 ? translate(opening_, phial::Variant::Array{phial::plainMarkup(greeted_)})
+                                   : String();
 }
 
 void TaskPage::fillDrawer()
@@ -139,7 +161,22 @@ void TaskPage::showTask()
 
 void TaskPage::sayTask()
 {
-    say({get<phial::ctl_Label>(u"lab_Progress")->accessibleText(), app_.spoken()});
+    say({openingText(), get<phial::ctl_Label>(u"lab_Progress")->accessibleText(), app_.spoken()});
+}
+
+String TaskPage::word()
+{
+    if (!verdict_) {
+        return openingText();
+    }
+    if (*verdict_ == Verdict::Right) {
+        return streak_ == StreakLength ? translate(praise_) : String();
+    }
+    if (*verdict_ != Verdict::Wrong || round_->triesLeft() != 1) {
+        return {};
+    }
+    const String remark = app_.remark();
+    return remark.empty() ? helpText() : remark;
 }
 
 /// What comes into view while the focus stays in the answer is said, one sentence after the other.
@@ -230,8 +267,19 @@ void TaskPage::count(Judgement judgement)
     if (verdict_ == Verdict::Wrong) {
         answers_.push_back(answer);
     } else if (verdict_ == Verdict::Right) {
-        praise_ = praises_.choose(app_.mastered(), round_->outcome(round_->position()));
+        choosePraise();
+    } else if (verdict_ == Verdict::Missed) {
+        streak_ = 0;
     }
+}
+
+/// A streak is worth more than what was mastered in its last task.
+void TaskPage::choosePraise()
+{
+    const Outcome outcome = round_->outcome(round_->position());
+    streak_ = outcome == Outcome::AtOnce ? streak_ % StreakLength + 1 : 0;
+    praise_ = streak_ == StreakLength ? words_.next(MascotMoment::Streak)
+                                      : praises_.choose(app_.mastered(), outcome);
 }
 
 void TaskPage::goOn()
@@ -258,7 +306,7 @@ void TaskPage::showVerdict()
 String TaskPage::verdictText()
 {
     if (!verdict_) {
-        return {};
+        return openingText();
     }
     if (isRepeated_) {
         return translate(u"Das hattest du schon. Versuche es anders.",

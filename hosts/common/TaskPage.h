@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/LearningApp.h"
+#include "common/MascotTexts.h"
 #include "common/PraiseChoice.h"
 #include "common/ReferenceDrawer.h"
 #include "common/ReviewList.h"
@@ -46,6 +47,9 @@ public:
     void lookUp() { drawer_.turn(); }
     /// Whether it was open.
     bool closeDrawer() { return drawer_.close(); }
+    /// What the mascot may say now, which stands on the page as well: at the beginning of a round, at the
+    /// second wrong try, and behind three tasks solved at once. Empty for nothing.
+    phial::String word();
     /// Has screen readers say the task that is shown, once its page has the focus.
     void sayTask();
     /// Puts all texts that are not of the design in the language in force.
@@ -65,6 +69,9 @@ private:
     void fillDrawer();
     void press();
     void noteOutcome();
+    void choosePraise();
+    phial::StringView chooseOpening();
+    phial::String openingText() const;
     void showTask();
     void showRoundTexts();
     void showCheckCaption();
@@ -92,6 +99,10 @@ private:
     std::optional<Round> round_;
     std::vector<phial::String> missed_; ///< of this round
     std::optional<Verdict> verdict_;    ///< what the present task shows
+    MascotWords words_;
+    phial::StringView opening_; ///< of the round
+    phial::String greeted_;     ///< the pupil
+    int streak_ = 0;            ///< tasks solved at once, one after the other
     PraiseChoice praises_;
     phial::StringView praise_; ///< of the present task, once it is solved
     bool hintShown_ = false;

@@ -133,7 +133,7 @@ void frm_LearningApp::welcome()
     if (phial::recentNames().empty()) {
         askForUser();
     }
-    mascot_->greet(QVAPP()->USER()->SCREENNAME());
+    mascot_->greet();
     enterClassroom();
 }
 
@@ -486,7 +486,7 @@ void frm_LearningApp::startRound(std::size_t level)
     tasks_->begin(level);
     show(Page::Task);
     tasks_->sayTask();
-    mascot_->roundBegins(QVAPP()->USER()->SCREENNAME());
+    mascot_->says(tasks_->word());
     classroom_.roundStarted(levelTitles_[level].german);
 }
 
@@ -497,7 +497,7 @@ void frm_LearningApp::startMissed()
     tasks_->beginMissed(level_);
     show(Page::Task);
     tasks_->sayTask();
-    mascot_->roundBegins(QVAPP()->USER()->SCREENNAME());
+    mascot_->says(tasks_->word());
 }
 
 void frm_LearningApp::finishRound()
@@ -517,7 +517,7 @@ void frm_LearningApp::finishRound()
                    tasks_->review());
     show(Page::Summary);
     sounds_->roundFinished(result.points);
-    mascot_->roundFinished(round);
+    mascot_->says(summary_->word());
     if (!counts) {
         return;
     }
@@ -532,7 +532,7 @@ void frm_LearningApp::finishRound()
 void frm_LearningApp::judged(Verdict verdict)
 {
     sounds_->judged(verdict);
-    mascot_->judged(verdict, *tasks_->round(), verdict == Verdict::Wrong ? app_->remark() : String());
+    mascot_->judged(verdict, *tasks_->round(), tasks_->word());
 }
 
 void frm_LearningApp::keyDown(phial::KeyEvent& event)

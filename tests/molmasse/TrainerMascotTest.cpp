@@ -3,12 +3,14 @@
 #include "app/cls_Language.h"
 #include "common/FrameLayout.h"
 #include "common/MascotTexts.h"
+#include "common/MissedTasks.h"
 #include "core/CoreRegistry.h"
 #include "core/CoreRoot.h"
 #include "core/CoreStringList.h"
 #include "mascot/ctl_Bubble.h"
 #include "mascot/ctl_DrAtom.h"
 #include "molmasse/TrainerTest.h"
+#include "visual/Markup.h"
 
 #include <gmock/gmock-more-matchers.h>
 #include <set>
@@ -21,6 +23,7 @@ namespace
 using learning::MascotMoment;
 using phial::String;
 using phial::StringView;
+using Mood = phial::enm_DrAtomMood;
 
 /// The trainer in a window with room beside its page, and a pupil named Uli.
 class TrainerMascot : public TrainerTest
@@ -63,16 +66,75 @@ protected:
     }
 };
 
-TEST_F(TrainerMascot, GreetsByNameInBothLanguages)
+TEST_F(TrainerMascot, SmilesAtWhoeverSitsDown)
 {
     trainer->welcome();
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Happy);
+    EXPECT_EQ(said(), u"");
+}
+
+TEST_F(TrainerMascot, GreetsByNameInBothLanguages)
+{
+    for (const auto language : {phial::ID_Language_German, phial::ID_Language_English}) {
+        trainer.reset();
+        phial::LNG()->CURRENT(language);
+        open();
+        form().innerSize({1080, 640});
+        trainer->welcome();
+        touch(u"but_Level", 0);
+        EXPECT_TRUE(isOf(MascotMoment::Greeting)) << phial::toUtf8(said());
+        EXPECT_NE(said().find(u"Uli"), String::npos);
+    }
+}
+
+TEST_F(TrainerMascot, GreetsOnceAndThenEachPupil)
+{
+    const auto leave = [this] {
+        answerLeaving(u"but_Leave");
+        type(u"{esc}");
+        silence();
+    };
+    touch(u"but_Level", 0);
     EXPECT_TRUE(isOf(MascotMoment::Greeting));
-    EXPECT_NE(said().find(u"Uli"), String::npos);
-    silence();
-    phial::LNG()->CURRENT(phial::ID_Language_English);
+    leave();
     touch(u"but_Level", 0);
     EXPECT_TRUE(isOf(MascotMoment::RoundBegins));
-    EXPECT_NE(said().find(u"Uli"), String::npos);
+    leave();
+    phial::QVAPP()->USER()->SCREENNAME(u"Ada");
+    touch(u"but_Level", 0);
+    EXPECT_NE(said().find(u"Ada"), String::npos);
+    EXPECT_FALSE(isOf(MascotMoment::RoundBegins));
+}
+
+/// Whatever the balloon says can be read on the page, and is said once by screen readers.
+TEST_F(TrainerMascot, SaysNothingThatDoesNotStandOnThePage)
+{
+    const auto page = [this](StringView label) { return phial::plainMarkup(seen(label)); };
+    const auto spoken = [this] {
+        return form().control<phial::ctl_Label>(u"lab_Feedback")->frame().announcement();
+    };
+    touch(u"but_Level", 0);
+    ASSERT_NE(said(), u"");
+    EXPECT_EQ(seen(u"lab_Feedback"), said());
+    EXPECT_EQ(spoken(), said() + u"\nAufgabe 1 von 4\n, H2O");
+    type(u"18,0{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback").find(u"Richtig!"), 0U) << "the verdict takes its place";
+    type(u"{enter}");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"") << "of the round's first task only";
+    type(u"58,4{enter}{enter}36,5{enter}");
+    ASSERT_TRUE(isOf(MascotMoment::Streak));
+    EXPECT_NE(seen(u"lab_Feedback").find(said()), String::npos);
+    EXPECT_NE(spoken().find(said()), String::npos);
+    type(u"{enter}7{enter}9{enter}");
+    ASSERT_NE(said(), u"");
+    EXPECT_EQ(said(), seen(u"lab_Hint")) << "nothing can be told of how it was come by";
+    type(u"3{enter}");
+    expectRankBox();
+    type(u"{enter}");
+    EXPECT_EQ(said(), seen(u"lab_Praise") + u"<br>" + seen(u"lab_Solved"));
+    EXPECT_EQ(form().control<phial::ctl_Label>(u"lab_Praise")->frame().announcement(),
+              page(u"lab_Praise") + u"\n" + page(u"lab_Result") + u"\n" + page(u"lab_Solved"));
+    EXPECT_EQ(atom().frame().announcement(), u"") << "the page has said it all";
 }
 
 TEST_F(TrainerMascot, StandsBesideThePageAndIsNoStopOfTheTabKey)
@@ -89,8 +151,9 @@ TEST_F(TrainerMascot, StandsBesideThePageAndIsNoStopOfTheTabKey)
 
 TEST_F(TrainerMascot, IsAwayWhereTheWindowHasNoRoomForIt)
 {
-    trainer->welcome();
+    touch(u"but_Level", 0);
     const String text = said();
+    ASSERT_NE(text, u"");
     form().innerSize({900, 640});
     EXPECT_FALSE(atom().Visible());
     EXPECT_EQ(said(), u"");
@@ -98,7 +161,7 @@ TEST_F(TrainerMascot, IsAwayWhereTheWindowHasNoRoomForIt)
     EXPECT_TRUE(atom().Visible());
     EXPECT_EQ(said(), text) << "it has waited";
     form().innerSize({900, 640});
-    touch(u"but_Level", 0);
+    type(u"18,0{enter}{enter}58,4{enter}{enter}36,5{enter}"); // a streak
     EXPECT_EQ(said(), u"");
     form().innerSize({1080, 640});
     EXPECT_EQ(said(), u"") << "that is over";
@@ -116,12 +179,24 @@ TEST_F(TrainerMascot, ReactsToRightAnswersByItsMoodAndPraisesAStreakOfThree)
 {
     begin();
     type(u"18,0{enter}");
-    EXPECT_EQ(atom().MOOD(), phial::enm_DrAtomMood::ID_DrAtomMood_Happy);
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Happy);
     EXPECT_EQ(said(), u"");
     type(u"{enter}");
-    EXPECT_EQ(atom().MOOD(), phial::enm_DrAtomMood::ID_DrAtomMood_Neutral);
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Neutral);
     type(u"58,4{enter}{enter}");
     EXPECT_EQ(said(), u"");
+    type(u"36,5{enter}");
+    EXPECT_TRUE(isOf(MascotMoment::Streak));
+    silence();
+    type(u"{enter}32,0{enter}");
+    EXPECT_EQ(said(), u"") << "the next one begins";
+}
+
+TEST_F(TrainerMascot, AnAnswerThatIsNoneEndsNoStreak)
+{
+    begin();
+    type(u"18,0{enter}{enter}58,4{enter}{enter}x{enter}");
+    outside.advance(0.1);
     type(u"36,5{enter}");
     EXPECT_TRUE(isOf(MascotMoment::Streak));
 }
@@ -137,14 +212,13 @@ TEST_F(TrainerMascot, SaysAtTheSecondWrongTryWhatThePageTellsOfIt)
 {
     begin();
     type(u"17,0{enter}");
-    EXPECT_EQ(atom().MOOD(), phial::enm_DrAtomMood::ID_DrAtomMood_Surprised);
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Surprised);
     EXPECT_EQ(said(), u"");
     type(u"17{enter}"); // the index was forgotten
-    const String told = atom().frame().announcement();
     type(u"16,999{enter}");
     EXPECT_EQ(said(), u"Denk an die kleine 2 hinter H.");
     EXPECT_NE(seen(u"lab_Feedback").find(said()), String::npos);
-    EXPECT_EQ(atom().frame().announcement(), told) << "the page is said already";
+    EXPECT_EQ(atom().frame().announcement(), u"") << "the page is said already";
 }
 
 TEST_F(TrainerMascot, RestsWhileItIsAway)
@@ -167,74 +241,72 @@ TEST_F(TrainerMascot, IsSilentWhileSomeoneEntersByTheTouchPad)
     outside.advance(0.1);
     EXPECT_EQ(said(), u"");
     outside.advance(44);
-    EXPECT_EQ(said(), u"") << "who enters is not thinking";
+    EXPECT_NE(atom().MOOD(), Mood::ID_DrAtomMood_Happy) << "who enters is not thinking";
     outside.advance(2);
-    EXPECT_TRUE(isOf(MascotMoment::LongThinking));
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Happy);
 }
 
-TEST_F(TrainerMascot, DoesNotDisturbInAnotherWindow)
+TEST_F(TrainerMascot, DoesNotSmileAtSomeoneInAnotherWindow)
 {
     begin();
     const auto other = std::make_shared<phial::Form>(u"frm_Other");
     other->Show();
     outside.advance(60);
-    EXPECT_EQ(said(), u"");
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Neutral);
     other->discard();
     form().SetFocus();
     outside.advance(31); // 91 seconds in all
-    EXPECT_TRUE(isOf(MascotMoment::LongThinking));
-}
-
-TEST_F(TrainerMascot, OfHalfARoundItSaysNotThatMostIsDone)
-{
-    begin();
-    expectRankBox();
-    type(u"18,0{enter}{enter}1{enter}2{enter}3{enter}{enter}36,5{enter}{enter}1{enter}2{enter}3{enter}{"
-         u"enter}");
-    EXPECT_TRUE(isOf(MascotMoment::FewSolved)) << phial::toUtf8(said());
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Happy);
 }
 
 TEST_F(TrainerMascot, TheLastTextIsNotOfAnotherLanguage)
 {
-    trainer->welcome();
+    touch(u"but_Level", 0);
+    ASSERT_NE(said(), u"");
     touch(u"but_Language");
     outside.advance(0.1);
     type(u"{F3}");
     EXPECT_EQ(said(), u"");
 }
 
-TEST_F(TrainerMascot, ConsolesAfterTheThirdTry)
+TEST_F(TrainerMascot, LooksCalmAfterTheThirdTry)
 {
     begin();
-    type(u"1{enter}2{enter}3{enter}");
-    EXPECT_TRUE(isOf(MascotMoment::Missed));
-    EXPECT_EQ(atom().frame().announcement(), said());
+    type(u"1{enter}");
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Surprised);
+    type(u"2{enter}");
+    silence();
+    type(u"3{enter}");
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Neutral);
+    EXPECT_EQ(said(), u"");
 }
 
-TEST_F(TrainerMascot, WelcomesTheHint)
+TEST_F(TrainerMascot, SmilesAtTheHint)
 {
     begin();
     type(u"{F1}");
-    EXPECT_TRUE(isOf(MascotMoment::Hint));
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Happy);
+    EXPECT_EQ(said(), u"") << "the page tells it";
 }
 
-TEST_F(TrainerMascot, OffersPatienceToWhoeverThinksLong)
+TEST_F(TrainerMascot, SmilesAtWhoeverThinksLong)
 {
     begin();
     outside.advance(44);
-    EXPECT_EQ(said(), u"");
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Neutral);
     type(u"1");
     outside.advance(44);
-    EXPECT_EQ(said(), u"") << "who types is not thinking";
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Neutral) << "who types is not thinking";
     outside.advance(1.5);
-    EXPECT_TRUE(isOf(MascotMoment::LongThinking));
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Happy);
+    EXPECT_EQ(said(), u"");
+    type(u"2{enter}");
+    ASSERT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Surprised);
+    type(u"18,0{enter}");
     silence();
+    atom().MOOD(Mood::ID_DrAtomMood_Neutral);
     outside.advance(100);
-    EXPECT_EQ(said(), u"") << "once is enough";
-    type(u"8,0{enter}");
-    silence();
-    outside.advance(100);
-    EXPECT_EQ(said(), u"") << "the task is decided";
+    EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Neutral) << "the task is decided";
 }
 
 TEST_F(TrainerMascot, IsSilentWhileSomeoneTypes)
@@ -246,21 +318,42 @@ TEST_F(TrainerMascot, IsSilentWhileSomeoneTypes)
     EXPECT_EQ(said(), u"");
 }
 
-TEST_F(TrainerMascot, TellsAboutTheRoundAtItsEnd)
+struct RoundEnd {
+    String answers;
+    String word;
+};
+
+TEST_F(TrainerMascot, TellsAboutTheRoundAtItsEndWhatThePageTells)
 {
-    begin();
-    expectRankBox();
-    type(u"18,0{enter}{enter}1{enter}2{enter}3{enter}{enter}36,5{enter}{enter}32,0{enter}{enter}");
-    EXPECT_TRUE(isOf(MascotMoment::ManySolved)) << phial::toUtf8(said());
+    const String missed = u"1{enter}2{enter}3{enter}{enter}";
+    const RoundEnd ends[] = {
+        {u"18,0{enter}{enter}58,4{enter}{enter}36,5{enter}{enter}32,0{enter}{enter}",
+         u"Ausgezeichnet!<br>4 von 4 Formeln gelöst"},
+        {u"18,0{enter}{enter}" + missed + missed + missed,
+         u"1 von 4 Formeln gelöst<br>Übung macht den Meister!"},
+        {missed + missed + missed + missed, u"Übung macht den Meister!<br>0 von 4 Formeln gelöst"},
+    };
+    for (const RoundEnd& end : ends) {
+        trainer.reset();
+        learning::MissedTasks(u"Uli").forget();
+        open();
+        form().innerSize({1080, 640});
+        begin();
+        expectRankBox();
+        type(end.answers);
+        EXPECT_EQ(said(), end.word) << phial::toUtf8(said());
+    }
 }
 
 TEST_F(TrainerMascot, ItsLastTextComesBackByClickAndKey)
 {
-    trainer->welcome();
+    touch(u"but_Level", 0);
     const String text = said();
     silence();
+    ASSERT_NE(text, u"");
     atom().click();
     EXPECT_EQ(said(), text);
+    EXPECT_EQ(atom().frame().announcement(), phial::plainMarkup(text)) << "who asks for it hears it again";
     atom().click();
     outside.advance(0.1);
     EXPECT_EQ(said(), u"") << "a click on it while it talks ends the text";
@@ -274,9 +367,8 @@ TEST_F(TrainerMascot, TheSwitchGoesThroughItsChoicesAndIsRemembered)
     EXPECT_EQ(buttonText(u"but_Mascot"), u"Maskottchen: an");
     touch(u"but_Mascot");
     EXPECT_EQ(buttonText(u"but_Mascot"), u"Maskottchen: langsam");
-    type(u"{F1}");
-    const double slow = atom().BUBBLETIME;
-    EXPECT_GE(slow, 8);
+    type(u"{F3}");
+    EXPECT_GE(atom().BUBBLETIME, 8);
     touch(u"but_Mascot");
     EXPECT_FALSE(atom().moves());
     touch(u"but_Mascot");
@@ -287,7 +379,7 @@ TEST_F(TrainerMascot, TheSwitchGoesThroughItsChoicesAndIsRemembered)
     form().innerSize({1080, 640});
     EXPECT_FALSE(atom().Visible());
     EXPECT_EQ(buttonText(u"but_Mascot"), u"Maskottchen: aus");
-    trainer->welcome();
+    touch(u"but_Level", 0);
     EXPECT_EQ(said(), u"");
     touch(u"but_Mascot");
     EXPECT_TRUE(atom().Visible());
@@ -319,6 +411,8 @@ TEST(MascotWords, TextsAreShortAndInBothLanguages)
         for (const StringView both : learning::mascotTexts(static_cast<MascotMoment>(at))) {
             const auto bar = both.find(u'|');
             ASSERT_NE(bar, StringView::npos);
+            EXPECT_GT(bar, 0U);
+            EXPECT_LT(bar + 1, both.size());
             EXPECT_LE(bar, Longest);
             EXPECT_LE(both.size() - bar - 1, Longest);
             EXPECT_EQ(both.substr(0, bar).find(u"{1}") == StringView::npos,
