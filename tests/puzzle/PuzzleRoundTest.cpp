@@ -185,7 +185,7 @@ TEST_F(PuzzleRound, TellsProtonsOnTilesOfTheFirstLevelAlone)
 TEST_F(PuzzleRound, IsSpokenToScreenReaders)
 {
     begin(1);
-    EXPECT_EQ(said(), u"Aufgabe 1 von 1\nK");
+    EXPECT_EQ(said(), seen(u"lab_Feedback") + u"\nAufgabe 1 von 1\nK");
     tryPlace(Sodium);
     EXPECT_EQ(said(), u"K: gleiche Gruppe, aber eine Periode tiefer.\nDu hast noch 2 Versuche.");
     tryPlace(Potassium);
