@@ -148,6 +148,22 @@ TEST_F(DesktopChoice, IsFollowedWhenItChanges)
     EXPECT_TRUE(eventually([] { return coreTheme().Colours() == ColourSet::Dark; }));
 }
 
+/// The program asks by changing its palette for a moment, which must not make it ask again.
+TEST_F(ThemeTest, TheDesktopIsNotAskedAgainAndAgain)
+{
+    coreTheme().SetColours(ColourSet::Dark);
+    int asked = 0;
+    const DesktopLook look([&] {
+        ++asked;
+        return askDesktop();
+    });
+    for (int turn = 0; turn < 20; ++turn) {
+        QApplication::processEvents();
+    }
+    EXPECT_LE(asked, 2);
+    coreTheme().SetColours(std::nullopt);
+}
+
 TEST_F(ThemeTest, TheProgramsOwnPaletteIsNotTakenForTheDesktops)
 {
     coreTheme().SetColours(ColourSet::Dark);

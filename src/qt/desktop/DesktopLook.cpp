@@ -48,6 +48,8 @@ QPalette askDesktop()
     QApplication::setPalette(QPalette());
     const QPalette desktop = QApplication::palette();
     QApplication::setPalette(own);
+    // What both changes have posted is delivered while it is known to be no news.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::ApplicationPaletteChange);
     return desktop;
 }
 
