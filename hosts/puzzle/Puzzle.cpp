@@ -133,6 +133,7 @@ void Puzzle::show(int position)
     showTiles();
 }
 
+/// Seen with the next redraw.
 void Puzzle::showGuides()
 {
     const auto guides = std::make_shared<phial::CoreStringList>();
@@ -143,7 +144,6 @@ void Puzzle::showGuides()
     table_->FADED(guides);
     table_->GONE(grey); // the colour of an empty place would tell which tile belongs there
     table_->HIGHLIGHTS(std::make_shared<phial::CoreTokenList>());
-    table_->REDRAW();
 }
 
 void Puzzle::showTiles()

@@ -213,6 +213,38 @@ TEST_F(PuzzleRound, GoesOnInTheOtherLanguage)
     EXPECT_EQ(seen(u"lab_Feedback"), u"F: same group, but one period higher.<br>You have 2 tries left.");
 }
 
+TEST_F(PuzzleRound, GivesNoPeriodAwayByTheColourOfAPlace)
+{
+    begin(0);
+    EXPECT_TRUE(table().GONE()->Exists(u"Na"));
+    EXPECT_TRUE(table().GONE()->Exists(u"F")) << "another empty place";
+    EXPECT_FALSE(table().GONE()->Exists(u"O"));
+    drag(0, Sodium);
+    touch(u"but_Check");
+    EXPECT_FALSE(table().GONE()->Exists(u"Na")) << "it is told now";
+}
+
+// As pictures of the app do it.
+TEST_F(PuzzleRound, IsFilledWithAnswersOfEachKind)
+{
+    open("[leer] Leer | Empty\nF Cl\n");
+    touch(u"but_Level", 0);
+    app->app().fill(learning::Judgement::Unreadable);
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Lege erst jedes Kärtchen auf einen grauen Platz.");
+    for (const auto* left : {u"noch 2 Versuche", u"noch einen Versuch"}) {
+        app->app().fill(learning::Judgement::Wrong);
+        EXPECT_NE(table().DRAGSYMBOLDROP(0), u"F");
+        EXPECT_EQ(table().DRAGSYMBOLDROP(1), u"Cl");
+        touch(u"but_Check");
+        EXPECT_TRUE(contains(seen(u"lab_Feedback"), left));
+    }
+    app->app().fill(learning::Judgement::Right);
+    EXPECT_EQ(table().DRAGSYMBOLDROP(0), u"F");
+    touch(u"but_Check");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"4 Punkte für dich"));
+}
+
 TEST_F(PuzzleRound, TellsWhatIsMissing)
 {
     makeTree(u"installed\\");
