@@ -3,7 +3,7 @@
 #include "common/FrameTexts.h"
 
 #include <algorithm>
-#include <ranges>
+#include <span>
 
 namespace puzzle
 {
@@ -123,7 +123,8 @@ String trendOf(const ElementFacts& element, const ElementBook& book)
 String trendsText(const Elements& elements, const ElementBook& book)
 {
     String lines;
-    for (const ElementFacts* const element : elements | std::views::take(MostLines)) {
+    for (const ElementFacts* const element :
+         std::span(elements).first(std::min(elements.size(), MostLines))) {
         lines += (lines.empty() ? String() : String(u"<br>")) + trendOf(*element, book);
     }
     return lines;
