@@ -8,12 +8,12 @@
 #include "core/CoreMachine.h"
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
-#include "core/CoreWindowOps.h"
 #include "core/RandomSource.h"
 #include "core/SessionState.h"
 #include "mascot/ctl_Bubble.h"
 #include "media/cls_AppMedia.h"
 #include "visual/Form.h"
+#include "visual/PointerPlace.h"
 #include "visual/PropertyRows.h"
 #include "visual/VisualHost.h"
 
@@ -458,21 +458,9 @@ void ctl_DrAtom::turnEyes()
     }
 }
 
-/// In pixels of the control; the desktop and its windows are measured without the form's zoom.
 std::optional<PixelPoint> ctl_DrAtom::pointer() const
 {
-    const CoreDisplay& display = coreRoot().CoreDisplay();
-    if (!display.TellsCursor()) {
-        return std::nullopt;
-    }
-    const CoreWindowOps& windows = coreRoot().CoreSystem().CoreWindowOps();
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    display.CursorPos(x, y);
-    const auto form = frame_.form();
-    const double zoom = form ? form->Zoom() : 1;
-    return PixelPoint{(double{1} * x - windows.ScreenLeft(frame_.hWnd())) / zoom,
-                      (double{1} * y - windows.ScreenTop(frame_.hWnd())) / zoom};
+    return pointerFrom(frame_);
 }
 
 void ctl_DrAtom::holdMouth()
