@@ -105,6 +105,11 @@ QRectF ControlWidget::focusPlace() const
     return part && *part < parts().size() ? zoomed(parts()[*part].area, *control_) : QRectF(rect());
 }
 
+bool ControlWidget::focusIsInTable() const
+{
+    return control_->role() == PartRole::Table && currentPart();
+}
+
 QSize ControlWidget::sizeHint() const
 {
     const PixelSize size = control_->surface().size();

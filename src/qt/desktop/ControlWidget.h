@@ -69,6 +69,8 @@ public:
 
     /// Where the focus is within the widget while it has it: that part, or all of it.
     QRectF focusPlace() const;
+    /// Whether that is part of a table, with others close around it.
+    bool focusIsInTable() const;
 
 protected:
     bool event(QEvent* event) override;

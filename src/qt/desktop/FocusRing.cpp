@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPointer>
 
+#include <algorithm>
 #include <vector>
 
 namespace phial::qt
@@ -28,6 +29,8 @@ constexpr double RingWidth = 3;
 constexpr double RingWidthOfHighContrast = 4;
 constexpr double RingGap = 2;
 constexpr double RingRadius = 8; // of the gap's inner edge, as buttons have it
+constexpr double GapInTable = 1;
+constexpr double ThinnerInTable = 1; // by which the ring is
 
 double ringWidth()
 {
@@ -40,8 +43,8 @@ void strokeInside(QPainter& painter, const QRectF& area, double width, const QCo
 {
     const double middle = width / 2;
     painter.setPen(QPen(colour, width));
-    painter.drawRoundedRect(area.adjusted(middle, middle, -middle, -middle), radius - middle,
-                            radius - middle);
+    const double bend = std::max(0.0, radius - middle);
+    painter.drawRoundedRect(area.adjusted(middle, middle, -middle, -middle), bend, bend);
 }
 
 /// Lies over the window, where presses go through it and screen readers do not see it.
@@ -50,11 +53,14 @@ class Ring final : public QFocusFrame
 public:
     explicit Ring(QWidget* window) : QFocusFrame(window) {}
 
-    /// The area is the window's.
-    void surround(const QRectF& area, double zoom)
+    /// The area is the window's. What is in a table has no room around it: there the ring lies
+    /// within.
+    void surround(const QRectF& area, double zoom, bool isInTable)
     {
-        const double reach = (RingGap + ringWidth()) * zoom;
-        zoom_ = zoom;
+        gap_ = (isInTable ? GapInTable : RingGap) * zoom;
+        line_ = (ringWidth() - (isInTable ? ThinnerInTable : 0)) * zoom;
+        radius_ = isInTable ? 0 : RingRadius * zoom;
+        const double reach = isInTable ? 0 : gap_ + line_;
         outer_ = area.adjusted(-reach, -reach, reach, reach).intersected(parentWidget()->rect());
         setGeometry(outer_.toAlignedRect());
         raise();
@@ -66,20 +72,21 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         const QRectF outer = outer_.translated(-pos());
-        const double width = ringWidth() * zoom_;
-        const double gap = RingGap * zoom_;
-        const double radius = RingRadius * zoom_;
+        const double gapRadius = radius_ > 0 ? radius_ + gap_ : 0;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setBrush(Qt::NoBrush);
-        strokeInside(painter, outer.adjusted(width, width, -width, -width), gap, toQColor(Palette::FocusGap),
-                     radius + gap);
-        strokeInside(painter, outer, width, toQColor(Palette::FocusRing), radius + gap + width);
+        strokeInside(painter, outer.adjusted(line_, line_, -line_, -line_), gap_, toQColor(Palette::FocusGap),
+                     gapRadius);
+        strokeInside(painter, outer, line_, toQColor(Palette::FocusRing),
+                     radius_ > 0 ? gapRadius + line_ : 0);
     }
 
 private:
     QRectF outer_;
-    double zoom_ = 1;
+    double gap_ = 0;
+    double line_ = 0;
+    double radius_ = 0; ///< of the gap's inner edge
 };
 
 bool hasRing(const QWidget& widget)
@@ -98,6 +105,12 @@ QRectF visiblePlace(const QWidget& target)
         place = place.intersected(widget->rect()).translated(widget->pos());
     }
     return place.intersected(target.window()->rect());
+}
+
+bool isInTable(const QWidget& target)
+{
+    const auto* painted = qobject_cast<const ControlWidget*>(&target);
+    return painted && painted->focusIsInTable();
 }
 
 /// Keeps the ring around whatever has the focus.
@@ -125,7 +138,7 @@ public:
             delete ring_;
             ring_ = new Ring(target_->window());
         }
-        ring_->surround(place, zoomOf(target_));
+        ring_->surround(place, zoomOf(target_), isInTable(*target_));
     }
 
 protected:
