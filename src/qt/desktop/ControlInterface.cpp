@@ -209,12 +209,15 @@ void ControlInterface::partsChanged()
 
 void ControlInterface::tell(const PartChange& change)
 {
-    const bool isState = change.type == QAccessible::StateChanged;
-    QAccessibleStateChangeEvent state(widget(), change.state);
-    QAccessibleEvent other(widget(), change.type);
-    QAccessibleEvent& event = isState ? state : other;
-    event.setChild(static_cast<int>(change.part));
-    QAccessible::updateAccessibility(&event);
+    const auto say = [&](QAccessibleEvent&& event) {
+        event.setChild(static_cast<int>(change.part));
+        update(std::move(event));
+    };
+    if (change.type == QAccessible::StateChanged) { // which has a class of its own
+        say(QAccessibleStateChangeEvent(widget(), change.state));
+    } else {
+        say(QAccessibleEvent(widget(), change.type));
+    }
 }
 
 void ControlInterface::tellState(const PartState& before)
