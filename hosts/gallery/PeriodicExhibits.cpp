@@ -50,8 +50,12 @@ std::vector<Exhibit> periodicExhibits()
 {
     return {{Group::Periodic,
              u"ctl_PSE",
-             u"Das Periodensystem. Ruht der Zeiger auf einem Element, sagt eine Blase mehr.|"
-             u"The periodic table. Rest the pointer on an element, and a bubble tells more.",
+             u"Das Periodensystem. Ruht der Zeiger oder ein Finger auf einem Element, sagt eine Blase mehr. "
+             u"Pfeile "
+             u"und Buchstaben führen von Element zu Element.|"
+             u"The periodic table. Rest the pointer or a finger on an element, and a bubble tells more. "
+             u"Arrows and "
+             u"letters lead from element to element.",
              buildTable,
              {tableSample(u"Symbole|Symbols", [](ctl_PSE&) {}),
               sample<ctl_PSE>(u"Namen|Names",
@@ -73,6 +77,10 @@ std::vector<Exhibit> periodicExhibits()
                               table.GONE()->Add(u"Tc");
                               table.GONE()->Add(u"Pm");
                           }),
+              tableSample(u"Hoher Kontrast|High contrast",
+                          [](ctl_PSE& table) { table.Colouring(TableColours::HighContrast); }),
+              tableSample(u"Farben für alle|Colours for everybody",
+                          [](ctl_PSE& table) { table.Colouring(TableColours::Distinct); }),
               tableSample(u"Einordnen|Put in order", [](ctl_PSE& table) {
                   for (const StringView symbol : {u"H", u"He", u"Li", u"Ne"}) {
                       table.FADED()->Add(String(symbol));
@@ -81,6 +89,7 @@ std::vector<Exhibit> periodicExhibits()
                   for (const StringView symbol : {u"O", u"C", u"F", u"Be"}) {
                       table.DRAGADD(symbol);
                   }
+                  table.activatePart(table.parts().size() - 3); // carbon is taken
               })}}};
 }
 

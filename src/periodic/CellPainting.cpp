@@ -8,6 +8,7 @@
 #include "visual/DrawDevice.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -20,14 +21,9 @@ namespace
 constexpr Colour Black = QBColor(0);
 constexpr Colour White = QBColor(15);
 constexpr Colour Grey = QBColor(7);
-constexpr Colour LiquidText = QBColor(9);
-constexpr Colour GasText = QBColor(12);
-constexpr Colour ProtonText = RGB(255, 0, 0);
-constexpr Colour HighlightFrame = RGB(255, 204, 0);
 
 constexpr double PaleShare = 70;    // of white, in percent
 constexpr double MassDarkness = 70; // share of black
-constexpr double GroundShade = 20;
 constexpr double EdgeShade = 10;
 constexpr double FrameWidth = 3;
 constexpr double LargeText = 15; // points, from which text is enlarged once more
@@ -40,8 +36,8 @@ class CellPainter
 {
 public:
     CellPainter(DrawDevice& device, const ElementCell& cell, const CellStyle& style, const CellLook& look)
-        : device_(device), cell_(cell), style_(style), look_(look), left_(cell.area.left),
-          top_(cell.area.top), right_(cell.area.right()), bottom_(cell.area.bottom())
+        : device_(device), cell_(cell), style_(style), colours_(*style.colours), look_(look),
+          left_(cell.area.left), top_(cell.area.top), right_(cell.area.right()), bottom_(cell.area.bottom())
     {
     }
 
@@ -66,12 +62,17 @@ private:
         return look_.isPale ? CoreColors::Blend(colour, PaleShare, White) : colour;
     }
 
+    Colour shownText(Colour colour) const
+    {
+        return look_.isPale && colours_.paleText ? *colours_.paleText : shown(colour);
+    }
+
     Colour groundShade(Colour colour) const { return look_.isGrey ? Grey : shown(colour); }
 
     void paintGround()
     {
-        const Colour upper = groundShade(CoreColors::Lighten(cell_.base, GroundShade));
-        const Colour lower = groundShade(CoreColors::Darken(cell_.base, GroundShade));
+        const Colour upper = groundShade(CoreColors::Lighten(cell_.base, colours_.shade));
+        const Colour lower = groundShade(CoreColors::Darken(cell_.base, colours_.shade));
         constexpr double Angle = 45;
         constexpr std::int32_t Steps = 256;
         CoreColors::Gradient(device_, left_, top_, cell_.area.width, cell_.area.height, upper, lower, Angle,
@@ -105,6 +106,44 @@ private:
             printCentred(cell_.symbol, 2);
             paintStar();
         }
+        if (cell_.element && colours_.hasStateSigns) {
+            paintState();
+        }
+    }
+
+    /// In the lower right corner, which no text reaches: a box for a solid, a drop, a ring for a gas.
+    void paintState()
+    {
+        constexpr double Size = 5; // pixels, for cells of 32
+        constexpr double Margin = 3;
+        const double size = std::round(Size * style_.scale);
+        const double left = right_ - Margin - size;
+        const double top = bottom_ - Margin - size;
+        const Colour colour = shownText(cell_.text);
+        if (cell_.element->GAS()) {
+            device_.DrawWidth(std::max(1.0, std::round(double{1} * style_.scale)));
+            device_.Circle(left + size / 2, top + size / 2, size / 2, colour);
+            device_.DrawWidth(1);
+        } else if (cell_.element->LIQUID()) {
+            paintDrop({left, top, size, size}, colour);
+        } else {
+            device_.Line(left, top, left + size - 1, top + size - 1, colour, LineShape::Filled);
+        }
+    }
+
+    void paintDrop(const PixelRectangle& area, Colour colour)
+    {
+        constexpr auto Drop = std::to_array<PixelPoint>(
+            {{0.5, -0.1}, {0.85, 0.5}, {0.9, 0.75}, {0.7, 1}, {0.3, 1}, {0.1, 0.75}, {0.15, 0.5}});
+        auto points = Drop;
+        for (PixelPoint& point : points) {
+            point = {area.left + point.x * area.width, area.top + point.y * area.height};
+        }
+        device_.FillStyle(FillStyle::Solid);
+        device_.FillColor(colour);
+        device_.ForeColor(colour);
+        device_.Polygon(points);
+        device_.FillStyle(FillStyle::Transparent);
     }
 
     void paintSmallText()
@@ -113,16 +152,16 @@ private:
         device_.FontName(5 * style_.scale < SmallFontsBelow ? u"Small Fonts" : StringView(style_.fontName));
         device_.FontSize(cell_design::SmallSize * style_.scale);
         device_.FontBold(false);
-        print(ProtonText, left_, bottom_ - device_.TextHeight(u"1"),
+        print(colours_.protons, left_, bottom_ - device_.TextHeight(u"1"),
               u" " + plainText(cell_.element->PROTONS()));
         const char16_t sign = currentLocale().decimalSign;
-        print(CoreColors::Blend(cell_.base, MassDarkness, Black), left_, top_ - 1,
+        print(colours_.mass.value_or(CoreColors::Blend(cell_.base, MassDarkness, Black)), left_, top_ - 1,
               u" " + plainText(cell_.element->MOL(), sign));
     }
 
     void print(Colour colour, double x, double y, const String& text)
     {
-        device_.ForeColor(shown(colour));
+        device_.ForeColor(shownText(colour));
         device_.CurrentX(x);
         device_.CurrentY(y);
         device_.Print(text);
@@ -176,7 +215,7 @@ private:
     void paintFrames()
     {
         if (look_.isHighlighted) {
-            paintFrame(HighlightFrame);
+            paintFrame(colours_.highlight);
         }
         if (look_.frame) {
             paintFrame(*look_.frame);
@@ -207,6 +246,7 @@ private:
     DrawDevice& device_;
     const ElementCell& cell_;
     const CellStyle& style_;
+    const CellColours& colours_;
     const CellLook& look_;
     double left_;
     double top_;
@@ -225,9 +265,10 @@ double CellStyle::textSize() const
     return showsNames ? NameShare * size : size;
 }
 
-ElementCell ElementCell::of(std::shared_ptr<cls_DataElement> element, const PixelRectangle& area, Colour base)
+ElementCell ElementCell::of(std::shared_ptr<cls_DataElement> element, const PixelRectangle& area, Colour base,
+                            const CellColours& colours)
 {
-    const Colour text = element->LIQUID() ? LiquidText : element->GAS() ? GasText : Black;
+    const Colour text = element->LIQUID() ? colours.liquid : element->GAS() ? colours.gas : colours.solid;
     String symbol = element->SYMBOL();
     return {area, std::move(element), std::move(symbol), text, base};
 }

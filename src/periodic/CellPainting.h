@@ -2,6 +2,7 @@
 
 #include "core/Colour.h"
 #include "core/String.h"
+#include "periodic/CellColours.h"
 #include "visual/Geometry.h"
 
 #include <memory>
@@ -27,6 +28,7 @@ struct CellStyle {
     float scale = 1; ///< 1 for cells of 32 pixels
     String fontName;
     bool showsNames = false; ///< names instead of symbols
+    const CellColours* colours = &CellColours::of(TableColours::Classic);
 
     double textSize() const; ///< of the symbol or the name, in points
 };
@@ -50,8 +52,9 @@ struct ElementCell {
     Colour text;
     Colour base; ///< of its ground
 
-    /// With the colour of text that tells the element's state: blue for a liquid, red for a gas.
-    static ElementCell of(std::shared_ptr<cls_DataElement> element, const PixelRectangle& area, Colour base);
+    /// With the colour of text that tells the element's state of matter.
+    static ElementCell of(std::shared_ptr<cls_DataElement> element, const PixelRectangle& area, Colour base,
+                          const CellColours& colours);
 
     void paint(DrawDevice& device, const CellStyle& style, const CellLook& look) const;
 };

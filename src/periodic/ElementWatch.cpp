@@ -26,8 +26,14 @@ ElementWatch::ElementWatch(const ControlFrame& table, const PeriodicSheet& sheet
 
 void ElementWatch::bubble(std::shared_ptr<ctl_Bubble> value)
 {
+    if (value == bubble_) {
+        return;
+    }
+    if (isTelling()) {
+        hideBubble();
+    }
     bubble_ = std::move(value);
-    timer_.Enabled(element_ && bubble_);
+    count();
 }
 
 void ElementWatch::watch(std::shared_ptr<cls_DataElement> element)
@@ -37,8 +43,14 @@ void ElementWatch::watch(std::shared_ptr<cls_DataElement> element)
     }
     element_ = std::move(element);
     hideBubble();
+    count();
+}
+
+/// From now on.
+void ElementWatch::count()
+{
     ticks_ = 0;
-    timer_.Enabled(false); // counts from now on
+    timer_.Enabled(false);
     timer_.Enabled(element_ && bubble_);
 }
 
@@ -77,6 +89,14 @@ void ElementWatch::place()
     const PixelPoint bubble = bubble_->frame().originOnForm();
     bubble_->frame().pixelRectangle({now.left + table.x - bubble.x + place.corner.x,
                                      now.top + table.y - bubble.y + place.corner.y, now.width, now.height});
+}
+
+PixelRectangle ElementWatch::bubbleArea() const
+{
+    const PixelRectangle area = bubble_ ? bubble_->frame().pixelRectangle() : PixelRectangle();
+    const PixelPoint table = table_.originOnForm();
+    const PixelPoint bubble = bubble_ ? bubble_->frame().originOnForm() : table;
+    return {bubble.x - table.x, bubble.y - table.y, area.width, area.height};
 }
 
 void ElementWatch::tick()

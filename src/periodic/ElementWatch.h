@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Event.h"
+#include "visual/Geometry.h"
 #include "visual/Timer.h"
 
 #include <cstdint>
@@ -32,6 +33,8 @@ public:
     void place();
     /// Whether the bubble tells of the element now.
     bool isTelling() const;
+    /// The bubble's place in the table.
+    PixelRectangle bubbleArea() const;
     /// The bubble goes and does not come again for this element.
     void hush();
 
@@ -41,6 +44,7 @@ public:
 private:
     void tick();
     void hideBubble();
+    void count();
 
     const ControlFrame& table_;
     const PeriodicSheet& sheet_;

@@ -17,12 +17,6 @@ namespace phial
 namespace
 {
 
-/// Of a cell's ground, by its shell, from 1.
-constexpr std::array<Colour, 7> ShellColours = {
-    RGB(157, 152, 140), RGB(255, 150, 255), RGB(150, 255, 150), RGB(255, 150, 150),
-    RGB(150, 150, 255), RGB(255, 255, 150), RGB(200, 100, 200),
-};
-
 constexpr Colour NoElementsGround = QBColor(7); // of a tile
 
 /// The first value; none without a number there.
@@ -37,9 +31,9 @@ std::optional<Colour> colourIn(const CoreValueList& values)
     return colour;
 }
 
-Colour shellColour(std::int32_t shell)
+Colour shellColour(const CellColours& colours, std::int32_t shell)
 {
-    return ShellColours[static_cast<std::size_t>(shell - 1)];
+    return colours.shells[static_cast<std::size_t>(shell - 1)];
 }
 
 } // namespace
@@ -70,15 +64,27 @@ void PeriodicSheet::fill(cls_DataElements& table)
     cells_.clear();
     corner_ = {};
     style.scale = grid.scale();
+    findElements(table);
     for (std::int32_t position = 1; position <= table.COUNT(); ++position) {
         const auto place = placeOf(position);
         if (!place) {
             break;
         }
         const PixelRectangle area = grid.cell(place->column, place->row);
-        cells_.push_back({ElementCell::of(table.ITEM(position), area, shellColour(place->shell)), *place});
+        const Colour base = shellColour(*style.colours, place->shell);
+        cells_.push_back({ElementCell::of(table.ITEM(position), area, base, *style.colours), *place});
         corner_ = {std::max(corner_.x, area.right()), std::max(corner_.y, area.bottom())};
         tellTiles(cells_.back());
+    }
+}
+
+void PeriodicSheet::findElements(cls_DataElements& table)
+{
+    for (DragTile& tile : tiles) {
+        const Variant symbol{tile.symbol};
+        if (!tile.symbol.empty() && !tile.element && table.EXISTS(symbol)) {
+            tile.element = table.ITEM(symbol, false);
+        }
     }
 }
 
@@ -136,6 +142,18 @@ void PeriodicSheet::paintCell(DrawDevice& device, std::size_t cell, bool isHover
     painted.paint(device, style, look);
 }
 
+void PeriodicSheet::paintTilesOn(DrawDevice& device, std::size_t cell) const
+{
+    const PixelRectangle& area = cells_[cell].painted.area;
+    for (std::int32_t slot = DragTiles::Slots - 1; slot >= 0; --slot) {
+        const PixelRectangle& tile = tiles.at(slot).area;
+        if (tile.left < area.right() && tile.right() > area.left && tile.top < area.bottom() &&
+            tile.bottom() > area.top) {
+            paintTile(device, slot);
+        }
+    }
+}
+
 void PeriodicSheet::paintTile(DrawDevice& device, std::int32_t slot) const
 {
     const DragTile& tile = tiles.at(slot);
@@ -145,7 +163,8 @@ void PeriodicSheet::paintTile(DrawDevice& device, std::int32_t slot) const
     ElementCell cell{tile.area, nullptr, tile.symbol, QBColor(0), NoElementsGround};
     if (tile.element) {
         const auto own = cellOf(tile.element.get());
-        cell = ElementCell::of(tile.element, tile.area, own ? cells_[*own].painted.base : NoElementsGround);
+        cell = ElementCell::of(tile.element, tile.area, own ? cells_[*own].painted.base : NoElementsGround,
+                               *style.colours);
     }
     CellLook look = marks.lookOf(tile.symbol, true);
     look.isTaken = marks.taken == slot;

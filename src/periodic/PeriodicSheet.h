@@ -48,8 +48,8 @@ public:
     bool showsElectronStates = false;
     DragTiles tiles;
 
-    /// Works out all cells from the table; elements that it lacks leave gaps. Tiles learn on which element
-    /// they lie.
+    /// Works out all cells from the table; elements that it lacks leave gaps. Tiles learn which element is
+    /// theirs and on which one they lie.
     void fill(cls_DataElements& table);
     const std::vector<Cell>& cells() const { return cells_; }
     /// The greatest right and bottom of all cells.
@@ -63,10 +63,13 @@ public:
     void paint(DrawDevice& device, const cls_DataElement* hovered,
                std::optional<std::int32_t> leftOut = std::nullopt) const;
     void paintCell(DrawDevice& device, std::size_t cell, bool isHovered) const;
+    /// What lies on a cell that has been painted.
+    void paintTilesOn(DrawDevice& device, std::size_t cell) const;
     /// Nothing for a free slot.
     void paintTile(DrawDevice& device, std::int32_t slot) const;
 
 private:
+    void findElements(cls_DataElements& table);
     void tellTiles(const Cell& cell);
 
     std::vector<Cell> cells_;

@@ -81,7 +81,7 @@ void paintCaption(DrawDevice& device, const CellStyle& style, const PixelRectang
 
 void paintTableLabels(DrawDevice& device, const TableGrid& grid, const CellStyle& style)
 {
-    device.ForeColor(QBColor(0));
+    device.ForeColor(inkOn(device.BackColor(), style.colours->caption));
     for (const TableLabel& label : Labels) {
         paintCaption(device, style, grid.area(label.column, label.row, label.columns, 1), String(label.text));
     }
@@ -94,7 +94,7 @@ void paintTableLabels(DrawDevice& device, const TableGrid& grid, const CellStyle
 void paintElectronStates(DrawDevice& device, const TableGrid& grid, const CellStyle& style)
 {
     constexpr double Height = 0.5;
-    device.ForeColor(QBColor(0));
+    device.ForeColor(inkOn(device.BackColor(), style.colours->caption));
     for (const StateRun& run : StateRuns) {
         for (std::int32_t number = 1; number <= run.count; ++number) {
             paintCaption(device, style, grid.area(run.column + number - 1, run.row, 1, Height),

@@ -99,17 +99,32 @@ TileHand::Act TileHand::put(DragTile::Target cell, const TableGrid& grid)
     return {Deed::Dropped, slot};
 }
 
+bool TileHand::cancelPress(const TableGrid& grid)
+{
+    const std::optional<Press> press = std::exchange(press_, std::nullopt);
+    if (!press || !press->slot) {
+        return false;
+    }
+    bringBack(*press->slot, press->before, grid);
+    return true;
+}
+
+void TileHand::bringBack(std::int32_t slot, const Target& before, const TableGrid& grid)
+{
+    if (before) {
+        tiles_.put(slot, *before, grid);
+    } else {
+        tiles_.sendHome(slot, grid);
+    }
+}
+
 TileHand::Act TileHand::letGo(const TableGrid& grid)
 {
     const std::optional<Hold> hold = std::exchange(taken_, std::nullopt);
     if (!hold) {
         return {};
     }
-    if (hold->before) {
-        tiles_.put(hold->slot, *hold->before, grid);
-    } else {
-        tiles_.sendHome(hold->slot, grid);
-    }
+    bringBack(hold->slot, hold->before, grid);
     return {Deed::LetGo, hold->slot};
 }
 

@@ -47,6 +47,9 @@ public:
     /// `cell` is where an element stands beneath the pointer.
     Act release(PixelPoint pointer, std::optional<DragTile::Target> cell, const TableGrid& grid);
 
+    /// No release will come: the held tile is back where it was. Gives whether there is one.
+    bool cancelPress(const TableGrid& grid);
+
     /// What a key chooses: a tile, or a cell without one.
     Act choose(std::int32_t slot, const TableGrid& grid);
     Act choose(DragTile::Target cell, const TableGrid& grid);
@@ -75,6 +78,7 @@ private:
         Target before;
     };
 
+    void bringBack(std::int32_t slot, const Target& before, const TableGrid& grid);
     Act take(std::int32_t slot, const Target& before, const TableGrid& grid);
     Act put(DragTile::Target cell, const TableGrid& grid);
     Act releaseTile(const Press& press, const TableGrid& grid);

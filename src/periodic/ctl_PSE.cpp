@@ -61,6 +61,7 @@ struct ctl_PSE::Properties {
         rows::property<u"MODE">(&ctl_PSE::mode_).kept().then(&ctl_PSE::modeChanged),
         rows::operation<u"DRAGCLEAR">(&ctl_PSE::DRAGCLEAR),
         rows::property<u"ELEKTRONENZUSTAND">(&ctl_PSE::electronStates_).kept(u"ElektronenZustand").still(),
+        rows::property<u"Colouring">(&ctl_PSE::colouring_).kept().then(&ctl_PSE::REDRAW),
     };
 };
 
@@ -73,7 +74,10 @@ ctl_PSE::ctl_PSE()
     frame_.TabStop(true);
     frame_.takesTouch(true);
     watching_ = watch_.Ticking.connect([this] {
-        if (hasLeft_) {
+        if (!frame_.Enabled()) {
+            hover(nullptr);
+            watch_.watch(nullptr);
+        } else if (hasLeft_) {
             dropUnlessPointedAt();
         }
     });
@@ -94,6 +98,7 @@ void ctl_PSE::HIGHLIGHT(String value) { rows::set<Properties, u"HIGHLIGHT">(*thi
 void ctl_PSE::FIXEDSIZE(bool value) { rows::set<Properties, u"FIXEDSIZE">(*this, value); }
 void ctl_PSE::MODE(enm_PSEMode value) { rows::set<Properties, u"MODE">(*this, value); }
 void ctl_PSE::ELEKTRONENZUSTAND(bool value) { rows::set<Properties, u"ELEKTRONENZUSTAND">(*this, value); }
+void ctl_PSE::Colouring(TableColours value) { rows::set<Properties, u"Colouring">(*this, value); }
 void ctl_PSE::FADED(std::shared_ptr<CoreStringList> value) { share(sheet_.marks.faded, std::move(value)); }
 void ctl_PSE::GONE(std::shared_ptr<CoreStringList> value) { share(sheet_.marks.gone, std::move(value)); }
 void ctl_PSE::HIGHLIGHTS(std::shared_ptr<CoreTokenList> value) { share(sheet_.marks.frames, std::move(value)); }
@@ -102,6 +107,7 @@ void ctl_PSE::HIGHLIGHTS(std::shared_ptr<CoreTokenList> value) { share(sheet_.ma
 void ctl_PSE::readProperties(const PropertyBag& bag)
 {
     rows::read<Properties>(*this, bag);
+    modeChanged();
     takeSize();
 }
 
@@ -114,12 +120,14 @@ void ctl_PSE::writeProperties(PropertyBag& bag)
 
 void ctl_PSE::LOAD(StringView pFile)
 {
-    sheet_.grid = {FirstCell, FirstCell};
-    sheet_.style.showsNames = SheetMode::current()->showsNames();
+    const bool showsNames = SheetMode::current()->showsNames();
     if (!hasFile_) {
         import(pFile);
     }
     isLoaded_ = true;
+    sheet_.grid = {FirstCell, FirstCell};
+    sheet_.tiles.layOut(sheet_.grid);
+    sheet_.style.showsNames = showsNames;
     REDRAW();
     takeSize();
 }
@@ -133,25 +141,36 @@ void ctl_PSE::import(StringView file)
         table_->DATABASE()->Clear();
         throw;
     }
-    hasFile_ = true;
+    hasFile_ = table_->COUNT() > 0;
 }
 
 void ctl_PSE::REDRAW()
 {
+    sheet_.style.colours = &CellColours::of(colouring_);
     sheet_.marks.highlight = highlight_;
     sheet_.marks.isPlacing = isPlacing();
     sheet_.marks.taken = hand_.taken();
     sheet_.showsElectronStates = electronStates_;
     ground_.reset();
-    if (isLoaded_) {
-        sheet_.fill(*table_);
-    }
+    fill();
     frame_.report(ControlAspect::Accessibility);
     surface_.invalidate();
 }
 
+void ctl_PSE::fill()
+{
+    if (isLoaded_) {
+        sheet_.fill(*table_);
+    }
+}
+
 void ctl_PSE::paint()
 {
+    ground_.reset();
+    if (sheet_.style.colours != &CellColours::of(colouring_)) { // the theme has changed
+        sheet_.style.colours = &CellColours::of(colouring_);
+        fill();
+    }
     DrawDevice& device = surface_.device();
     device.Cls();
     if (isLoaded_) {
@@ -180,6 +199,7 @@ void ctl_PSE::fitCellsToSize()
     const TableGrid fitting{std::max(0.0, size.width / TableGrid::Columns - 1),
                             std::max(0.0, size.height / TableGrid::Rows - 1)};
     if (fitting != sheet_.grid) {
+        hover(nullptr); // another cell may be there
         sheet_.grid = fitting;
         sheet_.tiles.layOut(sheet_.grid);
         REDRAW();
@@ -205,6 +225,7 @@ void ctl_PSE::modeChanged()
 
 void ctl_PSE::hidden()
 {
+    cancelPress();
     hover(nullptr);
     watch_.watch(nullptr);
 }
@@ -230,11 +251,7 @@ void ctl_PSE::DRAGCLEAR()
 
 void ctl_PSE::DRAGADD(StringView pSymbol)
 {
-    if (DragTile* const tile = sheet_.tiles.add(String(pSymbol), sheet_.grid)) {
-        const Variant symbol{String(pSymbol)};
-        if (table_->EXISTS(symbol)) {
-            tile->element = table_->ITEM(symbol, false);
-        }
+    if (sheet_.tiles.add(String(pSymbol), sheet_.grid)) {
         REDRAW();
     }
 }

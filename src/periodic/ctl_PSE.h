@@ -35,7 +35,7 @@ enum class enm_PSEMode : std::int32_t {
 /// Lists of symbols are shared with the host, which calls REDRAW when it has changed one. REDRAW works out
 /// the cells at once and marks the control for painting.
 ///
-/// Persisted: "BACKCOLOR", "FIXEDSIZE", "MODE", "ElektronenZustand".
+/// Persisted: "BACKCOLOR", "FIXEDSIZE", "MODE", "ElektronenZustand", and "Colouring" where it is not Classic.
 class ctl_PSE final : public UserControl
 {
 public:
@@ -85,6 +85,10 @@ public:
     std::shared_ptr<CoreStringList> GONE() const { return sheet_.marks.gone; }
     void GONE(std::shared_ptr<CoreStringList> value);
 
+    /// With which colours cells are painted; Classic at first.
+    TableColours Colouring() const { return colouring_; }
+    void Colouring(TableColours value);
+
     /// A press on an element, on the same one again, and beside all of them once there was one.
     Event<const std::shared_ptr<cls_DataElement>&> CLICK;
     Event<const std::shared_ptr<cls_DataElement>&> CLICKAGAIN;
@@ -120,6 +124,7 @@ public:
 private:
     struct Properties;
     void import(StringView file);
+    void fill();
     void takeSize();
     void fitCellsToSize();
     void fitSizeToCells();
@@ -127,6 +132,8 @@ private:
     bool isPlacing() const { return mode_ == enm_PSEMode::ID_PSEMode_Place; }
 
     bool isOtherFinger(const PointerEvent& event) const;
+    bool hasLostButton(const PointerEvent& event) const;
+    void cancelPress();
     void point(PixelPoint place);
     void dropUnlessPointedAt();
     void hover(std::shared_ptr<cls_DataElement> element);
@@ -158,11 +165,13 @@ private:
     bool fixedSize_ = false;
     enm_PSEMode mode_{};
     bool electronStates_ = false;
+    TableColours colouring_{};
 
     std::shared_ptr<cls_DataElement> hover_;
     std::shared_ptr<cls_DataElement> last_; ///< clicked
     ElementWatch watch_;
     Connection watching_;
+    PixelPoint pointed_;                 ///< where the pointer was last, of its own moves
     bool hasLeft_ = false;               ///< the pointer, as far as is known
     std::optional<std::int32_t> finger_; ///< that is down; 0 for the mouse
     TileHand hand_;

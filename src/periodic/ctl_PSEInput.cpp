@@ -1,15 +1,13 @@
 #include "app/cls_App.h"
 #include "app/sys_Global.h"
 #include "chem/cls_DataElements.h"
-#include "core/CoreDisplay.h"
 #include "core/CoreRoot.h"
-#include "core/CoreSystem.h"
 #include "core/CoreTiming.h"
-#include "core/CoreWindowOps.h"
 #include "media/cls_AppMedia.h"
 #include "periodic/TableParts.h"
 #include "periodic/TableSpeech.h"
 #include "periodic/ctl_PSE.h"
+#include "visual/PointerPlace.h"
 
 #include <algorithm>
 #include <utility>
@@ -34,14 +32,14 @@ void ctl_PSE::pointerDown(const PointerEvent& event)
     if (isOtherFinger(event)) {
         return;
     }
-    finger_ = event.Touch;
     if (event.Touch > 0) {
         hover(nullptr); // what an earlier touch has left
     }
-    pointerMove(event);
     if (event.Button != PointerButton::Left) {
         return;
     }
+    pointerMove(event);
+    finger_ = event.Touch;
     if (isPlacing()) {
         hand_.press({event.X, event.Y}, event.Touch > 0 ? TouchSlack : MouseSlack);
     } else if (const auto cell = sheet_.cellOf(hover_.get())) {
@@ -55,7 +53,9 @@ void ctl_PSE::pointerMove(const PointerEvent& event)
     if (isOtherFinger(event)) {
         return;
     }
-    if (isPlacing()) {
+    if (hasLostButton(event)) {
+        cancelPress();
+    } else if (isPlacing()) {
         moveTile({event.X, event.Y});
     } else {
         point({event.X, event.Y});
@@ -67,11 +67,11 @@ void ctl_PSE::pointerUp(const PointerEvent& event)
     if (isOtherFinger(event)) {
         return;
     }
-    pointerMove(event);
-    finger_.reset();
     if (event.Button != PointerButton::Left) {
         return;
     }
+    pointerMove(event);
+    finger_.reset();
     if (isPlacing()) {
         releaseTile(event);
     } else if (event.Touch == 0) {
@@ -79,6 +79,22 @@ void ctl_PSE::pointerUp(const PointerEvent& event)
     } else if (!watch_.isTelling()) {
         release();
         hover(nullptr);
+    }
+}
+
+/// The mouse has been let go where nobody has told the table.
+bool ctl_PSE::hasLostButton(const PointerEvent& event) const
+{
+    constexpr auto Left = static_cast<std::int32_t>(PointerButton::Left);
+    return hand_.held() && event.Touch == 0 && (static_cast<std::int32_t>(event.Button) & Left) == 0;
+}
+
+/// No release will come.
+void ctl_PSE::cancelPress()
+{
+    finger_.reset();
+    if (hand_.cancelPress(sheet_.grid)) {
+        REDRAW();
     }
 }
 
@@ -94,16 +110,14 @@ void ctl_PSE::pointerLeave()
     dropUnlessPointedAt();
 }
 
+/// Where the desktop does not tell the pointer, it has left unless the bubble has come beneath it.
 void ctl_PSE::dropUnlessPointedAt()
 {
     const auto cell = sheet_.cellOf(hover_.get());
-    const CoreWindowOps& windows = coreRoot().CoreSystem().CoreWindowOps();
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    coreRoot().CoreDisplay().CursorPos(x, y);
-    const PixelPoint place{double{1} * x - windows.ScreenLeft(hWnd()),
-                           double{1} * y - windows.ScreenTop(hWnd())};
-    if (!cell || !sheet_.cells()[*cell].painted.area.contains(place)) {
+    const auto cursor = pointerFrom(frame_);
+    const bool isThere = cursor ? cell && sheet_.cells()[*cell].painted.area.contains(*cursor)
+                                : watch_.isTelling() && watch_.bubbleArea().contains(pointed_);
+    if (!isThere) {
         hover(nullptr);
     }
 }
@@ -111,6 +125,7 @@ void ctl_PSE::dropUnlessPointedAt()
 void ctl_PSE::point(PixelPoint place)
 {
     hasLeft_ = false;
+    pointed_ = place;
     const auto cell = sheet_.cellAt(place);
     hover(cell ? sheet_.cells()[*cell].painted.element : nullptr);
     watch_.place();
@@ -133,6 +148,7 @@ void ctl_PSE::repaintCellOf(const cls_DataElement* element)
 {
     if (const auto cell = sheet_.cellOf(element)) {
         sheet_.paintCell(surface_.device(), *cell, element == hover_.get());
+        sheet_.paintTilesOn(surface_.device(), *cell);
     }
 }
 

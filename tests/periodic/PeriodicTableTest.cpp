@@ -106,6 +106,15 @@ TEST_F(PeriodicTable, OfAMissingFileStaysEmptyAndTakesTheNextOne)
     EXPECT_EQ(table->parts().size(), 118U);
 }
 
+TEST_F(PeriodicTable, OfAnEmptyFileTakesTheNextOne)
+{
+    const test::TemporaryFolder place;
+    place.write("none.dat", "");
+    ignoringErrors([&] { table->LOAD(systemPath(place.native() / "none.dat")); });
+    load();
+    EXPECT_EQ(table->parts().size(), 118U);
+}
+
 TEST_F(PeriodicTable, ReadsItsFileOnce)
 {
     load();

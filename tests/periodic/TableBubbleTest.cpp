@@ -97,6 +97,81 @@ TEST_F(TableBubble, FollowsItsContainersUnits)
     EXPECT_EQ(place.top, 20 + 80 + 5 - 40);
 }
 
+TEST_F(TableBubble, StaysWhileThePointerIsOverItInAZoomedWindowToo)
+{
+    form->Zoom(1.5);
+    point(17, 6);
+    outside.advance(6 * Tick);
+    const CoreWindowOps& windows = coreRoot().CoreSystem().CoreWindowOps();
+    outside.display().moveCursor(
+        static_cast<std::int32_t>(windows.ScreenLeft(table->hWnd()) + 18.5 * TableCell * 1.5),
+        static_cast<std::int32_t>(windows.ScreenTop(table->hWnd()) + 8.5 * TableCell * 1.5));
+    static_cast<Control&>(*table).pointerLeave();
+    outside.advance(3 * Tick);
+    EXPECT_TRUE(bubble->Visible());
+}
+
+TEST_F(TableBubble, WhereThePointerIsNotToldTheLeaveCountsUnlessItIsTheBubbles)
+{
+    outside.display().tellsCursor(false);
+    point(0, 0); // the cell's middle, which the bubble leaves free
+    outside.advance(6 * Tick);
+    static_cast<Control&>(*table).pointerLeave();
+    EXPECT_FALSE(bubble->Visible());
+    PointerEvent lower = over(0, 0);
+    lower.Button = PointerButton::None;
+    lower.X += 10;
+    lower.Y += 10;
+    static_cast<Control&>(*table).pointerMove(lower);
+    outside.advance(6 * Tick);
+    static_cast<Control&>(*table).pointerLeave();
+    outside.advance(3 * Tick);
+    EXPECT_TRUE(bubble->Visible());
+}
+
+TEST_F(TableBubble, AnotherOneTakesItsPlaceAndCountsAnew)
+{
+    point(0, 0);
+    outside.advance(6 * Tick);
+    const auto other = form->add<ctl_Bubble>(u"ctl_Bubble2");
+    other->Visible(false);
+    table->BUBBLE(other);
+    EXPECT_FALSE(bubble->Visible());
+    outside.advance(6 * Tick);
+    EXPECT_TRUE(other->Visible());
+    table->BUBBLE(nullptr);
+    EXPECT_FALSE(other->Visible());
+}
+
+TEST_F(TableBubble, DoesNotComeForADisabledTable)
+{
+    point(0, 0);
+    table->Enabled(false);
+    outside.advance(6 * Tick);
+    EXPECT_FALSE(bubble->Visible());
+}
+
+TEST_F(TableBubble, GoesWhenTheCellsGoElsewhere)
+{
+    point(0, 0);
+    outside.advance(6 * Tick);
+    table->FIXEDSIZE(true);
+    table->Move(10, 20, 19 * 65, 12.5 * 65);
+    EXPECT_FALSE(bubble->Visible());
+}
+
+TEST_F(TableBubble, GoesWhenAnotherModeIsRead)
+{
+    point(0, 0);
+    outside.advance(6 * Tick);
+    PropertyBag bag;
+    bag.WriteProperty(u"MODE", 1);
+    table->readProperties(bag);
+    EXPECT_FALSE(bubble->Visible());
+    table->HIGHLIGHT(u"O");
+    EXPECT_EQ(table->parts().front().name, u"Gruppe 1, Periode 1, leer");
+}
+
 } // namespace
 
 } // namespace phial

@@ -130,6 +130,92 @@ TEST_F(TableTiles, PlacesAreEmptyUnlessTheyAreFaded)
     EXPECT_THAT(cell("O"), HasSubstr("#FF0000"));
 }
 
+TEST_F(TableTiles, FollowTheCellsThatLoadingBringsBack)
+{
+    table->FIXEDSIZE(true);
+    table->Move(0, 0, 19 * 65, 12.5 * 65);
+    table->DRAGADD(u"O");
+    table->FIXEDSIZE(false);
+    load();
+    EXPECT_THAT(cell("O"), HasSubstr("clip 96,288 32x32\n"));
+}
+
+TEST_F(TableTiles, OfATableThatFailsToLoadStandAmongItsOwnCells)
+{
+    const auto other = form->add<ctl_PSE>(u"frm_Q");
+    other->MODE(enm_PSEMode::ID_PSEMode_Place);
+    other->FIXEDSIZE(true);
+    other->Move(0, 0, 19 * 65, 12.5 * 65);
+    EXPECT_RAISES(other->LOAD(u"C:\\missing.dat"), FileNotFound);
+    other->DRAGADD(u"O");
+    EXPECT_EQ(other->parts().front().area, (PixelRectangle{192, 576, 64, 64}));
+}
+
+TEST_F(TableTiles, AddedBeforeTheFileIsLoadedHaveTheirElementAfterwards)
+{
+    const auto other = form->add<ctl_PSE>(u"frm_Q");
+    other->MODE(enm_PSEMode::ID_PSEMode_Place);
+    other->DRAGADD(u"O");
+    other->LOAD(elementFile());
+    EXPECT_THAT(outside.visual().drawing(*other), HasSubstr("text 96,311.875 \" 8\""));
+}
+
+TEST_F(TableTiles, AreNotPaintedOverByACellThatIsPointedAt)
+{
+    table->DRAGADD(u"O");
+    drag(home(0), cornerOf(15, 1));
+    table->MODE(enm_PSEMode::ID_PSEMode_Normal);
+    drawn();
+    point(15, 1);
+    const std::string all = outside.visual().drawing(*table);
+    EXPECT_THAT(all.substr(all.rfind("clip 512,96")), HasSubstr("gradient"));
+}
+
+TEST_F(TableTiles, InTheHandAreBackWhereTheyWereWhenTheTableGoes)
+{
+    table->DRAGADD(u"O");
+    Control& control = *table;
+    control.pointerDown({PointerButton::Left, 0, home(0).x + 3, home(0).y + 4});
+    control.pointerMove({PointerButton::Left, 0, 300, 100});
+    table->hidden();
+    EXPECT_THAT(cell("O"), HasSubstr("clip 96,288 32x32\n"));
+    control.pointerMove({PointerButton::None, 0, 200, 100});
+    EXPECT_THAT(cell("O"), HasSubstr("clip 96,288 32x32\n"));
+}
+
+TEST_F(TableTiles, InTheHandAreBackWhereTheyWereWhenNoReleaseHasCome)
+{
+    table->DRAGADD(u"O");
+    Control& control = *table;
+    control.pointerDown({PointerButton::Left, 0, home(0).x + 3, home(0).y + 4});
+    control.pointerMove({PointerButton::Left, 0, 300, 100});
+    control.pointerMove({PointerButton::None, 0, 310, 100});
+    EXPECT_THAT(cell("O"), HasSubstr("clip 96,288 32x32\n"));
+    drag(home(0), cornerOf(15, 1));
+    EXPECT_EQ(table->DRAGSYMBOLDROP(0), u"O");
+}
+
+TEST_F(TableTiles, StayInTheHandWhileAnotherButtonIsPressed)
+{
+    table->DRAGADD(u"O");
+    Control& control = *table;
+    control.pointerDown({PointerButton::Left, 0, home(0).x + 3, home(0).y + 4});
+    control.pointerDown({PointerButton::Right, 0, 300, 100});
+    control.pointerUp({PointerButton::Right, 0, 300, 100});
+    const PixelPoint target = cornerOf(15, 1);
+    control.pointerUp({PointerButton::Left, 0, target.x + 3, target.y + 4});
+    EXPECT_EQ(table->DRAGSYMBOLDROP(0), u"O");
+}
+
+TEST_F(TableTiles, ReleasesBesideThemAreToldAsInTheOtherMode)
+{
+    table->MODE(enm_PSEMode::ID_PSEMode_Normal);
+    press(over(0, 0));
+    table->MODE(enm_PSEMode::ID_PSEMode_Place);
+    press(over(1, 1));
+    EXPECT_EQ(log, (std::vector<std::string>{"click H", "outside"}));
+}
+
 } // namespace
 
 } // namespace phial
