@@ -48,49 +48,47 @@ ObjectPtr buildTable(Stage& stage)
 
 std::vector<Exhibit> periodicExhibits()
 {
-    return {{Group::Periodic,
-             u"ctl_PSE",
-             u"Das Periodensystem. Ruht der Zeiger oder ein Finger auf einem Element, sagt eine Blase mehr. "
-             u"Pfeile "
-             u"und Buchstaben führen von Element zu Element.|"
-             u"The periodic table. Rest the pointer or a finger on an element, and a bubble tells more. "
-             u"Arrows and "
-             u"letters lead from element to element.",
-             buildTable,
-             {tableSample(u"Symbole|Symbols", [](ctl_PSE&) {}),
-              sample<ctl_PSE>(u"Namen|Names",
-                              [](ctl_PSE& table) {
-                                  const NamesSheet names;
-                                  load(table);
-                              }),
-              tableSample(u"Orbitale|Orbitals", [](ctl_PSE& table) { table.ELEKTRONENZUSTAND(true); }),
-              tableSample(u"Hervorgehoben|Highlighted",
+    return {
+        {Group::Periodic,
+         u"ctl_PSE",
+         u"Das Periodensystem: Zeiger, Finger, Pfeile und Buchstaben führen zu Elementen, eine Blase sagt "
+         u"mehr.|"
+         u"The periodic table: pointer, finger, arrows and letters lead to elements, a bubble tells more.",
+         buildTable,
+         {tableSample(u"Symbole|Symbols", [](ctl_PSE&) {}),
+          sample<ctl_PSE>(u"Namen|Names",
                           [](ctl_PSE& table) {
-                              table.HIGHLIGHTS()->Add(u"Na", Variant(0xB56A00));
-                              table.HIGHLIGHT(u"Cl");
+                              const NamesSheet names;
+                              load(table);
                           }),
-              tableSample(u"Blass und grau|Pale and grey",
-                          [](ctl_PSE& table) {
-                              for (const StringView symbol : {u"He", u"Ne", u"Ar", u"Kr", u"Xe", u"Rn"}) {
-                                  table.FADED()->Add(String(symbol));
-                              }
-                              table.GONE()->Add(u"Tc");
-                              table.GONE()->Add(u"Pm");
-                          }),
-              tableSample(u"Hoher Kontrast|High contrast",
-                          [](ctl_PSE& table) { table.Colouring(TableColours::HighContrast); }),
-              tableSample(u"Farben für alle|Colours for everybody",
-                          [](ctl_PSE& table) { table.Colouring(TableColours::Distinct); }),
-              tableSample(u"Einordnen|Put in order", [](ctl_PSE& table) {
-                  for (const StringView symbol : {u"H", u"He", u"Li", u"Ne"}) {
-                      table.FADED()->Add(String(symbol));
-                  }
-                  table.MODE(enm_PSEMode::ID_PSEMode_Place);
-                  for (const StringView symbol : {u"O", u"C", u"F", u"Be"}) {
-                      table.DRAGADD(symbol);
-                  }
-                  table.activatePart(table.parts().size() - 3); // carbon is taken
-              })}}};
+          tableSample(u"Orbitale|Orbitals", [](ctl_PSE& table) { table.ELEKTRONENZUSTAND(true); }),
+          tableSample(u"Hervorgehoben|Highlighted",
+                      [](ctl_PSE& table) {
+                          table.HIGHLIGHTS()->Add(u"Na", Variant(0xB56A00));
+                          table.HIGHLIGHT(u"Cl");
+                      }),
+          tableSample(u"Blass und grau|Pale and grey",
+                      [](ctl_PSE& table) {
+                          for (const StringView symbol : {u"He", u"Ne", u"Ar", u"Kr", u"Xe", u"Rn"}) {
+                              table.FADED()->Add(String(symbol));
+                          }
+                          table.GONE()->Add(u"Tc");
+                          table.GONE()->Add(u"Pm");
+                      }),
+          tableSample(u"Hoher Kontrast|High contrast",
+                      [](ctl_PSE& table) { table.Colouring(TableColours::HighContrast); }),
+          tableSample(u"Farben für alle|Colours for everybody",
+                      [](ctl_PSE& table) { table.Colouring(TableColours::Distinct); }),
+          tableSample(u"Einordnen|Put in order", [](ctl_PSE& table) {
+              for (const StringView symbol : {u"H", u"He", u"Li", u"Ne"}) {
+                  table.FADED()->Add(String(symbol));
+              }
+              table.MODE(enm_PSEMode::ID_PSEMode_Place);
+              for (const StringView symbol : {u"O", u"C", u"F", u"Be"}) {
+                  table.DRAGADD(symbol);
+              }
+              table.activatePart(table.parts().size() - 3); // carbon is taken
+          })}}};
 }
 
 } // namespace gallery
