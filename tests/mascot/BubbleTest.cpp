@@ -506,7 +506,7 @@ TEST_F(Bubble, ManyLinesEndInABoundedFit)
     }
     headless::FixedTextMetrics& metrics = outside.visual().metrics();
     const std::size_t before = metrics.asked();
-    MarkupLayout(text + u"a", FontSpec{}, metrics, 300);
+    const MarkupLayout one(text + u"a", FontSpec{}, metrics, 300);
     const std::size_t once = metrics.asked() - before;
     EXPECT_EQ(fitted(text + u"a"), (PixelSize{4000 + 10 + 5, 2000 + 10 + 5}));
     EXPECT_EQ((metrics.asked() - before) / once - 1, 75U) << "from 300 to 4000 in steps of 50";
