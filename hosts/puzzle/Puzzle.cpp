@@ -106,6 +106,7 @@ void Puzzle::attach(phial::Form& form)
     table_->FIXEDSIZE(true);
     table_->frame().pixelRectangle({board.left, board.top, board.width, board.height});
     table_->MODE(phial::enm_PSEMode::ID_PSEMode_Place);
+    table_->Colouring(phial::TableColours::ByTheme);
     phial::ignoringErrors([this] { table_->LOAD(data_.elementFile); });
 }
 

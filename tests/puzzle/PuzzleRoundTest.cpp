@@ -224,6 +224,12 @@ TEST_F(PuzzleRound, GivesNoPeriodAwayByTheColourOfAPlace)
     EXPECT_FALSE(table().GONE()->Exists(u"Na")) << "it is told now";
 }
 
+TEST_F(PuzzleRound, FollowsTheColoursThatThePupilHasChosen)
+{
+    begin(0);
+    EXPECT_EQ(table().Colouring(), phial::TableColours::ByTheme);
+}
+
 // As pictures of the app do it.
 TEST_F(PuzzleRound, IsFilledWithAnswersOfEachKind)
 {
