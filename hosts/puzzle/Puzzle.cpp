@@ -46,6 +46,10 @@ constexpr learning::AppTexts Texts{
 
 constexpr double TitleSize = 14; // points
 
+// Of frames in the table, whose ground is white in each set of the app's colours.
+constexpr phial::Colour RightFrame = phial::Palette::shade(0x00703C);
+constexpr phial::Colour SolutionFrame = phial::Palette::shade(0x006AB5);
+
 constexpr phial::ControlDesign Controls[] = {
     phial::design<phial::ctl_PSE>(u"pse_Table", learning::frame_design::BoardPlaces::Board)
         .focusable()
@@ -232,7 +236,7 @@ void Puzzle::retry()
 {
     for (std::size_t slot = 0; slot < tiles_.size(); ++slot) {
         if (tiles_[slot].isConfirmed()) {
-            frame(tiles_[slot], phial::Palette::Right);
+            frame(tiles_[slot], RightFrame);
         } else if (tiles_[slot].lies(placeOf(slot))) {
             table_->DRAGRESET(slotOf(slot));
         }
@@ -250,7 +254,7 @@ void Puzzle::close()
     }
     showGuides();
     for (const Tile& tile : tiles_) {
-        frame(tile, isSolved() ? phial::Palette::Right : phial::Palette::Accent);
+        frame(tile, isSolved() ? RightFrame : SolutionFrame);
     }
     table_->REDRAW();
 }
