@@ -51,7 +51,7 @@ void ElementWatch::count()
 {
     ticks_ = 0;
     timer_.Enabled(false);
-    timer_.Enabled(element_ && bubble_);
+    timer_.Enabled(isWatching());
 }
 
 void ElementWatch::hideBubble()
@@ -61,9 +61,14 @@ void ElementWatch::hideBubble()
     }
 }
 
+bool ElementWatch::isWatching() const
+{
+    return element_ && bubble_;
+}
+
 bool ElementWatch::isTelling() const
 {
-    return element_ && bubble_ && ticks_ >= BubbleTick && bubble_->Visible();
+    return isWatching() && ticks_ >= BubbleTick && bubble_->Visible();
 }
 
 void ElementWatch::hush()
@@ -75,20 +80,22 @@ void ElementWatch::hush()
 void ElementWatch::place()
 {
     const auto cell = sheet_.cellOf(element_.get());
-    if (!cell || !bubble_) {
+    const auto bubble = bubble_;
+    if (!cell || !bubble) {
         return;
     }
-    const PixelRectangle now = bubble_->frame().pixelRectangle();
+    const PixelRectangle now = bubble->frame().pixelRectangle();
     const auto place =
         BubblePlace::beside(sheet_.cells()[*cell].painted.area, {now.width, now.height}, sheet_.corner());
-    if (bubble_->ZIPSIDE() != place.side) {
-        bubble_->ZIPSIDE(place.side);
+    const auto table = table_.control().weak_from_this().lock();
+    if (bubble->ZIPSIDE() != place.side) {
+        bubble->ZIPSIDE(place.side);
     }
     // Both corners as the form has them, since the bubble may stand in another container.
-    const PixelPoint table = table_.originOnForm();
-    const PixelPoint bubble = bubble_->frame().originOnForm();
-    bubble_->frame().pixelRectangle({now.left + table.x - bubble.x + place.corner.x,
-                                     now.top + table.y - bubble.y + place.corner.y, now.width, now.height});
+    const PixelPoint from = table_.originOnForm();
+    const PixelPoint to = bubble->frame().originOnForm();
+    bubble->frame().pixelRectangle({now.left + from.x - to.x + place.corner.x,
+                                    now.top + from.y - to.y + place.corner.y, now.width, now.height});
 }
 
 PixelRectangle ElementWatch::bubbleArea() const
@@ -99,10 +106,12 @@ PixelRectangle ElementWatch::bubbleArea() const
     return {bubble.x - table.x, bubble.y - table.y, area.width, area.height};
 }
 
+/// Handlers of the bubble's changes may take the bubble away, and the table.
 void ElementWatch::tick()
 {
+    const auto table = table_.control().weak_from_this().lock();
     Ticking.emit();
-    if (!bubble_ || !element_) {
+    if (!isWatching()) {
         ticks_ = 0;
         timer_.Enabled(false);
         return;
@@ -110,8 +119,10 @@ void ElementWatch::tick()
     if (++ticks_ == BubbleTick) {
         bubble_->TEXT(bubbleText(*element_));
         place();
-        bubble_->Visible(true);
-        bubble_->frame().ZOrder();
+        if (isWatching()) {
+            bubble_->Visible(true);
+            bubble_->frame().ZOrder();
+        }
     }
 }
 

@@ -42,6 +42,7 @@ public:
     Event<> Ticking;
 
 private:
+    bool isWatching() const;
     void tick();
     void hideBubble();
     void count();

@@ -172,6 +172,42 @@ TEST_F(TableBubble, GoesWhenAnotherModeIsRead)
     EXPECT_EQ(table->parts().front().name, u"Gruppe 1, Periode 1, leer");
 }
 
+TEST_F(TableBubble, MayBeTakenAwayByAHandlerOfItsChanges)
+{
+    for (const StringView change : {u"TEXT", u"ZIPSIDE"}) {
+        table->BUBBLE(bubble);
+        bubble->TEXT(u"before");
+        bubble->ZIPSIDE(enm_BallonZipSide::ID_BallonZipSide_RightTop);
+        bubble->Visible(false);
+        Connections taking;
+        taking += bubble->PropertyChanged.connect([&](const String& name) {
+            if (name == change) {
+                table->BUBBLE(nullptr);
+            }
+        });
+        point(17, 0);
+        point(0, 0);
+        outside.advance(6 * Tick);
+        EXPECT_FALSE(bubble->Visible()) << toUtf8(change);
+        EXPECT_EQ(table->BUBBLE(), nullptr) << toUtf8(change);
+    }
+}
+
+TEST_F(TableBubble, MayTakeTheTableAwayWhenItChanges)
+{
+    Connections taking;
+    taking += bubble->PropertyChanged.connect([&](const String&) {
+        if (table) {
+            connections = {};
+            form->remove(*table);
+            table.reset();
+        }
+    });
+    point(0, 0);
+    outside.advance(6 * Tick);
+    EXPECT_EQ(table, nullptr);
+}
+
 } // namespace
 
 } // namespace phial
