@@ -93,6 +93,23 @@ void PictureBackend::combine(const std::optional<BitMerge>& merge, const QRect& 
     }
 }
 
+/// Pixel by pixel: the toolkit wakes its threads for a pattern, which takes longer than all of the rest.
+void PictureBackend::hatch(const PixelRectangle& area, Ink ink, HatchStart start)
+{
+    const QRect box = snapped(area);
+    const QRect seen = visible(box);
+    const std::uint32_t colour = ink.cut ? 0 : toQColor(ink.colour).rgba();
+    const int first = start == HatchStart::AtCorner ? 0 : 1;
+    const std::span<std::uint32_t> pixels = picture_->pixels();
+    for (int row = seen.top(); row <= seen.bottom(); ++row) {
+        const auto line = pixels.subspan(static_cast<std::size_t>(row) * picture_->columns());
+        const int skipped = (seen.left() - box.left() + row - box.top() + first) % 2;
+        for (int column = seen.left() + skipped; column <= seen.right(); column += 2) {
+            line[static_cast<std::size_t>(column)] = colour;
+        }
+    }
+}
+
 void PictureBackend::gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps)
 {
     const QRect box = snapped(area);

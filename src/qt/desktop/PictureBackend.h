@@ -20,6 +20,7 @@ public:
 
     PicturePtr picture() const override { return picture_; }
     std::optional<Colour> pixel(PixelPoint point) const override;
+    void hatch(const PixelRectangle& area, Ink ink, HatchStart start) override;
     void gradient(const PixelRectangle& area, Colour from, Colour to, double angle, int steps) override;
 
 private:
