@@ -115,36 +115,39 @@ PlaceSlip kindOf(const ElementFacts& element, const ElementFacts& place, int rig
     return sameGroup ? PlaceSlip::SameGroup : samePeriod ? PlaceSlip::SamePeriod : slipFarOff(element, place);
 }
 
-String sameGroup(const String& symbol, int down)
-{
-    if (down == 1) {
-        return translate(u"{1}: gleiche Gruppe, aber eine Periode tiefer.",
-                         u"{1}: same group, but one period lower.", {symbol});
-    }
-    if (down == -1) {
-        return translate(u"{1}: gleiche Gruppe, aber eine Periode höher.",
-                         u"{1}: same group, but one period higher.", {symbol});
-    }
-    return down > 0 ? translate(u"{1}: gleiche Gruppe, aber {2} Perioden tiefer.",
-                                u"{1}: same group, but {2} periods lower.", {symbol, number(down)})
-                    : translate(u"{1}: gleiche Gruppe, aber {2} Perioden höher.",
-                                u"{1}: same group, but {2} periods higher.", {symbol, number(-down)});
-}
+/// How far off a place is, by a number of steps in one of two directions.
+struct StepTexts {
+    StringView oneOn;
+    StringView oneBack;
+    StringView on;
+    StringView back;
+};
 
-String samePeriod(const String& symbol, int right)
+constexpr StepTexts SameGroupTexts{
+    .oneOn = u"{1}: gleiche Gruppe, aber eine Periode tiefer.|{1}: same group, but one period lower.",
+    .oneBack = u"{1}: gleiche Gruppe, aber eine Periode höher.|{1}: same group, but one period higher.",
+    .on = u"{1}: gleiche Gruppe, aber {2} Perioden tiefer.|{1}: same group, but {2} periods lower.",
+    .back = u"{1}: gleiche Gruppe, aber {2} Perioden höher.|{1}: same group, but {2} periods higher.",
+};
+
+constexpr StepTexts SamePeriodTexts{
+    .oneOn = u"{1}: gleiche Periode, aber eine Gruppe weiter rechts.|"
+             u"{1}: same period, but one group further right.",
+    .oneBack = u"{1}: gleiche Periode, aber eine Gruppe weiter links.|"
+               u"{1}: same period, but one group further left.",
+    .on = u"{1}: gleiche Periode, aber {2} Gruppen weiter rechts.|"
+          u"{1}: same period, but {2} groups further right.",
+    .back = u"{1}: gleiche Periode, aber {2} Gruppen weiter links.|"
+            u"{1}: same period, but {2} groups further left.",
+};
+
+String inSteps(const StepTexts& texts, const String& symbol, int steps)
 {
-    if (right == 1) {
-        return translate(u"{1}: gleiche Periode, aber eine Gruppe weiter rechts.",
-                         u"{1}: same period, but one group further right.", {symbol});
-    }
-    if (right == -1) {
-        return translate(u"{1}: gleiche Periode, aber eine Gruppe weiter links.",
-                         u"{1}: same period, but one group further left.", {symbol});
-    }
-    return right > 0 ? translate(u"{1}: gleiche Periode, aber {2} Gruppen weiter rechts.",
-                                 u"{1}: same period, but {2} groups further right.", {symbol, number(right)})
-                     : translate(u"{1}: gleiche Periode, aber {2} Gruppen weiter links.",
-                                 u"{1}: same period, but {2} groups further left.", {symbol, number(-right)});
+    const StringView text = steps == 1    ? texts.oneOn
+                            : steps == -1 ? texts.oneBack
+                            : steps > 0   ? texts.on
+                                          : texts.back;
+    return translate(text, {symbol, number(std::abs(steps))});
 }
 
 /// The rows below the table have no groups.
@@ -204,10 +207,10 @@ String explained(const PlaceDiagnosis& diagnosis, const ElementFacts& element, c
         return translate(u"{1} gehört nicht in die beiden Reihen unter der Tabelle.",
                          u"{1} does not belong in the two rows below the table.", symbol);
     case PlaceSlip::SameGroup:
-        return sameGroup(element.symbol, diagnosis.down);
+        return inSteps(SameGroupTexts, element.symbol, diagnosis.down);
     case PlaceSlip::SamePeriod:
         return element.isBelow() ? sameRowBelow(element.symbol, diagnosis.right)
-                                 : samePeriod(element.symbol, diagnosis.right);
+                                 : inSteps(SamePeriodTexts, element.symbol, diagnosis.right);
     case PlaceSlip::SimilarSymbol:
         return translate(u"Leicht zu verwechseln: {1} ist {2}, {3} ist {4}.",
                          u"Easily mixed up: {1} is {2}, {3} is {4}.",
