@@ -119,7 +119,7 @@ void ElementWatch::tick()
     if (++ticks_ == BubbleTick) {
         bubble_->TEXT(bubbleText(*element_));
         place();
-        if (isWatching()) {
+        if (isWatching() && ticks_ == BubbleTick) { // and it is the same that the count was for
             bubble_->Visible(true);
             bubble_->frame().ZOrder();
         }

@@ -193,6 +193,20 @@ TEST_F(TableBubble, MayBeTakenAwayByAHandlerOfItsChanges)
     }
 }
 
+TEST_F(TableBubble, MayBeReplacedByAHandlerOfItsChanges)
+{
+    const auto other = form->add<ctl_Bubble>(u"ctl_Bubble2");
+    other->Visible(false);
+    Connections replacing;
+    replacing += bubble->PropertyChanged.connect([&](const String&) { table->BUBBLE(other); });
+    point(0, 0);
+    outside.advance(5.5 * Tick);
+    EXPECT_FALSE(other->Visible()); // its time counts from now on
+    outside.advance(5 * Tick);
+    EXPECT_TRUE(other->Visible());
+    EXPECT_EQ(other->TEXT(), bubble->TEXT());
+}
+
 TEST_F(TableBubble, MayTakeTheTableAwayWhenItChanges)
 {
     Connections taking;

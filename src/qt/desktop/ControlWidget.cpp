@@ -423,7 +423,8 @@ void ControlWidget::press(const QMouseEvent& event, bool second)
     }
     pressed_ = true;
     secondPress_ = second;
-    dispatch([&] { control_->pointerDown(pointerEvent(event, zoomOf(*control_))); });
+    const auto control = control_; // a handler may close the window
+    dispatch([&] { control->pointerDown(pointerEvent(event, zoomOf(*control))); });
 }
 
 // Each press counts as a click, the second one of a double click as well, so that no tap of a quick hand is
@@ -477,7 +478,8 @@ void ControlWidget::mouseReleaseEvent(QMouseEvent* event)
 void ControlWidget::mouseMoveEvent(QMouseEvent* event)
 {
     if (!passOn(*event) && !isTouched(*event)) {
-        dispatch([&] { control_->pointerMove(pointerEvent(*event, zoomOf(*control_))); });
+        const auto control = control_; // a handler may close the window
+        dispatch([&] { control->pointerMove(pointerEvent(*event, zoomOf(*control))); });
     }
 }
 
