@@ -1,4 +1,5 @@
 #include "PainterTest.h"
+
 #include "qt/desktop/PrinterBackend.h"
 #include "qt/desktop/PrinterChoice.h"
 
