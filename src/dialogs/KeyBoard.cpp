@@ -1,0 +1,249 @@
+#include "dialogs/KeyBoard.h"
+
+#include "core/RuntimeError.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace phial
+{
+
+namespace
+{
+
+struct ModifierName {
+    StringView name;
+    Modifier modifier;
+    StringView prefix; ///< in the notation of keyboard emulation
+};
+constexpr auto Modifiers = std::to_array<ModifierName>({
+    {u"SHIFT", Modifier::Shift, u"+"},
+    {u"CTRL", Modifier::Ctrl, u"^"},
+    {u"ALT", Modifier::Alt, u"%"},
+    {u"SYM", Modifier::Sym, u"^%"},
+});
+
+/// Keys that move the caret, which no modifier changes but Shift.
+struct CaretKey {
+    StringView name;
+    StringView strokes;
+    StringView shifted;
+};
+constexpr auto CaretKeys = std::to_array<CaretKey>({
+    {u"UP", u"{up}", u"{pgup}"},
+    {u"LEFT", u"{left}", u"{home}"},
+    {u"DOWN", u"{down}", u"{pgdn}"},
+    {u"RIGHT", u"{right}", u"{end}"},
+});
+
+struct KeyStrokes {
+    StringView name;
+    StringView strokes;
+};
+constexpr auto NamedStrokes = std::to_array<KeyStrokes>({
+    {u"TAB", u"{tab}"},
+    {u"BACKSPACE", u"{bs}"},
+    {u"ESC", u"{esc}"},
+});
+
+constexpr StringView NotationSigns = u"+*^%{}()~[]"; // signs that mean something in the notation
+
+String inNotation(StringView text)
+{
+    String strokes;
+    for (const char16_t unit : text) {
+        if (NotationSigns.find(unit) == StringView::npos) {
+            strokes += unit;
+        } else {
+            strokes += {u'{', unit, u'}'};
+        }
+    }
+    return strokes;
+}
+
+template <typename Table>
+auto rowOf(const Table& table, StringView name)
+{
+    const auto row = std::ranges::find(table, name, [](const auto& each) { return each.name; });
+    return row == std::ranges::end(table) ? nullptr : &*row;
+}
+
+std::size_t place(Modifier modifier)
+{
+    return static_cast<std::size_t>(modifier);
+}
+
+String nameOf(const KeyDesign& key)
+{
+    return key.tag.empty() ? String(key.caption) : upperCase(key.tag);
+}
+
+} // namespace
+
+KeyBoard::KeyBoard(const KeyLayout& layout)
+    : layout_(layout), keys_(layout.keys.begin(), layout.keys.end()), rows_(keys_.size())
+{
+    for (const KeyDesign& key : layout.keys) {
+        if (key.index < 0 || key.index > LastIndex) {
+            throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+        }
+        rename(key.index, key.caption, key.tag);
+    }
+}
+
+void KeyBoard::rename(std::int32_t index, StringView caption, StringView tag)
+{
+    const std::size_t place = position(index);
+    KeyDesign& key = keys_[place];
+    key.caption = caption;
+    key.tag = tag;
+    KeyRow& row = rows_[place];
+    row.base = nameOf(key);
+    const auto levels = std::ranges::find(layout_.levels, row.base, &KeyLevels::base);
+    row.levels = levels == layout_.levels.end() ? nullptr : &*levels;
+    row.named = rowOf(layout_.named, row.base);
+}
+
+std::size_t KeyBoard::position(std::int32_t index) const
+{
+    const auto key = std::ranges::find(keys_, index, &KeyDesign::index);
+    if (key == keys_.end()) {
+        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+    }
+    return static_cast<std::size_t>(key - keys_.begin());
+}
+
+String KeyBoard::name(std::int32_t index) const
+{
+    const KeyDesign& key = keys_[position(index)];
+    return key.tag.empty() ? face(index).text : upperCase(key.tag);
+}
+
+KeyFace KeyBoard::face(std::int32_t index) const
+{
+    const std::size_t place = position(index);
+    const KeyRow& row = rows_[place];
+    if (row.levels) {
+        const std::size_t level = isOn(Modifier::Shift) ? 1 : showsSymbols() ? 2 : 0;
+        const StringView faces = row.levels->faces;
+        return level < faces.size() ? KeyFace{String(1, faces[level])}
+                                    : KeyFace{.text = row.base, .isEmpty = true};
+    }
+    if (row.named) {
+        const NamedFaces& named = *row.named;
+        const bool isShifted = isOn(Modifier::Shift) && named.shifted != named.normal;
+        const StringView text = isShifted ? named.shifted : isOn(Modifier::Sym) ? named.symbol : named.normal;
+        return {.text = String(text), .isSign = named.areSigns};
+    }
+    return {.text = String(keys_[place].caption)};
+}
+
+/// Ctrl and Alt make symbols where their states have a bit in common.
+bool KeyBoard::showsSymbols() const
+{
+    const auto bits = [this](Modifier modifier) { return static_cast<std::int32_t>(state(modifier)); };
+    return ((bits(Modifier::Alt) & bits(Modifier::Ctrl)) | bits(Modifier::Sym)) != 0;
+}
+
+std::optional<Modifier> KeyBoard::modifier(std::int32_t index) const
+{
+    const ModifierName* row = rowOf(Modifiers, base(index));
+    return row ? std::optional(row->modifier) : std::nullopt;
+}
+
+KeyState KeyBoard::state(Modifier modifier) const
+{
+    return states_[place(modifier)];
+}
+
+KeyState KeyBoard::state(std::int32_t index) const
+{
+    const auto which = modifier(index);
+    return which ? state(*which) : KeyState::Off;
+}
+
+void KeyBoard::state(Modifier modifier, KeyState value)
+{
+    states_[place(modifier)] = value;
+}
+
+bool KeyBoard::press(std::int32_t index)
+{
+    const auto which = modifier(index);
+    if (which) {
+        constexpr std::int32_t States = 3;
+        const auto now = static_cast<std::int32_t>(state(*which));
+        state(*which, static_cast<KeyState>((now + 1) % States));
+    }
+    return which.has_value();
+}
+
+KeyDeed KeyBoard::click(std::int32_t index)
+{
+    if (modifier(index)) {
+        return {};
+    }
+    KeyDeed asked = deed(index);
+    fallBack();
+    return asked;
+}
+
+KeyDeed KeyBoard::type(StringView text)
+{
+    fallBack();
+    return {KeyDeed::Kind::Send, inNotation(text)};
+}
+
+KeyDeed KeyBoard::deed(std::int32_t index) const
+{
+    using Kind = KeyDeed::Kind;
+    const String name = this->name(index);
+    if (name == u"CLEAR") {
+        return {Kind::Clear};
+    }
+    if (name == u"OK") {
+        return {Kind::Accept};
+    }
+    if (name == u"ENTER") {
+        return {isOn(Modifier::Sym) ? Kind::AddLine : Kind::Accept};
+    }
+    if (name == u"ESC" && isOn(Modifier::Sym)) {
+        return {Kind::Abort};
+    }
+    if (const CaretKey* caret = rowOf(CaretKeys, name)) {
+        return {Kind::Send, String(isOn(Modifier::Shift) ? caret->shifted : caret->strokes)};
+    }
+    if (const KeyStrokes* named = rowOf(NamedStrokes, name)) {
+        return {Kind::Send, prefixed(String(named->strokes), true)};
+    }
+    if (name.size() == 1) {
+        return {Kind::Send, prefixed(inNotation(name), true)};
+    }
+    // A tag in braces is a key in the notation already.
+    const bool isNotation = name.starts_with(u'{') && name.ends_with(u'}');
+    return {Kind::Send, isNotation ? prefixed(name, true) : prefixed(inNotation(name), false)};
+}
+
+/// Each modifier in front of what stands there. A key of several characters types them as they are: Shift and
+/// Sym have chosen what it shows, and would otherwise change its first character once more.
+String KeyBoard::prefixed(String strokes, bool takesFaceModifiers) const
+{
+    for (const ModifierName& row : Modifiers) {
+        const bool choosesFace = row.modifier == Modifier::Shift || row.modifier == Modifier::Sym;
+        if (isOn(row.modifier) && (takesFaceModifiers || !choosesFace)) {
+            strokes.insert(0, row.prefix);
+        }
+    }
+    return strokes;
+}
+
+void KeyBoard::fallBack()
+{
+    for (KeyState& state : states_) {
+        if (state == KeyState::Once) {
+            state = KeyState::Off;
+        }
+    }
+}
+
+} // namespace phial
