@@ -1,0 +1,67 @@
+#include "dialogs/KeyHand.h"
+
+#include <algorithm>
+
+namespace phial
+{
+
+std::optional<std::int32_t> KeyHand::press(std::int32_t finger, std::int32_t index)
+{
+    std::erase_if(down_, [finger](const Press& each) { return each.finger == finger; }); // never let go
+    const auto struck = strikeWaiting();
+    const KeyState before = board_.state(index);
+    const bool isModifier = board_.press(index);
+    down_.push_back({finger, index, before, isModifier});
+    return struck;
+}
+
+/// At most one waits, since each press strikes the one before.
+std::optional<std::int32_t> KeyHand::strikeWaiting()
+{
+    const auto waiting = std::ranges::find(down_, false, &Press::isUsed);
+    if (waiting == down_.end()) {
+        return std::nullopt;
+    }
+    waiting->isUsed = true;
+    return waiting->index;
+}
+
+std::optional<std::int32_t> KeyHand::release(std::int32_t finger)
+{
+    const auto found = std::ranges::find(down_, finger, &Press::finger);
+    if (found == down_.end()) {
+        return std::nullopt;
+    }
+    const Press press = *found;
+    down_.erase(found);
+    return press.isUsed ? std::nullopt : std::optional(press.index);
+}
+
+void KeyHand::cancel()
+{
+    for (auto press = down_.rbegin(); press != down_.rend(); ++press) {
+        if (const auto modifier = board_.modifier(press->index)) {
+            board_.state(*modifier, press->before);
+        }
+    }
+    down_.clear();
+}
+
+bool KeyHand::isDown(std::int32_t index) const
+{
+    return std::ranges::find(down_, index, &Press::index) != down_.end();
+}
+
+std::optional<KeyHand::Held> KeyHand::held() const
+{
+    return down_.empty() ? std::nullopt : std::optional(Held{down_.back().finger, down_.back().index});
+}
+
+void KeyHand::use()
+{
+    if (!down_.empty()) {
+        down_.back().isUsed = true;
+    }
+}
+
+} // namespace phial

@@ -1,0 +1,124 @@
+#include "dialogs/KeySpeech.h"
+
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+
+#include <algorithm>
+#include <array>
+
+namespace phial
+{
+
+namespace
+{
+
+struct SpokenWords {
+    StringView what;
+    StringView german;
+    StringView english;
+};
+
+/// Keys by their names, and with Shift (+) or Sym (^) where they do something else then.
+constexpr auto SpokenKeys = std::to_array<SpokenWords>({
+    {u"SHIFT", u"Umschalttaste", u"Shift"},
+    {u"CTRL", u"Steuerung", u"Control"},
+    {u"ALT", u"Alt", u"Alt"},
+    {u"SYM", u"Symbole", u"Symbols"},
+    {u"BACKSPACE", u"Zeichen löschen", u"Delete character"},
+    {u"TAB", u"Tabulator", u"Tab"},
+    {u"CLEAR", u"Alles löschen", u"Clear all"},
+    {u"OK", u"Übernehmen", u"Accept"},
+    {u"ENTER", u"Übernehmen", u"Accept"},
+    {u"^ENTER", u"Neue Zeile", u"New line"},
+    {u"ESC", u"Abbrechen", u"Cancel"},
+    {u"^ESC", u"Tastatur schließen", u"Close keyboard"},
+    {u"SWAP", u"Vorzeichen wechseln", u"Change sign"},
+    {u"UP", u"Nach oben", u"Up"},
+    {u"+UP", u"Seite nach oben", u"Page up"},
+    {u"LEFT", u"Nach links", u"Left"},
+    {u"+LEFT", u"Zum Anfang", u"To the start"},
+    {u"DOWN", u"Nach unten", u"Down"},
+    {u"+DOWN", u"Seite nach unten", u"Page down"},
+    {u"RIGHT", u"Nach rechts", u"Right"},
+    {u"+RIGHT", u"Zum Ende", u"To the end"},
+});
+
+/// Signs that a screen reader may pass over in silence.
+constexpr auto SpokenSigns = std::to_array<SpokenWords>({
+    {u" ", u"Leertaste", u"Space"},
+    {u"!", u"Ausrufezeichen", u"Exclamation mark"},
+    {u"\"", u"Anführungszeichen", u"Quotation mark"},
+    {u"§", u"Paragraf", u"Section sign"},
+    {u"$", u"Dollar", u"Dollar"},
+    {u"%", u"Prozent", u"Percent"},
+    {u"&", u"Und-Zeichen", u"Ampersand"},
+    {u"/", u"Schrägstrich", u"Slash"},
+    {u"{", u"Geschweifte Klammer auf", u"Left brace"},
+    {u"}", u"Geschweifte Klammer zu", u"Right brace"},
+    {u"(", u"Klammer auf", u"Left parenthesis"},
+    {u")", u"Klammer zu", u"Right parenthesis"},
+    {u"[", u"Eckige Klammer auf", u"Left bracket"},
+    {u"]", u"Eckige Klammer zu", u"Right bracket"},
+    {u"=", u"Gleich", u"Equals"},
+    {u"?", u"Fragezeichen", u"Question mark"},
+    {u"\\", u"Rückstrich", u"Backslash"},
+    {u"+", u"Plus", u"Plus"},
+    {u"*", u"Stern", u"Asterisk"},
+    {u"~", u"Tilde", u"Tilde"},
+    {u"@", u"At-Zeichen", u"At sign"},
+    {u"€", u"Euro", u"Euro"},
+    {u"µ", u"Mikro", u"Micro"},
+    {u"²", u"Hoch zwei", u"Squared"},
+    {u"³", u"Hoch drei", u"Cubed"},
+    {u",", u"Komma", u"Comma"},
+    {u";", u"Semikolon", u"Semicolon"},
+    {u".", u"Punkt", u"Full stop"},
+    {u":", u"Doppelpunkt", u"Colon"},
+    {u"-", u"Minus", u"Minus"},
+    {u"_", u"Unterstrich", u"Underscore"},
+    {u"^", u"Hochgestellt", u"Raised"},
+});
+
+template <typename Table>
+const SpokenWords* wordsOf(const Table& table, StringView what)
+{
+    const auto row = std::ranges::find(table, what, &SpokenWords::what);
+    return row == table.end() ? nullptr : &*row;
+}
+
+String said(const SpokenWords& words)
+{
+    return LNG()->TRANSLATE(words.german, words.english);
+}
+
+const SpokenWords* wordsOfKey(const KeyBoard& board, const String& name)
+{
+    const SpokenWords* changed = board.isOn(Modifier::Sym) ? wordsOf(SpokenKeys, u"^" + name) : nullptr;
+    if (!changed && board.isOn(Modifier::Shift)) {
+        changed = wordsOf(SpokenKeys, u"+" + name);
+    }
+    return changed ? changed : wordsOf(SpokenKeys, name);
+}
+
+} // namespace
+
+String spokenCharacter(StringView character)
+{
+    const SpokenWords* words = wordsOf(SpokenSigns, character);
+    return words ? said(*words) : String(character);
+}
+
+String spokenKey(const KeyBoard& board, std::int32_t index)
+{
+    const String name = board.name(index);
+    const SpokenWords* words = wordsOfKey(board, name);
+    if (!words) {
+        return spokenCharacter(name);
+    }
+    const String what = said(*words);
+    return board.state(index) == KeyState::Locked
+               ? LNG()->TRANSLATE(u"{1}, festgestellt", u"{1}, locked", {what})
+               : what;
+}
+
+} // namespace phial

@@ -1,0 +1,422 @@
+#include "dialogs/ctl_Keys.h"
+
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+#include "core/Palette.h"
+#include "dialogs/KeySpeech.h"
+#include "dialogs/KeyVariants.h"
+#include "visual/PropertyRows.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr KeyLayout NoKeys{};
+
+bool repeats(StringView name)
+{
+    constexpr auto Repeating = std::to_array<StringView>({u"BACKSPACE", u"UP", u"LEFT", u"DOWN", u"RIGHT"});
+    return std::ranges::find(Repeating, name) != Repeating.end();
+}
+
+KeyKind kindOf(const KeyBoard& board, const KeyDesign& key)
+{
+    const String& base = board.base(key.index);
+    if (base == u"ENTER" || base == u"OK") {
+        return KeyKind::Accept;
+    }
+    const bool isCharacter = key.tag.empty() || key.tag.size() == 1 || key.tag.starts_with(u'{');
+    return isCharacter ? KeyKind::Character : KeyKind::Function;
+}
+
+PixelRectangle areaOfAll(std::span<const KeyDesign> keys)
+{
+    if (keys.empty()) {
+        return {};
+    }
+    double left = keys.front().left;
+    double top = keys.front().top;
+    double right = left;
+    double bottom = top;
+    for (const KeyDesign& key : keys) {
+        left = std::min(left, key.left);
+        top = std::min(top, key.top);
+        right = std::max(right, key.left + key.width);
+        bottom = std::max(bottom, key.top + key.height);
+    }
+    return {left, top, right - left, bottom - top};
+}
+
+bool meet(const PixelRectangle& one, const PixelRectangle& other)
+{
+    return one.left < other.right() && other.left < one.right() && one.top < other.bottom() &&
+           other.top < one.bottom();
+}
+
+/// Where the key is itself and no notch.
+bool covers(const KeyLook& look, PixelPoint point)
+{
+    const bool isInNotch =
+        point.x < look.area.left + look.notch && point.y >= look.area.top + look.area.height / 2;
+    return look.area.contains(point) && !isInNotch;
+}
+
+} // namespace
+
+struct ctl_Keys::Properties {
+    static constexpr rows::Table Table{
+        rows::property<u"BackColor">(&ctl_Keys::surface_, &PaintSurface::BackColor, &PaintSurface::BackColor,
+                                     Palette::Ground),
+    };
+};
+
+ctl_Keys::ctl_Keys() : frame_(*this), surface_(*this), timer_(u"tmr_Hold", HoldInterval)
+{
+    frame_.takesTouch(true);
+    holding_ = timer_.Tick.connect([this] { hold(); });
+    rows::start<Properties>(*this);
+    layout(NoKeys);
+}
+
+MemberTable ctl_Keys::members() const
+{
+    return rows::membersOf<Properties>();
+}
+
+void ctl_Keys::layout(const KeyLayout& value)
+{
+    board_ = std::make_unique<KeyBoard>(value);
+    hand_ = std::make_unique<KeyHand>(*board_);
+    design_ = areaOfAll(value.keys);
+    closeStrip();
+    painted_.clear();
+    surface_.invalidate();
+}
+
+// Places and looks.
+
+double ctl_Keys::scale() const
+{
+    return design_.isEmpty() ? 1 : surface_.size().width / (design_.width / TwipsPerPixel);
+}
+
+KeyLook ctl_Keys::lookOf(const KeyDesign& key) const
+{
+    const double pixels = scale() / TwipsPerPixel;
+    KeyLook look;
+    look.area = {(key.left - design_.left) * pixels, (key.top - design_.top) * pixels, key.width * pixels,
+                 key.height * pixels};
+    look.notch = key.notch * pixels;
+    look.scale = scale();
+    look.kind = kindOf(*board_, key);
+    look.face = board_->face(key.index);
+    look.face.text = LNG()->TRANSLATEAUTO(look.face.text);
+    look.state = board_->state(key.index);
+    look.isPressed = hand_->isDown(key.index) && !board_->modifier(key.index);
+    return look;
+}
+
+PixelRectangle ctl_Keys::areaOf(std::int32_t index) const
+{
+    const auto keys = board_->keys();
+    const auto key = std::ranges::find(keys, index, &KeyDesign::index);
+    if (key == keys.end()) {
+        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+    }
+    return lookOf(*key).area;
+}
+
+std::optional<std::int32_t> ctl_Keys::keyAt(PixelPoint point) const
+{
+    for (const KeyDesign& key : board_->keys()) {
+        if (covers(lookOf(key), point)) {
+            return key.index;
+        }
+    }
+    return std::nullopt;
+}
+
+// Fingers.
+
+void ctl_Keys::pointerDown(const PointerEvent& event)
+{
+    if (event.Button != PointerButton::Left || pressStrip(event)) {
+        return;
+    }
+    const auto self = weak_from_this().lock();
+    PRESSED.emit();
+    const auto key = keyAt({event.X, event.Y});
+    if (!key) {
+        return;
+    }
+    const auto struck = hand_->press(event.Touch, *key);
+    timer_.Enabled(false);
+    timer_.Interval(HoldInterval);
+    timer_.Enabled(true);
+    refresh();
+    if (struck) {
+        strike(*struck);
+    }
+}
+
+/// Whether the press is that of a character in the strip. One beside it closes the strip and is a press like
+/// any other.
+bool ctl_Keys::pressStrip(const PointerEvent& event)
+{
+    if (!strip_) {
+        return false;
+    }
+    const auto cell = strip_->cellAt({event.X, event.Y});
+    if (!cell) {
+        closeStrip();
+        return false;
+    }
+    strip_->chosen(*cell);
+    stripFinger_ = event.Touch;
+    surface_.invalidate();
+    return true;
+}
+
+void ctl_Keys::pointerMove(const PointerEvent& event)
+{
+    if (!strip_ || stripFinger_ != event.Touch) {
+        return;
+    }
+    const auto cell = strip_->cellAt({event.X, event.Y});
+    if (cell && *cell != strip_->chosen()) {
+        strip_->chosen(*cell);
+        surface_.invalidate();
+    }
+}
+
+void ctl_Keys::pointerUp(const PointerEvent& event)
+{
+    if (event.Button != PointerButton::Left) {
+        return;
+    }
+    const auto self = weak_from_this().lock();
+    const auto struck = hand_->release(event.Touch);
+    timer_.Enabled(false);
+    refresh();
+    RELEASED.emit();
+    if (struck) {
+        strike(*struck);
+    }
+    if (strip_ && stripFinger_ == event.Touch) {
+        stripFinger_.reset();
+        if (const auto cell = strip_->cellAt({event.X, event.Y})) {
+            chooseVariant(*cell);
+        }
+    }
+}
+
+void ctl_Keys::strike(std::int32_t index)
+{
+    const auto self = weak_from_this().lock();
+    CLICK.emit(index);
+    refresh();
+}
+
+void ctl_Keys::cancelPresses()
+{
+    hand_->cancel();
+    timer_.Enabled(false);
+    closeStrip();
+    refresh();
+}
+
+/// What has been held for a while is struck again and again, or shows its variants.
+void ctl_Keys::hold()
+{
+    const auto self = weak_from_this().lock();
+    const auto held = hand_->held();
+    if (held && repeats(board_->base(held->index))) {
+        hand_->use();
+        RELEASED.emit();
+        timer_.Interval(RepeatInterval);
+        strike(held->index);
+        return;
+    }
+    timer_.Enabled(false);
+    const KeyFace face = held ? board_->face(held->index) : KeyFace();
+    const String variants = face.isSign || !offersVariants_ ? String() : variantsOf(face.text);
+    if (!variants.empty()) {
+        hand_->use();
+        RELEASED.emit();
+        openStrip(variants, held->index);
+        stripFinger_ = held->finger;
+    }
+}
+
+// Variants.
+
+void ctl_Keys::openStrip(const String& variants, std::int32_t index)
+{
+    strip_.emplace(variants, areaOf(index), surface_.size());
+    frame_.report(ControlAspect::Accessibility);
+    frame_.announce(spokenCharacter(String(1, strip_->character(0))));
+    surface_.invalidate();
+}
+
+void ctl_Keys::closeStrip()
+{
+    if (strip_) {
+        strip_.reset();
+        stripFinger_.reset();
+        frame_.report(ControlAspect::Accessibility);
+        surface_.invalidate();
+    }
+}
+
+void ctl_Keys::chooseVariant(std::size_t at)
+{
+    const auto self = weak_from_this().lock();
+    const String character(1, strip_->character(at));
+    closeStrip();
+    VARIANT.emit(character);
+    refresh();
+}
+
+void ctl_Keys::previewKey(KeyEvent& event)
+{
+    if (!strip_) {
+        return;
+    }
+    const bool isStep = event.is(Key::Left) || event.is(Key::Right);
+    const bool isChoice = event.is(Key::Return) || event.is(Key::Space);
+    if (isStep) {
+        strip_->step(event.is(Key::Right));
+        frame_.announce(spokenCharacter(String(1, strip_->character(strip_->chosen()))));
+        surface_.invalidate();
+    } else if (isChoice) {
+        chooseVariant(strip_->chosen());
+    } else {
+        closeStrip();
+    }
+    if (isStep || isChoice || event.is(Key::Escape)) {
+        event.KeyCode = 0;
+    }
+}
+
+// What is seen and told.
+
+void ctl_Keys::resized()
+{
+    closeStrip();
+    painted_.clear();
+    surface_.resized();
+}
+
+void ctl_Keys::paint()
+{
+    DrawDevice& device = surface_.device();
+    device.Cls();
+    painted_.clear();
+    for (const KeyDesign& key : board_->keys()) {
+        painted_.push_back(lookOf(key));
+        paintKey(device, painted_.back());
+    }
+    paintStrip();
+}
+
+void ctl_Keys::refresh()
+{
+    if (painted_.empty()) {
+        return;
+    }
+    frame_.report(ControlAspect::Accessibility);
+    const auto keys = board_->keys();
+    std::vector<bool> isStale(keys.size());
+    for (std::size_t at = 0; at < keys.size(); ++at) {
+        KeyLook look = lookOf(keys[at]);
+        isStale[at] = !(look == painted_[at]);
+        painted_[at] = std::move(look);
+    }
+    if (strip_) {
+        surface_.invalidate();
+        return;
+    }
+    DrawDevice& device = surface_.device();
+    for (std::size_t at = 0; at < keys.size(); ++at) {
+        if (isStale[at]) {
+            const PixelRectangle& area = painted_[at].area;
+            device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, surface_.BackColor(),
+                        LineShape::Filled);
+        }
+    }
+    for (std::size_t at = 0; at < keys.size(); ++at) {
+        const auto isErased = [&](std::size_t other) {
+            return isStale[other] && meet(painted_[at].area, painted_[other].area);
+        };
+        bool isDue = false;
+        for (std::size_t other = 0; other < keys.size() && !isDue; ++other) {
+            isDue = isErased(other);
+        }
+        if (isDue) {
+            paintKey(device, painted_[at]);
+        }
+    }
+}
+
+void ctl_Keys::paintStrip()
+{
+    if (!strip_) {
+        return;
+    }
+    DrawDevice& device = surface_.device();
+    const PixelRectangle& all = strip_->area();
+    device.Line(all.left, all.top, all.right() - 1, all.bottom() - 1, Palette::AccentSoft, LineShape::Filled);
+    device.Line(all.left, all.top, all.right() - 1, all.bottom() - 1, Palette::Accent, LineShape::Box);
+    for (std::size_t at = 0; at < strip_->count(); ++at) {
+        KeyLook look;
+        look.area = strip_->cell(at);
+        look.scale = scale();
+        look.face.text = String(1, strip_->character(at));
+        look.isPressed = at == strip_->chosen();
+        paintKey(device, look);
+    }
+}
+
+std::vector<NamedPart> ctl_Keys::parts() const
+{
+    std::vector<NamedPart> all;
+    const String press = LNG()->TRANSLATE(u"Drücken", u"Press");
+    for (const KeyDesign& key : board_->keys()) {
+        const KeyState state = board_->state(key.index);
+        all.push_back({.area = lookOf(key).area,
+                       .role = PartRole::Button,
+                       .name = spokenKey(*board_, key.index),
+                       .action = press,
+                       .state = {.pressed = state == KeyState::Once,
+                                 .checkable = board_->modifier(key.index).has_value(),
+                                 .checked = state == KeyState::Locked}});
+    }
+    for (std::size_t at = 0; strip_ && at < strip_->count(); ++at) {
+        all.push_back({.area = strip_->cell(at),
+                       .role = PartRole::Button,
+                       .name = spokenCharacter(String(1, strip_->character(at))),
+                       .action = press,
+                       .state = {.pressed = at == strip_->chosen()}});
+    }
+    return all;
+}
+
+void ctl_Keys::activatePart(std::size_t part)
+{
+    const auto keys = board_->keys();
+    if (part < keys.size()) {
+        const std::int32_t index = keys[part].index;
+        board_->press(index);
+        refresh();
+        strike(index);
+    } else if (strip_ && part - keys.size() < strip_->count()) {
+        chooseVariant(part - keys.size());
+    }
+}
+
+} // namespace phial

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "dialogs/KeyHand.h"
+#include "dialogs/KeyPainter.h"
+#include "dialogs/VariantStrip.h"
+#include "visual/PaintSurface.h"
+#include "visual/Timer.h"
+#include "visual/UserControl.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace phial
+{
+
+/// The keys of a keyboard as one painted control, each a named part. It takes each finger for itself, scales
+/// its keys to the size that it is given, and never takes the focus.
+///
+/// A key that is held shows its variants, if it has some: the finger slides onto one or a further tap takes
+/// it, and so do arrows and Enter of a keyboard on the desk. Held keys that move the caret or delete are
+/// struck again and again.
+class ctl_Keys final : public UserControl
+{
+public:
+    static constexpr std::int32_t HoldInterval = 500;  ///< milliseconds until a key counts as held
+    static constexpr std::int32_t RepeatInterval = 50; ///< between the strokes of one that is held
+
+    ctl_Keys();
+
+    /// The keys and their rules; without any at first. The layout's tables outlive the control.
+    void layout(const KeyLayout& value);
+    KeyBoard& board() { return *board_; }
+    const KeyBoard& board() const { return *board_; }
+    /// The area of all keys on the keyboard's form, in twips at scale 1.
+    PixelRectangle designArea() const { return design_; }
+    /// Of a key, in pixels of the control; raises 9 for one that is not there.
+    PixelRectangle areaOf(std::int32_t index) const;
+    /// Whether keys can be held for variants; true at first.
+    bool offersVariants() const { return offersVariants_; }
+    void offersVariants(bool value) { offersVariants_ = value; }
+
+    /// Something has gone down, on a key or between keys; it has gone up again, or cannot become a drag any
+    /// more.
+    Event<> PRESSED;
+    Event<> RELEASED;
+    /// A key was struck; whoever hears it asks `board().click`. Modifiers have passed on when they went down.
+    Event<std::int32_t> CLICK;
+    /// A variant was chosen, a single character.
+    Event<const String&> VARIANT;
+
+    /// The press has become a drag: what is down strikes nothing, and modifiers go back.
+    void cancelPresses();
+    /// Paints what has changed: after names, states or the language were changed from outside.
+    void refresh();
+    /// A key of the keyboard on the desk, before it goes to the field. While variants are shown the arrows,
+    /// Enter and Escape are theirs: such a key has the code 0 afterwards.
+    void previewKey(KeyEvent& event);
+    bool showsVariants() const { return strip_.has_value(); }
+
+    StringView typeName() const override { return u"ctl_Keys"; }
+    MemberTable members() const override;
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    PartRole role() const override { return PartRole::Grouping; }
+    std::vector<NamedPart> parts() const override;
+    void activatePart(std::size_t part) override;
+    void pointerDown(const PointerEvent& event) override;
+    void pointerMove(const PointerEvent& event) override;
+    void pointerUp(const PointerEvent& event) override;
+    void hidden() override { cancelPresses(); }
+    void resized() override;
+    void paint() override;
+
+private:
+    struct Properties;
+
+    double scale() const;
+    std::optional<std::int32_t> keyAt(PixelPoint point) const;
+    KeyLook lookOf(const KeyDesign& key) const;
+    void strike(std::int32_t index);
+    void hold();
+    void openStrip(const String& variants, std::int32_t index);
+    void closeStrip();
+    void chooseVariant(std::size_t at);
+    bool pressStrip(const PointerEvent& event);
+    void paintStrip();
+
+    ControlFrame frame_;
+    PaintSurface surface_;
+    std::unique_ptr<KeyBoard> board_;
+    std::unique_ptr<KeyHand> hand_;
+    PixelRectangle design_;
+    std::vector<KeyLook> painted_; ///< in the order of the keys; empty before the first painting
+    std::optional<VariantStrip> strip_;
+    std::optional<std::int32_t> stripFinger_; ///< the one that has opened it, or presses it
+    bool offersVariants_ = true;
+    Timer timer_;
+    Connection holding_;
+};
+
+} // namespace phial
