@@ -83,10 +83,14 @@ String nameOf(const KeyDesign& key)
 KeyBoard::KeyBoard(const KeyLayout& layout)
     : layout_(layout), keys_(layout.keys.begin(), layout.keys.end()), rows_(keys_.size())
 {
-    for (const KeyDesign& key : layout.keys) {
+    for (std::size_t at = 0; at < keys_.size(); ++at) {
+        const KeyDesign& key = keys_[at];
         if (key.index < 0 || key.index > LastIndex) {
             throw RuntimeError(ErrorNumber::IndexOutOfBounds);
         }
+        const auto index = static_cast<std::size_t>(key.index);
+        positions_.resize(std::max(positions_.size(), index + 1), NoKey);
+        positions_[index] = at;
         rename(key.index, key.caption, key.tag);
     }
 }
@@ -102,15 +106,17 @@ void KeyBoard::rename(std::int32_t index, StringView caption, StringView tag)
     const auto levels = std::ranges::find(layout_.levels, row.base, &KeyLevels::base);
     row.levels = levels == layout_.levels.end() ? nullptr : &*levels;
     row.named = rowOf(layout_.named, row.base);
+    const ModifierName* modifier = rowOf(Modifiers, row.base);
+    row.modifier = modifier ? std::optional(modifier->modifier) : std::nullopt;
 }
 
 std::size_t KeyBoard::position(std::int32_t index) const
 {
-    const auto key = std::ranges::find(keys_, index, &KeyDesign::index);
-    if (key == keys_.end()) {
+    const auto at = static_cast<std::size_t>(index); // a negative one is beyond all
+    if (at >= positions_.size() || positions_[at] == NoKey) {
         throw RuntimeError(ErrorNumber::IndexOutOfBounds);
     }
-    return static_cast<std::size_t>(key - keys_.begin());
+    return positions_[at];
 }
 
 String KeyBoard::name(std::int32_t index) const
@@ -147,8 +153,7 @@ bool KeyBoard::showsSymbols() const
 
 std::optional<Modifier> KeyBoard::modifier(std::int32_t index) const
 {
-    const ModifierName* row = rowOf(Modifiers, base(index));
-    return row ? std::optional(row->modifier) : std::nullopt;
+    return at(index).modifier;
 }
 
 KeyState KeyBoard::state(Modifier modifier) const

@@ -121,8 +121,11 @@ public:
     KeyDeed type(StringView text);
 
 private:
+    static constexpr std::size_t NoKey = static_cast<std::size_t>(-1);
+
     struct KeyRow {
         String base;
+        std::optional<Modifier> modifier;
         const KeyLevels* levels = nullptr;
         const NamedFaces* named = nullptr;
     };
@@ -137,6 +140,7 @@ private:
     KeyLayout layout_;
     std::vector<KeyDesign> keys_;
     std::vector<KeyRow> rows_;
+    std::vector<std::size_t> positions_; ///< by index; NoKey where there is none
     std::array<KeyState, 4> states_{};
 };
 

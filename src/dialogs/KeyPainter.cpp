@@ -4,6 +4,7 @@
 #include "core/Palette.h"
 #include "core/SessionState.h"
 #include "dialogs/SignPainter.h"
+#include "visual/VisualHost.h"
 
 #include <algorithm>
 #include <utility>
@@ -130,33 +131,58 @@ void paintText(DrawDevice& device, const PixelRectangle& area, double scale, con
     device.Print(text);
 }
 
-void paintFace(DrawDevice& device, const KeyLook& look, Colour ink)
+} // namespace
+
+void paintCap(DrawDevice& device, const KeyLook& look)
+{
+    paintGround(device, look, coloursOf(look));
+    if (look.state == KeyState::Locked) {
+        paintLamp(device, look);
+    }
+}
+
+void paintFace(DrawDevice& device, const KeyLook& look)
 {
     // The face of a key with a notch stands where the key is whole.
     const PixelRectangle area{look.area.left, look.area.top, look.area.width,
                               look.notch > 0 ? look.area.height / 2 : look.area.height};
-    const Colour colour = look.face.isEmpty ? emptyInk() : ink;
-    device.ForeColor(colour);
+    const Colour ink = look.face.isEmpty ? emptyInk() : coloursOf(look).ink;
+    device.ForeColor(ink);
     if (look.face.isSign && look.face.text.size() == 1) {
         const double size = SignSize * look.scale;
         paintSign(device, look.face.text.front(),
                   {area.left + (area.width - size) / 2, area.top + (area.height - size) / 2, size, size},
-                  colour);
+                  ink);
     } else {
         paintText(device, area, look.scale, look.face.text);
     }
 }
 
-} // namespace
-
-void paintKey(DrawDevice& device, const KeyLook& look)
+void KeyPainter::paint(DrawDevice& device, const KeyLook& look)
 {
-    const KeyColours colours = coloursOf(look);
-    paintGround(device, look, colours);
-    if (look.state == KeyState::Locked) {
-        paintLamp(device, look);
+    const PicturePtr image = device.Image();
+    device.PaintPicture(capOf(look, image ? image->pixelRatio() : 1), look.area.left, look.area.top);
+    paintFace(device, look);
+}
+
+const PicturePtr& KeyPainter::capOf(const KeyLook& look, double ratio)
+{
+    if (colours_ != coreTheme().changes() || ratio_ != ratio) {
+        caps_.clear();
+        colours_ = coreTheme().changes();
+        ratio_ = ratio;
     }
-    paintFace(device, look, colours.ink);
+    KeyLook bare = look;
+    bare.area.left = bare.area.top = 0;
+    bare.face = {};
+    const auto known = std::ranges::find(caps_, bare, &Cap::look);
+    if (known != caps_.end()) {
+        return known->picture;
+    }
+    DrawDevice device(visualHost().createSurface({bare.area.width, bare.area.height}, ratio));
+    paintCap(device, bare);
+    caps_.push_back({std::move(bare), device.Image()});
+    return caps_.back().picture;
 }
 
 } // namespace phial

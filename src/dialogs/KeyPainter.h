@@ -3,6 +3,8 @@
 #include "dialogs/KeyBoard.h"
 #include "visual/DrawDevice.h"
 
+#include <vector>
+
 namespace phial
 {
 
@@ -26,8 +28,28 @@ struct KeyLook {
     friend bool operator==(const KeyLook&, const KeyLook&) = default;
 };
 
-/// Paints the key on the ground that is there. Pressed keys and modifiers that are on have the accent's
-/// colour, locked ones a small lamp at their left.
-void paintKey(DrawDevice& device, const KeyLook& look);
+/// The key without its face, on the ground that is there. Pressed keys and modifiers that are on have the
+/// accent's colour, locked ones a small lamp at their left.
+void paintCap(DrawDevice& device, const KeyLook& look);
+/// What stands on it.
+void paintFace(DrawDevice& device, const KeyLook& look);
+
+/// Paints keys; caps of the same look are drawn once.
+class KeyPainter
+{
+public:
+    void paint(DrawDevice& device, const KeyLook& look);
+
+private:
+    struct Cap {
+        KeyLook look; ///< without face, at the corner
+        PicturePtr picture;
+    };
+    const PicturePtr& capOf(const KeyLook& look, double ratio);
+
+    std::vector<Cap> caps_;
+    std::uint32_t colours_ = 0; ///< the theme's count of changes when they were drawn
+    double ratio_ = 0;
+};
 
 } // namespace phial

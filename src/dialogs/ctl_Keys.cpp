@@ -8,6 +8,7 @@
 #include "visual/PropertyRows.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace phial
@@ -94,7 +95,8 @@ void ctl_Keys::layout(const KeyLayout& value)
     hand_ = std::make_unique<KeyHand>(*board_);
     design_ = areaOfAll(value.keys);
     closeStrip();
-    painted_.clear();
+    place();
+    isPainted_ = false;
     surface_.invalidate();
 }
 
@@ -105,20 +107,40 @@ double ctl_Keys::scale() const
     return design_.isEmpty() ? 1 : surface_.size().width / (design_.width / TwipsPerPixel);
 }
 
-KeyLook ctl_Keys::lookOf(const KeyDesign& key) const
+/// Where a key stands. Edges are those of the device's pixels, so that neighbours meet and caps are not
+/// blurred.
+KeyLook ctl_Keys::placed(const KeyDesign& key) const
 {
     const double pixels = scale() / TwipsPerPixel;
+    const auto edge = [&](double twips) { return std::round(twips * pixels * ratio_) / ratio_; };
     KeyLook look;
-    look.area = {(key.left - design_.left) * pixels, (key.top - design_.top) * pixels, key.width * pixels,
-                 key.height * pixels};
+    const double left = edge(key.left - design_.left);
+    const double top = edge(key.top - design_.top);
+    look.area = {left, top, edge(key.left + key.width - design_.left) - left,
+                 edge(key.top + key.height - design_.top) - top};
     look.notch = key.notch * pixels;
     look.scale = scale();
     look.kind = kindOf(*board_, key);
+    return look;
+}
+
+/// What changes of a look while one types.
+void ctl_Keys::take(KeyLook& look, const KeyDesign& key) const
+{
     look.face = board_->face(key.index);
-    look.face.text = LNG()->TRANSLATEAUTO(look.face.text);
+    if (look.face.text.find(u'|') != String::npos) {
+        look.face.text = LNG()->TRANSLATEAUTO(look.face.text);
+    }
     look.state = board_->state(key.index);
     look.isPressed = hand_->isDown(key.index) && !board_->modifier(key.index);
-    return look;
+}
+
+void ctl_Keys::place()
+{
+    looks_.clear();
+    for (const KeyDesign& key : board_->keys()) {
+        looks_.push_back(placed(key));
+    }
 }
 
 PixelRectangle ctl_Keys::areaOf(std::int32_t index) const
@@ -128,17 +150,15 @@ PixelRectangle ctl_Keys::areaOf(std::int32_t index) const
     if (key == keys.end()) {
         throw RuntimeError(ErrorNumber::IndexOutOfBounds);
     }
-    return lookOf(*key).area;
+    return looks_[static_cast<std::size_t>(key - keys.begin())].area;
 }
 
 std::optional<std::int32_t> ctl_Keys::keyAt(PixelPoint point) const
 {
-    for (const KeyDesign& key : board_->keys()) {
-        if (covers(lookOf(key), point)) {
-            return key.index;
-        }
-    }
-    return std::nullopt;
+    const auto look = std::ranges::find_if(looks_, [&](const KeyLook& each) { return covers(each, point); });
+    return look == looks_.end()
+               ? std::nullopt
+               : std::optional(board_->keys()[static_cast<std::size_t>(look - looks_.begin())].index);
 }
 
 // Fingers.
@@ -308,57 +328,64 @@ void ctl_Keys::previewKey(KeyEvent& event)
 void ctl_Keys::resized()
 {
     closeStrip();
-    painted_.clear();
+    place();
+    isPainted_ = false;
     surface_.resized();
 }
 
 void ctl_Keys::paint()
 {
     DrawDevice& device = surface_.device();
+    const PicturePtr image = device.Image();
+    ratio_ = image ? image->pixelRatio() : 1;
+    place();
     device.Cls();
-    painted_.clear();
-    for (const KeyDesign& key : board_->keys()) {
-        painted_.push_back(lookOf(key));
-        paintKey(device, painted_.back());
+    const auto keys = board_->keys();
+    for (std::size_t at = 0; at < keys.size(); ++at) {
+        take(looks_[at], keys[at]);
+        painter_.paint(device, looks_[at]);
     }
     paintStrip();
+    isPainted_ = true;
 }
 
 void ctl_Keys::refresh()
 {
-    if (painted_.empty()) {
+    if (!isPainted_) {
         return;
     }
-    frame_.report(ControlAspect::Accessibility);
     const auto keys = board_->keys();
-    std::vector<bool> isStale(keys.size());
+    std::vector<std::size_t> stale;
     for (std::size_t at = 0; at < keys.size(); ++at) {
-        KeyLook look = lookOf(keys[at]);
-        isStale[at] = !(look == painted_[at]);
-        painted_[at] = std::move(look);
+        KeyLook look = looks_[at];
+        take(look, keys[at]);
+        if (!(look == looks_[at])) {
+            looks_[at] = std::move(look);
+            stale.push_back(at);
+        }
     }
+    if (!stale.empty()) {
+        frame_.report(ControlAspect::Accessibility);
+        repaint(stale);
+    }
+}
+
+/// Keys whose boxes meet an erased one are painted again with it.
+void ctl_Keys::repaint(const std::vector<std::size_t>& stale)
+{
     if (strip_) {
         surface_.invalidate();
         return;
     }
     DrawDevice& device = surface_.device();
-    for (std::size_t at = 0; at < keys.size(); ++at) {
-        if (isStale[at]) {
-            const PixelRectangle& area = painted_[at].area;
-            device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, surface_.BackColor(),
-                        LineShape::Filled);
-        }
+    for (const std::size_t at : stale) {
+        const PixelRectangle& area = looks_[at].area;
+        device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, surface_.BackColor(),
+                    LineShape::Filled);
     }
-    for (std::size_t at = 0; at < keys.size(); ++at) {
-        const auto isErased = [&](std::size_t other) {
-            return isStale[other] && meet(painted_[at].area, painted_[other].area);
-        };
-        bool isDue = false;
-        for (std::size_t other = 0; other < keys.size() && !isDue; ++other) {
-            isDue = isErased(other);
-        }
-        if (isDue) {
-            paintKey(device, painted_[at]);
+    for (const KeyLook& look : looks_) {
+        if (std::ranges::any_of(stale, [&](std::size_t at) { return meet(look.area, looks_[at].area); })) {
+            painter_.paint(device, look);
         }
     }
 }
@@ -378,7 +405,7 @@ void ctl_Keys::paintStrip()
         look.scale = scale();
         look.face.text = String(1, strip_->character(at));
         look.isPressed = at == strip_->chosen();
-        paintKey(device, look);
+        painter_.paint(device, look);
     }
 }
 
@@ -388,7 +415,7 @@ std::vector<NamedPart> ctl_Keys::parts() const
     const String press = LNG()->TRANSLATE(u"Drücken", u"Press");
     for (const KeyDesign& key : board_->keys()) {
         const KeyState state = board_->state(key.index);
-        all.push_back({.area = lookOf(key).area,
+        all.push_back({.area = looks_[all.size()].area,
                        .role = PartRole::Button,
                        .name = spokenKey(*board_, key.index),
                        .action = press,

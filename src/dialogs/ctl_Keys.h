@@ -77,13 +77,16 @@ private:
 
     double scale() const;
     std::optional<std::int32_t> keyAt(PixelPoint point) const;
-    KeyLook lookOf(const KeyDesign& key) const;
+    KeyLook placed(const KeyDesign& key) const;
+    void take(KeyLook& look, const KeyDesign& key) const;
+    void place();
     void strike(std::int32_t index);
     void hold();
     void openStrip(const String& variants, std::int32_t index);
     void closeStrip();
     void chooseVariant(std::size_t at);
     bool pressStrip(const PointerEvent& event);
+    void repaint(const std::vector<std::size_t>& stale);
     void paintStrip();
 
     ControlFrame frame_;
@@ -91,7 +94,10 @@ private:
     std::unique_ptr<KeyBoard> board_;
     std::unique_ptr<KeyHand> hand_;
     PixelRectangle design_;
-    std::vector<KeyLook> painted_; ///< in the order of the keys; empty before the first painting
+    KeyPainter painter_;
+    double ratio_ = 1;           ///< pixels of the device in one of the control, as last painted
+    std::vector<KeyLook> looks_; ///< in the order of the keys, as they were painted last
+    bool isPainted_ = false;
     std::optional<VariantStrip> strip_;
     std::optional<std::int32_t> stripFinger_; ///< the one that has opened it, or presses it
     bool offersVariants_ = true;

@@ -25,7 +25,8 @@ protected:
         const auto backend = std::make_shared<headless::RecordingBackend>(
             PixelSize{200, 100}, std::make_shared<headless::FixedTextMetrics>());
         DrawDevice device(backend);
-        paintKey(device, look);
+        paintCap(device, look);
+        paintFace(device, look);
         return backend->text();
     }
 

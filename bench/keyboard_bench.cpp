@@ -1,0 +1,258 @@
+// The keys of the text keyboard in a real window drawn into memory: opened with the first paint, all faces
+// changed by SHIFT, and a tap until its character is painted; beside a QLineEdit with 60 QPushButtons in the
+// same look, and beside the same keyboard made of a picture and a label for each key.
+
+#include "PaintWatch.h"
+#include "app/Session.h"
+#include "core/MemorySettingsStore.h"
+#include "dialogs/TextLayout.h"
+#include "dialogs/ctl_Keys.h"
+#include "qt/desktop/DesktopApplication.h"
+#include "visual/Form.h"
+#include "visual/Label.h"
+#include "visual/PictureBox.h"
+#include "visual/TextBox.h"
+#include "visual/VisualHost.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <benchmark/benchmark.h>
+#include <memory>
+#include <vector>
+
+namespace
+{
+
+using namespace phial;
+
+constexpr PixelSize WindowSize{750, 340};
+constexpr double FieldTop = 12;
+constexpr double FieldHeight = 44;
+constexpr std::int32_t KeyShift = 37;
+constexpr std::int32_t KeyQ = 14;
+
+/// A form with a field and the keys, which type into it.
+class KeysOnForm
+{
+public:
+    KeysOnForm()
+    {
+        form->ScaleMode(ScaleUnit::Pixels);
+        form->innerSize(WindowSize);
+        field->Move(15, FieldTop, 720, FieldHeight);
+        keys->layout(text_layout::Layout);
+        const PixelRectangle area = keys->designArea();
+        keys->Move(area.left / TwipsPerPixel, area.top / TwipsPerPixel, area.width / TwipsPerPixel,
+                   area.height / TwipsPerPixel);
+        typing_ = keys->CLICK.connect([this](std::int32_t index) {
+            const KeyDeed deed = keys->board().click(index);
+            field->SetFocus();
+            SendKeys(deed.strokes, form);
+        });
+    }
+    ~KeysOnForm() { form->discard(); }
+    KeysOnForm(const KeysOnForm&) = delete;
+    KeysOnForm& operator=(const KeysOnForm&) = delete;
+
+    void press(std::int32_t index) { keys->pointerDown(at(index)); }
+    void release(std::int32_t index) { keys->pointerUp(at(index)); }
+
+    std::shared_ptr<Form> form = std::make_shared<Form>(u"frm_Bench");
+    std::shared_ptr<TextBox> field = form->add<TextBox>(u"txt_Input");
+    std::shared_ptr<ctl_Keys> keys = form->add<ctl_Keys>(u"key_Keys");
+
+private:
+    PointerEvent at(std::int32_t index) const
+    {
+        const PixelRectangle area = keys->areaOf(index);
+        return {PointerButton::Left, 0, area.left + area.width / 2, area.top + area.height / 2, 1};
+    }
+
+    Connection typing_;
+};
+
+/// The same with two controls for each key.
+class KeysAsControls
+{
+public:
+    KeysAsControls()
+    {
+        form->ScaleMode(ScaleUnit::Pixels);
+        form->innerSize(WindowSize);
+        form->add<TextBox>(u"txt_Input")->Move(15, FieldTop, 720, FieldHeight);
+        for (const KeyDesign& key : text_layout::Keys) {
+            const PixelRectangle area{key.left / TwipsPerPixel, key.top / TwipsPerPixel,
+                                      key.width / TwipsPerPixel, key.height / TwipsPerPixel};
+            const auto picture = form->add<PictureBox>(u"pic_Key");
+            picture->frame().Index(key.index);
+            picture->AutoRedraw(true);
+            picture->transparent(true);
+            picture->frame().pixelRectangle(area);
+            paintCap(picture->device(), {.area = {0, 0, area.width, area.height}, .face = {}});
+            const auto label = form->add<Label>(u"lab_Key");
+            label->frame().Index(key.index);
+            label->Alignment(Alignment::Centre);
+            label->Caption(String(key.caption));
+            label->frame().pixelRectangle(
+                {area.left, area.top + area.height / 4, area.width, area.height / 2});
+            labels.push_back(label);
+        }
+    }
+    ~KeysAsControls() { form->discard(); }
+    KeysAsControls(const KeysAsControls&) = delete;
+    KeysAsControls& operator=(const KeysAsControls&) = delete;
+
+    std::shared_ptr<Form> form = std::make_shared<Form>(u"frm_Bench");
+    std::vector<std::shared_ptr<Label>> labels;
+};
+
+/// The same as one would make it of the toolkit's widgets.
+class ButtonWindow
+{
+public:
+    ButtonWindow()
+    {
+        window.resize(static_cast<int>(WindowSize.width), static_cast<int>(WindowSize.height));
+        field->setGeometry(15, static_cast<int>(FieldTop), 720, static_cast<int>(FieldHeight));
+        for (const KeyDesign& key : text_layout::Keys) {
+            auto* button = new QPushButton(QString::fromStdU16String(String(key.caption)), &window);
+            button->setFocusPolicy(Qt::NoFocus);
+            button->setGeometry(static_cast<int>(key.left / TwipsPerPixel),
+                                static_cast<int>(key.top / TwipsPerPixel),
+                                static_cast<int>(key.width / TwipsPerPixel) - 4,
+                                static_cast<int>(key.height / TwipsPerPixel) - 4);
+            buttons.push_back(button);
+        }
+        window.show();
+    }
+
+    QWidget window;
+    QLineEdit* field = new QLineEdit(&window);
+    std::vector<QPushButton*> buttons;
+};
+
+void keyboardOpen(benchmark::State& state)
+{
+    PaintWatch watch;
+    for (auto _ : state) {
+        KeysOnForm keyboard;
+        keyboard.form->Show();
+        watch.finish();
+    }
+}
+BENCHMARK(keyboardOpen)->Name("KeyboardOpen")->Unit(benchmark::kMillisecond);
+
+void keyboardOpenAsControls(benchmark::State& state)
+{
+    PaintWatch watch;
+    for (auto _ : state) {
+        KeysAsControls keyboard;
+        keyboard.form->Show();
+        watch.finish();
+    }
+}
+BENCHMARK(keyboardOpenAsControls)->Name("KeyboardOpenAsControls")->Unit(benchmark::kMillisecond);
+
+void buttonsOpen(benchmark::State& state)
+{
+    PaintWatch watch;
+    for (auto _ : state) {
+        const ButtonWindow buttons;
+        watch.finish();
+    }
+}
+BENCHMARK(buttonsOpen)->Name("ButtonsOpen")->Unit(benchmark::kMillisecond);
+
+void keyboardFaces(benchmark::State& state)
+{
+    PaintWatch watch;
+    KeysOnForm keyboard;
+    keyboard.form->Show();
+    watch.finish();
+    for (auto _ : state) {
+        keyboard.press(KeyShift);
+        keyboard.release(KeyShift);
+        watch.finish();
+    }
+}
+BENCHMARK(keyboardFaces)->Name("KeyboardFaces")->Unit(benchmark::kMillisecond);
+
+void buttonFaces(benchmark::State& state)
+{
+    PaintWatch watch;
+    const ButtonWindow window;
+    watch.finish();
+    bool isShifted = false;
+    for (auto _ : state) {
+        isShifted = !isShifted;
+        for (QPushButton* button : window.buttons) {
+            button->setText(isShifted ? button->text().toUpper() : button->text().toLower());
+        }
+        watch.finish();
+    }
+}
+BENCHMARK(buttonFaces)->Name("ButtonFaces")->Unit(benchmark::kMillisecond);
+
+void keyboardTap(benchmark::State& state)
+{
+    PaintWatch watch;
+    KeysOnForm keyboard;
+    keyboard.form->Show();
+    watch.finish();
+    for (auto _ : state) {
+        keyboard.press(KeyQ);
+        keyboard.release(KeyQ);
+        while (keyboard.field->Text().empty()) {
+            QApplication::processEvents();
+        }
+        QApplication::processEvents();
+        state.PauseTiming();
+        keyboard.field->Text(u"");
+        watch.finish();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(keyboardTap)->Name("KeyboardTap")->Unit(benchmark::kMicrosecond);
+
+/// A button that types into the field: pressed, let go, the character in the field painted.
+void buttonTap(benchmark::State& state)
+{
+    PaintWatch watch;
+    ButtonWindow window;
+    window.field->setFocus();
+    watch.finish();
+    QPushButton* button = window.buttons.front();
+    QObject::connect(button, &QPushButton::clicked, window.field, [field = window.field] {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Q, Qt::NoModifier, QStringLiteral("q"));
+        QApplication::sendEvent(field, &down);
+        QKeyEvent up(QEvent::KeyRelease, Qt::Key_Q, Qt::NoModifier, QStringLiteral("q"));
+        QApplication::sendEvent(field, &up);
+    });
+    for (auto _ : state) {
+        button->setDown(true);
+        button->click();
+        watch.finish();
+        state.PauseTiming();
+        window.field->clear();
+        watch.finish();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(buttonTap)->Name("ButtonTap")->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const phial::qt::DesktopApplication application(argc, argv, u"Bench");
+    phial::Platform platform = application.platform();
+    platform.settings = std::make_shared<phial::MemorySettingsStore>();
+    const phial::Session session(platform);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
