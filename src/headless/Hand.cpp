@@ -35,7 +35,7 @@ ControlPtr controlAt(const Container& container, PixelPoint place)
 
 std::int32_t codeOf(const KeyStroke& stroke)
 {
-    return stroke.character != 0 ? upperCase(stroke.character) : static_cast<std::int32_t>(stroke.key);
+    return stroke.character != 0 ? keyCodeOf(stroke.character) : static_cast<std::int32_t>(stroke.key);
 }
 
 void press(Control& control, double x, double y)

@@ -39,7 +39,7 @@ struct WheelEvent {
 };
 
 /// Codes of keys that are not known by their character. Letters have the code of their capital, digits that
-/// of their sign.
+/// of their sign; for other signs see keyCodeOf in Typing.h.
 enum class Key : std::int32_t {
     None = 0,
     Backspace = 8,

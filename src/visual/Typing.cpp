@@ -21,6 +21,17 @@ bool isTypedControl(char16_t character)
 
 } // namespace
 
+std::int32_t keyCodeOf(char16_t character)
+{
+    constexpr std::int32_t SignsOfNamedKeys = 0x10000; // more than any character
+    const std::int32_t code = upperCase(character);
+    const auto within = [code](Key first, Key last) {
+        return code >= static_cast<std::int32_t>(first) && code <= static_cast<std::int32_t>(last);
+    };
+    const bool isNamedKeys = within(Key::PageUp, Key::Delete) || within(Key::F1, Key::F12);
+    return isNamedKeys ? SignsOfNamedKeys + code : code;
+}
+
 bool isCommand(std::int32_t shift)
 {
     return ((shift & ShiftMask::Control) != 0) != ((shift & ShiftMask::Alt) != 0);

@@ -11,6 +11,10 @@ namespace phial
 /// together are the key AltGr, with which keyboards type further characters.
 bool isCommand(std::int32_t shift);
 
+/// The KeyCode of a key that gives this character: that of its capital, and for a sign whose own code is that
+/// of a named key ("." is 46, as Delete is) one that no key has.
+std::int32_t keyCodeOf(char16_t character);
+
 /// The character of a stroke that was sent: its capital with Shift.
 char16_t sentCharacter(const KeyStroke& stroke);
 

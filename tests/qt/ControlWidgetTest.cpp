@@ -7,6 +7,7 @@
 #include "visual/PaintSurface.h"
 #include "visual/PictureBox.h"
 #include "visual/TextBox.h"
+#include "visual/Typing.h"
 #include "visual/ctl_Title.h"
 
 #include <QAccessible>
@@ -191,8 +192,10 @@ TEST_F(ControlWidgetTest, KeysReachAControlOutsideOfForms)
     widget.setFocus();
     QTest::keyClicks(&widget, QStringLiteral("a1"));
     QTest::keyClick(&widget, Qt::Key_Left);
-    EXPECT_EQ(keys, (std::vector<std::int32_t>{'A', '1', static_cast<std::int32_t>(Key::Left)}));
-    EXPECT_EQ(typed, u"a1");
+    QTest::keyClicks(&widget, QStringLiteral(".%{"));
+    EXPECT_EQ(keys, (std::vector<std::int32_t>{'A', '1', static_cast<std::int32_t>(Key::Left),
+                                               keyCodeOf(u'.'), keyCodeOf(u'%'), keyCodeOf(u'{')}));
+    EXPECT_EQ(typed, u"a1.%{");
 }
 
 TEST_F(ControlWidgetTest, PartsAreShownToScreenReaders)

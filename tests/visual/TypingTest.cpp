@@ -43,6 +43,25 @@ TEST(Typing, OfTheOtherKeysFourAreTypedAndTheSpaceBar)
     EXPECT_EQ(typedCharacter({u'\t', Key::None, 0}), u'\t');
 }
 
+TEST(Typing, NoSignIsTakenForAKeyWithAName)
+{
+    const auto isWithin = [](std::int32_t code, Key first, Key last) {
+        return code >= static_cast<std::int32_t>(first) && code <= static_cast<std::int32_t>(last);
+    };
+    for (const char16_t sign : StringView(u"!\"#$%&'()*+,-./:;<=>?@[]^_`{|}~§µ€")) {
+        const std::int32_t code = keyCodeOf(sign);
+        EXPECT_FALSE(isWithin(code, Key::PageUp, Key::Delete)) << int(sign);
+        EXPECT_FALSE(isWithin(code, Key::F1, Key::F12)) << int(sign);
+    }
+    EXPECT_NE(keyCodeOf(u'.'), keyCodeOf(u'\''));
+    EXPECT_EQ(keyCodeOf(u'a'), u'A');
+    EXPECT_EQ(keyCodeOf(u'p'), u'P');
+    EXPECT_EQ(keyCodeOf(u'7'), u'7');
+    EXPECT_EQ(keyCodeOf(u'ä'), u'Ä');
+    EXPECT_EQ(keyCodeOf(u' '), static_cast<std::int32_t>(Key::Space));
+    EXPECT_EQ(keyCodeOf(u'\t'), static_cast<std::int32_t>(Key::Tab));
+}
+
 TEST(Typing, SentCharactersAreCapitalsWithShift)
 {
     EXPECT_EQ(sentCharacter({u'ä', Key::None, Shift}), u'Ä');

@@ -55,8 +55,11 @@ std::int32_t codeOf(int toolkitKey)
     if (toolkitKey >= Qt::Key_F1 && toolkitKey < Qt::Key_F1 + FunctionKeys) {
         return FirstFunctionKey + toolkitKey - Qt::Key_F1;
     }
-    return toolkitKey < Qt::Key_Escape ? toolkitKey
-                                       : 0; // letters as capitals, digits and signs as themselves
+    if (toolkitKey >= Qt::Key_Escape) {
+        return 0;
+    }
+    constexpr int LastOfOneUnit = 0xFFFF;
+    return toolkitKey <= LastOfOneUnit ? keyCodeOf(static_cast<char16_t>(toolkitKey)) : toolkitKey;
 }
 
 int toolkitCode(Key code)
