@@ -32,6 +32,9 @@ public:
 
     /// Whether the user has asked the desktop for less motion; false where it does not tell.
     virtual bool ReducesMotion() const = 0;
+
+    /// Whether the carets of text fields blink; true where the desktop does not tell.
+    virtual bool BlinksCaret() const = 0;
 };
 
 } // namespace phial

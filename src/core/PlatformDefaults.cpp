@@ -57,6 +57,7 @@ public:
     std::int32_t Height() const override { return 0; }
     std::optional<std::int32_t> TextHeight() const override { return std::nullopt; }
     bool ReducesMotion() const override { return false; }
+    bool BlinksCaret() const override { return true; }
 };
 
 class NoCursors : public CoreCursors

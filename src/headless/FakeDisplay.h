@@ -5,7 +5,8 @@
 namespace phial::headless
 {
 
-/// A display of 1024 by 768 pixels with small fonts, all motion, and a pointer that a test moves.
+/// A display of 1024 by 768 pixels with small fonts, all motion, blinking carets, and a pointer that a test
+/// moves.
 class FakeDisplay : public CoreDisplay
 {
 public:
@@ -17,6 +18,7 @@ public:
     /// From now on the desktop does not tell where the pointer is, or tells it again.
     void tellsCursor(bool value) { tellsCursor_ = value; }
     void reducesMotion(bool value) { reducesMotion_ = value; }
+    void blinksCaret(bool value) { blinksCaret_ = value; }
     void resize(std::int32_t width, std::int32_t height)
     {
         width_ = width;
@@ -32,12 +34,14 @@ public:
     std::int32_t Height() const override { return height_; }
     std::optional<std::int32_t> TextHeight() const override { return textHeight_; }
     bool ReducesMotion() const override { return reducesMotion_; }
+    bool BlinksCaret() const override { return blinksCaret_; }
 
 private:
     std::int32_t cursorX_ = 0;
     std::int32_t cursorY_ = 0;
     bool tellsCursor_ = true;
     bool reducesMotion_ = false;
+    bool blinksCaret_ = true;
     std::int32_t width_ = 1024;
     std::int32_t height_ = 768;
     std::optional<std::int32_t> textHeight_ = 16;

@@ -19,6 +19,7 @@
 #include <QImageReader>
 #include <QScreen>
 #include <QStyle>
+#include <QStyleHints>
 #include <QUrl>
 #include <QWidget>
 
@@ -109,6 +110,11 @@ std::optional<std::int32_t> DesktopDisplay::TextHeight() const
 bool DesktopDisplay::ReducesMotion() const
 {
     return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
+}
+
+bool DesktopDisplay::BlinksCaret() const
+{
+    return QGuiApplication::styleHints()->cursorFlashTime() > 0;
 }
 
 std::int32_t textHeightOf(double points, double dotsPerInch)

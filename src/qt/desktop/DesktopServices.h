@@ -25,6 +25,7 @@ public:
     std::optional<std::int32_t> TextHeight() const override;
     /// By the style, which has no time for animations where the user wants none.
     bool ReducesMotion() const override;
+    bool BlinksCaret() const override;
 };
 
 /// What CoreDisplay::TextHeight gives for text of that size. The largest text with which desktops come, 11
