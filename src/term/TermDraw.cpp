@@ -58,7 +58,14 @@ class TermPainter
 {
 public:
     TermPainter(DrawDevice& device, StringView term, std::int32_t caret)
-        : device_(device), term_(term), brackets_(term), signs_(device, term), caret_(caret)
+        : device_(device), term_(term), brackets_(term), signs_(device, term, true), caret_(caret)
+    {
+    }
+
+    /// Draws nothing: notes all places of the caret.
+    TermPainter(DrawDevice& device, StringView term, std::vector<TermCaretPlace>& rPlaces)
+        : device_(device), term_(term), brackets_(term), signs_(device, term, false), caret_(NoCaret),
+          places_(&rPlaces)
     {
     }
 
@@ -114,9 +121,7 @@ private:
                       .base = static_cast<double>(toWhole(startY)),
                       .anchor = startX};
         device_.CurrentX(startX);
-        if (drawing && isWholeTerm() && caret_ == 0) {
-            drawCaret();
-        }
+        placeCaret(frame);
     }
 
     bool startsWithCoefficient(TermRange part) const
@@ -131,7 +136,7 @@ private:
     void close(Frame& frame)
     {
         if (frame.walk.stroke) {
-            device_.Line(frame.walk.stroke->x, frame.walk.stroke->y, device_.CurrentX(), device_.CurrentY());
+            drawLine(*frame.walk.stroke, {device_.CurrentX(), device_.CurrentY()});
         }
         device_.FontSize(frame.line.fontSize);
         device_.ForeColor(frame.saved.foreColor);
@@ -190,15 +195,31 @@ private:
             return;
         }
         const double endX = fraction.x + std::max(*fraction.numeratorWidth, partWidth);
-        device_.Line(fraction.x, middle, endX, middle);
+        drawLine({fraction.x, middle}, {endX, middle});
         frame.walk.position = fraction.parts.next;
         placeCaret(frame);
     }
 
+    /// The current point moves to the end of the line.
+    void drawLine(PixelPoint from, PixelPoint to)
+    {
+        if (places_) {
+            device_.CurrentX(to.x);
+            device_.CurrentY(to.y);
+        } else {
+            device_.Line(from.x, from.y, to.x, to.y);
+        }
+    }
+
     void placeCaret(const Frame& frame)
     {
-        if (frame.walk.drawing && isWholeTerm() && caret_ > 0 &&
-            static_cast<std::size_t>(caret_) == frame.walk.position) {
+        if (!frame.walk.drawing || !isWholeTerm()) {
+            return;
+        }
+        const auto index = static_cast<std::int32_t>(frame.walk.position);
+        if (places_) {
+            places_->push_back({index, toWhole(device_.CurrentX())});
+        } else if (caret_ == index) {
             drawCaret();
         }
     }
@@ -220,6 +241,7 @@ private:
     TermBrackets brackets_;
     TermSigns signs_;
     std::int32_t caret_;
+    std::vector<TermCaretPlace>* places_ = nullptr; // null while drawing
     std::int32_t width_ = 0;
     std::vector<Frame> frames_;
 };
@@ -242,6 +264,16 @@ std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX, st
                       TEXTALIGN pAlign)
 {
     return TermPainter(pDevice, pText, NoCaret).draw(pX, pY, pAlign);
+}
+
+std::vector<TermCaretPlace> termCaretPlaces(DrawDevice& device, StringView term, std::int32_t x,
+                                            std::int32_t y, TEXTALIGN align)
+{
+    const double currentX = device.CurrentX();
+    std::vector<TermCaretPlace> places;
+    TermPainter(device, term, places).draw(x, y, align);
+    device.CurrentX(currentX);
+    return places;
 }
 
 } // namespace phial

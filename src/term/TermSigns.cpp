@@ -80,10 +80,9 @@ char16_t TermSigns::neighbour(const TermWalk& walk, const TermLine& line, std::p
     return inside ? term_[static_cast<std::size_t>(place)] : End;
 }
 
-void TermSigns::put(const TermWalk& walk, char16_t c)
+void TermSigns::put(const TermWalk& walk, StringView text)
 {
-    const StringView text(&c, 1);
-    if (walk.drawing) {
+    if (walk.drawing && isSeen_) {
         device_.Print(text);
     } else {
         device_.CurrentX(device_.CurrentX() + device_.TextWidth(text));
@@ -199,11 +198,13 @@ std::size_t TermSigns::drawIndexed(TermWalk& walk, const TermLine& line, char16_
         device_.FontSize(IndexSize * line.fontSize);
         device_.CurrentY(walk.base + static_cast<int>(walk.mode) * IndexShift * line.height);
     }
-    put(walk, c);
+    const char16_t next = neighbour(walk, line, 1);
+    const bool isPair = isHighSurrogate(c) && isLowSurrogate(next);
+    put(walk, term_.substr(walk.position, isPair ? 2 : 1));
     if (walk.mode == TermLevel::Normal) {
         walk.anchor = device_.CurrentX();
     }
-    return 1;
+    return isPair ? 2 : 1;
 }
 
 } // namespace phial

@@ -38,7 +38,11 @@ struct TermLine {
 class TermSigns
 {
 public:
-    TermSigns(DrawDevice& device, StringView term) : device_(device), term_(term) {}
+    /// `isSeen` false: the drawing walk, too, only moves the current point.
+    TermSigns(DrawDevice& device, StringView term, bool isSeen)
+        : device_(device), term_(term), isSeen_(isSeen)
+    {
+    }
 
     /// Writes, or measures, the character at the walk's position by the first rule that fits it. The device
     /// has the line's font, and its current point is in the line. Gives the number of characters used.
@@ -46,7 +50,8 @@ public:
 
 private:
     char16_t neighbour(const TermWalk& walk, const TermLine& line, std::ptrdiff_t offset) const;
-    void put(const TermWalk& walk, char16_t c);
+    void put(const TermWalk& walk, StringView text);
+    void put(const TermWalk& walk, char16_t c) { put(walk, StringView(&c, 1)); }
     std::size_t printPlain(TermWalk& walk, char16_t c);
     std::size_t jumpToAnchor(TermWalk& walk, TermLevel mode);
     std::size_t startStroke(TermWalk& walk);
@@ -60,6 +65,7 @@ private:
 
     DrawDevice& device_;
     StringView term_;
+    bool isSeen_;
 };
 
 } // namespace phial
