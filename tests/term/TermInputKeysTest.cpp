@@ -1,0 +1,257 @@
+#include "term/TermField.h"
+#include "visual/VisualHost.h"
+
+namespace phial::test
+{
+namespace
+{
+
+class TermInputKeys : public TermFieldTest
+{
+protected:
+    void type(StringView notation) { headless::type(*form, notation); }
+};
+
+TEST_F(TermInputKeys, TypesAtTheCaret)
+{
+    edit(u"", 0);
+    type(u"SO4{^}2-");
+    EXPECT_EQ(shown(), u"SO4^2-|");
+    EXPECT_EQ(log, std::vector<std::string>(6, "changed"));
+    type(u"{left 3}x");
+    EXPECT_EQ(shown(), u"SO4x|^2-");
+}
+
+TEST_F(TermInputKeys, SignsAreTypedAndAreNoKeysForMoving)
+{
+    edit(u"", 0);
+    const StringView signs = u"#$%&'()!\".,-+*/";
+    for (const char16_t sign : signs) {
+        headless::strike(*form, {sign});
+    }
+    EXPECT_EQ(field->Term(), signs);
+    headless::strike(*form, {u'{'});
+    EXPECT_EQ(field->Term().back(), u'{');
+}
+
+TEST_F(TermInputKeys, BackspaceTakesTheCharacterBefore)
+{
+    edit(u"H2O", 2);
+    type(u"{bs}");
+    EXPECT_EQ(shown(), u"H|O");
+    type(u"{bs}");
+    EXPECT_EQ(shown(), u"|O");
+    EXPECT_THAT(log, ElementsAre("changed", "changed"));
+    type(u"{bs}");
+    EXPECT_EQ(shown(), u"|O");
+    EXPECT_EQ(log.size(), 2U) << "nothing has changed";
+}
+
+TEST_F(TermInputKeys, DeleteTakesTheCharacterBehind)
+{
+    edit(u"H2O", 1);
+    type(u"{del}");
+    EXPECT_EQ(shown(), u"H|O");
+    type(u"{del}");
+    EXPECT_EQ(shown(), u"H|");
+    EXPECT_THAT(log, ElementsAre("changed", "changed"));
+    type(u"{del}");
+    EXPECT_EQ(log.size(), 2U) << "nothing has changed";
+}
+
+TEST_F(TermInputKeys, ArrowsHomeAndEndMoveTheCaretAsFarAsItGoes)
+{
+    edit(u"H2O", 1);
+    type(u"{left}");
+    EXPECT_EQ(shown(), u"|H2O");
+    type(u"{left}");
+    EXPECT_EQ(shown(), u"|H2O");
+    type(u"{end}");
+    EXPECT_EQ(shown(), u"H2O|");
+    type(u"{right}");
+    EXPECT_EQ(shown(), u"H2O|");
+    type(u"{home}");
+    EXPECT_EQ(shown(), u"|H2O");
+    type(u"{right}");
+    EXPECT_EQ(shown(), u"H|2O");
+    EXPECT_THAT(log, IsEmpty()) << "nothing has changed";
+}
+
+TEST_F(TermInputKeys, TheCaretIsHeldToAShorterTerm)
+{
+    edit(u"C6H12O6", 7);
+    field->Term(u"CO");
+    type(u"{bs}");
+    EXPECT_EQ(shown(), u"C|");
+}
+
+TEST_F(TermInputKeys, APairIsOneCharacter)
+{
+    edit(u"", 0);
+    headless::commit(*form, u"\U0001F600");
+    EXPECT_EQ(field->Term(), u"\U0001F600");
+    EXPECT_THAT(log, ElementsAre("changed")) << "once, and not for its first half";
+    type(u"a{left 2}");
+    EXPECT_EQ(shown(), u"|\U0001F600a");
+    type(u"{del}");
+    EXPECT_EQ(shown(), u"|a");
+}
+
+TEST_F(TermInputKeys, ALockedFieldTakesNoKey)
+{
+    edit(u"H2O", 1);
+    field->LOCKED(true);
+    type(u"x{bs}{del}{left}{right}{home}{end}{enter}{esc}^v^x^z^y");
+    EXPECT_EQ(shown(), u"H|2O");
+    EXPECT_THAT(log, IsEmpty());
+    field->LOCKED(false);
+    type(u"x");
+    EXPECT_EQ(shown(), u"Hx|2O");
+}
+
+TEST_F(TermInputKeys, ReturnAndEscapeAreToldWhenTheyComeUp)
+{
+    edit(u"H2O", 3);
+    headless::press(*form, {0, Key::Return, 0});
+    EXPECT_THAT(log, IsEmpty());
+    headless::letGo(*form, {0, Key::Return, 0});
+    EXPECT_THAT(log, ElementsAre("enter"));
+    type(u"{esc}");
+    EXPECT_THAT(log, ElementsAre("enter", "cancel"));
+    EXPECT_EQ(field->Term(), u"H2O");
+    EXPECT_TRUE(field->frame().hasFocus());
+}
+
+TEST_F(TermInputKeys, AKeyThatWentDownElsewhereIsNotTold)
+{
+    edit(u"H2O", 3);
+    headless::letGo(*form, {0, Key::Return, 0});
+    headless::letGo(*form, {0, Key::Escape, 0});
+    EXPECT_THAT(log, IsEmpty());
+    headless::press(*form, {0, Key::Return, 0});
+    headless::letGo(*form, {0, Key::Escape, 0});
+    EXPECT_THAT(log, IsEmpty());
+    other->SetFocus();
+    field->SetFocus();
+    headless::letGo(*form, {0, Key::Return, 0});
+    EXPECT_THAT(log, IsEmpty()) << "the focus has been elsewhere since";
+    KeyEvent held{13, 0, true};
+    field->keyDown(held);
+    KeyEvent up{13, 0};
+    field->keyUp(up);
+    EXPECT_THAT(log, IsEmpty()) << "held since before";
+}
+
+TEST_F(TermInputKeys, ReturnThatWentDownBeforeTheLockIsNotTold)
+{
+    edit(u"H2O", 3);
+    headless::press(*form, {0, Key::Return, 0});
+    field->LOCKED(true);
+    headless::letGo(*form, {0, Key::Return, 0});
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(TermInputKeys, ADefaultButtonIsPressedAsWell)
+{
+    const auto button = form->add<ctl_Button>(u"but_OK");
+    connections += button->CLICK.connect([this] { log.push_back("pressed"); });
+    form->DefaultControl(button);
+    edit(u"H2O", 3);
+    type(u"{enter}");
+    EXPECT_THAT(log, ElementsAre("pressed", "enter"));
+}
+
+TEST_F(TermInputKeys, StepsAreUndoneAndDoneAgain)
+{
+    edit(u"H2O", 3);
+    type(u"2{home}x");
+    type(u"^z");
+    EXPECT_EQ(shown(), u"|H2O2");
+    type(u"^z");
+    EXPECT_EQ(shown(), u"H2O|");
+    type(u"^y");
+    EXPECT_EQ(shown(), u"H2O2|");
+    type(u"^+z");
+    EXPECT_EQ(shown(), u"x|H2O2");
+    EXPECT_EQ(log.size(), 6U) << "each of them is a change";
+    type(u"^y");
+    EXPECT_EQ(log.size(), 6U);
+}
+
+TEST_F(TermInputKeys, WhatTheProgramSetsIsNotUndone)
+{
+    edit(u"H2O", 3);
+    type(u"2");
+    field->Term(u"NaCl");
+    type(u"^z");
+    EXPECT_EQ(field->Term(), u"NaCl");
+}
+
+TEST_F(TermInputKeys, TheWholeTermIsCutAndUndone)
+{
+    edit(u"NaCl", 2);
+    type(u"^x");
+    EXPECT_EQ(field->Term(), u"");
+    EXPECT_EQ(visualHost().clipboardText(), u"NaCl");
+    EXPECT_THAT(log, ElementsAre("changed"));
+    type(u"^x");
+    EXPECT_EQ(visualHost().clipboardText(), u"NaCl") << "nothing is no term to copy";
+    EXPECT_EQ(log.size(), 1U);
+    type(u"^z");
+    EXPECT_EQ(shown(), u"Na|Cl");
+}
+
+TEST_F(TermInputKeys, PastesAtTheCaret)
+{
+    visualHost().clipboardText(u"OH");
+    edit(u"Na", 2);
+    type(u"^v");
+    EXPECT_EQ(shown(), u"NaOH|");
+    EXPECT_THAT(log, ElementsAre("changed"));
+    visualHost().clipboardText(u"");
+    type(u"^v");
+    EXPECT_EQ(log.size(), 1U);
+}
+
+TEST_F(TermInputKeys, ALockedFieldCanBeCopied)
+{
+    edit(u"NaCl", 2);
+    field->LOCKED(true);
+    type(u"^c");
+    EXPECT_EQ(visualHost().clipboardText(), u"NaCl");
+    EXPECT_EQ(shown(), u"Na|Cl");
+}
+
+TEST_F(TermInputKeys, OtherCommandsDoNothing)
+{
+    edit(u"NaCl", 2);
+    type(u"^a%c+^c");
+    EXPECT_EQ(shown(), u"Na|Cl");
+    EXPECT_EQ(visualHost().clipboardText(), u"");
+    EXPECT_THAT(log, IsEmpty());
+    headless::strike(*form, {u'z', Key::None, ShiftMask::Control | ShiftMask::Alt});
+    EXPECT_EQ(shown(), u"Naz|Cl") << "AltGr types";
+}
+
+TEST_F(TermInputKeys, AHandlerMayTakeTheFieldAway)
+{
+    edit(u"", 0);
+    connections += field->CHANGED.connect([this] {
+        form->remove(*field);
+        field.reset();
+    });
+    type(u"a");
+    EXPECT_EQ(field, nullptr);
+}
+
+TEST_F(TermInputKeys, AHandlerMayCloseTheForm)
+{
+    edit(u"", 0);
+    connections += field->ENTER.connect([this] { form->Unload(); });
+    type(u"{enter}");
+    EXPECT_FALSE(form->Visible());
+    EXPECT_THAT(log, ElementsAre("enter"));
+}
+
+} // namespace
+} // namespace phial::test
