@@ -76,10 +76,12 @@ struct ctl_Keys::Properties {
     };
 };
 
-ctl_Keys::ctl_Keys() : frame_(*this), surface_(*this), timer_(u"tmr_Hold", HoldInterval)
+ctl_Keys::ctl_Keys()
+    : frame_(*this), surface_(*this), timer_(u"tmr_Hold", HoldInterval), scanTimer_(u"tmr_Scan")
 {
     frame_.takesTouch(true);
-    holding_ = timer_.Tick.connect([this] { hold(); });
+    ticking_ += timer_.Tick.connect([this] { hold(); });
+    ticking_ += scanTimer_.Tick.connect([this] { stepScan(); });
     rows::start<Properties>(*this);
     layout(NoKeys);
 }
@@ -97,6 +99,7 @@ void ctl_Keys::layout(const KeyLayout& value)
     closeStrip();
     place();
     isPainted_ = false;
+    runScan();
     surface_.invalidate();
 }
 
@@ -170,6 +173,10 @@ void ctl_Keys::pointerDown(const PointerEvent& event)
     }
     const auto self = weak_from_this().lock();
     PRESSED.emit();
+    if (scan_) {
+        pressSwitch();
+        return;
+    }
     const auto key = keyAt({event.X, event.Y});
     if (!key) {
         return;
@@ -305,6 +312,12 @@ void ctl_Keys::chooseVariant(std::size_t at)
 void ctl_Keys::previewKey(KeyEvent& event)
 {
     if (!strip_) {
+        if (scan_ && (event.is(Key::Return) || event.is(Key::Space))) {
+            event.KeyCode = 0;
+            if (!event.isRepeat) {
+                pressSwitch();
+            }
+        }
         return;
     }
     const bool isStep = event.is(Key::Left) || event.is(Key::Right);
@@ -321,6 +334,76 @@ void ctl_Keys::previewKey(KeyEvent& event)
     if (isStep || isChoice || event.is(Key::Escape)) {
         event.KeyCode = 0;
     }
+}
+
+// The scan.
+
+void ctl_Keys::scanInterval(std::int32_t value)
+{
+    scanTimer_.Interval(value);
+    runScan();
+    surface_.invalidate();
+}
+
+/// From its beginning, as long as the keys are seen.
+void ctl_Keys::runScan()
+{
+    const bool isRunning = isShown_ && scanTimer_.Interval() > 0;
+    scan_ = isRunning ? std::optional<KeyScan>(board_->keys()) : std::nullopt;
+    scanTimer_.Enabled(isRunning);
+}
+
+void ctl_Keys::shown()
+{
+    isShown_ = true;
+    runScan();
+}
+
+void ctl_Keys::hidden()
+{
+    isShown_ = false;
+    runScan();
+    cancelPresses();
+}
+
+void ctl_Keys::stepScan()
+{
+    if (scan_ && !strip_) {
+        scan_->step();
+        surface_.invalidate();
+    }
+}
+
+/// What lights up next has its whole time.
+void ctl_Keys::pressSwitch()
+{
+    const auto self = weak_from_this().lock();
+    const auto index = scan_->press();
+    scanTimer_.Enabled(false);
+    scanTimer_.Enabled(true);
+    surface_.invalidate();
+    if (index) {
+        board_->press(*index);
+        strike(*index);
+    }
+}
+
+/// A frame around what the switch would choose.
+void ctl_Keys::paintLight()
+{
+    constexpr double Width = 4;
+    const auto lit = scan_ ? scan_->lit() : std::vector<std::int32_t>();
+    if (lit.empty()) {
+        return;
+    }
+    const PixelRectangle first = areaOf(lit.front());
+    const PixelRectangle last = areaOf(lit.back());
+    const double inset = Width / 2;
+    DrawDevice& device = surface_.device();
+    device.DrawWidth(Width);
+    device.Line(first.left + inset, first.top + inset, last.right() - 1 - inset, first.bottom() - 1 - inset,
+                Palette::FocusRing, LineShape::Box);
+    device.DrawWidth(1);
 }
 
 // What is seen and told.
@@ -345,6 +428,7 @@ void ctl_Keys::paint()
         take(looks_[at], keys[at]);
         painter_.paint(device, looks_[at]);
     }
+    paintLight();
     paintStrip();
     isPainted_ = true;
 }
@@ -373,7 +457,7 @@ void ctl_Keys::refresh()
 /// Keys whose boxes meet an erased one are painted again with it.
 void ctl_Keys::repaint(const std::vector<std::size_t>& stale)
 {
-    if (strip_) {
+    if (strip_ || scan_) {
         surface_.invalidate();
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "dialogs/KeyHand.h"
 #include "dialogs/KeyPainter.h"
+#include "dialogs/KeyScan.h"
 #include "dialogs/VariantStrip.h"
 #include "visual/PaintSurface.h"
 #include "visual/Timer.h"
@@ -20,6 +21,9 @@ namespace phial
 /// A key that is held shows its variants, if it has some: the finger slides onto one or a further tap takes
 /// it, and so do arrows and Enter of a keyboard on the desk. Held keys that move the caret or delete are
 /// struck again and again.
+///
+/// With a scan, rows and then keys light up by themselves, and a single switch strikes them: a press anywhere
+/// on the keys, or Space or Enter of the desk.
 class ctl_Keys final : public UserControl
 {
 public:
@@ -40,6 +44,11 @@ public:
     bool offersVariants() const { return offersVariants_; }
     void offersVariants(bool value) { offersVariants_ = value; }
 
+    /// How long each row or key lights up, in milliseconds; 0 without a scan, as at first. A negative one
+    /// raises 5.
+    std::int32_t scanInterval() const { return scanTimer_.Interval(); }
+    void scanInterval(std::int32_t value);
+
     /// Something has gone down, on a key or between keys; it has gone up again, or cannot become a drag any
     /// more.
     Event<> PRESSED;
@@ -54,7 +63,8 @@ public:
     /// Paints what has changed: after names, states or the language were changed from outside.
     void refresh();
     /// A key of the keyboard on the desk, before it goes to the field. While variants are shown the arrows,
-    /// Enter and Escape are theirs: such a key has the code 0 afterwards.
+    /// Enter and Escape are theirs, and with a scan Space and Enter are the switch: such a key has the code 0
+    /// afterwards.
     void previewKey(KeyEvent& event);
     bool showsVariants() const { return strip_.has_value(); }
 
@@ -68,7 +78,8 @@ public:
     void pointerDown(const PointerEvent& event) override;
     void pointerMove(const PointerEvent& event) override;
     void pointerUp(const PointerEvent& event) override;
-    void hidden() override { cancelPresses(); }
+    void shown() override;
+    void hidden() override;
     void resized() override;
     void paint() override;
 
@@ -88,6 +99,10 @@ private:
     bool pressStrip(const PointerEvent& event);
     void repaint(const std::vector<std::size_t>& stale);
     void paintStrip();
+    void paintLight();
+    void runScan();
+    void stepScan();
+    void pressSwitch();
 
     ControlFrame frame_;
     PaintSurface surface_;
@@ -102,7 +117,10 @@ private:
     std::optional<std::int32_t> stripFinger_; ///< the one that has opened it, or presses it
     bool offersVariants_ = true;
     Timer timer_;
-    Connection holding_;
+    std::optional<KeyScan> scan_;
+    Timer scanTimer_;
+    bool isShown_ = false;
+    Connections ticking_;
 };
 
 } // namespace phial

@@ -343,4 +343,65 @@ TEST_F(KeysTest, WhatIsHiddenStrikesNothing)
     EXPECT_THAT(struck(), IsEmpty());
 }
 
+TEST_F(KeysTest, AScanStrikesKeysWithASingleSwitch)
+{
+    constexpr double Step = 0.8;
+    keys->scanInterval(800);
+    outside.advance(2 * Step);                         // the row of "a"
+    touch.press(1, *keys, middle(test::keys::Escape)); // anywhere
+    touch.release(1);
+    outside.advance(Step); // behind "www."
+    EXPECT_EQ(preview(Key::Space).KeyCode, 0);
+    EXPECT_THAT(struck(), ElementsAre("a"));
+}
+
+TEST_F(KeysTest, TheSwitchDoesNotRepeat)
+{
+    keys->scanInterval(800);
+    KeyEvent held{static_cast<std::int32_t>(Key::Return), 0, true};
+    keys->previewKey(held);
+    keys->previewKey(held);
+    EXPECT_EQ(held.KeyCode, 0);
+    EXPECT_THAT(struck(), IsEmpty());
+}
+
+TEST_F(KeysTest, WhatLightsUpHasAFrame)
+{
+    keys->scanInterval(800);
+    EXPECT_NE(drawn().find("line #1C2836 w4"), std::string::npos) << drawn();
+    outside.advance(0.8);
+    const PixelRectangle second = keys->areaOf(13);
+    EXPECT_NE(drawn().find("box " + std::to_string(static_cast<int>(second.left) + 2) + "," +
+                           std::to_string(static_cast<int>(second.top) + 2)),
+              std::string::npos)
+        << drawn();
+}
+
+TEST_F(KeysTest, AModifierIsStruckByTheSwitchToo)
+{
+    keys->scanInterval(800);
+    outside.advance(3 * 0.8);
+    preview(Key::Space);
+    preview(Key::Space);
+    EXPECT_EQ(keys->board().state(Modifier::Shift), KeyState::Once);
+}
+
+TEST_F(KeysTest, AScanEndsWithItsInterval)
+{
+    keys->scanInterval(800);
+    keys->scanInterval(0);
+    EXPECT_NE(preview(Key::Space).KeyCode, 0);
+    EXPECT_EQ(drawn().find(" w4"), std::string::npos);
+    EXPECT_RAISES(keys->scanInterval(-1), InvalidArgument);
+}
+
+TEST_F(KeysTest, KeysThatAreNotSeenAreNotScanned)
+{
+    keys->scanInterval(800);
+    keys->frame().Visible(false);
+    EXPECT_NE(preview(Key::Space).KeyCode, 0);
+    keys->frame().Visible(true);
+    EXPECT_EQ(preview(Key::Space).KeyCode, 0);
+}
+
 } // namespace phial
