@@ -10,6 +10,7 @@
 #include "app/sys_Global.h"
 #include "core/CoreTheme.h"
 #include "core/SessionState.h"
+#include "dialogs/ScanChoice.h"
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryDesign.h"
 
@@ -37,6 +38,18 @@ constexpr auto ColourEntries = std::to_array<ColourEntry>({
     {phial::ColourSet::Light, u"&Hell|&Light"},
     {phial::ColourSet::Dark, u"&Dunkel|&Dark"},
     {phial::ColourSet::HighContrast, u"Hoher &Kontrast|High &contrast"},
+});
+
+/// The entries of the menu for single switches, in the order of its indices.
+struct ScanEntry {
+    std::int32_t interval; ///< milliseconds; 0 for none
+    StringView both;
+};
+constexpr auto ScanEntries = std::to_array<ScanEntry>({
+    {0, u"&Tasten antippen|&Tap the keys"},
+    {2500, u"Einzelschalter, &langsam|Single switch, &slow"},
+    {1500, u"Einzelschalter, &mittel|Single switch, &medium"},
+    {800, u"Einzelschalter, &schnell|Single switch, &fast"},
 });
 
 /// The entries of the menu of languages, in the order of its indices.
@@ -85,6 +98,10 @@ void frm_Gallery::buildMenu()
     for (std::size_t i = 0; i < ColourEntries.size(); ++i) {
         colours->add(u"men_Set", phial::String(ColourEntries[i].both), static_cast<std::int32_t>(i));
     }
+    const auto keyboards = form_->menu().add(u"men_Keyboards", u"&Tastaturen|&Keyboards");
+    for (std::size_t i = 0; i < ScanEntries.size(); ++i) {
+        keyboards->add(u"men_Scan", phial::String(ScanEntries[i].both), static_cast<std::int32_t>(i));
+    }
     form_->menu().add(u"men_Help", u"&Hilfe|&Help")->add(u"men_Info", u"&Info|&About");
     const auto& recent = phial::QVAPP()->MRU();
     recent->DEVICE(form_.pointer());
@@ -120,6 +137,10 @@ void frm_Gallery::connect()
         phial::chooseColours(ColourEntries[static_cast<std::size_t>(choice.Index())].set);
         markColours();
     });
+    form_.on(menu.entry(u"men_Keyboards")->Chosen, [this](phial::Menu& choice) {
+        phial::chooseScan(ScanEntries[static_cast<std::size_t>(choice.Index())].interval);
+        markScan();
+    });
     form_.on(menu.entry(u"men_Language")->Chosen, [](phial::Menu& choice) {
         phial::LNG()->CURRENT(Languages[static_cast<std::size_t>(choice.Index())]);
     });
@@ -135,6 +156,7 @@ void frm_Gallery::TRANSLATE()
             ->Checked(phial::LNG()->EFFECTIVE() == Languages[i]);
     }
     markColours();
+    markScan();
     listExhibits();
     // What opens a box, plays or prints does not do so again because of the language.
     const Sample& state = exhibits_[exhibit_].samples[state_];
@@ -147,6 +169,16 @@ void frm_Gallery::markColours()
     for (std::size_t i = 0; i < ColourEntries.size(); ++i) {
         colours->entry(u"men_Set", static_cast<std::int32_t>(i))
             ->Checked(phial::coreTheme().chosenColours() == ColourEntries[i].set);
+    }
+}
+
+void frm_Gallery::markScan()
+{
+    const auto keyboards = form_->menu().entry(u"men_Keyboards");
+    const std::int32_t chosen = phial::rememberedScan();
+    for (std::size_t i = 0; i < ScanEntries.size(); ++i) {
+        keyboards->entry(u"men_Scan", static_cast<std::int32_t>(i))
+            ->Checked(chosen == ScanEntries[i].interval);
     }
 }
 

@@ -39,6 +39,7 @@ private:
     void connect();
 
     void markColours();
+    void markScan();
     void listExhibits();
     void listChosen();
     void remember(std::size_t exhibit);

@@ -4,6 +4,7 @@
 #include "app/sys_Global.h"
 #include "core/Colour.h"
 #include "core/NumberText.h"
+#include "dialogs/ScanChoice.h"
 #include "gallery/GalleryTest.h"
 #include "results/ctl_Mark.h"
 #include "visual/Label.h"
@@ -212,6 +213,17 @@ TEST_F(GalleryTest, ChangesTheLanguageFromTheMenu)
     EXPECT_EQ(get<phial::ctl_Button>(u"but_Set")->Caption(), u"Set");
     EXPECT_TRUE(form().menu().entry(u"men_Language")->entry(u"men_Choice", 1)->Checked());
     EXPECT_FALSE(form().menu().entry(u"men_Language")->entry(u"men_Choice", 0)->Checked());
+}
+
+TEST_F(GalleryTest, TheMenuChoosesTheSpeedOfASingleSwitch)
+{
+    open();
+    const auto keyboards = form().menu().entry(u"men_Keyboards");
+    EXPECT_TRUE(keyboards->entry(u"men_Scan", 0)->Checked());
+    keyboards->entry(u"men_Scan", 2)->inputClick();
+    EXPECT_EQ(phial::rememberedScan(), 1500);
+    EXPECT_TRUE(keyboards->entry(u"men_Scan", 2)->Checked());
+    EXPECT_FALSE(keyboards->entry(u"men_Scan", 0)->Checked());
 }
 
 TEST_F(GalleryTest, TheFileMenuLeadsBackToWhatWasChosenLast)
