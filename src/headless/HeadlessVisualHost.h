@@ -66,6 +66,8 @@ public:
     void pixelRatio(double value) { pixelRatio_ = value; }
     /// Further screens of the desktop, beside the display's own, which begins at (0, 0).
     void addScreen(const PixelRectangle& screen) { otherScreens_.push_back(screen); }
+    /// On all screens; as 96 pixels to an inch at first.
+    void millimetresPerPixel(double value) { millimetresPerPixel_ = value; }
     const std::vector<PrintedDocument>& printed() const { return printed_; }
     /// From now on there is no printer, or one again.
     void hasPrinter(bool value) { hasPrinter_ = value; }
@@ -80,6 +82,7 @@ public:
     std::unique_ptr<FormPeer> openWindow(Form& form, bool modal) override;
     void runModal(Form& form) override;
     std::vector<PixelRectangle> screens() const override;
+    double millimetresPerPixel(PixelPoint /*point*/) const override { return millimetresPerPixel_; }
     void screenPointerChanged(MousePointer pointer) override { screenPointer_ = pointer; }
     void sendKeys(std::span<const KeyStroke> keys, const std::shared_ptr<Form>& form) override;
     void commitComposition() override;
@@ -106,6 +109,7 @@ private:
     std::vector<PrintedDocument> printed_;
     std::vector<PixelRectangle> otherScreens_;
     double pixelRatio_ = 1;
+    double millimetresPerPixel_ = 25.4 / 96;
     bool hasPrinter_ = true;
     MousePointer screenPointer_ = MousePointer::Default;
     String clipboard_;

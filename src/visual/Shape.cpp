@@ -1,10 +1,9 @@
 #include "visual/Shape.h"
 
 #include "visual/PropertyRows.h"
+#include "visual/RoundedOutline.h"
 
 #include <algorithm>
-#include <cmath>
-#include <vector>
 
 namespace phial
 {
@@ -12,7 +11,6 @@ namespace phial
 namespace
 {
 
-constexpr double Pi = 3.14159265358979;
 constexpr double LargestRadius = 12; // of rounded corners, in pixels
 
 /// The largest square in the middle of an area.
@@ -31,28 +29,6 @@ void paintOval(DrawDevice& device, const PixelRectangle& area, Colour border)
     }
     device.Circle(area.left + radiusX, area.top + radiusY, std::max(radiusX, radiusY), border, std::nullopt,
                   radiusY / radiusX);
-}
-
-/// The outline of a rounded box as points, corner by corner.
-std::vector<PixelPoint> roundedOutline(const PixelRectangle& area)
-{
-    const double right = area.right() - 1;
-    const double bottom = area.bottom() - 1;
-    const double radius = std::min({LargestRadius, area.width / 2, area.height / 2});
-    const PixelPoint centres[] = {{right - radius, area.top + radius},
-                                  {area.left + radius, area.top + radius},
-                                  {area.left + radius, bottom - radius},
-                                  {right - radius, bottom - radius}};
-    constexpr int Points = 8;
-    std::vector<PixelPoint> outline;
-    for (int corner = 0; corner < 4; ++corner) {
-        for (int i = 0; i <= Points; ++i) {
-            const double angle = (corner + static_cast<double>(i) / Points) * Pi / 2;
-            outline.push_back(
-                {centres[corner].x + radius * std::cos(angle), centres[corner].y - radius * std::sin(angle)});
-        }
-    }
-    return outline;
 }
 
 } // namespace
@@ -111,7 +87,7 @@ void Shape::paint()
         break;
     case ShapeKind::RoundedRectangle:
         device.ForeColor(border);
-        device.Polygon(roundedOutline(area));
+        device.Polygon(roundedOutline(area, LargestRadius));
         break;
     case ShapeKind::Rectangle:
     case ShapeKind::Square:

@@ -55,6 +55,9 @@ public:
     /// The screens, in pixels of the desktop that they make up; the one on which programs begin comes first.
     /// Empty without any.
     virtual std::vector<PixelRectangle> screens() const = 0;
+    /// How large a pixel is on the screen that shows the point, in millimetres; that of 96 to an inch where
+    /// none shows it and where the desktop does not tell it or tells what cannot be.
+    virtual double millimetresPerPixel(PixelPoint point) const = 0;
     /// The pointer has got another shape for all windows.
     virtual void screenPointerChanged(MousePointer pointer) = 0;
 

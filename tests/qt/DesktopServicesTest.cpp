@@ -1,9 +1,12 @@
 #include "qt/desktop/DesktopServices.h"
 
+#include "qt/desktop/PixelRatio.h"
+
 #include <QApplication>
 #include <QProxyStyle>
 
 #include <gtest/gtest.h>
+#include <limits>
 
 using namespace phial::qt;
 
@@ -54,6 +57,22 @@ TEST(DesktopDisplay, MotionIsReducedWhereTheStyleHasNoTimeForIt)
     QApplication::setStyle(new StillStyle);
     EXPECT_TRUE(display.ReducesMotion());
     QApplication::setStyle(before);
+}
+
+TEST(PixelSizes, AreWhatTheScreenTells)
+{
+    EXPECT_DOUBLE_EQ(millimetresPerPixel(96), 25.4 / 96);
+    EXPECT_DOUBLE_EQ(millimetresPerPixel(254), 0.1);
+    EXPECT_DOUBLE_EQ(millimetresPerPixel(60), 25.4 / 60);
+    EXPECT_DOUBLE_EQ(millimetresPerPixel(600), 25.4 / 600);
+}
+
+TEST(PixelSizes, AreTheUsualOnesWhereTheScreenTellsNonsense)
+{
+    for (const double dots : {0.0, -96.0, 59.9, 600.1, std::numeric_limits<double>::infinity(),
+                              std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_DOUBLE_EQ(millimetresPerPixel(dots), 25.4 / 96) << dots;
+    }
 }
 
 TEST(DesktopDisplay, ThePointerIsToldEverywhereButUnderWayland)

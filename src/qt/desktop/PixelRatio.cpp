@@ -12,6 +12,11 @@ namespace
 
 double fixedRatio = 0; // 0: the screens decide
 
+constexpr double MillimetresPerInch = 25.4;
+constexpr double FewestDots = 60;
+constexpr double MostDots = 600;
+constexpr double UsualDots = 96;
+
 } // namespace
 
 double paintRatio(const QPainter& painter)
@@ -26,6 +31,12 @@ double screenRatio()
     }
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen ? screen->devicePixelRatio() : 1;
+}
+
+double millimetresPerPixel(double dotsPerInch)
+{
+    const bool canBe = dotsPerInch >= FewestDots && dotsPerInch <= MostDots;
+    return MillimetresPerInch / (canBe ? dotsPerInch : UsualDots);
 }
 
 FixedPixelRatio::FixedPixelRatio(double ratio) : before_(fixedRatio)

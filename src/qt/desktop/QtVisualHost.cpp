@@ -193,6 +193,12 @@ std::vector<PixelRectangle> QtVisualHost::screens() const
     return all;
 }
 
+double QtVisualHost::millimetresPerPixel(PixelPoint point) const
+{
+    const QScreen* shown = QGuiApplication::screenAt(QPointF(point.x, point.y).toPoint());
+    return qt::millimetresPerPixel(shown ? shown->physicalDotsPerInch() : 0);
+}
+
 void QtVisualHost::screenPointerChanged(MousePointer pointer)
 {
     if (pointerSet_) {

@@ -30,6 +30,7 @@ public:
     std::unique_ptr<FormPeer> openWindow(Form& form, bool modal) override;
     void runModal(Form& form) override;
     std::vector<PixelRectangle> screens() const override;
+    double millimetresPerPixel(PixelPoint point) const override;
     void screenPointerChanged(MousePointer pointer) override;
     void sendKeys(std::span<const KeyStroke> keys, const std::shared_ptr<Form>& form) override;
     void commitComposition() override;
