@@ -114,7 +114,7 @@ PixelPoint openingPlace(const Opening& opening, PixelSize keyboard, const PixelR
     }
     const PixelPoint corner =
         opening.target ? besideTarget(*opening.target, keyboard, screen) : centredOn(opening.point, keyboard);
-    return keptOnScreen(corner, keyboard, screen);
+    return screen.isEmpty() ? corner : keptOnScreen(corner, keyboard, screen);
 }
 
 bool isDrag(PixelPoint from, PixelPoint to)

@@ -1,0 +1,331 @@
+#include "dialogs/KeyboardWindow.h"
+
+#include "app/Settings.h"
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+#include "core/Arithmetic.h"
+#include "core/CoreDisplay.h"
+#include "core/CoreRegistry.h"
+#include "core/CoreRoot.h"
+#include "core/CoreSystem.h"
+#include "core/CoreWindowOps.h"
+#include "core/SessionState.h"
+#include "dialogs/KeyboardGround.h"
+#include "dialogs/KeyboardPlace.h"
+#include "visual/VisualHost.h"
+#include "visual/ctl_Label.h"
+
+#include <cmath>
+#include <limits>
+
+namespace phial
+{
+
+namespace place = keyboard_place;
+
+namespace
+{
+
+constexpr std::int32_t DraggingInterval = 10; // milliseconds
+constexpr std::int32_t UnloadInterval = 100;
+constexpr double KeyPitch = 48; // pixels at scale 1
+constexpr double QuitBeyond = 100 / TwipsPerPixel;
+
+constexpr double Margin = 15;
+constexpr double HeadTop = 12;
+constexpr double HeadHeight = 48;
+constexpr ControlDesign::Rectangle Words{24, HeadTop, 196, HeadHeight};
+
+constexpr ControlDesign WindowControls[] = {
+    design<ctl_Label>(u"lab_Title", Words)
+        .font(12, FontWeight::Bold)
+        .ink(Palette::Ink)
+        .set(u"PlainText", true),
+    design<ctl_Label>(u"lab_Description", Words).font(12).ink(Palette::Ink).set(u"PlainText", true),
+    design<ctl_Button>(u"but_Close", {0, HeadTop, HeadHeight, HeadHeight}, u"✕")
+        .font(14)
+        .unfocusable()
+        .spoken(u"Abbrechen|Cancel"),
+    design<ctl_Button>(u"but_Enter", {0, HeadTop, 0, 0}, u"OK|OK").hidden().unfocusable().defaultButton(),
+    design<ctl_Button>(u"but_Quit", {0, HeadTop, HeadHeight, HeadHeight}, u"Abbrechen|Cancel")
+        .unfocusable()
+        .cancelButton(),
+};
+
+// Where the user has left the last keyboard.
+constexpr StringView LeftAtX = u"Config\\KeyboardPlace\\Left";
+constexpr StringView LeftAtY = u"Config\\KeyboardPlace\\Top";
+constexpr std::int32_t Nowhere = std::numeric_limits<std::int32_t>::min();
+
+std::optional<PixelPoint> placeLeft()
+{
+    const CoreRegistryRead& settings = coreRoot().CoreRegistry().CoreRegistryRead();
+    const auto read = [&](StringView name) {
+        return settings.ReadLong(SettingsHive::CurrentUser, settings::path(name), Nowhere);
+    };
+    const std::int32_t x = read(LeftAtX);
+    const std::int32_t y = read(LeftAtY);
+    return x == Nowhere || y == Nowhere ? std::nullopt
+                                        : std::optional(PixelPoint{double{1} * x, double{1} * y});
+}
+
+void keepPlace(PixelPoint corner)
+{
+    CoreRegistryWrite& settings = coreRoot().CoreRegistry().CoreRegistryWrite();
+    settings.WriteLong(SettingsHive::CurrentUser, settings::path(LeftAtX), toWhole(corner.x));
+    settings.WriteLong(SettingsHive::CurrentUser, settings::path(LeftAtY), toWhole(corner.y));
+}
+
+PixelPoint cornerOf(const Form& form)
+{
+    return {form.Left() / TwipsPerPixel, form.Top() / TwipsPerPixel};
+}
+
+PixelSize sizeOf(const Form& form)
+{
+    return {form.Width() / TwipsPerPixel, form.Height() / TwipsPerPixel};
+}
+
+PixelPoint middleOf(const PixelRectangle& area)
+{
+    return {area.left + area.width / 2, area.top + area.height / 2};
+}
+
+/// None where the desktop does not tell.
+std::optional<PixelPoint> pointer()
+{
+    const CoreDisplay& display = coreRoot().CoreDisplay();
+    if (!display.TellsCursor()) {
+        return std::nullopt;
+    }
+    return PixelPoint{double{1} * display.CursorX(), double{1} * display.CursorY()};
+}
+
+/// Empty for what has no window.
+PixelRectangle windowArea(WindowHandle window)
+{
+    const CoreWindowOps& windows = coreRoot().CoreSystem().CoreWindowOps();
+    const double left = windows.ScreenLeft(window);
+    const double top = windows.ScreenTop(window);
+    return {left, top, windows.ScreenRight(window) - left, windows.ScreenBottom(window) - top};
+}
+
+WindowHandle windowOf(const ObjectPtr& holder)
+{
+    const auto* form = dynamic_cast<const Form*>(holder.get());
+    const auto* control = dynamic_cast<const Control*>(holder.get());
+    return form ? form->hWnd() : control ? control->hWnd() : WindowHandle::None;
+}
+
+/// That of a control's own window, or else, as of a label that has none, its place on what holds it.
+PixelRectangle areaOnDesktop(const ControlFrame& frame)
+{
+    const PixelRectangle own = windowArea(frame.hWnd());
+    const PixelRectangle holder = own.isEmpty() ? windowArea(windowOf(frame.ContainerObject())) : own;
+    if (!own.isEmpty() || holder.isEmpty()) {
+        return own;
+    }
+    const auto form = frame.form();
+    const double zoom = form ? form->Zoom() : 1;
+    const PixelRectangle within = frame.pixelRectangle();
+    return {holder.left + within.left * zoom, holder.top + within.top * zoom, within.width * zoom,
+            within.height * zoom};
+}
+
+/// None for a control that is not to be seen.
+std::optional<PixelRectangle> areaSeen(const ObjectPtr& target)
+{
+    const auto* control = dynamic_cast<const Control*>(target.get());
+    if (!control) {
+        return std::nullopt;
+    }
+    const ControlFrame& frame = control->frame();
+    const bool isSeen = frame.form() ? frame.isSeen() : frame.Visible();
+    const PixelRectangle area = isSeen ? areaOnDesktop(frame) : PixelRectangle();
+    return area.isEmpty() ? std::nullopt : std::optional(area);
+}
+
+PixelRectangle scaled(const PixelRectangle& area, double scale)
+{
+    return {area.left * scale, area.top * scale, area.width * scale, area.height * scale};
+}
+
+/// A font of its own, since others may share the one that it has.
+void scaleFont(Object& control, double scale)
+{
+    const auto value = tryGet(control, u"Font");
+    if (const auto font = value ? std::dynamic_pointer_cast<Font>(value->object()) : nullptr) {
+        const FontPtr larger = font->clone();
+        larger->Size(font->Size() * scale);
+        trySet(control, u"Font", Variant(ObjectPtr(larger)));
+    }
+}
+
+} // namespace
+
+KeyboardWindow::KeyboardWindow(DesignedForm& form, Leaving leaving)
+    : form_(form), dragging_(std::make_shared<Timer>(u"tmr_Dragging", DraggingInterval)),
+      unload_(std::make_shared<Timer>(u"tmr_Unload", UnloadInterval))
+{
+    form_.add(WindowControls);
+    form_->addComponent(dragging_);
+    form_->addComponent(unload_);
+    const double width = form_->innerSize().width;
+    form_->control<ctl_Button>(u"but_Close")->Left(width - Margin - HeadHeight);
+    form_->control<ctl_Button>(u"but_Quit")->Left(width + QuitBeyond);
+    connect();
+    connectGround();
+    if (leaving == Leaving::Confirms) {
+        form_.on(form_->Deactivate, [this] { confirm(); });
+    }
+}
+
+void KeyboardWindow::connect()
+{
+    form_.press(u"but_Close", [this] { abort(); });
+    form_.press(u"but_Quit", [this] { abort(); });
+    form_.press(u"but_Enter", [this] { confirm(); });
+    form_.on(form_->Deactivate, [this] { release(); });
+    form_.on(dragging_->Tick, [this] { followPointer(); });
+    form_.on(unload_->Tick, [this] {
+        unload_->Enabled(false);
+        form_->Unload();
+    });
+    form_.on(coreTheme().COLOURSCHANGED, [this](ColourSet) {
+        if (form_->isLoaded()) {
+            paintGround();
+        }
+    });
+}
+
+/// What is no key: the plate itself and the words on it.
+void KeyboardWindow::connectGround()
+{
+    const auto draggedBy = [this](auto& part) {
+        form_.on(part.MouseDown, [this](const PointerEvent&) { press(); });
+        form_.on(part.MouseUp, [this](const PointerEvent&) { release(); });
+    };
+    draggedBy(*form_);
+    draggedBy(*form_->control<ctl_Label>(u"lab_Title"));
+    draggedBy(*form_->control<ctl_Label>(u"lab_Description"));
+}
+
+void KeyboardWindow::open()
+{
+    VisualHost& host = visualHost();
+    const auto opener = host.forms().ActiveForm();
+    const auto target = areaSeen(target_.target());
+    const PixelRectangle below = opener ? host.screen().of(*opener) : host.screen().first();
+    const PixelPoint point = pointer().value_or(middleOf(below));
+    const PixelRectangle screen = host.screen().at(target ? middleOf(*target) : point);
+    const place::Sight sight{screen, host.millimetresPerPixel(middleOf(screen)), opener ? opener->Zoom() : 1};
+    scaleTo(place::scaleFor({sizeOf(*form_), KeyPitch}, sight));
+    paintGround();
+    moveTo(place::openingPlace({target, point, placeLeft()}, sizeOf(*form_), screen));
+}
+
+/// A window with holes has no zoom, so all that stands on it grows by itself.
+void KeyboardWindow::scaleTo(double scale)
+{
+    scale_ = scale;
+    if (scale == 1) {
+        return;
+    }
+    const PixelSize size = form_->innerSize();
+    form_->innerSize({std::floor(size.width * scale), std::floor(size.height * scale)});
+    for (const ControlPtr& control : form_->container().controls()) {
+        control->frame().pixelRectangle(scaled(control->frame().pixelRectangle(), scale));
+        scaleFont(*control, scale);
+    }
+}
+
+void KeyboardWindow::paintGround()
+{
+    const PicturePtr ground = keyboardGround(form_->innerSize(), scale_);
+    form_->Picture(ground);
+    form_->translucency({.opacity = 255, .colourKey = std::nullopt, .mask = ground});
+}
+
+void KeyboardWindow::moveTo(PixelPoint corner)
+{
+    form_->Move(corner.x * TwipsPerPixel, corner.y * TwipsPerPixel);
+}
+
+String KeyboardWindow::question() const
+{
+    return title_.empty() ? LNG()->TRANSLATE(u"Bitte geben Sie den Wert ein:", u"Please enter the value:")
+                          : title_;
+}
+
+void KeyboardWindow::translate()
+{
+    const auto title = form_->control<ctl_Label>(u"lab_Title");
+    const auto description = form_->control<ctl_Label>(u"lab_Description");
+    title->Caption(title_);
+    title->Visible(!title_.empty());
+    description->Caption(title_.empty() ? question() : String());
+    description->Visible(title_.empty());
+}
+
+void KeyboardWindow::press()
+{
+    if (const auto at = pointer()) {
+        dragStart_ = *at;
+        cornerAtStart_.reset();
+        dragging_->Enabled(true);
+    }
+}
+
+void KeyboardWindow::release()
+{
+    dragging_->Enabled(false);
+    if (cornerAtStart_) {
+        cornerAtStart_.reset();
+        keepPlace(cornerOf(*form_));
+    }
+}
+
+void KeyboardWindow::followPointer()
+{
+    const auto at = pointer();
+    if (!at) {
+        return;
+    }
+    if (!cornerAtStart_ && place::isDrag(dragStart_, *at)) {
+        dragStart_ = *at;
+        cornerAtStart_ = cornerOf(*form_);
+        DRAGGED.emit();
+    }
+    if (cornerAtStart_) {
+        const PixelPoint corner{at->x - dragStart_.x + cornerAtStart_->x,
+                                at->y - dragStart_.y + cornerAtStart_->y};
+        moveTo(place::draggedTo(corner, sizeOf(*form_), visualHost().screen().at(*at)));
+    }
+}
+
+void KeyboardWindow::confirm()
+{
+    if (!isEnding()) {
+        CONFIRMED.emit();
+    }
+}
+
+void KeyboardWindow::end(Ending ending)
+{
+    if (isEnding()) {
+        return;
+    }
+    ending_ = ending;
+    form_->abortBegun(); // leaving it does nothing any more
+    unload_->Enabled(true);
+}
+
+void KeyboardWindow::abortAtOnce()
+{
+    if (!isEnding()) {
+        ending_ = Ending::Aborted;
+    }
+    form_->Unload();
+}
+
+} // namespace phial

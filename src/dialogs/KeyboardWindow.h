@@ -1,0 +1,94 @@
+#pragma once
+
+#include "dialogs/TargetText.h"
+#include "visual/DesignedForm.h"
+#include "visual/Timer.h"
+
+#include <memory>
+#include <optional>
+
+namespace phial
+{
+
+/// What the windows of all keyboards have in common; each keyboard's form holds one. It knows nothing of
+/// keys.
+///
+/// The window has round corners and no frame. It opens beside the target, or around the pointer; it is
+/// dragged by whatever lies on it, keys included, and where the user has left it the next keyboard opens. Its
+/// size follows the screen (see KeyboardPlace.h). It ends a moment after OK or abort, so that no key ends the
+/// form in which it is being handled.
+///
+/// The form's design is in pixels at scale 1, and the head, 68 pixels high, is free from 228 pixels at the
+/// left to 66 pixels at the right for what one types into. The controls of the window are added to it.
+class KeyboardWindow
+{
+public:
+    /// What happens when the user goes to another window.
+    enum class Leaving : std::uint8_t {
+        Stays,    ///< nothing
+        Confirms, ///< as if OK had been pressed
+    };
+
+    /// The form outlives the window.
+    KeyboardWindow(DesignedForm& form, Leaving leaving);
+
+    // The contract of all dialogs for input.
+    /// The control whose text is edited, held weakly; none at first.
+    const TargetText& target() const { return target_; }
+    void target(const ObjectPtr& value) { target_ = TargetText(value); }
+    /// What is asked for; the usual words where it is empty.
+    const String& title() const { return title_; }
+    void title(String value) { title_ = std::move(value); }
+    /// Whether the user has confirmed.
+    bool isAccepted() const { return ending_ == Ending::Accepted; }
+    /// Whether the user has confirmed or given up.
+    bool isEnding() const { return ending_ != Ending::Open; }
+
+    /// For the form's Load: gives the window its size, its ground and its place.
+    void open();
+    /// How much larger than designed all is shown; 1 until it opens.
+    double scale() const { return scale_; }
+    /// Puts the words of the window in the language in force, behind the translation of the form.
+    void translate();
+    /// What is asked for, as it is shown.
+    String question() const;
+
+    /// Something on the window, such as a key, has gone down or up: it may become a drag.
+    void press();
+    void release();
+
+    /// The user has confirmed without a key, by Return or by leaving the window.
+    Event<> CONFIRMED;
+    /// A press has turned out to be a drag, and is to do nothing else.
+    Event<> DRAGGED;
+
+    /// The user has confirmed, or given up: the window closes in a moment. The first of these counts.
+    void accept() { end(Ending::Accepted); }
+    void abort() { end(Ending::Aborted); }
+    /// Gives up and closes at once.
+    void abortAtOnce();
+
+private:
+    enum class Ending : std::uint8_t { Open, Accepted, Aborted };
+
+    void connect();
+    void connectGround();
+    void scaleTo(double scale);
+    void paintGround();
+    void moveTo(PixelPoint corner);
+    void followPointer();
+    void confirm();
+    void end(Ending ending);
+
+    DesignedForm& form_;
+    std::shared_ptr<Timer> dragging_;
+    std::shared_ptr<Timer> unload_;
+    TargetText target_;
+    String title_;
+    Ending ending_ = Ending::Open;
+    double scale_ = 1;
+    PixelPoint dragStart_;
+    std::optional<PixelPoint> cornerAtStart_; ///< while it is dragged
+};
+
+} // namespace phial
