@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/DialogAids.h"
 #include "app/SubObject.h"
 #include "core/String.h"
 
@@ -98,10 +97,6 @@ public:
     const std::shared_ptr<InterCom>& INTERCOM() const { return interCom_; }
     void INTERCOM(std::shared_ptr<InterCom> value) { interCom_ = std::move(value); }
 
-    /// What the frame's dialogs ask of keyboards.
-    const DialogAids& dialogAids() const { return dialogAids_; }
-    void dialogAids(DialogAids value) { dialogAids_ = std::move(value); }
-
 private:
     String registryKey_ = u"Software\\QV Brunnhof\\Phial\\";
     SubObject<cls_AppURL> url_;
@@ -115,7 +110,6 @@ private:
     SubObject<cls_AppServer> server_;
     SubObject<cls_AppTexts> texts_;
     std::shared_ptr<InterCom> interCom_;
-    DialogAids dialogAids_;
 };
 
 } // namespace phial

@@ -1,10 +1,79 @@
 #include "app/cls_AppDialog.h"
 
+#include "app/Session.h"
+#include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
 #include "app/screen/Desktop.h"
 #include "app/screen/frm_AppAbout.h"
+#include "app/screen/frm_Resource.h"
+#include "app/sys_Global.h"
+#include "core/CoreRoot.h"
+#include "core/CoreTextBoxOps.h"
+#include "core/CoreUIFacet.h"
+#include "core/RuntimeError.h"
+#include "dialogs/frm_DialogKeyboard.h"
 
 namespace phial
 {
+
+namespace
+{
+
+/// Opens a fresh form for the control; gives whether the user has confirmed.
+template <typename InputForm>
+bool askFor(const ObjectPtr& target, const String& title)
+{
+    InputForm form;
+    form.TargetControl(target);
+    form.TitleText(title);
+    form.Show();
+    return form.Accepted();
+}
+
+/// What a program without a touch screen gets instead. A box that cannot take the focus is left alone.
+void prepareForTyping(const ObjectPtr& target)
+{
+    const auto box = std::dynamic_pointer_cast<TextBox>(target);
+    if (box && box->typeName() == u"TextBox") {
+        ignoringErrors([&] { coreRoot().CoreUIFacet().CoreTextBoxOps().Prepare(*box); });
+    }
+}
+
+/// The hidden text box that stands in for a control of the program. Its text comes back at the end, since the
+/// form of another call may be open on it.
+class ScratchText
+{
+public:
+    explicit ScratchText(const String& text) : before_(box_->Text()) { box_->Text(text); }
+    ~ScratchText() { box_->Text(before_); }
+    ScratchText(const ScratchText&) = delete;
+    ScratchText& operator=(const ScratchText&) = delete;
+
+    const std::shared_ptr<TextBox>& box() const { return box_; }
+
+private:
+    std::shared_ptr<TextBox> box_ = Session::current().sharedForm<frm_Resource>()->part<TextBox>(
+        u"txt_NumberInput", [](TextBox& made) { made.MultiLine(true); });
+    String before_;
+};
+
+} // namespace
+
+bool cls_AppDialog::TEXTINPUT(const ObjectPtr& pTextbox, const String& pTitle) const
+{
+    if (QVAPP()->CONFIG()->TOUCHMODE()) {
+        return askFor<frm_DialogKeyboard>(pTextbox, pTitle);
+    }
+    prepareForTyping(pTextbox);
+    return false;
+}
+
+String cls_AppDialog::TEXTINPUTDIRECT(const String& pOldValue, const String& pTitle) const
+{
+    const ScratchText scratch(pOldValue);
+    askFor<frm_DialogKeyboard>(scratch.box(), pTitle);
+    return scratch.box()->Text();
+}
 
 void cls_AppDialog::ABOUT() const
 {

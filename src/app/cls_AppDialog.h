@@ -1,13 +1,29 @@
 #pragma once
 
+#include "core/Object.h"
+#include "core/String.h"
+
 namespace phial
 {
 
-/// The root's dialogs, `QVAPP().DIALOG()`. It holds no state: each call makes a fresh form and returns when
-/// that has been closed.
+/// The root's dialogs, `QVAPP().DIALOG()`: the one door through which a program asks for a value on a touch
+/// screen. It holds no state: each call makes a fresh form and returns when that has been closed. A form that
+/// fails to load raises its error to the caller.
 class cls_AppDialog
 {
 public:
+    /// Lets the user edit the text of a control of the program's own (see dialogs/TargetText.h) on the
+    /// keyboard for texts; true when the user has confirmed, and the text then stands in the control. An
+    /// empty title asks in the usual words.
+    ///
+    /// Only in touch mode (CONFIG.TOUCHMODE). Otherwise there is no dialog and the answer is false, and a
+    /// control of the exact type "TextBox" is made ready for typing (CoreTextBoxOps.Prepare).
+    bool TEXTINPUT(const ObjectPtr& pTextbox, const String& pTitle) const;
+
+    /// The same for a text without a control, whatever the mode: the new text, or the old one when the user
+    /// has given up. It may have several lines, parted by CR LF.
+    String TEXTINPUTDIRECT(const String& pOldValue, const String& pTitle) const;
+
     /// Tells about the program.
     void ABOUT() const;
 

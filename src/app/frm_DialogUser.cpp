@@ -3,6 +3,7 @@
 #include "app/FormTexts.h"
 #include "app/RecentNames.h"
 #include "app/cls_App.h"
+#include "app/cls_AppDialog.h"
 #include "app/cls_AppUser.h"
 #include "app/cls_Language.h"
 #include "app/screen/Avatars.h"
@@ -219,9 +220,7 @@ void frm_DialogUser::selectAvatar(const String& avatar)
 
 void frm_DialogUser::openKeyboard()
 {
-    if (const auto& open = QVAPP()->dialogAids().textInput) {
-        open(*screenName_, LNG()->TRANSLATE(u"Dein Name", u"Your name"));
-    }
+    QVAPP()->DIALOG()->TEXTINPUT(screenName_, LNG()->TRANSLATE(u"Dein Name", u"Your name"));
 }
 
 void frm_DialogUser::confirm()

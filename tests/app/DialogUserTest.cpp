@@ -17,6 +17,7 @@ namespace phial
 namespace
 {
 
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -236,18 +237,26 @@ TEST_F(DialogUser, PlaysASoundWithEachWarning)
     EXPECT_EQ(test::markOf(*outside.audio().heard()[0].sound), 7);
 }
 
-TEST_F(DialogUser, OpensTheKeyboardForTheName)
+TEST_F(DialogUser, OpensTheKeyboardForTheNameInTouchMode)
 {
     LNG()->CURRENT(ID_Language_German);
-    DialogAids aids;
-    aids.textInput = [](TextBox& field, const String& title) {
-        EXPECT_EQ(title, u"Dein Name");
-        field.Text(u"getippt");
-    };
-    QVAPP()->dialogAids(aids);
+    QVAPP()->CONFIG()->TOUCHMODE(true);
+    outside.visual().onModal(u"frm_DialogKeyboard", [](Form& keyboard) {
+        EXPECT_EQ(keyboard.control<ctl_Label>(u"lab_Title")->Caption(), u"Dein Name");
+        keyboard.control<TextBox>(u"txt_Input")->Text(u"getippt");
+        headless::strike(keyboard, {.key = Key::Return});
+    });
     look([&] {
         headless::click(*get<TextBox>(u"txt_Screenname"));
         EXPECT_EQ(name(), u"getippt");
+    });
+}
+
+TEST_F(DialogUser, MakesTheNameReadyForTypingWithoutTouchMode)
+{
+    look([&] {
+        headless::click(*get<TextBox>(u"txt_Screenname"));
+        EXPECT_THAT(outside.textBoxes().prepared(), ElementsAre(get<TextBox>(u"txt_Screenname").get()));
     });
 }
 

@@ -19,5 +19,6 @@ inline constexpr std::int32_t Sym = 52;
 inline constexpr std::int32_t Left = 53;
 inline constexpr std::int32_t Up = 54;
 inline constexpr std::int32_t Enter = 58;
+inline constexpr std::int32_t Clear = 59;
 
 } // namespace phial::test::keys

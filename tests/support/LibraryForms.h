@@ -4,6 +4,8 @@
 #include "app/screen/frm_AppAbout.h"
 #include "app/screen/frm_Fade.h"
 #include "app/screen/frm_Resource.h"
+#include "dialogs/DialogKeyboardDesign.h"
+#include "dialogs/frm_DialogKeyboard.h"
 #include "media/frm_AppMCI.h"
 #include "media/frm_DialogSound.h"
 #include "results/cls_DataScores.h"
@@ -83,6 +85,12 @@ inline std::vector<LibraryForm> libraryForms()
          .design = &dialog_highscore_design::Design,
          .pairs = {},
          .data = {},
+         .aborts = true},
+        {.name = u"frm_DialogKeyboard",
+         .make = makeLibraryForm<frm_DialogKeyboard>,
+         .design = &dialog_keyboard_design::Design,
+         .pairs = {u"Bitte geben Sie den Wert ein:|Please enter the value:", u"Abbrechen|Cancel"},
+         .data = {u"\u2715"},
          .aborts = true},
         {.name = u"frm_DialogSound",
          .make = makePraise,

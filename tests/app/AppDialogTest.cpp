@@ -1,0 +1,205 @@
+#include "app/AppTest.h"
+#include "app/cls_AppDialog.h"
+#include "app/cls_Language.h"
+#include "app/screen/frm_Resource.h"
+#include "core/RuntimeError.h"
+#include "headless/Hand.h"
+#include "visual/Form.h"
+#include "visual/Label.h"
+#include "visual/TextBox.h"
+#include "visual/UserControl.h"
+#include "visual/ctl_Label.h"
+
+#include <gmock/gmock-more-matchers.h>
+
+namespace phial
+{
+
+namespace
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class AppDialog : public AppTest
+{
+protected:
+    AppDialog() { LNG()->CURRENT(ID_Language_German); }
+
+    cls_AppDialog& dialog() { return *QVAPP()->DIALOG(); }
+    void touchMode(bool value) { QVAPP()->CONFIG()->TOUCHMODE(value); }
+
+    /// The next keyboard is played so.
+    void play(const std::function<void(Form&)>& user)
+    {
+        outside.visual().onModal(u"frm_DialogKeyboard", user);
+    }
+    static void confirm(Form& keyboard) { headless::strike(keyboard, {.key = Key::Return}); }
+    static void abort(Form& keyboard) { headless::strike(keyboard, {.key = Key::Escape}); }
+    static std::shared_ptr<TextBox> input(Form& keyboard) { return keyboard.control<TextBox>(u"txt_Input"); }
+
+    const std::shared_ptr<TextBox> box = makeControl<TextBox>();
+};
+
+TEST_F(AppDialog, TextInputWritesToTheControlAndSaysThatItWasConfirmed)
+{
+    touchMode(true);
+    box->Text(u"alt");
+    play([](Form& keyboard) {
+        EXPECT_EQ(input(keyboard)->Text(), u"alt");
+        EXPECT_EQ(keyboard.control<ctl_Label>(u"lab_Title")->Caption(), u"Titel");
+        input(keyboard)->Text(u"neu");
+        confirm(keyboard);
+    });
+    EXPECT_TRUE(dialog().TEXTINPUT(box, u"Titel"));
+    EXPECT_EQ(box->Text(), u"neu");
+}
+
+TEST_F(AppDialog, TextInputThatIsGivenUpChangesNothing)
+{
+    touchMode(true);
+    box->Text(u"alt");
+    play([](Form& keyboard) {
+        input(keyboard)->Text(u"neu");
+        abort(keyboard);
+    });
+    EXPECT_FALSE(dialog().TEXTINPUT(box, u""));
+    EXPECT_EQ(box->Text(), u"alt");
+}
+
+TEST_F(AppDialog, EachTextInputHasAFormOfItsOwn)
+{
+    touchMode(true);
+    play([](Form& keyboard) {
+        keyboard.Tag(u"first");
+        confirm(keyboard);
+    });
+    EXPECT_TRUE(dialog().TEXTINPUT(box, u""));
+    play([](Form& keyboard) {
+        EXPECT_EQ(keyboard.Tag(), u"");
+        abort(keyboard);
+    });
+    EXPECT_FALSE(dialog().TEXTINPUT(box, u""));
+}
+
+TEST_F(AppDialog, TextInputWithoutTouchModeMakesATextBoxReadyAndIsFalse)
+{
+    EXPECT_FALSE(dialog().TEXTINPUT(box, u"Titel"));
+    EXPECT_THAT(outside.textBoxes().prepared(), ElementsAre(box.get()));
+}
+
+TEST_F(AppDialog, TextInputWithoutTouchModeLeavesEverythingElseAlone)
+{
+    EXPECT_FALSE(dialog().TEXTINPUT(makeControl<Label>(), u"Titel"));
+    EXPECT_FALSE(dialog().TEXTINPUT(nullptr, u"Titel"));
+    EXPECT_THAT(outside.textBoxes().prepared(), IsEmpty());
+}
+
+TEST_F(AppDialog, TextInputAsksForTheModeAtEachCall)
+{
+    EXPECT_FALSE(dialog().TEXTINPUT(box, u""));
+    touchMode(true);
+    play(confirm);
+    EXPECT_TRUE(dialog().TEXTINPUT(box, u""));
+    touchMode(false);
+    EXPECT_FALSE(dialog().TEXTINPUT(box, u""));
+}
+
+TEST_F(AppDialog, TextInputWithoutAControlStillAsks)
+{
+    touchMode(true);
+    play([](Form& keyboard) {
+        input(keyboard)->Text(u"x");
+        confirm(keyboard);
+    });
+    EXPECT_TRUE(dialog().TEXTINPUT(nullptr, u""));
+}
+
+TEST_F(AppDialog, AControlThatGoesMeanwhileIsWrittenToNowhere)
+{
+    touchMode(true);
+    ObjectPtr own = makeControl<TextBox>();
+    const std::weak_ptr<Object> watched = own;
+    play([&](Form& keyboard) {
+        own.reset();
+        EXPECT_TRUE(watched.expired());
+        input(keyboard)->Text(u"x");
+        confirm(keyboard);
+    });
+    EXPECT_TRUE(dialog().TEXTINPUT(own, u""));
+}
+
+TEST_F(AppDialog, TextInputDirectGivesTheNewTextInAnyMode)
+{
+    for (const bool mode : {false, true}) {
+        touchMode(mode);
+        play([](Form& keyboard) {
+            EXPECT_EQ(input(keyboard)->Text(), u"alt");
+            input(keyboard)->Text(u"neu");
+            confirm(keyboard);
+        });
+        EXPECT_EQ(dialog().TEXTINPUTDIRECT(u"alt", u"Titel"), u"neu");
+    }
+}
+
+TEST_F(AppDialog, TextInputDirectGivesTheOldTextWhenItIsGivenUp)
+{
+    play([](Form& keyboard) {
+        input(keyboard)->Text(u"neu");
+        abort(keyboard);
+    });
+    EXPECT_EQ(dialog().TEXTINPUTDIRECT(u"alt\nzwei", u""), u"alt\nzwei");
+}
+
+TEST_F(AppDialog, TextInputDirectKeepsSeveralLines)
+{
+    play(confirm);
+    EXPECT_EQ(dialog().TEXTINPUTDIRECT(u"a\nb", u""), u"a\r\nb");
+}
+
+TEST_F(AppDialog, TextInputDirectOpensAtThePointerSinceNobodySeesItsBox)
+{
+    outside.display().resize(1920, 1080);
+    outside.display().moveCursor(960, 540);
+    play([](Form& keyboard) {
+        EXPECT_DOUBLE_EQ(keyboard.Left(), 585 * TwipsPerPixel);
+        EXPECT_DOUBLE_EQ(keyboard.Top(), 370 * TwipsPerPixel);
+        abort(keyboard);
+    });
+    dialog().TEXTINPUTDIRECT(u"", u"");
+}
+
+TEST_F(AppDialog, ATextInputWithinAnotherOneLeavesItsTextAlone)
+{
+    play([this](Form& outer) {
+        play([](Form& inner) {
+            input(inner)->Text(u"innen");
+            confirm(inner);
+        });
+        EXPECT_EQ(dialog().TEXTINPUTDIRECT(u"zwei", u""), u"innen");
+        abort(outer);
+    });
+    EXPECT_EQ(dialog().TEXTINPUTDIRECT(u"eins", u""), u"eins");
+}
+
+TEST_F(AppDialog, AFormThatFailsToLoadTellsItsCaller)
+{
+    touchMode(true);
+    outside.visual().surfacesFrom(
+        [](PixelSize) -> std::shared_ptr<DrawBackend> { throw RuntimeError(ErrorNumber::InvalidArgument); });
+    EXPECT_THROW(dialog().TEXTINPUT(box, u""), RuntimeError);
+    outside.visual().surfacesFrom({});
+}
+
+TEST_F(AppDialog, TheScratchBoxStandsOnTheResourceForm)
+{
+    play(confirm);
+    dialog().TEXTINPUTDIRECT(u"x", u"");
+    const auto scratch = session->sharedForm<frm_Resource>()->form().control<TextBox>(u"txt_NumberInput");
+    EXPECT_EQ(scratch->Text(), u"");
+    EXPECT_FALSE(session->sharedForm<frm_Resource>()->form().Visible());
+}
+
+} // namespace
+
+} // namespace phial
