@@ -21,7 +21,7 @@ inline constexpr ControlDesign Controls[] = {
         .ground(Palette::Field)
         .set(u"AcceptsReturn", false)
         .keyboarded(),
-    design<ctl_Keys>(u"ctl_Keys", {15, 68, 720, 240}).touchable(),
+    design<ctl_Keys>(u"ctl_Keys", {15, 68, 720, 240}).ground(Palette::Footer).touchable(),
 };
 
 inline constexpr FormDesign Design{.name = u"frm_DialogKeyboard",

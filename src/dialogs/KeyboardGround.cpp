@@ -17,7 +17,7 @@ namespace
 constexpr double PlateRadius = 16;
 constexpr double PlateEdge = 1.5;
 constexpr PixelSize Grip{48, 5};
-constexpr double GripTop = 4;
+constexpr double GripAbove = 14; // of its middle, from the lower edge
 
 void paintRounded(DrawDevice& device, const PixelRectangle& area, double radius, Colour ground, Colour edge)
 {
@@ -38,10 +38,10 @@ PicturePtr keyboardGround(PixelSize size, double scale)
     paintRounded(device, {inset, inset, size.width - 2 * inset, size.height - 2 * inset}, PlateRadius * scale,
                  Palette::Footer, Palette::ControlBorder);
     device.DrawWidth(1);
-    paintRounded(
-        device,
-        {(size.width - Grip.width * scale) / 2, GripTop * scale, Grip.width * scale, Grip.height * scale},
-        Grip.height * scale / 2, Palette::ControlBorder, Palette::ControlBorder);
+    paintRounded(device,
+                 {(size.width - Grip.width * scale) / 2, size.height - (GripAbove + Grip.height / 2) * scale,
+                  Grip.width * scale, Grip.height * scale},
+                 Grip.height * scale / 2, Palette::ControlBorder, Palette::ControlBorder);
     return device.Image();
 }
 

@@ -43,7 +43,7 @@ constexpr ControlDesign WindowControls[] = {
         .set(u"PlainText", true),
     design<ctl_Label>(u"lab_Description", Words).font(12).ink(Palette::Ink).set(u"PlainText", true),
     design<ctl_Button>(u"but_Close", {0, HeadTop, HeadHeight, HeadHeight}, u"✕")
-        .font(14)
+        .font(17)
         .unfocusable()
         .spoken(u"Abbrechen|Cancel"),
     design<ctl_Button>(u"but_Enter", {0, HeadTop, 0, 0}, u"OK|OK").hidden().unfocusable().defaultButton(),

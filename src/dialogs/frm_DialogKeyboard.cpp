@@ -3,6 +3,7 @@
 #include "app/FormTexts.h"
 #include "core/RuntimeError.h"
 #include "dialogs/DialogKeyboardDesign.h"
+#include "dialogs/ScanChoice.h"
 #include "dialogs/TextLayout.h"
 #include "visual/VisualHost.h"
 
@@ -74,6 +75,7 @@ void frm_DialogKeyboard::TRANSLATE()
 void frm_DialogKeyboard::load()
 {
     window_.open();
+    keys_->scanInterval(rememberedScan());
     TRANSLATE();
     readTarget();
 }

@@ -1,6 +1,7 @@
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "dialogs/KeyNumbers.h"
+#include "dialogs/ScanChoice.h"
 #include "dialogs/frm_DialogKeyboard.h"
 #include "headless/Hand.h"
 #include "headless/TouchScreen.h"
@@ -135,6 +136,13 @@ TEST_F(DialogKeyboardTest, HasNoInputMethodSinceItIsItsOwnKeyboard)
     EXPECT_FALSE(keyPad()->frame().canFocus());
     open(nullptr);
     EXPECT_THAT(keyboard.form().tabOrder(), ::testing::ElementsAre(input()));
+}
+
+TEST_F(DialogKeyboardTest, ScansAsTheUserHasChosen)
+{
+    chooseScan(900);
+    open(nullptr);
+    EXPECT_EQ(keyPad()->scanInterval(), 900);
 }
 
 TEST_F(DialogKeyboardTest, SaysWhatItAsksFor)
