@@ -1,6 +1,9 @@
 #include "common/frm_MasterChoice.h"
 
 #include "app/FormTexts.h"
+#include "app/cls_App.h"
+#include "app/cls_AppDialog.h"
+#include "app/sys_Global.h"
 #include "common/FrameTexts.h"
 #include "common/MasterChoiceDesign.h"
 
@@ -43,6 +46,10 @@ void frm_MasterChoice::connect()
     form_.on(masters_->Click,
              [this] { address_->Text(found_[static_cast<std::size_t>(masters_->ListIndex())].address); });
     form_.on(masters_->DblClick, [this] { connectTo(); });
+    form_.on(address_->Click, [this] {
+        phial::QVAPP()->DIALOG()->TEXTINPUT(address_,
+                                            translate(u"Adresse des Masters", u"Address of the master"));
+    });
     form_.on(address_->Change,
              [this] { form_->control<phial::ctl_Button>(u"but_Connect")->Enabled(!typedAddress().empty()); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });

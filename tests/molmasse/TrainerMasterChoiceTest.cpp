@@ -50,6 +50,26 @@ TEST_F(TrainerMasterChoice, TakesATypedAddressAndKeepsIt)
     EXPECT_TRUE(isSeen(u"pan_Start"));
 }
 
+TEST_F(TrainerMasterChoice, TakesAnAddressFromTheKeyboardOfTouchMode)
+{
+    isThere = false;
+    enter();
+    isThere = true;
+    phial::QVAPP()->CONFIG()->TOUCHMODE(true);
+    choose([this](phial::Form& dialog) {
+        outside.visual().onModal(u"frm_DialogKeyboard", [](phial::Form& keyboard) {
+            EXPECT_EQ(keyboard.control<phial::ctl_Label>(u"lab_Title")->Caption(), u"Adresse des Masters");
+            keyboard.control<phial::TextBox>(u"txt_Input")->Text(u"10.1.2.3");
+            phial::headless::type(keyboard, u"{enter}");
+        });
+        const auto address = dialog.control<phial::TextBox>(u"txt_Address");
+        phial::headless::click(*address);
+        EXPECT_EQ(address->Text(), u"10.1.2.3");
+        phial::headless::type(dialog, u"{enter}");
+    });
+    EXPECT_EQ(outside.network().requests().back().address, u"10.1.2.3");
+}
+
 TEST_F(TrainerMasterChoice, OffersTheMastersThatAnswer)
 {
     phial::cls_AppServerConfig other;
