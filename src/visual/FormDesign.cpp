@@ -90,7 +90,9 @@ void dress(Control& control, const ControlDesign& design)
     if (design.takesFocus) {
         frame.canFocus(*design.takesFocus);
     }
-    frame.takesTouch(design.takesTouch);
+    if (design.takesTouch) { // some controls take it by themselves
+        frame.takesTouch(true);
+    }
     frame.ownKeyboard(design.ownKeyboard);
     frame.AccessibleName(String(design.spokenName));
     if (!design.bar.empty()) {
