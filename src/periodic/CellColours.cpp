@@ -27,6 +27,13 @@ constexpr CellColours Classic = {
     false,
 };
 
+/// With captions as they can be read on a ground that follows the theme.
+constexpr CellColours Themed = [] {
+    CellColours colours = Classic;
+    colours.caption = Palette::Ink;
+    return colours;
+}();
+
 /// The classic hues, so light that dark texts can be read on them.
 constexpr CellColours HighContrast = {
     {RGB(232, 230, 225), RGB(255, 225, 255), RGB(225, 255, 225), RGB(255, 225, 225), RGB(225, 225, 255),
@@ -64,9 +71,17 @@ constexpr CellColours Distinct = {
 
 const CellColours& CellColours::of(TableColours set)
 {
-    const bool isHigh = set == TableColours::HighContrast ||
-                        (set == TableColours::ByTheme && coreTheme().Colours() == ColourSet::HighContrast);
-    return isHigh ? HighContrast : set == TableColours::Distinct ? Distinct : Classic;
+    switch (set) {
+    case TableColours::HighContrast:
+        return HighContrast;
+    case TableColours::Distinct:
+        return Distinct;
+    case TableColours::ByTheme:
+        return coreTheme().Colours() == ColourSet::HighContrast ? HighContrast : Themed;
+    case TableColours::Classic:
+        break;
+    }
+    return Classic;
 }
 
 } // namespace phial

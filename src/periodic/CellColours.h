@@ -14,7 +14,7 @@ enum class TableColours : std::int32_t {
     Classic = 0,      ///< a colour for each shell, with red and blue texts
     HighContrast = 1, ///< every text has a contrast of 4.5 to 1 or more on its cell
     Distinct = 2,     ///< shells that differ for everybody, whatever colours they see
-    ByTheme = 3,      ///< HighContrast where the theme has it, else Classic
+    ByTheme = 3,      ///< HighContrast where the theme has it, else Classic cells with captions to fit
 };
 
 /// What the cells of one set are painted with. In all but the classic one a sign tells the state of matter

@@ -247,6 +247,7 @@ void ctl_PSE::DRAGCLEAR()
 {
     hand_.forget();
     sheet_.tiles.clear();
+    leaveCursor();
 }
 
 void ctl_PSE::DRAGADD(StringView pSymbol)
@@ -260,6 +261,7 @@ void ctl_PSE::DRAGRESET(std::int32_t pI)
 {
     hand_.forget(pI);
     sheet_.tiles.sendHome(pI, sheet_.grid);
+    leaveCursor();
     REDRAW();
 }
 

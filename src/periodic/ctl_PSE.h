@@ -65,7 +65,8 @@ public:
     void FIXEDSIZE(bool value);
     enm_PSEMode MODE() const { return mode_; }
     void MODE(enm_PSEMode value);
-    /// Frees all slots for tiles.
+    /// Frees all slots for tiles. Behind this and DRAGRESET the cursor begins anew, at the first tile at
+    /// home.
     void DRAGCLEAR();
     /// Puts a tile with that symbol into the first free one of eleven slots; without a free one nothing
     /// happens.
@@ -149,6 +150,7 @@ private:
     std::optional<std::size_t> cursorAmong(std::span<const CursorStop> stops) const;
     std::optional<CursorStop> cursorStop() const;
     void putCursor(const CursorStop& stop);
+    void leaveCursor();
     void reach(const CursorStop& stop);
     bool moveCursor(CursorStep step);
     bool pressCursor();

@@ -259,6 +259,13 @@ void ctl_PSE::putCursor(const CursorStop& stop)
     frame_.report(ControlAspect::CurrentPart);
 }
 
+/// The host has changed the tiles: the next keys are for those.
+void ctl_PSE::leaveCursor()
+{
+    cursor_.reset();
+    frame_.report(ControlAspect::CurrentPart);
+}
+
 void ctl_PSE::lostFocus()
 {
     watch_.watch(hover_);

@@ -104,6 +104,22 @@ TEST_F(TableColourSets, TheClassicOneHasNoSigns)
     EXPECT_EQ(cell("O"), classic);
 }
 
+TEST_F(TableColourSets, ByThemeCaptionsCanBeReadOnAGroundThatFollowsTheTheme)
+{
+    load();
+    table->Colouring(TableColours::ByTheme);
+    table->BACKCOLOR(Palette::Surface);
+    for (const ColourSet set : {ColourSet::Light, ColourSet::Dark, ColourSet::HighContrast}) {
+        coreTheme().SetColours(set);
+        const std::string all = drawn();
+        const std::size_t caption = all.find("\"Nebengruppen\"");
+        ASSERT_NE(caption, std::string::npos);
+        const Colour ink = coloursIn(all.substr(caption, all.find('\n', caption) - caption)).front();
+        EXPECT_GE(test::contrast(ink, Palette::Surface, set), 4.5);
+        table->BACKCOLOR(Palette::Surface);
+    }
+}
+
 TEST_F(TableColourSets, TheOthersTellTheStateOfMatterByASign)
 {
     load();

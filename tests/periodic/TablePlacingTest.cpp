@@ -1,6 +1,7 @@
 #include "PeriodicTableTest.h"
 #include "headless/Hand.h"
 #include "headless/TouchScreen.h"
+#include "visual/FormDesign.h"
 
 #include <gmock/gmock-more-matchers.h>
 
@@ -101,6 +102,13 @@ TEST_F(TablePlacing, AFingerMayTrembleMoreThanAMouse)
     EXPECT_FALSE(isTaken("O"));
 }
 
+TEST_F(TablePlacing, TakesFingersWhereADesignHasPlacedItToo)
+{
+    static constexpr ControlDesign Own[] = {design<ctl_PSE>(u"pse_Own", {0, 0, 608, 400}).focusable()};
+    addControls(*form, Own);
+    EXPECT_TRUE(form->control<ctl_PSE>(u"pse_Own")->frame().takesTouch());
+}
+
 TEST_F(TablePlacing, ASecondFingerDisturbsNoDrag)
 {
     headless::TouchScreen screen(outside.display());
@@ -130,6 +138,23 @@ TEST_F(TablePlacing, KeysTakeATileToItsCell)
     EXPECT_THAT(log, ElementsAre("dropped 2 on Cl"));
     EXPECT_EQ(told(), "Cl auf Gruppe 17, Periode 3");
     EXPECT_EQ(currentName(), "Cl auf Gruppe 17, Periode 3");
+}
+
+// Where the last tile was put says nothing about the next ones, and would seem to.
+TEST_F(TablePlacing, TheCursorBeginsAnewWhereTheHostChangesTheTiles)
+{
+    table->SetFocus();
+    press(home(1));
+    press(over(14, 1));
+    EXPECT_EQ(currentName(), "N auf Gruppe 15, Periode 2");
+    press(home(0));
+    press(over(15, 1));
+    table->DRAGRESET(1);
+    EXPECT_EQ(currentName(), "N, noch nicht eingeordnet");
+    type(u"{right}{enter}{up}{enter}");
+    table->DRAGCLEAR();
+    table->DRAGADD(u"Fe");
+    EXPECT_EQ(currentName(), "Fe, noch nicht eingeordnet");
 }
 
 TEST_F(TablePlacing, EscapeLetsGoAndElseGoesOn)
