@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -61,6 +62,33 @@ TEST_F(DialogsTest, AQuestionIsAnsweredInTheLanguageOfTheSession)
     EXPECT_EQ(dialogs_.YesNo(u"Go on?", {}), DialogAnswer::No);
 }
 
+TEST_F(DialogsTest, AShortMessageLeavesRoomForItsTitle)
+{
+    int room = 0;
+    whenShown([&](QDialog& box) {
+        room = box.width() - QFontMetrics(box.font()).horizontalAdvance(box.windowTitle());
+        box.close();
+    });
+    dialogs_.Info(u"Ja.", u"Ein Titel, der viel länger ist als der Text darunter", {});
+    EXPECT_GE(room, 120) << "for an icon and three buttons";
+}
+
+TEST_F(DialogsTest, AMessageOfSeveralLinesIsShownWhole)
+{
+    const auto missing = [](QDialog& box) {
+        const auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        return text->minimumSizeHint().width() - text->width();
+    };
+    int hidden = 1;
+    whenShown([&](QDialog& box) {
+        hidden = missing(box);
+        box.close();
+    });
+    dialogs_.Info(u"Herzlichen Glückwunsch!\r\nDu hast es auf den 1. Platz der Bestenliste geschafft!",
+                  u"Ja!", {});
+    EXPECT_LE(hidden, 0);
+}
+
 class RunDialogsTest : public DesktopRun
 {
 protected:
@@ -96,6 +124,18 @@ TEST_F(RunDialogsTest, AnIconLiesBelowTheResourcesPicturesWhateverTheCurrentFold
     EXPECT_EQ(shownIcon(u"Ico\\32\\Sign.png").pixelColor(5, 5), QColor(Qt::red));
     EXPECT_EQ(shownIcon(folder().path() + u"elsewhere\\Ico\\32\\Sign.png").pixelColor(5, 5),
               QColor(Qt::blue));
+}
+
+TEST_F(RunDialogsTest, WithoutATitleTheAppsNameIsSeen)
+{
+    QVAPP()->CONFIG()->NAME(u"Elemente-Puzzle");
+    QString title;
+    QTimer::singleShot(0, qApp, [&] {
+        title = QApplication::activeModalWidget()->windowTitle();
+        QApplication::activeModalWidget()->close();
+    });
+    DesktopDialogs().Error(u"Das ging nicht.", {});
+    EXPECT_EQ(title, QStringLiteral("Elemente-Puzzle"));
 }
 
 TEST_F(RunDialogsTest, TheUsualSignStandsInForAnIconThatIsNotThere)

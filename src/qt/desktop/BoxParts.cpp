@@ -1,6 +1,10 @@
 #include "qt/desktop/BoxParts.h"
 
+#include "app/cls_App.h"
+#include "app/cls_AppConfig.h"
+#include "app/sys_Global.h"
 #include "core/ProgramTitle.h"
+#include "core/RuntimeError.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/SystemBox.h"
 #include "qt/desktop/ToolkitLanguage.h"
@@ -53,7 +57,12 @@ QString inLanguage(const BoxText& text)
 
 QString titleOr(StringView title)
 {
-    return toQt(title.empty() ? programTitle() : String(title));
+    if (!title.empty()) {
+        return toQt(title);
+    }
+    String name;
+    ignoringErrors([&] { name = QVAPP()->CONFIG()->NAME(); });
+    return toQt(name.empty() ? programTitle() : name);
 }
 
 void enlarge(QPushButton& button)

@@ -20,6 +20,7 @@
 #include <QDialog>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
@@ -42,6 +43,7 @@ constexpr QSize TextBoxSize(560, 420);
 constexpr QSize FileBoxSize(760, 520);
 constexpr int InputWidth = 360;
 constexpr int IconSize = 48;
+constexpr int FrameParts = 130; // the width of a frame's icon and buttons beside its title
 
 constexpr BoxText Ok{u"OK", u"OK"};
 constexpr BoxText Yes{u"Ja", u"Yes"};
@@ -89,10 +91,21 @@ void showSign(QMessageBox& box, QStyle::StandardPixmap icon)
     QObject::connect(&ThemeNews::instance(), &ThemeNews::changed, &box, draw);
 }
 
+// A box is as wide as its text, which may be shorter than the title in the frame. To be called when all its
+// parts are there.
+void leaveRoomForTitle(QMessageBox& box)
+{
+    if (auto* parts = qobject_cast<QGridLayout*>(box.layout())) {
+        const int title = QFontMetrics(box.font()).horizontalAdvance(box.windowTitle());
+        parts->addItem(new QSpacerItem(title + FrameParts, 0), parts->rowCount(), 0, 1, parts->columnCount());
+    }
+}
+
 void showMessage(QMessageBox& box)
 {
     QPushButton* ok = addButton(box, Ok, QMessageBox::AcceptRole);
     markAccent(*ok, true);
+    leaveRoomForTitle(box);
     runBox(box);
 }
 
@@ -165,6 +178,7 @@ DialogAnswer DesktopDialogs::YesNo(StringView pText, StringView pTitle)
     markAccent(*no, true);
     box.setDefaultButton(no); // what is asked may destroy something
     box.setEscapeButton(no);
+    leaveRoomForTitle(box);
     runBox(box);
     return box.clickedButton() == yes ? DialogAnswer::Yes : DialogAnswer::No;
 }
