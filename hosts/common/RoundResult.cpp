@@ -5,12 +5,30 @@
 #include "common/FrameTexts.h"
 #include "results/cls_AppRate.h"
 
+#include <array>
+
 namespace learning
 {
 
 using phial::QVAPP;
 using phial::String;
 using phial::StringView;
+
+namespace
+{
+
+/// The words of the school's marks, from 1.
+constexpr auto EnglishMarks = std::to_array<StringView>(
+    {u"very good", u"good", u"satisfactory", u"sufficient", u"poor", u"insufficient"});
+
+/// Of a mark such as "2+".
+String englishOf(const String& mark)
+{
+    const String words(EnglishMarks.at(static_cast<std::size_t>(mark.front() - u'1')));
+    return mark.ends_with(u'+') ? words + u" plus" : mark.ends_with(u'-') ? words + u" minus" : words;
+}
+
+} // namespace
 
 phial::CoreParameters additionalValues(const RoundResult& result)
 {
@@ -29,8 +47,9 @@ String certificateText(StringView sentence, const RoundResult& result, StringVie
 String markText(const RoundResult& result)
 {
     const auto& rate = QVAPP()->RATE();
-    return rate->MARKSCHOOL(result.points, result.maximum, result.exercise) + u" (" +
-           rate->MARKTEXT(result.points, result.maximum, result.exercise) + u")";
+    const String mark = rate->MARKSCHOOL(result.points, result.maximum, result.exercise);
+    return mark + u" (" +
+           translate(rate->MARKTEXT(result.points, result.maximum, result.exercise), englishOf(mark)) + u")";
 }
 
 } // namespace learning

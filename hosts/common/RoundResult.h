@@ -25,7 +25,7 @@ phial::CoreParameters additionalValues(const RoundResult& result);
 phial::String certificateText(phial::StringView sentence, const RoundResult& result,
                               phial::StringView exercise);
 
-/// The mark as a sign and in the words of the scale, such as "2+ (Gut plus)".
+/// The mark as a sign and in the words of the scale, in the language in force, such as "2+ (Gut plus)".
 phial::String markText(const RoundResult& result);
 
 } // namespace learning

@@ -298,9 +298,8 @@ TEST_F(TrainerResult, ShowsTheMarkAsASignAndInWords)
     EXPECT_EQ(mark()->MARK(), phial::enm_Mark::ID_Mark_4M);
     EXPECT_EQ(seen(u"lab_Mark"), u"Note 4- (Ausreichend minus)");
     EXPECT_EQ(seen(u"lab_Rank"), u"Platz 2 der Bestenliste");
-
     touch(u"but_Language");
-    EXPECT_EQ(seen(u"lab_Mark"), u"Mark 4- (Ausreichend minus)");
+    EXPECT_EQ(seen(u"lab_Mark"), u"Mark 4- (sufficient minus)");
     EXPECT_EQ(seen(u"lab_Rank"), u"Number 2 of the best");
 }
 
