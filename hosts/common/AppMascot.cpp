@@ -32,6 +32,8 @@ constexpr double BalloonTailLength = 14;
 constexpr double BalloonTailWidth = 16;
 constexpr double BalloonShadow = 4;
 constexpr double BalloonText = 10; // points
+constexpr double LeastBalloonText = 7.5;
+constexpr double BalloonStep = 0.5;
 
 constexpr auto ChoiceTexts = std::to_array<StringView>({
     u"Maskottchen: an|Mascot: on",
@@ -105,15 +107,33 @@ void AppMascot::follow()
     applyChoice();
 }
 
-/// As wide as the column, and as high as the text needs.
+/// As wide as the column, and as high as the text needs. Where the column is too narrow for a word, the text
+/// is smaller.
 void AppMascot::fitBalloon(const String& text)
 {
-    measure_->Width(column_.width - BalloonShadow - 2 * BalloonMargin);
+    const double width = column_.width - BalloonShadow - 2 * BalloonMargin;
+    balloon_->TEXTFONT()->Size(textSizeFor(text, width));
+    measure_->Width(width);
     measure_->Caption(text);
     const double height =
         std::ceil(measure_->Height()) + 2 * BalloonMargin + BalloonTailLength + BalloonShadow;
     const double top = column_.bottom() - AtomSize - height;
     balloon_->frame().pixelRectangle({column_.left, std::max(top, column_.top), column_.width, height});
+}
+
+/// In points.
+double AppMascot::textSizeFor(const String& text, double width) const
+{
+    phial::FontSpec font = balloon_->TEXTFONT()->traits();
+    const auto hasRoom = [&] {
+        const auto face = phial::visualHost().metrics().face(font);
+        return std::ranges::all_of(phial::split(phial::replaced(text, u"<br>", u" "), u" "),
+                                   [&](StringView word) { return face->width(word) <= width; });
+    };
+    for (font.size = BalloonText; font.size > LeastBalloonText && !hasRoom();) {
+        font.size -= BalloonStep;
+    }
+    return font.size;
 }
 
 void AppMascot::TRANSLATE()

@@ -67,6 +67,7 @@ private:
 
     void sayText(const phial::String& text, Source source);
     void fitBalloon(const phial::String& text);
+    double textSizeFor(const phial::String& text, double width) const;
     void mood(phial::enm_DrAtomMood value);
     void startThinking();
     void offerPatience();

@@ -82,6 +82,10 @@ public:
     virtual phial::String missing() const { return {}; }
     /// Further ones than MostLevelsShown are not offered.
     virtual std::vector<LevelTitle> levels() const = 0;
+    /// The highscore of the app's rounds. A classroom has one list of a name for all apps, so an app whose
+    /// rounds are not to be compared with those of others has a name of its own, which its `data/app.txt`
+    /// tells the master as well.
+    virtual phial::StringView highscore() const { return u"HIGHSCORE"; }
     /// What the teacher should mend in the app's files, in the language in force; empty for nothing.
     virtual phial::String complaint() const { return {}; }
 

@@ -37,7 +37,8 @@ void orTell(Action action, const String& failure)
 
 } // namespace
 
-SummaryPage::SummaryPage(phial::Form& form, const AppTexts& texts) : form_(form), texts_(texts), review_(form)
+SummaryPage::SummaryPage(phial::Form& form, const LearningApp& app)
+    : form_(form), texts_(app.texts()), highscore_(app.highscore()), review_(form)
 {
     const auto press = [this](StringView button, auto action) {
         connections_ += form_.control<phial::ctl_Button>(button)->CLICK.connect(action);
@@ -90,7 +91,7 @@ void SummaryPage::submit()
     try {
         const phial::CoreParameters additional = additionalValues(round_.result);
         handedIn = QVAPP()->RATE()->handIn(round_.result.points, round_.result.maximum,
-                                           round_.result.exercise, &additional);
+                                           round_.result.exercise, &additional, highscore_);
     } catch (const phial::RuntimeError&) {
         submitting(false); // the page goes on whatever happens to the lists
         throw;
@@ -173,7 +174,7 @@ void SummaryPage::showRank()
 void SummaryPage::showList()
 {
     QVAPP()->RATE()->HIGHSCORELIST(translate(u"Die besten Runden", u"The best rounds"),
-                                   rank_ > 0 ? rank_ : -1);
+                                   rank_ > 0 ? rank_ : -1, highscore_);
     tellAboutKeptLists();
 }
 
@@ -194,7 +195,7 @@ void SummaryPage::printCertificate()
 
 void SummaryPage::exportList()
 {
-    orTell([] { QVAPP()->RATE()->HIGHSCORE()->EXPORT(); },
+    orTell([this] { QVAPP()->RATE()->HIGHSCORE(highscore_)->EXPORT(); },
            translate(u"Die Datei konnte nicht geschrieben werden. Bitte wähle einen anderen Ort.",
                      u"The file could not be written. Please choose another place."));
 }

@@ -33,7 +33,7 @@ struct FinishedRound {
 class SummaryPage
 {
 public:
-    SummaryPage(phial::Form& form, const AppTexts& texts);
+    SummaryPage(phial::Form& form, const LearningApp& app);
     SummaryPage(const SummaryPage&) = delete;
     SummaryPage& operator=(const SummaryPage&) = delete;
 
@@ -64,6 +64,7 @@ private:
 
     phial::Form& form_;
     const AppTexts& texts_;
+    phial::StringView highscore_;
     phial::Connections connections_;
     ReviewList review_;
     FinishedRound round_;

@@ -90,7 +90,7 @@ frm_LearningApp::frm_LearningApp(std::unique_ptr<LearningApp> app, MasterSearch 
     layout_.emplace(*form_);
     app_->attach(*form_);
     tasks_.emplace(*form_, *app_);
-    summary_.emplace(*form_, app_->texts());
+    summary_.emplace(*form_, *app_);
     sounds_.emplace(*form_);
     colours_.emplace(*form_);
     mascot_.emplace(form_, pageMargin());
@@ -144,6 +144,11 @@ void frm_LearningApp::makeRoom()
         for (const auto& [control, place] : frame_design::BesideBoard) {
             form_->control<phial::Control>(control)->frame().pixelRectangle(
                 {place.left, place.top, place.width, place.height});
+        }
+        if (app_->texts().reference.empty()) { // the hint has the room of the button that is not there
+            const auto hint = get<phial::ctl_Label>(u"lab_Hint");
+            const auto unused = get<phial::ctl_Button>(u"but_Reference");
+            hint->Height(unused->Top() + unused->Height() - hint->Top());
         }
     }
 }

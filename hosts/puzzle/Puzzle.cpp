@@ -23,10 +23,10 @@ constexpr learning::AppTexts Texts{
     .title = u"Elemente-Puzzle|Element puzzle",
     .question = u"Wo steht welches Element?|Which element stands where?",
     .introduction =
-        u"Lege die Kärtchen mit den Symbolen an ihren Platz im Periodensystem: ziehen oder erst das "
-        u"Kärtchen, dann den Platz antippen. Wähle, wie schwer es werden soll:|"
-        u"Put the tiles with the symbols where they belong in the periodic table: drag them, or "
-        u"tap the tile and then its place. Choose how hard it shall be:",
+        u"Lege die Kärtchen an ihren Platz im Periodensystem: ziehen oder erst das Kärtchen, dann den Platz "
+        u"antippen.<br>Wähle, wie schwer es werden soll:|"
+        u"Put the tiles where they belong in the periodic table: drag them, or tap the tile and then its "
+        u"place.<br>Choose how hard it shall be:",
     .note = u"Eine Aufgabe ist gelöst, wenn alle ihre Kärtchen richtig liegen.<br>"
             u"Was nach einem Versuch richtig liegt, bleibt liegen.|"
             u"A task is solved when all its tiles lie in the right place.<br>"
@@ -46,7 +46,7 @@ constexpr learning::AppTexts Texts{
 
 constexpr double TitleSize = 14; // points
 
-// Of frames in the table, whose ground is white in each set of the app's colours.
+// Of frames within cells, which are light in each set of the app's colours.
 constexpr phial::Colour RightFrame = phial::Palette::shade(0x00703C);
 constexpr phial::Colour SolutionFrame = phial::Palette::shade(0x006AB5);
 
@@ -111,6 +111,7 @@ void Puzzle::attach(phial::Form& form)
     table_->frame().pixelRectangle({board.left, board.top, board.width, board.height});
     table_->MODE(phial::enm_PSEMode::ID_PSEMode_Place);
     table_->Colouring(phial::TableColours::ByTheme);
+    table_->BACKCOLOR(phial::Palette::Surface);
     phial::ignoringErrors([this] { table_->LOAD(data_.elementFile); });
 }
 

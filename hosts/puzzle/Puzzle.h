@@ -15,6 +15,7 @@ public:
 
     const learning::AppTexts& texts() const override;
     phial::String missing() const override;
+    phial::StringView highscore() const override { return u"PUZZLE"; }
     phial::String complaint() const override { return data_.tasks.complaint(); }
     std::vector<learning::LevelTitle> levels() const override { return data_.tasks.titles(); }
     learning::TaskRoom room() const override { return learning::TaskRoom::Board; }

@@ -129,11 +129,28 @@ bool overlap(const PixelRectangle& one, const PixelRectangle& other)
 }
 
 // The drawer alone stands on the feedback while it is open.
+TEST_F(BoardRoom, HasAPlaceOfItsOwnForEachControlOfAnAppWithADrawer)
+{
+    const auto& rows = frame_design::BesideBoard;
+    for (const auto& one : rows) {
+        for (const auto& other : rows) {
+            const auto area = [](const auto& row) {
+                return PixelRectangle{row.place.left, row.place.top, row.place.width, row.place.height};
+            };
+            EXPECT_TRUE(one.control == other.control || !overlap(area(one), area(other)) ||
+                        one.control == u"ref_Drawer" || other.control == u"ref_Drawer")
+                << phial::toUtf8(one.control) << " " << phial::toUtf8(other.control);
+        }
+    }
+}
+
+// This one has none, so that the button has left its room to the hint.
 TEST_F(BoardRoom, HasAPlaceOfItsOwnForEachControl)
 {
-    constexpr StringView Names[] = {u"brd_Test",  u"lab_BoardTitle", u"lab_Progress", u"dot_Round",
-                                    u"but_Check", u"but_Hint",       u"lab_Hint",     u"but_Reference",
-                                    u"but_Stop",  u"lab_Verdict",    u"lab_Feedback"};
+    EXPECT_FALSE(form().control<phial::Control>(u"but_Reference")->frame().isReachable());
+    constexpr StringView Names[] = {u"brd_Test",    u"lab_BoardTitle", u"lab_Progress", u"dot_Round",
+                                    u"but_Check",   u"but_Hint",       u"lab_Hint",     u"but_Stop",
+                                    u"lab_Verdict", u"lab_Feedback"};
     const PixelRectangle page = areaOf(u"pan_Task");
     for (const StringView one : Names) {
         EXPECT_LE(page.left, areaOf(one).left);

@@ -24,14 +24,19 @@ protected:
 
     const ElementFacts& element(StringView symbol) { return *book.find(symbol); }
     String trend(StringView symbol) { return trendOf(element(symbol), book); }
+    std::vector<const ElementFacts*> elements(std::initializer_list<StringView> symbols)
+    {
+        std::vector<const ElementFacts*> found;
+        for (const StringView symbol : symbols) {
+            found.push_back(&element(symbol));
+        }
+        return found;
+    }
     StringView praise(std::initializer_list<StringView> symbols)
     {
-        std::vector<const ElementFacts*> elements;
-        for (const StringView symbol : symbols) {
-            elements.push_back(&element(symbol));
-        }
-        return masteredIn(elements).front();
+        return masteredIn(elements(symbols)).front();
     }
+    static std::size_t lines(const String& text) { return phial::split(text, u"<br>").size(); }
 
     ElementBook book{phial::systemPath(phial::test::treeFolder()) + u"\\Resources\\data\\elements2.dat"};
 };
@@ -102,7 +107,36 @@ TEST_F(Neighbours, ArePraisedForWhatWasHard)
     EXPECT_EQ(praise({u"Fe", u"Ag"}), u"Auch in den Nebengruppen sicher.|Sure of the subgroups too.");
     EXPECT_EQ(praise({u"Pb", u"Na"}), u"Auch das Symbol erkannt, das anders klingt als der Name.|The symbol "
                                       u"that sounds unlike the name was known as well.");
+    EXPECT_EQ(praise({u"Na", u"K"}), u"Die Gruppe von oben nach unten richtig.|The group is right from top "
+                                     u"to bottom.");
+    EXPECT_EQ(masteredIn(elements({u"Ce", u"Eu"})).at(1),
+              u"Die Periode der Reihe nach richtig.|The period is right from left to right.")
+        << "there are no groups below the table";
+    EXPECT_EQ(praise({u"Mg"}), u"Jedes Kärtchen am richtigen Platz.|Each tile in its right place.");
     EXPECT_EQ(praise({u"Na"}), u"Jedes Kärtchen am richtigen Platz.|Each tile in its right place.");
+}
+
+// Sodium and tungsten sound unlike their symbols, Natrium and Wolfram do not.
+TEST_F(Neighbours, ArePraisedForASymbolByTheNameThatThePupilReads)
+{
+    constexpr StringView Unlike = u"Auch das Symbol erkannt, das anders klingt als der Name.|The symbol "
+                                  u"that sounds unlike the name was known as well.";
+    EXPECT_NE(praise({u"Na"}), Unlike);
+    EXPECT_EQ(praise({u"N"}), Unlike) << "Stickstoff";
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    EXPECT_EQ(praise({u"Na"}), Unlike);
+    EXPECT_NE(praise({u"N"}), Unlike);
+}
+
+TEST_F(Neighbours, HaveALineEachWhileThereIsRoom)
+{
+    EXPECT_EQ(lines(trendsText(elements({u"C", u"N", u"O"}), book)), 3U);
+    EXPECT_EQ(trendsText(elements({u"C", u"N", u"O", u"F"}), book),
+              trendsText(elements({u"C", u"N", u"O"}), book));
+    EXPECT_EQ(lines(placesText(elements({u"C", u"N", u"O"}))), 3U);
+    EXPECT_EQ(placesText(elements({u"C", u"N", u"O", u"F"})),
+              u"C (6): Periode 2, Hauptgruppe IV; N (7): Periode 2, Hauptgruppe V; "
+              u"O (8): Periode 2, Hauptgruppe VI; F (9): Periode 2, Hauptgruppe VII");
 }
 
 } // namespace

@@ -1,8 +1,15 @@
 #include "PuzzleTest.h"
+#include "app/cls_AppUser.h"
 #include "common/ctl_RoundDots.h"
+#include "core/Palette.h"
+#include "mascot/ctl_Bubble.h"
+#include "visual/Label.h"
 #include "visual/ListView.h"
+#include "visual/VisualHost.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 
 namespace puzzle
 {
@@ -203,7 +210,8 @@ TEST_F(PuzzleRound, GoesOnInTheOtherLanguage)
     EXPECT_EQ(focused(), u"pse_Table");
     touch(u"but_Check");
     EXPECT_EQ(seen(u"lab_Feedback"),
-              u"Right! In the right place, 10 points for you.<br>Each tile in its right place.");
+              u"Right! In the right place, 10 points for you.<br>The symbol that sounds unlike the name "
+              u"was known as well.");
     EXPECT_EQ(seen(u"lab_Hint"), u"Na (11): period 3, main group I");
     touch(u"but_Check");
     EXPECT_EQ(seen(u"lab_Theme"), u"Halogens");
@@ -228,6 +236,57 @@ TEST_F(PuzzleRound, FollowsTheColoursThatThePupilHasChosen)
 {
     begin(0);
     EXPECT_EQ(table().Colouring(), phial::TableColours::ByTheme);
+}
+
+TEST_F(PuzzleRound, StandsOnAGroundOfThoseColours)
+{
+    begin(0);
+    EXPECT_EQ(table().BACKCOLOR(), phial::Palette::Surface);
+}
+
+// A classroom has one list of a name for all apps.
+TEST_F(PuzzleRound, GoesToAListOfItsOwnThatTheMasterKnows)
+{
+    begin(1);
+    tryPlace(Potassium);
+    expectRankBox();
+    touch(u"but_Check");
+    EXPECT_TRUE(folder.has("public/Documents/QV Phial/Highscores/Puzzle/PUZZLE.qv-hsr"));
+    EXPECT_FALSE(folder.has("public/Documents/QV Phial/Highscores/Puzzle/HIGHSCORE.qv-hsr"));
+    EXPECT_EQ(seen(u"lab_Rank"), u"Platz 1 der Bestenliste");
+    outside.visual().onModal(u"frm_DialogHighscore", [](phial::Form& dialog) {
+        EXPECT_EQ(dialog.control<phial::Label>(u"lab_Ueb", 0)->Caption(), u"Leer");
+        dialog.Unload();
+    });
+    touch(u"but_List");
+    std::ifstream about(phial::test::treeFolder() / "apps/Puzzle/data/app.txt");
+    const std::string told(std::istreambuf_iterator<char>(about), {});
+    EXPECT_NE(told.find("Modules = \"PUZZLE\""), std::string::npos) << told;
+}
+
+TEST_F(PuzzleRound, HintsHaveTheRoomOfTheDrawerThatItDoesNotNeed)
+{
+    begin(0);
+    const auto hint = form().control<phial::ctl_Label>(u"lab_Hint")->frame().pixelRectangle();
+    const auto stop = form().control<phial::ctl_Button>(u"but_Stop")->frame().pixelRectangle();
+    const auto drawer = form().control<phial::ctl_Button>(u"but_Reference");
+    EXPECT_FALSE(drawer->frame().isReachable());
+    EXPECT_EQ(hint.bottom(), drawer->frame().pixelRectangle().bottom());
+    EXPECT_LT(hint.bottom(), stop.top);
+}
+
+// The column beside the board is narrow.
+TEST_F(PuzzleRound, NoWordIsBrokenInTheMascotsBalloon)
+{
+    open(TwoTasks);
+    phial::QVAPP()->USER()->SCREENNAME(u"Maximiliane-Sophie");
+    form().innerSize({1024, 581});
+    touch(u"but_Level", 0);
+    const auto balloon = form().control<phial::ctl_Bubble>(u"bub_Mascot");
+    ASSERT_TRUE(contains(balloon->TEXT(), u"Maximiliane-Sophie")) << phial::toUtf8(balloon->TEXT());
+    const auto face = phial::visualHost().metrics().face(balloon->TEXTFONT()->traits());
+    EXPECT_LE(face->width(u"Maximiliane-Sophie."),
+              balloon->frame().pixelRectangle().width - 2.0 * balloon->TEXTMARGIN() - balloon->SHADOWOFFX());
 }
 
 // As pictures of the app do it.
