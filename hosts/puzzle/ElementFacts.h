@@ -12,8 +12,8 @@ namespace puzzle
 /// What the puzzle knows about an element.
 struct ElementFacts {
     phial::String symbol;
-    phial::String german; ///< its name
-    phial::String english;
+    phial::String german;  ///< its name
+    phial::String english; ///< as within a sentence
     int protons = 0;
     double mass = 0; ///< in g/mol, as the table shows it
     phial::ElementPlace place;

@@ -90,7 +90,7 @@ constexpr PlacePraise Praises[] = {
      u"Auch in den Nebengruppen sicher.|Sure of the subgroups too."},
     {[](const Elements& elements) {
          return std::ranges::any_of(elements, [](const ElementFacts* each) {
-             return !nameOf(*each).starts_with(each->symbol.substr(0, 1));
+             return phial::lowerCase(nameOf(*each).front()) != phial::lowerCase(each->symbol.front());
          });
      },
      u"Auch das Symbol erkannt, das anders klingt als der Name.|"

@@ -72,7 +72,7 @@ TEST_F(Neighbours, AboveTellOfGroupAndShells)
     EXPECT_EQ(trend(u"Ag"), u"Ag: steht unter Kupfer und ist ihm ähnlich.");
     EXPECT_EQ(trend(u"U"), u"U: steht unter Neodym und ist ihm ähnlich.");
     phial::LNG()->CURRENT(phial::ID_Language_English);
-    EXPECT_EQ(trend(u"Cl"), u"Cl: stands below Fluorine, so 7 outer electrons too, but one shell more.");
+    EXPECT_EQ(trend(u"Cl"), u"Cl: stands below fluorine, so 7 outer electrons too, but one shell more.");
 }
 
 // Neon has eight outer electrons, helium above it two.
@@ -126,6 +126,29 @@ TEST_F(Neighbours, ArePraisedForASymbolByTheNameThatThePupilReads)
     phial::LNG()->CURRENT(phial::ID_Language_English);
     EXPECT_EQ(praise({u"Na"}), Unlike);
     EXPECT_NE(praise({u"N"}), Unlike);
+}
+
+// The names of the IUPAC, in the order of the protons.
+TEST_F(Neighbours, HaveTheirEnglishNames)
+{
+    constexpr StringView Names =
+        u"hydrogen helium lithium beryllium boron carbon nitrogen oxygen fluorine neon sodium magnesium "
+        u"aluminium silicon phosphorus sulfur chlorine argon potassium calcium scandium titanium vanadium "
+        u"chromium manganese iron cobalt nickel copper zinc gallium germanium arsenic selenium bromine "
+        u"krypton rubidium strontium yttrium zirconium niobium molybdenum technetium ruthenium rhodium "
+        u"palladium silver cadmium indium tin antimony tellurium iodine xenon caesium barium lanthanum "
+        u"cerium praseodymium neodymium promethium samarium europium gadolinium terbium dysprosium holmium "
+        u"erbium thulium ytterbium lutetium hafnium tantalum tungsten rhenium osmium iridium platinum gold "
+        u"mercury thallium lead bismuth polonium astatine radon francium radium actinium thorium "
+        u"protactinium uranium neptunium plutonium americium curium berkelium californium einsteinium "
+        u"fermium mendelevium nobelium lawrencium rutherfordium dubnium seaborgium bohrium hassium "
+        u"meitnerium darmstadtium roentgenium copernicium nihonium flerovium moscovium livermorium "
+        u"tennessine oganesson";
+    const auto names = phial::split(Names, u" ");
+    ASSERT_EQ(names.size(), book.all().size());
+    for (std::size_t at = 0; at < names.size(); ++at) {
+        EXPECT_EQ(book.all()[at].english, names[at]);
+    }
 }
 
 TEST_F(Neighbours, HaveALineEachWhileThereIsRoom)

@@ -230,6 +230,9 @@ TEST_F(PuzzleRound, GivesNoPeriodAwayByTheColourOfAPlace)
     drag(0, Sodium);
     touch(u"but_Check");
     EXPECT_FALSE(table().GONE()->Exists(u"Na")) << "it is told now";
+    EXPECT_TRUE(table().HIGHLIGHTS()->Exists(u"Na"));
+    touch(u"but_Check");
+    EXPECT_FALSE(table().HIGHLIGHTS()->Exists(u"Na")) << "which is another task's";
 }
 
 TEST_F(PuzzleRound, FollowsTheColoursThatThePupilHasChosen)

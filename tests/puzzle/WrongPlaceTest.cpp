@@ -114,7 +114,7 @@ TEST_F(WrongPlaces, AreToldInEnglishToo)
     EXPECT_EQ(said(u"Br", u"Cl"), u"Br: same group, but one period lower.");
     EXPECT_EQ(said(u"I", u"F"), u"I: same group, but 3 periods lower.");
     EXPECT_EQ(said(u"Mg", u"S"), u"Mg: same period, but 4 groups further left.");
-    EXPECT_EQ(said(u"N", u"Na"), u"Easily mixed up: N is Nitrogen, Na is Sodium.");
+    EXPECT_EQ(said(u"N", u"Na"), u"Easily mixed up: N is nitrogen, Na is sodium.");
     EXPECT_EQ(said(u"Te", u"I"), u"Te and I: here protons count, not the mass.");
 }
 
