@@ -19,6 +19,9 @@
 #include <QFocusFrame>
 #include <QPointingDevice>
 #include <QTest>
+#include <QTouchEvent>
+
+#include <algorithm>
 
 using namespace phial;
 using namespace phial::qt;
@@ -158,6 +161,70 @@ TEST_F(PeriodicWindow, AFingerTapsAndRests)
     QTest::touchEvent(&widget, device.get()).release(0, middleOf(14, 1), &widget);
     EXPECT_EQ(clicked_, u"Fe");
     EXPECT_TRUE(bubble->Visible());
+}
+
+/// Two tiles, and fingers on them.
+class PeriodicFingers : public PeriodicWindow
+{
+protected:
+    PeriodicFingers()
+    {
+        table_->MODE(enm_PSEMode::ID_PSEMode_Place);
+        table_->DRAGADD(u"F");
+        table_->DRAGADD(u"Cl");
+    }
+    static QPoint home(int slot) { return {(3 * slot + 7) * CellEdge / 2, 9 * CellEdge + CellEdge / 2}; }
+    auto touch() { return QTest::touchEvent(&shown(), device_.get()); }
+    bool isAnyTaken() const
+    {
+        return std::ranges::any_of(table_->parts(), [](const NamedPart& part) { return part.state.pressed; });
+    }
+
+    std::unique_ptr<QPointingDevice> device_{QTest::createTouchDevice()};
+};
+
+TEST_F(PeriodicFingers, TheFirstOfTwoDragsItsTile)
+{
+    QWidget* const widget = &shown();
+    touch().press(0, home(0), widget);
+    touch().stationary(0).press(1, home(1), widget);
+    touch().move(0, middleOf(16, 1), widget).move(1, middleOf(16, 2), widget);
+    touch().release(0, middleOf(16, 1), widget).stationary(1);
+    touch().release(1, middleOf(16, 2), widget);
+    EXPECT_EQ(table_->DRAGSYMBOLDROP(0), u"F");
+    EXPECT_EQ(table_->DRAGSYMBOLDROP(1), u"");
+    EXPECT_FALSE(isAnyTaken());
+    touch().press(0, home(1), widget);
+    touch().move(0, middleOf(16, 2), widget);
+    touch().release(0, middleOf(16, 2), widget);
+    EXPECT_EQ(table_->DRAGSYMBOLDROP(1), u"Cl");
+}
+
+TEST_F(PeriodicFingers, OneThatLeavesTheWindowBringsItsTileHome)
+{
+    QWidget* const widget = &shown();
+    touch().press(0, home(0), widget);
+    touch().move(0, {-900, 40}, widget);
+    touch().release(0, {-900, 40}, widget);
+    EXPECT_EQ(table_->DRAGSYMBOLDROP(0), u"");
+    EXPECT_FALSE(isAnyTaken());
+    touch().press(0, home(0), widget);
+    touch().release(0, home(0), widget);
+    EXPECT_TRUE(isAnyTaken()) << "it is there to be taken";
+}
+
+TEST_F(PeriodicFingers, WhatTheDesktopTakesBackLeavesTheTableToOthers)
+{
+    QWidget* const widget = &shown();
+    touch().press(0, home(0), widget);
+    touch().move(0, middleOf(4, 4), widget);
+    QTouchEvent cancelled(QEvent::TouchCancel, device_.get());
+    QApplication::sendEvent(widget, &cancelled);
+    EXPECT_FALSE(isAnyTaken());
+    touch().press(1, home(1), widget);
+    touch().move(1, middleOf(16, 2), widget);
+    touch().release(1, middleOf(16, 2), widget);
+    EXPECT_EQ(table_->DRAGSYMBOLDROP(1), u"Cl");
 }
 
 } // namespace
