@@ -135,13 +135,18 @@ void PainterBackend::apply(const Ink& ink, const Raster& raster, const QRectF& b
 {
     const std::optional<BitMerge> merge = mergeOf(raster);
     if (!ink.cut && !merge) {
-        if (!painter_.testRenderHint(QPainter::Antialiasing)) { // setting it costs as much as a small box
-            painter_.setRenderHint(QPainter::Antialiasing);
-        }
-        drawing(painter_);
+        drawing(smoothPainter());
         return;
     }
     combine(merge, bounds.toAlignedRect().adjusted(-1, -1, 1, 1), std::cref(drawing));
+}
+
+QPainter& PainterBackend::smoothPainter()
+{
+    if (!painter_.testRenderHint(QPainter::Antialiasing)) { // setting it costs as much as a small box
+        painter_.setRenderHint(QPainter::Antialiasing);
+    }
+    return painter_;
 }
 
 void PainterBackend::fillShape(const QPainterPath& path, const Fill& fill)
@@ -166,7 +171,18 @@ void PainterBackend::fillBox(const QRect& box, const Ink& ink, const Raster& ras
     if (box.isEmpty()) {
         return;
     }
-    apply(ink, raster, box, [&](QPainter& painter) { painter.fillRect(box, toQColor(ink.colour)); });
+    const QColor colour = toQColor(ink.colour);
+    const std::optional<BitMerge> merge = mergeOf(raster);
+    if (!ink.cut && !merge) {
+        paintBox(box, colour);
+        return;
+    }
+    combine(merge, box, [&](QPainter& painter) { painter.fillRect(box, colour); });
+}
+
+void PainterBackend::paintBox(const QRect& box, const QColor& colour)
+{
+    smoothPainter().fillRect(box, colour);
 }
 
 void PainterBackend::clear(Ink ink)

@@ -64,11 +64,14 @@ protected:
                          const Drawing& drawing) = 0;
     /// The toolkit's view of the picture's memory, for one drawing.
     virtual QImage viewOf(const Picture& picture);
+    /// A box of one colour, not empty, upon what is there.
+    virtual void paintBox(const QRect& box, const QColor& colour);
 
 private:
     void fillShape(const QPainterPath& path, const Fill& fill);
     void strokeShape(const QPainterPath& path, const Stroke& stroke);
     void fillBox(const QRect& box, const Ink& ink, const Raster& raster);
+    QPainter& smoothPainter();
     template <typename Shape>
     void apply(const Ink& ink, const Raster& raster, const QRectF& bounds, const Shape& drawing);
     void straightLine(PixelPoint from, PixelPoint to, const Stroke& stroke);

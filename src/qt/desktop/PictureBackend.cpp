@@ -4,6 +4,7 @@
 #include "qt/desktop/GradientImage.h"
 #include "qt/desktop/PictureImage.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace phial::qt
@@ -13,6 +14,7 @@ namespace
 {
 
 constexpr unsigned HalfCovered = 128;
+constexpr int Opaque = 255;
 
 QImage writableImageOf(Picture& picture)
 {
@@ -62,6 +64,23 @@ QImage PictureBackend::viewOf(const Picture& picture)
 {
     return views_.get({picture.pixels().data(), picture.columns(), picture.rows()},
                       [&] { return imageOf(picture); });
+}
+
+/// Row by row: most boxes are thin lines, for which the toolkit's painter takes much longer to get ready.
+void PictureBackend::paintBox(const QRect& box, const QColor& colour)
+{
+    if (colour.alpha() != Opaque) {
+        PainterBackend::paintBox(box, colour);
+        return;
+    }
+    const QRect seen = visible(box);
+    const QRgb held = colour.rgb();
+    const std::span<std::uint32_t> pixels = picture_->pixels();
+    for (int row = seen.top(); row <= seen.bottom(); ++row) {
+        const auto first =
+            static_cast<std::size_t>(row) * picture_->columns() + static_cast<std::size_t>(seen.left());
+        std::ranges::fill(pixels.subspan(first, static_cast<std::size_t>(seen.width())), held);
+    }
 }
 
 // The drawing goes to a layer of its own, which tells the pixels that are meant.

@@ -26,6 +26,7 @@ public:
 private:
     void combine(const std::optional<BitMerge>& merge, const QRect& bounds, const Drawing& drawing) override;
     QImage viewOf(const Picture& picture) override;
+    void paintBox(const QRect& box, const QColor& colour) override;
     QRect visible(const QRect& bounds) const;
 
     PicturePtr picture_;
