@@ -35,9 +35,17 @@ void pressWhole(UserControl& control)
 } // namespace
 
 ControlInterface::ControlInterface(ControlWidget& widget)
-    : QAccessibleWidget(&widget), told_(widget.parts()),
-      toldState_(widget.control().frame().AccessibleState())
+    : QAccessibleWidget(&widget), toldState_(widget.control().frame().AccessibleState())
 {
+}
+
+const std::vector<NamedPart>& ControlInterface::parts() const
+{
+    const std::vector<NamedPart>& now = controlWidget().parts();
+    if (!told_) {
+        told_ = now;
+    }
+    return now;
 }
 
 PartRole ControlInterface::partRole() const
@@ -195,14 +203,18 @@ void ControlInterface::forget()
 
 void ControlInterface::partsChanged()
 {
-    const std::vector<NamedPart> before = std::exchange(told_, parts());
     tellState(std::exchange(toldState_, control().frame().AccessibleState()));
-    if (before.size() != told_.size()) {
+    if (!told_) {
+        return;
+    }
+    const std::vector<NamedPart>& now = controlWidget().parts();
+    const std::vector<NamedPart> before = std::exchange(*told_, now);
+    if (before.size() != now.size()) {
         forget();
         update(QAccessibleEvent(widget(), QAccessible::ObjectReorder));
         return;
     }
-    for (const PartChange& change : changesOf(before, told_)) {
+    for (const PartChange& change : changesOf(before, now)) {
         tell(change);
     }
 }

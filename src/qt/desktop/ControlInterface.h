@@ -77,7 +77,7 @@ public:
 private:
     ControlWidget& controlWidget() const { return static_cast<ControlWidget&>(*widget()); }
     UserControl& control() const { return controlWidget().control(); }
-    const std::vector<NamedPart>& parts() const { return controlWidget().parts(); }
+    const std::vector<NamedPart>& parts() const;
     TextEntry entry() const { return control().frame().textEntry().value_or(TextEntry()); }
     PartRole partRole() const;
     bool isOneText() const { return partRole() == PartRole::StaticText; }
@@ -89,8 +89,9 @@ private:
     void tell(const PartChange& change);
 
     mutable std::map<std::size_t, QAccessible::Id> ids_;
-    std::vector<NamedPart> told_; ///< the parts as screen readers know them
-    PartState toldState_;         ///< of the control itself
+    mutable std::optional<std::vector<NamedPart>>
+        told_;            ///< as screen readers know them; none before they ask
+    PartState toldState_; ///< of the control itself
 };
 
 } // namespace phial::qt
