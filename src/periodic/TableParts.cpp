@@ -73,6 +73,12 @@ std::optional<std::int32_t> slotOfPart(const PeriodicSheet& sheet, std::size_t p
     return part >= cells && part - cells < slots.size() ? std::optional(slots[part - cells]) : std::nullopt;
 }
 
+PixelRectangle areaOfPart(const PeriodicSheet& sheet, std::size_t part)
+{
+    const auto slot = slotOfPart(sheet, part);
+    return slot ? sheet.tiles.at(*slot).area : sheet.cells().at(part).painted.area;
+}
+
 CursorStop stopOf(const DragTile& tile, std::int32_t slot, std::size_t part)
 {
     return tile.target

@@ -16,6 +16,8 @@ namespace phial
 std::vector<NamedPart> partsOf(const PeriodicSheet& sheet);
 /// The tile that is a part; none for a cell.
 std::optional<std::int32_t> slotOfPart(const PeriodicSheet& sheet, std::size_t part);
+/// The same area that partsOf tells.
+PixelRectangle areaOfPart(const PeriodicSheet& sheet, std::size_t part);
 
 /// Where the cursor can stand: on each cell, or on the upper tile there, and on tiles that lie elsewhere.
 std::vector<CursorStop> stopsOf(const PeriodicSheet& sheet);

@@ -4,6 +4,7 @@
 #include "periodic/PeriodicSheet.h"
 #include "periodic/TableCursor.h"
 #include "periodic/TileHand.h"
+#include "visual/PaintHints.h"
 #include "visual/PaintSurface.h"
 #include "visual/UserControl.h"
 
@@ -36,7 +37,7 @@ enum class enm_PSEMode : std::int32_t {
 /// the cells at once and marks the control for painting.
 ///
 /// Persisted: "BACKCOLOR", "FIXEDSIZE", "MODE", "ElektronenZustand", and "Colouring" where it is not Classic.
-class ctl_PSE final : public UserControl
+class ctl_PSE final : public UserControl, public PaintHints
 {
 public:
     ctl_PSE();
@@ -107,6 +108,8 @@ public:
     void activatePart(std::size_t part) override;
     bool movesThroughParts() const override { return true; }
     std::optional<std::size_t> currentPart() const override;
+    bool coversAll() const override { return true; }
+    std::optional<PixelRectangle> currentPartArea() const override;
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
     void resized() override;

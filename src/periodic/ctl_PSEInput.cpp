@@ -253,6 +253,12 @@ std::optional<std::size_t> ctl_PSE::currentPart() const
     return stop ? std::optional(stop->part) : std::nullopt;
 }
 
+std::optional<PixelRectangle> ctl_PSE::currentPartArea() const
+{
+    const auto part = currentPart();
+    return part ? std::optional(areaOfPart(sheet_, *part)) : std::nullopt;
+}
+
 void ctl_PSE::putCursor(const CursorStop& stop)
 {
     cursor_ = stop;

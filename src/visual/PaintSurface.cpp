@@ -26,6 +26,7 @@ void PaintSurface::imagedPart(std::optional<PixelRectangle> value)
 {
     if (part_ != value) {
         part_ = value;
+        reported_ = false; // what it covers is told whatever has been told of the picture
         invalidate();
     }
 }
@@ -130,6 +131,7 @@ void PaintSurface::transparent(bool value)
 {
     if (device_.transparent() != value) {
         device_.transparent(value);
+        reported_ = false;
         invalidate();
     }
 }

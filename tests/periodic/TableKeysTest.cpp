@@ -32,6 +32,8 @@ protected:
     std::string current() const
     {
         const auto part = table->currentPart();
+        EXPECT_EQ(table->currentPartArea(),
+                  part ? std::optional(table->parts().at(*part).area) : std::nullopt);
         const std::string name = part ? toUtf8(table->parts().at(*part).name) : "";
         return name.substr(0, name.find(','));
     }

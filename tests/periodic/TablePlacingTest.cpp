@@ -40,6 +40,8 @@ protected:
     std::string currentName() const
     {
         const auto part = table->currentPart();
+        EXPECT_EQ(table->currentPartArea(),
+                  part ? std::optional(table->parts().at(*part).area) : std::nullopt);
         return part ? toUtf8(table->parts().at(*part).name) : "";
     }
     void type(StringView keys) { headless::type(*form, keys); }

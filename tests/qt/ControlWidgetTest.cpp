@@ -4,6 +4,7 @@
 #include "qt/desktop/PartNavigation.h"
 #include "results/ctl_Mark.h"
 #include "term/ctl_TermLabel.h"
+#include "visual/PaintHints.h"
 #include "visual/PaintSurface.h"
 #include "visual/PictureBox.h"
 #include "visual/TextBox.h"
@@ -12,6 +13,8 @@
 
 #include <QAccessible>
 #include <QImage>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -117,6 +120,82 @@ TEST_F(ControlWidgetTest, APaintedPartStandsAtItsPlaceAtEveryRatio)
         EXPECT_EQ(at(5, 25).alpha(), 0) << scale;
         EXPECT_EQ(at(15, 15).alpha(), 0) << scale;
     }
+}
+
+/// A control that paints all of itself red.
+class CoveringControl final : public UserControl, public PaintHints
+{
+public:
+    CoveringControl() : frame_(*this), surface_(*this) { surface_.BackColor(QBColor(12)); }
+    StringView typeName() const override { return u"CoveringControl"; }
+    MemberTable members() const override { return {}; }
+    ControlFrame& frame() override { return frame_; }
+    PaintSurface& surface() override { return surface_; }
+    void paint() override { surface_.device().Cls(); }
+    bool coversAll() const override { return true; }
+    std::optional<PixelRectangle> currentPartArea() const override { return std::nullopt; }
+    void resized() override { surface_.resized(); }
+
+private:
+    ControlFrame frame_;
+    PaintSurface surface_;
+};
+
+/// What lies below a control.
+class Below final : public QWidget
+{
+public:
+    QRegion painted;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        painted += event->region();
+        QPainter(this).fillRect(rect(), Qt::blue);
+    }
+};
+
+TEST_F(ControlWidgetTest, NothingIsPaintedBelowAControlThatCoversIt)
+{
+    Below below;
+    below.resize(60, 40);
+    const auto control = makeControl<CoveringControl>();
+    auto* widget = new ControlWidget(control, &below);
+    widget->setGeometry(10, 10, 20, 10);
+    EXPECT_EQ(grabbed(below, 1).pixelColor(15, 15), QColor(255, 0, 0));
+    below.show();
+    QApplication::processEvents();
+    below.painted = {};
+    below.update();
+    QApplication::processEvents();
+    EXPECT_FALSE(below.painted.intersects(QRect(10, 10, 20, 10)));
+    EXPECT_TRUE(below.painted.contains(QPoint(35, 15)));
+
+    control->surface().imagedPart(PixelRectangle{0, 0, 5, 5});
+    QApplication::processEvents();
+    EXPECT_TRUE(below.painted.contains(QPoint(25, 15)));
+    EXPECT_EQ(grabbed(below, 1).pixelColor(25, 15), QColor(0, 0, 255));
+
+    below.painted = {};
+    control->surface().imagedPart(std::nullopt);
+    control->surface().transparent(true);
+    QApplication::processEvents();
+    EXPECT_TRUE(below.painted.contains(QPoint(15, 15)));
+    EXPECT_EQ(grabbed(below, 1).pixelColor(15, 15), QColor(0, 0, 255));
+}
+
+TEST_F(ControlWidgetTest, AControlThatCoversAllIsPaintedToItsRoundedEdges)
+{
+    Below below;
+    below.resize(60, 40);
+    const auto control = makeControl<CoveringControl>();
+    ControlWidget widget(control, &below, ControlWidget::Placement::Floating);
+    control->frame().pixelRectangle({0.4, 0.4, 10.2, 10.2});
+    ASSERT_EQ(widget.geometry(), QRect(0, 0, 11, 11));
+    const QImage shown = grabbed(below, 2); // the picture has 21 pixels, the widget 22
+    EXPECT_EQ(shown.pixelColor(21, 5), QColor(255, 0, 0));
+    EXPECT_EQ(shown.pixelColor(5, 21), QColor(255, 0, 0));
+    EXPECT_EQ(shown.pixelColor(22, 5), QColor(0, 0, 255));
 }
 
 TEST_F(ControlWidgetTest, PressesMovesAndClicksReachTheControl)

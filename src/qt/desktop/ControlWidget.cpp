@@ -4,6 +4,7 @@
 #include "qt/desktop/Composing.h"
 #include "qt/desktop/ContainerWidgets.h"
 #include "qt/desktop/ControlWidgetAccessible.h"
+#include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/Dispatch.h"
 #include "qt/desktop/FocusRing.h"
 #include "qt/desktop/ForeignParent.h"
@@ -14,6 +15,7 @@
 #include "qt/desktop/WidgetAspects.h"
 #include "qt/desktop/WindowHandles.h"
 #include "visual/KeyboardFocus.h"
+#include "visual/PaintHints.h"
 #include "visual/PaintSurface.h"
 
 #include <QApplication>
@@ -54,14 +56,15 @@ private:
 };
 
 ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* parent, Placement placement)
-    : QWidget(parent), control_(std::move(control)), placement_(placement), inputMethod_(*this, *control_),
-      touch_(*this, *control_)
+    : QWidget(parent), control_(std::move(control)), hints_(dynamic_cast<const PaintHints*>(control_.get())),
+      placement_(placement), inputMethod_(*this, *control_), touch_(*this, *control_)
 {
     installPartAccessibility();
     showFocusByRing();
     setMouseTracking(true);
     setAcceptDrops(true);
     setAttribute(Qt::WA_AcceptTouchEvents, control_->frame().takesTouch());
+    followOpacity();
     peer_ = std::make_unique<Peer>(*this);
     registerWindow(control_->hWnd(), *this);
     connect(&ThemeNews::instance(), &ThemeNews::changed, this, [this] { update(); });
@@ -123,6 +126,7 @@ void ControlWidget::modelChanged(ControlAspect aspect)
     }
     switch (aspect) {
     case ControlAspect::Picture:
+        followOpacity();
         update();
         if (control_->surface().MaskPicture()) {
             tellShape(*this);
@@ -219,13 +223,40 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/)
 {
     dispatch([&] {
         QPainter painter(this);
-        const double zoom = zoomOf(*control_);
-        const PicturePtr picture = control_->surface().image(paintRatio(painter) * zoom);
-        painter.scale(zoom, zoom);
-        const PixelRectangle part = control_->surface().imagedPart();
-        painter.drawImage(QPointF(part.left, part.top), imageForPainting(*picture));
+        const double ratio = paintRatio(painter);
+        const PicturePtr picture = control_->surface().image(ratio * zoomOf(*control_));
+        painter.scale(1 / ratio, 1 / ratio); // pixels of the device are copied, which is faster than scaling
+        paintPicture(painter, *picture, ratio);
         followParts();
     });
+}
+
+void ControlWidget::paintPicture(QPainter& painter, const Picture& picture, double ratio)
+{
+    const PaintSurface& surface = control_->surface();
+    if (testAttribute(Qt::WA_OpaquePaintEvent)) {
+        // A widget's edges are rounded to larger pixels than those of the picture.
+        const QSizeF all = QSizeF(size()) * ratio;
+        const auto columns = static_cast<double>(picture.columns());
+        const auto rows = static_cast<double>(picture.rows());
+        const QColor ground = toQColor(surface.BackColor());
+        painter.fillRect(QRectF(columns, 0, all.width() - columns, all.height()), ground);
+        painter.fillRect(QRectF(0, rows, all.width(), all.height() - rows), ground);
+        painter.drawImage(0, 0, opaqueImageOf(picture));
+    } else {
+        const QPointF corner(surface.imagedPart().left, surface.imagedPart().top);
+        painter.drawImage(corner * zoomOf(*control_) * ratio, imageOf(picture));
+    }
+}
+
+// Where the control covers what lies below, that need not be painted.
+void ControlWidget::followOpacity()
+{
+    const PaintSurface& surface = control_->surface();
+    const PixelSize size = surface.size();
+    setAttribute(Qt::WA_OpaquePaintEvent,
+                 hints_ && hints_->coversAll() && !surface.transparent() && !surface.device().MaskColor() &&
+                     surface.imagedPart() == PixelRectangle{0, 0, size.width, size.height});
 }
 
 // The control's place has changed by itself.

@@ -11,6 +11,11 @@
 #include <optional>
 #include <vector>
 
+namespace phial
+{
+class PaintHints;
+}
+
 namespace phial::qt
 {
 
@@ -97,6 +102,8 @@ private:
     class Peer;
 
     void modelChanged(ControlAspect aspect);
+    void paintPicture(QPainter& painter, const Picture& picture, double ratio);
+    void followOpacity();
     void textChanged();
     bool touched(QTouchEvent& event);
     void findParent();
@@ -121,6 +128,7 @@ private:
     void beginDrag();
 
     std::shared_ptr<UserControl> control_;
+    const PaintHints* hints_; ///< null for a control that gives none
     Placement placement_;
     std::unique_ptr<Peer> peer_;
     InputMethodLink inputMethod_;

@@ -7,6 +7,7 @@
 #include "qt/desktop/FormKeys.h"
 #include "qt/desktop/PartNavigation.h"
 #include "qt/desktop/WidgetAspects.h"
+#include "visual/PaintHints.h"
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>
@@ -25,6 +26,10 @@ std::optional<std::size_t> ControlWidget::currentPart() const
 
 QRectF ControlWidget::focusPlace() const
 {
+    if (hints_ && control_->movesThroughParts()) {
+        const auto area = hints_->currentPartArea();
+        return area ? zoomed(*area, *control_) : QRectF(rect());
+    }
     const auto part = currentPart();
     return part && *part < parts().size() ? zoomed(parts()[*part].area, *control_) : QRectF(rect());
 }

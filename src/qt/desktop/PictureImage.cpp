@@ -13,14 +13,24 @@ namespace
 
 constexpr auto Format = QImage::Format_ARGB32_Premultiplied;
 
-} // namespace
-
-QImage imageOf(const Picture& picture)
+QImage viewOf(const Picture& picture, QImage::Format format)
 {
     const auto columns = static_cast<int>(picture.columns());
     return {reinterpret_cast<const uchar*>(picture.pixels().data()), columns,
             static_cast<int>(picture.rows()),
-            static_cast<qsizetype>(columns) * static_cast<qsizetype>(sizeof(std::uint32_t)), Format};
+            static_cast<qsizetype>(columns) * static_cast<qsizetype>(sizeof(std::uint32_t)), format};
+}
+
+} // namespace
+
+QImage imageOf(const Picture& picture)
+{
+    return viewOf(picture, Format);
+}
+
+QImage opaqueImageOf(const Picture& picture)
+{
+    return viewOf(picture, QImage::Format_RGB32);
 }
 
 // A view of constant memory would be copied as soon as it gets its ratio.

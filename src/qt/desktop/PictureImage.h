@@ -12,6 +12,9 @@ namespace phial::qt
 /// is 1: it counts the pixels held.
 QImage imageOf(const Picture& picture);
 
+/// The same of a picture without see-through pixels, which is painted faster.
+QImage opaqueImageOf(const Picture& picture);
+
 /// The same with the picture's ratio, to be painted in logical pixels. Only for reading.
 QImage imageForPainting(const Picture& picture);
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "visual/Geometry.h"
+
+#include <optional>
+
+namespace phial
+{
+
+/// What a painted control tells so that it is shown faster. A control that can tell it derives from this
+/// beside UserControl.
+class PaintHints
+{
+public:
+    /// Whether `paint` leaves no pixel see-through, so that what lies below needs no painting. Where the
+    /// control's ground or a colour is made see-through, that counts instead.
+    virtual bool coversAll() const = 0;
+    /// The area of currentPart(), which is asked for at each painting and so without the parts' names.
+    virtual std::optional<PixelRectangle> currentPartArea() const = 0;
+
+protected:
+    ~PaintHints() = default;
+};
+
+} // namespace phial
