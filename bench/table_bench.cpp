@@ -57,9 +57,6 @@ public:
         table->FIXEDSIZE(true);
         table->Move(0, 0, size.width, size.height);
         table->LOAD(elementFile());
-        if (table->parts().size() != 118) {
-            throw std::runtime_error("the elements are missing");
-        }
     }
     ~TableOnForm() { form->discard(); }
     TableOnForm(const TableOnForm&) = delete;
@@ -84,6 +81,9 @@ PeriodicSheet filledSheet(cls_DataElements& elements)
     sheet.grid = {Edge, Edge};
     sheet.style.fontName = u"Calibri";
     sheet.fill(elements);
+    if (sheet.cells().size() != 118) {
+        throw std::runtime_error("the elements are missing");
+    }
     return sheet;
 }
 
@@ -252,15 +252,16 @@ public:
         painter->drawLine(area_.topLeft(), area_.topRight());
         painter->setPen(Qt::black);
         painter->drawRect(area_);
-        constexpr double Large = 24; // points, as the table has them at this size
-        constexpr double Small = 13;
-        painter->setFont(font(Small));
+        // In points, as the table has them at this size.
+        static const QFont Small = font(13);
+        static const QFont Large = font(24);
+        painter->setFont(Small);
         painter->setPen(Qt::red);
         painter->drawText(area_, Qt::AlignLeft | Qt::AlignBottom, protons_);
         painter->setPen(base_.darker());
         painter->drawText(area_, Qt::AlignLeft | Qt::AlignTop, mass_);
         painter->setPen(Qt::black);
-        painter->setFont(font(Large));
+        painter->setFont(Large);
         painter->drawText(area_, Qt::AlignCenter, symbol_);
         if (isDouble_) {
             painter->drawText(area_, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("*"));
