@@ -109,8 +109,8 @@ String groupOf(const ElementFacts& element)
                                       : translate(u"Actinide", u"actinides");
     }
     const String group(GroupNumbers.at(static_cast<std::size_t>(element.group() - 1)));
-    return element.isMainGroup() ? translate(u"Hauptgruppe {1}", u"main group {1}", {group})
-                                 : translate(u"Nebengruppe {1}", u"subgroup {1}", {group});
+    return element.isMainGroup() ? translate(u"Hauptgruppe\u00A0{1}", u"main\u00A0group\u00A0{1}", {group})
+                                 : translate(u"Nebengruppe\u00A0{1}", u"subgroup\u00A0{1}", {group});
 }
 
 } // namespace puzzle

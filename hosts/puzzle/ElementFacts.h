@@ -60,7 +60,7 @@ private:
 /// Its name in the language in force.
 phial::String nameOf(const ElementFacts& element);
 /// "Hauptgruppe VII", "Nebengruppe IVa", "Lanthanide", as the table's captions have it, in the language in
-/// force.
+/// force. No line ends within it.
 phial::String groupOf(const ElementFacts& element);
 
 } // namespace puzzle

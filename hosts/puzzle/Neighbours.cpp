@@ -132,7 +132,7 @@ String trendsText(const Elements& elements, const ElementBook& book)
 
 String placeText(const ElementFacts& element)
 {
-    return translate(u"{1} ({2}): Periode {3}, {4}", u"{1} ({2}): period {3}, {4}",
+    return translate(u"{1}\u00A0({2}): Periode\u00A0{3}, {4}", u"{1}\u00A0({2}): period\u00A0{3}, {4}",
                      {element.symbol, number(element.protons), number(element.period()), groupOf(element)});
 }
 

@@ -87,12 +87,12 @@ TEST_F(Neighbours, BeforeTellWhereThereIsNoneAlikeAbove)
 
 TEST_F(Neighbours, TellThePlaceByPeriodAndGroup)
 {
-    EXPECT_EQ(placeText(element(u"Cl")), u"Cl (17): Periode 3, Hauptgruppe VII");
-    EXPECT_EQ(placeText(element(u"Fe")), u"Fe (26): Periode 4, Nebengruppe VIIIa");
-    EXPECT_EQ(placeText(element(u"Cu")), u"Cu (29): Periode 4, Nebengruppe Ia");
-    EXPECT_EQ(placeText(element(u"U")), u"U (92): Periode 7, Actinide");
-    EXPECT_EQ(placeText(element(u"Lu")), u"Lu (71): Periode 6, Lanthanide");
-    EXPECT_EQ(placeText(element(u"H")), u"H (1): Periode 1, Hauptgruppe I");
+    EXPECT_EQ(placeText(element(u"Cl")), u"Cl\u00A0(17): Periode\u00A03, Hauptgruppe\u00A0VII");
+    EXPECT_EQ(placeText(element(u"Fe")), u"Fe\u00A0(26): Periode\u00A04, Nebengruppe\u00A0VIIIa");
+    EXPECT_EQ(placeText(element(u"Cu")), u"Cu\u00A0(29): Periode\u00A04, Nebengruppe\u00A0Ia");
+    EXPECT_EQ(placeText(element(u"U")), u"U\u00A0(92): Periode\u00A07, Actinide");
+    EXPECT_EQ(placeText(element(u"Lu")), u"Lu\u00A0(71): Periode\u00A06, Lanthanide");
+    EXPECT_EQ(placeText(element(u"H")), u"H\u00A0(1): Periode\u00A01, Hauptgruppe\u00A0I");
 }
 
 TEST_F(Neighbours, ArePraisedForWhatWasHard)
@@ -157,9 +157,10 @@ TEST_F(Neighbours, HaveALineEachWhileThereIsRoom)
     EXPECT_EQ(trendsText(elements({u"C", u"N", u"O", u"F"}), book),
               trendsText(elements({u"C", u"N", u"O"}), book));
     EXPECT_EQ(lines(placesText(elements({u"C", u"N", u"O"}))), 3U);
-    EXPECT_EQ(placesText(elements({u"C", u"N", u"O", u"F"})),
-              u"C (6): Periode 2, Hauptgruppe IV; N (7): Periode 2, Hauptgruppe V; "
-              u"O (8): Periode 2, Hauptgruppe VI; F (9): Periode 2, Hauptgruppe VII");
+    EXPECT_EQ(
+        placesText(elements({u"C", u"N", u"O", u"F"})),
+        u"C\u00A0(6): Periode\u00A02, Hauptgruppe\u00A0IV; N\u00A0(7): Periode\u00A02, Hauptgruppe\u00A0V; "
+        u"O\u00A0(8): Periode\u00A02, Hauptgruppe\u00A0VI; F\u00A0(9): Periode\u00A02, Hauptgruppe\u00A0VII");
 }
 
 } // namespace

@@ -55,7 +55,7 @@ TEST_F(PuzzleRound, IsPlayedByDragging)
     touch(u"but_Check");
     EXPECT_EQ(seen(u"lab_Feedback"),
               u"Richtig! Am richtigen Platz, 10 Punkte für dich.<br>Jedes Kärtchen am richtigen Platz.");
-    EXPECT_EQ(seen(u"lab_Hint"), u"Na (11): Periode 3, Hauptgruppe I");
+    EXPECT_EQ(seen(u"lab_Hint"), u"Na\u00A0(11): Periode\u00A03, Hauptgruppe\u00A0I");
     touch(u"but_Check");
 
     EXPECT_EQ(seen(u"lab_Theme"), u"Halogene");
@@ -109,7 +109,7 @@ TEST_F(PuzzleRound, EndsATaskAfterThreeWrongPlacesAndShowsTheRightOne)
     EXPECT_FALSE(table().FADED()->Exists(u"K"));
     tryPlace(Chlorine);
     EXPECT_EQ(seen(u"lab_Feedback"), u"Schade. Richtig wären die umrandeten Plätze.");
-    EXPECT_EQ(seen(u"lab_Hint"), u"K (19): Periode 4, Hauptgruppe I");
+    EXPECT_EQ(seen(u"lab_Hint"), u"K\u00A0(19): Periode\u00A04, Hauptgruppe\u00A0I");
     EXPECT_TRUE(table().FADED()->Exists(u"K")) << "the table shows it now";
     EXPECT_TRUE(table().HIGHLIGHTS()->Exists(u"K"));
     EXPECT_EQ(table().DRAGSYMBOL(0), u"") << "there is nothing left to be moved";
@@ -197,7 +197,7 @@ TEST_F(PuzzleRound, IsSpokenToScreenReaders)
     EXPECT_EQ(said(), u"K: gleiche Gruppe, aber eine Periode tiefer.\nDu hast noch 2 Versuche.");
     tryPlace(Potassium);
     EXPECT_EQ(said(), u"Richtig! Am richtigen Platz, 7 Punkte für dich.\nJedes Kärtchen am "
-                      u"richtigen Platz.\nK (19): Periode 4, Hauptgruppe I");
+                      u"richtigen Platz.\nK\u00A0(19): Periode\u00A04, Hauptgruppe\u00A0I");
 }
 
 TEST_F(PuzzleRound, GoesOnInTheOtherLanguage)
@@ -212,7 +212,7 @@ TEST_F(PuzzleRound, GoesOnInTheOtherLanguage)
     EXPECT_EQ(seen(u"lab_Feedback"),
               u"Right! In the right place, 10 points for you.<br>The symbol that sounds unlike the name "
               u"was known as well.");
-    EXPECT_EQ(seen(u"lab_Hint"), u"Na (11): period 3, main group I");
+    EXPECT_EQ(seen(u"lab_Hint"), u"Na\u00A0(11): period\u00A03, main\u00A0group\u00A0I");
     touch(u"but_Check");
     EXPECT_EQ(seen(u"lab_Theme"), u"Halogens");
     drag(0, Chlorine);
