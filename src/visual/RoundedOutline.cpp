@@ -11,7 +11,7 @@ std::vector<PixelPoint> roundedOutline(const PixelRectangle& area, double radius
 {
     const double right = area.right() - 1;
     const double bottom = area.bottom() - 1;
-    const double bend = std::min({radius, area.width / 2, area.height / 2});
+    const double bend = std::max(0.0, std::min({radius, (right - area.left) / 2, (bottom - area.top) / 2}));
     const PixelPoint centres[] = {{right - bend, area.top + bend},
                                   {area.left + bend, area.top + bend},
                                   {area.left + bend, bottom - bend},
