@@ -267,6 +267,23 @@ TEST_F(FormWindowTest, ADialogOutlivesTheWindowThatAskedForIt)
     EXPECT_TRUE(shown);
 }
 
+TEST_F(FormWindowTest, AModalWindowWithoutBorderIsADialogForTheDesktop)
+{
+    const auto plain = makeForm(u"frm_Plain");
+    plain->BorderStyle(BorderStyle::None);
+    plain->Show();
+    EXPECT_EQ(widgetOf(*plain).windowType(), Qt::Window);
+    const auto keyboard = makeForm(u"frm_Keyboard");
+    keyboard->BorderStyle(BorderStyle::None);
+    Qt::WindowType type = Qt::Widget;
+    SessionState::current().platform().pump->post([&] {
+        type = widgetOf(*keyboard).windowType();
+        keyboard->Hide();
+    });
+    keyboard->Show(FormShow::Modal);
+    EXPECT_EQ(type, Qt::Dialog);
+}
+
 TEST_F(FormWindowTest, ScreenReadersComeToTheNameOfAField)
 {
     const auto form = makeForm();

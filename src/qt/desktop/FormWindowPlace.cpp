@@ -37,8 +37,8 @@ Qt::WindowFlags FormWindow::flagsFor(const Form& form)
                                          ? Qt::WindowMaximizeButtonHint
                                          : Qt::WindowFlags();
     switch (form.BorderStyle()) {
-    case BorderStyle::None:
-        return Qt::Window | Qt::FramelessWindowHint;
+    case BorderStyle::None: // desktops keep dialogs alone above the window that they stand on
+        return (form.isModal() ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
     case BorderStyle::FixedDialog:
         return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
                maximize;
