@@ -87,7 +87,13 @@ public:
     void sendKeys(std::span<const KeyStroke> keys, const std::shared_ptr<Form>& form) override;
     void commitComposition() override;
     String clipboardText() const override { return clipboard_; }
-    void clipboardText(const String& value) override { clipboard_ = value; }
+    void clipboardText(const String& value) override { clipboard(value, {}); }
+    String clipboardHtml() const override { return clipboardHtml_; }
+    void clipboard(const String& text, const String& html) override
+    {
+        clipboard_ = text;
+        clipboardHtml_ = html;
+    }
     std::shared_ptr<DrawBackend> openPrinter(PageOrientation orientation, const String& title) override;
 
 private:
@@ -113,6 +119,7 @@ private:
     bool hasPrinter_ = true;
     MousePointer screenPointer_ = MousePointer::Default;
     String clipboard_;
+    String clipboardHtml_;
 };
 
 } // namespace phial::headless

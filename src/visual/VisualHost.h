@@ -70,6 +70,10 @@ public:
 
     virtual String clipboardText() const = 0;
     virtual void clipboardText(const String& value) = 0;
+    /// The same contents as HTML; empty where the clipboard has no such form of them.
+    virtual String clipboardHtml() const = 0;
+    /// A text in both forms.
+    virtual void clipboard(const String& text, const String& html) = 0;
 
     /// Begins a document on the printer; raises 482 when there is none. `title` names the job. Ending the
     /// document may show it to the user first, who may then do without it.

@@ -22,6 +22,7 @@
 #include <QClipboard>
 #include <QEventLoop>
 #include <QImageReader>
+#include <QMimeData>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPointer>
@@ -245,6 +246,20 @@ String QtVisualHost::clipboardText() const
 void QtVisualHost::clipboardText(const String& value)
 {
     QGuiApplication::clipboard()->setText(toQt(value));
+}
+
+String QtVisualHost::clipboardHtml() const
+{
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    return content && content->hasHtml() ? fromQt(content->html()) : String();
+}
+
+void QtVisualHost::clipboard(const String& text, const String& html)
+{
+    auto* content = new QMimeData; // the clipboard's
+    content->setText(toQt(text));
+    content->setHtml(toQt(html));
+    QGuiApplication::clipboard()->setMimeData(content);
 }
 
 std::shared_ptr<DrawBackend> QtVisualHost::openPrinter(PageOrientation orientation, const String& title)

@@ -36,6 +36,8 @@ public:
     void commitComposition() override;
     String clipboardText() const override;
     void clipboardText(const String& value) override;
+    String clipboardHtml() const override;
+    void clipboard(const String& text, const String& html) override;
     std::shared_ptr<DrawBackend> openPrinter(PageOrientation orientation, const String& title) override;
 
 private:
