@@ -5,6 +5,7 @@
 #include "core/CoreMachine.h"
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
+#include "term/TermCopy.h"
 #include "term/TermPaste.h"
 #include "visual/PropertyRows.h"
 #include "visual/Typing.h"
@@ -380,7 +381,8 @@ bool clt_TermInput::command(const KeyEvent& event)
         changedBy(!locked_ && edit_.clear());
         return true;
     case u'V':
-        changedBy(!locked_ && edit_.insert(termOfText(visualHost().clipboardText())));
+        changedBy(!locked_ &&
+                  edit_.insert(termOfClipboard(visualHost().clipboardText(), visualHost().clipboardHtml())));
         return true;
     case u'Z':
         changedBy(!locked_ && (isRedo ? edit_.redo() : edit_.undo()));
@@ -396,7 +398,7 @@ bool clt_TermInput::command(const KeyEvent& event)
 void clt_TermInput::copy() const
 {
     if (!edit_.view().empty()) {
-        visualHost().clipboardText(edit_.text());
+        visualHost().clipboard(textOfTerm(edit_.view()), htmlOfTerm(edit_.view()));
     }
 }
 

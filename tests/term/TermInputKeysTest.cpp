@@ -213,6 +213,27 @@ TEST_F(TermInputKeys, PastesAtTheCaret)
     EXPECT_EQ(log.size(), 1U);
 }
 
+TEST_F(TermInputKeys, PastesWhatOtherProgramsRaiseAndLower)
+{
+    edit(u"", 0);
+    visualHost().clipboardText(u"SO\u2084\u00B2\u207B");
+    type(u"^v");
+    EXPECT_EQ(shown(), u"SO4^2-|");
+    visualHost().clipboard(u"H2O", u"<p>H<sub>2</sub>O</p>");
+    type(u"{home}^v");
+    EXPECT_EQ(shown(), u"H2O|SO4^2-");
+}
+
+TEST_F(TermInputKeys, CopiesForOtherProgramsAndForTermFields)
+{
+    edit(u"§SO4^2-", 0);
+    type(u"^c");
+    EXPECT_EQ(visualHost().clipboardText(), u"SO\u2084\u00B2\u207B");
+    EXPECT_NE(visualHost().clipboardHtml().find(u"SO<sub>4</sub><sup>2-</sup>"), String::npos);
+    type(u"{end}^v");
+    EXPECT_EQ(shown(), u"§SO4^2-§SO4^2-|");
+}
+
 TEST_F(TermInputKeys, ALockedFieldCanBeCopied)
 {
     edit(u"NaCl", 2);
