@@ -1,0 +1,113 @@
+#include "DesktopSession.h"
+#include "term/clt_TermInput.h"
+#include "visual/VisualHost.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTest>
+
+using namespace phial;
+using namespace phial::qt;
+
+namespace
+{
+
+class TermFieldInWindow : public DesktopSession
+{
+protected:
+    TermFieldInWindow()
+    {
+        form_->ScaleMode(ScaleUnit::Pixels);
+        form_->innerSize({300, 200});
+        field_->Move(20, 10, 200, 40);
+        field_->Term(u"");
+        form_->Show();
+        field_->SetFocus();
+    }
+    ~TermFieldInWindow() override { form_->discard(); }
+
+    QWidget& widget() { return widgetOf(*field_); }
+
+    std::shared_ptr<Form> form_ = std::make_shared<Form>(u"frm_Test");
+    std::shared_ptr<clt_TermInput> field_ = form_->add<clt_TermInput>(u"trm_Input");
+};
+
+TEST_F(TermFieldInWindow, TypesAnIonWithADeadCircumflex)
+{
+    QTest::keyClicks(&widget(), QStringLiteral("SO4"));
+    QTest::sendKeyEvent(QTest::Click, &widget(), Qt::Key_Dead_Circumflex, QString(), Qt::NoModifier);
+    QTest::keyClicks(&widget(), QStringLiteral("2-"));
+    EXPECT_EQ(field_->Term(), u"SO4^2-");
+    EXPECT_EQ(field_->CARET(), 6);
+    QTest::keyClick(&widget(), Qt::Key_Left);
+    QTest::keyClick(&widget(), Qt::Key_Delete);
+    QTest::keyClicks(&widget(), QStringLiteral(".%#"));
+    EXPECT_EQ(field_->Term(), u"SO4^2.%#");
+}
+
+TEST_F(TermFieldInWindow, IsReadByScreenReadersAsAFieldOfText)
+{
+    field_->frame().AccessibleName(u"Formel");
+    QTest::keyClicks(&widget(), QStringLiteral("H2O"));
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget());
+    ASSERT_TRUE(face && face->textInterface());
+    EXPECT_EQ(face->role(), QAccessible::EditableText);
+    EXPECT_EQ(face->text(QAccessible::Name), QStringLiteral("Formel"));
+    EXPECT_EQ(face->text(QAccessible::Value), QStringLiteral("H2O"));
+    EXPECT_EQ(face->textInterface()->cursorPosition(), 3);
+    EXPECT_TRUE(face->state().editable);
+    field_->LOCKED(true);
+    EXPECT_TRUE(face->state().readOnly);
+}
+
+TEST_F(TermFieldInWindow, ThePressedPlaceIsThatOfThePicture)
+{
+    field_->TEXTFONT()->Size(20);
+    field_->Term(u"SO4^2-");
+    const auto area = [&](std::int32_t caret) {
+        field_->CARET(caret);
+        return field_->frame().textEntry()->caretArea;
+    };
+    for (const std::int32_t caret : {0, 1, 2, 3, 6}) {
+        const PixelRectangle place = area(caret);
+        field_->CARET(0);
+        QTest::mouseClick(&widget(), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(static_cast<int>(place.left), 20));
+        EXPECT_EQ(field_->CARET(), caret);
+    }
+}
+
+TEST_F(TermFieldInWindow, CopiesTextAndHtmlAndPastesBoth)
+{
+    field_->Term(u"SO4^2-");
+    QTest::keyClick(&widget(), Qt::Key_C, Qt::ControlModifier);
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    EXPECT_EQ(content->text(), QStringLiteral("SO\u2084\u00B2\u207B"));
+    EXPECT_TRUE(content->html().contains(QStringLiteral("SO<sub>4</sub><sup>2-</sup>")));
+    field_->Term(u"");
+    QTest::keyClick(&widget(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(field_->Term(), u"SO4^2-");
+
+    auto* other = new QMimeData;
+    other->setHtml(QStringLiteral("<p>H<sub>2</sub>O</p>"));
+    QGuiApplication::clipboard()->setMimeData(other);
+    QTest::keyClick(&widget(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(field_->Term(), u"SO4^2-H2O");
+    visualHost().clipboardText(u"Na");
+    EXPECT_EQ(visualHost().clipboardHtml(), u"") << "of what was there before nothing is left";
+}
+
+TEST_F(TermFieldInWindow, TextDroppedFromOutsideBecomesTheTerm)
+{
+    QMimeData content;
+    content.setText(QStringLiteral("CO\u2082\n"));
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &content, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget(), &enter);
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &content, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget(), &drop);
+    EXPECT_EQ(field_->Term(), u"CO2");
+}
+
+} // namespace
