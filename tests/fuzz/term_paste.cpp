@@ -1,5 +1,5 @@
-// Reads any clipboard contents as a term, and copies it again; the first byte tells where the text ends and the
-// HTML begins.
+// Reads any clipboard contents as a term, and copies it again; the first byte tells where the text ends and
+// the HTML begins.
 
 #include "term/TermCopy.h"
 #include "term/TermPaste.h"
@@ -14,8 +14,8 @@ namespace
 bool isOneLine(phial::StringView term)
 {
     for (std::size_t at = 0; at < term.size(); ++at) {
-        const bool isPair = phial::isHighSurrogate(term[at]) && at + 1 < term.size() &&
-                            phial::isLowSurrogate(term[at + 1]);
+        const bool isPair =
+            phial::isHighSurrogate(term[at]) && at + 1 < term.size() && phial::isLowSurrogate(term[at + 1]);
         const bool isHalf = phial::isHighSurrogate(term[at]) || phial::isLowSurrogate(term[at]);
         if (term[at] < u' ' || (isHalf && !isPair)) {
             return false;
