@@ -1,18 +1,18 @@
-// The keys of the text keyboard in a real window drawn into memory: opened with the first paint, all faces
-// changed by SHIFT, and a tap until its character is painted; beside a QLineEdit with 60 QPushButtons in the
-// same look, and beside the same keyboard made of a picture and a label for each key.
+// The text keyboard in a real window drawn into memory: opened with the first paint, all faces changed by
+// SHIFT, a tap until its character is painted, and a step of a drag; beside a QLineEdit with 60 QPushButtons
+// in the same look, and beside the same keyboard made of a picture and a label for each key.
 
 #include "PaintWatch.h"
 #include "app/Session.h"
 #include "core/MemorySettingsStore.h"
+#include "dialogs/KeyPainter.h"
 #include "dialogs/TextLayout.h"
-#include "dialogs/ctl_Keys.h"
+#include "dialogs/frm_DialogKeyboard.h"
 #include "qt/desktop/DesktopApplication.h"
 #include "visual/Form.h"
 #include "visual/Label.h"
 #include "visual/PictureBox.h"
 #include "visual/TextBox.h"
-#include "visual/VisualHost.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -34,35 +34,26 @@ constexpr double FieldHeight = 44;
 constexpr std::int32_t KeyShift = 37;
 constexpr std::int32_t KeyQ = 14;
 
-/// A form with a field and the keys, which type into it.
-class KeysOnForm
+/// The keyboard as the facade opens it, for a target that is not to be seen.
+class ShownKeyboard
 {
 public:
-    KeysOnForm()
+    ShownKeyboard()
     {
-        form->ScaleMode(ScaleUnit::Pixels);
-        form->innerSize(WindowSize);
-        field->Move(15, FieldTop, 720, FieldHeight);
-        keys->layout(text_layout::Layout);
-        const PixelRectangle area = keys->designArea();
-        keys->Move(area.left / TwipsPerPixel, area.top / TwipsPerPixel, area.width / TwipsPerPixel,
-                   area.height / TwipsPerPixel);
-        typing_ = keys->CLICK.connect([this](std::int32_t index) {
-            const KeyDeed deed = keys->board().click(index);
-            field->SetFocus();
-            SendKeys(deed.strokes, form);
-        });
+        keyboard.TargetControl(target);
+        keyboard.form().Show(); // not modal, so that the benchmark goes on
     }
-    ~KeysOnForm() { form->discard(); }
-    KeysOnForm(const KeysOnForm&) = delete;
-    KeysOnForm& operator=(const KeysOnForm&) = delete;
+    ~ShownKeyboard() { keyboard.form().Unload(); }
+    ShownKeyboard(const ShownKeyboard&) = delete;
+    ShownKeyboard& operator=(const ShownKeyboard&) = delete;
 
     void press(std::int32_t index) { keys->pointerDown(at(index)); }
     void release(std::int32_t index) { keys->pointerUp(at(index)); }
 
-    std::shared_ptr<Form> form = std::make_shared<Form>(u"frm_Bench");
-    std::shared_ptr<TextBox> field = form->add<TextBox>(u"txt_Input");
-    std::shared_ptr<ctl_Keys> keys = form->add<ctl_Keys>(u"key_Keys");
+    frm_DialogKeyboard keyboard;
+    std::shared_ptr<TextBox> target = std::make_shared<TextBox>();
+    std::shared_ptr<TextBox> field = keyboard.form().control<TextBox>(u"txt_Input");
+    std::shared_ptr<ctl_Keys> keys = keyboard.form().control<ctl_Keys>(u"ctl_Keys");
 
 private:
     PointerEvent at(std::int32_t index) const
@@ -70,8 +61,6 @@ private:
         const PixelRectangle area = keys->areaOf(index);
         return {PointerButton::Left, 0, area.left + area.width / 2, area.top + area.height / 2, 1};
     }
-
-    Connection typing_;
 };
 
 /// The same with two controls for each key.
@@ -138,8 +127,7 @@ void keyboardOpen(benchmark::State& state)
 {
     PaintWatch watch;
     for (auto _ : state) {
-        KeysOnForm keyboard;
-        keyboard.form->Show();
+        const ShownKeyboard keyboard;
         watch.finish();
     }
 }
@@ -169,8 +157,7 @@ BENCHMARK(buttonsOpen)->Name("ButtonsOpen")->Unit(benchmark::kMillisecond);
 void keyboardFaces(benchmark::State& state)
 {
     PaintWatch watch;
-    KeysOnForm keyboard;
-    keyboard.form->Show();
+    ShownKeyboard keyboard;
     watch.finish();
     for (auto _ : state) {
         keyboard.press(KeyShift);
@@ -199,8 +186,7 @@ BENCHMARK(buttonFaces)->Name("ButtonFaces")->Unit(benchmark::kMillisecond);
 void keyboardTap(benchmark::State& state)
 {
     PaintWatch watch;
-    KeysOnForm keyboard;
-    keyboard.form->Show();
+    ShownKeyboard keyboard;
     watch.finish();
     for (auto _ : state) {
         keyboard.press(KeyQ);
@@ -242,6 +228,35 @@ void buttonTap(benchmark::State& state)
     }
 }
 BENCHMARK(buttonTap)->Name("ButtonTap")->Unit(benchmark::kMicrosecond);
+
+void keyboardDragStep(benchmark::State& state)
+{
+    PaintWatch watch;
+    ShownKeyboard keyboard;
+    watch.finish();
+    Form& form = keyboard.keyboard.form();
+    double step = 0;
+    for (auto _ : state) {
+        step = step > 0 ? 0 : TwipsPerPixel;
+        form.Move(form.Left() + (step > 0 ? step : -TwipsPerPixel), form.Top());
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(keyboardDragStep)->Name("KeyboardDragStep")->Unit(benchmark::kMicrosecond);
+
+void widgetMove(benchmark::State& state)
+{
+    PaintWatch watch;
+    ButtonWindow window;
+    watch.finish();
+    int step = 0;
+    for (auto _ : state) {
+        step = 1 - step;
+        window.window.move(step, 0);
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(widgetMove)->Name("WidgetMove")->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

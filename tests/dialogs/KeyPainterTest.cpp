@@ -113,4 +113,50 @@ TEST_F(KeyPainterTest, EachSignLooksDifferent)
     }
 }
 
+TEST_F(KeyPainterTest, ACapHasRoundCornersAndLeavesGaps)
+{
+    const std::string all = painted();
+    EXPECT_EQ(all.substr(0, all.find('\n')),
+              "polygon 2.5,9.5 2.694,7.361 3.278,5.611 4.25,4.25 5.611,3.278 7.361,2.694 9.5,2.5 "
+              "85.5,2.5 87.639,2.694 89.389,3.278 90.75,4.25 91.722,5.611 92.306,7.361 92.5,9.5 "
+              "92.5,37.5 92.306,39.639 91.722,41.389 90.75,42.75 89.389,43.722 87.639,44.306 85.5,44.5 "
+              "9.5,44.5 7.361,44.306 5.611,43.722 4.25,42.75 3.278,41.389 2.694,39.639 2.5,37.5 "
+              "fill #FFFFFF line #6B7F93 w1.5");
+}
+
+TEST_F(KeyPainterTest, ALineIsNeverThinnerThanAPixel)
+{
+    look.scale = 0.5;
+    EXPECT_THAT(painted(), Not(HasSubstr(" w")));
+    look.scale = 2;
+    EXPECT_THAT(painted(), HasSubstr(" w3"));
+}
+
+TEST_F(KeyPainterTest, AKeyAroundItsNeighbourLeavesOutItsCorner)
+{
+    look.area = {0, 0, 80, 96};
+    look.notch = 32;
+    const std::string all = painted();
+    EXPECT_THAT(all, HasSubstr(" 69.5,92.5 41.5,92.5 39.361,92.306 ")) << "the lower edge is short";
+    EXPECT_THAT(all, HasSubstr(" 34.694,87.639 34.5,85.5 34.5,54.5 34.306,52.361 ")) << "up beside it";
+    EXPECT_THAT(all, HasSubstr(" 29.639,47.694 27.5,47.5 9.5,47.5 ")) << "and out to the left";
+    EXPECT_EQ(all.substr(all.find("text")), "text 36.25,14.625 \"a\" Tahoma 15 #1C2836\n")
+        << "the face stands where the key is whole";
+}
+
+TEST_F(KeyPainterTest, AFaceStandsInTheMiddle)
+{
+    const std::string one = painted();
+    EXPECT_EQ(one.substr(one.find("text")), "text 44.25,14.625 \"a\" Tahoma 15 #1C2836\n");
+    look.face.text = u"http://www.";
+    look.area.width = 60;
+    const std::string shrunk = painted();
+    EXPECT_EQ(shrunk.substr(shrunk.find("text")), "text 6,18.545 \"http://www.\" Tahoma 8.727 #1C2836\n")
+        << "six pixels are left at each side";
+    look.area.width = 20;
+    const std::string tiny = painted();
+    EXPECT_EQ(tiny.substr(tiny.find("text")), "text -6.5,20.25 \"http://www.\" Tahoma 6 #1C2836\n")
+        << "never smaller than six points";
+}
+
 } // namespace phial

@@ -404,4 +404,58 @@ TEST_F(KeysTest, KeysThatAreNotSeenAreNotScanned)
     EXPECT_EQ(preview(Key::Space).KeyCode, 0);
 }
 
+TEST_F(KeysTest, AllCapsAndFacesArePainted)
+{
+    const std::string all = drawn();
+    const auto count = [&](const std::string& what) {
+        std::size_t found = 0;
+        for (std::size_t at = all.find(what); at != std::string::npos; at = all.find(what, at + 1)) {
+            ++found;
+        }
+        return found;
+    };
+    EXPECT_EQ(count("\nimage "), text_layout::Keys.size());
+    EXPECT_EQ(count("\nimage 48x48 "), 50U);
+    EXPECT_NE(all.find("image 80x96 "), std::string::npos) << "ENTER";
+}
+
+TEST_F(KeysTest, AnotherSizeIsPaintedAnew)
+{
+    drawn();
+    keys->frame().Move(0, 0, 1440, 480);
+    const std::string all = drawn();
+    EXPECT_NE(all.find("image 96x96 "), std::string::npos);
+    EXPECT_EQ(all.find("image 48x48 "), std::string::npos);
+}
+
+TEST_F(KeysTest, VariantsArePainted)
+{
+    touch.press(1, *keys, middle(test::keys::LetterA));
+    outside.advance(Hold);
+    const std::string all = drawn();
+    for (const char* variant : {"\"ä\" Tahoma", "\"à\" Tahoma", "\"æ\" Tahoma"}) {
+        EXPECT_NE(all.find(variant), std::string::npos) << variant;
+    }
+    keys->activatePart(text_layout::Keys.size() + 6); // one beyond the last
+    EXPECT_THAT(struck(), IsEmpty());
+    keys->activatePart(text_layout::Keys.size() + 5);
+    EXPECT_THAT(struck(), ElementsAre("æ"));
+}
+
+TEST_F(KeysTest, WhatTheSwitchHasChosenLightsUpItsWholeTime)
+{
+    keys->scanInterval(800);
+    outside.advance(0.7);
+    preview(Key::Space); // the first row; its first key lights up
+    outside.advance(0.7);
+    preview(Key::Space);
+    EXPECT_THAT(struck(), ElementsAre("ESC"));
+}
+
+TEST_F(KeysTest, TheFrameSurroundsTheRow)
+{
+    keys->scanInterval(800);
+    EXPECT_NE(drawn().find("box 2,2 716x44 line #1C2836 w4"), std::string::npos) << drawn();
+}
+
 } // namespace phial
