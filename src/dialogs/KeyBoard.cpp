@@ -158,7 +158,7 @@ std::optional<Modifier> KeyBoard::modifier(std::int32_t index) const
 
 KeyState KeyBoard::state(Modifier modifier) const
 {
-    return states_[place(modifier)];
+    return modifiers_[place(modifier)].state;
 }
 
 KeyState KeyBoard::state(std::int32_t index) const
@@ -169,7 +169,7 @@ KeyState KeyBoard::state(std::int32_t index) const
 
 void KeyBoard::state(Modifier modifier, KeyState value)
 {
-    states_[place(modifier)] = value;
+    modifiers_[place(modifier)].state = value;
 }
 
 bool KeyBoard::press(std::int32_t index)
@@ -244,11 +244,24 @@ String KeyBoard::prefixed(String strokes, bool takesFaceModifiers) const
 
 void KeyBoard::fallBack()
 {
-    for (KeyState& state : states_) {
-        if (state == KeyState::Once) {
-            state = KeyState::Off;
+    for (Stand& modifier : modifiers_) {
+        modifier.hasServed = modifier.isHeld;
+        if (modifier.state == KeyState::Once && !modifier.isHeld) {
+            modifier.state = KeyState::Off;
         }
     }
+}
+
+bool KeyBoard::hold(Modifier modifier, bool isHeld)
+{
+    Stand& stand = modifiers_[place(modifier)];
+    const bool fallsBack = !isHeld && stand.hasServed && stand.state == KeyState::Once;
+    if (fallsBack) {
+        stand.state = KeyState::Off;
+    }
+    stand.isHeld = isHeld;
+    stand.hasServed = false;
+    return fallsBack;
 }
 
 } // namespace phial

@@ -86,6 +86,8 @@ struct KeyDeed {
 /// is off. Ctrl and Alt together are AltGr and show the symbols as Sym does; but their states are compared
 /// bit by bit, so where one is on once and the other is locked, there are no symbols.
 ///
+/// One that a finger still holds serves all keys that are struck meanwhile, and falls back when it is let go.
+///
 /// A key of one character types exactly what it shows. Ctrl alone or Alt alone make a command of it.
 class KeyBoard
 {
@@ -114,6 +116,8 @@ public:
     bool press(std::int32_t index);
     /// Undoes that: a drag was meant.
     void state(Modifier modifier, KeyState value);
+    /// A finger holds the modifier from now on, or has let it go. Gives whether faces may have changed.
+    bool hold(Modifier modifier, bool isHeld);
     /// The key was struck: what it asks for. Modifiers that are on once then fall back, except behind a
     /// modifier.
     KeyDeed click(std::int32_t index);
@@ -141,7 +145,12 @@ private:
     std::vector<KeyDesign> keys_;
     std::vector<KeyRow> rows_;
     std::vector<std::size_t> positions_; ///< by index; NoKey where there is none
-    std::array<KeyState, 4> states_{};
+    struct Stand {
+        KeyState state = KeyState::Off;
+        bool isHeld = false;
+        bool hasServed = false; ///< while it is held
+    };
+    std::array<Stand, 4> modifiers_{};
 };
 
 } // namespace phial

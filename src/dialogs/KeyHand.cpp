@@ -7,11 +7,14 @@ namespace phial
 
 std::optional<std::int32_t> KeyHand::press(std::int32_t finger, std::int32_t index)
 {
-    std::erase_if(down_, [finger](const Press& each) { return each.finger == finger; }); // never let go
+    lift(finger); // it was never let go
     const auto struck = strikeWaiting();
     const KeyState before = board_.state(index);
     const bool isModifier = board_.press(index);
     down_.push_back({finger, index, before, isModifier});
+    if (const auto modifier = board_.modifier(index)) {
+        board_.hold(*modifier, true);
+    }
     return struck;
 }
 
@@ -28,23 +31,44 @@ std::optional<std::int32_t> KeyHand::strikeWaiting()
 
 std::optional<std::int32_t> KeyHand::release(std::int32_t finger)
 {
+    const auto press = lift(finger);
+    return press && !press->isUsed ? std::optional(press->index) : std::nullopt;
+}
+
+std::optional<KeyHand::Press> KeyHand::lift(std::int32_t finger)
+{
     const auto found = std::ranges::find(down_, finger, &Press::finger);
     if (found == down_.end()) {
         return std::nullopt;
     }
     const Press press = *found;
     down_.erase(found);
-    return press.isUsed ? std::nullopt : std::optional(press.index);
+    const auto modifier = board_.modifier(press.index);
+    if (modifier && !isDown(press.index)) {
+        board_.hold(*modifier, false);
+    }
+    return press;
+}
+
+void KeyHand::drop(std::int32_t finger)
+{
+    if (const auto press = lift(finger)) {
+        setBack(*press);
+    }
 }
 
 void KeyHand::cancel()
 {
-    for (auto press = down_.rbegin(); press != down_.rend(); ++press) {
-        if (const auto modifier = board_.modifier(press->index)) {
-            board_.state(*modifier, press->before);
-        }
+    while (!down_.empty()) {
+        drop(down_.back().finger);
     }
-    down_.clear();
+}
+
+void KeyHand::setBack(const Press& press)
+{
+    if (const auto modifier = board_.modifier(press.index)) {
+        board_.state(*modifier, press.before);
+    }
 }
 
 bool KeyHand::isDown(std::int32_t index) const
@@ -54,7 +78,8 @@ bool KeyHand::isDown(std::int32_t index) const
 
 std::optional<KeyHand::Held> KeyHand::held() const
 {
-    return down_.empty() ? std::nullopt : std::optional(Held{down_.back().finger, down_.back().index});
+    return down_.empty() ? std::nullopt
+                         : std::optional(Held{down_.back().finger, down_.back().index, down_.back().isUsed});
 }
 
 void KeyHand::use()

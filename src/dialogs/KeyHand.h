@@ -24,6 +24,8 @@ public:
     std::optional<std::int32_t> press(std::int32_t finger, std::int32_t index);
     /// A finger goes up. Gives the key that this strikes.
     std::optional<std::int32_t> release(std::int32_t finger);
+    /// The same for one that was no press; a modifier goes back.
+    void drop(std::int32_t finger);
     /// No key that is down will be struck any more, and modifiers go back: a drag was meant.
     void cancel();
 
@@ -31,6 +33,7 @@ public:
     struct Held {
         std::int32_t finger;
         std::int32_t index;
+        bool isUsed; ///< it has had its effect
     };
     /// The key that went down last, as long as it is held.
     std::optional<Held> held() const;
@@ -46,6 +49,8 @@ private:
     };
 
     std::optional<std::int32_t> strikeWaiting();
+    std::optional<Press> lift(std::int32_t finger);
+    void setBack(const Press& press);
 
     KeyBoard& board_;
     std::vector<Press> down_; ///< the latest comes last

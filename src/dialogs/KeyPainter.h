@@ -19,7 +19,7 @@ enum class KeyKind : std::uint8_t {
 struct KeyLook {
     PixelRectangle area; ///< with half of the gaps to its neighbours
     double notch = 0;    ///< what the lower half lacks at its left
-    double scale = 1;    ///< of 48 pixels for a key of the usual width
+    double scale = 1;    ///< 1 where a key of the usual width has 48 pixels
     KeyKind kind = KeyKind::Character;
     KeyFace face;
     KeyState state = KeyState::Off;

@@ -68,8 +68,6 @@ constexpr auto SpokenSigns = std::to_array<SpokenWords>({
     {u"@", u"At-Zeichen", u"At sign"},
     {u"€", u"Euro", u"Euro"},
     {u"µ", u"Mikro", u"Micro"},
-    {u"²", u"Hoch zwei", u"Squared"},
-    {u"³", u"Hoch drei", u"Cubed"},
     {u",", u"Komma", u"Comma"},
     {u";", u"Semikolon", u"Semicolon"},
     {u".", u"Punkt", u"Full stop"},
@@ -77,6 +75,27 @@ constexpr auto SpokenSigns = std::to_array<SpokenWords>({
     {u"-", u"Minus", u"Minus"},
     {u"_", u"Unterstrich", u"Underscore"},
     {u"^", u"Hochgestellt", u"Raised"},
+    {u"°", u"Grad", u"Degree"},
+    {u"½", u"Ein halb", u"One half"},
+    {u"⁺", u"Hoch plus", u"Raised plus"},
+    {u"⁻", u"Hoch minus", u"Raised minus"},
+    {u"±", u"Plus minus", u"Plus or minus"},
+    {u"–", u"Gedankenstrich", u"Dash"},
+    {u"→", u"Pfeil nach rechts", u"Arrow to the right"},
+    {u"…", u"Auslassungspunkte", u"Ellipsis"},
+    {u"·", u"Malpunkt", u"Middle dot"},
+    {u"÷", u"Geteilt", u"Divided by"},
+    {u"×", u"Mal", u"Times"},
+    {u"≈", u"Ungefähr gleich", u"About equal"},
+    {u"≠", u"Ungleich", u"Not equal"},
+    {u"„", u"Anführung unten", u"Low opening quotation mark"},
+    {u"“", u"Abführung oben", u"High closing quotation mark"},
+    {u"‚", u"Halbe Anführung unten", u"Low single quotation mark"},
+    {u"‘", u"Halbe Abführung oben", u"High single quotation mark"},
+    {u"¿", u"Umgekehrtes Fragezeichen", u"Inverted question mark"},
+    {u"¡", u"Umgekehrtes Ausrufezeichen", u"Inverted exclamation mark"},
+    {u"‰", u"Promille", u"Per mille"},
+    {u"£", u"Pfund", u"Pound"},
 });
 
 template <typename Table>
@@ -104,6 +123,18 @@ const SpokenWords* wordsOfKey(const KeyBoard& board, const String& name)
 
 String spokenCharacter(StringView character)
 {
+    constexpr StringView Raised = u"⁰¹²³⁴⁵⁶⁷⁸⁹";
+    constexpr StringView Lowered = u"₀₁₂₃₄₅₆₇₈₉";
+    const auto digit = [&](StringView digits) {
+        const std::size_t at = character.size() == 1 ? digits.find(character.front()) : StringView::npos;
+        return at == StringView::npos ? String() : String(1, static_cast<char16_t>(u'0' + at));
+    };
+    if (const String raised = digit(Raised); !raised.empty()) {
+        return LNG()->TRANSLATE(u"Hoch {1}", u"Raised {1}", {raised});
+    }
+    if (const String lowered = digit(Lowered); !lowered.empty()) {
+        return LNG()->TRANSLATE(u"Tief {1}", u"Lowered {1}", {lowered});
+    }
     const SpokenWords* words = wordsOf(SpokenSigns, character);
     return words ? said(*words) : String(character);
 }

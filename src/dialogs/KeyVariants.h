@@ -5,8 +5,8 @@
 namespace phial
 {
 
-/// The characters that a key offers when it is held, as its face shows a small or a capital letter: such as
-/// "äàâ" for "a". Empty for most.
+/// The characters that a key offers when it is held, in the case of its face: such as "ßšśş" for "s". Empty
+/// where there are none.
 String variantsOf(StringView face);
 
 } // namespace phial

@@ -146,14 +146,19 @@ void ctl_Keys::place()
     }
 }
 
-PixelRectangle ctl_Keys::areaOf(std::int32_t index) const
+std::size_t ctl_Keys::positionOf(std::int32_t index) const
 {
     const auto keys = board_->keys();
     const auto key = std::ranges::find(keys, index, &KeyDesign::index);
     if (key == keys.end()) {
         throw RuntimeError(ErrorNumber::IndexOutOfBounds);
     }
-    return looks_[static_cast<std::size_t>(key - keys.begin())].area;
+    return static_cast<std::size_t>(key - keys.begin());
+}
+
+PixelRectangle ctl_Keys::areaOf(std::int32_t index) const
+{
+    return looks_[positionOf(index)].area;
 }
 
 std::optional<std::int32_t> ctl_Keys::keyAt(PixelPoint point) const
@@ -174,7 +179,8 @@ void ctl_Keys::pointerDown(const PointerEvent& event)
     const auto self = weak_from_this().lock();
     PRESSED.emit();
     if (scan_) {
-        pressSwitch();
+        switchFinger_ = event.Touch;
+        waitForHold();
         return;
     }
     const auto key = keyAt({event.X, event.Y});
@@ -182,20 +188,26 @@ void ctl_Keys::pointerDown(const PointerEvent& event)
         return;
     }
     const auto struck = hand_->press(event.Touch, *key);
-    timer_.Enabled(false);
-    timer_.Interval(HoldInterval);
-    timer_.Enabled(true);
+    waitForHold();
     refresh();
     if (struck) {
         strike(*struck);
     }
 }
 
+/// What is held counts as such after its whole time.
+void ctl_Keys::waitForHold()
+{
+    timer_.Enabled(false);
+    timer_.Interval(HoldInterval);
+    timer_.Enabled(true);
+}
+
 /// Whether the press is that of a character in the strip. One beside it closes the strip and is a press like
 /// any other.
 bool ctl_Keys::pressStrip(const PointerEvent& event)
 {
-    if (!strip_) {
+    if (!strip_ || scan_) {
         return false;
     }
     const auto cell = strip_->cellAt({event.X, event.Y});
@@ -227,16 +239,30 @@ void ctl_Keys::pointerUp(const PointerEvent& event)
         return;
     }
     const auto self = weak_from_this().lock();
+    if (event.isCancelled) {
+        hand_->drop(event.Touch);
+    }
+    const bool isSwitch = switchFinger_ == event.Touch && !event.isCancelled;
     const auto struck = hand_->release(event.Touch);
+    if (switchFinger_ == event.Touch) {
+        switchFinger_.reset();
+    }
     timer_.Enabled(false);
+    if (hand_->held()) { // by another finger
+        waitForHold();
+    }
     refresh();
     RELEASED.emit();
     if (struck) {
         strike(*struck);
     }
+    if (isSwitch) {
+        pressSwitch();
+    }
     if (strip_ && stripFinger_ == event.Touch) {
         stripFinger_.reset();
-        if (const auto cell = strip_->cellAt({event.X, event.Y})) {
+        const auto cell = strip_->cellAt({event.X, event.Y});
+        if (cell && !event.isCancelled) {
             chooseVariant(*cell);
         }
     }
@@ -252,6 +278,7 @@ void ctl_Keys::strike(std::int32_t index)
 void ctl_Keys::cancelPresses()
 {
     hand_->cancel();
+    switchFinger_.reset();
     timer_.Enabled(false);
     closeStrip();
     refresh();
@@ -270,14 +297,24 @@ void ctl_Keys::hold()
         return;
     }
     timer_.Enabled(false);
-    const KeyFace face = held ? board_->face(held->index) : KeyFace();
-    const String variants = face.isSign || !offersVariants_ ? String() : variantsOf(face.text);
-    if (!variants.empty()) {
+    if (scan_ && switchFinger_) {
+        holdSwitch();
+    } else if (held && !held->isUsed && openVariantsOf(held->index)) {
         hand_->use();
-        RELEASED.emit();
-        openStrip(variants, held->index);
         stripFinger_ = held->finger;
+        RELEASED.emit();
     }
+}
+
+/// Gives whether the key has some.
+bool ctl_Keys::openVariantsOf(std::int32_t index)
+{
+    const bool isCharacter = looks_[positionOf(index)].kind == KeyKind::Character;
+    const String variants = offersVariants_ && isCharacter ? variantsOf(board_->face(index).text) : String();
+    if (!variants.empty()) {
+        openStrip(variants, index);
+    }
+    return !variants.empty();
 }
 
 // Variants.
@@ -311,29 +348,36 @@ void ctl_Keys::chooseVariant(std::size_t at)
 
 void ctl_Keys::previewKey(KeyEvent& event)
 {
-    if (!strip_) {
-        if (scan_ && (event.is(Key::Return) || event.is(Key::Space))) {
-            event.KeyCode = 0;
-            if (!event.isRepeat) {
-                pressSwitch();
-            }
-        }
-        return;
+    const bool isSwitch = scan_ && !event.isSent && (event.is(Key::Return) || event.is(Key::Space));
+    if (isSwitch) {
+        strikeSwitch(event);
+    } else if (strip_ && !event.isSent) {
+        goThroughStrip(event);
     }
+}
+
+void ctl_Keys::goThroughStrip(KeyEvent& event)
+{
     const bool isStep = event.is(Key::Left) || event.is(Key::Right);
     const bool isChoice = event.is(Key::Return) || event.is(Key::Space);
+    const bool isEnd = event.is(Key::Escape);
     if (isStep) {
-        strip_->step(event.is(Key::Right));
-        frame_.announce(spokenCharacter(String(1, strip_->character(strip_->chosen()))));
-        surface_.invalidate();
+        stepStrip(event.is(Key::Right));
     } else if (isChoice) {
         chooseVariant(strip_->chosen());
     } else {
         closeStrip();
     }
-    if (isStep || isChoice || event.is(Key::Escape)) {
+    if (isStep || isChoice || isEnd) {
         event.KeyCode = 0;
     }
+}
+
+void ctl_Keys::stepStrip(bool isForward)
+{
+    strip_->step(isForward);
+    frame_.announce(spokenCharacter(String(1, strip_->character(strip_->chosen()))));
+    surface_.invalidate();
 }
 
 // The scan.
@@ -366,25 +410,63 @@ void ctl_Keys::hidden()
     cancelPresses();
 }
 
+/// Variants light up instead of keys while they are shown, for two rounds.
 void ctl_Keys::stepScan()
 {
-    if (scan_ && !strip_) {
+    if (!scan_) {
+        return;
+    }
+    if (!strip_) {
         scan_->step();
         surface_.invalidate();
+    } else if (++stripSteps_ < KeyScan::Rounds * strip_->count()) {
+        stepStrip(true);
+    } else {
+        closeStrip();
     }
 }
 
 /// What lights up next has its whole time.
-void ctl_Keys::pressSwitch()
+void ctl_Keys::restartScan()
 {
-    const auto self = weak_from_this().lock();
-    const auto index = scan_->press();
     scanTimer_.Enabled(false);
     scanTimer_.Enabled(true);
     surface_.invalidate();
-    if (index) {
+}
+
+void ctl_Keys::strikeSwitch(KeyEvent& event)
+{
+    event.KeyCode = 0;
+    if (!event.isRepeat) {
+        pressSwitch();
+    }
+}
+
+void ctl_Keys::pressSwitch()
+{
+    if (!scan_) {
+        return;
+    }
+    const auto self = weak_from_this().lock();
+    restartScan();
+    if (strip_) {
+        chooseVariant(strip_->chosen());
+    } else if (const auto index = scan_->press()) {
         board_->press(*index);
         strike(*index);
+    }
+}
+
+/// A held switch has been used: letting it go does nothing more.
+void ctl_Keys::holdSwitch()
+{
+    const auto lit = scan_->lit();
+    if (!strip_ && lit.size() == 1 && openVariantsOf(lit.front())) {
+        switchFinger_.reset();
+        stripSteps_ = 0;
+        scan_->press();
+        restartScan();
+        RELEASED.emit();
     }
 }
 

@@ -23,7 +23,8 @@ namespace phial
 /// struck again and again.
 ///
 /// With a scan, rows and then keys light up by themselves, and a single switch strikes them: a press anywhere
-/// on the keys, or Space or Enter of the desk.
+/// on the keys, or Space or Enter of the desk. Held, the switch shows the variants of the key that lights up,
+/// which then light up in turn.
 class ctl_Keys final : public UserControl
 {
 public:
@@ -101,8 +102,16 @@ private:
     void paintStrip();
     void paintLight();
     void runScan();
+    void restartScan();
     void stepScan();
     void pressSwitch();
+    void strikeSwitch(KeyEvent& event);
+    void holdSwitch();
+    bool openVariantsOf(std::int32_t index);
+    void goThroughStrip(KeyEvent& event);
+    void stepStrip(bool isForward);
+    void waitForHold();
+    std::size_t positionOf(std::int32_t index) const;
 
     ControlFrame frame_;
     PaintSurface surface_;
@@ -119,6 +128,8 @@ private:
     Timer timer_;
     std::optional<KeyScan> scan_;
     Timer scanTimer_;
+    std::optional<std::int32_t> switchFinger_; ///< the one that presses the switch
+    std::size_t stripSteps_ = 0;               ///< that the scan has gone through the variants
     bool isShown_ = false;
     Connections ticking_;
 };

@@ -21,6 +21,11 @@ String withLineEnds(const String& text)
     return replaced(replaced(replaced(text, LineEnd, u"\r"), u"\n", u"\r"), u"\r", LineEnd);
 }
 
+bool takesAway(const KeyDeed& deed)
+{
+    return deed.kind == KeyDeed::Kind::Clear || deed.strokes.find(u"{bs}") != String::npos;
+}
+
 } // namespace
 
 frm_DialogKeyboard::frm_DialogKeyboard()
@@ -44,7 +49,7 @@ void frm_DialogKeyboard::connect()
 {
     form_.on(form_->Load, [this] { load(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
-    form_.on(form_->KeyDown, [this](KeyEvent& event) { keys_->previewKey(event); });
+    form_.on(form_->KeyDown, [this](KeyEvent& event) { previewKey(event); });
     form_.on(form_->Unloaded, [this] {
         if (Accepted() && input_->Text() != written_) {
             writeBack(); // what was typed while the window was closing is on the screen too
@@ -62,6 +67,16 @@ void frm_DialogKeyboard::connect()
         ignoringErrors([&] { perform(keys_->board().type(text)); });
         keys_->refresh();
     });
+}
+
+/// Escape gives up with modifiers too, which the form's cancel control does not hear.
+void frm_DialogKeyboard::previewKey(KeyEvent& event)
+{
+    keys_->previewKey(event);
+    if (event.is(Key::Escape) && event.Shift != 0) {
+        event.KeyCode = 0;
+        window_.abort();
+    }
 }
 
 void frm_DialogKeyboard::TRANSLATE()
@@ -104,6 +119,9 @@ void frm_DialogKeyboard::showLines()
 
 void frm_DialogKeyboard::perform(const KeyDeed& deed)
 {
+    if (window_.isEnding() && takesAway(deed)) {
+        return; // what was accepted stays, though CLEAR lies just above ENTER
+    }
     switch (deed.kind) {
     case KeyDeed::Kind::Nothing:
         break;

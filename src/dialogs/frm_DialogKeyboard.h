@@ -37,6 +37,7 @@ public:
 
 private:
     void connect();
+    void previewKey(KeyEvent& event);
     void load();
     void readTarget();
     void showLines();

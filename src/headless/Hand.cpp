@@ -167,7 +167,7 @@ void press(Form& form, const KeyStroke& stroke, KeyDown down)
     const auto self = form.shared_from_this();
     const bool wasShown = form.Visible();
     const auto hasClosed = [&] { return wasShown && !form.Visible(); };
-    KeyEvent key{codeOf(stroke), stroke.Shift, down == KeyDown::Repeat};
+    KeyEvent key{codeOf(stroke), stroke.Shift, down == KeyDown::Repeat, down == KeyDown::Sent};
     const ControlPtr active = form.keyboardFocus()->field();
     if (!form.inputKeyDown(key) || hasClosed()) {
         return;
@@ -190,13 +190,13 @@ void letGo(Form& form, const KeyStroke& stroke)
 namespace
 {
 
-void strikeTimes(Form& form, const KeyStroke& stroke, int times)
+void strikeTimes(Form& form, const KeyStroke& stroke, int times, KeyDown first = KeyDown::First)
 {
     const auto self = form.shared_from_this();
     const bool wasShown = form.Visible();
     const auto hasClosed = [&] { return wasShown && !form.Visible(); };
     for (int time = 0; time < times && !hasClosed(); ++time) {
-        press(form, stroke, time == 0 ? KeyDown::First : KeyDown::Repeat);
+        press(form, stroke, time == 0 ? first : KeyDown::Repeat);
     }
     if (!hasClosed()) {
         letGo(form, stroke);
@@ -214,6 +214,11 @@ void hold(Form& form, const KeyStroke& stroke)
 void strike(Form& form, const KeyStroke& stroke)
 {
     strikeTimes(form, stroke, 1);
+}
+
+void send(Form& form, const KeyStroke& stroke)
+{
+    strikeTimes(form, stroke, 1, KeyDown::Sent);
 }
 
 void type(Form& form, StringView notation)

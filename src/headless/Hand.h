@@ -38,8 +38,9 @@ std::shared_ptr<Control> controlHit(Control& control, PixelPoint& rAt);
 /// Gives the focus to a control that is pressed, where it can have it.
 void focusByPress(Control& control);
 
-/// A key that goes down for the form's control that has the focus, for the first time or since it is held.
-enum class KeyDown : bool { First, Repeat };
+/// A key that goes down for the form's control that has the focus: for the first time, since it is held, or
+/// sent by the program.
+enum class KeyDown : std::uint8_t { First, Repeat, Sent };
 void press(Form& form, const KeyStroke& stroke, KeyDown down = KeyDown::First);
 /// The key goes up.
 void letGo(Form& form, const KeyStroke& stroke);
@@ -47,6 +48,8 @@ void letGo(Form& form, const KeyStroke& stroke);
 void hold(Form& form, const KeyStroke& stroke);
 /// The key goes down and up.
 void strike(Form& form, const KeyStroke& stroke);
+/// The same by the program.
+void send(Form& form, const KeyStroke& stroke);
 /// Keys in the notation of keyboard emulation, at once.
 void type(Form& form, StringView notation);
 /// Composes a text, as dead keys and input methods do, for the form's control that has the focus, where that

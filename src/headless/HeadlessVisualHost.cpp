@@ -170,7 +170,7 @@ void HeadlessVisualHost::sendKeys(std::span<const KeyStroke> keys, const std::sh
         for (const KeyStroke& stroke : strokes) {
             const auto target = isBound ? bound.lock() : forms().ActiveForm();
             if (target && target->Visible()) {
-                strike(*target, stroke);
+                send(*target, stroke);
             }
         }
     });

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace phial::headless
 {
@@ -124,6 +125,18 @@ void TouchScreen::release(std::int32_t finger)
     const bool closed = shown && !form->Visible();
     if (!closed && control->frame().isReachable() && isOn(*control, event)) {
         control->click();
+    }
+}
+
+void TouchScreen::cancel()
+{
+    leading_.reset();
+    for (const auto& [number, finger] : std::exchange(down_, {})) {
+        if (const ControlPtr control = finger.pressed.lock()) {
+            const PixelPoint origin = screenOrigin(*control);
+            control->pointerUp({PointerButton::Left, 0, finger.place.x - origin.x, finger.place.y - origin.y,
+                                finger.number, true});
+        }
     }
 }
 

@@ -26,6 +26,9 @@ public:
     void move(std::int32_t finger, PixelPoint by);
     /// Where the finger stands; a click, where that is on what was pressed.
     void release(std::int32_t finger);
+    /// The desktop takes all touches for a gesture of its own: what takes touch hears that they are
+    /// cancelled.
+    void cancel();
 
 private:
     struct Finger {

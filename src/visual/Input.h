@@ -28,6 +28,8 @@ struct PointerEvent {
     double X = 0;
     double Y = 0;
     std::int32_t Touch = 0; ///< from 1; 0 for the mouse
+    /// Of the end of a touch: the desktop has taken it for a gesture of its own, and it was no press.
+    bool isCancelled = false;
 };
 
 /// The wheel was turned over a control. Notches are positive away from the user, that is, towards the start;
@@ -68,6 +70,7 @@ struct KeyEvent {
     std::int32_t KeyCode = 0;
     std::int32_t Shift = 0;
     bool isRepeat = false; ///< the key has gone down before, perhaps in another window, and is held
+    bool isSent = false;   ///< by the program, not by the user's hand
 
     bool is(Key key) const { return KeyCode == static_cast<std::int32_t>(key); }
 };

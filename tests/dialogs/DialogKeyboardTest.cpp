@@ -10,7 +10,10 @@
 #include "visual/RichText.h"
 #include "visual/RichTextBox.h"
 
+#include <algorithm>
+#include <array>
 #include <gmock/gmock-more-matchers.h>
+#include <random>
 
 namespace phial::test
 {
@@ -503,5 +506,117 @@ TEST_F(DialogKeyboardTest, AHeldKeyIsNoDragAnyMore)
 }
 
 } // namespace
+
+// What keys and the desk do together.
+
+TEST_F(DialogKeyboardTest, AScanTypesABlank)
+{
+    chooseScan(800);
+    const auto box = target<TextBox>();
+    open(box);
+    outside.advance(4 * 0.8); // the last row
+    headless::type(keyboard.form(), u" ");
+    outside.advance(2 * 0.8); // behind Ctrl and Alt
+    headless::type(keyboard.form(), u" ");
+    outside.runPending();
+    EXPECT_EQ(input()->Text(), u" ");
+}
+
+TEST_F(DialogKeyboardTest, DeskKeysGoThroughVariantsAndDoNotConfirm)
+{
+    const auto box = target<TextBox>();
+    open(box);
+    touch.press(1, *keyPad(), middle(keys::LetterA));
+    outside.advance(0.5);
+    touch.release(1);
+    headless::type(keyboard.form(), u"{right}{enter}");
+    outside.runPending();
+    EXPECT_EQ(input()->Text(), u"à");
+    EXPECT_TRUE(isOpen());
+    touch.press(1, *keyPad(), middle(keys::LetterA));
+    outside.advance(0.5);
+    touch.release(1);
+    headless::type(keyboard.form(), u"{esc}");
+    outside.advance(1);
+    EXPECT_TRUE(isOpen()) << "it has closed the variants alone";
+    headless::type(keyboard.form(), u"{esc}");
+    outside.advance(1);
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(box->Text(), u"");
+}
+
+TEST_F(DialogKeyboardTest, EscapeGivesUpWithAnyModifier)
+{
+    const auto box = target<TextBox>();
+    open(box);
+    tap(keys::Shift);
+    tap(keys::Shift);
+    tap(keys::Escape);
+    outside.advance(1);
+    EXPECT_FALSE(isOpen());
+    EXPECT_FALSE(keyboard.Accepted());
+}
+
+TEST_F(DialogKeyboardTest, AKeyBehindEnterTakesNothingAway)
+{
+    constexpr std::int32_t Clear = 59;
+    const auto box = target<TextBox>();
+    box->Text(u"Wasser");
+    open(box);
+    tap(keys::Enter);
+    tap(Clear);
+    tap(keys::Backspace);
+    outside.advance(1);
+    EXPECT_EQ(box->Text(), u"Wasser");
+}
+
+TEST_F(DialogKeyboardTest, CtrlAndAltTypeSymbols)
+{
+    constexpr std::int32_t Ctrl = 50;
+    constexpr std::int32_t Alt = 51;
+    open(target<TextBox>());
+    tapAll({Ctrl, Alt, keys::LetterE});
+    EXPECT_EQ(input()->Text(), u"€");
+    tapAll({Ctrl, Alt, Alt, keys::LetterE});
+    EXPECT_EQ(input()->Text(), u"€e") << "once and locked have no bit in common";
+}
+
+TEST_F(DialogKeyboardTest, TenFingersAndADeskLoseNoKey)
+{
+    std::mt19937 random(60);
+    const auto box = target<TextBox>();
+    open(box);
+    keyPad()->offersVariants(false);
+    String expected;
+    std::array<bool, 10> isDown{};
+    constexpr int Moves = 3000; // 60 seconds, a move every 20 milliseconds
+    for (int move = 0; move < Moves; ++move) {
+        const auto finger = random() % 11;
+        if (finger == 10) {
+            headless::type(keyboard.form(), u"0");
+            expected += u'0';
+        } else if (isDown[finger]) {
+            touch.release(static_cast<std::int32_t>(finger));
+            isDown[finger] = false;
+        } else {
+            const std::int32_t key = 26 + static_cast<std::int32_t>(random() % 9); // a to l
+            touch.press(static_cast<std::int32_t>(finger), *keyPad(), middle(key));
+            expected += face(key);
+            isDown[finger] = true;
+        }
+        outside.advance(0.02);
+        outside.runPending();
+    }
+    for (std::int32_t finger = 0; finger < 10; ++finger) {
+        if (isDown[static_cast<std::size_t>(finger)]) {
+            touch.release(finger);
+        }
+    }
+    outside.runPending();
+    String got = input()->Text();
+    std::ranges::sort(got); // the desk's keys may pass a key that is still down
+    std::ranges::sort(expected);
+    EXPECT_EQ(toUtf8(got), toUtf8(expected));
+}
 
 } // namespace phial::test

@@ -81,6 +81,50 @@ TEST_F(KeyHandTest, AModifierThatHasBeenLetGoStays)
     EXPECT_EQ(board.state(Modifier::Shift), KeyState::Once);
 }
 
+TEST_F(KeyHandTest, AHeldModifierServesAllKeysUntilItIsLetGo)
+{
+    hand.press(1, keys::Shift);
+    for (const std::int32_t key : {keys::LetterQ, keys::LetterW}) {
+        hand.press(2, key);
+        EXPECT_EQ(board.click(*hand.release(2)).strokes.front(), u'+');
+    }
+    EXPECT_EQ(board.state(Modifier::Shift), KeyState::Once);
+    hand.release(1);
+    EXPECT_EQ(board.state(Modifier::Shift), KeyState::Off);
+}
+
+TEST_F(KeyHandTest, AModifierThatHasServedNobodyStaysOn)
+{
+    hand.press(1, keys::Shift);
+    hand.release(1);
+    EXPECT_EQ(board.state(Modifier::Shift), KeyState::Once);
+    hand.press(2, keys::LetterQ);
+    board.click(*hand.release(2));
+    EXPECT_EQ(board.state(Modifier::Shift), KeyState::Off);
+}
+
+TEST_F(KeyHandTest, AHeldLockedModifierStaysLocked)
+{
+    board.state(Modifier::Shift, KeyState::Once);
+    hand.press(1, keys::Shift);
+    board.click(keys::LetterQ);
+    hand.release(1);
+    EXPECT_EQ(board.state(Modifier::Shift), KeyState::Locked);
+}
+
+TEST_F(KeyHandTest, AFingerThatWasNoPressStrikesNothing)
+{
+    hand.press(1, keys::LetterQ);
+    hand.drop(1);
+    EXPECT_EQ(hand.release(1), std::nullopt);
+    hand.press(1, keys::Shift);
+    hand.press(2, keys::LetterW);
+    hand.drop(1);
+    EXPECT_EQ(board.state(Modifier::Shift), KeyState::Off);
+    EXPECT_EQ(hand.release(2), keys::LetterW) << "the other finger is a press still";
+    hand.drop(7);
+}
+
 TEST_F(KeyHandTest, WhatHasHadItsEffectIsNotStruckAgain)
 {
     hand.press(1, keys::LetterQ);

@@ -67,6 +67,18 @@ TEST_F(KeySpeechTest, KeysAreNamedByWhatTheyDoNow)
     EXPECT_EQ(spokenKey(board, keys::LetterA), u"A");
 }
 
+TEST_F(KeySpeechTest, EachSignAmongTheVariantsHasWords)
+{
+    for (const char16_t face : StringView(u"0123456789+-./*=\",?!%$e")) {
+        for (const char16_t variant : variantsOf(StringView(&face, 1))) {
+            const String name = spokenCharacter(StringView(&variant, 1));
+            EXPECT_TRUE(name.size() > 1 || upperCase(variant) != variant) << toUtf8(name);
+        }
+    }
+    EXPECT_EQ(spokenCharacter(u"₂"), u"Tief 2");
+    EXPECT_EQ(spokenCharacter(u"³"), u"Hoch 3");
+}
+
 TEST(KeyVariants, FollowTheFace)
 {
     EXPECT_EQ(variantsOf(u"a"), u"äàâáåæ");

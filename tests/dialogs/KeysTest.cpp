@@ -458,4 +458,93 @@ TEST_F(KeysTest, TheFrameSurroundsTheRow)
     EXPECT_NE(drawn().find("box 2,2 716x44 line #1C2836 w4"), std::string::npos) << drawn();
 }
 
+TEST_F(KeysTest, TheKeyForClearingOffersNoVariants)
+{
+    constexpr std::int32_t Clear = 59;
+    touch.press(1, *keys, middle(Clear));
+    outside.advance(2);
+    EXPECT_FALSE(keys->showsVariants());
+    touch.release(1);
+    EXPECT_THAT(struck(), ElementsAre("CLEAR"));
+}
+
+TEST_F(KeysTest, AGestureOfTheDesktopStrikesNothing)
+{
+    touch.press(1, *keys, middle(test::keys::Shift));
+    touch.press(2, *keys, middle(test::keys::LetterQ));
+    touch.press(3, *keys, middle(test::keys::Enter));
+    touch.cancel();
+    EXPECT_THAT(struck(), ElementsAre("Q")) << "which the third finger had struck";
+    EXPECT_EQ(keys->board().state(Modifier::Shift), KeyState::Off);
+    touch.press(1, *keys, middle(test::keys::LetterA));
+    outside.advance(Hold);
+    touch.cancel();
+    EXPECT_TRUE(keys->showsVariants());
+}
+
+TEST_F(KeysTest, ATapOfAnotherFingerDoesNotEndWhatIsHeld)
+{
+    touch.press(1, *keys, middle(test::keys::Backspace));
+    outside.advance(Hold);
+    touch.press(2, *keys, middle(test::keys::LetterQ));
+    touch.release(2);
+    log.clear();
+    outside.advance(Hold + 2 * Repeat);
+    EXPECT_THAT(struck(), ElementsAre("BACKSPACE", "BACKSPACE", "BACKSPACE"));
+}
+
+TEST_F(KeysTest, ALetterThatTheNextKeyHasStruckOffersNoVariants)
+{
+    touch.press(1, *keys, middle(test::keys::LetterA));
+    touch.press(2, *keys, middle(test::keys::LetterQ));
+    touch.release(2);
+    outside.advance(2);
+    EXPECT_FALSE(keys->showsVariants());
+    touch.release(1);
+    EXPECT_THAT(struck(), ElementsAre("a", "q"));
+}
+
+TEST_F(KeysTest, ADragIsNoPressOfTheSwitch)
+{
+    keys->scanInterval(800);
+    touch.press(1, *keys, middle(test::keys::LetterA));
+    keys->cancelPresses();
+    touch.release(1);
+    outside.advance(0.8);
+    EXPECT_THAT(drawn(), ::testing::HasSubstr("box 2,50 716x44")) << "rows still";
+}
+
+TEST_F(KeysTest, TheHeldSwitchShowsVariantsWhichLightUpInTurn)
+{
+    keys->scanInterval(800);
+    outside.advance(2 * 0.8);
+    preview(Key::Space);
+    outside.advance(0.8); // "a"
+    touch.press(1, *keys, middle(test::keys::Escape));
+    outside.advance(Hold);
+    EXPECT_TRUE(keys->showsVariants());
+    touch.release(1);
+    EXPECT_TRUE(keys->showsVariants()) << "letting it go is no second press";
+    outside.advance(0.8);
+    EXPECT_EQ(keys->frame().announcement(), u"à");
+    preview(Key::Space);
+    EXPECT_THAT(struck(), ElementsAre("à"));
+    EXPECT_FALSE(keys->showsVariants());
+}
+
+TEST_F(KeysTest, VariantsThatNobodyChoosesGoAfterTwoRounds)
+{
+    keys->scanInterval(800);
+    outside.advance(2 * 0.8);
+    preview(Key::Space);
+    outside.advance(0.8);
+    touch.press(1, *keys, middle(test::keys::Escape));
+    outside.advance(Hold);
+    touch.release(1);
+    outside.advance(11 * 0.8);
+    EXPECT_TRUE(keys->showsVariants());
+    outside.advance(0.8);
+    EXPECT_FALSE(keys->showsVariants());
+}
+
 } // namespace phial

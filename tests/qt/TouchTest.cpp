@@ -34,7 +34,8 @@ protected:
         box->frame().takesTouch(takesTouch);
         const auto tell = [this, name](const char* what, const PointerEvent& event) {
             told_.push_back(name + std::string(what) + std::to_string(event.Touch) + " " +
-                            std::to_string(static_cast<int>(event.X)));
+                            std::to_string(static_cast<int>(event.X)) +
+                            (event.isCancelled ? " cancelled" : ""));
         };
         connections_ += box->MouseDown.connect([=](const PointerEvent& event) { tell(" down ", event); });
         connections_ += box->MouseMove.connect([=](const PointerEvent& event) {
@@ -164,7 +165,7 @@ TEST_F(TouchTest, WhatTheDesktopTakesBackIsNoClick)
     QWidget& a = widgetOf(*key("a", 0));
     touch().press(0, {5, 5}, &a);
     cancel();
-    EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5"}));
+    EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5 cancelled"}));
 }
 
 TEST_F(TouchTest, WhatIsDownComesUpWhenItsControlGoes)
@@ -174,13 +175,13 @@ TEST_F(TouchTest, WhatIsDownComesUpWhenItsControlGoes)
     QWidget& a = widgetOf(*box);
     touch().press(0, {5, 5}, &a);
     box->Visible(false);
-    EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5"}));
+    EXPECT_EQ(told_, (Told{"a down 1 5", "a up 1 5 cancelled"}));
     touch().release(0, {5, 5}, &a);
     box->Visible(true);
     told_.clear();
     touch().press(0, {6, 5}, &a);
     box->frame().takesTouch(false);
-    EXPECT_EQ(told_, (Told{"a down 1 6", "a up 1 6"}));
+    EXPECT_EQ(told_, (Told{"a down 1 6", "a up 1 6 cancelled"}));
     touch().release(0, {6, 5}, &a);
     EXPECT_EQ(told_.size(), 2U);
 }

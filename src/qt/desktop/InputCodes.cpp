@@ -134,6 +134,7 @@ KeyEvent keyEvent(const QKeyEvent& event)
     key.KeyCode = codeOf(event.key());
     key.Shift = shiftBits(event.modifiers());
     key.isRepeat = event.isAutoRepeat();
+    key.isSent = !event.spontaneous();
     return key;
 }
 

@@ -175,8 +175,10 @@ void TouchPresses::cancel()
 {
     stopLeading(*this);
     const auto control = control_.shared_from_this(); // a handler may close the window
-    for (const auto& [point, event] : std::exchange(down_, {})) {
-        dispatch([&, &last = event] { control->pointerUp(last); });
+    for (auto& [point, event] : std::exchange(down_, {})) {
+        PointerEvent last = event;
+        last.isCancelled = true;
+        dispatch([&] { control->pointerUp(last); });
     }
 }
 
