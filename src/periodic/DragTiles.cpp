@@ -59,6 +59,15 @@ DragTile* DragTiles::add(String symbol, const TableGrid& grid)
     return &*free;
 }
 
+void DragTiles::forgetElements()
+{
+    for (DragTile& tile : tiles_) {
+        tile.element.reset();
+        tile.droppedSymbol.clear();
+        tile.isPlaced = false;
+    }
+}
+
 void DragTiles::sendHome(std::int32_t slot, const TableGrid& grid)
 {
     DragTile& tile = at(slot);
@@ -81,6 +90,20 @@ std::optional<std::int32_t> DragTiles::slotOn(DragTile::Target cell) const
     const auto lying = std::find_if(
         begin(), end(), [=](const DragTile& tile) { return !tile.symbol.empty() && tile.target == cell; });
     return lying == end() ? std::nullopt : std::optional(static_cast<std::int32_t>(lying - begin()));
+}
+
+std::int32_t DragTiles::nextOnCellOf(std::int32_t slot, std::optional<std::int32_t> taken) const
+{
+    const auto& cell = at(slot).target;
+    if (!cell || !taken || at(*taken).target != cell) {
+        return slot;
+    }
+    for (std::int32_t next = *taken + 1; next < Slots; ++next) {
+        if (!at(next).symbol.empty() && at(next).target == cell) {
+            return next;
+        }
+    }
+    return *taken;
 }
 
 bool DragTiles::drop(std::int32_t slot, const TableGrid& grid)

@@ -50,12 +50,17 @@ public:
     void clear() { tiles_ = {}; }
     /// Fills the first free slot; null when there is none.
     DragTile* add(String symbol, const TableGrid& grid);
+    /// Where the elements have been exchanged: which one is a tile's own, and which lies under it.
+    void forgetElements();
     /// Back to its place below the table.
     void sendHome(std::int32_t slot, const TableGrid& grid);
     /// The slot whose tile holds the point, the lowest one first.
     std::optional<std::int32_t> slotAt(PixelPoint point) const;
     /// The slot whose tile lies on that cell, the lowest one first.
     std::optional<std::int32_t> slotOn(DragTile::Target cell) const;
+    /// Which of the tiles on the cell of that one is next: the one after the taken tile where that lies there
+    /// too, the taken one itself where it is the last, else that one.
+    std::int32_t nextOnCellOf(std::int32_t slot, std::optional<std::int32_t> taken) const;
     /// Lets go of a tile where it is: it takes the cell in which its middle lies, and gives true; in
     /// their own row and outside of the table it goes home.
     bool drop(std::int32_t slot, const TableGrid& grid);

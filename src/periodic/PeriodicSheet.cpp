@@ -9,6 +9,7 @@
 #include "visual/DrawDevice.h"
 
 #include <algorithm>
+#include <numeric>
 #include <ranges>
 
 namespace phial
@@ -127,11 +128,21 @@ void PeriodicSheet::paint(DrawDevice& device, const cls_DataElement* hovered,
     if (showsElectronStates) {
         paintElectronStates(device, grid, style);
     }
-    for (std::int32_t slot = DragTiles::Slots - 1; slot >= 0; --slot) { // the first one on top
+    for (const std::int32_t slot : tilesFromBelow()) {
         if (slot != leftOut) {
             paintTile(device, slot);
         }
     }
+}
+
+/// The first one lies on top, and on that the taken one.
+std::array<std::int32_t, DragTiles::Slots> PeriodicSheet::tilesFromBelow() const
+{
+    std::array<std::int32_t, DragTiles::Slots> slots{};
+    std::iota(slots.rbegin(), slots.rend(), 0);
+    std::stable_partition(slots.begin(), slots.end(),
+                          [this](std::int32_t slot) { return marks.taken != slot; });
+    return slots;
 }
 
 void PeriodicSheet::paintCell(DrawDevice& device, std::size_t cell, bool isHovered) const
@@ -145,7 +156,7 @@ void PeriodicSheet::paintCell(DrawDevice& device, std::size_t cell, bool isHover
 void PeriodicSheet::paintTilesOn(DrawDevice& device, std::size_t cell) const
 {
     const PixelRectangle& area = cells_[cell].painted.area;
-    for (std::int32_t slot = DragTiles::Slots - 1; slot >= 0; --slot) {
+    for (const std::int32_t slot : tilesFromBelow()) {
         const PixelRectangle& tile = tiles.at(slot).area;
         if (tile.left < area.right() && tile.right() > area.left && tile.top < area.bottom() &&
             tile.bottom() > area.top) {

@@ -6,6 +6,7 @@
 #include "periodic/DragTiles.h"
 #include "periodic/PeriodicPlaces.h"
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -71,6 +72,7 @@ public:
 private:
     void findElements(cls_DataElements& table);
     void tellTiles(const Cell& cell);
+    std::array<std::int32_t, DragTiles::Slots> tilesFromBelow() const;
 
     std::vector<Cell> cells_;
     PixelPoint corner_;

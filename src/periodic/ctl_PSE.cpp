@@ -10,10 +10,14 @@
 #include "core/CoreWindowOps.h"
 #include "mascot/ctl_Bubble.h"
 #include "media/cls_AppMedia.h"
+#include "periodic/MarksText.h"
 #include "periodic/SheetMode.h"
+#include "periodic/TableFont.h"
 #include "periodic/TableParts.h"
 #include "periodic/TableSpeech.h"
+#include "visual/ObjectRows.h"
 #include "visual/PropertyRows.h"
+#include "visual/VisualHost.h"
 
 #include <algorithm>
 #include <utility>
@@ -25,7 +29,6 @@ namespace
 {
 
 constexpr Colour TableGround = QBColor(15);
-constexpr StringView TableFont = u"Calibri";
 constexpr double FirstCell = 32;
 
 template <typename Shared>
@@ -37,15 +40,48 @@ void share(Shared& list, Shared value)
     list = std::move(value);
 }
 
+void checkCount(std::span<const Variant> arguments, std::size_t least, std::size_t most)
+{
+    if (arguments.size() < least || arguments.size() > most) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+}
+
+/// The slot that is the one argument.
+std::int32_t slotIn(std::span<const Variant> arguments)
+{
+    checkCount(arguments, 1, 1);
+    return arguments.front().toWhole();
+}
+
 } // namespace
 
 struct ctl_PSE::Properties {
-    static Variant load(ctl_PSE& table, std::span<const Variant> arguments)
+    using Arguments = std::span<const Variant>;
+
+    static Variant load(ctl_PSE& table, Arguments arguments)
     {
-        if (arguments.size() != 1) {
-            throw RuntimeError(ErrorNumber::InvalidArgument);
-        }
-        table.LOAD(arguments.front().toText());
+        checkCount(arguments, 1, 2);
+        table.LOAD(arguments.front().toText(), arguments.size() > 1 ? arguments[1].toWhole() : ElementFile);
+        return {};
+    }
+    static Variant dragAdd(ctl_PSE& table, Arguments arguments)
+    {
+        checkCount(arguments, 1, 1);
+        table.DRAGADD(arguments.front().toText());
+        return {};
+    }
+    static Variant dragSymbol(ctl_PSE& table, Arguments arguments)
+    {
+        return table.DRAGSYMBOL(slotIn(arguments));
+    }
+    static Variant dragSymbolDrop(ctl_PSE& table, Arguments arguments)
+    {
+        return table.DRAGSYMBOLDROP(slotIn(arguments));
+    }
+    static Variant dragReset(ctl_PSE& table, Arguments arguments)
+    {
+        table.DRAGRESET(slotIn(arguments));
         return {};
     }
 
@@ -55,21 +91,30 @@ struct ctl_PSE::Properties {
             .kept()
             .still(),
         rows::operation<u"LOAD">(&Properties::load),
+        rows::property<u"Elements">(&ctl_PSE::Elements, &ctl_PSE::Elements),
+        rows::property<u"BUBBLE">(&ctl_PSE::BUBBLE, &ctl_PSE::BUBBLE),
+        rows::property<u"FADED">(&ctl_PSE::fadedText, &ctl_PSE::fadedText),
         rows::operation<u"REDRAW">(&ctl_PSE::REDRAW),
         rows::property<u"HIGHLIGHT">(&ctl_PSE::highlight_).then(&ctl_PSE::REDRAW),
         rows::property<u"FIXEDSIZE">(&ctl_PSE::fixedSize_).kept().then(&ctl_PSE::takeSize),
         rows::property<u"MODE">(&ctl_PSE::mode_).kept().then(&ctl_PSE::modeChanged),
         rows::operation<u"DRAGCLEAR">(&ctl_PSE::DRAGCLEAR),
+        rows::operation<u"DRAGADD">(&Properties::dragAdd),
+        rows::operation<u"DRAGSYMBOL">(&Properties::dragSymbol),
+        rows::operation<u"DRAGSYMBOLDROP">(&Properties::dragSymbolDrop),
+        rows::operation<u"DRAGRESET">(&Properties::dragReset),
         rows::property<u"ELEKTRONENZUSTAND">(&ctl_PSE::electronStates_).kept(u"ElektronenZustand").still(),
+        rows::property<u"HIGHLIGHTS">(&ctl_PSE::framesText, &ctl_PSE::framesText),
+        rows::property<u"GONE">(&ctl_PSE::goneText, &ctl_PSE::goneText),
         rows::property<u"Colouring">(&ctl_PSE::colouring_).kept().then(&ctl_PSE::REDRAW),
     };
 };
 
 ctl_PSE::ctl_PSE()
-    : frame_(*this), surface_(*this), table_(std::make_unique<cls_DataElements>()), watch_(frame_, sheet_),
+    : frame_(*this), surface_(*this), table_(std::make_shared<cls_DataElements>()), watch_(frame_, sheet_),
       hand_(sheet_.tiles)
 {
-    sheet_.style.fontName = TableFont;
+    sheet_.style.fontName = tableFont(visualHost().metrics());
     frame_.canFocus(true);
     frame_.TabStop(true);
     frame_.takesTouch(true);
@@ -102,6 +147,12 @@ void ctl_PSE::Colouring(TableColours value) { rows::set<Properties, u"Colouring"
 void ctl_PSE::FADED(std::shared_ptr<CoreStringList> value) { share(sheet_.marks.faded, std::move(value)); }
 void ctl_PSE::GONE(std::shared_ptr<CoreStringList> value) { share(sheet_.marks.gone, std::move(value)); }
 void ctl_PSE::HIGHLIGHTS(std::shared_ptr<CoreTokenList> value) { share(sheet_.marks.frames, std::move(value)); }
+String ctl_PSE::fadedText() const { return textOf(*FADED()); }
+void ctl_PSE::fadedText(const String& value) { FADED(symbolsIn(value)); }
+String ctl_PSE::goneText() const { return textOf(*GONE()); }
+void ctl_PSE::goneText(const String& value) { GONE(symbolsIn(value)); }
+String ctl_PSE::framesText() const { return textOf(*HIGHLIGHTS()); }
+void ctl_PSE::framesText(const String& value) { HIGHLIGHTS(framesIn(value)); }
 // clang-format on
 
 void ctl_PSE::readProperties(const PropertyBag& bag)
@@ -118,8 +169,11 @@ void ctl_PSE::writeProperties(PropertyBag& bag)
 
 // What is shown.
 
-void ctl_PSE::LOAD(StringView pFile)
+void ctl_PSE::LOAD(StringView pFile, std::int32_t pKind)
 {
+    if (pKind != ElementFile) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
     const bool showsNames = SheetMode::current()->showsNames();
     if (!hasFile_) {
         import(pFile);
@@ -130,6 +184,18 @@ void ctl_PSE::LOAD(StringView pFile)
     sheet_.style.showsNames = showsNames;
     REDRAW();
     takeSize();
+}
+
+/// Cells and tiles show elements of the new table from here on.
+void ctl_PSE::Elements(std::shared_ptr<cls_DataElements> value)
+{
+    share(table_, std::move(value));
+    hasFile_ = table_->COUNT() > 0;
+    hover(nullptr);
+    watch_.watch(nullptr);
+    last_.reset();
+    sheet_.tiles.forgetElements();
+    REDRAW();
 }
 
 /// What a file that breaks off has brought is dropped, so that the next one is read from the start.

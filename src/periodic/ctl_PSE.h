@@ -46,15 +46,22 @@ public:
     /// White at first.
     Colour BACKCOLOR() const { return surface_.BackColor(); }
     void BACKCOLOR(Colour value);
-    /// Reads the elements from a file for cls_DataElements::IMPORT, unless a file has been read already, and
-    /// shows them: as names, if the session's SheetMode says so by then, else as symbols. Raises IMPORT's
-    /// errors.
-    void LOAD(StringView pFile);
+    /// What a file holds; there is but one kind.
+    static constexpr std::int32_t ElementFile = 1;
+    /// Reads the elements from a file for cls_DataElements::IMPORT, unless a file has been read or a table
+    /// with elements given already, and shows them: as names, if the session's SheetMode says so by then,
+    /// else as symbols. Raises IMPORT's errors, and 5 for another kind.
+    void LOAD(StringView pFile, std::int32_t pKind = ElementFile);
+    /// The control's table of elements, never null. A host may change it and call REDRAW, or give another
+    /// (91 for null), which is shown at once if something is; then hover and last click are forgotten.
+    std::shared_ptr<cls_DataElements> Elements() const { return table_; }
+    void Elements(std::shared_ptr<cls_DataElements> value);
     /// The bubble that tells of an element when the pointer has rested on it for half a second. None at
     /// first.
     std::shared_ptr<ctl_Bubble> BUBBLE() const { return watch_.bubble(); }
     void BUBBLE(std::shared_ptr<ctl_Bubble> value);
-    /// Symbols that are drawn pale; in place mode those that are not. Null raises 91, as for the next two.
+    /// Symbols that are drawn pale; in place mode those that are not. Null raises 91, as for HIGHLIGHTS and
+    /// GONE. By name such a list is a text, "He Ne", and one that is written becomes a new list.
     std::shared_ptr<CoreStringList> FADED() const { return sheet_.marks.faded; }
     void FADED(std::shared_ptr<CoreStringList> value);
     void REDRAW();
@@ -80,7 +87,7 @@ public:
     /// Whether the rows of electron states are drawn, from the next REDRAW on.
     bool ELEKTRONENZUSTAND() const { return electronStates_; }
     void ELEKTRONENZUSTAND(bool value);
-    /// Further frames: a symbol with its colour as first value.
+    /// Further frames: a symbol with its colour as first value. By name a text: "Cl 65280 Na 255".
     std::shared_ptr<CoreTokenList> HIGHLIGHTS() const { return sheet_.marks.frames; }
     void HIGHLIGHTS(std::shared_ptr<CoreTokenList> value);
     /// Symbols that are drawn grey.
@@ -127,6 +134,12 @@ public:
 
 private:
     struct Properties;
+    String fadedText() const;
+    void fadedText(const String& value);
+    String goneText() const;
+    void goneText(const String& value);
+    String framesText() const;
+    void framesText(const String& value);
     void import(StringView file);
     void fill();
     void takeSize();
@@ -162,7 +175,7 @@ private:
 
     ControlFrame frame_;
     PaintSurface surface_;
-    std::unique_ptr<cls_DataElements> table_;
+    std::shared_ptr<cls_DataElements> table_;
     PeriodicSheet sheet_;
     bool hasFile_ = false;  ///< the table has been read
     bool isLoaded_ = false; ///< and is shown

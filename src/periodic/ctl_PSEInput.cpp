@@ -330,13 +330,19 @@ void ctl_PSE::keyPress(KeyPressEvent& event)
     }
 }
 
+/// Of tiles that lie on each other each press takes the next one.
 bool ctl_PSE::pressCursor()
 {
     const auto stop = cursorStop();
-    if (stop) {
+    if (!stop) {
+        return false;
+    }
+    if (const auto slot = slotOfPart(sheet_, stop->part)) {
+        finish(hand_.choose(sheet_.tiles.nextOnCellOf(*slot, hand_.taken()), sheet_.grid));
+    } else {
         activatePart(stop->part);
     }
-    return stop.has_value();
+    return true;
 }
 
 bool ctl_PSE::escape()

@@ -194,6 +194,30 @@ TEST_F(TablePlacing, DeleteAndBackspaceSendTheTileAtTheCursorHome)
     EXPECT_NE(erase.KeyCode, 0) << "there is no tile";
 }
 
+TEST_F(TablePlacing, OfTilesOnEachOtherEachPressTakesTheNextOne)
+{
+    for (const std::int32_t slot : {0, 1, 2}) {
+        Control& control = *table;
+        const PointerEvent there = slot == 1 ? over(3, 4) : over(15, 1);
+        control.pointerDown(home(slot));
+        control.pointerMove(there);
+        control.pointerUp(there);
+    }
+    table->SetFocus();
+    ASSERT_EQ(currentName(), "O auf Gruppe 16, Periode 2");
+    type(u"{enter}");
+    EXPECT_EQ(told(), "O genommen");
+    type(u"{enter}");
+    EXPECT_EQ(told(), "Cl genommen") << "nitrogen lies elsewhere";
+    const std::string all = drawn();
+    EXPECT_GT(all.find("\"Cl\" Calibri"), all.find("\"O\" Calibri")) << "the taken one can be seen";
+    type(u"{enter}");
+    EXPECT_EQ(told(), "Cl losgelassen");
+    type(u"{enter 2}{home}{enter}");
+    EXPECT_EQ(table->DRAGSYMBOLDROP(2), u"Li");
+    EXPECT_EQ(table->DRAGSYMBOLDROP(0), u"O");
+}
+
 TEST_F(TablePlacing, LettersReachTilesAndGiveNothingAway)
 {
     table->SetFocus();

@@ -90,6 +90,26 @@ TEST_F(TableTiles, AreSentHome)
     EXPECT_THAT(cell("O"), HasSubstr("clip 96,288 32x32\n"));
 }
 
+TEST_F(TableTiles, AreDraggedOverTheTableAsItHasBeenPaintedLast)
+{
+    table->DRAGADD(u"O");
+    drawn();
+    Control& control = *table;
+    const auto move = [&](double way) {
+        control.pointerMove({PointerButton::Left, 0, home(0).x + way, home(0).y});
+        return drawn();
+    };
+    const auto has = [](const std::string& all, const char* part) {
+        return all.find(part) != std::string::npos;
+    };
+    control.pointerDown({PointerButton::Left, 0, home(0).x + 3, home(0).y + 4});
+    move(50);
+    EXPECT_TRUE(has(move(60), "image")) << "of the table without the tile";
+    table->BACKCOLOR(QBColor(12));
+    EXPECT_TRUE(has(drawn(), "clear #FF0000"));
+    EXPECT_FALSE(has(move(70), "image")) << "which has the old ground";
+}
+
 TEST_F(TableTiles, OfUnknownSymbolsShowTheirText)
 {
     table->DRAGADD(u"Xy");

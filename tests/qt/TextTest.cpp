@@ -3,6 +3,8 @@
 #include "qt/desktop/SymbolSigns.h"
 #include "visual/DrawDevice.h"
 
+#include <QFontDatabase>
+
 using namespace phial;
 using namespace phial::qt;
 
@@ -74,6 +76,14 @@ TEST_F(TextTest, AnUnknownNameGivesASubstitute)
     font.name = u"No Such Font";
     EXPECT_GT(face(font)->width(u"Wasser"), 10);
     EXPECT_FALSE(visualHost().metrics().hasFont(font.name));
+}
+
+TEST_F(TextTest, AFontCanBeHadWhereItsTwinIsInstalled)
+{
+    ASSERT_TRUE(QFontDatabase::families().contains(QStringLiteral("Carlito")));
+    ASSERT_FALSE(QFontDatabase::families().contains(QStringLiteral("Calibri")));
+    EXPECT_TRUE(visualHost().metrics().hasFont(u"Calibri"));
+    EXPECT_FALSE(visualHost().metrics().hasFont(u"Verdana")) << "what stands for it looks different";
 }
 
 TEST_F(TextTest, SignsThatAFontLacksComeFromAnother)

@@ -33,18 +33,19 @@ constexpr HiddenFont HiddenFonts[] = {
 struct Substitute {
     const char* name;
     const char* families[3];
+    bool hasTwin = false; ///< the first family
 };
 
 // Of like width, so that layouts keep their lines.
 constexpr Substitute Substitutes[] = {
     {"Tahoma", {"DejaVu Sans Condensed", "Carlito", "Liberation Sans"}},
     {"MS Sans Serif", {"Liberation Sans", "Arial", "DejaVu Sans Condensed"}},
-    {"Arial", {"Liberation Sans", "Helvetica", "DejaVu Sans"}},
+    {"Arial", {"Liberation Sans", "Helvetica", "DejaVu Sans"}, true},
     {"Verdana", {"DejaVu Sans", "Liberation Sans", "Arial"}},
-    {"Calibri", {"Carlito", "Liberation Sans", "Arial"}},
-    {"Times New Roman", {"Liberation Serif", "Times", "DejaVu Serif"}},
+    {"Calibri", {"Carlito", "Liberation Sans", "Arial"}, true},
+    {"Times New Roman", {"Liberation Serif", "Times", "DejaVu Serif"}, true},
     {"Symbol", {"Liberation Serif", "Times", "DejaVu Serif"}},
-    {"Courier New", {"Liberation Mono", "Courier", "DejaVu Sans Mono"}},
+    {"Courier New", {"Liberation Mono", "Courier", "DejaVu Sans Mono"}, true},
 };
 
 struct DesignedLines {
@@ -107,8 +108,12 @@ void FontCatalogue::registerFile(const QString& family)
 
 bool FontCatalogue::has(StringView name)
 {
-    const QString family = toQt(name);
-    return isInstalled(family) || !hiddenFile(family).isEmpty();
+    const QString asked = toQt(name);
+    const auto isTwin = [&](const Substitute& substitute) {
+        return substitute.hasTwin && sameName(asked, substitute.name) &&
+               isInstalled(QLatin1String(substitute.families[0]));
+    };
+    return isInstalled(asked) || !hiddenFile(asked).isEmpty() || std::ranges::any_of(Substitutes, isTwin);
 }
 
 QString FontCatalogue::family(StringView name)

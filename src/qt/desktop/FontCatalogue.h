@@ -31,7 +31,8 @@ public:
     /// The family for a name: the name itself where it is installed, else the first installed substitute,
     /// else a hidden file of that name, else the program's general family.
     QString family(StringView name);
-    /// Whether the name can be had without a substitute of another look.
+    /// Whether the name can be had without a substitute of another look: itself or its twin, which was made
+    /// to have the same widths.
     bool has(StringView name);
 
     /// A toolkit font of that look, for the toolkit's own widgets: in points, so that it follows their zoom.
