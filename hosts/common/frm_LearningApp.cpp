@@ -276,10 +276,10 @@ void frm_LearningApp::showRemembered()
     caption(*form_, u"lab_Remembered",
             count == 0 ? String()
             : count == 1
-                ? translate(u"Eine Aufgabe ist zum Üben gemerkt. Sie kommt in ihrer Stufe zuerst dran.",
-                            u"One task is remembered for practice. It comes first in its level.")
-                : translate(u"{1} Aufgaben sind zum Üben gemerkt. Sie kommen in ihrer Stufe zuerst dran.",
-                            u"{1} tasks are remembered for practice. They come first in their level.",
+                ? translate(u"Eine Aufgabe ist zum Üben gemerkt.<br>Sie kommt in ihrer Stufe zuerst dran.",
+                            u"One task is remembered for practice.<br>It comes first in its level.")
+                : translate(u"{1} Aufgaben sind zum Üben gemerkt.<br>Sie kommen in ihrer Stufe zuerst dran.",
+                            u"{1} tasks are remembered for practice.<br>They come first in their level.",
                             {number(count)}));
     get<phial::ctl_Button>(u"but_Forget")->Visible(count > 0);
 }

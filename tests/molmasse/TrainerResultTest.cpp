@@ -147,7 +147,7 @@ TEST_F(TrainerResult, ThatWasMissedIsNotCountedWhenTheTeacherHasDeletedIt)
     answerLeaving(u"but_Leave");
     type(u"{esc}");
     EXPECT_EQ(seen(u"lab_Remembered"),
-              u"Eine Aufgabe ist zum Üben gemerkt. Sie kommt in ihrer Stufe zuerst dran.");
+              u"Eine Aufgabe ist zum Üben gemerkt.<br>Sie kommt in ihrer Stufe zuerst dran.");
 }
 
 TEST_F(TrainerResult, ListsTheTasksWithSignWordAndColour)
@@ -256,7 +256,7 @@ TEST_F(TrainerResult, ThatWasMissedCanBeForgotten)
     type(u"{enter}");
     touch(u"but_Again");
     EXPECT_EQ(seen(u"lab_Remembered"),
-              u"Eine Aufgabe ist zum Üben gemerkt. Sie kommt in ihrer Stufe zuerst dran.");
+              u"Eine Aufgabe ist zum Üben gemerkt.<br>Sie kommt in ihrer Stufe zuerst dran.");
 
     outside.dialogs().expectYesNo(phial::DialogAnswer::No);
     touch(u"but_Forget");
