@@ -64,6 +64,7 @@ struct clt_TermInput::Properties {
 clt_TermInput::clt_TermInput() : frame_(*this), surface_(*this), cursor_(u"tmr_Cursor", BlinkTime)
 {
     frame_.canFocus(true);
+    frame_.takesTouch(true);
     frame_.MousePointer(MousePointer::Text);
     ticking_ = cursor_.Tick.connect([this] { tick(); });
     rows::start<Properties>(*this);

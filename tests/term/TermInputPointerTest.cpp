@@ -142,7 +142,6 @@ TEST_F(TermInputPointer, APressDragsOnceAndOnlyWithTheLeftButton)
 TEST_F(TermInputPointer, AFingerDragsAfterTenPixels)
 {
     field->OLEDRAGAUTO(true);
-    field->frame().takesTouch(true);
     Peer peer(field->frame());
     headless::TouchScreen touch(outside.display());
     touch.press(1, *field, {50, 20});
