@@ -4,6 +4,7 @@
 #include "dialogs/KeyPainter.h"
 #include "dialogs/KeyScan.h"
 #include "dialogs/VariantStrip.h"
+#include "visual/PaintHints.h"
 #include "visual/PaintSurface.h"
 #include "visual/Timer.h"
 #include "visual/UserControl.h"
@@ -25,7 +26,7 @@ namespace phial
 /// With a scan, rows and then keys light up by themselves, and a single switch strikes them: a press anywhere
 /// on the keys, or Space or Enter of the desk. Held, the switch shows the variants of the key that lights up,
 /// which then light up in turn.
-class ctl_Keys final : public UserControl
+class ctl_Keys final : public UserControl, public PaintHints
 {
 public:
     static constexpr std::int32_t HoldInterval = 500;  ///< milliseconds until a key counts as held
@@ -74,6 +75,8 @@ public:
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::Grouping; }
+    bool coversAll() const override { return true; }
+    std::optional<PixelRectangle> currentPartArea() const override { return std::nullopt; }
     std::vector<NamedPart> parts() const override;
     void activatePart(std::size_t part) override;
     void pointerDown(const PointerEvent& event) override;

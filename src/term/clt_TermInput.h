@@ -2,6 +2,7 @@
 
 #include "term/TermCaret.h"
 #include "term/TermEdit.h"
+#include "visual/PaintHints.h"
 #include "visual/PaintSurface.h"
 #include "visual/SharedFont.h"
 #include "visual/Timer.h"
@@ -25,7 +26,7 @@ namespace phial
 /// Every writer stores its value, tells the change and draws. Persisted: "TERM" (default "H2O"), "TEXTALIGN"
 /// (0), "T1" (the text's colour), "M1" (the ground's), "LOCKED" and "OLEDRAGAUTO" (False), and the font under
 /// "TEXTFONT" (Tahoma 8 when none is stored).
-class clt_TermInput final : public UserControl
+class clt_TermInput final : public UserControl, public PaintHints
 {
 public:
     clt_TermInput();
@@ -77,6 +78,8 @@ public:
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::Editable; }
+    bool coversAll() const override { return true; }
+    std::optional<PixelRectangle> currentPartArea() const override { return std::nullopt; }
     void initProperties() override { refresh(); }
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
