@@ -48,7 +48,7 @@ ControlPtr putFields(Stage& stage)
     box->Font(galleryFont(13));
     box->Text(say(u"Ein Textfeld|A text field"));
     asksByPress(stage, box, box->Click);
-    const auto lines = stage.put<TextBox>(place(44));
+    const auto lines = stage.put<TextBox>(place(56));
     lines->Font(galleryFont(11));
     lines->MultiLine(true);
     lines->Text(say(u"Mehrere|Several") + u"\r\n" + say(u"Zeilen|lines"));
@@ -58,11 +58,11 @@ ControlPtr putFields(Stage& stage)
     label->ForeColor(colours::Ink);
     label->Caption(say(u"Eine Beschriftung|A label"));
     asksByPress(stage, label, label->Click);
-    const auto rich = stage.put<RichTextBox>(place(44));
+    const auto rich = stage.put<RichTextBox>(place(36));
     rich->Font(galleryFont(11));
     rich->Text(say(u"Formatierter Text|Rich text"));
     asksByPress(stage, rich, rich->Click);
-    const auto term = stage.put<clt_TermInput>(place(40));
+    const auto term = stage.put<clt_TermInput>(place(36));
     term->Term(u"2H2 + O2 -> 2H2O");
     asksByPress(stage, term, term->CLICK);
     return box;

@@ -95,6 +95,7 @@ void showSign(QMessageBox& box, QStyle::StandardPixmap icon)
 // parts are there.
 void leaveRoomForTitle(QMessageBox& box)
 {
+    ensureTheme(); // another style makes the layout anew
     if (auto* parts = qobject_cast<QGridLayout*>(box.layout())) {
         const int title = QFontMetrics(box.font()).horizontalAdvance(box.windowTitle());
         parts->addItem(new QSpacerItem(title + FrameParts, 0), parts->rowCount(), 0, 1, parts->columnCount());
