@@ -122,8 +122,9 @@ TEST(KeyBoard, HasSixtyKeysInSevenSizes)
 
 TEST(KeyBoard, RowsFillTheSameWidth)
 {
+    const KeyBoard board(text_layout::Layout);
     std::map<double, double> ends;
-    for (const KeyDesign& key : KeyBoard(text_layout::Layout).keys()) {
+    for (const KeyDesign& key : board.keys()) {
         ends[key.top] = std::max(ends[key.top], key.left + key.width);
     }
     EXPECT_EQ(ends, (std::map<double, double>{
