@@ -14,7 +14,6 @@ namespace
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using ::testing::Not;
 
 /// A table on which oxygen, nitrogen and chlorine are to be placed.
 class TablePlacing : public PeriodicTableTest
