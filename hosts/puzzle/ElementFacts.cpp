@@ -1,5 +1,6 @@
 #include "puzzle/ElementFacts.h"
 
+#include "chem/ElementNames.h"
 #include "chem/cls_DataElements.h"
 #include "common/FrameTexts.h"
 #include "core/RuntimeError.h"
@@ -25,28 +26,9 @@ constexpr auto GroupNumbers =
 constexpr auto NonMetals = std::to_array<StringView>({u"H", u"He", u"C", u"N", u"O", u"F", u"Ne", u"P", u"S",
                                                       u"Cl", u"Ar", u"Se", u"Br", u"Kr", u"I", u"Xe", u"Rn"});
 
-/// What is called the same in both languages; their other names in the file are older German ones.
-constexpr auto SameInEnglish = std::to_array<StringView>(
-    {u"Al", u"Ca", u"Sc", u"V",  u"Co", u"Zr", u"Cd", u"Cs", u"Lu", u"Au", u"Rn", u"Ac", u"Pa", u"Cf",
-     u"Rf", u"Db", u"Sg", u"Bh", u"Hs", u"Mt", u"Ds", u"Rg", u"Cn", u"Nh", u"Fl", u"Mc", u"Lv", u"Og"});
-
-/// Behind the English name of these a former one is listed.
-constexpr auto EnglishBeforeLast = std::to_array<StringView>({u"S", u"Ts"});
-
-/// English names begin small within a sentence. Most stand last in the file, where they differ.
-String englishNameOf(phial::cls_DataElement& element)
-{
-    const auto has = [&](const auto& symbols) {
-        return std::ranges::find(symbols, StringView(element.SYMBOL())) != symbols.end();
-    };
-    const auto others = element.NAMEALT();
-    const std::int32_t english = others->Count() - (has(EnglishBeforeLast) ? 1 : 0);
-    return phial::lowerCase(english < 1 || has(SameInEnglish) ? element.NAME() : others->Item(english));
-}
-
 ElementFacts factsOf(phial::cls_DataElement& element, const phial::ElementPlace& place)
 {
-    return {element.SYMBOL(),  element.NAME(), englishNameOf(element),
+    return {element.SYMBOL(),  element.NAME(), phial::lowerCase(englishNameOf(element)),
             element.PROTONS(), element.MOL(),  place};
 }
 

@@ -2,8 +2,10 @@
 
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
+#include "chem/ElementNames.h"
 #include "chem/cls_DataElement.h"
 #include "core/Format.h"
+#include "core/Locale.h"
 #include "core/NumberText.h"
 
 namespace phial
@@ -24,6 +26,15 @@ String stateOf(const cls_DataElement& element)
                               : LNG()->TRANSLATE(u"Feststoff", u"solid");
 }
 
+/// With the decimal sign of the language, since its voice reads the number aloud.
+String massOf(const cls_DataElement& element)
+{
+    Locale spoken = currentLocale();
+    spoken.decimalSign = LNG()->TRANSLATE(u",", u".").front();
+    return formatPattern(element.MOL(), u"#0.0", spoken) + u" " +
+           LNG()->TRANSLATE(u"Gramm pro Mol", u"grams per mole");
+}
+
 /// A text with numbers or words for its placeholders.
 String filled(StringView german, StringView english, const Variant::Array& values)
 {
@@ -39,9 +50,8 @@ String placeBelow(StringView german, StringView english, std::int32_t column)
 
 String spokenElement(const cls_DataElement& element)
 {
-    return element.NAME() + u", " + element.SYMBOL() + u", " + plainText(element.PROTONS()) + u", " +
-           formatPattern(element.MOL(), u"#0.0") + u" " +
-           LNG()->TRANSLATE(u"Gramm pro Mol", u"grams per mole") + u", " + stateOf(element);
+    return LNG()->TRANSLATE(element.NAME(), englishNameOf(element)) + u", " + element.SYMBOL() + u", " +
+           plainText(element.PROTONS()) + u", " + massOf(element) + u", " + stateOf(element);
 }
 
 String spokenPlace(DragTile::Target place)

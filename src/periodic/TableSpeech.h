@@ -9,7 +9,7 @@ namespace phial
 /// What screen readers say of the table and of what is done with it, in the language in force. Where tiles
 /// are to be placed nothing gives away which element belongs to an empty place.
 
-/// "Sauerstoff, O, 8, 16,0 Gramm pro Mol, Gas"
+/// "Sauerstoff, O, 8, 16,0 Gramm pro Mol, Gas", "Oxygen, O, 8, 16.0 grams per mole, gas"
 String spokenElement(const cls_DataElement& element);
 /// "Gruppe 17, Periode 3"; of the two rows below the table "Lanthanide, Platz 2", and where no element can be
 /// "ein Feld neben den Elementen".

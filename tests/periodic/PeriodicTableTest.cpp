@@ -377,7 +377,7 @@ TEST_F(PeriodicTable, TellsItsCells)
     EXPECT_EQ(parts[79].name, u"Quecksilber, Hg, 80, 200,6 Gramm pro Mol, Flüssigkeit");
     EXPECT_EQ(parts[57].row, 8); // cerium, in the first row below the table
     LNG()->CURRENT(ID_Language_English);
-    EXPECT_EQ(table->parts()[25].name, u"Eisen, Fe, 26, 55,8 grams per mole, solid");
+    EXPECT_EQ(table->parts()[25].name, u"Iron, Fe, 26, 55.8 grams per mole, solid");
     table->activatePart(25);
     table->activatePart(118);
     EXPECT_THAT(log, ElementsAre("click Fe"));

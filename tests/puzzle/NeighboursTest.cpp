@@ -4,6 +4,7 @@
 #include "app/sys_Global.h"
 #include "core/NativePath.h"
 #include "support/AppSession.h"
+#include "support/EnglishElementNames.h"
 #include "support/Places.h"
 
 #include <gmock/gmock-matchers.h>
@@ -128,23 +129,9 @@ TEST_F(Neighbours, ArePraisedForASymbolByTheNameThatThePupilReads)
     EXPECT_NE(praise({u"N"}), Unlike);
 }
 
-// The names of the IUPAC, in the order of the protons.
 TEST_F(Neighbours, HaveTheirEnglishNames)
 {
-    constexpr StringView Names =
-        u"hydrogen helium lithium beryllium boron carbon nitrogen oxygen fluorine neon sodium magnesium "
-        u"aluminium silicon phosphorus sulfur chlorine argon potassium calcium scandium titanium vanadium "
-        u"chromium manganese iron cobalt nickel copper zinc gallium germanium arsenic selenium bromine "
-        u"krypton rubidium strontium yttrium zirconium niobium molybdenum technetium ruthenium rhodium "
-        u"palladium silver cadmium indium tin antimony tellurium iodine xenon caesium barium lanthanum "
-        u"cerium praseodymium neodymium promethium samarium europium gadolinium terbium dysprosium holmium "
-        u"erbium thulium ytterbium lutetium hafnium tantalum tungsten rhenium osmium iridium platinum gold "
-        u"mercury thallium lead bismuth polonium astatine radon francium radium actinium thorium "
-        u"protactinium uranium neptunium plutonium americium curium berkelium californium einsteinium "
-        u"fermium mendelevium nobelium lawrencium rutherfordium dubnium seaborgium bohrium hassium "
-        u"meitnerium darmstadtium roentgenium copernicium nihonium flerovium moscovium livermorium "
-        u"tennessine oganesson";
-    const auto names = phial::split(Names, u" ");
+    const auto names = phial::split(phial::test::EnglishElementNames, u" ");
     ASSERT_EQ(names.size(), book.all().size());
     for (std::size_t at = 0; at < names.size(); ++at) {
         EXPECT_EQ(book.all()[at].english, names[at]);
