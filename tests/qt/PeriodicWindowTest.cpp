@@ -101,23 +101,55 @@ TEST_F(PeriodicWindow, TheFocusIsAtTheElementThatTheKeysReach)
     EXPECT_EQ(clicked_, u"ClAr");
 }
 
-TEST_F(PeriodicWindow, TheRingLiesWithinTheCellAndCoversNoNeighbour)
+TEST_F(PeriodicWindow, TheRingLiesAroundTheCellAndNarrowlyOnItsNeighbours)
 {
     table_->Move(8, 4);
     key(Qt::Key_Right);
     const QPoint corner = shown().pos();
-    EXPECT_EQ(ring(), QRect(corner.x() + 18 * CellEdge, corner.y() + 2 * CellEdge, CellEdge, CellEdge));
+    const auto cellAt = [&](int column, int row) {
+        return QRect(corner.x() + column * CellEdge, corner.y() + row * CellEdge, CellEdge, CellEdge);
+    };
+    EXPECT_EQ(ring(), cellAt(18, 2).adjusted(-2, -2, 2, 2));
     QTest::mouseClick(&shown(), Qt::LeftButton, Qt::NoModifier, middleOf(7, 3));
-    EXPECT_EQ(ring(), QRect(corner.x() + 8 * CellEdge, corner.y() + 5 * CellEdge, CellEdge, CellEdge));
+    EXPECT_EQ(ring(), cellAt(8, 5).adjusted(-2, -2, 2, 2));
     for (const ColourSet set : {ColourSet::Light, ColourSet::Dark, ColourSet::HighContrast}) {
         coreTheme().SetColours(set);
         QApplication::processEvents();
         const QImage picture = imageOf(*grabForm(*form_, 1)).copy();
         const QPoint edge(corner.x() + 8 * CellEdge, corner.y() + 5 * CellEdge + CellEdge / 2);
-        EXPECT_EQ(picture.pixelColor(edge).rgb(), toQColor(Palette::FocusRing).rgb());
-        EXPECT_EQ(picture.pixelColor(edge + QPoint(1, 0)).rgb(), toQColor(Palette::FocusRing).rgb());
-        const int gap = set == ColourSet::HighContrast ? 3 : 2;
-        EXPECT_EQ(picture.pixelColor(edge + QPoint(gap, 0)).rgb(), toQColor(Palette::FocusGap).rgb());
+        const int width = set == ColourSet::HighContrast ? 3 : 2;
+        EXPECT_NE(picture.pixelColor(edge - QPoint(width + 1, 0)).rgb(), toQColor(Palette::FocusRing).rgb());
+        for (int outside = 1; outside <= width; ++outside) {
+            EXPECT_EQ(picture.pixelColor(edge - QPoint(outside, 0)).rgb(),
+                      toQColor(Palette::FocusRing).rgb());
+        }
+        EXPECT_EQ(picture.pixelColor(edge).rgb(), toQColor(Palette::FocusGap).rgb());
+    }
+}
+
+TEST_F(PeriodicWindow, TheRingLeavesAllOfTheCellButItsOutlineToBeRead)
+{
+    form_->innerSize({1300, 830});
+    table_->FIXEDSIZE(true);
+    for (const int edge : {20, 32, 64}) {
+        table_->Move(0, 0, TableGrid::Columns * (edge + 1), TableGrid::Rows * (edge + 1));
+        for (const double scale : {1.0, 2.0}) {
+            const ShotBook book(folder().native(), scale);
+            const auto insideOfCell = [&] {
+                const PixelRectangle cell = table_->currentPartArea().value();
+                const QRectF inside(cell.left + 1, cell.top + 1, cell.width - 2, cell.height - 2);
+                QApplication::processEvents();
+                return imageOf(*grabForm(*form_, scale))
+                    .copy(QRectF(inside.topLeft() * scale, inside.size() * scale).toRect());
+            };
+            shown();
+            outside().advance(2); // so that letters spell anew
+            QTest::keyClicks(&shown(), QStringLiteral("xe"));
+            ASSERT_TRUE(ring().isValid());
+            const QImage withRing = insideOfCell();
+            shown().window()->findChild<QFocusFrame*>()->hide();
+            EXPECT_EQ(withRing, insideOfCell()) << edge << " at " << scale << 'x';
+        }
     }
 }
 
@@ -126,7 +158,7 @@ TEST_F(PeriodicWindow, TilesAreTakenAndPutDownByKeys)
     table_->MODE(enm_PSEMode::ID_PSEMode_Place);
     table_->DRAGADD(u"Cl");
     EXPECT_EQ(focused(), QStringLiteral("Cl"));
-    EXPECT_EQ(ring().size(), QSize(CellEdge, CellEdge)) << "no larger than the tile";
+    EXPECT_EQ(ring().size(), QSize(CellEdge + 4, CellEdge + 4)) << "around the tile";
     key(Qt::Key_Space);
     for (const Qt::Key each : {Qt::Key_Up, Qt::Key_End, Qt::Key_Left, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up,
                                Qt::Key_Up, Qt::Key_Return}) {

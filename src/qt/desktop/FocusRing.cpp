@@ -30,7 +30,8 @@ constexpr double RingWidthOfHighContrast = 4;
 constexpr double RingGap = 2;
 constexpr double RingRadius = 8; // of the gap's inner edge, as buttons have it
 constexpr double GapInTable = 1;
-constexpr double ThinnerInTable = 1; // by which the ring is
+constexpr double RoomyCell = 48;
+constexpr double ThinnerInSmallCells = 1; // by which the ring is
 
 double ringWidth()
 {
@@ -53,14 +54,15 @@ class Ring final : public QFocusFrame
 public:
     explicit Ring(QWidget* window) : QFocusFrame(window) {}
 
-    /// The area is the window's. What is in a table has no room around it: there the ring lies
-    /// within.
+    /// The area is the window's. What is in a table has neighbours: there the ring lies on their edges and
+    /// the gap on that of the area, so that all that the area tells can be read.
     void surround(const QRectF& area, double zoom, bool isInTable)
     {
         gap_ = (isInTable ? GapInTable : RingGap) * zoom;
-        line_ = (ringWidth() - (isInTable ? ThinnerInTable : 0)) * zoom;
+        const bool isSmallCell = isInTable && area.height() < RoomyCell * zoom;
+        line_ = (ringWidth() - (isSmallCell ? ThinnerInSmallCells : 0)) * zoom;
         radius_ = isInTable ? 0 : RingRadius * zoom;
-        const double reach = isInTable ? 0 : gap_ + line_;
+        const double reach = line_ + (isInTable ? 0 : gap_);
         outer_ = area.adjusted(-reach, -reach, reach, reach).intersected(parentWidget()->rect());
         setGeometry(outer_.toAlignedRect());
         raise();
