@@ -1,80 +1,15 @@
-#include "app/cls_Language.h"
-#include "app/sys_Global.h"
-#include "dialogs/KeyNumbers.h"
+#include "dialogs/DialogKeyboardTest.h"
+
 #include "dialogs/ScanChoice.h"
-#include "dialogs/frm_DialogKeyboard.h"
 #include "headless/Hand.h"
-#include "headless/TouchScreen.h"
-#include "support/AppSession.h"
 #include "visual/Label.h"
 #include "visual/RichText.h"
 #include "visual/RichTextBox.h"
 
-#include <algorithm>
-#include <array>
 #include <gmock/gmock-more-matchers.h>
-#include <random>
 
 namespace phial::test
 {
-
-namespace
-{
-
-class DialogKeyboardTest : public AppSession
-{
-protected:
-    DialogKeyboardTest()
-    {
-        outside.display().resize(1920, 1080);
-        LNG()->CURRENT(ID_Language_German);
-    }
-    ~DialogKeyboardTest() override { host->discard(); }
-
-    /// A control of the program's, whose text is edited.
-    template <typename Class>
-    std::shared_ptr<Class> target(StringView name = u"target")
-    {
-        return host->add<Class>(name);
-    }
-    void open(const ObjectPtr& target)
-    {
-        keyboard.TargetControl(target);
-        keyboard.form().Show();
-    }
-    template <typename Class>
-    std::shared_ptr<Class> get(StringView name)
-    {
-        return keyboard.form().control<Class>(name);
-    }
-    std::shared_ptr<TextBox> input() { return get<TextBox>(u"txt_Input"); }
-    std::shared_ptr<ctl_Keys> keyPad() { return get<ctl_Keys>(u"ctl_Keys"); }
-
-    PixelPoint middle(std::int32_t index)
-    {
-        const PixelRectangle area = keyPad()->areaOf(index);
-        return {area.left + area.width / 2, area.top + area.height / 2};
-    }
-    void tap(std::int32_t index)
-    {
-        touch.press(1, *keyPad(), middle(index));
-        touch.release(1);
-        outside.runPending();
-    }
-    void tapAll(std::initializer_list<std::int32_t> indices)
-    {
-        for (const std::int32_t index : indices) {
-            tap(index);
-        }
-    }
-    KeyState state(Modifier modifier) { return keyPad()->board().state(modifier); }
-    String face(std::int32_t index) { return keyPad()->board().face(index).text; }
-    bool isOpen() { return keyboard.form().isLoaded(); }
-
-    std::shared_ptr<Form> host = std::make_shared<Form>(u"frm_Host");
-    frm_DialogKeyboard keyboard;
-    headless::TouchScreen touch{outside.display()};
-};
 
 // Load.
 
@@ -174,157 +109,6 @@ TEST_F(DialogKeyboardTest, GrowsWithAllThatStandsOnIt)
     open(box);
     EXPECT_EQ(keyPad()->frame().pixelRectangle(), (PixelRectangle{22.5, 102, 1080, 360}));
     EXPECT_DOUBLE_EQ(input()->Font()->Size(), 18);
-}
-
-// Keys.
-
-TEST_F(DialogKeyboardTest, TypesWhatItsKeysShow)
-{
-    open(target<TextBox>());
-    tapAll({keys::LetterA, keys::Shift, keys::LetterQ, keys::LetterW});
-    EXPECT_EQ(input()->Text(), u"aQw");
-}
-
-TEST_F(DialogKeyboardTest, ShiftPressedOnceIsForOneKey)
-{
-    open(target<TextBox>());
-    tap(keys::Shift);
-    EXPECT_EQ(face(keys::LetterA), u"A");
-    tap(keys::LetterA);
-    EXPECT_EQ(input()->Text(), u"A");
-    EXPECT_EQ(state(Modifier::Shift), KeyState::Off);
-    EXPECT_EQ(face(keys::LetterA), u"a");
-}
-
-TEST_F(DialogKeyboardTest, ShiftPressedTwiceStaysUntilTheThirdPress)
-{
-    open(target<TextBox>());
-    tapAll({keys::Shift, keys::Shift, keys::LetterA, keys::LetterQ});
-    EXPECT_EQ(state(Modifier::Shift), KeyState::Locked);
-    tapAll({keys::Shift, keys::LetterA});
-    EXPECT_EQ(input()->Text(), u"AQa");
-}
-
-TEST_F(DialogKeyboardTest, TypesSymbols)
-{
-    open(target<TextBox>());
-    tapAll({keys::Sym, keys::LetterE, keys::Sym, keys::LetterQ, keys::Sym, keys::Eight});
-    EXPECT_EQ(input()->Text(), u"€@[");
-}
-
-TEST_F(DialogKeyboardTest, TypesAtTheCaretOverWhatIsSelected)
-{
-    const auto box = target<TextBox>();
-    box->Text(u"abc");
-    open(box);
-    input()->SelStart(1);
-    input()->SelLength(1);
-    tap(keys::LetterQ);
-    EXPECT_EQ(input()->Text(), u"aqc");
-    tap(keys::Backspace);
-    EXPECT_EQ(input()->Text(), u"ac");
-    tap(keys::Left);
-    EXPECT_EQ(input()->SelStart(), 0);
-}
-
-TEST_F(DialogKeyboardTest, TypesIntoItsInputWhateverHasTheFocus)
-{
-    open(target<TextBox>());
-    keyboard.form().focus(nullptr);
-    tap(keys::LetterA);
-    EXPECT_EQ(input()->Text(), u"a");
-    EXPECT_EQ(keyboard.form().ActiveControl(), input());
-}
-
-TEST_F(DialogKeyboardTest, AKeyThatCannotBeSentLeavesItOpen)
-{
-    open(target<TextBox>());
-    input()->Enabled(false); // it cannot take the focus
-    tapAll({keys::Shift, keys::LetterA});
-    EXPECT_TRUE(isOpen());
-    EXPECT_EQ(input()->Text(), u"");
-}
-
-TEST_F(DialogKeyboardTest, ClearsTheText)
-{
-    const auto box = target<TextBox>();
-    box->Text(u"abc");
-    open(box);
-    tapAll({keys::Shift, keys::Clear});
-    EXPECT_EQ(input()->Text(), u"");
-    EXPECT_EQ(state(Modifier::Shift), KeyState::Off);
-    EXPECT_EQ(box->Text(), u"abc");
-}
-
-TEST_F(DialogKeyboardTest, ALockedTextIsOnlyShown)
-{
-    const auto box = target<TextBox>();
-    box->MultiLine(true);
-    box->Text(u"abc");
-    box->Locked(true);
-    open(box);
-    tapAll({keys::Clear, keys::LetterA, keys::Sym, keys::Enter});
-    EXPECT_EQ(input()->Text(), u"abc");
-}
-
-TEST_F(DialogKeyboardTest, EnterWithSymAddsALine)
-{
-    const auto box = target<TextBox>();
-    box->MultiLine(true);
-    box->Text(u"ab");
-    open(box);
-    input()->SelStart(1);
-    tapAll({keys::Sym, keys::Enter});
-    EXPECT_EQ(input()->Text(), u"a\r\nb");
-    EXPECT_EQ(input()->SelStart(), 3);
-    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 12);
-    EXPECT_EQ(state(Modifier::Sym), KeyState::Off);
-    EXPECT_FALSE(keyboard.Accepted());
-    outside.advance(0.2);
-    EXPECT_TRUE(isOpen());
-}
-
-TEST_F(DialogKeyboardTest, EnterWithSymDoesNothingWhereThereIsOneLine)
-{
-    open(target<TextBox>());
-    tapAll({keys::LetterA, keys::Sym, keys::Enter});
-    EXPECT_EQ(input()->Text(), u"a");
-    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 20);
-    EXPECT_FALSE(keyboard.Accepted());
-}
-
-TEST_F(DialogKeyboardTest, ALineHasToFitIntoTheGreatestLength)
-{
-    const auto box = target<TextBox>();
-    box->MultiLine(true);
-    box->MaxLength(4);
-    box->Text(u"abc");
-    open(box);
-    tapAll({keys::Sym, keys::Enter});
-    EXPECT_EQ(input()->Text(), u"abc");
-    input()->SelStart(2);
-    input()->SelLength(1);
-    tapAll({keys::Sym, keys::Enter});
-    EXPECT_EQ(input()->Text(), u"ab\r\n");
-}
-
-TEST_F(DialogKeyboardTest, AVariantIsTypedAsItIs)
-{
-    open(target<TextBox>());
-    keyPad()->VARIANT.emit(u"à");
-    outside.runPending();
-    EXPECT_EQ(input()->Text(), u"à");
-}
-
-TEST_F(DialogKeyboardTest, NoKeyOfTwoHandsIsLost)
-{
-    open(target<TextBox>());
-    touch.press(1, *keyPad(), middle(keys::LetterA));
-    touch.press(2, *keyPad(), middle(keys::LetterQ));
-    touch.release(1);
-    touch.release(2);
-    outside.runPending();
-    EXPECT_EQ(input()->Text(), u"aq");
 }
 
 // Ends.
@@ -447,6 +231,54 @@ TEST_F(DialogKeyboardTest, LeavingItDoesNothing)
     EXPECT_EQ(box->Text(), u"");
 }
 
+TEST_F(DialogKeyboardTest, DeskKeysGoThroughVariantsAndDoNotConfirm)
+{
+    const auto box = target<TextBox>();
+    open(box);
+    touch.press(1, *keyPad(), middle(keys::LetterA));
+    outside.advance(0.5);
+    touch.release(1);
+    headless::type(keyboard.form(), u"{right}{enter}");
+    outside.runPending();
+    EXPECT_EQ(input()->Text(), u"à");
+    EXPECT_TRUE(isOpen());
+    touch.press(1, *keyPad(), middle(keys::LetterA));
+    outside.advance(0.5);
+    touch.release(1);
+    headless::type(keyboard.form(), u"{esc}");
+    outside.advance(1);
+    EXPECT_TRUE(isOpen()) << "it has closed the variants alone";
+    headless::type(keyboard.form(), u"{esc}");
+    outside.advance(1);
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(box->Text(), u"");
+}
+
+TEST_F(DialogKeyboardTest, EscapeGivesUpWithAnyModifier)
+{
+    const auto box = target<TextBox>();
+    open(box);
+    tap(keys::Shift);
+    tap(keys::Shift);
+    tap(keys::Escape);
+    outside.advance(1);
+    EXPECT_FALSE(isOpen());
+    EXPECT_FALSE(keyboard.Accepted());
+}
+
+TEST_F(DialogKeyboardTest, AKeyBehindEnterTakesNothingAway)
+{
+    constexpr std::int32_t Clear = 59;
+    const auto box = target<TextBox>();
+    box->Text(u"Wasser");
+    open(box);
+    tap(keys::Enter);
+    tap(Clear);
+    tap(keys::Backspace);
+    outside.advance(1);
+    EXPECT_EQ(box->Text(), u"Wasser");
+}
+
 // Drags.
 
 TEST_F(DialogKeyboardTest, APressThatMovesTenPixelsIsAClick)
@@ -503,120 +335,6 @@ TEST_F(DialogKeyboardTest, AHeldKeyIsNoDragAnyMore)
     touch.release(1);
     EXPECT_EQ(keyboard.form().Left(), left);
     EXPECT_LT(input()->Text().size(), 5U);
-}
-
-} // namespace
-
-// What keys and the desk do together.
-
-TEST_F(DialogKeyboardTest, AScanTypesABlank)
-{
-    chooseScan(800);
-    const auto box = target<TextBox>();
-    open(box);
-    outside.advance(4 * 0.8); // the last row
-    headless::type(keyboard.form(), u" ");
-    outside.advance(2 * 0.8); // behind Ctrl and Alt
-    headless::type(keyboard.form(), u" ");
-    outside.runPending();
-    EXPECT_EQ(input()->Text(), u" ");
-}
-
-TEST_F(DialogKeyboardTest, DeskKeysGoThroughVariantsAndDoNotConfirm)
-{
-    const auto box = target<TextBox>();
-    open(box);
-    touch.press(1, *keyPad(), middle(keys::LetterA));
-    outside.advance(0.5);
-    touch.release(1);
-    headless::type(keyboard.form(), u"{right}{enter}");
-    outside.runPending();
-    EXPECT_EQ(input()->Text(), u"à");
-    EXPECT_TRUE(isOpen());
-    touch.press(1, *keyPad(), middle(keys::LetterA));
-    outside.advance(0.5);
-    touch.release(1);
-    headless::type(keyboard.form(), u"{esc}");
-    outside.advance(1);
-    EXPECT_TRUE(isOpen()) << "it has closed the variants alone";
-    headless::type(keyboard.form(), u"{esc}");
-    outside.advance(1);
-    EXPECT_FALSE(isOpen());
-    EXPECT_EQ(box->Text(), u"");
-}
-
-TEST_F(DialogKeyboardTest, EscapeGivesUpWithAnyModifier)
-{
-    const auto box = target<TextBox>();
-    open(box);
-    tap(keys::Shift);
-    tap(keys::Shift);
-    tap(keys::Escape);
-    outside.advance(1);
-    EXPECT_FALSE(isOpen());
-    EXPECT_FALSE(keyboard.Accepted());
-}
-
-TEST_F(DialogKeyboardTest, AKeyBehindEnterTakesNothingAway)
-{
-    constexpr std::int32_t Clear = 59;
-    const auto box = target<TextBox>();
-    box->Text(u"Wasser");
-    open(box);
-    tap(keys::Enter);
-    tap(Clear);
-    tap(keys::Backspace);
-    outside.advance(1);
-    EXPECT_EQ(box->Text(), u"Wasser");
-}
-
-TEST_F(DialogKeyboardTest, CtrlAndAltTypeSymbols)
-{
-    constexpr std::int32_t Ctrl = 50;
-    constexpr std::int32_t Alt = 51;
-    open(target<TextBox>());
-    tapAll({Ctrl, Alt, keys::LetterE});
-    EXPECT_EQ(input()->Text(), u"€");
-    tapAll({Ctrl, Alt, Alt, keys::LetterE});
-    EXPECT_EQ(input()->Text(), u"€e") << "once and locked have no bit in common";
-}
-
-TEST_F(DialogKeyboardTest, TenFingersAndADeskLoseNoKey)
-{
-    std::mt19937 random(60);
-    const auto box = target<TextBox>();
-    open(box);
-    keyPad()->offersVariants(false);
-    String expected;
-    std::array<bool, 10> isDown{};
-    constexpr int Moves = 3000; // 60 seconds, a move every 20 milliseconds
-    for (int move = 0; move < Moves; ++move) {
-        const auto finger = random() % 11;
-        if (finger == 10) {
-            headless::type(keyboard.form(), u"0");
-            expected += u'0';
-        } else if (isDown[finger]) {
-            touch.release(static_cast<std::int32_t>(finger));
-            isDown[finger] = false;
-        } else {
-            const std::int32_t key = 26 + static_cast<std::int32_t>(random() % 9); // a to l
-            touch.press(static_cast<std::int32_t>(finger), *keyPad(), middle(key));
-            expected += face(key);
-            isDown[finger] = true;
-        }
-        outside.advance(0.02);
-        outside.runPending();
-    }
-    for (std::int32_t finger = 0; finger < 10; ++finger) {
-        if (isDown[static_cast<std::size_t>(finger)]) {
-            touch.release(finger);
-        }
-    }
-    outside.runPending();
-    String got = input()->Text();
-    std::ranges::sort(got); // the desk's keys may pass a key that is still down
-    std::ranges::sort(expected);
-    EXPECT_EQ(toUtf8(got), toUtf8(expected));
 }
 
 } // namespace phial::test

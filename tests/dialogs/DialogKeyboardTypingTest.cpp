@@ -1,0 +1,223 @@
+#include "dialogs/DialogKeyboardTest.h"
+#include "dialogs/ScanChoice.h"
+#include "headless/Hand.h"
+
+#include <algorithm>
+#include <array>
+#include <random>
+
+namespace phial::test
+{
+
+TEST_F(DialogKeyboardTest, TypesWhatItsKeysShow)
+{
+    open(target<TextBox>());
+    tapAll({keys::LetterA, keys::Shift, keys::LetterQ, keys::LetterW});
+    EXPECT_EQ(input()->Text(), u"aQw");
+}
+
+TEST_F(DialogKeyboardTest, ShiftPressedOnceIsForOneKey)
+{
+    open(target<TextBox>());
+    tap(keys::Shift);
+    EXPECT_EQ(face(keys::LetterA), u"A");
+    tap(keys::LetterA);
+    EXPECT_EQ(input()->Text(), u"A");
+    EXPECT_EQ(state(Modifier::Shift), KeyState::Off);
+    EXPECT_EQ(face(keys::LetterA), u"a");
+}
+
+TEST_F(DialogKeyboardTest, ShiftPressedTwiceStaysUntilTheThirdPress)
+{
+    open(target<TextBox>());
+    tapAll({keys::Shift, keys::Shift, keys::LetterA, keys::LetterQ});
+    EXPECT_EQ(state(Modifier::Shift), KeyState::Locked);
+    tapAll({keys::Shift, keys::LetterA});
+    EXPECT_EQ(input()->Text(), u"AQa");
+}
+
+TEST_F(DialogKeyboardTest, TypesSymbols)
+{
+    open(target<TextBox>());
+    tapAll({keys::Sym, keys::LetterE, keys::Sym, keys::LetterQ, keys::Sym, keys::Eight});
+    EXPECT_EQ(input()->Text(), u"€@[");
+}
+
+TEST_F(DialogKeyboardTest, TypesAtTheCaretOverWhatIsSelected)
+{
+    const auto box = target<TextBox>();
+    box->Text(u"abc");
+    open(box);
+    input()->SelStart(1);
+    input()->SelLength(1);
+    tap(keys::LetterQ);
+    EXPECT_EQ(input()->Text(), u"aqc");
+    tap(keys::Backspace);
+    EXPECT_EQ(input()->Text(), u"ac");
+    tap(keys::Left);
+    EXPECT_EQ(input()->SelStart(), 0);
+}
+
+TEST_F(DialogKeyboardTest, TypesIntoItsInputWhateverHasTheFocus)
+{
+    open(target<TextBox>());
+    keyboard.form().focus(nullptr);
+    tap(keys::LetterA);
+    EXPECT_EQ(input()->Text(), u"a");
+    EXPECT_EQ(keyboard.form().ActiveControl(), input());
+}
+
+TEST_F(DialogKeyboardTest, AKeyThatCannotBeSentLeavesItOpen)
+{
+    open(target<TextBox>());
+    input()->Enabled(false); // it cannot take the focus
+    tapAll({keys::Shift, keys::LetterA});
+    EXPECT_TRUE(isOpen());
+    EXPECT_EQ(input()->Text(), u"");
+}
+
+TEST_F(DialogKeyboardTest, ClearsTheText)
+{
+    const auto box = target<TextBox>();
+    box->Text(u"abc");
+    open(box);
+    tapAll({keys::Shift, keys::Clear});
+    EXPECT_EQ(input()->Text(), u"");
+    EXPECT_EQ(state(Modifier::Shift), KeyState::Off);
+    EXPECT_EQ(box->Text(), u"abc");
+}
+
+TEST_F(DialogKeyboardTest, ALockedTextIsOnlyShown)
+{
+    const auto box = target<TextBox>();
+    box->MultiLine(true);
+    box->Text(u"abc");
+    box->Locked(true);
+    open(box);
+    tapAll({keys::Clear, keys::LetterA, keys::Sym, keys::Enter});
+    EXPECT_EQ(input()->Text(), u"abc");
+}
+
+TEST_F(DialogKeyboardTest, EnterWithSymAddsALine)
+{
+    const auto box = target<TextBox>();
+    box->MultiLine(true);
+    box->Text(u"ab");
+    open(box);
+    input()->SelStart(1);
+    tapAll({keys::Sym, keys::Enter});
+    EXPECT_EQ(input()->Text(), u"a\r\nb");
+    EXPECT_EQ(input()->SelStart(), 3);
+    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 12);
+    EXPECT_EQ(state(Modifier::Sym), KeyState::Off);
+    EXPECT_FALSE(keyboard.Accepted());
+    outside.advance(0.2);
+    EXPECT_TRUE(isOpen());
+}
+
+TEST_F(DialogKeyboardTest, EnterWithSymDoesNothingWhereThereIsOneLine)
+{
+    open(target<TextBox>());
+    tapAll({keys::LetterA, keys::Sym, keys::Enter});
+    EXPECT_EQ(input()->Text(), u"a");
+    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 20);
+    EXPECT_FALSE(keyboard.Accepted());
+}
+
+TEST_F(DialogKeyboardTest, ALineHasToFitIntoTheGreatestLength)
+{
+    const auto box = target<TextBox>();
+    box->MultiLine(true);
+    box->MaxLength(4);
+    box->Text(u"abc");
+    open(box);
+    tapAll({keys::Sym, keys::Enter});
+    EXPECT_EQ(input()->Text(), u"abc");
+    input()->SelStart(2);
+    input()->SelLength(1);
+    tapAll({keys::Sym, keys::Enter});
+    EXPECT_EQ(input()->Text(), u"ab\r\n");
+}
+
+TEST_F(DialogKeyboardTest, AVariantIsTypedAsItIs)
+{
+    open(target<TextBox>());
+    keyPad()->VARIANT.emit(u"à");
+    outside.runPending();
+    EXPECT_EQ(input()->Text(), u"à");
+}
+
+TEST_F(DialogKeyboardTest, NoKeyOfTwoHandsIsLost)
+{
+    open(target<TextBox>());
+    touch.press(1, *keyPad(), middle(keys::LetterA));
+    touch.press(2, *keyPad(), middle(keys::LetterQ));
+    touch.release(1);
+    touch.release(2);
+    outside.runPending();
+    EXPECT_EQ(input()->Text(), u"aq");
+}
+
+TEST_F(DialogKeyboardTest, AScanTypesABlank)
+{
+    chooseScan(800);
+    const auto box = target<TextBox>();
+    open(box);
+    outside.advance(4 * 0.8); // the last row
+    headless::type(keyboard.form(), u" ");
+    outside.advance(2 * 0.8); // behind Ctrl and Alt
+    headless::type(keyboard.form(), u" ");
+    outside.runPending();
+    EXPECT_EQ(input()->Text(), u" ");
+}
+
+TEST_F(DialogKeyboardTest, CtrlAndAltTypeSymbols)
+{
+    constexpr std::int32_t Ctrl = 50;
+    constexpr std::int32_t Alt = 51;
+    open(target<TextBox>());
+    tapAll({Ctrl, Alt, keys::LetterE});
+    EXPECT_EQ(input()->Text(), u"€");
+    tapAll({Ctrl, Alt, Alt, keys::LetterE});
+    EXPECT_EQ(input()->Text(), u"€e") << "once and locked have no bit in common";
+}
+
+TEST_F(DialogKeyboardTest, TenFingersAndADeskLoseNoKey)
+{
+    std::mt19937 random(60);
+    const auto box = target<TextBox>();
+    open(box);
+    keyPad()->offersVariants(false);
+    String expected;
+    std::array<bool, 10> isDown{};
+    constexpr int Moves = 3000; // 60 seconds, a move every 20 milliseconds
+    for (int move = 0; move < Moves; ++move) {
+        const auto finger = random() % 11;
+        if (finger == 10) {
+            headless::type(keyboard.form(), u"0");
+            expected += u'0';
+        } else if (isDown[finger]) {
+            touch.release(static_cast<std::int32_t>(finger));
+            isDown[finger] = false;
+        } else {
+            const std::int32_t key = 26 + static_cast<std::int32_t>(random() % 9); // a to l
+            touch.press(static_cast<std::int32_t>(finger), *keyPad(), middle(key));
+            expected += face(key);
+            isDown[finger] = true;
+        }
+        outside.advance(0.02);
+        outside.runPending();
+    }
+    for (std::int32_t finger = 0; finger < 10; ++finger) {
+        if (isDown[static_cast<std::size_t>(finger)]) {
+            touch.release(finger);
+        }
+    }
+    outside.runPending();
+    String got = input()->Text();
+    std::ranges::sort(got); // the desk's keys may pass a key that is still down
+    std::ranges::sort(expected);
+    EXPECT_EQ(toUtf8(got), toUtf8(expected));
+}
+
+} // namespace phial::test
