@@ -1,15 +1,13 @@
 #include "dialogs/ctl_Keys.h"
 
-#include "app/cls_Language.h"
-#include "app/sys_Global.h"
 #include "core/Palette.h"
+#include "dialogs/KeyParts.h"
 #include "dialogs/KeySpeech.h"
 #include "dialogs/KeyVariants.h"
 #include "visual/PropertyRows.h"
 
 #include <algorithm>
-#include <cmath>
-#include <utility>
+#include <array>
 
 namespace phial
 {
@@ -25,48 +23,6 @@ bool repeats(StringView name)
     return std::ranges::find(Repeating, name) != Repeating.end();
 }
 
-KeyKind kindOf(const KeyBoard& board, const KeyDesign& key)
-{
-    const String& base = board.base(key.index);
-    if (base == u"ENTER" || base == u"OK") {
-        return KeyKind::Accept;
-    }
-    const bool isCharacter = key.tag.empty() || key.tag.size() == 1 || key.tag.starts_with(u'{');
-    return isCharacter ? KeyKind::Character : KeyKind::Function;
-}
-
-PixelRectangle areaOfAll(std::span<const KeyDesign> keys)
-{
-    if (keys.empty()) {
-        return {};
-    }
-    double left = keys.front().left;
-    double top = keys.front().top;
-    double right = left;
-    double bottom = top;
-    for (const KeyDesign& key : keys) {
-        left = std::min(left, key.left);
-        top = std::min(top, key.top);
-        right = std::max(right, key.left + key.width);
-        bottom = std::max(bottom, key.top + key.height);
-    }
-    return {left, top, right - left, bottom - top};
-}
-
-bool meet(const PixelRectangle& one, const PixelRectangle& other)
-{
-    return one.left < other.right() && other.left < one.right() && one.top < other.bottom() &&
-           other.top < one.bottom();
-}
-
-/// Where the key is itself and no notch.
-bool covers(const KeyLook& look, PixelPoint point)
-{
-    const bool isInNotch =
-        point.x < look.area.left + look.notch && point.y >= look.area.top + look.area.height / 2;
-    return look.area.contains(point) && !isInNotch;
-}
-
 } // namespace
 
 struct ctl_Keys::Properties {
@@ -77,7 +33,8 @@ struct ctl_Keys::Properties {
 };
 
 ctl_Keys::ctl_Keys()
-    : frame_(*this), surface_(*this), timer_(u"tmr_Hold", HoldInterval), scanTimer_(u"tmr_Scan")
+    : frame_(*this), surface_(*this), sheet_(surface_), timer_(u"tmr_Hold", HoldInterval),
+      scanTimer_(u"tmr_Scan")
 {
     frame_.takesTouch(true);
     ticking_ += timer_.Tick.connect([this] { hold(); });
@@ -95,78 +52,10 @@ void ctl_Keys::layout(const KeyLayout& value)
 {
     board_ = std::make_unique<KeyBoard>(value);
     hand_ = std::make_unique<KeyHand>(*board_);
-    design_ = areaOfAll(value.keys);
     closeStrip();
-    place();
-    isPainted_ = false;
+    sheet_.layout(*board_, *hand_);
     runScan();
     surface_.invalidate();
-}
-
-// Places and looks.
-
-double ctl_Keys::scale() const
-{
-    return design_.isEmpty() ? 1 : surface_.size().width / (design_.width / TwipsPerPixel);
-}
-
-/// Where a key stands. Edges are those of the device's pixels, so that neighbours meet and caps are not
-/// blurred.
-KeyLook ctl_Keys::placed(const KeyDesign& key) const
-{
-    const double pixels = scale() / TwipsPerPixel;
-    const auto edge = [&](double twips) { return std::round(twips * pixels * ratio_) / ratio_; };
-    KeyLook look;
-    const double left = edge(key.left - design_.left);
-    const double top = edge(key.top - design_.top);
-    look.area = {left, top, edge(key.left + key.width - design_.left) - left,
-                 edge(key.top + key.height - design_.top) - top};
-    look.notch = key.notch * pixels;
-    look.scale = scale();
-    look.kind = kindOf(*board_, key);
-    return look;
-}
-
-/// What changes of a look while one types.
-void ctl_Keys::take(KeyLook& look, const KeyDesign& key) const
-{
-    look.face = board_->face(key.index);
-    if (look.face.text.find(u'|') != String::npos) {
-        look.face.text = LNG()->TRANSLATEAUTO(look.face.text);
-    }
-    look.state = board_->state(key.index);
-    look.isPressed = hand_->isDown(key.index) && !board_->modifier(key.index);
-}
-
-void ctl_Keys::place()
-{
-    looks_.clear();
-    for (const KeyDesign& key : board_->keys()) {
-        looks_.push_back(placed(key));
-    }
-}
-
-std::size_t ctl_Keys::positionOf(std::int32_t index) const
-{
-    const auto keys = board_->keys();
-    const auto key = std::ranges::find(keys, index, &KeyDesign::index);
-    if (key == keys.end()) {
-        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
-    }
-    return static_cast<std::size_t>(key - keys.begin());
-}
-
-PixelRectangle ctl_Keys::areaOf(std::int32_t index) const
-{
-    return looks_[positionOf(index)].area;
-}
-
-std::optional<std::int32_t> ctl_Keys::keyAt(PixelPoint point) const
-{
-    const auto look = std::ranges::find_if(looks_, [&](const KeyLook& each) { return covers(each, point); });
-    return look == looks_.end()
-               ? std::nullopt
-               : std::optional(board_->keys()[static_cast<std::size_t>(look - looks_.begin())].index);
 }
 
 // Fingers.
@@ -183,7 +72,7 @@ void ctl_Keys::pointerDown(const PointerEvent& event)
         waitForHold();
         return;
     }
-    const auto key = keyAt({event.X, event.Y});
+    const auto key = sheet_.keyAt({event.X, event.Y});
     if (!key) {
         return;
     }
@@ -309,7 +198,7 @@ void ctl_Keys::hold()
 /// Gives whether the key has some.
 bool ctl_Keys::openVariantsOf(std::int32_t index)
 {
-    const bool isCharacter = looks_[positionOf(index)].kind == KeyKind::Character;
+    const bool isCharacter = sheet_.kindOf(index) == KeyKind::Character;
     const String variants = offersVariants_ && isCharacter ? variantsOf(board_->face(index).text) : String();
     if (!variants.empty()) {
         openStrip(variants, index);
@@ -470,133 +359,43 @@ void ctl_Keys::holdSwitch()
     }
 }
 
-/// A frame around what the switch would choose.
-void ctl_Keys::paintLight()
-{
-    constexpr double Width = 4;
-    const auto lit = scan_ ? scan_->lit() : std::vector<std::int32_t>();
-    if (lit.empty()) {
-        return;
-    }
-    const PixelRectangle first = areaOf(lit.front());
-    const PixelRectangle last = areaOf(lit.back());
-    const double inset = Width / 2;
-    DrawDevice& device = surface_.device();
-    device.DrawWidth(Width);
-    device.Line(first.left + inset, first.top + inset, last.right() - 1 - inset, first.bottom() - 1 - inset,
-                Palette::FocusRing, LineShape::Box);
-    device.DrawWidth(1);
-}
-
 // What is seen and told.
 
 void ctl_Keys::resized()
 {
     closeStrip();
-    place();
-    isPainted_ = false;
+    sheet_.resized();
     surface_.resized();
 }
 
 void ctl_Keys::paint()
 {
-    DrawDevice& device = surface_.device();
-    const PicturePtr image = device.Image();
-    ratio_ = image ? image->pixelRatio() : 1;
-    place();
-    device.Cls();
-    const auto keys = board_->keys();
-    for (std::size_t at = 0; at < keys.size(); ++at) {
-        take(looks_[at], keys[at]);
-        painter_.paint(device, looks_[at]);
+    sheet_.paint();
+    if (scan_) {
+        sheet_.paintLight(scan_->lit());
     }
-    paintLight();
-    paintStrip();
-    isPainted_ = true;
+    if (strip_) {
+        sheet_.paintStrip(*strip_);
+    }
 }
 
 void ctl_Keys::refresh()
 {
-    if (!isPainted_) {
+    const auto stale = sheet_.changes();
+    if (stale.empty()) {
         return;
     }
-    const auto keys = board_->keys();
-    std::vector<std::size_t> stale;
-    for (std::size_t at = 0; at < keys.size(); ++at) {
-        KeyLook look = looks_[at];
-        take(look, keys[at]);
-        if (!(look == looks_[at])) {
-            looks_[at] = std::move(look);
-            stale.push_back(at);
-        }
-    }
-    if (!stale.empty()) {
-        frame_.report(ControlAspect::Accessibility);
-        repaint(stale);
-    }
-}
-
-/// Keys whose boxes meet an erased one are painted again with it.
-void ctl_Keys::repaint(const std::vector<std::size_t>& stale)
-{
-    if (strip_ || scan_) {
+    frame_.report(ControlAspect::Accessibility);
+    if (strip_ || scan_) { // they lie on keys
         surface_.invalidate();
-        return;
-    }
-    DrawDevice& device = surface_.device();
-    for (const std::size_t at : stale) {
-        const PixelRectangle& area = looks_[at].area;
-        device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, surface_.BackColor(),
-                    LineShape::Filled);
-    }
-    for (const KeyLook& look : looks_) {
-        if (std::ranges::any_of(stale, [&](std::size_t at) { return meet(look.area, looks_[at].area); })) {
-            painter_.paint(device, look);
-        }
-    }
-}
-
-void ctl_Keys::paintStrip()
-{
-    if (!strip_) {
-        return;
-    }
-    DrawDevice& device = surface_.device();
-    const PixelRectangle& all = strip_->area();
-    device.Line(all.left, all.top, all.right() - 1, all.bottom() - 1, Palette::AccentSoft, LineShape::Filled);
-    device.Line(all.left, all.top, all.right() - 1, all.bottom() - 1, Palette::Accent, LineShape::Box);
-    for (std::size_t at = 0; at < strip_->count(); ++at) {
-        KeyLook look;
-        look.area = strip_->cell(at);
-        look.scale = scale();
-        look.face.text = String(1, strip_->character(at));
-        look.isPressed = at == strip_->chosen();
-        painter_.paint(device, look);
+    } else {
+        sheet_.repaint(stale);
     }
 }
 
 std::vector<NamedPart> ctl_Keys::parts() const
 {
-    std::vector<NamedPart> all;
-    const String press = LNG()->TRANSLATE(u"Drücken", u"Press");
-    for (const KeyDesign& key : board_->keys()) {
-        const KeyState state = board_->state(key.index);
-        all.push_back({.area = looks_[all.size()].area,
-                       .role = PartRole::Button,
-                       .name = spokenKey(*board_, key.index),
-                       .action = press,
-                       .state = {.pressed = state == KeyState::Once,
-                                 .checkable = board_->modifier(key.index).has_value(),
-                                 .checked = state == KeyState::Locked}});
-    }
-    for (std::size_t at = 0; strip_ && at < strip_->count(); ++at) {
-        all.push_back({.area = strip_->cell(at),
-                       .role = PartRole::Button,
-                       .name = spokenCharacter(String(1, strip_->character(at))),
-                       .action = press,
-                       .state = {.pressed = at == strip_->chosen()}});
-    }
-    return all;
+    return keyParts(*board_, sheet_, strip_);
 }
 
 void ctl_Keys::activatePart(std::size_t part)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "dialogs/KeyHand.h"
-#include "dialogs/KeyPainter.h"
 #include "dialogs/KeyScan.h"
+#include "dialogs/KeySheet.h"
 #include "dialogs/VariantStrip.h"
 #include "visual/PaintHints.h"
 #include "visual/PaintSurface.h"
@@ -39,9 +39,9 @@ public:
     KeyBoard& board() { return *board_; }
     const KeyBoard& board() const { return *board_; }
     /// The area of all keys on the keyboard's form, in twips at scale 1.
-    PixelRectangle designArea() const { return design_; }
+    PixelRectangle designArea() const { return sheet_.designArea(); }
     /// Of a key, in pixels of the control; raises 9 for one that is not there.
-    PixelRectangle areaOf(std::int32_t index) const;
+    PixelRectangle areaOf(std::int32_t index) const { return sheet_.areaOf(index); }
     /// Whether keys can be held for variants; true at first.
     bool offersVariants() const { return offersVariants_; }
     void offersVariants(bool value) { offersVariants_ = value; }
@@ -90,20 +90,12 @@ public:
 private:
     struct Properties;
 
-    double scale() const;
-    std::optional<std::int32_t> keyAt(PixelPoint point) const;
-    KeyLook placed(const KeyDesign& key) const;
-    void take(KeyLook& look, const KeyDesign& key) const;
-    void place();
     void strike(std::int32_t index);
     void hold();
     void openStrip(const String& variants, std::int32_t index);
     void closeStrip();
     void chooseVariant(std::size_t at);
     bool pressStrip(const PointerEvent& event);
-    void repaint(const std::vector<std::size_t>& stale);
-    void paintStrip();
-    void paintLight();
     void runScan();
     void restartScan();
     void stepScan();
@@ -114,17 +106,12 @@ private:
     void goThroughStrip(KeyEvent& event);
     void stepStrip(bool isForward);
     void waitForHold();
-    std::size_t positionOf(std::int32_t index) const;
 
     ControlFrame frame_;
     PaintSurface surface_;
     std::unique_ptr<KeyBoard> board_;
     std::unique_ptr<KeyHand> hand_;
-    PixelRectangle design_;
-    KeyPainter painter_;
-    double ratio_ = 1;           ///< pixels of the device in one of the control, as last painted
-    std::vector<KeyLook> looks_; ///< in the order of the keys, as they were painted last
-    bool isPainted_ = false;
+    KeySheet sheet_;
     std::optional<VariantStrip> strip_;
     std::optional<std::int32_t> stripFinger_; ///< the one that has opened it, or presses it
     bool offersVariants_ = true;

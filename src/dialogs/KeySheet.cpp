@@ -1,0 +1,214 @@
+#include "dialogs/KeySheet.h"
+
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+#include "core/Palette.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace phial
+{
+
+namespace
+{
+
+KeyKind kindOfKey(const KeyBoard& board, const KeyDesign& key)
+{
+    const String& base = board.base(key.index);
+    if (base == u"ENTER" || base == u"OK") {
+        return KeyKind::Accept;
+    }
+    const bool isCharacter = key.tag.empty() || key.tag.size() == 1 || key.tag.starts_with(u'{');
+    return isCharacter ? KeyKind::Character : KeyKind::Function;
+}
+
+PixelRectangle areaOfAll(std::span<const KeyDesign> keys)
+{
+    if (keys.empty()) {
+        return {};
+    }
+    double left = keys.front().left;
+    double top = keys.front().top;
+    double right = left;
+    double bottom = top;
+    for (const KeyDesign& key : keys) {
+        left = std::min(left, key.left);
+        top = std::min(top, key.top);
+        right = std::max(right, key.left + key.width);
+        bottom = std::max(bottom, key.top + key.height);
+    }
+    return {left, top, right - left, bottom - top};
+}
+
+bool meet(const PixelRectangle& one, const PixelRectangle& other)
+{
+    return one.left < other.right() && other.left < one.right() && one.top < other.bottom() &&
+           other.top < one.bottom();
+}
+
+/// Where the key is itself and no notch.
+bool covers(const KeyLook& look, PixelPoint point)
+{
+    const bool isInNotch =
+        point.x < look.area.left + look.notch && point.y >= look.area.top + look.area.height / 2;
+    return look.area.contains(point) && !isInNotch;
+}
+
+} // namespace
+
+void KeySheet::layout(const KeyBoard& board, const KeyHand& hand)
+{
+    board_ = &board;
+    hand_ = &hand;
+    design_ = areaOfAll(board.keys());
+    resized();
+}
+
+double KeySheet::scale() const
+{
+    return design_.isEmpty() ? 1 : surface_.size().width / (design_.width / TwipsPerPixel);
+}
+
+/// Where a key stands. Edges are those of the device's pixels, so that neighbours meet and caps are not
+/// blurred.
+KeyLook KeySheet::placed(const KeyDesign& key) const
+{
+    const double pixels = scale() / TwipsPerPixel;
+    const auto edge = [&](double twips) { return std::round(twips * pixels * ratio_) / ratio_; };
+    KeyLook look;
+    const double left = edge(key.left - design_.left);
+    const double top = edge(key.top - design_.top);
+    look.area = {left, top, edge(key.left + key.width - design_.left) - left,
+                 edge(key.top + key.height - design_.top) - top};
+    look.notch = key.notch * pixels;
+    look.scale = scale();
+    look.kind = kindOfKey(*board_, key);
+    return look;
+}
+
+/// What changes of a look while one types.
+void KeySheet::take(KeyLook& look, const KeyDesign& key) const
+{
+    look.face = board_->face(key.index);
+    if (look.face.text.find(u'|') != String::npos) {
+        look.face.text = LNG()->TRANSLATEAUTO(look.face.text);
+    }
+    look.state = board_->state(key.index);
+    look.isPressed = hand_->isDown(key.index) && !board_->modifier(key.index);
+}
+
+void KeySheet::place()
+{
+    looks_.clear();
+    for (const KeyDesign& key : board_->keys()) {
+        looks_.push_back(placed(key));
+    }
+}
+
+void KeySheet::resized()
+{
+    place();
+    isPainted_ = false;
+}
+
+std::size_t KeySheet::positionOf(std::int32_t index) const
+{
+    const auto keys = board_->keys();
+    const auto key = std::ranges::find(keys, index, &KeyDesign::index);
+    if (key == keys.end()) {
+        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
+    }
+    return static_cast<std::size_t>(key - keys.begin());
+}
+
+std::optional<std::int32_t> KeySheet::keyAt(PixelPoint point) const
+{
+    const auto look = std::ranges::find_if(looks_, [&](const KeyLook& each) { return covers(each, point); });
+    return look == looks_.end()
+               ? std::nullopt
+               : std::optional(board_->keys()[static_cast<std::size_t>(look - looks_.begin())].index);
+}
+
+void KeySheet::paint()
+{
+    DrawDevice& device = surface_.device();
+    const PicturePtr image = device.Image();
+    ratio_ = image ? image->pixelRatio() : 1;
+    place();
+    device.Cls();
+    const auto keys = board_->keys();
+    for (std::size_t at = 0; at < keys.size(); ++at) {
+        take(looks_[at], keys[at]);
+        painter_.paint(device, looks_[at]);
+    }
+    isPainted_ = true;
+}
+
+void KeySheet::paintLight(std::span<const std::int32_t> lit)
+{
+    constexpr double Width = 4;
+    if (lit.empty()) {
+        return;
+    }
+    const PixelRectangle first = areaOf(lit.front());
+    const PixelRectangle last = areaOf(lit.back());
+    const double inset = Width / 2;
+    DrawDevice& device = surface_.device();
+    device.DrawWidth(Width);
+    device.Line(first.left + inset, first.top + inset, last.right() - 1 - inset, first.bottom() - 1 - inset,
+                Palette::FocusRing, LineShape::Box);
+    device.DrawWidth(1);
+}
+
+void KeySheet::paintStrip(const VariantStrip& strip)
+{
+    DrawDevice& device = surface_.device();
+    const PixelRectangle& all = strip.area();
+    device.Line(all.left, all.top, all.right() - 1, all.bottom() - 1, Palette::AccentSoft, LineShape::Filled);
+    device.Line(all.left, all.top, all.right() - 1, all.bottom() - 1, Palette::Accent, LineShape::Box);
+    for (std::size_t at = 0; at < strip.count(); ++at) {
+        KeyLook look;
+        look.area = strip.cell(at);
+        look.scale = scale();
+        look.face.text = String(1, strip.character(at));
+        look.isPressed = at == strip.chosen();
+        painter_.paint(device, look);
+    }
+}
+
+std::vector<std::size_t> KeySheet::changes()
+{
+    std::vector<std::size_t> stale;
+    if (!isPainted_) {
+        return stale;
+    }
+    const auto keys = board_->keys();
+    for (std::size_t at = 0; at < keys.size(); ++at) {
+        KeyLook look = looks_[at];
+        take(look, keys[at]);
+        if (!(look == looks_[at])) {
+            looks_[at] = std::move(look);
+            stale.push_back(at);
+        }
+    }
+    return stale;
+}
+
+void KeySheet::repaint(std::span<const std::size_t> stale)
+{
+    DrawDevice& device = surface_.device();
+    for (const std::size_t at : stale) {
+        const PixelRectangle& area = looks_[at].area;
+        device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, surface_.BackColor(),
+                    LineShape::Filled);
+    }
+    for (const KeyLook& look : looks_) {
+        if (std::ranges::any_of(stale, [&](std::size_t at) { return meet(look.area, looks_[at].area); })) {
+            painter_.paint(device, look);
+        }
+    }
+}
+
+} // namespace phial
