@@ -134,6 +134,47 @@ TEST_F(NativeControlsTest, AFieldCanBecomeOneOfManyLinesWhileShown)
     EXPECT_EQ(field->Text(), u"dabc");
 }
 
+TEST_F(NativeControlsTest, AFieldThatBecomesOneOfManyLinesKeepsFocusAndSelection)
+{
+    const auto field = shown<TextBox>(u"txt_Input");
+    const auto other = form_->add<TextBox>(u"txt_Other");
+    other->Move(10, 200, 200, 30);
+    int left = 0;
+    const Connection leaving = field->LostFocus.connect([&] { ++left; });
+    field->SetFocus();
+    field->Text(u"abcd");
+    for (const bool many : {true, false}) {
+        field->SelStart(1);
+        field->SelLength(2);
+        field->MultiLine(many);
+        EXPECT_EQ(field->SelText(), u"bc") << many;
+        EXPECT_EQ(form_->ActiveControl(), field);
+        QWidget* focused = widgetOf(*form_).focusWidget();
+        ASSERT_NE(focused, nullptr);
+        EXPECT_EQ(focused, widgetOf(*field).focusProxy());
+        EXPECT_EQ(focused->inherits("QPlainTextEdit"), many);
+        QTest::keyClicks(focused, QStringLiteral("xy"));
+        EXPECT_EQ(field->Text(), u"axyd");
+        field->Text(u"abcd");
+    }
+    EXPECT_EQ(left, 0);
+    other->SetFocus();
+    field->MultiLine(true);
+    EXPECT_EQ(form_->ActiveControl(), other) << "it takes no focus that it did not have";
+    EXPECT_EQ(widgetOf(*form_).focusWidget(), widgetOf(*other).focusProxy());
+    QTest::keyClick(widgetOf(*form_).focusWidget(), Qt::Key_Backtab);
+    EXPECT_EQ(form_->ActiveControl(), field) << "it stands where it stood in the order of Tab";
+}
+
+TEST_F(NativeControlsTest, AHandlerMayMakeAPageOfTheFieldInWhichOneTypes)
+{
+    const auto field = shown<TextBox>(u"txt_Input");
+    const Connection typing = field->Change.connect([&] { field->MultiLine(true); });
+    QTest::keyClicks(&inner<QLineEdit>(*field), QStringLiteral("a"));
+    QTest::keyClicks(&inner<QPlainTextEdit>(*field), QStringLiteral("b"));
+    EXPECT_EQ(field->Text(), u"ab");
+}
+
 TEST_F(NativeControlsTest, ARichTextBoxGivesItsPlainText)
 {
     const auto field = shown<RichTextBox>(u"rtf_Text");

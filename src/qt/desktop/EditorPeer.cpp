@@ -91,6 +91,26 @@ void EditorPeer<Model>::makeEditor()
     }
 }
 
+/// Another widget, which takes the place of the one that there was in the order of Tab and, before that is
+/// hidden, its focus.
+template <typename Model>
+void EditorPeer<Model>::remakeEditor()
+{
+    const std::unique_ptr<TextEditor> before = std::move(editor_);
+    QWidget& old = before->widget();
+    const bool hasFocus = holder_.window()->focusWidget() == &old;
+    makeEditor();
+    QWidget& made = editor_->widget();
+    made.show();
+    QWidget::setTabOrder(&old, &made);
+    if (hasFocus) {
+        made.setFocus();
+    }
+    old.removeEventFilter(this);
+    before->pressed().removeEventFilter(this);
+    old.hide();
+}
+
 template <typename Model>
 void EditorPeer<Model>::edited()
 {
@@ -104,7 +124,7 @@ void EditorPeer<Model>::showStyle()
 {
     const bool remade = many_ != hasManyLines(*model_);
     if (remade) {
-        makeEditor();
+        remakeEditor();
     }
     editor_->style(styleOf(*model_));
     showKeyboard();

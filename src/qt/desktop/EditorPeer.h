@@ -27,6 +27,7 @@ private:
     void keepDesktopKeyboard(bool away);
     bool eventFilter(QObject* watched, QEvent* event) override;
     void makeEditor();
+    void remakeEditor();
     void edited();
 
     std::shared_ptr<Model> model_;
