@@ -8,6 +8,7 @@
 #include "core/CoreRegistry.h"
 #include "core/CoreRoot.h"
 #include "core/SessionState.h"
+#include "dialogs/FittingWords.h"
 #include "dialogs/KeyboardGround.h"
 #include "dialogs/KeyboardPlace.h"
 #include "dialogs/TargetPlace.h"
@@ -85,6 +86,13 @@ PixelSize sizeOf(const Form& form)
     return {form.Width() / TwipsPerPixel, form.Height() / TwipsPerPixel};
 }
 
+PixelRectangle areaOf(const Form& form)
+{
+    const PixelPoint corner = cornerOf(form);
+    const PixelSize size = sizeOf(form);
+    return {corner.x, corner.y, size.width, size.height};
+}
+
 PixelPoint middleOf(const PixelRectangle& area)
 {
     return {area.left + area.width / 2, area.top + area.height / 2};
@@ -105,14 +113,19 @@ PixelRectangle scaled(const PixelRectangle& area, double scale)
     return {area.left * scale, area.top * scale, area.width * scale, area.height * scale};
 }
 
-/// A font of its own, since others may share the one that it has.
-void scaleFont(Object& control, double scale)
+FontPtr fontOf(Object& control)
 {
     const auto value = tryGet(control, u"Font");
-    if (const auto font = value ? std::dynamic_pointer_cast<Font>(value->object()) : nullptr) {
-        const FontPtr larger = font->clone();
-        larger->Size(font->Size() * scale);
-        trySet(control, u"Font", Variant(ObjectPtr(larger)));
+    return value ? std::dynamic_pointer_cast<Font>(value->object()) : nullptr;
+}
+
+/// A font of its own, since others may share the one that it has.
+void sizeFont(Object& control, double size)
+{
+    if (const FontPtr font = fontOf(control)) {
+        const FontPtr own = font->clone();
+        own->Size(size);
+        trySet(control, u"Font", Variant(ObjectPtr(own)));
     }
 }
 
@@ -140,7 +153,7 @@ void KeyboardWindow::connect()
     form_.press(u"but_Close", [this] { abort(); });
     form_.press(u"but_Quit", [this] { abort(); });
     form_.press(u"but_Enter", [this] { confirm(); });
-    form_.on(form_->Deactivate, [this] { release(); });
+    form_.on(form_->Deactivate, [this] { release(touch_); });
     form_.on(dragging_->Tick, [this] { followPointer(); });
     form_.on(unload_->Tick, [this] {
         unload_->Enabled(false);
@@ -157,7 +170,7 @@ void KeyboardWindow::connect()
 void KeyboardWindow::connectGround()
 {
     const auto draggedBy = [this](auto& part) {
-        form_.on(part.MouseDown, [this](const PointerEvent&) { press(); });
+        form_.on(part.MouseDown, [this](const PointerEvent&) { press(0, pointer()); });
         form_.on(part.MouseUp, [this](const PointerEvent&) { release(); });
     };
     draggedBy(*form_);
@@ -173,25 +186,44 @@ void KeyboardWindow::open()
     const PixelRectangle below = opener ? host.screen().of(*opener) : host.screen().first();
     const PixelPoint point = pointer().value_or(middleOf(below));
     const PixelRectangle screen = host.screen().at(target ? middleOf(*target) : point);
-    const place::Sight sight{screen, host.millimetresPerPixel(middleOf(screen)), opener ? opener->Zoom() : 1};
-    scaleTo(place::scaleFor({sizeOf(*form_), KeyPitch}, sight));
+    openerZoom_ = opener ? opener->Zoom() : 1;
+    noteDesign();
+    scaleTo(scaleOn(screen));
     paintGround();
     moveTo(place::openingPlace({target, point, placeLeft()}, sizeOf(*form_), screen));
+}
+
+void KeyboardWindow::noteDesign()
+{
+    if (!design_.empty()) {
+        return; // it has been open before
+    }
+    designSize_ = form_->innerSize();
+    for (const ControlPtr& control : form_->container().controls()) {
+        const FontPtr font = fontOf(*control);
+        design_.push_back({control, control->frame().pixelRectangle(), font ? font->Size() : 0});
+    }
+}
+
+double KeyboardWindow::scaleOn(const PixelRectangle& screen) const
+{
+    const double millimetres = visualHost().millimetresPerPixel(middleOf(screen));
+    return place::scaleFor({designSize_, KeyPitch}, {screen, millimetres, openerZoom_});
 }
 
 /// A window with holes has no zoom, so all that stands on it grows by itself.
 void KeyboardWindow::scaleTo(double scale)
 {
-    scale_ = scale;
-    if (scale == 1) {
+    if (scale == scale_) {
         return;
     }
-    const PixelSize size = form_->innerSize();
-    form_->innerSize({std::floor(size.width * scale), std::floor(size.height * scale)});
-    for (const ControlPtr& control : form_->container().controls()) {
-        control->frame().pixelRectangle(scaled(control->frame().pixelRectangle(), scale));
-        scaleFont(*control, scale);
+    scale_ = scale;
+    form_->innerSize({std::floor(designSize_.width * scale), std::floor(designSize_.height * scale)});
+    for (const Designed& each : design_) {
+        each.control->frame().pixelRectangle(scaled(each.area, scale));
+        sizeFont(*each.control, each.fontSize * scale);
     }
+    SCALED.emit();
 }
 
 void KeyboardWindow::paintGround()
@@ -216,45 +248,97 @@ void KeyboardWindow::translate()
 {
     const auto title = form_->control<ctl_Label>(u"lab_Title");
     const auto description = form_->control<ctl_Label>(u"lab_Description");
-    title->Caption(title_);
+    title->Caption(fittingWords(title_, title->Font()->traits(), title->surface().size()));
+    title->frame().AccessibleName(title_);
+    title->frame().ToolTipText(title->Caption() == title_ ? String() : title_);
     title->Visible(!title_.empty());
     description->Caption(title_.empty() ? question() : String());
     description->Visible(title_.empty());
 }
 
-void KeyboardWindow::press()
+void KeyboardWindow::press(const Control& part, const PointerEvent& event)
 {
-    if (const auto at = pointer()) {
-        dragStart_ = *at;
-        cornerAtStart_.reset();
-        dragging_->Enabled(true);
+    press(event.Touch, event.Touch == 0 ? pointer() : onDesktop(part, event));
+}
+
+void KeyboardWindow::press(std::int32_t touch, std::optional<PixelPoint> at)
+{
+    if (isDragged() || !at) {
+        return;
+    }
+    touch_ = touch;
+    touchPlace_ = touch == 0 ? std::nullopt : at;
+    dragStart_ = *at;
+    dragging_->Enabled(true);
+}
+
+void KeyboardWindow::move(const Control& part, const PointerEvent& event)
+{
+    if (event.Touch != 0 && event.Touch == touch_) {
+        touchPlace_ = onDesktop(part, event);
     }
 }
 
-void KeyboardWindow::release()
+PixelPoint KeyboardWindow::onDesktop(const Control& part, const PointerEvent& event) const
 {
+    const PixelPoint corner = cornerOf(*form_);
+    const PixelPoint origin = part.frame().originOnForm();
+    return {corner.x + origin.x + event.X, corner.y + origin.y + event.Y};
+}
+
+/// The pointer goes with the finger that has come last, which need not be the one that drags.
+std::optional<PixelPoint> KeyboardWindow::pressedAt() const
+{
+    return touchPlace_ ? touchPlace_ : pointer();
+}
+
+void KeyboardWindow::release(std::int32_t touch)
+{
+    if (touch != touch_) {
+        return;
+    }
     dragging_->Enabled(false);
-    if (cornerAtStart_) {
+    if (isDragged()) {
+        fitToScreen();
         cornerAtStart_.reset();
         keepPlace(cornerOf(*form_));
     }
+    touchPlace_.reset();
 }
 
 void KeyboardWindow::followPointer()
 {
-    const auto at = pointer();
+    const auto at = pressedAt();
     if (!at) {
         return;
     }
-    if (!cornerAtStart_ && place::isDrag(dragStart_, *at)) {
+    if (!isDragged() && place::isDrag(dragStart_, *at)) {
         dragStart_ = *at;
         cornerAtStart_ = cornerOf(*form_);
         DRAGGED.emit();
     }
-    if (cornerAtStart_) {
+    if (isDragged()) {
         const PixelPoint corner{at->x - dragStart_.x + cornerAtStart_->x,
                                 at->y - dragStart_.y + cornerAtStart_->y};
         moveTo(place::draggedTo(corner, sizeOf(*form_), visualHost().screen().at(*at)));
+    }
+}
+
+/// The screen to which it was dragged may be smaller, or its pixels. What was taken hold of stays where it
+/// is.
+void KeyboardWindow::fitToScreen()
+{
+    const PixelPoint at = pressedAt().value_or(middleOf(areaOf(*form_)));
+    const PixelRectangle screen = visualHost().screen().at(at);
+    const double before = scale_;
+    scaleTo(scaleOn(screen));
+    if (scale_ != before) {
+        const double growth = scale_ / before;
+        const PixelPoint corner = cornerOf(*form_);
+        translate();
+        paintGround();
+        moveTo(place::draggedTo({at.x - (at.x - corner.x) * growth, at.y - (at.y - corner.y) * growth},
+                                sizeOf(*form_), screen));
     }
 }
 

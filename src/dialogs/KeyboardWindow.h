@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace phial
 {
@@ -15,8 +16,8 @@ namespace phial
 ///
 /// The window has round corners and no frame. It opens beside the target, or around the pointer; it is
 /// dragged by whatever lies on it, keys included, and where the user has left it the next keyboard opens. Its
-/// size follows the screen (see KeyboardPlace.h). It ends a moment after OK or abort, so that no key ends the
-/// form in which it is being handled.
+/// size follows the screen (see KeyboardPlace.h), that to which it is dragged too. It ends a moment after OK
+/// or abort, so that no key ends the form in which it is being handled.
 ///
 /// The form's design is in pixels at scale 1, and the head, 68 pixels high, is free from 228 pixels at the
 /// left to 66 pixels at the right for what one types into. The controls of the window are added to it.
@@ -46,16 +47,23 @@ public:
 
     /// For the form's Load: gives the window its size, its ground and its place.
     void open();
-    /// How much larger than designed all is shown; 1 until it opens.
+    /// How much larger than designed all is shown; 1 until it opens. A drag to another screen can change it.
     double scale() const { return scale_; }
+    /// All that stands on the window has another size, its fonts among it.
+    Event<> SCALED;
     /// Puts the words of the window in the language in force, behind the translation of the form.
     void translate();
     /// What is asked for, as it is shown.
     String question() const;
 
-    /// Something on the window, such as a key, has gone down or up: it may become a drag.
-    void press();
-    void release();
+    // Something on the window, such as a key, is pressed: that may become a drag. The press is followed that
+    // has come last, until a drag has begun; while one is on no other press counts. Presses are told by their
+    // number, which is 0 for the pointer and for what goes with it.
+    void press(const Control& part, const PointerEvent& event);
+    void move(const Control& part, const PointerEvent& event);
+    /// It has ended, or cannot become a drag any more.
+    void release(std::int32_t touch = 0);
+    bool isDragged() const { return cornerAtStart_.has_value(); }
 
     /// The user has confirmed without a key, by Return or by leaving the window.
     Event<> CONFIRMED;
@@ -71,9 +79,22 @@ public:
 private:
     enum class Ending : std::uint8_t { Open, Accepted, Aborted };
 
+    /// A control of the window as it was designed.
+    struct Designed {
+        ControlPtr control;
+        PixelRectangle area;
+        double fontSize = 0; ///< 0 for one without a font
+    };
+
     void connect();
     void connectGround();
+    void noteDesign();
+    double scaleOn(const PixelRectangle& screen) const;
     void scaleTo(double scale);
+    void press(std::int32_t touch, std::optional<PixelPoint> at);
+    std::optional<PixelPoint> pressedAt() const;
+    PixelPoint onDesktop(const Control& part, const PointerEvent& event) const;
+    void fitToScreen();
     void paintGround();
     void moveTo(PixelPoint corner);
     void followPointer();
@@ -87,6 +108,11 @@ private:
     String title_;
     Ending ending_ = Ending::Open;
     double scale_ = 1;
+    double openerZoom_ = 1; ///< of the form over which it has opened
+    PixelSize designSize_;
+    std::vector<Designed> design_;
+    std::int32_t touch_ = 0;               ///< the press that is followed
+    std::optional<PixelPoint> touchPlace_; ///< none where that is the pointer
     PixelPoint dragStart_;
     std::optional<PixelPoint> cornerAtStart_; ///< while it is dragged
 };

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace phial
 {
@@ -66,7 +67,7 @@ void ctl_Keys::pointerDown(const PointerEvent& event)
         return;
     }
     const auto self = weak_from_this().lock();
-    PRESSED.emit();
+    PRESSED.emit(event);
     if (scan_) {
         switchFinger_ = event.Touch;
         waitForHold();
@@ -112,6 +113,8 @@ bool ctl_Keys::pressStrip(const PointerEvent& event)
 
 void ctl_Keys::pointerMove(const PointerEvent& event)
 {
+    const auto self = weak_from_this().lock();
+    MOVED.emit(event);
     if (!strip_ || stripFinger_ != event.Touch) {
         return;
     }
@@ -141,7 +144,7 @@ void ctl_Keys::pointerUp(const PointerEvent& event)
         waitForHold();
     }
     refresh();
-    RELEASED.emit();
+    RELEASED.emit(event.Touch);
     if (struck) {
         strike(*struck);
     }
@@ -168,6 +171,7 @@ void ctl_Keys::cancelPresses()
 {
     hand_->cancel();
     switchFinger_.reset();
+    switchKey_.reset();
     timer_.Enabled(false);
     closeStrip();
     refresh();
@@ -180,18 +184,18 @@ void ctl_Keys::hold()
     const auto held = hand_->held();
     if (held && repeats(board_->base(held->index))) {
         hand_->use();
-        RELEASED.emit();
+        RELEASED.emit(held->finger);
         timer_.Interval(RepeatInterval);
         strike(held->index);
         return;
     }
     timer_.Enabled(false);
-    if (scan_ && switchFinger_) {
+    if (scan_ && (switchFinger_ || switchKey_)) {
         holdSwitch();
     } else if (held && !held->isUsed && openVariantsOf(held->index)) {
         hand_->use();
         stripFinger_ = held->finger;
-        RELEASED.emit();
+        RELEASED.emit(held->finger);
     }
 }
 
@@ -239,9 +243,23 @@ void ctl_Keys::previewKey(KeyEvent& event)
 {
     const bool isSwitch = scan_ && !event.isSent && (event.is(Key::Return) || event.is(Key::Space));
     if (isSwitch) {
-        strikeSwitch(event);
+        if (!event.isRepeat) {
+            switchKey_ = event.KeyCode;
+            waitForHold();
+        }
+        event.KeyCode = 0;
     } else if (strip_ && !event.isSent) {
         goThroughStrip(event);
+    }
+}
+
+void ctl_Keys::previewKeyUp(KeyEvent& event)
+{
+    if (switchKey_ == event.KeyCode) {
+        switchKey_.reset();
+        timer_.Enabled(false);
+        event.KeyCode = 0;
+        pressSwitch();
     }
 }
 
@@ -323,14 +341,6 @@ void ctl_Keys::restartScan()
     surface_.invalidate();
 }
 
-void ctl_Keys::strikeSwitch(KeyEvent& event)
-{
-    event.KeyCode = 0;
-    if (!event.isRepeat) {
-        pressSwitch();
-    }
-}
-
 void ctl_Keys::pressSwitch()
 {
     if (!scan_) {
@@ -350,12 +360,16 @@ void ctl_Keys::pressSwitch()
 void ctl_Keys::holdSwitch()
 {
     const auto lit = scan_->lit();
-    if (!strip_ && lit.size() == 1 && openVariantsOf(lit.front())) {
-        switchFinger_.reset();
-        stripSteps_ = 0;
-        scan_->press();
-        restartScan();
-        RELEASED.emit();
+    if (strip_ || lit.size() != 1 || !openVariantsOf(lit.front())) {
+        return;
+    }
+    const auto finger = std::exchange(switchFinger_, std::nullopt);
+    switchKey_.reset();
+    stripSteps_ = 0;
+    scan_->press();
+    restartScan();
+    if (finger) {
+        RELEASED.emit(*finger);
     }
 }
 

@@ -23,9 +23,9 @@ namespace phial
 /// it, and so do arrows and Enter of a keyboard on the desk. Held keys that move the caret or delete are
 /// struck again and again.
 ///
-/// With a scan, rows and then keys light up by themselves, and a single switch strikes them: a press anywhere
-/// on the keys, or Space or Enter of the desk. Held, the switch shows the variants of the key that lights up,
-/// which then light up in turn.
+/// With a scan, rows and then keys light up by themselves, and a single switch strikes them when it is let
+/// go: a press anywhere on the keys, or Space or Enter of the desk. Held, the switch shows the variants of
+/// the key that lights up, which then light up in turn.
 class ctl_Keys final : public UserControl, public PaintHints
 {
 public:
@@ -51,10 +51,11 @@ public:
     std::int32_t scanInterval() const { return scanTimer_.Interval(); }
     void scanInterval(std::int32_t value);
 
-    /// Something has gone down, on a key or between keys; it has gone up again, or cannot become a drag any
-    /// more.
-    Event<> PRESSED;
-    Event<> RELEASED;
+    /// Something has gone down, on a key or between keys; it moves; it has gone up again, or cannot become a
+    /// drag any more.
+    Event<const PointerEvent&> PRESSED;
+    Event<const PointerEvent&> MOVED;
+    Event<std::int32_t> RELEASED;
     /// A key was struck; whoever hears it asks `board().click`. Modifiers have passed on when they went down.
     Event<std::int32_t> CLICK;
     /// A variant was chosen, a single character.
@@ -68,6 +69,8 @@ public:
     /// Enter and Escape are theirs, and with a scan Space and Enter are the switch: such a key has the code 0
     /// afterwards.
     void previewKey(KeyEvent& event);
+    /// Likewise when it goes up: the switch strikes, unless it was held.
+    void previewKeyUp(KeyEvent& event);
     bool showsVariants() const { return strip_.has_value(); }
 
     StringView typeName() const override { return u"ctl_Keys"; }
@@ -100,7 +103,6 @@ private:
     void restartScan();
     void stepScan();
     void pressSwitch();
-    void strikeSwitch(KeyEvent& event);
     void holdSwitch();
     bool openVariantsOf(std::int32_t index);
     void goThroughStrip(KeyEvent& event);
@@ -119,6 +121,7 @@ private:
     std::optional<KeyScan> scan_;
     Timer scanTimer_;
     std::optional<std::int32_t> switchFinger_; ///< the one that presses the switch
+    std::optional<std::int32_t> switchKey_;    ///< likewise, a key's code
     std::size_t stripSteps_ = 0;               ///< that the scan has gone through the variants
     bool isShown_ = false;
     Connections ticking_;

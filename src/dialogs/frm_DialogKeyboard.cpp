@@ -7,6 +7,9 @@
 #include "dialogs/TextLayout.h"
 #include "visual/VisualHost.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace phial
 {
 
@@ -19,6 +22,23 @@ constexpr StringView LineEnd = u"\r\n";
 String withLineEnds(const String& text)
 {
     return replaced(replaced(replaced(text, LineEnd, u"\r"), u"\n", u"\r"), u"\r", LineEnd);
+}
+
+/// What a change has put into a text, in the text as it is now.
+struct Insertion {
+    std::size_t start;
+    std::size_t length;
+};
+
+Insertion insertionInto(const String& before, const String& now)
+{
+    const std::size_t common = std::min(before.size(), now.size());
+    const auto start = static_cast<std::size_t>(std::ranges::mismatch(before, now).in1 - before.begin());
+    std::size_t rest = 0;
+    while (rest < common - start && before[before.size() - 1 - rest] == now[now.size() - 1 - rest]) {
+        ++rest;
+    }
+    return {start, now.size() - start - rest};
 }
 
 bool takesAway(const KeyDeed& deed)
@@ -50,6 +70,8 @@ void frm_DialogKeyboard::connect()
     form_.on(form_->Load, [this] { load(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->KeyDown, [this](KeyEvent& event) { previewKey(event); });
+    form_.on(form_->KeyUp, [this](KeyEvent& event) { keys_->previewKeyUp(event); });
+    form_.on(input_->Change, [this] { edited(); });
     form_.on(form_->Unloaded, [this] {
         if (Accepted() && input_->Text() != written_) {
             writeBack(); // what was typed while the window was closing is on the screen too
@@ -57,11 +79,19 @@ void frm_DialogKeyboard::connect()
     });
     form_.on(window_.CONFIRMED, [this] { accept(); });
     form_.on(window_.DRAGGED, [this] { keys_->cancelPresses(); });
-    form_.on(keys_->PRESSED, [this] { window_.press(); });
-    form_.on(keys_->RELEASED, [this] { window_.release(); });
+    form_.on(window_.SCALED, [this] {
+        if (input_->MultiLine()) {
+            showLines();
+        }
+    });
+    form_.on(keys_->PRESSED, [this](const PointerEvent& event) { window_.press(*keys_, event); });
+    form_.on(keys_->MOVED, [this](const PointerEvent& event) { window_.move(*keys_, event); });
+    form_.on(keys_->RELEASED, [this](std::int32_t touch) { window_.release(touch); });
     form_.on(keys_->CLICK, [this](std::int32_t index) {
-        ignoringErrors([&] { perform(keys_->board().click(index)); });
-        keys_->refresh();
+        if (!window_.isDragged()) { // by another finger
+            ignoringErrors([&] { perform(keys_->board().click(index)); });
+            keys_->refresh();
+        }
     });
     form_.on(keys_->VARIANT, [this](const String& text) {
         ignoringErrors([&] { perform(keys_->board().type(text)); });
@@ -69,10 +99,16 @@ void frm_DialogKeyboard::connect()
     });
 }
 
-/// Escape gives up with modifiers too, which the form's cancel control does not hear.
+/// Escape gives up with modifiers too, which the form's cancel control does not hear. A field of one line
+/// makes nothing of Ctrl and Return, a page makes a line.
 void frm_DialogKeyboard::previewKey(KeyEvent& event)
 {
     keys_->previewKey(event);
+    const bool makesLine = event.is(Key::Return) && event.Shift == ShiftMask::Control;
+    if (makesLine && !(takesLines_ && input_->MultiLine())) {
+        event.KeyCode = 0;
+        addLine();
+    }
     if (event.is(Key::Escape) && event.Shift != 0) {
         event.KeyCode = 0;
         window_.abort();
@@ -99,22 +135,56 @@ void frm_DialogKeyboard::readTarget()
 {
     const TargetText& target = window_.target();
     const String text = withLineEnds(target.read());
-    const bool hasLines = text.find(LineEnd) != String::npos;
     takesLines_ = target.takesLines();
-    input_->MultiLine(takesLines_ || hasLines);
     input_->PasswordChar(target.passwordChar());
     input_->MaxLength(target.maxLength());
     input_->Locked(target.locked());
-    input_->Text(text);
-    input_->SelStart(static_cast<std::int32_t>(text.size()));
-    if (hasLines) {
+    if (text.find(LineEnd) != String::npos) {
         showLines();
+    }
+    replaceText(text, text.size());
+}
+
+/// From now on on a page, and smaller, so that two lines are seen.
+void frm_DialogKeyboard::showLines()
+{
+    input_->MultiLine(true);
+    input_->Font()->Size(dialog_keyboard_design::LinesSize * window_.scale());
+}
+
+/// By the program: no change of the user's.
+void frm_DialogKeyboard::replaceText(const String& text, std::size_t caret)
+{
+    text_ = text;
+    input_->Text(text);
+    input_->SelStart(static_cast<std::int32_t>(caret));
+}
+
+/// Lines come in by being pasted too, and by whatever else the toolkit's field offers.
+void frm_DialogKeyboard::edited()
+{
+    const String before = std::exchange(text_, input_->Text());
+    const Insertion insertion = insertionInto(before, text_);
+    const StringView inserted = StringView(text_).substr(insertion.start, insertion.length);
+    if (inserted.find_first_of(u"\r\n") == StringView::npos) {
+        return;
+    }
+    const String lines = withLineEnds(String(inserted));
+    const bool isKept = takesLines_ && hasRoomFor(text_.size() - inserted.size() + lines.size());
+    const String taken = isKept ? lines : replaced(lines, LineEnd, u" ");
+    if (isKept) {
+        showLines();
+    }
+    if (taken != inserted) {
+        String text = text_;
+        text.replace(insertion.start, insertion.length, taken);
+        replaceText(text, insertion.start + taken.size());
     }
 }
 
-void frm_DialogKeyboard::showLines()
+bool frm_DialogKeyboard::hasRoomFor(std::size_t length) const
 {
-    input_->Font()->Size(dialog_keyboard_design::LinesSize * window_.scale());
+    return input_->MaxLength() == 0 || length <= static_cast<std::size_t>(input_->MaxLength());
 }
 
 void frm_DialogKeyboard::perform(const KeyDeed& deed)
@@ -159,15 +229,12 @@ void frm_DialogKeyboard::clear()
 /// At the caret; a field of one line, or one that is full, has no room for it.
 void frm_DialogKeyboard::addLine()
 {
-    const auto length =
-        static_cast<std::int32_t>(input_->Text().size() + LineEnd.size()) - input_->SelLength();
-    const bool isFull = input_->MaxLength() > 0 && length > input_->MaxLength();
-    if (!takesLines_ || input_->Locked() || isFull) {
-        return;
+    const auto selected = static_cast<std::size_t>(input_->SelLength());
+    if (takesLines_ && !input_->Locked() && hasRoomFor(input_->Text().size() + LineEnd.size() - selected)) {
+        input_->SetFocus();
+        showLines();
+        input_->SelText(LineEnd);
     }
-    input_->SetFocus();
-    input_->SelText(LineEnd);
-    showLines();
 }
 
 void frm_DialogKeyboard::accept()

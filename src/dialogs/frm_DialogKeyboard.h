@@ -41,6 +41,9 @@ private:
     void load();
     void readTarget();
     void showLines();
+    void edited();
+    void replaceText(const String& text, std::size_t caret);
+    bool hasRoomFor(std::size_t length) const;
     void perform(const KeyDeed& deed);
     void send(StringView strokes);
     void clear();
@@ -53,6 +56,7 @@ private:
     std::shared_ptr<TextBox> input_;
     std::shared_ptr<ctl_Keys> keys_;
     bool takesLines_ = true;
+    String text_; ///< as it was before the last change
     String written_;
 };
 

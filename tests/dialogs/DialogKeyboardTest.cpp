@@ -337,4 +337,44 @@ TEST_F(DialogKeyboardTest, AHeldKeyIsNoDragAnyMore)
     EXPECT_LT(input()->Text().size(), 5U);
 }
 
+TEST_F(DialogKeyboardTest, ASecondFingerNeitherEndsADragNorTypes)
+{
+    outside.display().moveCursor(960, 540);
+    open(target<TextBox>());
+    const double left = keyboard.form().Left() / TwipsPerPixel;
+    touch.press(1, *keyPad(), middle(keys::LetterA));
+    touch.move(1, {20, 0});
+    outside.advance(0.02);
+    touch.press(2, *keyPad(), middle(keys::LetterQ));
+    outside.advance(0.02);
+    touch.release(2);
+    outside.runPending();
+    touch.move(1, {30, 0});
+    outside.advance(0.02);
+    EXPECT_DOUBLE_EQ(keyboard.form().Left() / TwipsPerPixel, left + 30);
+    touch.release(1);
+    outside.runPending();
+    EXPECT_EQ(input()->Text(), u"");
+    tap(keys::LetterQ);
+    EXPECT_EQ(input()->Text(), u"q");
+}
+
+TEST_F(DialogKeyboardTest, LinesKeepTheirSizeOnASmallerScreen)
+{
+    outside.visual().addScreen({1920, 0, 600, 480});
+    outside.display().moveCursor(960, 540);
+    const auto box = target<TextBox>();
+    box->MultiLine(true);
+    box->Text(u"a\r\nb");
+    open(box);
+    touch.press(1, *keyPad(), middle(keys::LetterA));
+    touch.move(1, {20, 0});
+    outside.advance(0.02);
+    touch.move(1, {1500, 0});
+    outside.advance(0.02);
+    touch.release(1);
+    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 12 * 0.8);
+    EXPECT_EQ(keyPad()->frame().pixelRectangle().width, 720 * 0.8);
+}
+
 } // namespace phial::test

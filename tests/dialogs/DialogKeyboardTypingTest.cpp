@@ -1,6 +1,7 @@
 #include "dialogs/DialogKeyboardTest.h"
 #include "dialogs/ScanChoice.h"
 #include "headless/Hand.h"
+#include "visual/Label.h"
 
 #include <algorithm>
 #include <array>
@@ -218,6 +219,108 @@ TEST_F(DialogKeyboardTest, TenFingersAndADeskLoseNoKey)
     std::ranges::sort(got); // the desk's keys may pass a key that is still down
     std::ranges::sort(expected);
     EXPECT_EQ(toUtf8(got), toUtf8(expected));
+}
+
+// Lines.
+
+TEST_F(DialogKeyboardTest, ATextOfOneLineIsEditedInOneLine)
+{
+    const auto label = target<Label>();
+    label->Caption(u"Eine lange Beschriftung");
+    open(label);
+    EXPECT_FALSE(input()->MultiLine());
+    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 20);
+}
+
+TEST_F(DialogKeyboardTest, AnAddedLineMakesAPageOfIt)
+{
+    const auto label = target<Label>();
+    label->Caption(u"ab");
+    open(label);
+    input()->SelStart(1);
+    tapAll({keys::Sym, keys::Enter});
+    EXPECT_TRUE(input()->MultiLine());
+    EXPECT_EQ(input()->Text(), u"a\r\nb");
+    EXPECT_EQ(input()->SelStart(), 3);
+    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 12);
+    tap(keys::Backspace);
+    EXPECT_EQ(input()->Text(), u"ab");
+    EXPECT_TRUE(input()->MultiLine()) << "it stays one";
+}
+
+TEST_F(DialogKeyboardTest, CtrlReturnOfTheDeskAddsALine)
+{
+    const auto label = target<Label>();
+    open(label);
+    headless::type(keyboard.form(), u"a^{enter}b^{enter}c");
+    EXPECT_EQ(input()->Text(), u"a\r\nb\r\nc");
+    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 12);
+    EXPECT_FALSE(keyboard.Accepted());
+}
+
+TEST_F(DialogKeyboardTest, CtrlReturnAddsNoLineWhereTheTargetHasOne)
+{
+    open(target<TextBox>());
+    headless::type(keyboard.form(), u"a^{enter}b");
+    EXPECT_EQ(input()->Text(), u"ab");
+    EXPECT_FALSE(keyboard.Accepted());
+}
+
+TEST_F(DialogKeyboardTest, CtrlReturnAddsNoLineToLinesThatTheTargetCannotHave)
+{
+    const auto box = target<TextBox>();
+    box->Text(u"a\r\nb");
+    open(box);
+    headless::type(keyboard.form(), u"^{enter}c");
+    EXPECT_EQ(input()->Text(), u"a\r\nbc");
+}
+
+TEST_F(DialogKeyboardTest, PastedLinesMakeAPage)
+{
+    open(target<Label>());
+    input()->inputText(u"a", 1, 0);
+    input()->inputText(u"a1\n2\r3", 6, 0);
+    EXPECT_TRUE(input()->MultiLine());
+    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 12);
+    EXPECT_EQ(input()->Text(), u"a1\r\n2\r\n3");
+    EXPECT_EQ(input()->SelStart(), 8);
+}
+
+TEST_F(DialogKeyboardTest, PastedLineEndsAreBlanksWhereTheTargetHasOneLine)
+{
+    const auto box = target<TextBox>();
+    box->Text(u"ab");
+    open(box);
+    input()->inputText(u"a1\r\n2\n3b", 7, 0);
+    EXPECT_FALSE(input()->MultiLine());
+    EXPECT_EQ(input()->Text(), u"a1 2 3b");
+    EXPECT_EQ(input()->SelStart(), 6);
+    EXPECT_DOUBLE_EQ(input()->Font()->Size(), 20);
+}
+
+TEST_F(DialogKeyboardTest, LinesThatTheTargetCannotHaveStayButBecomeNoMore)
+{
+    const auto box = target<TextBox>();
+    box->Text(u"a\r\nb\r\nc");
+    open(box);
+    input()->inputText(u"a\r\nb1\r\n2\r\nc", 7, 0);
+    EXPECT_EQ(input()->Text(), u"a\r\nb1 2\r\nc");
+    EXPECT_EQ(input()->SelStart(), 7);
+    input()->inputText(u"a\r\nc", 3, 0);
+    EXPECT_EQ(input()->Text(), u"a\r\nc");
+}
+
+TEST_F(DialogKeyboardTest, PastedLineEndsThatHaveNoRoomAreBlanks)
+{
+    const auto box = target<TextBox>();
+    box->MultiLine(true);
+    box->MaxLength(4);
+    open(box);
+    input()->inputText(u"a\nb", 3, 0);
+    EXPECT_EQ(input()->Text(), u"a\r\nb");
+    input()->inputText(u"", 0, 0);
+    input()->inputText(u"a\nbc", 4, 0);
+    EXPECT_EQ(input()->Text(), u"a bc");
 }
 
 } // namespace phial::test

@@ -42,6 +42,7 @@ struct SampleKeyboard {
         });
         form.on(window.CONFIRMED, [this] { ++confirmed; });
         form.on(window.DRAGGED, [this] { ++dragged; });
+        form.on(window.SCALED, [this] { ++scaled; });
         translateForm(form);
     }
     void translate()
@@ -54,12 +55,15 @@ struct SampleKeyboard {
     {
         return form->control<Class>(name);
     }
+    void press(const PointerEvent& event = {}) { window.press(*get<TextBox>(u"txt_Input"), event); }
+    void move(const PointerEvent& event) { window.move(*get<TextBox>(u"txt_Input"), event); }
     PixelPoint corner() { return {form->Left() / TwipsPerPixel, form->Top() / TwipsPerPixel}; }
 
     DesignedForm form{SampleDesign};
     KeyboardWindow window;
     int confirmed = 0;
     int dragged = 0;
+    int scaled = 0;
 };
 
 class KeyboardWindowTest : public AppSession
@@ -130,6 +134,26 @@ TEST_F(KeyboardWindowTest, AsksWithItsTitleAsItStands)
     EXPECT_TRUE(keyboard.get<ctl_Label>(u"lab_Title")->Visible());
     EXPECT_EQ(keyboard.get<ctl_Label>(u"lab_Description")->Caption(), u"");
     EXPECT_EQ(keyboard.window.question(), u"Dein <b>Name</b>|x");
+}
+
+TEST_F(KeyboardWindowTest, ALongTitleEndsWithAnEllipsisAndIsToldInFull)
+{
+    const String title = u"Bitte gib hier den vollständigen Namen deiner Schule und den Ort an, in dem sie "
+                         u"steht, und dazu die Klasse, in der du bist, und das Fach, um das es geht";
+    keyboard.window.title(title);
+    open();
+    const auto label = keyboard.get<ctl_Label>(u"lab_Title");
+    const String shown = label->Caption();
+    EXPECT_EQ(shown.back(), u'…');
+    EXPECT_TRUE(title.starts_with(shown.substr(0, shown.size() - 1)));
+    EXPECT_GT(shown.size(), 20U) << "two lines of it";
+    EXPECT_EQ(label->frame().ToolTipText(), title);
+    EXPECT_EQ(label->frame().AccessibleName(), title);
+    EXPECT_EQ(keyboard.window.question(), title);
+    keyboard.window.title(u"Name");
+    keyboard.window.translate();
+    EXPECT_EQ(label->Caption(), u"Name");
+    EXPECT_EQ(label->frame().ToolTipText(), u"");
 }
 
 // How it ends.
@@ -321,7 +345,7 @@ TEST_F(KeyboardWindowTest, OpensOnTheScreenOfItsTarget)
 TEST_F(KeyboardWindowTest, OpensWhereTheLastOneWasLeft)
 {
     open();
-    keyboard.window.press();
+    keyboard.press();
     pointAndWait({900, 540});
     pointAndWait({800, 440});
     keyboard.window.release();
@@ -337,7 +361,7 @@ TEST_F(KeyboardWindowTest, OpensWhereTheLastOneWasLeft)
 TEST_F(KeyboardWindowTest, KeepsNoPlaceWithoutADrag)
 {
     open();
-    keyboard.window.press();
+    keyboard.press();
     pointAndWait({970, 550});
     keyboard.window.release();
     EXPECT_EQ(kept(u"Config\\KeyboardPlace\\Left"), -1);
@@ -381,7 +405,7 @@ TEST_F(KeyboardWindowTest, ShrinksToASmallScreen)
 TEST_F(KeyboardWindowTest, TenPixelsAreNoDrag)
 {
     open();
-    keyboard.window.press();
+    keyboard.press();
     pointAndWait({970, 530});
     EXPECT_EQ(keyboard.dragged, 0);
     EXPECT_EQ(keyboard.corner(), (PixelPoint{585, 370}));
@@ -390,7 +414,7 @@ TEST_F(KeyboardWindowTest, TenPixelsAreNoDrag)
 TEST_F(KeyboardWindowTest, ElevenPixelsAreADrag)
 {
     open();
-    keyboard.window.press();
+    keyboard.press();
     pointAndWait({971, 540});
     EXPECT_EQ(keyboard.dragged, 1);
     EXPECT_EQ(keyboard.corner(), (PixelPoint{585, 370})) << "it counts from where the drag begins";
@@ -402,7 +426,7 @@ TEST_F(KeyboardWindowTest, ElevenPixelsAreADrag)
 TEST_F(KeyboardWindowTest, SnapsToTheEdgesOfTheScreen)
 {
     open();
-    keyboard.window.press();
+    keyboard.press();
     pointAndWait({900, 540});
     pointAndWait({900 - 556, 540 - 341});
     EXPECT_EQ(keyboard.corner(), (PixelPoint{0, 0}));
@@ -416,24 +440,131 @@ TEST_F(KeyboardWindowTest, IsDraggedToAnotherScreen)
 {
     outside.visual().addScreen({1920, 0, 1024, 600});
     open();
-    keyboard.window.press();
+    keyboard.press();
     pointAndWait({900, 540});
     pointAndWait({2440, 300});
     EXPECT_EQ(keyboard.corner(), (PixelPoint{585 + 1540, 370 - 240}));
+}
+
+TEST_F(KeyboardWindowTest, ShrinksWhenItIsLeftOnASmallerScreen)
+{
+    outside.visual().addScreen({1920, 0, 600, 480});
+    keyboard.window.title(u"Wie heißt die Verbindung, die in der Probe enthalten ist?");
+    open();
+    const String whole = keyboard.get<ctl_Label>(u"lab_Title")->Caption();
+    keyboard.press();
+    pointAndWait({900, 540});
+    pointAndWait({2300, 300});
+    EXPECT_DOUBLE_EQ(keyboard.window.scale(), 1) << "not before it is let go";
+    keyboard.window.release();
+    EXPECT_DOUBLE_EQ(keyboard.window.scale(), 0.8);
+    EXPECT_EQ(keyboard.form->innerSize(), (PixelSize{600, 272}));
+    EXPECT_EQ(keyboard.scaled, 1);
+    EXPECT_EQ(keyboard.corner(), (PixelPoint{1920, 172})) << "wholly on that screen";
+    EXPECT_EQ(kept(u"Config\\KeyboardPlace\\Left"), 1920);
+    EXPECT_EQ(keyboard.form->Picture()->size(), (PixelSize{600, 272}));
+    EXPECT_DOUBLE_EQ(keyboard.get<TextBox>(u"txt_Input")->Font()->Size(), 16);
+    keyboard.press();
+    pointAndWait({2200, 300});
+    pointAndWait({960, 540});
+    keyboard.window.release();
+    EXPECT_DOUBLE_EQ(keyboard.window.scale(), 1);
+    EXPECT_EQ(keyboard.form->innerSize(), (PixelSize{750, 340}));
+    EXPECT_EQ(keyboard.get<TextBox>(u"txt_Input")->frame().pixelRectangle(),
+              (PixelRectangle{228, 12, 444, 48}));
+    EXPECT_DOUBLE_EQ(keyboard.get<TextBox>(u"txt_Input")->Font()->Size(), 20);
+    EXPECT_EQ(keyboard.get<ctl_Label>(u"lab_Title")->Caption(), whole);
+}
+
+TEST_F(KeyboardWindowTest, KeepsUnderThePointerWhatWasTakenHoldOf)
+{
+    outside.visual().addScreen({1920, 0, 1920, 2000});
+    outside.visual().millimetresPerPixel(0.15);
+    host->Zoom(1.6);
+    host->Show();
+    open();
+    EXPECT_DOUBLE_EQ(keyboard.window.scale(), 540.0 / 340);
+    const PixelPoint before = keyboard.corner();
+    keyboard.press();
+    pointAndWait({1000, 540});
+    pointAndWait({2620, 1000});
+    EXPECT_EQ(keyboard.corner(), (PixelPoint{before.x + 1620, before.y + 460}));
+    keyboard.window.release();
+    EXPECT_DOUBLE_EQ(keyboard.window.scale(), 1.6);
+    const double growth = 1.6 * 340 / 540;
+    EXPECT_NEAR(keyboard.corner().x, 2620 - (1000 - before.x) * growth, 0.1);
+    EXPECT_NEAR(keyboard.corner().y, 1000 - (540 - before.y) * growth, 0.1);
+}
+
+TEST_F(KeyboardWindowTest, KeepsItsSizeWhereTheScreenGivesNoReason)
+{
+    outside.visual().addScreen({1920, 0, 1024, 600});
+    open();
+    keyboard.press();
+    pointAndWait({900, 540});
+    pointAndWait({2440, 300});
+    keyboard.window.release();
+    EXPECT_EQ(keyboard.scaled, 0);
+    EXPECT_EQ(keyboard.corner(), (PixelPoint{585 + 1540, 370 - 240}));
+}
+
+TEST_F(KeyboardWindowTest, OpensInTheSameSizeAgain)
+{
+    outside.display().resize(600, 480);
+    open();
+    keyboard.form->Unload();
+    open();
+    EXPECT_EQ(keyboard.form->innerSize(), (PixelSize{600, 272}));
+    EXPECT_DOUBLE_EQ(keyboard.get<TextBox>(u"txt_Input")->Font()->Size(), 16);
+}
+
+TEST_F(KeyboardWindowTest, AFurtherPressDuringADragDoesNothing)
+{
+    open();
+    keyboard.press();
+    pointAndWait({900, 540});
+    keyboard.press({PointerButton::Left, 0, 10, 10, 2});
+    keyboard.move({PointerButton::Left, 0, 300, 10, 2});
+    pointAndWait({880, 540});
+    keyboard.window.release(2);
+    EXPECT_TRUE(keyboard.window.isDragged());
+    pointAndWait({860, 520});
+    EXPECT_EQ(keyboard.corner(), (PixelPoint{545, 350}));
+    EXPECT_EQ(keyboard.dragged, 1);
+    keyboard.window.release();
+    EXPECT_FALSE(keyboard.window.isDragged());
+}
+
+TEST_F(KeyboardWindowTest, AFingerThatDragsIsFollowedWhereverThePointerIs)
+{
+    open();
+    const auto at = [](double x, double y) { return PointerEvent{PointerButton::Left, 0, x, y, 3}; };
+    keyboard.press(at(100, 20));
+    keyboard.move(at(100, 31));
+    pointAndWait({100, 100});
+    EXPECT_EQ(keyboard.dragged, 1);
+    keyboard.move(at(150, 31));
+    keyboard.move({PointerButton::Left, 0, 1, 1, 2});
+    pointAndWait({200, 200});
+    EXPECT_EQ(keyboard.corner(), (PixelPoint{635, 370}));
+    keyboard.window.release(3);
+    keyboard.press();
+    pointAndWait({189, 200});
+    EXPECT_EQ(keyboard.dragged, 2) << "the pointer counts again";
 }
 
 TEST_F(KeyboardWindowTest, LettingGoEndsTheDrag)
 {
     open();
     const auto dragging = keyboard.form->control<Timer>(u"tmr_Dragging");
-    keyboard.window.press();
+    keyboard.press();
     EXPECT_TRUE(dragging->Enabled());
     pointAndWait({900, 540});
     keyboard.window.release();
     EXPECT_FALSE(dragging->Enabled());
     pointAndWait({300, 300});
     EXPECT_EQ(keyboard.corner(), (PixelPoint{585, 370}));
-    keyboard.window.press();
+    keyboard.press();
     pointAndWait({305, 305});
     EXPECT_EQ(keyboard.dragged, 1) << "a further press begins anew";
 }
@@ -458,7 +589,7 @@ TEST_F(KeyboardWindowTest, PlateAndWordsDragIt)
 TEST_F(KeyboardWindowTest, LeavingItEndsTheDrag)
 {
     open();
-    keyboard.window.press();
+    keyboard.press();
     keyboard.form->inputDeactivate();
     EXPECT_FALSE(keyboard.form->control<Timer>(u"tmr_Dragging")->Enabled());
 }
@@ -468,7 +599,7 @@ TEST_F(KeyboardWindowTest, IsNotDraggedWhereThePointerIsNotTold)
     outside.display().tellsCursor(false);
     open();
     const PixelPoint corner = keyboard.corner();
-    keyboard.window.press();
+    keyboard.press();
     pointAndWait({100, 100});
     keyboard.window.release();
     EXPECT_EQ(keyboard.corner(), corner);

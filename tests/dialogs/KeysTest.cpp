@@ -33,8 +33,8 @@ protected:
         keys = form->add<ctl_Keys>(u"key_Test");
         keys->layout(text_layout::Layout);
         keys->frame().Move(0, 0, 720, 240);
-        connections += keys->PRESSED.connect([this] { log.emplace_back("pressed"); });
-        connections += keys->RELEASED.connect([this] { log.emplace_back("released"); });
+        connections += keys->PRESSED.connect([this](const PointerEvent&) { log.emplace_back("pressed"); });
+        connections += keys->RELEASED.connect([this](std::int32_t) { log.emplace_back("released"); });
         connections += keys->VARIANT.connect([this](const String& text) { log.push_back(toUtf8(text)); });
         connections += keys->CLICK.connect([this](std::int32_t index) {
             log.push_back(toUtf8(keys->board().name(index)));
@@ -82,6 +82,20 @@ protected:
     {
         KeyEvent event{static_cast<std::int32_t>(key)};
         keys->previewKey(event);
+        KeyEvent up{static_cast<std::int32_t>(key)};
+        keys->previewKeyUp(up);
+        return event;
+    }
+    void keyDown(Key key, bool isRepeat = false)
+    {
+        KeyEvent event{static_cast<std::int32_t>(key), 0, isRepeat};
+        keys->previewKey(event);
+        EXPECT_EQ(event.KeyCode, 0);
+    }
+    KeyEvent keyUp(Key key)
+    {
+        KeyEvent event{static_cast<std::int32_t>(key)};
+        keys->previewKeyUp(event);
         return event;
     }
 
@@ -545,6 +559,85 @@ TEST_F(KeysTest, VariantsThatNobodyChoosesGoAfterTwoRounds)
     EXPECT_TRUE(keys->showsVariants());
     outside.advance(0.8);
     EXPECT_FALSE(keys->showsVariants());
+}
+
+TEST_F(KeysTest, ASwitchOfTheDeskStrikesWhenItIsLetGo)
+{
+    keys->scanInterval(800);
+    outside.advance(2 * 0.8);
+    preview(Key::Return);
+    outside.advance(0.8); // "a"
+    keyDown(Key::Return);
+    EXPECT_THAT(struck(), IsEmpty());
+    EXPECT_EQ(keyUp(Key::Return).KeyCode, 0);
+    EXPECT_THAT(struck(), ElementsAre("a"));
+    EXPECT_NE(keyUp(Key::Return).KeyCode, 0);
+    EXPECT_NE(keyUp(Key::Delete).KeyCode, 0);
+}
+
+TEST_F(KeysTest, AHeldSwitchOfTheDeskShowsVariants)
+{
+    for (const Key key : {Key::Space, Key::Return}) {
+        keys->scanInterval(800);
+        log.clear();
+        outside.advance(2 * 0.8);
+        preview(key);
+        outside.advance(0.8); // "a"
+        keyDown(key);
+        outside.advance(Hold - 0.05);
+        keyDown(key, true);
+        EXPECT_FALSE(keys->showsVariants());
+        outside.advance(0.05);
+        EXPECT_TRUE(keys->showsVariants());
+        keyDown(key, true);
+        EXPECT_NE(keyUp(key).KeyCode, 0) << "letting it go is no second press";
+        EXPECT_TRUE(keys->showsVariants());
+        outside.advance(0.8);
+        preview(key);
+        EXPECT_THAT(struck(), ElementsAre("à"));
+    }
+}
+
+TEST_F(KeysTest, ASwitchThatIsHeldOnAKeyWithoutVariantsStrikesIt)
+{
+    keys->scanInterval(5000);
+    outside.advance(3 * 5);
+    preview(Key::Space); // Shift lights up
+    keyDown(Key::Space);
+    outside.advance(2);
+    EXPECT_FALSE(keys->showsVariants());
+    keyUp(Key::Space);
+    EXPECT_EQ(keys->board().state(Modifier::Shift), KeyState::Once);
+}
+
+TEST_F(KeysTest, ADragIsNoPressOfTheSwitchOfTheDesk)
+{
+    keys->scanInterval(800);
+    keyDown(Key::Space);
+    keys->cancelPresses();
+    EXPECT_NE(keyUp(Key::Space).KeyCode, 0);
+    outside.advance(0.8);
+    EXPECT_THAT(drawn(), ::testing::HasSubstr("box 2,50 716x44")) << "rows still";
+}
+
+TEST_F(KeysTest, TellsWhereEachFingerIs)
+{
+    std::vector<std::pair<std::int32_t, PixelPoint>> told;
+    connections += keys->PRESSED.connect([&](const PointerEvent& event) {
+        told.push_back({event.Touch, {event.X, event.Y}});
+    });
+    connections += keys->MOVED.connect([&](const PointerEvent& event) {
+        told.push_back({event.Touch, {event.X, event.Y}});
+    });
+    connections += keys->RELEASED.connect([&](std::int32_t finger) { told.push_back({finger, {}}); });
+    touch.press(1, *keys, {5, 6});
+    touch.press(2, *keys, {50, 60});
+    touch.move(1, {7, 8});
+    touch.release(2);
+    touch.release(1);
+    const std::vector<std::pair<std::int32_t, PixelPoint>> expected{
+        {1, {5, 6}}, {2, {50, 60}}, {1, {12, 14}}, {2, {}}, {1, {}}};
+    EXPECT_EQ(told, expected);
 }
 
 } // namespace phial
