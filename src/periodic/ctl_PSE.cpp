@@ -217,7 +217,6 @@ void ctl_PSE::REDRAW()
     sheet_.marks.isPlacing = isPlacing();
     sheet_.marks.taken = hand_.taken();
     sheet_.showsElectronStates = electronStates_;
-    ground_.reset();
     fill();
     frame_.report(ControlAspect::Accessibility);
     surface_.invalidate();
