@@ -182,6 +182,32 @@ TEST_F(PeriodicTable, DrawsPaleAndHighlightedCells)
     EXPECT_THAT(cell("Hg"), HasSubstr("box 384,224 32x32 line #FFCC00 w3\nclip none\n"));
 }
 
+TEST_F(PeriodicTable, IsPaleButForItsHighlightAndElseButForItsFadedElements)
+{
+    load();
+    const auto fullCells = [&] { // whose edges are two pixels wide, each of the four
+        const std::string all = drawn();
+        std::size_t edges = 0;
+        for (std::size_t at = all.find(" w2\n"); at != std::string::npos; at = all.find(" w2\n", at + 1)) {
+            ++edges;
+        }
+        return edges / 4;
+    };
+    EXPECT_EQ(fullCells(), 118U);
+    table->HIGHLIGHT(u"Hg");
+    EXPECT_EQ(fullCells(), 1U);
+    EXPECT_THAT(cell("Hg"), HasSubstr(" w2\n"));
+    table->FADED()->Add(u"Fe");
+    table->FADED()->Add(u"Hg");
+    table->REDRAW();
+    EXPECT_EQ(fullCells(), 1U) << "the highlight stands above";
+    table->HIGHLIGHT(u"");
+    EXPECT_EQ(fullCells(), 116U);
+    table->FADED()->Clear();
+    table->REDRAW();
+    EXPECT_EQ(fullCells(), 118U);
+}
+
 TEST_F(PeriodicTable, DrawsGreyCellsAndFurtherFrames)
 {
     load();
@@ -276,6 +302,17 @@ TEST_F(PeriodicTable, TellsClicksOnElementsAndBesideThem)
     press(BesideTable);
     press(over(17, 0)); // still the last one
     EXPECT_THAT(log, ElementsAre("click H", "click He", "again He", "outside", "outside", "again He"));
+}
+
+TEST_F(PeriodicTable, ClicksTheElementOnWhichItIsReleased)
+{
+    load();
+    Control& control = *table;
+    control.pointerDown(over(0, 0));
+    control.pointerUp(over(17, 0));
+    control.pointerDown(over(17, 0));
+    control.pointerUp(BesideTable);
+    EXPECT_THAT(log, ElementsAre("click He", "outside"));
 }
 
 TEST_F(PeriodicTable, ClicksWithTheLeftButtonOnly)

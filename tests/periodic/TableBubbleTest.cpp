@@ -55,6 +55,30 @@ TEST_F(TableBubble, CountsAnewOnAnotherElement)
     EXPECT_FALSE(bubble->Visible());
 }
 
+TEST_F(TableBubble, LiesUponAllOthersWhenItComes)
+{
+    form->add<PictureBox>(u"pic_Above");
+    point(0, 0);
+    ASSERT_NE(form->container().controls().back(), bubble);
+    outside.advance(5.5 * Tick);
+    EXPECT_EQ(form->container().controls().back(), bubble);
+}
+
+TEST_F(TableBubble, DoesNotComeForAPointerThatHasLeftBefore)
+{
+    outside.display().moveCursor(900, 700);
+    point(0, 0);
+    outside.advance(4.5 * Tick);
+    static_cast<Control&>(*table).pointerLeave();
+    outside.advance(6 * Tick);
+    EXPECT_FALSE(bubble->Visible());
+    point(0, 0);
+    outside.advance(4.5 * Tick);
+    EXPECT_FALSE(bubble->Visible()) << "its time counts anew";
+    outside.advance(Tick);
+    EXPECT_TRUE(bubble->Visible());
+}
+
 TEST_F(TableBubble, StaysWhileThePointerIsOverItInTheCell)
 {
     point(0, 0);

@@ -36,9 +36,13 @@ protected:
 
 TEST_F(TableTiles, FillElevenSlotsAndNoMore)
 {
-    for (int tile = 0; tile < 12; ++tile) {
+    for (int tile = 0; tile < 11; ++tile) {
         table->DRAGADD(tile == 0 ? u"O" : u"N");
     }
+    const std::string before = drawn();
+    table->DRAGADD(u"Fe");
+    EXPECT_EQ(drawn(), before);
+    EXPECT_EQ(table->parts().size(), 118U + 11U);
     EXPECT_EQ(table->DRAGSYMBOL(0), u"O");
     EXPECT_EQ(table->DRAGSYMBOL(10), u"N");
     EXPECT_RAISES(table->DRAGSYMBOL(11), IndexOutOfBounds);

@@ -217,6 +217,12 @@ TEST_F(TileHands, WhatIsSentHomeOrForgottenIsTakenNoMore)
     hand_.forget(0);
     EXPECT_EQ(hand_.held(), std::nullopt);
     EXPECT_EQ(hand_.release({0, 0}, std::nullopt, grid_), Act{});
+    hand_.choose(1, grid_);
+    hand_.press(middleOf(0), Slack);
+    hand_.forget();
+    EXPECT_EQ(hand_.taken(), std::nullopt);
+    EXPECT_EQ(hand_.held(), std::nullopt);
+    EXPECT_EQ(hand_.release(middleOf(0), std::nullopt, grid_), Act{});
 }
 
 TEST_F(TileHands, MovesTellWhetherThereIsSomethingNew)
