@@ -19,13 +19,6 @@ TermCaretPlace TermCaret::shownAt(std::int32_t index) const
     return behind == places_.begin() ? places_.front() : *std::prev(behind);
 }
 
-void TermCaret::moveBy(std::int32_t distance)
-{
-    for (TermCaretPlace& place : places_) {
-        place.x += distance;
-    }
-}
-
 std::int32_t TermCaret::left() const
 {
     return std::ranges::min_element(places_, {}, &TermCaretPlace::x)->x;

@@ -15,9 +15,10 @@ class TermCaret
 public:
     /// Of an empty term at 0.
     TermCaret() : places_{{}} {}
+    explicit TermCaret(const TermLayout& layout) : places_(layout.places()) {}
     /// The places that TermDraw has with these arguments. Nothing is drawn; the time grows with the term.
     TermCaret(DrawDevice& device, StringView term, std::int32_t x, std::int32_t y, TEXTALIGN align)
-        : places_(termCaretPlaces(device, term, x, y, align))
+        : TermCaret(layOutTerm(device, term, x, y, align))
     {
     }
 
@@ -30,9 +31,6 @@ public:
 
     /// Where a caret with that index is shown: at its place or, where it has none, at the nearest before.
     TermCaretPlace shownAt(std::int32_t index) const;
-
-    /// All places go to the right by so many.
-    void moveBy(std::int32_t distance);
 
     /// How far the places reach.
     std::int32_t left() const;

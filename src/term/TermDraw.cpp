@@ -58,19 +58,19 @@ class TermPainter
 {
 public:
     TermPainter(DrawDevice& device, StringView term, std::int32_t caret)
-        : device_(device), term_(term), brackets_(term), signs_(device, term, true), caret_(caret)
+        : device_(device), term_(term), brackets_(term), signs_(device, term, nullptr), caret_(caret)
     {
     }
 
-    /// Draws nothing: notes all places of the caret.
-    TermPainter(DrawDevice& device, StringView term, std::vector<TermCaretPlace>& rPlaces)
-        : device_(device), term_(term), brackets_(term), signs_(device, term, false), caret_(NoCaret),
-          places_(&rPlaces)
+    /// Draws nothing: fills the layout.
+    TermPainter(DrawDevice& device, StringView term, TermLayout& rLayout)
+        : device_(device), term_(term), brackets_(term), signs_(device, term, &rLayout), caret_(NoCaret),
+          layout_(&rLayout)
     {
     }
 
     /// Draws at that anchor point; -1 stands for the device's current position. Gives the width in the
-    /// measuring walk.
+    /// measuring walk, which a layout does without where it can.
     std::int32_t draw(std::int32_t x, std::int32_t y, TEXTALIGN align)
     {
         open({0, term_.size()}, x == -1 ? toWhole(device_.CurrentX()) : x,
@@ -105,7 +105,7 @@ private:
                            .walk = {},
                            .width = {},
                            .fraction = {}});
-        begin(frames_.back(), false);
+        begin(frames_.back(), layout_ && isWholeTerm() && placeOf(align).horizontal == TextSide::Near);
     }
 
     /// Starts the measuring or the drawing walk of a part.
@@ -203,7 +203,8 @@ private:
     /// The current point moves to the end of the line.
     void drawLine(PixelPoint from, PixelPoint to)
     {
-        if (places_) {
+        if (layout_) {
+            layout_->addLine(device_, from, to);
             device_.CurrentX(to.x);
             device_.CurrentY(to.y);
         } else {
@@ -217,8 +218,8 @@ private:
             return;
         }
         const auto index = static_cast<std::int32_t>(frame.walk.position);
-        if (places_) {
-            places_->push_back({index, toWhole(device_.CurrentX())});
+        if (layout_) {
+            layout_->addPlace(device_, index);
         } else if (caret_ == index) {
             drawCaret();
         }
@@ -241,7 +242,7 @@ private:
     TermBrackets brackets_;
     TermSigns signs_;
     std::int32_t caret_;
-    std::vector<TermCaretPlace>* places_ = nullptr; // null while drawing
+    TermLayout* layout_ = nullptr; // null while drawing
     std::int32_t width_ = 0;
     std::vector<Frame> frames_;
 };
@@ -266,14 +267,13 @@ std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX, st
     return TermPainter(pDevice, pText, NoCaret).draw(pX, pY, pAlign);
 }
 
-std::vector<TermCaretPlace> termCaretPlaces(DrawDevice& device, StringView term, std::int32_t x,
-                                            std::int32_t y, TEXTALIGN align)
+TermLayout layOutTerm(DrawDevice& device, StringView term, std::int32_t x, std::int32_t y, TEXTALIGN align)
 {
     const double currentX = device.CurrentX();
-    std::vector<TermCaretPlace> places;
-    TermPainter(device, term, places).draw(x, y, align);
+    TermLayout layout;
+    TermPainter(device, term, layout).draw(x, y, align);
     device.CurrentX(currentX);
-    return places;
+    return layout;
 }
 
 } // namespace phial

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/String.h"
+#include "term/TermLayout.h"
 #include "visual/Alignment.h"
 
 #include <cstdint>
-#include <vector>
 
 namespace phial
 {
@@ -51,18 +51,9 @@ std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX, st
 std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX = -1, std::int32_t pY = -1,
                       TEXTALIGN pAlign = TEXTALIGN::MiddleLeft);
 
-/// A place at which TermDraw would draw the caret.
-struct TermCaretPlace {
-    std::int32_t index = 0; ///< as pCaret
-    std::int32_t x = 0;     ///< as rCaretX
-
-    friend bool operator==(const TermCaretPlace&, const TermCaretPlace&) = default;
-};
-
-/// All places of the caret, by rising index, as the same arguments of TermDraw would give them one by one;
-/// found in one go. The first place is that before the term, the last one that behind it. Nothing is drawn,
-/// and the device is left as it was.
-std::vector<TermCaretPlace> termCaretPlaces(DrawDevice& device, StringView term, std::int32_t x,
-                                            std::int32_t y, TEXTALIGN align);
+/// Sets the term out as the same arguments of TermDraw would draw it, with all places of the caret as
+/// TermDraw would give them one by one. The first place is that before the term, the last one that behind it.
+/// Nothing is drawn, and the device is left as it was.
+TermLayout layOutTerm(DrawDevice& device, StringView term, std::int32_t x, std::int32_t y, TEXTALIGN align);
 
 } // namespace phial

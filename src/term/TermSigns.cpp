@@ -1,6 +1,7 @@
 #include "term/TermSigns.h"
 
 #include "core/Colour.h"
+#include "term/TermLayout.h"
 #include "visual/DrawDevice.h"
 
 namespace phial
@@ -57,11 +58,15 @@ std::size_t TermSigns::write(TermWalk& walk, const TermLine& line)
 
 void TermSigns::put(const TermWalk& walk, StringView text)
 {
-    if (walk.drawing && isSeen_) {
+    if (walk.drawing && !layout_) {
         device_.Print(text);
-    } else {
-        device_.CurrentX(device_.CurrentX() + device_.TextWidth(text));
+        return;
     }
+    const double width = device_.TextWidth(text);
+    if (walk.drawing) {
+        layout_->addText(device_, text, width);
+    }
+    moveX(width);
 }
 
 void TermSigns::moveX(double distance)

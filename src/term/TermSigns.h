@@ -11,6 +11,7 @@ namespace phial
 {
 
 class DrawDevice;
+class TermLayout;
 
 /// One walk through a term or a part of it.
 struct TermWalk {
@@ -34,9 +35,9 @@ struct TermLine {
 class TermSigns
 {
 public:
-    /// `isSeen` false: the drawing walk, too, only moves the current point.
-    TermSigns(DrawDevice& device, StringView term, bool isSeen)
-        : device_(device), term_(term), isSeen_(isSeen)
+    /// With a layout the drawing walk fills that instead of drawing.
+    TermSigns(DrawDevice& device, StringView term, TermLayout* layout)
+        : device_(device), term_(term), layout_(layout)
     {
     }
 
@@ -56,7 +57,7 @@ private:
 
     DrawDevice& device_;
     StringView term_;
-    bool isSeen_;
+    TermLayout* layout_;
 };
 
 } // namespace phial

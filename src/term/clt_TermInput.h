@@ -2,6 +2,7 @@
 
 #include "term/TermCaret.h"
 #include "term/TermEdit.h"
+#include "term/TermLayout.h"
 #include "visual/PaintHints.h"
 #include "visual/PaintSurface.h"
 #include "visual/SharedFont.h"
@@ -108,15 +109,17 @@ private:
     struct Properties;
 
     void refresh();
-    void measure();
+    void layOut();
+    void caretMoved();
+    void followCaret();
     void draw();
     void tellText();
     String shownTerm() const;
     std::int32_t shownCaret() const;
     bool isCaretSeen() const { return focused_ && blinkOn_; }
-    std::int32_t shiftFor(const TermCaret& unmoved) const;
+    void showChangedCaret();
+    std::int32_t shiftForCaret() const;
     PixelPoint anchor() const;
-    DrawDevice& prepared();
 
     void tick();
     bool mayBlink() const;
@@ -141,10 +144,13 @@ private:
     Colour backColour_;
     SharedFont font_;
 
-    TermCaret places_;       ///< of the term as it is shown
+    TermLayout layout_;      ///< of the term as it is shown, before it is moved
+    TermCaret places_;       ///< the layout's
     std::int32_t shift_ = 0; ///< by which a long term is moved, in pixels
     bool focused_ = false;
     bool blinkOn_ = false;
+    bool caretDrawn_ = false;             ///< as it was drawn last
+    Connections activation_;              ///< to the form while the field has the focus
     std::optional<PointerEvent> pressed_; ///< while a drag may begin
     std::int32_t keyDown_ = 0;            ///< Return or Escape that has gone down here
 };

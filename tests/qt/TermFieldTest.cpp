@@ -1,4 +1,5 @@
 #include "DesktopSession.h"
+#include "term/TermDraw.h"
 #include "term/clt_TermInput.h"
 #include "visual/VisualHost.h"
 
@@ -7,6 +8,9 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTest>
+
+#include <algorithm>
+#include <utility>
 
 using namespace phial;
 using namespace phial::qt;
@@ -97,6 +101,31 @@ TEST_F(TermFieldInWindow, CopiesTextAndHtmlAndPastesBoth)
     EXPECT_EQ(field_->Term(), u"SO4^2-H2O");
     visualHost().clipboardText(u"Na");
     EXPECT_EQ(visualHost().clipboardHtml(), u"") << "of what was there before nothing is left";
+}
+
+TEST_F(TermFieldInWindow, LooksAsTermDrawDrawsItsTerm)
+{
+    for (const StringView term :
+         {u"2KMnO4 + 5SO3^2- -> 2Mn^2+", u"2 (a+b)/(c|d) =^ \u03B1~~3*H2O", u"x§y2|z"}) {
+        for (const double ratio : {1.0, 1.25, 2.0}) {
+            field_->TEXTFONT()->Size(13);
+            field_->TEXTALIGN(TEXTALIGN::MiddleLeft);
+            field_->Move(20, 10, 400, 60);
+            field_->Term(String(term));
+            field_->CARET(0);
+            const PicturePtr shown = field_->surface().image(ratio);
+            const auto backend = visualHost().createSurface({400, 60}, ratio);
+            DrawDevice device(backend);
+            device.font(field_->TEXTFONT()->traits());
+            device.BackColor(field_->BACKCOLOR());
+            device.ForeColor(field_->TEXTCOLOR());
+            device.Cls();
+            TermDraw(device, term, 0, 30, TEXTALIGN::MiddleLeft);
+            EXPECT_TRUE(std::ranges::equal(std::as_const(*shown).pixels(),
+                                           std::as_const(*backend->picture()).pixels()))
+                << toUtf8(term) << " at " << ratio;
+        }
+    }
 }
 
 TEST_F(TermFieldInWindow, TextDroppedFromOutsideBecomesTheTerm)

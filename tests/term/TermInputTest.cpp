@@ -115,16 +115,16 @@ TEST_F(TermInputTest, StandsOnAGroundOfItsOwn)
 TEST_F(TermInputTest, TheAnchorFollowsTheAlignment)
 {
     field->Term(u"AB");
-    EXPECT_NE(drawn().find("text 0,8 \"A\""), std::string::npos);
+    EXPECT_NE(drawn().find("text 0,8 \"AB\""), std::string::npos);
     field->TEXTALIGN(TEXTALIGN::MiddleCentre);
-    EXPECT_NE(drawn().find("text 90,8 \"A\""), std::string::npos);
+    EXPECT_NE(drawn().find("text 90,8 \"AB\""), std::string::npos);
     field->TEXTALIGN(TEXTALIGN::BottomRight);
-    EXPECT_NE(drawn().find("text 180,15 \"A\""), std::string::npos);
+    EXPECT_NE(drawn().find("text 180,15 \"AB\""), std::string::npos);
     field->TEXTALIGN(TEXTALIGN::TopLeft);
-    EXPECT_NE(drawn().find("text 0,0 \"A\""), std::string::npos);
+    EXPECT_NE(drawn().find("text 0,0 \"AB\""), std::string::npos);
     field->Move(0, 0, 100, 60);
     field->TEXTALIGN(TEXTALIGN::MiddleRight);
-    EXPECT_NE(drawn().find("text 80,18 \"A\""), std::string::npos);
+    EXPECT_NE(drawn().find("text 80,18 \"AB\""), std::string::npos);
 }
 
 TEST_F(TermInputTest, AtTheFarEdgeTheCaretHasAPixelToStandOn)
@@ -297,7 +297,7 @@ TEST_F(LongTerms, ATermThatFitsAgainStandsAtItsAnchor)
     EXPECT_NE(drawn().find("text 0,8 \"H\""), std::string::npos) << drawn();
     field->Term(Long);
     field->Move(10, 20, 600, 40);
-    EXPECT_NE(drawn().find("text 0,8 \"a\""), std::string::npos) << drawn();
+    EXPECT_NE(drawn().find("text 0,8 \"aaa"), std::string::npos) << drawn();
 }
 
 TEST_F(LongTerms, APressTakesThePlaceThatIsSeen)
