@@ -6,6 +6,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
 #include "term/TermDraw.h"
+#include "visual/Form.h"
 #include "visual/PropertyRows.h"
 #include "visual/VisualHost.h"
 
@@ -209,12 +210,18 @@ void clt_TermInput::gotFocus()
     focused_ = true;
     blinkOn_ = blinkOn_ || !mayBlink();
     cursor_.Enabled(true);
+    activation_.clear();
+    if (const auto form = frame_.form()) {
+        activation_ += form->Activate.connect([this] { showChangedCaret(); });
+        activation_ += form->Deactivate.connect([this] { showChangedCaret(); });
+    }
     surface_.invalidate();
 }
 
 void clt_TermInput::lostFocus()
 {
     focused_ = false;
+    activation_.clear();
     cursor_.Enabled(false);
     blinkOn_ = false;
     keyDown_ = 0;
@@ -231,6 +238,14 @@ void clt_TermInput::tick()
     showChangedCaret();
 }
 
+/// The field keeps the focus of a form whose window is not active; in a window of plain Qt it does not.
+bool clt_TermInput::isInActiveWindow() const
+{
+    const auto form = frame_.form();
+    return !form || visualHost().forms().ActiveForm() == form;
+}
+
+/// A form is not told of each window that comes before its own, so each tick looks as well.
 void clt_TermInput::showChangedCaret()
 {
     if (isCaretSeen() != caretDrawn_) {

@@ -116,7 +116,8 @@ private:
     void tellText();
     String shownTerm() const;
     std::int32_t shownCaret() const;
-    bool isCaretSeen() const { return focused_ && blinkOn_; }
+    bool isCaretSeen() const { return focused_ && blinkOn_ && isInActiveWindow(); }
+    bool isInActiveWindow() const;
     void showChangedCaret();
     std::int32_t shiftForCaret() const;
     PixelPoint anchor() const;

@@ -103,6 +103,27 @@ TEST_F(TermFieldInWindow, CopiesTextAndHtmlAndPastesBoth)
     EXPECT_EQ(visualHost().clipboardHtml(), u"") << "of what was there before nothing is left";
 }
 
+TEST_F(TermFieldInWindow, TheCaretIsSeenInTheActiveWindowAlone)
+{
+    const auto isCaretSeen = [&] {
+        const PicturePtr picture = field_->surface().image(1);
+        const auto pixels = std::as_const(*picture).pixels();
+        return std::ranges::any_of(pixels, [&](std::uint32_t pixel) { return pixel != pixels.front(); });
+    };
+    outside().display().blinksCaret(false);
+    form_->focus(nullptr);
+    field_->SetFocus();
+    ASSERT_TRUE(eventually([&] { return widgetOf(*form_).isActiveWindow() && isCaretSeen(); }));
+    const auto second = std::make_shared<Form>(u"frm_Second");
+    second->Show();
+    ASSERT_TRUE(eventually([&] { return !widgetOf(*form_).isActiveWindow(); }));
+    EXPECT_TRUE(field_->frame().hasFocus());
+    EXPECT_TRUE(eventually([&] { return !isCaretSeen(); }));
+    second->Unload();
+    widgetOf(*form_).activateWindow();
+    EXPECT_TRUE(eventually(isCaretSeen));
+}
+
 TEST_F(TermFieldInWindow, LooksAsTermDrawDrawsItsTerm)
 {
     for (const StringView term :

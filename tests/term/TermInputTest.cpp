@@ -173,6 +173,52 @@ TEST_F(TermInputTest, TheCaretBlinksWhileTheFieldHasTheFocus)
     EXPECT_EQ(caretX(), std::nullopt) << "it begins with the dark phase";
 }
 
+TEST_F(TermInputTest, TheCaretGoesWhileAnotherWindowIsActiveAndComesBack)
+{
+    edit(u"H2O", 1);
+    outside.advance(0.5);
+    EXPECT_EQ(caretX(), 10);
+    form->inputDeactivate();
+    EXPECT_EQ(caretX(), std::nullopt);
+    for (int tick = 0; tick < 4; ++tick) {
+        outside.advance(0.5);
+        EXPECT_EQ(caretX(), std::nullopt);
+    }
+    EXPECT_TRUE(field->frame().hasFocus());
+    form->inputActivate();
+    EXPECT_EQ(caretX(), 10) << "at once, in the phase that it has reached";
+    outside.advance(0.5);
+    EXPECT_EQ(caretX(), std::nullopt);
+    outside.advance(0.5);
+    EXPECT_EQ(caretX(), 10);
+}
+
+TEST_F(TermInputTest, ACaretThatDoesNotBlinkGoesWithItsWindowToo)
+{
+    outside.display().blinksCaret(false);
+    edit(u"H2O", 1);
+    const auto dialog = std::make_shared<Form>(u"frm_Other");
+    dialog->Show();
+    EXPECT_EQ(caretX(), std::nullopt);
+    dialog->Unload();
+    form->inputActivate();
+    EXPECT_EQ(caretX(), 10);
+    other->SetFocus();
+    form->inputDeactivate();
+    EXPECT_EQ(caretX(), std::nullopt);
+}
+
+TEST_F(TermInputTest, AnOpenersCaretGoesAtTheNextTickWhenItIsNotTold)
+{
+    edit(u"H2O", 1);
+    outside.advance(0.5);
+    drawn();
+    form->abortBegun();
+    form->inputDeactivate();
+    outside.advance(1);
+    EXPECT_EQ(caretX(), std::nullopt);
+}
+
 TEST_F(TermInputTest, WhatIsTypedShowsTheCaretForAWholePhase)
 {
     edit(u"", 0);
