@@ -124,6 +124,27 @@ TEST_F(TermFieldInWindow, TheCaretIsSeenInTheActiveWindowAlone)
     EXPECT_TRUE(eventually(isCaretSeen));
 }
 
+TEST_F(TermFieldInWindow, ALockedFieldDoesNotLookAsIfItTookADrop)
+{
+    QMimeData content;
+    content.setText(QStringLiteral("CO2"));
+    const auto enters = [&] {
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &content, Qt::LeftButton, Qt::NoModifier);
+        enter.setDropAction(Qt::CopyAction);
+        enter.ignore();
+        QApplication::sendEvent(&widget(), &enter);
+        return enter.isAccepted() && enter.dropAction() == Qt::CopyAction;
+    };
+    EXPECT_TRUE(enters());
+    field_->LOCKED(true);
+    EXPECT_FALSE(enters());
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &content, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget(), &drop);
+    EXPECT_EQ(field_->Term(), u"");
+    field_->LOCKED(false);
+    EXPECT_TRUE(enters());
+}
+
 TEST_F(TermFieldInWindow, LooksAsTermDrawDrawsItsTerm)
 {
     for (const StringView term :

@@ -491,9 +491,14 @@ void ControlWidget::beginDrag()
     drag->exec(Qt::CopyAction);
 }
 
+// A field whose text is locked takes nothing, and what holds it does not take it instead.
 void ControlWidget::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (qobject_cast<ControlWidget*>(event->source()) || event->mimeData()->hasText()) {
+    const std::optional<TextEntry>& entry = control_->frame().textEntry();
+    if (entry && entry->locked) {
+        event->setDropAction(Qt::IgnoreAction);
+        event->accept();
+    } else if (qobject_cast<ControlWidget*>(event->source()) || event->mimeData()->hasText()) {
         event->acceptProposedAction();
     }
 }
