@@ -1,6 +1,7 @@
 #include "DesktopSession.h"
 #include "term/TermDraw.h"
 #include "term/clt_TermInput.h"
+#include "visual/TextBox.h"
 #include "visual/VisualHost.h"
 
 #include <QAccessible>
@@ -180,5 +181,92 @@ TEST_F(TermFieldInWindow, TextDroppedFromOutsideBecomesTheTerm)
     QApplication::sendEvent(&widget(), &drop);
     EXPECT_EQ(field_->Term(), u"CO2");
 }
+
+/// Its handlers take the field away, with its last reference, or its form as well.
+class TermFieldGone : public TermFieldInWindow, public testing::WithParamInterface<bool>
+{
+protected:
+    TermFieldGone()
+    {
+        field_->Term(u"H2O");
+        field_->OLEDRAGAUTO(true);
+    }
+    ~TermFieldGone() override
+    {
+        EXPECT_EQ(taken_, 1);
+        connections_.clear();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(watched_.expired());
+    }
+
+    template <typename... Args>
+    void takeAwayAt(Event<Args...>& event)
+    {
+        connections_ += event.connect([this](const Args&...) {
+            ++taken_;
+            if (GetParam()) {
+                form_->Unload();
+            }
+            form_->remove(*field_);
+            field_.reset();
+        });
+    }
+
+    int taken_ = 0;
+    Connections connections_;
+    std::weak_ptr<clt_TermInput> watched_ = field_;
+};
+
+TEST_P(TermFieldGone, AtAKey)
+{
+    takeAwayAt(field_->CHANGED);
+    QTest::keyClick(&widget(), Qt::Key_A);
+}
+
+TEST_P(TermFieldGone, AtReturn)
+{
+    takeAwayAt(field_->ENTER);
+    QTest::keyClick(&widget(), Qt::Key_Return);
+}
+
+TEST_P(TermFieldGone, AtAPress)
+{
+    takeAwayAt(field_->MouseDown);
+    QTest::mouseClick(&widget(), Qt::LeftButton);
+}
+
+TEST_P(TermFieldGone, AtTheEndOfAPress)
+{
+    takeAwayAt(field_->MouseUp);
+    QTest::mouseClick(&widget(), Qt::LeftButton);
+}
+
+TEST_P(TermFieldGone, AtAClick)
+{
+    takeAwayAt(field_->CLICK);
+    QTest::mouseClick(&widget(), Qt::LeftButton);
+}
+
+TEST_P(TermFieldGone, AtADrop)
+{
+    takeAwayAt(field_->CHANGED);
+    QMimeData content;
+    content.setText(QStringLiteral("CO2"));
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &content, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget(), &enter);
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &content, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget(), &drop);
+}
+
+TEST_P(TermFieldGone, WhenAnotherFieldTakesTheFocus)
+{
+    const auto other = form_->add<TextBox>(u"txt_Other");
+    other->Move(20, 80, 200, 40);
+    takeAwayAt(other->GotFocus);
+    other->SetFocus();
+}
+
+INSTANTIATE_TEST_SUITE_P(Taken, TermFieldGone, testing::Bool(),
+                         [](const auto& instance) { return instance.param ? "WithItsForm" : "Alone"; });
 
 } // namespace
