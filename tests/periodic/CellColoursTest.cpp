@@ -1,6 +1,7 @@
 #include "periodic/CellColours.h"
 
 #include "PeriodicTableTest.h"
+#include "core/CoreColors.h"
 #include "core/CoreTheme.h"
 #include "support/Contrast.h"
 
@@ -102,6 +103,29 @@ TEST_F(TableColourSets, TheClassicOneHasNoSigns)
     EXPECT_NE(cell("O"), classic);
     table->Colouring(TableColours::Classic);
     EXPECT_EQ(cell("O"), classic);
+}
+
+TEST_F(TableColourSets, TheClassicOneHasAColourForEachShell)
+{
+    constexpr std::array<Colour, 7> Shells{RGB(157, 152, 140), RGB(255, 150, 255), RGB(150, 255, 150),
+                                           RGB(255, 150, 150), RGB(150, 150, 255), RGB(255, 255, 150),
+                                           RGB(200, 100, 200)};
+    const CellColours& classic = CellColours::of(TableColours::Classic);
+    for (std::size_t shell = 0; shell < Shells.size(); ++shell) {
+        EXPECT_EQ(classic.shells[shell], Shells[shell]) << shell + 1;
+    }
+}
+
+TEST_P(TableColouring, LetsTheHighlightBeSeenOnEachGround)
+{
+    constexpr double Least = 3; // of what is no text
+    const CellColours& colours = CellColours::of(GetParam());
+    for (const Colour shell : colours.shells) {
+        for (const Colour ground :
+             {CoreColors::Lighten(shell, colours.shade), CoreColors::Darken(shell, colours.shade)}) {
+            EXPECT_GE(test::contrast(colours.highlight, ground, ColourSet::Light), Least);
+        }
+    }
 }
 
 TEST_F(TableColourSets, ByThemeCaptionsCanBeReadOnAGroundThatFollowsTheTheme)
