@@ -55,7 +55,7 @@ DragTile* DragTiles::add(String symbol, const TableGrid& grid)
         return nullptr;
     }
     const auto slot = static_cast<std::int32_t>(free - begin());
-    *free = {std::move(symbol), nullptr, homeOf(slot, grid), {}, {}, false};
+    *free = {std::move(symbol), nullptr, homeOf(slot, grid), {}, {}};
     return &*free;
 }
 
@@ -64,7 +64,6 @@ void DragTiles::forgetElements()
     for (DragTile& tile : tiles_) {
         tile.element.reset();
         tile.droppedSymbol.clear();
-        tile.isPlaced = false;
     }
 }
 
@@ -74,7 +73,6 @@ void DragTiles::sendHome(std::int32_t slot, const TableGrid& grid)
     tile.area = homeOf(slot, grid);
     tile.target.reset();
     tile.droppedSymbol.clear();
-    tile.isPlaced = false;
 }
 
 std::optional<std::int32_t> DragTiles::slotAt(PixelPoint point) const
@@ -126,7 +124,6 @@ void DragTiles::put(std::int32_t slot, DragTile::Target target, const TableGrid&
     tile.target = target;
     tile.area = grid.cell(target.column, target.row);
     tile.droppedSymbol.clear();
-    tile.isPlaced = false;
 }
 
 void DragTiles::layOut(const TableGrid& grid)

@@ -27,7 +27,6 @@ struct DragTile {
     PixelRectangle area;
     std::optional<Target> target; ///< none: at home
     String droppedSymbol;         ///< of the element in the target's cell; empty for none
-    bool isPlaced = false;        ///< lies on an element's cell
 };
 
 /// The eleven slots for tiles, counted from 0.

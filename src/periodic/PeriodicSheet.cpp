@@ -94,7 +94,6 @@ void PeriodicSheet::tellTiles(const Cell& cell)
     for (DragTile& tile : tiles) {
         if (tile.target == cell.target()) {
             tile.droppedSymbol = cell.painted.element->SYMBOL();
-            tile.isPlaced = true;
         }
     }
 }
