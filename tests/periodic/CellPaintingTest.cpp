@@ -164,6 +164,34 @@ TEST_F(CellPainting, LaysAFurtherFrameUponThatOfTheHighlight)
     EXPECT_EQ(device.DrawWidth(), 1);
 }
 
+TEST_F(CellPainting, FramesATakenTileInBlackAndWhite)
+{
+    CellLook look;
+    look.isTaken = true;
+    EXPECT_THAT(painted(u"Fe", look), HasSubstr("box 256,160 32x32 line #000000 w3\n"
+                                                "box 258.5,162.5 27x27 line #FFFFFF w2\n"
+                                                "clip none\n"));
+    EXPECT_EQ(device.DrawWidth(), 1);
+}
+
+TEST_F(CellPainting, SignsGrowWithTheCellAndStayInItsCorner)
+{
+    sheet.style.colours = &CellColours::of(TableColours::Distinct);
+    const auto sign = [&](StringView symbol) {
+        const std::string all = painted(symbol);
+        const std::size_t end = all.rfind("clip none");
+        const std::size_t begin = all.rfind('\n', end - 2) + 1;
+        return all.substr(begin, end - begin);
+    };
+    EXPECT_EQ(sign(u"Fe"), "box 280,184 5x5 fill #000000\n");
+    fill(64);
+    EXPECT_EQ(sign(u"Fe"), "box 563,371 10x10 fill #000000\n");
+    EXPECT_EQ(sign(u"O"), "arc 1080,248 r5x5 line #5A0032 w2\n");
+    EXPECT_EQ(sign(u"Hg"), "polygon 824,498 827.5,504 828,506.5 826,509 822,509 820,506.5 820.5,504 "
+                           "fill #00008B line #00008B\n");
+    EXPECT_EQ(device.DrawWidth(), 1);
+}
+
 TEST_F(CellPainting, LeavesThePlaceOfATileWithoutTextButWithItsFrames)
 {
     sheet.marks.isPlacing = true;

@@ -162,6 +162,21 @@ TEST_F(TileHands, ATileThatIsLetGoInTheTilesOwnRowGoesHome)
     EXPECT_TRUE(isHome(1));
 }
 
+TEST_F(TileHands, ATileStaysUpToTheEdgesOfTheTableAndGoesHomeBeyond)
+{
+    for (const Target inside :
+         {Target{0, 0}, Target{17, 0}, Target{0, 9}, Target{17, 9}, Target{0, 6}, Target{9, 8}}) {
+        EXPECT_EQ(drag(middleOf(0), middleOf(inside)), (Act{Dropped, 0}));
+        EXPECT_EQ(targetOf(0), inside) << inside.column << ", " << inside.row;
+    }
+    for (const Target outside : {Target{-1, 3}, Target{18, 3}, Target{3, -1}, Target{3, 10}, Target{3, 7}}) {
+        EXPECT_EQ(drag(middleOf(0), middleOf(outside)), (Act{SentHome, 0}))
+            << outside.column << ", " << outside.row;
+        EXPECT_TRUE(isHome(0));
+        drag(middleOf(0), middleOf(Oxygen));
+    }
+}
+
 TEST_F(TileHands, APressThatStraysFromACellPutsNothing)
 {
     tap(middleOf(0));
