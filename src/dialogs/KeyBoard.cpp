@@ -219,23 +219,22 @@ KeyDeed KeyBoard::deed(std::int32_t index) const
         return {Kind::Send, String(isOn(Modifier::Shift) ? caret->shifted : caret->strokes)};
     }
     if (const KeyStrokes* named = rowOf(NamedStrokes, name)) {
-        return {Kind::Send, prefixed(String(named->strokes), true)};
+        return {Kind::Send, prefixed(String(named->strokes))};
     }
     if (name.size() == 1) {
-        return {Kind::Send, prefixed(inNotation(name), true)};
+        return {Kind::Send, prefixed(inNotation(name))};
     }
-    // A tag in braces is a key in the notation already.
+    // A tag in braces is a key in the notation already. Several characters are typed as they are: modifiers
+    // have chosen what the key shows, and would change its first character alone.
     const bool isNotation = name.starts_with(u'{') && name.ends_with(u'}');
-    return {Kind::Send, isNotation ? prefixed(name, true) : prefixed(inNotation(name), false)};
+    return {Kind::Send, isNotation ? prefixed(name) : inNotation(name)};
 }
 
-/// Each modifier in front of what stands there. A key of several characters types them as they are: Shift and
-/// Sym have chosen what it shows, and would otherwise change its first character once more.
-String KeyBoard::prefixed(String strokes, bool takesFaceModifiers) const
+/// Each modifier in front of what stands there.
+String KeyBoard::prefixed(String strokes) const
 {
     for (const ModifierName& row : Modifiers) {
-        const bool choosesFace = row.modifier == Modifier::Shift || row.modifier == Modifier::Sym;
-        if (isOn(row.modifier) && (takesFaceModifiers || !choosesFace)) {
+        if (isOn(row.modifier)) {
             strokes.insert(0, row.prefix);
         }
     }

@@ -88,7 +88,8 @@ struct KeyDeed {
 ///
 /// One that a finger still holds serves all keys that are struck meanwhile, and falls back when it is let go.
 ///
-/// A key of one character types exactly what it shows. Ctrl alone or Alt alone make a command of it.
+/// A key of one character types exactly what it shows. Ctrl alone or Alt alone make a command of it. A key of
+/// several characters types them whatever modifiers are on.
 class KeyBoard
 {
 public:
@@ -138,7 +139,7 @@ private:
     std::size_t position(std::int32_t index) const;
     bool showsSymbols() const;
     KeyDeed deed(std::int32_t index) const;
-    String prefixed(String strokes, bool takesFaceModifiers) const;
+    String prefixed(String strokes) const;
     void fallBack();
 
     KeyLayout layout_;
