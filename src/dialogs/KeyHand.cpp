@@ -5,28 +5,27 @@
 namespace phial
 {
 
-std::optional<std::int32_t> KeyHand::press(std::int32_t finger, std::int32_t index)
+/// At most one waits, since each press strikes the one before.
+std::optional<std::int32_t> KeyHand::strikeBefore(std::int32_t finger)
 {
     lift(finger); // it was never let go
-    const auto struck = strikeWaiting();
-    const KeyState before = board_.state(index);
-    const bool isModifier = board_.press(index);
-    down_.push_back({finger, index, before, isModifier});
-    if (const auto modifier = board_.modifier(index)) {
-        board_.hold(*modifier, true);
-    }
-    return struck;
-}
-
-/// At most one waits, since each press strikes the one before.
-std::optional<std::int32_t> KeyHand::strikeWaiting()
-{
     const auto waiting = std::ranges::find(down_, false, &Press::isUsed);
     if (waiting == down_.end()) {
         return std::nullopt;
     }
     waiting->isUsed = true;
     return waiting->index;
+}
+
+void KeyHand::press(std::int32_t finger, std::int32_t index)
+{
+    lift(finger);
+    const KeyState before = board_.state(index);
+    const bool isModifier = board_.press(index);
+    down_.push_back({finger, index, before, isModifier});
+    if (const auto modifier = board_.modifier(index)) {
+        board_.hold(*modifier, true);
+    }
 }
 
 std::optional<std::int32_t> KeyHand::release(std::int32_t finger)

@@ -19,9 +19,11 @@ public:
     /// The keyboard outlives it; modifiers pass on when they are pressed.
     explicit KeyHand(KeyBoard& board) : board_(board) {}
 
-    /// A finger goes down on a key. Gives the key that this strikes, if another one is down and not struck
-    /// yet.
-    std::optional<std::int32_t> press(std::int32_t finger, std::int32_t index);
+    /// A finger is about to go down. Gives the key that this strikes, if another one is down and not struck
+    /// yet; it is struck before `press`, since that may be of a modifier, which is not for it.
+    std::optional<std::int32_t> strikeBefore(std::int32_t finger);
+    /// A finger has gone down on a key.
+    void press(std::int32_t finger, std::int32_t index);
     /// A finger goes up. Gives the key that this strikes.
     std::optional<std::int32_t> release(std::int32_t finger);
     /// The same for one that was no press; a modifier goes back.
@@ -48,7 +50,6 @@ private:
         bool isUsed;
     };
 
-    std::optional<std::int32_t> strikeWaiting();
     std::optional<Press> lift(std::int32_t finger);
     void setBack(const Press& press);
 

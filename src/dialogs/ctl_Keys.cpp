@@ -77,11 +77,13 @@ void ctl_Keys::pointerDown(const PointerEvent& event)
     if (!key) {
         return;
     }
-    const auto struck = hand_->press(event.Touch, *key);
-    waitForHold();
-    refresh();
-    if (struck) {
+    if (const auto struck = hand_->strikeBefore(event.Touch)) {
         strike(*struck);
+    }
+    if (isShown_) { // the key may have closed the window
+        hand_->press(event.Touch, *key);
+        waitForHold();
+        refresh();
     }
 }
 

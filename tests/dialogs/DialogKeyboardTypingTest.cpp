@@ -1,5 +1,6 @@
 #include "dialogs/DialogKeyboardTest.h"
 #include "dialogs/ScanChoice.h"
+#include "dialogs/TextLayout.h"
 #include "headless/Hand.h"
 #include "visual/Label.h"
 
@@ -174,12 +175,10 @@ TEST_F(DialogKeyboardTest, AScanTypesABlank)
 
 TEST_F(DialogKeyboardTest, CtrlAndAltTypeSymbols)
 {
-    constexpr std::int32_t Ctrl = 50;
-    constexpr std::int32_t Alt = 51;
     open(target<TextBox>());
-    tapAll({Ctrl, Alt, keys::LetterE});
+    tapAll({keys::Ctrl, keys::Alt, keys::LetterE});
     EXPECT_EQ(input()->Text(), u"€");
-    tapAll({Ctrl, Alt, Alt, keys::LetterE});
+    tapAll({keys::Ctrl, keys::Alt, keys::Alt, keys::LetterE});
     EXPECT_EQ(input()->Text(), u"€e") << "once and locked have no bit in common";
 }
 
@@ -219,6 +218,60 @@ TEST_F(DialogKeyboardTest, TenFingersAndADeskLoseNoKey)
     std::ranges::sort(got); // the desk's keys may pass a key that is still down
     std::ranges::sort(expected);
     EXPECT_EQ(toUtf8(got), toUtf8(expected));
+}
+
+TEST_F(DialogKeyboardTest, ThousandsOfTapsTypeWhatTheKeysShow)
+{
+    std::mt19937 random(9);
+    constexpr int Taps = 4000;
+    const auto modifiers = std::to_array<std::int32_t>({keys::Shift, keys::Ctrl, keys::Alt, keys::Sym});
+    open(target<TextBox>());
+    KeyBoard& board = keyPad()->board();
+    for (int at = 0; at < Taps; ++at) {
+        if (random() % 3 == 0) {
+            tap(modifiers[random() % modifiers.size()]);
+            continue;
+        }
+        const std::int32_t key = text_layout::Keys[random() % text_layout::Keys.size()].index;
+        const String shown = board.face(key).text;
+        if (board.name(key) != shown || shown == u"ESC") {
+            continue; // it moves, deletes or ends
+        }
+        const bool isCommand = shown.size() == 1 && !board.isOn(Modifier::Sym) &&
+                               board.isOn(Modifier::Ctrl) != board.isOn(Modifier::Alt);
+        String expected = input()->Text();
+        if (!isCommand) {
+            expected.replace(static_cast<std::size_t>(input()->SelStart()),
+                             static_cast<std::size_t>(input()->SelLength()), shown);
+        }
+        tap(key);
+        ASSERT_EQ(toUtf8(input()->Text()), toUtf8(expected)) << at << " " << toUtf8(shown);
+    }
+    EXPECT_FALSE(input()->Text().empty());
+}
+
+TEST_F(DialogKeyboardTest, ShiftIsNotForTheLetterOnWhichAFingerStillLies)
+{
+    open(target<TextBox>());
+    touch.press(1, *keyPad(), middle(keys::LetterA));
+    touch.press(2, *keyPad(), middle(keys::Shift));
+    touch.release(1);
+    touch.press(1, *keyPad(), middle(keys::LetterQ));
+    touch.release(2);
+    touch.release(1);
+    outside.runPending();
+    EXPECT_EQ(input()->Text(), u"aQ");
+}
+
+TEST_F(DialogKeyboardTest, AKeyThatClosesTheWindowIsTheLast)
+{
+    open(target<TextBox>());
+    tap(keys::Sym);
+    touch.press(1, *keyPad(), middle(keys::Escape));
+    touch.press(2, *keyPad(), middle(keys::LetterA));
+    EXPECT_FALSE(isOpen());
+    outside.advance(2);
+    EXPECT_FALSE(keyPad()->showsVariants());
 }
 
 // Lines.
