@@ -14,8 +14,12 @@ inline constexpr PixelSize Size{750, 340};
 inline constexpr double TextSize = 20;
 inline constexpr double LinesSize = 12;
 
+/// Where the text stands; that of several lines has more room, for the same reason.
+inline constexpr ControlDesign::Rectangle LineArea{228, 12, 447, 48};
+inline constexpr PixelRectangle PageArea{228, 9, 447, 54};
+
 inline constexpr ControlDesign Controls[] = {
-    design<TextBox>(u"txt_Input", {228, 12, 447, 48})
+    design<TextBox>(u"txt_Input", LineArea)
         .font(TextSize)
         .ink(Palette::Ink)
         .ground(Palette::Field)

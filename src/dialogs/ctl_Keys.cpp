@@ -194,15 +194,14 @@ void ctl_Keys::hold()
     timer_.Enabled(false);
     if (scan_ && (switchFinger_ || switchKey_)) {
         holdSwitch();
-    } else if (held && !held->isUsed && openVariantsOf(held->index)) {
+    } else if (held && !held->isUsed && showVariants(held->index)) {
         hand_->use();
         stripFinger_ = held->finger;
         RELEASED.emit(held->finger);
     }
 }
 
-/// Gives whether the key has some.
-bool ctl_Keys::openVariantsOf(std::int32_t index)
+bool ctl_Keys::showVariants(std::int32_t index)
 {
     const bool isCharacter = sheet_.kindOf(index) == KeyKind::Character;
     const String variants = offersVariants_ && isCharacter ? variantsOf(board_->face(index).text) : String();
@@ -362,7 +361,7 @@ void ctl_Keys::pressSwitch()
 void ctl_Keys::holdSwitch()
 {
     const auto lit = scan_->lit();
-    if (strip_ || lit.size() != 1 || !openVariantsOf(lit.front())) {
+    if (strip_ || lit.size() != 1 || !showVariants(lit.front())) {
         return;
     }
     const auto finger = std::exchange(switchFinger_, std::nullopt);

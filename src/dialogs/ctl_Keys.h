@@ -71,6 +71,8 @@ public:
     void previewKey(KeyEvent& event);
     /// Likewise when it goes up: the switch strikes, unless it was held.
     void previewKeyUp(KeyEvent& event);
+    /// Shows the variants of a key, as holding it does. Gives whether it has some.
+    bool showVariants(std::int32_t index);
     bool showsVariants() const { return strip_.has_value(); }
 
     StringView typeName() const override { return u"ctl_Keys"; }
@@ -104,7 +106,6 @@ private:
     void stepScan();
     void pressSwitch();
     void holdSwitch();
-    bool openVariantsOf(std::int32_t index);
     void goThroughStrip(KeyEvent& event);
     void stepStrip(bool isForward);
     void waitForHold();

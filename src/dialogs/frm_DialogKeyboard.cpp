@@ -148,8 +148,12 @@ void frm_DialogKeyboard::readTarget()
 /// From now on on a page, and smaller, so that two lines are seen.
 void frm_DialogKeyboard::showLines()
 {
+    constexpr PixelRectangle Area = dialog_keyboard_design::PageArea;
+    const double scale = window_.scale();
     input_->MultiLine(true);
-    input_->Font()->Size(dialog_keyboard_design::LinesSize * window_.scale());
+    input_->frame().pixelRectangle(
+        {Area.left * scale, Area.top * scale, Area.width * scale, Area.height * scale});
+    input_->Font()->Size(dialog_keyboard_design::LinesSize * scale);
 }
 
 /// By the program: no change of the user's.

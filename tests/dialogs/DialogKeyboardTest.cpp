@@ -374,6 +374,7 @@ TEST_F(DialogKeyboardTest, LinesKeepTheirSizeOnASmallerScreen)
     outside.advance(0.02);
     touch.release(1);
     EXPECT_DOUBLE_EQ(input()->Font()->Size(), 12 * 0.8);
+    EXPECT_DOUBLE_EQ(input()->frame().pixelRectangle().height, 54 * 0.8);
     EXPECT_EQ(keyPad()->frame().pixelRectangle().width, 720 * 0.8);
 }
 

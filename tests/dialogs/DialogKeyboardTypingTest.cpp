@@ -296,6 +296,7 @@ TEST_F(DialogKeyboardTest, AnAddedLineMakesAPageOfIt)
     EXPECT_EQ(input()->Text(), u"a\r\nb");
     EXPECT_EQ(input()->SelStart(), 3);
     EXPECT_DOUBLE_EQ(input()->Font()->Size(), 12);
+    EXPECT_EQ(input()->frame().pixelRectangle(), (PixelRectangle{228, 9, 447, 54}));
     tap(keys::Backspace);
     EXPECT_EQ(input()->Text(), u"ab");
     EXPECT_TRUE(input()->MultiLine()) << "it stays one";
