@@ -17,7 +17,8 @@ namespace phial::qt
 class DesktopRun : public DesktopTest<Session>
 {
 protected:
-    DesktopRun()
+    explicit DesktopRun(std::shared_ptr<CoreDisplay> display = nullptr)
+        : DesktopTest(previewAndPrint, std::move(display))
     {
         folder().write("tree/QVStart.exe", "marker");
         folder().write("tree/Resources/gfx/marker", "");

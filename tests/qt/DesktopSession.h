@@ -38,7 +38,9 @@ public:
 protected:
     DesktopTest() : DesktopTest(previewAndPrint) {}
     /// `outlet` takes what the test prints.
-    explicit DesktopTest(PrintOutlet outlet) : outlet_(std::move(outlet))
+    /// The display counts instead of the scripted one, where it is given.
+    explicit DesktopTest(PrintOutlet outlet, std::shared_ptr<CoreDisplay> display = nullptr)
+        : outlet_(std::move(outlet)), display_(std::move(display))
     {
         dispatchGuard()->setReporter(fail);
     }
@@ -73,10 +75,14 @@ private:
         platform.visual = std::make_shared<QtVisualHost>(outlet_);
         platform.pump = std::make_shared<QtEventPump>(dispatchGuard());
         platform.windows = std::make_shared<DesktopWindowOps>();
+        if (display_) {
+            platform.display = display_;
+        }
         return platform;
     }
 
     PrintOutlet outlet_;
+    std::shared_ptr<CoreDisplay> display_;
     test::TemporaryFolder folder_;
     headless::HeadlessPlatform outside_{folder_.path(), fail};
     State session_{platform()};
