@@ -243,6 +243,22 @@ TEST_F(TermInputKeys, ALockedFieldCanBeCopied)
     EXPECT_EQ(shown(), u"Na|Cl");
 }
 
+TEST_F(TermInputKeys, ItsCommandsGoNoFurther)
+{
+    edit(u"NaCl", 2);
+    for (const bool isLocked : {false, true}) {
+        field->LOCKED(isLocked);
+        for (const char16_t key : {u'C', u'V', u'X', u'Y', u'Z'}) {
+            KeyEvent event{key, ShiftMask::Control};
+            field->keyDown(event);
+            EXPECT_EQ(event.KeyCode, 0) << static_cast<int>(key);
+        }
+    }
+    KeyEvent unknown{u'A', ShiftMask::Control};
+    field->keyDown(unknown);
+    EXPECT_EQ(unknown.KeyCode, u'A');
+}
+
 TEST_F(TermInputKeys, OtherCommandsDoNothing)
 {
     edit(u"NaCl", 2);

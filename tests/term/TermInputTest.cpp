@@ -173,6 +173,18 @@ TEST_F(TermInputTest, TheCaretBlinksWhileTheFieldHasTheFocus)
     EXPECT_EQ(caretX(), std::nullopt) << "it begins with the dark phase";
 }
 
+TEST_F(TermInputTest, ThePhaseBeginsAnewWithTheFocus)
+{
+    edit(u"H2O", 2);
+    outside.advance(0.3);
+    other->SetFocus();
+    field->SetFocus();
+    outside.advance(0.4);
+    EXPECT_EQ(caretX(), std::nullopt);
+    outside.advance(0.1);
+    EXPECT_EQ(caretX(), 19);
+}
+
 TEST_F(TermInputTest, TheCaretGoesWhileAnotherWindowIsActiveAndComesBack)
 {
     edit(u"H2O", 1);
@@ -394,6 +406,15 @@ TEST_F(TermInputTest, WhatIsComposedIsShownAtTheCaretUntilItIsTyped)
     headless::compose(*form, u"x");
     other->SetFocus();
     EXPECT_EQ(drawn().find("\"x\""), std::string::npos) << drawn();
+}
+
+TEST_F(TermInputTest, WhatIsComposedGoesAlongWithTheCaret)
+{
+    edit(u"SO4", 3);
+    headless::compose(*form, u"x");
+    field->CARET(0);
+    EXPECT_NE(drawn().find("text 0,8 \"xSO\""), std::string::npos) << drawn();
+    EXPECT_EQ(field->frame().textEntry()->caretArea.left, 10);
 }
 
 TEST_F(TermInputTest, ALockedFieldTakesNothingThatIsComposed)
