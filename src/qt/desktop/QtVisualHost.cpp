@@ -139,6 +139,40 @@ PicturePtr QtVisualHost::decodePicture(const std::filesystem::path& file, double
     return pictureOf(image, pixelRatio);
 }
 
+// A photo is turned by what its file says after it has been made smaller.
+PicturePtr QtVisualHost::decodeWithin(const std::filesystem::path& file, PixelSize field, double density)
+{
+    if (!std::filesystem::is_regular_file(file)) {
+        throw RuntimeError(ErrorNumber::FileNotFound);
+    }
+    QImageReader reader(toQt(file.u16string()));
+    reader.setAutoTransform(true);
+    QSize size = reader.size();
+    if (!size.isValid()) {
+        return nullptr;
+    }
+    const bool isTurned = (reader.transformation() & QImageIOHandler::TransformationRotate90) != 0;
+    if (isTurned) {
+        size.transpose();
+    }
+    const ShownScale shown =
+        ShownScale::within({double(size.width()), double(size.height())}, field, density);
+    if (shown.isWhole) {
+        return nullptr;
+    }
+    QSize scaled(qMax(1, qRound(shown.size.width * shown.density)),
+                 qMax(1, qRound(shown.size.height * shown.density)));
+    if (isTurned) {
+        scaled.transpose();
+    }
+    reader.setScaledSize(scaled);
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        throw RuntimeError(InvalidPicture, u"Invalid picture");
+    }
+    return pictureOf(image, shown.density);
+}
+
 // The theme gets its colours when the session starts, so that windows are the first to need it.
 void QtVisualHost::useTheme()
 {

@@ -3,6 +3,7 @@
 #include "core/Event.h"
 #include "qt/desktop/PrintPreview.h"
 #include "qt/desktop/QtTextMetrics.h"
+#include "visual/ScaledPicture.h"
 #include "visual/VisualHost.h"
 
 #include <map>
@@ -16,7 +17,7 @@ class DesktopLook;
 class ModalGate;
 
 /// What is seen, on the toolkit. Needs the application object for as long as it lives.
-class QtVisualHost final : public VisualHost
+class QtVisualHost final : public VisualHost, public ScaledDecoder
 {
 public:
     /// `outlet` takes what is printed: each document when it is finished.
@@ -27,6 +28,7 @@ public:
     std::shared_ptr<DrawBackend> createSurface(PixelSize size, double pixelRatio) override;
     double pixelRatio() const override;
     PicturePtr decodePicture(const std::filesystem::path& file, double pixelRatio) override;
+    PicturePtr decodeWithin(const std::filesystem::path& file, PixelSize field, double density) override;
     std::unique_ptr<FormPeer> openWindow(Form& form, bool modal) override;
     void runModal(Form& form) override;
     std::vector<PixelRectangle> screens() const override;
