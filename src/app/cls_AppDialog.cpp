@@ -11,6 +11,7 @@
 #include "core/CoreTextBoxOps.h"
 #include "core/CoreUIFacet.h"
 #include "core/RuntimeError.h"
+#include "dialogs/frm_DialogHelpImages.h"
 #include "dialogs/frm_DialogKeyboard.h"
 
 namespace phial
@@ -73,6 +74,19 @@ String cls_AppDialog::TEXTINPUTDIRECT(const String& pOldValue, const String& pTi
     const ScratchText scratch(pOldValue);
     askFor<frm_DialogKeyboard>(scratch.box(), pTitle);
     return scratch.box()->Text();
+}
+
+Variant cls_AppDialog::HELPIMAGES(const String& pTitle, const String& pFolder,
+                                  const CoreParameters* pMore) const
+{
+    frm_DialogHelpImages form;
+    form.TitleText(pTitle);
+    form.Folder(pFolder);
+    if (pMore) {
+        form.More().Merge(*pMore);
+    }
+    form.Show();
+    return {};
 }
 
 void cls_AppDialog::ABOUT() const

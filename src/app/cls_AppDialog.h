@@ -2,9 +2,12 @@
 
 #include "core/Object.h"
 #include "core/String.h"
+#include "core/Variant.h"
 
 namespace phial
 {
+
+class CoreParameters;
 
 /// The root's dialogs, `QVAPP().DIALOG()`: the one door through which a program asks for a value on a touch
 /// screen. It holds no state: each call makes a fresh form and returns when that has been closed. A form that
@@ -23,6 +26,11 @@ public:
     /// The same for a text without a control, whatever the mode: the new text, or the old one when the user
     /// has given up. It may have several lines, parted by CR LF.
     String TEXTINPUTDIRECT(const String& pOldValue, const String& pTitle) const;
+
+    /// Shows a folder of pictures as a book (see dialogs/frm_DialogHelpImages.h); an empty one is the
+    /// program's own help. With the parameter "DELETE" as True the user may delete pages. Always empty.
+    Variant HELPIMAGES(const String& pTitle, const String& pFolder = {},
+                       const CoreParameters* pMore = nullptr) const;
 
     /// Tells about the program.
     void ABOUT() const;

@@ -2,13 +2,16 @@
 #include "app/cls_AppDialog.h"
 #include "app/cls_Language.h"
 #include "app/screen/frm_Resource.h"
+#include "core/CoreParameters.h"
 #include "core/RuntimeError.h"
 #include "headless/Hand.h"
 #include "visual/Form.h"
 #include "visual/Label.h"
 #include "visual/TextBox.h"
 #include "visual/UserControl.h"
+#include "visual/ctl_Button.h"
 #include "visual/ctl_Label.h"
+#include "visual/ctl_Title.h"
 
 #include <gmock/gmock-more-matchers.h>
 
@@ -103,6 +106,33 @@ TEST_F(AppDialog, TextInputAsksForTheModeAtEachCall)
     EXPECT_TRUE(dialog().TEXTINPUT(box, u""));
     touchMode(false);
     EXPECT_FALSE(dialog().TEXTINPUT(box, u""));
+}
+
+TEST_F(AppDialog, HelpImagesShowsTheFolderAndGivesNothing)
+{
+    makeFile(u"Hilfe\\a.bmp", u"");
+    makeFile(u"Hilfe\\b.bmp", u"");
+    outside.visual().onModal(u"frm_DialogHelpImages", [](Form& help) {
+        EXPECT_EQ(help.control<ctl_Title>(u"bar_Header")->Title(), u"Salze");
+        EXPECT_EQ(help.control<ctl_Title>(u"bar_Header")->TextRight(), u"1 / 2");
+        EXPECT_FALSE(help.control<ctl_Button>(u"but_Delete")->Visible());
+        abort(help);
+    });
+    EXPECT_TRUE(dialog().HELPIMAGES(u"Salze", path(u"Hilfe\\")).isEmpty());
+}
+
+TEST_F(AppDialog, HelpImagesTakesItsOptionsAndTheProgramsOwnHelp)
+{
+    CoreParameters more;
+    more.Set(u"delete", true);
+    QVAPP()->URL()->DATAAPP(path(u"app\\"));
+    makeFile(u"app\\Hilfe\\a.bmp", u"");
+    outside.visual().onModal(u"frm_DialogHelpImages", [](Form& help) {
+        EXPECT_TRUE(help.control<ctl_Button>(u"but_Delete")->Visible());
+        EXPECT_EQ(help.control<ctl_Title>(u"bar_Header")->TextRight(), u"1 / 1");
+        abort(help);
+    });
+    EXPECT_TRUE(dialog().HELPIMAGES(u"", u"", &more).isEmpty());
 }
 
 TEST_F(AppDialog, TextInputWithoutAControlStillAsks)

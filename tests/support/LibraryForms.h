@@ -4,7 +4,9 @@
 #include "app/screen/frm_AppAbout.h"
 #include "app/screen/frm_Fade.h"
 #include "app/screen/frm_Resource.h"
+#include "dialogs/DialogHelpImagesDesign.h"
 #include "dialogs/DialogKeyboardDesign.h"
+#include "dialogs/frm_DialogHelpImages.h"
 #include "dialogs/frm_DialogKeyboard.h"
 #include "media/frm_AppMCI.h"
 #include "media/frm_DialogSound.h"
@@ -52,6 +54,14 @@ inline MadeForm makeHighscore()
     return {made, &made->form()};
 }
 
+/// A help book without pages, whose pages could be deleted.
+inline MadeForm makeHelp()
+{
+    const auto made = std::make_shared<frm_DialogHelpImages>();
+    made->More().Set(u"DELETE", true);
+    return {made, &made->form()};
+}
+
 /// The praise window with a word of praise.
 inline MadeForm makePraise()
 {
@@ -80,6 +90,12 @@ inline std::vector<LibraryForm> libraryForms()
          .data = {u"Molmasse", u"Version 5.1.2", u"(c) Somebody", u"apps\\Molmasse\\"},
          .aborts = true},
         {.name = u"frm_AppMCI", .make = makeLibraryForm<frm_AppMCI>, .pairs = {}, .data = {}, .shown = false},
+        {.name = u"frm_DialogHelpImages",
+         .make = makeHelp,
+         .design = &dialog_help_images_design::Design,
+         .pairs = {},
+         .data = {},
+         .aborts = true},
         {.name = u"frm_DialogHighscore",
          .make = makeHighscore,
          .design = &dialog_highscore_design::Design,

@@ -1,0 +1,201 @@
+#include "dialogs/HelpPages.h"
+
+#include "core/CoreColors.h"
+#include "core/RuntimeError.h"
+#include "visual/ScaledPicture.h"
+#include "visual/VisualHost.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace phial
+{
+
+namespace
+{
+
+/// The colour of a premultiplied pixel; none where it is see-through.
+std::optional<Colour> colourOf(std::uint32_t pixel)
+{
+    constexpr std::uint32_t Opaque = 0xFF;
+    const std::uint32_t alpha = pixel >> 24U;
+    if (alpha == 0) {
+        return std::nullopt;
+    }
+    const auto part = [&](std::uint32_t shift) {
+        return static_cast<int>(std::min(Opaque, ((pixel >> shift) & Opaque) * Opaque / alpha));
+    };
+    return RGB(part(16), part(8), part(0));
+}
+
+/// The index of the pixel, of so many, at a share of their length.
+std::size_t pixelAt(double share, std::size_t count)
+{
+    const auto last = static_cast<double>(count - 1);
+    return static_cast<std::size_t>(std::clamp(std::floor(share * static_cast<double>(count)), 0.0, last));
+}
+
+} // namespace
+
+HelpPages::HelpPages(Form& form, StringView boxes, StringView view)
+    : form_(form), view_(form.control<PictureBox>(view)), boxes_(form, String(boxes))
+{
+    boxes_.adopt();
+    connections_ += boxes_(Current)->Paint.connect([this] { paintEnlarged(); });
+}
+
+PixelSize HelpPages::viewSize() const
+{
+    const PixelRectangle place = view_->frame().pixelRectangle();
+    return {place.width, place.height};
+}
+
+double HelpPages::density() const
+{
+    return visualHost().pixelRatio() * form_.Zoom();
+}
+
+HelpPages::Held HelpPages::held(const String& file) const
+{
+    for (const Held& known : held_) {
+        if (known.picture && known.file == file) {
+            return known;
+        }
+    }
+    Held made{file, nullptr};
+    if (!file.empty()) {
+        ignoringErrors([&] { made.picture = LoadPictureWithin(file, viewSize(), density()); });
+    }
+    return made;
+}
+
+void HelpPages::show(const String& before, const String& current, const String& next)
+{
+    held_ = {held(before), held(current), held(next)};
+    fine_ = nullptr;
+    for (std::int32_t index = Before; index <= Next; ++index) {
+        const auto& picture = held_.at(static_cast<std::size_t>(index)).picture;
+        boxes_(index)->PaintedPart(std::nullopt);
+        boxes_(index)->Picture(picture);
+        boxes_(index)->Visible(picture != nullptr);
+    }
+    showWhole();
+}
+
+void HelpPages::showMap(const String& file)
+{
+    if (map_.file == file && map_.picture) {
+        return;
+    }
+    map_ = {file, nullptr};
+    if (!file.empty()) {
+        ignoringErrors([&] { map_.picture = LoadPicture(file); });
+    }
+    boxes_(Map)->Picture(map_.picture);
+}
+
+void HelpPages::forget()
+{
+    held_ = {};
+    map_ = {};
+    fine_ = nullptr;
+}
+
+void HelpPages::place(std::int32_t index, double offset)
+{
+    const auto& picture = held_.at(static_cast<std::size_t>(index)).picture;
+    if (picture) {
+        const PixelSize view = viewSize();
+        const PixelSize size = picture->size();
+        boxes_(index)->frame().pixelRectangle({std::floor((view.width - size.width) / 2) + std::round(offset),
+                                               std::floor((view.height - size.height) / 2), size.width,
+                                               size.height});
+    }
+}
+
+void HelpPages::lay(double offset)
+{
+    const double width = viewSize().width;
+    place(Before, offset - width);
+    if (!zoom_.isEnlarged()) {
+        place(Current, offset);
+    }
+    place(Next, offset + width);
+}
+
+void HelpPages::showWhole()
+{
+    const PicturePtr picture = this->picture();
+    const bool wasEnlarged = zoom_.isEnlarged();
+    zoom_.reset(picture ? picture->size() : PixelSize{}, viewSize());
+    if (wasEnlarged) {
+        layZoom();
+    }
+    lay(0);
+}
+
+void HelpPages::enlarge(double by, PixelPoint at)
+{
+    if (picture()) {
+        zoom_.enlarge(by, at);
+    }
+}
+
+void HelpPages::move(double x, double y)
+{
+    if (zoom_.isEnlarged()) {
+        zoom_.move(x, y);
+    }
+}
+
+/// An enlarged page is drawn as far as it is seen, from its finest picture.
+void HelpPages::layZoom()
+{
+    PictureBox& box = *boxes_(Current);
+    if (!zoom_.isEnlarged()) {
+        fine_ = nullptr;
+        box.PaintedPart(std::nullopt);
+        box.Picture(picture());
+        lay(0);
+        return;
+    }
+    if (!fine_) {
+        fine_ = picture();
+        ignoringErrors(
+            [&] { fine_ = LoadPictureWithin(held_[Current].file, viewSize(), density() * PageZoom::Most); });
+    }
+    box.Picture(nullptr);
+    box.frame().pixelRectangle(zoom_.place());
+    box.PaintedPart(zoom_.seenPart());
+    box.Refresh();
+}
+
+void HelpPages::paintEnlarged()
+{
+    if (zoom_.isEnlarged() && fine_) {
+        PictureBox& box = *boxes_(Current);
+        const PixelRectangle part = box.PaintedPart();
+        const PixelRectangle place = zoom_.place();
+        box.device().PaintPicture(fine_, -part.left, -part.top, place.width, place.height);
+    }
+}
+
+String HelpPages::mapColourAt(PixelPoint point) const
+{
+    const PixelRectangle page = zoom_.place();
+    if (!map_.picture || !picture() || !page.contains(point)) {
+        return {};
+    }
+    const Picture& map = *map_.picture;
+    const auto colour = colourOf(map.at(pixelAt((point.x - page.left) / page.width, map.columns()),
+                                        pixelAt((point.y - page.top) / page.height, map.rows())));
+    return colour ? CoreColors::ToHtml(*colour) : String();
+}
+
+PixelPoint HelpPages::inView(PictureBox& page, const PointerEvent& event)
+{
+    const PixelRectangle place = page.frame().pixelRectangle();
+    return {place.left + event.X, place.top + event.Y};
+}
+
+} // namespace phial

@@ -1,0 +1,149 @@
+#include "DesktopSession.h"
+#include "app/Session.h"
+#include "dialogs/frm_DialogHelpImages.h"
+#include "visual/ScaledPicture.h"
+
+#include <QImage>
+#include <QPointingDevice>
+#include <QTest>
+
+using namespace phial;
+using namespace phial::qt;
+
+namespace
+{
+
+/// A help book of real pictures in a real window.
+class HelpWindowTest : public DesktopTest<Session>
+{
+protected:
+    String put(const char* name, QSize size, const char* format = "BMP", QColor colour = Qt::white)
+    {
+        const auto file = folder().native() / name;
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(colour);
+        EXPECT_TRUE(image.save(QString::fromStdU16String(file.u16string()), format));
+        return folder().path() + fromUtf8(name);
+    }
+    void open()
+    {
+        dialog_.Folder(folder().path());
+        form_.Show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&widgetOf(form_)));
+    }
+    QWidget& view() { return widgetOf(*form_.control<PictureBox>(u"pic_ViewHolder")); }
+    PictureBox& page() { return *form_.control<PictureBox>(u"pic_Viewer", 1); }
+    /// The slide's time is up.
+    bool turnsTo(std::int32_t page)
+    {
+        outside().clock().advance(1);
+        return eventually([this, page] { return dialog_.Page() == page; });
+    }
+    auto touch() { return QTest::touchEvent(view().window(), device_); }
+    QPoint inWindow(int x, int y) { return view().mapTo(view().window(), QPoint(x, y)); }
+
+    frm_DialogHelpImages dialog_;
+    Form& form_ = dialog_.form();
+    QPointingDevice* device_ = QTest::createTouchDevice();
+};
+
+TEST_F(HelpWindowTest, ALargePictureIsReadNoFinerThanItIsShown)
+{
+    const String file = put("photo.jpg", {2000, 1000}, "JPG");
+    const PicturePtr coarse = LoadPictureWithin(file, {500, 500}, 1);
+    EXPECT_EQ(coarse->columns(), 500U);
+    EXPECT_EQ(coarse->rows(), 250U);
+    const PicturePtr fine = LoadPictureWithin(file, {500, 500}, 2);
+    EXPECT_EQ(fine->columns(), 1000U);
+    EXPECT_EQ(fine->size(), (PixelSize{500, 250}));
+    const PicturePtr finest = LoadPictureWithin(file, {500, 500}, 16);
+    EXPECT_EQ(finest->columns(), 2000U);
+    EXPECT_EQ(finest->size(), (PixelSize{500, 250}));
+}
+
+TEST_F(HelpWindowTest, ASmallPictureIsReadAsItIs)
+{
+    const PicturePtr picture = LoadPictureWithin(put("small.bmp", {60, 40}), {500, 500}, 2);
+    EXPECT_EQ(picture->size(), (PixelSize{60, 40}));
+    EXPECT_EQ(picture->pixelRatio(), 1);
+}
+
+TEST_F(HelpWindowTest, WhatIsNoPictureRaisesItsError)
+{
+    folder().write("broken.gif", "GIF89a");
+    folder().write("empty.jpg", "");
+    for (const StringView name : {u"broken.gif", u"empty.jpg", u"missing.bmp"}) {
+        EXPECT_THROW(LoadPictureWithin(folder().path() + String(name), {500, 500}, 1), RuntimeError)
+            << toUtf8(name);
+    }
+}
+
+TEST_F(HelpWindowTest, PagesAreSwipedByTheMouse)
+{
+    put("1.bmp", {600, 300});
+    put("2.jpg", {4000, 3000}, "JPG");
+    folder().write("3.gif", "no picture");
+    open();
+    QTest::mousePress(&view(), Qt::LeftButton, {}, {800, 100});
+    for (int x = 750; x >= 300; x -= 50) {
+        QTest::mouseMove(&view(), {x, 100});
+    }
+    EXPECT_EQ(page().Left(), 200 - 500);
+    QTest::mouseRelease(&view(), Qt::LeftButton, {}, {300, 100});
+    EXPECT_TRUE(turnsTo(2));
+    EXPECT_TRUE(page().Visible());
+    EXPECT_FALSE(form_.control<PictureBox>(u"pic_Viewer", 2)->Visible());
+}
+
+TEST_F(HelpWindowTest, PagesAreSwipedByAFingerOnThePage)
+{
+    put("1.bmp", {900, 400});
+    put("2.bmp", {900, 400});
+    open();
+    touch().press(1, inWindow(700, 200));
+    for (int x = 650; x >= 200; x -= 50) {
+        touch().move(1, inWindow(x, 200));
+    }
+    EXPECT_EQ(page().Left(), 50 - 500);
+    touch().release(1, inWindow(200, 200));
+    EXPECT_TRUE(turnsTo(2));
+}
+
+TEST_F(HelpWindowTest, TwoFingersEnlargeThePage)
+{
+    put("1.bmp", {900, 400});
+    put("2.bmp", {900, 400});
+    open();
+    touch().press(1, inWindow(450, 200)).press(2, inWindow(550, 200));
+    touch().move(1, inWindow(400, 200)).move(2, inWindow(600, 200));
+    touch().release(1, inWindow(400, 200)).release(2, inWindow(600, 200));
+    EXPECT_TRUE(eventually([this] { return page().Width() > 900; }));
+    EXPECT_NEAR(page().Width(), 1800, 1);
+    EXPECT_EQ(dialog_.Page(), 1);
+    const QImage seen = view().grab().toImage();
+    EXPECT_EQ(seen.pixelColor(5, 5), QColor(Qt::white)) << "the page fills the view";
+}
+
+TEST_F(HelpWindowTest, ATapOnTheMenuOpensItsChapter)
+{
+    put("menu.bmp", {400, 200});
+    put("menu_choice.bmp", {100, 50}, "PNG", QColor(0, 255, 0));
+    std::filesystem::rename(folder().native() / "menu_choice.bmp", folder().native() / "menu_choice.gif");
+    folder().write("K3/1.gif", "no picture");
+    open();
+    QTest::mouseClick(&widgetOf(page()), Qt::LeftButton, {}, {390, 190});
+    EXPECT_EQ(dialog_.Folder(), folder().path() + u"K3\\");
+}
+
+TEST_F(HelpWindowTest, KeysTurnThePages)
+{
+    put("1.bmp", {400, 200});
+    put("2.bmp", {400, 200});
+    open();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    EXPECT_EQ(dialog_.Page(), 2);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+    EXPECT_TRUE(turnsTo(1));
+}
+
+} // namespace
