@@ -69,8 +69,18 @@ HelpPages::Held HelpPages::held(const String& file) const
     return made;
 }
 
+void HelpPages::dropUnfitting()
+{
+    if (heldFor_ != viewSize() || heldDensity_ != density()) {
+        held_ = {};
+        heldFor_ = viewSize();
+        heldDensity_ = density();
+    }
+}
+
 void HelpPages::show(const String& before, const String& current, const String& next)
 {
+    dropUnfitting();
     held_ = {held(before), held(current), held(next)};
     fine_ = nullptr;
     for (std::int32_t index = Before; index <= Next; ++index) {

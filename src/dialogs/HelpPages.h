@@ -22,7 +22,8 @@ public:
     /// Takes up the picture boxes and what holds them.
     HelpPages(Form& form, StringView boxes, StringView view);
 
-    /// The files of the three pages, empty for none. Pictures that are held already are not read again.
+    /// The files of the three pages, empty for none. Pictures that are held already are not read again,
+    /// unless the view has another size now or is shown finer.
     void show(const String& before, const String& current, const String& next);
     /// The file of the map; empty for none.
     void showMap(const String& file);
@@ -63,6 +64,7 @@ private:
     };
 
     Held held(const String& file) const;
+    void dropUnfitting();
     double density() const;
     void place(std::int32_t index, double offset);
     void paintEnlarged();
@@ -72,6 +74,8 @@ private:
     ControlArray<PictureBox> boxes_;
     std::array<Held, Pages> held_;
     Held map_;
+    PixelSize heldFor_; ///< the view for which the pictures were read, and how fine
+    double heldDensity_ = 0;
     PicturePtr fine_; ///< the picture in view with all the pixels that an enlarged one can show
     PageZoom zoom_;
     Connections connections_;

@@ -166,7 +166,6 @@ void frm_DialogHelpImages::layOut()
         .pixelRectangle({0, HeaderHeight, inner.width, std::max(1.0, stripTop - HeaderHeight - StripGap)});
     if (isLoaded_) {
         finishSlide();
-        pages_.forget();
         makeStrip();
         showPage();
     }

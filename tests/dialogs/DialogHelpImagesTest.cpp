@@ -247,6 +247,19 @@ TEST_F(DialogHelpImages, KeepsThePicturesThatItStillShows)
     EXPECT_TRUE(page(0).Picture());
 }
 
+/// Each reading of a large picture makes another one.
+TEST_F(DialogHelpImages, ReadsAPictureOnceForAsLongAsTheViewKeepsItsSize)
+{
+    put("01.gif", {2000, 400});
+    open();
+    const PicturePtr wide = page(1).Picture();
+    form.Resize.emit();
+    EXPECT_EQ(page(1).Picture(), wide);
+    form.innerSize({900, 560});
+    EXPECT_EQ(page(1).Width(), 900);
+    EXPECT_NE(page(1).Picture(), wide);
+}
+
 TEST_F(DialogHelpImages, TurnsBySwipesOfMoreThanAThird)
 {
     putPages(3);
