@@ -49,12 +49,6 @@ PixelRectangle areaAt(PixelPoint corner, PixelSize keyboard)
     return {corner.x, corner.y, keyboard.width, keyboard.height};
 }
 
-bool overlaps(const PixelRectangle& one, const PixelRectangle& other)
-{
-    return one.left < other.right() && other.left < one.right() && one.top < other.bottom() &&
-           other.top < one.bottom();
-}
-
 /// Wholly on the screen, without a margin.
 double broughtWithin(double start, double length, Span screen)
 {
@@ -69,7 +63,7 @@ std::optional<PixelPoint> placeLeft(const Opening& opening, PixelSize keyboard, 
     }
     const PixelPoint middle{opening.left->x + keyboard.width / 2, opening.left->y + keyboard.height / 2};
     const PixelPoint corner = inBoth(broughtWithin, *opening.left, keyboard, screen);
-    const bool hides = opening.target && overlaps(areaAt(corner, keyboard), *opening.target);
+    const bool hides = opening.target && areaAt(corner, keyboard).meets(*opening.target);
     return screen.contains(middle) && !hides ? std::optional(corner) : std::nullopt;
 }
 

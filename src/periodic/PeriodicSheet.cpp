@@ -156,9 +156,7 @@ void PeriodicSheet::paintTilesOn(DrawDevice& device, std::size_t cell) const
 {
     const PixelRectangle& area = cells_[cell].painted.area;
     for (const std::int32_t slot : tilesFromBelow()) {
-        const PixelRectangle& tile = tiles.at(slot).area;
-        if (tile.left < area.right() && tile.right() > area.left && tile.top < area.bottom() &&
-            tile.bottom() > area.top) {
+        if (tiles.at(slot).area.meets(area)) {
             paintTile(device, slot);
         }
     }

@@ -2,8 +2,17 @@
 
 #include "core/RuntimeError.h"
 
+#include <algorithm>
+
 namespace phial
 {
+
+PixelRectangle PixelRectangle::united(const PixelRectangle& other) const
+{
+    const PixelPoint corner{std::min(left, other.left), std::min(top, other.top)};
+    return {corner.x, corner.y, std::max(right(), other.right()) - corner.x,
+            std::max(bottom(), other.bottom()) - corner.y};
+}
 
 double unitsPerPixel(ScaleUnit unit)
 {

@@ -38,6 +38,13 @@ struct PixelRectangle {
     {
         return point.x >= left && point.x < right() && point.y >= top && point.y < bottom();
     }
+    /// Whether both have a point in common; edges that touch have none.
+    bool meets(const PixelRectangle& other) const
+    {
+        return left < other.right() && other.left < right() && top < other.bottom() && other.top < bottom();
+    }
+    /// The smallest one that holds both.
+    PixelRectangle united(const PixelRectangle& other) const;
     friend bool operator==(const PixelRectangle&, const PixelRectangle&) = default;
 };
 
