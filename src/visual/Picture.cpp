@@ -27,11 +27,20 @@ std::size_t heldPixels(double edge, double ratio)
     return static_cast<std::size_t>(std::max(pixels, 1.0));
 }
 
-void checkSize(PixelSize size, double ratio)
+std::size_t heldPixels(std::size_t columns, std::size_t rows)
+{
+    if (columns > Picture::MaximumPixels / rows) {
+        throw RuntimeError(ErrorNumber::InvalidArgument);
+    }
+    return columns * rows;
+}
+
+PixelSize checkedSize(PixelSize size, double ratio)
 {
     if (!(size.width >= 0 && size.height >= 0 && ratio > 0)) {
         throw RuntimeError(ErrorNumber::InvalidArgument);
     }
+    return size;
 }
 
 constexpr int FinestRatio = 3;
@@ -80,15 +89,10 @@ struct Picture::FinerVersions {
     }
 };
 
-Picture::Picture(PixelSize size, double pixelRatio) : size_(size), ratio_(pixelRatio)
+Picture::Picture(PixelSize size, double pixelRatio)
+    : size_(checkedSize(size, pixelRatio)), ratio_(pixelRatio), columns_(heldPixels(size.width, pixelRatio)),
+      rows_(heldPixels(size.height, pixelRatio)), memory_(heldPixels(columns_, rows_))
 {
-    checkSize(size, pixelRatio);
-    columns_ = heldPixels(size.width, pixelRatio);
-    rows_ = heldPixels(size.height, pixelRatio);
-    if (columns_ > MaximumPixels / rows_) {
-        throw RuntimeError(ErrorNumber::InvalidArgument);
-    }
-    pixels_.resize(columns_ * rows_);
 }
 
 std::uint32_t Picture::at(std::size_t column, std::size_t row) const
@@ -96,7 +100,7 @@ std::uint32_t Picture::at(std::size_t column, std::size_t row) const
     if (column >= columns_ || row >= rows_) {
         throw RuntimeError(ErrorNumber::IndexOutOfBounds);
     }
-    return pixels_[row * columns_ + column];
+    return pixels()[row * columns_ + column];
 }
 
 bool Picture::isSeeThrough(PixelPoint point) const
@@ -121,7 +125,7 @@ const Picture& Picture::versionFor(double density) const
         return *this;
     }
     if (!finer_->isTorn) {
-        finer_->isTorn = hasHardEdges(pixels_);
+        finer_->isTorn = hasHardEdges(pixels());
     }
     if (density <= ratio_ && !*finer_->isTorn) {
         return *this;

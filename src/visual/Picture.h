@@ -2,12 +2,12 @@
 
 #include "core/Object.h"
 #include "visual/Geometry.h"
+#include "visual/PixelMemory.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <span>
-#include <vector>
 
 namespace phial
 {
@@ -40,8 +40,8 @@ public:
     /// In pixels held.
     std::size_t columns() const { return columns_; }
     std::size_t rows() const { return rows_; }
-    std::span<const std::uint32_t> pixels() const { return pixels_; }
-    std::span<std::uint32_t> pixels() { return pixels_; }
+    std::span<const std::uint32_t> pixels() const { return memory_.pixels(); }
+    std::span<std::uint32_t> pixels() { return memory_.pixels(); }
     /// The pixel held at that column and row; raises 9 outside.
     std::uint32_t at(std::size_t column, std::size_t row) const;
 
@@ -70,7 +70,7 @@ private:
     double ratio_;
     std::size_t columns_;
     std::size_t rows_;
-    std::vector<std::uint32_t> pixels_;
+    PixelMemory memory_;
     std::shared_ptr<FinerVersions> finer_; ///< null without any; shared by copies
 };
 
