@@ -42,12 +42,6 @@ PixelRectangle areaOfAll(std::span<const KeyDesign> keys)
     return {left, top, right - left, bottom - top};
 }
 
-bool meet(const PixelRectangle& one, const PixelRectangle& other)
-{
-    return one.left < other.right() && other.left < one.right() && one.top < other.bottom() &&
-           other.top < one.bottom();
-}
-
 /// Where the key is itself and no notch.
 bool covers(const KeyLook& look, PixelPoint point)
 {
@@ -198,17 +192,26 @@ std::vector<std::size_t> KeySheet::changes()
 
 void KeySheet::repaint(std::span<const std::size_t> stale)
 {
-    DrawDevice& device = surface_.device();
-    for (const std::size_t at : stale) {
-        const PixelRectangle& area = looks_[at].area;
-        device.Line(area.left, area.top, area.right() - 1, area.bottom() - 1, surface_.BackColor(),
-                    LineShape::Filled);
-    }
+    std::vector<const KeyLook*> painted;
+    PixelRectangle area = looks_.at(stale.front()).area;
     for (const KeyLook& look : looks_) {
-        if (std::ranges::any_of(stale, [&](std::size_t at) { return meet(look.area, looks_[at].area); })) {
-            painter_.paint(device, look);
+        const auto meetsLook = [&](std::size_t at) { return look.area.meets(looks_[at].area); };
+        if (std::ranges::any_of(stale, meetsLook)) {
+            painted.push_back(&look);
+            area = area.united(look.area);
         }
     }
+    surface_.drawWithin(area, [&] {
+        DrawDevice& device = surface_.device();
+        for (const std::size_t at : stale) {
+            const PixelRectangle& erased = looks_[at].area;
+            device.Line(erased.left, erased.top, erased.right() - 1, erased.bottom() - 1,
+                        surface_.BackColor(), LineShape::Filled);
+        }
+        for (const KeyLook* look : painted) {
+            painter_.paint(device, *look);
+        }
+    });
 }
 
 } // namespace phial

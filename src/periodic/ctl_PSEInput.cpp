@@ -147,8 +147,10 @@ void ctl_PSE::hover(std::shared_ptr<cls_DataElement> element)
 void ctl_PSE::repaintCellOf(const cls_DataElement* element)
 {
     if (const auto cell = sheet_.cellOf(element)) {
-        sheet_.paintCell(surface_.device(), *cell, element == hover_.get());
-        sheet_.paintTilesOn(surface_.device(), *cell);
+        surface_.drawWithin(sheet_.cells()[*cell].painted.area, [&] {
+            sheet_.paintCell(surface_.device(), *cell, element == hover_.get());
+            sheet_.paintTilesOn(surface_.device(), *cell);
+        });
     }
 }
 
@@ -188,10 +190,13 @@ void ctl_PSE::moveTile(PixelPoint pointer)
         device.Cls();
         sheet_.paint(device, nullptr, *slot);
         ground_ = device.Image()->copy();
-    } else {
-        device.PaintPicture(ground_, before, before.left, before.top, before.width, before.height);
+        sheet_.paintTile(device, *slot);
+        return;
     }
-    sheet_.paintTile(device, *slot);
+    surface_.drawWithin(before.united(sheet_.tiles.at(*slot).area), [&] {
+        device.PaintPicture(ground_, before, before.left, before.top, before.width, before.height);
+        sheet_.paintTile(device, *slot);
+    });
 }
 
 void ctl_PSE::releaseTile(const PointerEvent& event)

@@ -100,6 +100,41 @@ void PaintSurface::invalidate()
     report();
 }
 
+void PaintSurface::drawWithin(const PixelRectangle& area, const std::function<void()>& drawing)
+{
+    if (isDrawingPart_) {
+        drawing(); // the outer area covers it
+        return;
+    }
+    isDrawingPart_ = true;
+    hasDrawnPart_ = false;
+    try {
+        drawing();
+    } catch (...) {
+        isDrawingPart_ = false;
+        report();
+        throw;
+    }
+    isDrawingPart_ = false;
+    if (hasDrawnPart_ && !painting_ && !reported_) {
+        reportPart(area);
+    }
+}
+
+void PaintSurface::reportPart(const PixelRectangle& area)
+{
+    const PixelRectangle part = imagedPart();
+    changed_ = {part.left + area.left, part.top + area.top, area.width, area.height};
+    control_.frame().report(ControlAspect::Picture);
+    changed_.reset();
+}
+
+PixelRectangle PaintSurface::changedPart() const
+{
+    const PixelSize all = size();
+    return changed_.value_or(PixelRectangle{0, 0, all.width, all.height});
+}
+
 void PaintSurface::forgetImage()
 {
     if (!retains_ && !painting_) {
@@ -181,7 +216,11 @@ std::shared_ptr<DrawBackend> PaintSurface::openBackend()
 void PaintSurface::drawn()
 {
     isDrawnUpon_ = isDrawnUpon_ || !painting_;
-    report();
+    if (isDrawingPart_) {
+        hasDrawnPart_ = true;
+    } else {
+        report();
+    }
 }
 
 void PaintSurface::report()

@@ -3,6 +3,7 @@
 #include "visual/Container.h"
 #include "visual/DrawDevice.h"
 
+#include <functional>
 #include <optional>
 
 namespace phial
@@ -34,6 +35,11 @@ public:
     void imagedPart(std::optional<PixelRectangle> value);
     /// The control is painted anew when its image is next needed.
     void invalidate();
+    /// Draws what changes nothing outside of that area (in pixels of the image), so that no more of the
+    /// control need be shown anew.
+    void drawWithin(const PixelRectangle& area, const std::function<void()>& drawing);
+    /// For an adapter that is told of another picture: what of the control (in its pixels) has changed.
+    PixelRectangle changedPart() const;
     /// Gives the image's memory back while the control is not seen; a control that keeps what is drawn keeps
     /// it.
     void forgetImage();
@@ -68,6 +74,7 @@ private:
     std::shared_ptr<DrawBackend> openBackend() override;
     void drawn() override;
     void report();
+    void reportPart(const PixelRectangle& area);
     PixelSize imageSize() const;
     void remake(double pixelRatio);
     void followTheme();
@@ -78,10 +85,13 @@ private:
     std::shared_ptr<DrawBackend> backend_;
     std::optional<PixelRectangle> part_; ///< none: everything
     PixelSize madeFor_;
-    double ratio_ = 0; ///< 0: not known yet
+    double ratio_ = 0;                      ///< 0: not known yet
+    std::optional<PixelRectangle> changed_; ///< set while a change of this part alone is told
     bool painting_ = false;
     bool painted_ = false;
-    bool reported_ = false;
+    bool reported_ = false; ///< that everything has changed
+    bool isDrawingPart_ = false;
+    bool hasDrawnPart_ = false;
     bool retains_ = false;
     bool isDrawnUpon_ = false;    ///< by others than `paint`
     std::uint32_t paintedIn_ = 0; ///< the theme's count of changes then

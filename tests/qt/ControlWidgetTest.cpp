@@ -184,6 +184,22 @@ TEST_F(ControlWidgetTest, NothingIsPaintedBelowAControlThatCoversIt)
     EXPECT_EQ(grabbed(below, 1).pixelColor(15, 15), QColor(0, 0, 255));
 }
 
+TEST_F(ControlWidgetTest, OnlyThePartThatHasChangedIsPaintedAgain)
+{
+    Below below; // seen through the control
+    below.resize(60, 40);
+    const auto box = pictureBox(20 * TwipsPerPixel, 10 * TwipsPerPixel);
+    box->transparent(true);
+    auto* widget = new ControlWidget(box, &below);
+    widget->setGeometry(10, 10, 20, 10);
+    below.show();
+    QApplication::processEvents();
+    below.painted = {};
+    box->surface().drawWithin({3, 2, 4.5, 5}, [&] { box->surface().device().Line(3, 2, 6, 6, QBColor(12)); });
+    QApplication::processEvents();
+    EXPECT_EQ(below.painted, QRegion(13, 12, 5, 5)) << "to the next whole pixel";
+}
+
 TEST_F(ControlWidgetTest, AControlThatCoversAllIsPaintedToItsRoundedEdges)
 {
     Below below;

@@ -2,6 +2,7 @@
 
 #include "core/Palette.h"
 #include "core/SessionState.h"
+#include "support/Raises.h"
 #include "visual/FormTest.h"
 #include "visual/PictureBox.h"
 #include "visual/Shape.h"
@@ -117,6 +118,81 @@ TEST_F(PaintedControls, WhatIsDrawnIsReportedOnceUntilItIsFetched)
     box->surface().image(1);
     box->device().PSet(3, 3);
     EXPECT_EQ(peer.heardOf(ControlAspect::Picture), 2);
+}
+
+/// Notes which part has changed whenever the model reports one.
+class PartPeer final : public ControlPeer
+{
+public:
+    explicit PartPeer(UserControl& control) : control_(control) { control.frame().peer(this); }
+    ~PartPeer() override { control_.frame().peer(nullptr); }
+    PartPeer(const PartPeer&) = delete;
+    PartPeer& operator=(const PartPeer&) = delete;
+
+    void modelChanged(ControlAspect aspect) override
+    {
+        if (aspect == ControlAspect::Picture) {
+            changed.push_back(control_.surface().changedPart());
+        }
+    }
+
+    std::vector<PixelRectangle> changed;
+
+private:
+    UserControl& control_;
+};
+
+const PixelRectangle AllOfTheBox{0, 0, 20, 10};
+
+TEST_F(PaintedControls, OnlyThePartThatIsDrawnInIsReported)
+{
+    box->surface().image(1);
+    PartPeer peer(*box);
+    const PixelRectangle one{2, 3, 4, 5};
+    const PixelRectangle other{8, 0, 2, 2};
+    box->surface().drawWithin(one, [&] { box->device().Line(2, 3, 5, 7, QBColor(12)); });
+    box->surface().drawWithin(other, [&] { box->device().Line(8, 0, 9, 1, QBColor(12)); });
+    box->surface().drawWithin({0, 0, 1, 1}, [] {}); // nothing was drawn
+    EXPECT_THAT(peer.changed, ElementsAre(one, other)) << "each one, fetched or not";
+    box->device().Cls();
+    box->surface().drawWithin(one, [&] { box->device().Line(2, 3, 5, 7, QBColor(12)); });
+    EXPECT_THAT(peer.changed, ElementsAre(one, other, AllOfTheBox)) << "all of it has been told";
+}
+
+TEST_F(PaintedControls, AllOfItHasChangedWhenAPartWasDrawnAndTheRestIsPaintedAnew)
+{
+    box->AutoRedraw(false);
+    box->surface().image(1);
+    PartPeer peer(*box);
+    box->surface().drawWithin({1, 1, 2, 2}, [&] {
+        box->device().Line(1, 1, 2, 2, QBColor(12));
+        box->surface().invalidate();
+    });
+    EXPECT_THAT(peer.changed, ElementsAre(AllOfTheBox));
+    EXPECT_EQ(box->surface().changedPart(), AllOfTheBox) << "asked for at another time";
+}
+
+TEST_F(PaintedControls, DrawingInAPartThatFailsHasChangedEverything)
+{
+    box->surface().image(1);
+    PartPeer peer(*box);
+    const PixelRectangle part{1, 1, 2, 2};
+    EXPECT_RAISES(box->surface().drawWithin(part, [] { throw RuntimeError(ErrorNumber::InvalidArgument); }),
+                  InvalidArgument);
+    box->surface().image(1);
+    box->surface().drawWithin(part, [&] { box->device().Line(1, 1, 2, 2, QBColor(12)); });
+    EXPECT_THAT(peer.changed, ElementsAre(AllOfTheBox, part));
+}
+
+TEST_F(PaintedControls, AChangedPartCountsFromTheControlsCornerWhereOneSectionIsShown)
+{
+    box->AutoRedraw(false);
+    box->Height(15 * 1000);
+    box->PaintedPart(PixelRectangle{0, 500, 20, 10});
+    box->surface().image(1);
+    PartPeer peer(*box);
+    box->surface().drawWithin({2, 3, 4, 5}, [&] { box->device().Line(2, 3, 5, 7, QBColor(12)); });
+    EXPECT_THAT(peer.changed, ElementsAre(PixelRectangle{2, 503, 4, 5}));
 }
 
 TEST_F(PaintedControls, AnotherSetOfColoursPaintsWhatIsShownAnew)

@@ -127,7 +127,7 @@ void ControlWidget::modelChanged(ControlAspect aspect)
     switch (aspect) {
     case ControlAspect::Picture:
         followOpacity();
-        update();
+        update(zoomed(control_->surface().changedPart(), *control_).toAlignedRect());
         if (control_->surface().MaskPicture()) {
             tellShape(*this);
         }
