@@ -151,6 +151,28 @@ TEST_P(FocusRingTest, SurroundsFields)
     expectRing(placeOf(widgetOf(*with(page))));
 }
 
+/// What the window has on the screen, which is painted piece by piece while somebody types.
+TEST_P(FocusRingTest, TypingInAFieldLeavesItAsItIsPaintedAtOnce)
+{
+    const auto seen = [this] {
+        QApplication::processEvents();
+        QWidget& window = widgetOf(*form_);
+        return window.screen()->grabWindow(window.winId()).toImage();
+    };
+    QApplication::setCursorFlashTime(0);
+    const auto field = with<TextBox>();
+    const QImage empty = seen();
+    field->frame().Move(20, 20, 200, 100); // lets the ring and the field go another way
+    field->frame().Move(60, 50, 120, 60);
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Word"));
+    const QImage typed = seen();
+    widgetOf(*form_).update();
+    QApplication::focusWidget()->update();
+    const QImage atOnce = seen();
+    EXPECT_NE(typed, empty);
+    EXPECT_EQ(typed, atOnce);
+}
+
 TEST_P(FocusRingTest, SurroundsRichText)
 {
     expectRing(placeOf(widgetOf(*with<RichTextBox>())));

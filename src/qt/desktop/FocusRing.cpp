@@ -12,6 +12,7 @@
 #include <QFocusFrame>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 
@@ -71,9 +72,13 @@ public:
     }
 
 protected:
-    void paintEvent(QPaintEvent* /*event*/) override
+    void paintEvent(QPaintEvent* event) override
     {
         const QRectF outer = outer_.translated(-pos());
+        const double rim = line_ + gap_ + radius_;
+        if (outer.adjusted(rim, rim, -rim, -rim).contains(event->rect())) {
+            return; // what the ring surrounds has been painted, as when a character is typed
+        }
         const double gapRadius = radius_ > 0 ? radius_ + gap_ : 0;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);

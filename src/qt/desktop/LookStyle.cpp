@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialog>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -52,9 +53,21 @@ QPen edgePen(Colour colour, double zoom)
     return {toQColor(colour), EdgeWidth * zoom, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
+/// Whether only what lies inside the edge is painted now, as when a character is typed into a field.
+bool isPaintedWithin(const QPainter& painter, const QRectF& area)
+{
+    const QRect painted = painter.paintEngine()->systemClip().boundingRect();
+    return !painted.isEmpty() && area.contains(painter.deviceTransform().inverted().mapRect(QRectF(painted)));
+}
+
 /// A field or the like: its ground, with the edge of controls around it.
 void paintBox(QPainter& painter, const QRect& area, const QColor& ground, bool enabled, double zoom)
 {
+    const double rim = (EdgeWidth + FieldRadius) * zoom;
+    if (isPaintedWithin(painter, QRectF(area).adjusted(rim, rim, -rim, -rim))) {
+        painter.fillRect(area, ground);
+        return;
+    }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(ground);
