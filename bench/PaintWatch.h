@@ -24,6 +24,9 @@ public:
         QApplication::processEvents();
     }
 
+    /// Ends the windows that have been closed, which otherwise stay until the benchmark is over.
+    static void endClosed() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
 private:
     bool eventFilter(QObject* watched, QEvent* event) override
     {

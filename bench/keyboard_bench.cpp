@@ -43,7 +43,11 @@ public:
         keyboard.TargetControl(target);
         keyboard.form().Show(); // not modal, so that the benchmark goes on
     }
-    ~ShownKeyboard() { keyboard.form().Unload(); }
+    ~ShownKeyboard()
+    {
+        keyboard.form().Unload();
+        PaintWatch::endClosed();
+    }
     ShownKeyboard(const ShownKeyboard&) = delete;
     ShownKeyboard& operator=(const ShownKeyboard&) = delete;
 
@@ -90,7 +94,11 @@ public:
             labels.push_back(label);
         }
     }
-    ~KeysAsControls() { form->discard(); }
+    ~KeysAsControls()
+    {
+        form->discard();
+        PaintWatch::endClosed();
+    }
     KeysAsControls(const KeysAsControls&) = delete;
     KeysAsControls& operator=(const KeysAsControls&) = delete;
 

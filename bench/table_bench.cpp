@@ -58,7 +58,11 @@ public:
         table->Move(0, 0, size.width, size.height);
         table->LOAD(elementFile());
     }
-    ~TableOnForm() { form->discard(); }
+    ~TableOnForm()
+    {
+        form->discard();
+        PaintWatch::endClosed();
+    }
     TableOnForm(const TableOnForm&) = delete;
     TableOnForm& operator=(const TableOnForm&) = delete;
 
