@@ -511,4 +511,68 @@ TEST_F(NativeControlsTest, DisabledAndHiddenFollowTheModel)
     EXPECT_FALSE(widgetOf(*field).isVisible());
 }
 
+TEST_F(NativeControlsTest, WhatTheProgramEditsInAFieldCanBeUndone)
+{
+    for (const bool several : {false, true}) {
+        const auto box = shown<TextBox>(several ? u"txt_Page" : u"txt_Line");
+        box->MultiLine(several);
+        QWidget& field = *widgetOf(*box).focusProxy();
+        QTest::keyClicks(&field, "abc");
+        box->SelStart(1);
+        box->SelLength(1);
+        box->SelText(u"xyz");
+        EXPECT_EQ(box->Text(), u"axyzc");
+        EXPECT_EQ(box->SelStart(), 4);
+        QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(box->Text(), u"abc");
+        QTest::keyClick(&field, Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_EQ(box->Text(), u"axyzc");
+    }
+}
+
+TEST_F(NativeControlsTest, WhatTheProgramSetsInAFieldCannotBeUndone)
+{
+    for (const bool several : {false, true}) {
+        const auto box = shown<TextBox>(several ? u"txt_Page" : u"txt_Line");
+        box->MultiLine(several);
+        QWidget& field = *widgetOf(*box).focusProxy();
+        QTest::keyClicks(&field, "abc");
+        box->Text(u"axc");
+        QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(box->Text(), u"axc");
+        box->Text({});
+        QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(box->Text(), u"");
+    }
+}
+
+TEST_F(NativeControlsTest, AFieldShownWithItsCaretInTheTextHasNothingToUndo)
+{
+    const auto box = form_->add<TextBox>(u"txt_Line");
+    box->Text(u"abc");
+    box->SelStart(2);
+    form_->Show();
+    for (const bool several : {false, true, false}) {
+        box->MultiLine(several);
+        QTest::keyClick(widgetOf(*box).focusProxy(), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(box->Text(), u"abc");
+        EXPECT_EQ(box->SelStart(), 2);
+    }
+}
+
+TEST_F(NativeControlsTest, TheLimitOfTypingLeavesWhatTheProgramEdits)
+{
+    for (const bool several : {false, true}) {
+        const auto box = shown<TextBox>(several ? u"txt_Page" : u"txt_Line");
+        box->MultiLine(several);
+        box->MaxLength(3);
+        QWidget& field = *widgetOf(*box).focusProxy();
+        QTest::keyClicks(&field, "abc");
+        box->SelStart(1);
+        box->SelLength(1);
+        box->SelText(u"xyz");
+        EXPECT_EQ(box->Text(), u"axyzc");
+    }
+}
+
 } // namespace

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include <algorithm>
 #include <utility>
 
 namespace phial::qt
@@ -30,6 +31,25 @@ bool hasManyLines(const RichTextBox& /*model*/)
 bool hasOwnKeyboard(const Control& model)
 {
     return model.frame().ownKeyboard();
+}
+
+/// Where two texts differ: the part of the one that became a part of the other.
+struct TextDifference {
+    std::int32_t start;
+    std::int32_t length;
+    String replacement;
+};
+
+TextDifference differenceOf(const String& before, const String& now)
+{
+    const std::size_t common = std::min(before.size(), now.size());
+    const auto start = static_cast<std::size_t>(std::ranges::mismatch(before, now).in1 - before.begin());
+    std::size_t rest = 0;
+    while (rest < common - start && before[before.size() - 1 - rest] == now[now.size() - 1 - rest]) {
+        ++rest;
+    }
+    return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(before.size() - start - rest),
+            now.substr(start, now.size() - start - rest)};
 }
 
 EditorStyle styleOf(const TextBox& model)
@@ -133,11 +153,19 @@ void EditorPeer<Model>::showStyle()
     }
 }
 
+/// A text that the program sets begins anew, with its caret at the start; one that it has edited, such as a
+/// selection that got a format, has the caret behind the edit, and the user can undo it.
 template <typename Model>
 void EditorPeer<Model>::showText()
 {
-    if (editor_->text() != model_->Text()) {
-        editor_->text(model_->Text());
+    const String before = editor_->text();
+    const String now = model_->Text();
+    if (before != now && !before.empty() && model_->SelStart() > 0) {
+        const TextDifference difference = differenceOf(before, now);
+        editor_->replace(difference.start, difference.length, difference.replacement);
+    }
+    if (editor_->text() != now) {
+        editor_->text(now);
     }
     showSelection();
 }

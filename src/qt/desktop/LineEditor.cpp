@@ -64,6 +64,13 @@ public:
             std::max(limit_, static_cast<int>(value.size()))); // text of the program is not cut
         line_->setText(toQt(value));
     }
+    void replace(std::int32_t start, std::int32_t length, const String& value) override
+    {
+        const auto whole = line_->text().size() - length + static_cast<qsizetype>(value.size());
+        line_->setMaxLength(std::max(limit_, static_cast<int>(whole)));
+        line_->setSelection(start, length);
+        line_->insert(toQt(value));
+    }
     std::int32_t selectionStart() const override
     {
         return line_->hasSelectedText() ? line_->selectionStart() : line_->cursorPosition();

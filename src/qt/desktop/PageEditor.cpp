@@ -67,6 +67,18 @@ public:
         allowed_ = limit_ > 0 ? std::max(limit_, length) : 0;
         page_->setPlainText(toQt(withSingleEnds(value)));
     }
+    void replace(std::int32_t start, std::int32_t length, const String& value) override
+    {
+        const String whole = text();
+        const auto longer = static_cast<std::int32_t>(whole.size() + value.size()) - length;
+        allowed_ = limit_ > 0 ? std::max(allowed_, longer) : 0;
+        QTextCursor cursor = page_->textCursor();
+        cursor.beginEditBlock();
+        cursor.setPosition(toSingleEnds(whole, start));
+        cursor.setPosition(toSingleEnds(whole, start + length), QTextCursor::KeepAnchor);
+        cursor.insertText(toQt(withSingleEnds(value)));
+        cursor.endEditBlock();
+    }
     std::int32_t selectionStart() const override
     {
         return toDoubleEnds(text(), page_->textCursor().selectionStart());

@@ -38,6 +38,9 @@ public:
     virtual QWidget& pressed() = 0;
     virtual String text() const = 0;
     virtual void text(const String& value) = 0;
+    /// Puts a text in place of a part, which the user can undo as what has been typed; `text` cannot be
+    /// undone and ends what could be.
+    virtual void replace(std::int32_t start, std::int32_t length, const String& value) = 0;
     virtual std::int32_t selectionStart() const = 0;
     virtual std::int32_t selectionLength() const = 0;
     virtual void select(std::int32_t start, std::int32_t length) = 0;
