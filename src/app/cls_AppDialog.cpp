@@ -13,6 +13,7 @@
 #include "core/RuntimeError.h"
 #include "dialogs/frm_DialogHelpImages.h"
 #include "dialogs/frm_DialogKeyboard.h"
+#include "dialogs/frm_DialogMiniHTML.h"
 
 namespace phial
 {
@@ -87,6 +88,18 @@ Variant cls_AppDialog::HELPIMAGES(const String& pTitle, const String& pFolder,
     }
     form.Show();
     return {};
+}
+
+Variant cls_AppDialog::MINIHTMLINPUT(const String& pText, const String& pTitle, const String& pDefText,
+                                     const String& pIcon) const
+{
+    frm_DialogMiniHTML form;
+    form.pText(pText);
+    form.pTitle(pTitle);
+    form.pDefText(pDefText);
+    form.pIcon(pIcon);
+    form.Show();
+    return form.Accepted() ? Variant(form.ResultText()) : Variant();
 }
 
 void cls_AppDialog::ABOUT() const

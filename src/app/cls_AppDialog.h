@@ -32,6 +32,12 @@ public:
     Variant HELPIMAGES(const String& pTitle, const String& pFolder = {},
                        const CoreParameters* pMore = nullptr) const;
 
+    /// Lets the user write a text with markup (see visual/Markup.h), beginning with `pText`; `pDefText` says
+    /// what is asked for, `pIcon` is the path of a picture. The text, or an empty variant when the user has
+    /// given up: an accepted text without a letter is "".
+    Variant MINIHTMLINPUT(const String& pText = {}, const String& pTitle = {}, const String& pDefText = {},
+                          const String& pIcon = {}) const;
+
     /// Tells about the program.
     void ABOUT() const;
 

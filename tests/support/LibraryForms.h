@@ -6,8 +6,10 @@
 #include "app/screen/frm_Resource.h"
 #include "dialogs/DialogHelpImagesDesign.h"
 #include "dialogs/DialogKeyboardDesign.h"
+#include "dialogs/DialogMiniHTMLDesign.h"
 #include "dialogs/frm_DialogHelpImages.h"
 #include "dialogs/frm_DialogKeyboard.h"
+#include "dialogs/frm_DialogMiniHTML.h"
 #include "media/frm_AppMCI.h"
 #include "media/frm_DialogSound.h"
 #include "results/cls_DataScores.h"
@@ -107,6 +109,12 @@ inline std::vector<LibraryForm> libraryForms()
          .design = &dialog_keyboard_design::Design,
          .pairs = {u"Bitte geben Sie den Wert ein:|Please enter the value:", u"Abbrechen|Cancel"},
          .data = {u"\u2715"},
+         .aborts = true},
+        {.name = u"frm_DialogMiniHTML",
+         .make = makeLibraryForm<frm_DialogMiniHTML>,
+         .design = &dialog_mini_html_design::Design,
+         .pairs = {u"Fett|Bold", u"Kursiv|Italic", u"Tief|Lower", u"Hoch|Raise"},
+         .data = {},
          .aborts = true},
         {.name = u"frm_DialogSound",
          .make = makePraise,
