@@ -45,8 +45,8 @@ std::vector<Exhibit> catalogue()
 {
     std::vector<Exhibit> all;
     for (const auto section : {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits,
-                               userExhibits, keyboardExhibits, resultExhibits, formulaExhibits, soundExhibits,
-                               mascotExhibits, periodicExhibits}) {
+                               userExhibits, keyboardExhibits, markupExhibits, resultExhibits,
+                               formulaExhibits, soundExhibits, mascotExhibits, periodicExhibits}) {
         std::ranges::move(section(), std::back_inserter(all));
     }
     std::ranges::stable_sort(all, {}, &Exhibit::group);
