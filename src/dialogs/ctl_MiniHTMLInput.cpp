@@ -22,8 +22,8 @@ namespace phial
 namespace
 {
 
-constexpr double BarHeight = 48; // pixels
-constexpr double InputSize = 12; // points
+constexpr double FormatBarHeight = 48; // pixels
+constexpr double InputSize = 12;       // points
 constexpr PixelSize SignSize{20, 20};
 constexpr double SignTextSize = 11;
 
@@ -178,16 +178,16 @@ void ctl_MiniHTMLInput::resized()
 
 void ctl_MiniHTMLInput::layOut()
 {
-    const double height = 2 * BarHeight;
+    const double height = 2 * FormatBarHeight;
     if (!multiLine_ && surface_.size().height != height && !isForcing_) {
         forceHeight(height);
     }
     const PixelSize size = surface_.size();
     for (std::size_t at = 0; at < fields_.size(); ++at) {
         const bool isUsed = (at == 1) == multiLine_;
-        bars_[at]->frame().pixelRectangle({0, 0, size.width, BarHeight});
+        bars_[at]->frame().pixelRectangle({0, 0, size.width, FormatBarHeight});
         fields_[at]->frame().pixelRectangle(
-            {0, BarHeight, size.width, std::max(0.0, size.height - BarHeight)});
+            {0, FormatBarHeight, size.width, std::max(0.0, size.height - FormatBarHeight)});
         fields_[at]->Visible(isUsed);
         bars_[at]->Visible(isUsed);
     }

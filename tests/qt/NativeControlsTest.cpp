@@ -108,6 +108,31 @@ TEST_F(NativeControlsTest, TypingStopsAtTheLimitButTheProgramDoesNot)
     EXPECT_EQ(inner<QLineEdit>(*field).text(), QStringLiteral("abcdef"));
 }
 
+TEST_F(NativeControlsTest, TypingBeyondTheLimitOfAPageLeavesWhatWasTypedBefore)
+{
+    const auto field = form_->add<TextBox>(u"txt_Lines");
+    field->MultiLine(true);
+    field->MaxLength(4);
+    field->Move(10, 10, 200, 120);
+    form_->Show();
+    auto& page = inner<QPlainTextEdit>(*field);
+    QTest::keyClicks(&page, QStringLiteral("abcdef"));
+    EXPECT_EQ(field->Text(), u"abcd");
+    EXPECT_EQ(field->SelStart(), 4);
+    field->SelStart(1);
+    QTest::keyClicks(&page, QStringLiteral("x"));
+    EXPECT_EQ(field->Text(), u"abcd");
+    page.moveCursor(QTextCursor::End);
+    QTest::keyClick(&page, Qt::Key_Backspace);
+    page.insertPlainText(QStringLiteral("\nxyz"));
+    EXPECT_EQ(field->Text(), u"abc") << "an end of line counts twice and is not cut in half";
+    page.insertPlainText(QStringLiteral("uvw"));
+    EXPECT_EQ(field->Text(), u"abcu") << "as much of it as fits";
+    field->Text(u"abcdef");
+    QTest::keyClicks(&page, QStringLiteral("g"));
+    EXPECT_EQ(field->Text(), u"abcdef") << "the program may set more";
+}
+
 TEST_F(NativeControlsTest, AFieldOfManyLinesPartsThemByCrLf)
 {
     const auto field = form_->add<TextBox>(u"txt_Lines");

@@ -106,13 +106,21 @@ public:
     }
 
 private:
-    // The toolkit has no limit for such fields: what was typed beyond it is taken back.
+    bool isTooLong() const { return allowed_ > 0 && static_cast<std::int32_t>(text().size()) > allowed_; }
+
+    // The toolkit has no limit for such fields: what came beyond it goes from before the caret. Undoing would
+    // take back all that was typed in one go.
     void cutToLimit()
     {
-        if (allowed_ > 0 && static_cast<std::int32_t>(text().size()) > allowed_ &&
-            page_->document()->isUndoAvailable()) {
-            page_->undo();
+        if (!isTooLong()) {
+            return;
         }
+        QTextCursor cursor = page_->textCursor();
+        cursor.joinPreviousEditBlock();
+        while (isTooLong() && !cursor.atStart()) {
+            cursor.deletePreviousChar();
+        }
+        cursor.endEditBlock();
     }
 
     QPointer<QPlainTextEdit> page_; // its holder may end first
