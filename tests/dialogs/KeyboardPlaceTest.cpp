@@ -85,6 +85,19 @@ TEST(KeyboardOpening, IsAroundThePointerWithoutATarget)
     EXPECT_EQ(place::openingPlace({{}, {0, 1079}, {}}, Keyboard, Screen), (PixelPoint{0, 710}));
 }
 
+TEST(KeyboardOpening, CountsWhereItsMiddleWasLeft)
+{
+    // The middle's left and top edge of the screen: on it the keyboard is brought in, beyond it is forgotten.
+    constexpr PixelPoint Beside{525, 140};
+    EXPECT_EQ(place::openingPlace({Target, {}, PixelPoint{-375, 600}}, Keyboard, Screen),
+              (PixelPoint{0, 600}));
+    EXPECT_EQ(place::openingPlace({Target, {}, PixelPoint{-376, 600}}, Keyboard, Screen), Beside);
+    EXPECT_EQ(place::openingPlace({{}, {960, 540}, PixelPoint{10, -170}}, Keyboard, Screen),
+              (PixelPoint{10, 0}));
+    EXPECT_EQ(place::openingPlace({{}, {960, 540}, PixelPoint{10, -171}}, Keyboard, Screen),
+              (PixelPoint{585, 370}));
+}
+
 TEST(KeyboardOpening, IsWhereTheUserLeftTheLastOne)
 {
     constexpr PixelPoint AtTheEdge{1170, 740};
