@@ -1,0 +1,122 @@
+#include "help_pages/HelpSource.h"
+
+#include "core/RuntimeError.h"
+#include "visual/Markup.h"
+
+namespace help_pages
+{
+
+using phial::String;
+using phial::StringView;
+
+namespace
+{
+
+constexpr std::size_t MostChapters = 6;
+
+/// What stands behind the sign at the start of a line.
+String behind(StringView line, std::size_t sign)
+{
+    return phial::trimmed(String(line.substr(sign)));
+}
+
+[[noreturn]] void refuse(StringView line)
+{
+    throw phial::RuntimeError(phial::ErrorNumber::InvalidArgument,
+                              u"A help book cannot have this line here: " + String(line));
+}
+
+class Reader
+{
+public:
+    void take(StringView line)
+    {
+        if (line.starts_with(u"# ")) {
+            book_.title = behind(line, 1);
+        } else if (line.starts_with(u"== ")) {
+            begin(line);
+        } else if (line.starts_with(u"= ")) {
+            book_.chapters.push_back({behind(line, 1), {}});
+        } else if (phial::trimmed(String(line)).empty()) {
+            isWithin_ = false;
+        } else if (line.starts_with(u"> ")) {
+            page(line).blocks.push_back({Block::Kind::Term, behind(line, 1)});
+            isWithin_ = false;
+        } else {
+            addToParagraph(line);
+        }
+    }
+
+    Book book()
+    {
+        bool isWhole =
+            !book_.title.empty() && !book_.chapters.empty() && book_.chapters.size() <= MostChapters;
+        for (const Chapter& chapter : book_.chapters) {
+            isWhole = isWhole && !chapter.pages.empty();
+        }
+        if (!isWhole) {
+            refuse(u"(the end)");
+        }
+        return std::move(book_);
+    }
+
+private:
+    void begin(StringView line)
+    {
+        if (book_.chapters.empty()) {
+            refuse(line);
+        }
+        book_.chapters.back().pages.push_back({behind(line, 2), {}});
+        isWithin_ = false;
+    }
+
+    Page& page(StringView line)
+    {
+        if (book_.chapters.empty() || book_.chapters.back().pages.empty()) {
+            refuse(line);
+        }
+        return book_.chapters.back().pages.back();
+    }
+
+    void addToParagraph(StringView line)
+    {
+        Page& current = page(line);
+        if (isWithin_) {
+            current.blocks.back().text += u" " + String(line);
+        } else {
+            current.blocks.push_back({Block::Kind::Paragraph, String(line)});
+        }
+        isWithin_ = true;
+    }
+
+    Book book_;
+    bool isWithin_ = false; ///< a paragraph goes on
+};
+
+} // namespace
+
+String Page::spoken() const
+{
+    String text = title + u".";
+    for (const Block& block : blocks) {
+        text += u"\n" + (block.kind == Block::Kind::Paragraph ? phial::plainMarkup(block.text) : block.text);
+    }
+    return text + u"\n";
+}
+
+Book Book::read(StringView source)
+{
+    Reader reader;
+    while (!source.empty()) {
+        const std::size_t end = source.find(u'\n');
+        StringView line = source.substr(0, end);
+        if (line.ends_with(u'\r')) {
+            line.remove_suffix(1);
+        }
+        reader.take(line);
+        source.remove_prefix(end == StringView::npos ? source.size() : end + 1);
+    }
+    return reader.book();
+}
+
+} // namespace help_pages
