@@ -39,12 +39,12 @@ protected:
         outside().clock().advance(1);
         return eventually([this, page] { return dialog_.Page() == page; });
     }
-    auto touch() { return QTest::touchEvent(view().window(), device_); }
+    auto touch() { return QTest::touchEvent(view().window(), device_.get()); }
     QPoint inWindow(int x, int y) { return view().mapTo(view().window(), QPoint(x, y)); }
 
     frm_DialogHelpImages dialog_;
     Form& form_ = dialog_.form();
-    QPointingDevice* device_ = QTest::createTouchDevice();
+    std::unique_ptr<QPointingDevice> device_{QTest::createTouchDevice()};
 };
 
 TEST_F(HelpWindowTest, ALargePictureIsReadNoFinerThanItIsShown)
