@@ -5,9 +5,9 @@
 #include "dialogs/ctl_Keys.h"
 #include "periodic/ctl_PSE.h"
 #include "support/Places.h"
+#include "visual/ctl_Button.h"
 
 #include <QScreen>
-#include <QTest>
 #include <QWindow>
 
 using namespace phial;
@@ -28,9 +28,16 @@ protected:
     }
     ~PartialPaint() override { form_->discard(); }
 
+    /// The focus is elsewhere: its ring would have what lies below painted again.
+    void show()
+    {
+        const auto elsewhere = form_->add<ctl_Button>(u"but_Elsewhere");
+        elsewhere->Move(0, 400, 100, 36);
+        form_->Show();
+        elsewhere->SetFocus();
+    }
     QImage onScreen()
     {
-        QTest::qWait(1); // the focus ring follows what has been painted
         QApplication::processEvents();
         const QWidget& window = widgetOf(*form_);
         return window.screen()->grabWindow(window.winId()).toImage();
@@ -46,28 +53,45 @@ protected:
     std::shared_ptr<Form> form_ = std::make_shared<Form>(u"frm_Test");
 };
 
-TEST_F(PartialPaint, ATableUnderThePointerAndItsDraggedTile)
+constexpr double Cell = 32;
+
+class PaintedTable : public PartialPaint
 {
-    constexpr double Cell = 32;
-    const auto table = form_->add<ctl_PSE>(u"frm_P");
-    table->LOAD(systemPath(test::sourceFolder() / "resources" / "data" / "elements2.dat"));
-    table->MODE(enm_PSEMode::ID_PSEMode_Place);
-    table->DRAGADD(u"Cl");
-    form_->Show();
+protected:
+    PaintedTable()
+    {
+        table_->LOAD(systemPath(test::sourceFolder() / "resources" / "data" / "elements2.dat"));
+    }
+
+    std::shared_ptr<ctl_PSE> table_ = form_->add<ctl_PSE>(u"frm_P");
+    Control& hand_ = *table_;
+};
+
+TEST_F(PaintedTable, UnderThePointer)
+{
+    show();
     const QImage before = onScreen();
-    Control& hand = *table;
     for (const double column : {1.5, 2.5, 2.6, 13.5}) {
-        hand.pointerMove({PointerButton::None, 0, column * Cell, 3.5 * Cell});
-        expectWhole(*table);
+        hand_.pointerMove({PointerButton::None, 0, column * Cell, 3.5 * Cell});
+        EXPECT_NE(onScreen(), before);
+        expectWhole(*table_);
     }
+}
+
+TEST_F(PaintedTable, BelowADraggedTile)
+{
+    table_->MODE(enm_PSEMode::ID_PSEMode_Place);
+    table_->DRAGADD(u"Cl");
+    show();
+    const QImage before = onScreen();
     const PixelPoint tile{3.5 * Cell, 9.5 * Cell};
-    hand.pointerDown({PointerButton::Left, 0, tile.x, tile.y});
-    expectWhole(*table);
+    hand_.pointerDown({PointerButton::Left, 0, tile.x, tile.y});
+    expectWhole(*table_);
     for (int step = 1; step < 12; ++step) {
-        hand.pointerMove({PointerButton::Left, 0, tile.x + 19.7 * step, tile.y - 21.3 * step});
-        expectWhole(*table);
+        hand_.pointerMove({PointerButton::Left, 0, tile.x + 19.7 * step, tile.y - 21.3 * step});
+        EXPECT_NE(onScreen(), before);
+        expectWhole(*table_);
     }
-    EXPECT_NE(onScreen(), before);
 }
 
 TEST_F(PartialPaint, KeysThatArePressedAndLetGo)
@@ -76,7 +100,7 @@ TEST_F(PartialPaint, KeysThatArePressedAndLetGo)
     const auto keys = form_->add<ctl_Keys>(u"ctl_Keys");
     keys->layout(text_layout::Layout);
     keys->Move(0, 0, 640, 250);
-    form_->Show();
+    show();
     const QImage before = onScreen();
     Control& hand = *keys;
     for (const KeyDesign& key : text_layout::Keys) {
