@@ -2,13 +2,11 @@
 // SHIFT, a tap until its character is painted, and a step of a drag; beside a QLineEdit with 60 QPushButtons
 // in the same look, and beside the same keyboard made of a picture and a label for each key.
 
+#include "BenchSession.h"
 #include "PaintWatch.h"
-#include "app/Session.h"
-#include "core/MemorySettingsStore.h"
 #include "dialogs/KeyPainter.h"
 #include "dialogs/TextLayout.h"
 #include "dialogs/frm_DialogKeyboard.h"
-#include "qt/desktop/DesktopApplication.h"
 #include "visual/Form.h"
 #include "visual/Label.h"
 #include "visual/PictureBox.h"
@@ -270,12 +268,6 @@ BENCHMARK(widgetMove)->Name("WidgetMove")->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char** argv)
 {
-    const phial::qt::DesktopApplication application(argc, argv, u"Bench");
-    phial::Platform platform = application.platform();
-    platform.settings = std::make_shared<phial::MemorySettingsStore>();
-    const phial::Session session(platform);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    const BenchSession session(argc, argv);
+    return runBenchmarks(argc, argv);
 }

@@ -2,12 +2,10 @@
 // same HTML; a format put on and taken off, and a repair, in a text of a page; and the dialog opened with its
 // first paint.
 
+#include "BenchSession.h"
 #include "PaintWatch.h"
-#include "app/Session.h"
-#include "core/MemorySettingsStore.h"
 #include "dialogs/MarkupTags.h"
 #include "dialogs/frm_DialogMiniHTML.h"
-#include "qt/desktop/DesktopApplication.h"
 #include "visual/Markup.h"
 #include "visual/VisualHost.h"
 
@@ -117,12 +115,6 @@ BENCHMARK(openDialog)->Name("DialogOpen")->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv)
 {
-    const phial::qt::DesktopApplication application(argc, argv, u"Bench");
-    phial::Platform platform = application.platform();
-    platform.settings = std::make_shared<phial::MemorySettingsStore>();
-    const phial::Session session(platform);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    const BenchSession session(argc, argv);
+    return runBenchmarks(argc, argv);
 }

@@ -2,16 +2,14 @@
 // same shapes drawn by a plain QPainter, the balloon beside one whose shadow has no hatch, and a text from
 // BUBBLESAY to its picture. All at the ratio 2; what `new` hands out for a frame stands beside its time.
 
+#include "BenchSession.h"
 #include "CountedMemory.h"
-#include "app/Session.h"
 #include "app/cls_App.h"
 #include "app/cls_AppURL.h"
 #include "app/sys_Global.h"
-#include "core/MemorySettingsStore.h"
 #include "mascot/ctl_Bubble.h"
 #include "mascot/ctl_DrAtom.h"
 #include "qt/base/QtText.h"
-#include "qt/desktop/DesktopApplication.h"
 #include "visual/Form.h"
 #include "visual/VisualHost.h"
 
@@ -151,17 +149,12 @@ BENCHMARK(bubbleSay)->Name("BUBBLESAY, 120 letters")->Unit(benchmark::kMilliseco
 
 int main(int argc, char** argv)
 {
-    const phial::qt::DesktopApplication application(argc, argv, u"Bench");
-    phial::Platform platform = application.platform();
-    platform.settings = std::make_shared<phial::MemorySettingsStore>();
-    const phial::Session session(platform);
+    const BenchSession session(argc, argv);
     phial::QVAPP()->URL()->RESOURCEGFX(
         phial::qt::fromQt(QStringLiteral(PHIAL_BENCH_TREE "/Resources/gfx/").replace('/', '\\')));
     bench::CountedMemory memory;
     benchmark::RegisterMemoryManager(&memory);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    const int exitCode = runBenchmarks(argc, argv);
     benchmark::RegisterMemoryManager(nullptr);
-    benchmark::Shutdown();
-    return 0;
+    return exitCode;
 }

@@ -3,15 +3,13 @@
 // the search for the cell under the pointer. In a real window drawn into memory: opened and painted again
 // beside a QGraphicsScene of the same cells.
 
+#include "BenchSession.h"
 #include "PaintWatch.h"
-#include "app/Session.h"
 #include "chem/cls_DataElement.h"
 #include "chem/cls_DataElements.h"
-#include "core/MemorySettingsStore.h"
 #include "core/NativePath.h"
 #include "periodic/ctl_PSE.h"
 #include "qt/base/QtText.h"
-#include "qt/desktop/DesktopApplication.h"
 #include "visual/Form.h"
 #include "visual/VisualHost.h"
 
@@ -364,12 +362,6 @@ BENCHMARK(sceneRepaint)->Name("SceneRepaint")->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv)
 {
-    const phial::qt::DesktopApplication application(argc, argv, u"Bench");
-    phial::Platform platform = application.platform();
-    platform.settings = std::make_shared<phial::MemorySettingsStore>();
-    const phial::Session session(platform);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    const BenchSession session(argc, argv);
+    return runBenchmarks(argc, argv);
 }

@@ -2,10 +2,8 @@
 // QTextEdit that is given the same formula as HTML anew with each key, and one that takes the key by itself;
 // and a press in terms of growing length.
 
+#include "BenchSession.h"
 #include "PaintWatch.h"
-#include "app/Session.h"
-#include "core/MemorySettingsStore.h"
-#include "qt/desktop/DesktopApplication.h"
 #include "qt/desktop/WindowHandles.h"
 #include "term/TermCopy.h"
 #include "term/clt_TermInput.h"
@@ -185,12 +183,6 @@ BENCHMARK(termPress)
 
 int main(int argc, char** argv)
 {
-    const phial::qt::DesktopApplication application(argc, argv, u"Bench");
-    phial::Platform platform = application.platform();
-    platform.settings = std::make_shared<phial::MemorySettingsStore>();
-    const phial::Session session(platform);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    const BenchSession session(argc, argv);
+    return runBenchmarks(argc, argv);
 }
