@@ -1,8 +1,6 @@
 #pragma once
 
-#include "dialogs/KeyBoard.h"
-
-#include <array>
+#include "dialogs/KeyRows.h"
 
 /// The German keyboard for texts.
 namespace phial::text_layout
@@ -10,64 +8,35 @@ namespace phial::text_layout
 
 namespace rows
 {
-inline constexpr double Left = 225;
-inline constexpr double Key = 720;
 inline constexpr double First = 1020;
-inline constexpr double Second = First + Key;
-inline constexpr double Third = Second + Key;
-inline constexpr double Fourth = Third + Key;
-inline constexpr double Fifth = Fourth + Key;
+inline constexpr double Second = First + key_rows::Key;
+inline constexpr double Third = Second + key_rows::Key;
+inline constexpr double Fourth = Third + key_rows::Key;
+inline constexpr double Fifth = Fourth + key_rows::Key;
 } // namespace rows
 
-/// Puts the keys of a row side by side.
-template <std::size_t Count>
-constexpr std::array<KeyDesign, Count> row(double top, std::array<KeyDesign, Count> keys)
-{
-    double left = rows::Left;
-    for (KeyDesign& key : keys) {
-        key.left = left;
-        key.top = top;
-        left += key.width;
-    }
-    return keys;
-}
-
-template <std::size_t... Counts>
-constexpr auto joined(const std::array<KeyDesign, Counts>&... parts)
-{
-    std::array<KeyDesign, (Counts + ...)> all{};
-    std::size_t next = 0;
-    const auto take = [&](const auto& part) {
-        for (const KeyDesign& key : part) {
-            all[next++] = key;
-        }
-    };
-    (take(parts), ...);
-    return all;
-}
-
 // clang-format off
-inline constexpr auto Keys = joined(
-    row(rows::First, std::to_array<KeyDesign>({
+inline constexpr auto Keys = key_rows::joined(
+    key_rows::row(rows::First, std::to_array<KeyDesign>({
         {.index = 0, .caption = u"ESC", .tag = u"ESC", .width = 1020},
         {1, u"1"}, {2, u"2"}, {3, u"3"}, {4, u"4"}, {5, u"5"}, {6, u"6"}, {7, u"7"}, {8, u"8"}, {9, u"9"},
         {10, u"0"}, {11, u"ß"},
         {.index = 12, .caption = u"ï", .tag = u"BACKSPACE", .width = 1860}})),
-    row(rows::Second, std::to_array<KeyDesign>({
+    key_rows::row(rows::Second, std::to_array<KeyDesign>({
         {.index = 13, .caption = u"ó", .tag = u"TAB", .width = 1440},
         {14, u"q"}, {15, u"w"}, {16, u"e"}, {17, u"r"}, {18, u"t"}, {19, u"z"}, {20, u"u"}, {21, u"i"},
         {22, u"o"}, {23, u"p"}, {24, u"ü"}, {49, u"+"}, {59, u"C", u"CLEAR"}})),
-    row(rows::Third, std::to_array<KeyDesign>({
+    key_rows::row(rows::Third, std::to_array<KeyDesign>({
         {.index = 25, .caption = u"www.", .width = 1680},
         {26, u"a"}, {27, u"s"}, {28, u"d"}, {29, u"f"}, {30, u"g"}, {31, u"h"}, {32, u"j"}, {33, u"k"},
         {34, u"l"}, {35, u"ö"}, {36, u"ä"},
-        {.index = 58, .caption = u"ü", .tag = u"ENTER", .width = 1200, .height = 2 * rows::Key,
+        {.index = 58, .caption = u"ü", .tag = u"ENTER", .width = 1200, .height = 2 * key_rows::Key,
          .notch = 480}})), // around the key UP
-    row(rows::Fourth, std::to_array<KeyDesign>({
+    key_rows::row(rows::Fourth, std::to_array<KeyDesign>({
         {.index = 37, .caption = u"ñ", .tag = u"SHIFT", .width = 1440},
         {57, u"/"}, {38, u"y"}, {39, u"x"}, {40, u"c"}, {41, u"v"}, {42, u"b"}, {43, u"n"}, {44, u"m"},
         {45, u","}, {46, u"."}, {47, u"-"}, {54, u"á", u"UP"}})),
-    row(rows::Fifth, std::to_array<KeyDesign>({
+    key_rows::row(rows::Fifth, std::to_array<KeyDesign>({
         {.index = 50, .caption = u"Strg|Ctrl", .tag = u"CTRL", .width = 1440},
         {.index = 51, .caption = u"Alt", .tag = u"ALT", .width = 1440},
         {.index = 48, .caption = u" ", .width = 4320},
