@@ -15,6 +15,7 @@
 #include "visual/VisualHost.h"
 #include "visual/ctl_Label.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -139,7 +140,12 @@ KeyboardWindow::KeyboardWindow(DesignedForm& form, Leaving leaving)
     form_->addComponent(dragging_);
     form_->addComponent(unload_);
     const double width = form_->innerSize().width;
-    form_->control<ctl_Button>(u"but_Close")->Left(width - Margin - HeadHeight);
+    const double close = width - Margin - HeadHeight;
+    form_->control<ctl_Button>(u"but_Close")->Left(close);
+    for (const StringView words : {u"lab_Title", u"lab_Description"}) {
+        const auto label = form_->control<ctl_Label>(words);
+        label->Width(std::min(Words.width, close - Words.left));
+    }
     form_->control<ctl_Button>(u"but_Quit")->Left(width + QuitBeyond);
     connect();
     connectGround();
