@@ -7,13 +7,17 @@
 #include "app/screen/frm_AppAbout.h"
 #include "app/screen/frm_Resource.h"
 #include "app/sys_Global.h"
+#include "core/CoreNumbers.h"
 #include "core/CoreRoot.h"
 #include "core/CoreTextBoxOps.h"
 #include "core/CoreUIFacet.h"
+#include "core/Locale.h"
+#include "core/NumberText.h"
 #include "core/RuntimeError.h"
 #include "dialogs/frm_DialogHelpImages.h"
 #include "dialogs/frm_DialogKeyboard.h"
 #include "dialogs/frm_DialogMiniHTML.h"
+#include "dialogs/frm_DialogNumericTouch.h"
 
 namespace phial
 {
@@ -41,6 +45,17 @@ void prepareForTyping(const ObjectPtr& target)
     }
 }
 
+/// The form in touch mode; otherwise there is none, and the answer is false.
+template <typename InputForm>
+bool askInTouchMode(const ObjectPtr& target, const String& title)
+{
+    if (QVAPP()->CONFIG()->TOUCHMODE()) {
+        return askFor<InputForm>(target, title);
+    }
+    prepareForTyping(target);
+    return false;
+}
+
 /// The hidden text box that stands in for a control of the program. Its text comes back at the end, since the
 /// form of another call may be open on it.
 class ScratchText
@@ -61,13 +76,23 @@ private:
 
 } // namespace
 
+bool cls_AppDialog::NUMBERINPUT(const ObjectPtr& pTextbox, const String& pTitle) const
+{
+    return askInTouchMode<frm_DialogNumericTouch>(pTextbox, pTitle);
+}
+
+double cls_AppDialog::NUMBERINPUTDIRECT(double pOldValue, const String& pTitle) const
+{
+    const ScratchText scratch(plainText(pOldValue, currentLocale().decimalSign));
+    askFor<frm_DialogNumericTouch>(scratch.box(), pTitle);
+    double value = 0;
+    CoreNumbers::ToDouble(scratch.box()->Text(), value);
+    return value;
+}
+
 bool cls_AppDialog::TEXTINPUT(const ObjectPtr& pTextbox, const String& pTitle) const
 {
-    if (QVAPP()->CONFIG()->TOUCHMODE()) {
-        return askFor<frm_DialogKeyboard>(pTextbox, pTitle);
-    }
-    prepareForTyping(pTextbox);
-    return false;
+    return askInTouchMode<frm_DialogKeyboard>(pTextbox, pTitle);
 }
 
 String cls_AppDialog::TEXTINPUTDIRECT(const String& pOldValue, const String& pTitle) const

@@ -15,12 +15,21 @@ class CoreParameters;
 class cls_AppDialog
 {
 public:
-    /// Lets the user edit the text of a control of the program's own (see dialogs/TargetText.h) on the
-    /// keyboard for texts; true when the user has confirmed, and the text then stands in the control. An
-    /// empty title asks in the usual words.
+    /// Lets the user edit the number in a control of the program's own (see dialogs/TargetText.h) on the pad
+    /// for numbers (dialogs/frm_DialogNumericTouch.h); true when the user has confirmed, and the number then
+    /// stands in the control as a plain text. An empty title asks in the usual words.
     ///
     /// Only in touch mode (CONFIG.TOUCHMODE). Otherwise there is no dialog and the answer is false, and a
     /// control of the exact type "TextBox" is made ready for typing (CoreTextBoxOps.Prepare).
+    bool NUMBERINPUT(const ObjectPtr& pTextbox, const String& pTitle) const;
+
+    /// The same for a number without a control, whatever the mode: the new number, or the old one, to 15
+    /// digits, when the user has given up.
+    double NUMBERINPUTDIRECT(double pOldValue, const String& pTitle) const;
+
+    /// Lets the user edit the text of a control of the program's own (see dialogs/TargetText.h) on the
+    /// keyboard for texts; true when the user has confirmed, and the text then stands in the control. An
+    /// empty title asks in the usual words. Only in touch mode, as above.
     bool TEXTINPUT(const ObjectPtr& pTextbox, const String& pTitle) const;
 
     /// The same for a text without a control, whatever the mode: the new text, or the old one when the user

@@ -3,6 +3,7 @@
 #include "app/cls_Language.h"
 #include "app/screen/frm_Resource.h"
 #include "core/CoreParameters.h"
+#include "core/Locale.h"
 #include "core/RuntimeError.h"
 #include "headless/Hand.h"
 #include "visual/Form.h"
@@ -36,6 +37,11 @@ protected:
     void play(const std::function<void(Form&)>& user)
     {
         outside.visual().onModal(u"frm_DialogKeyboard", user);
+    }
+    /// Likewise the next pad for numbers.
+    void playPad(const std::function<void(Form&)>& user)
+    {
+        outside.visual().onModal(u"frm_DialogNumericTouch", user);
     }
     static void confirm(Form& keyboard) { headless::strike(keyboard, {.key = Key::Return}); }
     static void abort(Form& keyboard) { headless::strike(keyboard, {.key = Key::Escape}); }
@@ -207,6 +213,117 @@ TEST_F(AppDialog, ATextInputWithinAnotherOneLeavesItsTextAlone)
             confirm(inner);
         });
         EXPECT_EQ(dialog().TEXTINPUTDIRECT(u"zwei", u""), u"innen");
+        abort(outer);
+    });
+    EXPECT_EQ(dialog().TEXTINPUTDIRECT(u"eins", u""), u"eins");
+}
+
+TEST_F(AppDialog, NumberInputWritesToTheControlAndSaysThatItWasConfirmed)
+{
+    touchMode(true);
+    box->Text(u"2,50");
+    playPad([](Form& pad) {
+        EXPECT_EQ(input(pad)->Text(), u"2,5");
+        EXPECT_EQ(pad.control<ctl_Label>(u"lab_Title")->Caption(), u"Titel");
+        input(pad)->Text(u"3.50");
+        confirm(pad);
+    });
+    EXPECT_TRUE(dialog().NUMBERINPUT(box, u"Titel"));
+    EXPECT_EQ(box->Text(), u"3,5");
+}
+
+TEST_F(AppDialog, NumberInputThatIsGivenUpChangesNothing)
+{
+    touchMode(true);
+    box->Text(u"2,50");
+    playPad([](Form& pad) {
+        input(pad)->Text(u"7");
+        abort(pad);
+    });
+    EXPECT_FALSE(dialog().NUMBERINPUT(box, u""));
+    EXPECT_EQ(box->Text(), u"2,50");
+}
+
+TEST_F(AppDialog, NumberInputWithoutTouchModeMakesATextBoxReadyAndIsFalse)
+{
+    EXPECT_FALSE(dialog().NUMBERINPUT(box, u"Titel"));
+    EXPECT_THAT(outside.textBoxes().prepared(), ElementsAre(box.get()));
+    EXPECT_FALSE(dialog().NUMBERINPUT(makeControl<Label>(), u"Titel"));
+    EXPECT_FALSE(dialog().NUMBERINPUT(nullptr, u"Titel"));
+    EXPECT_THAT(outside.textBoxes().prepared(), ElementsAre(box.get()));
+}
+
+TEST_F(AppDialog, NumberInputDirectGivesTheNewNumberInAnyMode)
+{
+    for (const bool mode : {false, true}) {
+        touchMode(mode);
+        playPad([](Form& pad) {
+            EXPECT_EQ(input(pad)->Text(), u"2,5");
+            input(pad)->Text(u"-3,25");
+            confirm(pad);
+        });
+        EXPECT_DOUBLE_EQ(dialog().NUMBERINPUTDIRECT(2.5, u"Titel"), -3.25);
+    }
+}
+
+TEST_F(AppDialog, NumberInputDirectGivesTheOldNumberWhenItIsGivenUpOrConfirmedUntouched)
+{
+    constexpr double Small = 0.000018;
+    playPad([](Form& pad) {
+        input(pad)->Text(u"7");
+        abort(pad);
+    });
+    EXPECT_DOUBLE_EQ(dialog().NUMBERINPUTDIRECT(Small, u""), Small);
+    playPad(confirm);
+    EXPECT_DOUBLE_EQ(dialog().NUMBERINPUTDIRECT(Small, u""), Small);
+    playPad(abort);
+    EXPECT_DOUBLE_EQ(dialog().NUMBERINPUTDIRECT(6.022E23, u""), 6.022E23);
+    playPad(abort);
+    EXPECT_EQ(dialog().NUMBERINPUTDIRECT(1.0 / 3, u""), 0.333333333333333) << "through a text of 15 digits";
+}
+
+TEST_F(AppDialog, NumberInputDirectReadsItsTextInEachLocale)
+{
+    Locale american;
+    american.decimalSign = u'.';
+    const LocaleBinding binding(american);
+    playPad([](Form& pad) {
+        EXPECT_EQ(input(pad)->Text(), u"2.5");
+        input(pad)->Text(u"3,5");
+        confirm(pad);
+    });
+    EXPECT_DOUBLE_EQ(dialog().NUMBERINPUTDIRECT(2.5, u""), 3.5);
+}
+
+TEST_F(AppDialog, NumberInputDirectOpensAtThePointerSinceNobodySeesItsBox)
+{
+    outside.display().resize(1920, 1080);
+    outside.display().moveCursor(960, 540);
+    playPad([](Form& pad) {
+        EXPECT_DOUBLE_EQ(pad.Left(), (960 - 111) * TwipsPerPixel);
+        EXPECT_DOUBLE_EQ(pad.Top(), 370 * TwipsPerPixel);
+        abort(pad);
+    });
+    dialog().NUMBERINPUTDIRECT(1, u"");
+}
+
+TEST_F(AppDialog, ANumberInputWithinAnotherInputLeavesItsTextAlone)
+{
+    playPad([this](Form& outer) {
+        playPad([](Form& inner) {
+            input(inner)->Text(u"2");
+            confirm(inner);
+        });
+        EXPECT_DOUBLE_EQ(dialog().NUMBERINPUTDIRECT(1, u""), 2);
+        abort(outer);
+    });
+    EXPECT_DOUBLE_EQ(dialog().NUMBERINPUTDIRECT(7, u""), 7);
+    play([this](Form& outer) {
+        playPad([](Form& inner) {
+            input(inner)->Text(u"2");
+            confirm(inner);
+        });
+        EXPECT_DOUBLE_EQ(dialog().NUMBERINPUTDIRECT(1, u""), 2);
         abort(outer);
     });
     EXPECT_EQ(dialog().TEXTINPUTDIRECT(u"eins", u""), u"eins");
