@@ -5,9 +5,13 @@
 #include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/Theme.h"
 
+#include <QIcon>
+#include <QImage>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
+
+#include <cstdlib>
 
 namespace phial::qt
 {
@@ -83,6 +87,33 @@ ButtonFace barFace(Touched touched)
     return {accentGround(touched), onAccent(), text};
 }
 
+/// Whether all that is well seen of the picture has that colour.
+bool isDrawnIn(const QImage& picture, const QColor& colour)
+{
+    constexpr int Tolerance = 6; // of a colour that was multiplied by its share and divided again
+    constexpr int WellSeen = 128;
+    const auto isNear = [](int one, int other) { return std::abs(one - other) <= Tolerance; };
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb pixel = picture.pixel(x, y);
+            if (qAlpha(pixel) >= WellSeen &&
+                !(isNear(qRed(pixel), colour.red()) && isNear(qGreen(pixel), colour.green()) &&
+                  isNear(qBlue(pixel), colour.blue()))) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+/// The colour of the button's text while it is enabled and nothing touches it.
+QColor textAtRest(const QWidget* button)
+{
+    QStyleOption option;
+    option.state = QStyle::State_Enabled;
+    return buttonFace(option, button).text;
+}
+
 void colourBar(QWidget& bar)
 {
     QPalette palette = bar.palette();
@@ -104,6 +135,28 @@ ButtonFace buttonFace(const QStyleOption& option, const QWidget* button)
         return accentFace(touched);
     }
     return button && isMarked(button->parentWidget(), BarProperty) ? barFace(touched) : plainFace(touched);
+}
+
+QIcon buttonIcon(const QStyleOptionButton& option, const QWidget* button, const ButtonFace& face)
+{
+    if (option.icon.isNull()) {
+        return option.icon;
+    }
+    const QColor rest = textAtRest(button);
+    if (rest == face.text) {
+        return option.icon;
+    }
+    QPixmap sign = option.icon.pixmap(option.iconSize, button ? button->devicePixelRatioF() : 1);
+    if (!isDrawnIn(sign.toImage().convertToFormat(QImage::Format_ARGB32), rest)) {
+        return option.icon;
+    }
+    QPainter painter(&sign);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(QRectF(QPointF(), sign.deviceIndependentSize()), face.text);
+    painter.end();
+    QIcon inked(sign);
+    inked.addPixmap(sign, QIcon::Disabled);
+    return inked;
 }
 
 void paintButton(const QStyleOption& option, QPainter& painter, const ButtonFace& face, double zoom)

@@ -2,9 +2,11 @@
 
 #include <QColor>
 
+class QIcon;
 class QPainter;
 class QPushButton;
 class QStyleOption;
+class QStyleOptionButton;
 class QWidget;
 
 namespace phial::qt
@@ -22,6 +24,10 @@ struct ButtonFace {
 
 /// By its state, by whether it is the one to press, and by whether it stands on a command bar.
 ButtonFace buttonFace(const QStyleOption& option, const QWidget* button);
+
+/// The button's icon as it is now. A sign in the colour that the text has while nothing touches the button is
+/// in the text's colour always, so that it can be seen as well as the text; other pictures stay as they are.
+QIcon buttonIcon(const QStyleOptionButton& option, const QWidget* button, const ButtonFace& face);
 
 void paintButton(const QStyleOption& option, QPainter& painter, const ButtonFace& face, double zoom);
 

@@ -368,7 +368,9 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
     case CE_PushButtonLabel:
         if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
             QStyleOptionButton inked = *button;
-            inked.palette.setColor(QPalette::ButtonText, buttonFace(*option, widget).text);
+            const ButtonFace face = buttonFace(*option, widget);
+            inked.palette.setColor(QPalette::ButtonText, face.text);
+            inked.icon = buttonIcon(*button, widget, face);
             QProxyStyle::drawControl(element, &inked, painter, widget);
         }
         return;
