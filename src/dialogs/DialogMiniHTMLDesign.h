@@ -2,6 +2,8 @@
 
 #include "dialogs/ctl_MiniHTMLInput.h"
 #include "visual/FormDesign.h"
+#include "visual/PictureBox.h"
+#include "visual/ScrollBar.h"
 #include "visual/ctl_CmdBar.h"
 #include "visual/ctl_Frame.h"
 #include "visual/ctl_Label.h"
@@ -25,6 +27,10 @@ inline constexpr double PreviewLeft = Margin + TextWidth + 20;
 inline constexpr double PreviewWidth = Width - Margin - PreviewLeft;
 inline constexpr double PreviewInset = 14;
 inline constexpr double PreviewTop = 28;
+inline constexpr double PreviewBarWidth = 36;
+inline constexpr double PreviewBarGap = 6;
+inline constexpr double PreviewTextWidth = PreviewWidth - PreviewInset - PreviewBarWidth - 2 * PreviewBarGap;
+inline constexpr double PreviewTextHeight = TextHeight - PreviewTop - PreviewInset;
 
 inline constexpr ButtonDesign Commands[] = {{u"DIALOG.OK();", u"OK|OK", true}};
 
@@ -38,13 +44,21 @@ inline constexpr ControlDesign Controls[] = {
         .font(10)
         .ink(Palette::Muted)
         .ground(Palette::Ground),
-    design<ctl_Label>(u"lab_Preview", {PreviewInset, PreviewTop, PreviewWidth - 2 * PreviewInset,
-                                       TextHeight - PreviewTop - PreviewInset})
+    design<PictureBox>(u"pic_Preview", {PreviewInset, PreviewTop, PreviewTextWidth, PreviewTextHeight})
         .inside(u"ctl_Frame1")
+        .ground(Palette::Ground),
+    design<ctl_Label>(u"lab_Preview", {0, 0, PreviewTextWidth, 0})
+        .inside(u"pic_Preview")
         .font(12)
         .ink(Palette::Ink)
         .align(TEXTALIGN::TopLeft)
-        .set(u"BreaksWords", true),
+        .set(u"BreaksWords", true)
+        .set(u"AutoSize", true),
+    design<ScrollBar>(u"srl_Preview", {PreviewWidth - PreviewBarWidth - PreviewBarGap, PreviewTop,
+                                       PreviewBarWidth, PreviewTextHeight})
+        .inside(u"ctl_Frame1")
+        .spoken(u"Vorschau|Preview")
+        .hidden(),
     design<ctl_CmdBar>(u"bar_Buttons", {0, Height - CommandsHeight, Width, CommandsHeight}).buttons(Commands),
     design<ctl_Title>(u"bar_Header", {0, 0, Width, HeaderHeight}).font(16, FontWeight::Bold),
 };

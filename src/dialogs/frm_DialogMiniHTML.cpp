@@ -31,7 +31,9 @@ PicturePtr headerIcon(const String& path)
 } // namespace
 
 frm_DialogMiniHTML::frm_DialogMiniHTML()
-    : form_(dialog_mini_html_design::Design), input_(form_->control<ctl_MiniHTMLInput>(u"txt_Input"))
+    : form_(dialog_mini_html_design::Design), input_(form_->control<ctl_MiniHTMLInput>(u"txt_Input")),
+      preview_({form_->control<PictureBox>(u"pic_Preview"), form_->control<ctl_Label>(u"lab_Preview"),
+                form_->control<ScrollBar>(u"srl_Preview")})
 {
     connect();
     TRANSLATE();
@@ -78,7 +80,9 @@ void frm_DialogMiniHTML::accept()
 
 void frm_DialogMiniHTML::showPreview()
 {
-    form_->control<ctl_Label>(u"lab_Preview")->Caption(input_->TEXT());
+    const TextBox& field = input_->input();
+    preview_.show(field.Text(),
+                  static_cast<std::size_t>(field.SelStart()) + static_cast<std::size_t>(field.SelLength()));
 }
 
 } // namespace phial

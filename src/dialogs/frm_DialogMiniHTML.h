@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/MarkupPreview.h"
 #include "dialogs/ctl_MiniHTMLInput.h"
 #include "visual/DesignedForm.h"
 
@@ -53,6 +54,7 @@ private:
     String result_;
     DesignedForm form_;
     std::shared_ptr<ctl_MiniHTMLInput> input_;
+    MarkupPreview preview_;
 };
 
 } // namespace phial

@@ -5,6 +5,7 @@
 #include "dialogs/ctl_MiniHTMLInput.h"
 #include "headless/Hand.h"
 #include "support/AppSession.h"
+#include "visual/ControlPeer.h"
 #include "visual/Form.h"
 #include "visual/PropertyBag.h"
 
@@ -22,6 +23,36 @@ using ::testing::IsEmpty;
 
 constexpr StringView Hint = u"Markieren Sie erst den Text, den Sie formatieren möchten!";
 constexpr StringView EnglishHint = u"First select the text that you want to format!";
+
+/// A container that lets a control have no other height than this.
+class FixedHeight final : public ControlPeer
+{
+public:
+    static constexpr int Patience = 20;
+
+    FixedHeight(Control& control, double height) : frame_(control.frame()), height_(height)
+    {
+        frame_.peer(this);
+    }
+    ~FixedHeight() override { frame_.peer(nullptr); }
+    FixedHeight(const FixedHeight&) = delete;
+    FixedHeight& operator=(const FixedHeight&) = delete;
+
+    void modelChanged(ControlAspect aspect) override
+    {
+        PixelRectangle place = frame_.pixelRectangle();
+        if (aspect == ControlAspect::Geometry && place.height != height_ && ++refusals < Patience) {
+            place.height = height_;
+            frame_.pixelRectangle(place);
+        }
+    }
+
+    int refusals = 0;
+
+private:
+    ControlFrame& frame_;
+    double height_;
+};
 
 class MiniHTMLInput : public AppSession
 {
@@ -228,6 +259,19 @@ TEST_F(MiniHTMLInput, OneLineForcesTheHeightToTwiceTheBars)
     EXPECT_DOUBLE_EQ(control->Height(), 2 * barHeight);
     control->Width(250);
     EXPECT_EQ(field(0)->frame().pixelRectangle(), (PixelRectangle{0, barHeight, 250, barHeight}));
+}
+
+TEST_F(MiniHTMLInput, AContainerThatSetsTheHeightBackHasTheLastWord)
+{
+    FixedHeight container(*control, 70);
+    for (const double width : {390, 250}) {
+        container.refusals = 0;
+        control->Width(width);
+        EXPECT_LT(container.refusals, FixedHeight::Patience) << "they go on for ever";
+        const double barHeight = bar(0)->frame().pixelRectangle().height;
+        EXPECT_DOUBLE_EQ(control->Height(), 70);
+        EXPECT_EQ(field(0)->frame().pixelRectangle(), (PixelRectangle{0, barHeight, width, 70 - barHeight}));
+    }
 }
 
 TEST_F(MiniHTMLInput, SeveralLinesFillTheHeight)
