@@ -1,11 +1,15 @@
 #include "DesktopRun.h"
+#include "core/CoreTheme.h"
 #include "dialogs/ctl_MiniHTMLInput.h"
+#include "qt/desktop/ControlWidget.h"
+#include "support/Contrast.h"
 #include "visual/TextBox.h"
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QVBoxLayout>
 
 using namespace phial;
 using namespace phial::qt;
@@ -49,6 +53,28 @@ protected:
             }
         }
         return seen;
+    }
+    /// Of the sign to the button's ground, without the text.
+    static double contrastOfSign(QPushButton& button)
+    {
+        constexpr int Edge = 8;
+        const QString text = button.text();
+        button.setText({});
+        const QImage picture = button.grab().toImage();
+        button.setText(text);
+        const auto luminanceAt = [&](int x, int y) {
+            const QColor colour = picture.pixelColor(x, y);
+            return test::luminance(RGB(colour.red(), colour.green(), colour.blue())) + 0.05;
+        };
+        const double ground = luminanceAt(Edge, picture.height() / 2);
+        double best = 1;
+        for (int y = Edge; y < picture.height() - Edge; ++y) {
+            for (int x = Edge; x < picture.width() - Edge; ++x) {
+                const double sign = luminanceAt(x, y);
+                best = std::max({best, sign / ground, ground / sign});
+            }
+        }
+        return best;
     }
     void press(int number) { QTest::mouseClick(buttons().at(number), Qt::LeftButton); }
 
@@ -106,6 +132,48 @@ TEST_F(MiniHTMLWindow, TheFormatsHavePicturesNamesAndRoom)
             EXPECT_GE(button->height(), 36);
             EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
         }
+    }
+}
+
+TEST_F(MiniHTMLWindow, TheirSignsAreSeenOnWhateverGround)
+{
+    coreTheme().SetColour(ThemeSlot::Frame, Palette::Header);
+    coreTheme().SetColour(ThemeSlot::FrameText, Palette::OnHeader);
+    show(false);
+    for (const ColourSet set : {ColourSet::Light, ColourSet::Dark, ColourSet::HighContrast}) {
+        coreTheme().SetColours(set);
+        QCoreApplication::sendPostedEvents();
+        for (const bool enabled : {true, false}) {
+            control_->Enabled(enabled);
+            for (QPushButton* button : buttons()) {
+                for (const bool down : {false, true}) {
+                    button->setDown(down);
+                    EXPECT_GE(contrastOfSign(*button), 3)
+                        << button->text().toStdString() << static_cast<int>(set) << enabled << down;
+                }
+                button->setDown(false);
+            }
+        }
+    }
+}
+
+TEST_F(MiniHTMLWindow, ALayoutThatGivesItAnotherHeightIsNoQuarrel)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    const auto control = makeControl<ctl_MiniHTMLInput>();
+    layout->addWidget(new ControlWidget(control));
+    window.resize(400, 300);
+    window.show();
+    for (const int height : {300, 180, 260}) {
+        window.resize(400, height);
+        for (int turn = 0; turn < 10; ++turn) {
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+        }
+        const PixelRectangle field = control->input().frame().pixelRectangle();
+        EXPECT_GE(field.height, 40);
+        EXPECT_LE(field.bottom(), control->frame().pixelRectangle().height);
     }
 }
 

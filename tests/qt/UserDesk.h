@@ -17,21 +17,28 @@ class UserDesk
 public:
     /// Keys by their place, as the server numbers them.
     enum Key : unsigned {
+        Escape = 9,
+        SharpS = 20,
         Tab = 23,
         Q = 24,
         E = 26,
         R = 27,
-        SharpS = 20,
+        Z = 29,
+        I = 31,
         Return = 36,
         Ctrl = 37,
         G = 42,
         OUmlaut = 47,
         Shift = 50,
         V = 55,
+        B = 56,
         Alt = 64,
         Blank = 65,
-        Escape = 9,
+        F4 = 70,
         AltGr = 108,
+        Home = 110,
+        Left = 113,
+        Right = 114,
     };
 
     UserDesk();
