@@ -2,7 +2,9 @@
 
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
+#include "chem/ElementNames.h"
 #include "chem/FormulaAnalysis.h"
+#include "chem/cls_DataElement.h"
 #include "common/FrameTexts.h"
 #include "core/Format.h"
 #include "core/NumberText.h"
@@ -94,13 +96,13 @@ std::vector<learning::ReferenceEntry> massesOfElements(phial::cls_DataElements& 
         }
     }
     std::vector<learning::ReferenceEntry> entries;
-    const bool german = phial::LNG()->EFFECTIVE() == phial::ID_Language_German;
     for (std::int32_t at = 1; at <= elements.COUNT(); ++at) {
         const auto element = elements.ITEM(at);
         if (const String symbol = element->SYMBOL(); symbols.contains(symbol)) {
             const String mass = massOf(elements, symbol);
-            entries.push_back(
-                {symbol, mass, (german ? element->NAME() : symbol) + u": " + mass + u"\u00A0g/mol"});
+            String spoken = phial::LNG()->TRANSLATE(element->NAME(), englishNameOf(*element));
+            spoken.append(u": ").append(mass).append(u"\u00A0g/mol");
+            entries.push_back({symbol, mass, spoken});
         }
     }
     return entries;

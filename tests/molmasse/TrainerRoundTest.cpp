@@ -167,7 +167,7 @@ TEST_F(TrainerTest, TheMassesAreAtHandForNothing)
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
     EXPECT_TRUE(isSeen(u"ref_Drawer")) << "it stays until it is closed";
     touch(u"but_Language");
-    EXPECT_EQ(drawer->parts()[3].name, u"Cl: 35.5\u00A0g/mol");
+    EXPECT_EQ(drawer->parts()[3].name, u"Chlorine: 35.5\u00A0g/mol");
     EXPECT_TRUE(isSeen(u"ref_Drawer"));
 }
 

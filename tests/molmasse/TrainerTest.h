@@ -26,7 +26,7 @@ protected:
     static constexpr std::string_view Elements = "H\nWasserstoff\n1.008\n1\n1\n"
                                                  "O\nSauerstoff\n15.999\n2\n16\n"
                                                  "Na\nNatrium\n22.98976928\n3\n1\n"
-                                                 "Cl\nChlor\n35.45\n3\n17\n";
+                                                 "Cl\nChlor*Chlorine\n35.45\n3\n17\n";
     static constexpr std::string_view Tasks = "[leicht] Leicht | Easy\nH2O | Wasser | water\n"
                                               "NaCl | Natriumchlorid | sodium chloride\n"
                                               "[mittel] Mittel | Medium\nHCl\n";

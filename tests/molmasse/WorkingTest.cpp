@@ -1,11 +1,13 @@
 #include "molmasse/Working.h"
 
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
 #include "chem/cls_DataElements.h"
 #include "core/NativePath.h"
 #include "support/AppSession.h"
 #include "support/Places.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock-more-matchers.h>
 
 namespace molmasse
 {
@@ -44,6 +46,25 @@ TEST_F(Working, CountsAtomsWithTheirMassesOrWithout)
     EXPECT_EQ(
         atomsCounted(table, u"NaOH", AtomMasses::Shown),
         u"1 \u00D7 Na (23,0\u00A0g/mol)<br>1 \u00D7 O (16,0\u00A0g/mol)<br>1 \u00D7 H (1,0\u00A0g/mol)");
+}
+
+TEST_F(Working, ListsTheMassesOfTheTasksElementsWithTheirNames)
+{
+    const std::vector<learning::ListedTask> tasks{{u"NaCl", {}, {}}, {u"H2O", {}, {}}};
+    const auto spoken = [&] {
+        std::vector<phial::String> names;
+        for (const learning::ReferenceEntry& entry : massesOfElements(table, tasks)) {
+            names.push_back(entry.spoken);
+        }
+        return names;
+    };
+    using ::testing::ElementsAre;
+    phial::LNG()->CURRENT(phial::ID_Language_German);
+    EXPECT_THAT(spoken(), ElementsAre(u"Wasserstoff: 1,0\u00A0g/mol", u"Sauerstoff: 16,0\u00A0g/mol",
+                                      u"Natrium: 23,0\u00A0g/mol", u"Chlor: 35,5\u00A0g/mol"));
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    EXPECT_THAT(spoken(), ElementsAre(u"Hydrogen: 1.0\u00A0g/mol", u"Oxygen: 16.0\u00A0g/mol",
+                                      u"Sodium: 23.0\u00A0g/mol", u"Chlorine: 35.5\u00A0g/mol"));
 }
 
 } // namespace
