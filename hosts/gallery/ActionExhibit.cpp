@@ -8,14 +8,30 @@ namespace gallery
 
 using namespace phial;
 
+namespace
+{
+
+void writeNote(ctl_Label& note, StringView text)
+{
+    note.Font(galleryFont(12));
+    note.ForeColor(colours::Ink);
+    note.Alignment(TEXTALIGN::MiddleCentre);
+    note.Caption(say(text));
+}
+
+} // namespace
+
 std::shared_ptr<ctl_Label> putNote(Stage& stage, StringView text)
 {
-    using enum phial::TEXTALIGN;
     const auto note = stage.putMiddle<ctl_Label>({stage.size().width - 48, 120});
-    note->Font(galleryFont(12));
-    note->ForeColor(colours::Ink);
-    note->Alignment(MiddleCentre);
-    note->Caption(say(text));
+    writeNote(*note, text);
+    return note;
+}
+
+std::shared_ptr<ctl_Label> putNote(Stage& stage, const PixelRectangle& place, StringView text)
+{
+    const auto note = stage.put<ctl_Label>(place);
+    writeNote(*note, text);
     return note;
 }
 

@@ -6,8 +6,10 @@
 namespace gallery
 {
 
-/// Puts a text in the middle of the stage; "German|English".
+/// Puts a text in the middle of the stage, or at a place of it; "German|English".
 std::shared_ptr<phial::ctl_Label> putNote(Stage& stage, phial::StringView text);
+std::shared_ptr<phial::ctl_Label> putNote(Stage& stage, const phial::PixelRectangle& place,
+                                          phial::StringView text);
 
 /// What a state does in front of the user; gives what came of it, empty for nothing.
 using Act = std::function<phial::String()>;

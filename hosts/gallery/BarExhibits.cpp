@@ -1,7 +1,7 @@
 #include "core/CoreText.h"
+#include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
-#include "gallery/GalleryFont.h"
 #include "visual/Menu.h"
 #include "visual/ctl_CmdBar.h"
 #include "visual/ctl_Label.h"
@@ -16,18 +16,14 @@ using namespace phial;
 namespace
 {
 
-using enum phial::TEXTALIGN;
-
 /// A command bar with a line below that tells the last key.
 template <typename Bar>
 ObjectPtr buildBar(Stage& stage)
 {
     const double width = stage.size().width - 32;
     const auto bar = stage.put<Bar>({16, 100, width, 52});
-    const auto told = stage.put<ctl_Label>({16, 180, width, 40});
-    told->Font(galleryFont(11));
+    const auto told = putNote(stage, {16, 180, width, 40}, {});
     told->ForeColor(colours::Quiet);
-    told->Alignment(MiddleCentre);
     stage.keep(bar->BUTTON.connect([told](std::int32_t, const String& key) { told->Caption(key); }));
     return bar;
 }
@@ -94,11 +90,8 @@ Exhibit title()
 
 ObjectPtr buildMenu(Stage& stage)
 {
-    const auto told = stage.putMiddle<ctl_Label>({300, 60});
-    told->Font(galleryFont(12));
-    told->ForeColor(colours::Ink);
-    told->Alignment(MiddleCentre);
-    told->Caption(say(u"Das Menü steht oben in der Menüleiste.|The menu stands in the menu bar above."));
+    const auto told =
+        putNote(stage, u"Das Menü steht oben in der Menüleiste.|The menu stands in the menu bar above.");
     const auto menu = stage.form().menu().add(u"men_Sample", say(u"&Beispiel|Sa&mple"));
     menu->add(u"men_Level", say(u"&Leicht|&Easy"), 0);
     menu->load(u"men_Level", 1)->Caption(say(u"&Mittel|&Medium"));

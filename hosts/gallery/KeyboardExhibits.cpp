@@ -1,5 +1,6 @@
 #include "dialogs/ctl_Keys.h"
 #include "dialogs/frm_DialogKeyboard.h"
+#include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
 #include "gallery/GalleryFont.h"
@@ -80,12 +81,9 @@ ControlPtr putFields(Stage& stage)
 /// The keyboard without its modal wait, so that the gallery goes on.
 ObjectPtr buildKeyboard(Stage& stage)
 {
-    const auto note = stage.put<ctl_Label>({24, 4, stage.size().width - 48, NoteHeight});
-    note->Font(galleryFont(11));
-    note->ForeColor(colours::Ink);
-    note->Alignment(TEXTALIGN::MiddleCentre);
-    note->Caption(say(u"Der Knopf unten öffnet die Tastatur, ein Druck auf ein Feld auch.|"
-                      u"The button below opens the keyboard, and so does a press on a field."));
+    putNote(stage, {24, 4, stage.size().width - 48, NoteHeight},
+            u"Der Knopf unten öffnet die Tastatur, ein Druck auf ein Feld auch.|"
+            u"The button below opens the keyboard, and so does a press on a field.");
     const auto keyboard = std::make_shared<frm_DialogKeyboard>();
     keyboard->TargetControl(putFields(stage));
     stage.atEnd([keyboard] { keyboard->form().discard(); });

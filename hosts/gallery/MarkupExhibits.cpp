@@ -1,4 +1,5 @@
 #include "dialogs/frm_DialogMiniHTML.h"
+#include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
 #include "gallery/GalleryFont.h"
@@ -32,11 +33,7 @@ ObjectPtr buildField(Stage& stage)
 /// The dialog without its modal wait, so that the gallery goes on.
 ObjectPtr buildDialog(Stage& stage)
 {
-    const auto note = stage.putMiddle<ctl_Label>({360, 60});
-    note->Font(galleryFont(11));
-    note->ForeColor(colours::Ink);
-    note->Alignment(TEXTALIGN::MiddleCentre);
-    note->Caption(say(u"Der Knopf unten öffnet das Fenster.|The button below opens the window."));
+    putNote(stage, u"Der Knopf unten öffnet das Fenster.|The button below opens the window.");
     const auto dialog = std::make_shared<frm_DialogMiniHTML>();
     dialog->pText(say(SampleMarkup));
     dialog->pTitle(say(u"Deine Notiz|Your note"));
