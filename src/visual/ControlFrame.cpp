@@ -291,11 +291,20 @@ void ControlFrame::MouseIcon(PicturePtr value)
     }
 }
 
+/// The fields that it holds for itself may be called so too.
 void ControlFrame::AccessibleName(String value)
 {
-    if (accessibleName_ != value) {
-        accessibleName_ = std::move(value);
-        report(ControlAspect::Accessibility);
+    if (accessibleName_ == value) {
+        return;
+    }
+    accessibleName_ = std::move(value);
+    report(ControlAspect::Accessibility);
+    if (const Container* inner = control_.container()) {
+        for (const ControlPtr& field : inner->controls()) {
+            if (field->frame().privateHolder() == &control_) {
+                field->frame().report(ControlAspect::Accessibility);
+            }
+        }
     }
 }
 

@@ -25,12 +25,25 @@ void applyFocusPolicy(QWidget& widget, const ControlFrame& frame)
                                             : Qt::ClickFocus);
 }
 
+String ownName(const Control& control)
+{
+    const String given = control.frame().AccessibleName();
+    return given.empty() ? control.accessibleText() : given;
+}
+
+/// A text field that another control holds for itself is called as that one where it has no name of its own.
+String spokenName(const Control& control)
+{
+    const String own = ownName(control);
+    const Control* holder = control.frame().privateHolder();
+    const bool isField = control.typeName() == u"TextBox";
+    return own.empty() && holder && isField ? ownName(*holder) : own;
+}
+
 void applyNames(QWidget& widget, const Control& control)
 {
-    const ControlFrame& frame = control.frame();
-    const String name = frame.AccessibleName().empty() ? control.accessibleText() : frame.AccessibleName();
-    widget.setAccessibleName(toQt(name));
-    widget.setAccessibleDescription(toQt(frame.HelpText()));
+    widget.setAccessibleName(toQt(spokenName(control)));
+    widget.setAccessibleDescription(toQt(control.frame().HelpText()));
 }
 
 void applyPointer(QWidget& widget, const ControlFrame& frame)
