@@ -2,11 +2,14 @@
 
 #include "core/RuntimeError.h"
 #include "core/Variant.h"
+#include "visual/Container.h"
+#include "visual/Control.h"
 #include "visual/Font.h"
 #include "visual/RichText.h"
 
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 namespace phial
 {
@@ -19,12 +22,15 @@ struct TargetKind {
     StringView property;
     bool isRich = false;
     bool hasLines = true; ///< where it does not say so itself
+    StringView field{};   ///< within it, which has the property
+    StringView settle{};  ///< the operation behind a write
 };
 
 constexpr TargetKind TargetKinds[] = {
     {.typeName = u"clt_TermInput", .property = u"Term", .hasLines = false},
     {.typeName = u"Label", .property = u"Caption"},
     {.typeName = u"RichTextbox", .property = u"TextRTF", .isRich = true},
+    {.typeName = u"ctl_QVInput", .property = u"Text", .field = u"txt_Input", .settle = u"UPDATE"},
 };
 constexpr TargetKind AnyTarget{.typeName = {}, .property = u"TEXT"};
 
@@ -55,13 +61,28 @@ FontSpec fontOf(const ObjectPtr& target)
 
 } // namespace
 
+ObjectPtr TargetText::edited() const
+{
+    const ObjectPtr whole = target();
+    const StringView field = whole ? kindOf(*whole).field : StringView();
+    if (field.empty()) {
+        return whole;
+    }
+    auto* holder = dynamic_cast<Control*>(whole.get());
+    const Container* inside = holder ? holder->container() : nullptr;
+    const auto within = inside ? inside->controls() : std::vector<ControlPtr>();
+    const auto found = std::ranges::find_if(
+        within, [&](const ControlPtr& control) { return equalsIgnoringCase(control->NAME(), field); });
+    return found == within.end() ? nullptr : *found;
+}
+
 String TargetText::read() const
 {
     String text;
-    if (const ObjectPtr control = target()) {
+    if (const ObjectPtr field = edited()) {
         ignoringErrors([&] {
-            const TargetKind& kind = kindOf(*control);
-            text = tryGet(*control, kind.property).value_or(Variant(u"")).toText();
+            const TargetKind& kind = kindOf(*target());
+            text = tryGet(*field, kind.property).value_or(Variant(u"")).toText();
             if (kind.isRich && isRichText(text)) {
                 text = richTextToPlain(text);
             }
@@ -72,10 +93,14 @@ String TargetText::read() const
 
 void TargetText::write(const String& text) const
 {
-    if (const ObjectPtr control = target()) {
+    if (const ObjectPtr field = edited()) {
         ignoringErrors([&] {
-            const TargetKind& kind = kindOf(*control);
-            trySet(*control, kind.property, kind.isRich ? toRichText(text, fontOf(control)) : text);
+            const ObjectPtr whole = target();
+            const TargetKind& kind = kindOf(*whole);
+            trySet(*field, kind.property, kind.isRich ? toRichText(text, fontOf(whole)) : text);
+            if (!kind.settle.empty()) {
+                tryCall(*whole, kind.settle);
+            }
         });
     }
 }
@@ -87,7 +112,7 @@ bool TargetText::takesLines() const
         return true;
     }
     bool lines = kindOf(*control).hasLines && passwordChar().empty();
-    if (const auto said = valueOf(control, u"MultiLine"); said && lines) {
+    if (const auto said = valueOf(edited(), u"MultiLine"); said && lines) {
         ignoringErrors([&] { lines = said->toBoolean(); });
     }
     return lines;
@@ -96,21 +121,21 @@ bool TargetText::takesLines() const
 std::int32_t TargetText::maxLength() const
 {
     std::int32_t length = 0;
-    ignoringErrors([&] { length = valueOf(target(), u"MaxLength").value_or(Variant(0)).toWhole(); });
+    ignoringErrors([&] { length = valueOf(edited(), u"MaxLength").value_or(Variant(0)).toWhole(); });
     return std::max(0, length);
 }
 
 bool TargetText::locked() const
 {
     bool isLocked = false;
-    ignoringErrors([&] { isLocked = valueOf(target(), u"Locked").value_or(Variant(false)).toBoolean(); });
+    ignoringErrors([&] { isLocked = valueOf(edited(), u"Locked").value_or(Variant(false)).toBoolean(); });
     return isLocked;
 }
 
 String TargetText::passwordChar() const
 {
     String shown;
-    ignoringErrors([&] { shown = valueOf(target(), u"PasswordChar").value_or(Variant(u"")).toText(); });
+    ignoringErrors([&] { shown = valueOf(edited(), u"PasswordChar").value_or(Variant(u"")).toText(); });
     return shown;
 }
 

@@ -14,6 +14,7 @@ namespace phial
 ///     clt_TermInput   Term
 ///     Label           Caption
 ///     RichTextbox     TextRTF, of which the plain text is edited
+///     ctl_QVInput     Text of the field that it holds, and then its rules count for that
 ///     anything else   TEXT
 ///
 /// The control is held weakly, and nothing is raised: one that has gone, that has no such property or that
@@ -41,6 +42,9 @@ public:
     String passwordChar() const;
 
 private:
+    /// The control, or the field within it in which the text stands.
+    ObjectPtr edited() const;
+
     std::weak_ptr<Object> target_;
 };
 
