@@ -1,3 +1,4 @@
+#include "dialogs/ctl_QVInput.h"
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
 #include "gallery/GalleryFont.h"
@@ -8,6 +9,7 @@
 #include "visual/ScrollBar.h"
 #include "visual/TextBox.h"
 #include "visual/ctl_Button.h"
+#include "visual/ctl_Label.h"
 
 namespace gallery
 {
@@ -229,11 +231,71 @@ Exhibit listView()
          })});
 }
 
+/// The field, and below it the value of which it tells.
+ObjectPtr buildNumberField(Stage& stage)
+{
+    const PixelRectangle middle = stage.middle({260, 44});
+    const auto field = stage.put<ctl_QVInput>(middle);
+    field->Font(galleryFont(14));
+    const auto value = stage.put<ctl_Label>({middle.left, middle.bottom() + 16, middle.width, 30});
+    value->Font(galleryFont(11));
+    value->ForeColor(colours::Ink);
+    stage.keep(field->CHANGED.connect(
+        [value](const Variant& now) { value->Caption(say(u"Neuer Wert: |New value: ") + now.toText()); }));
+    return field;
+}
+
+Exhibit numberField()
+{
+    const auto number = [](ctl_QVInput& field, double value) {
+        field.TEXT(say(u"Masse in g|Mass in g"));
+        field.MODE(ID_InputMode_Double);
+        field.DIGITS(3);
+        field.VALUE(value);
+    };
+    return {Group::Input,
+            u"ctl_QVInput",
+            u"Ein Feld für eine Zahl oder einen Text, im Touch-Modus mit Tastatur.|"
+            u"A field for a number or a text, with a keyboard in touch mode.",
+            buildNumberField,
+            {sample<ctl_QVInput>(u"Ganze Zahl|Whole number", [](ctl_QVInput& field) { field.VALUE(12); }),
+             sample<ctl_QVInput>(u"Mit Stellen|Decimals", [=](ctl_QVInput& field) { number(field, 18.015); }),
+             sample<ctl_QVInput>(u"1 bis 6|1 to 6",
+                                 [](ctl_QVInput& field) {
+                                     field.TEXT(say(u"Augen eines Würfels|Spots of a die"));
+                                     field.MIN(1);
+                                     field.MAX(6);
+                                     field.VALUE(7);
+                                 }),
+             sample<ctl_QVInput>(u"Text|Text",
+                                 [](ctl_QVInput& field) {
+                                     field.TEXT(say(u"Ein Element|An element"));
+                                     field.MODE(ID_InputMode_Text);
+                                     field.VALUE(say(Elements[0]));
+                                 }),
+             sample<ctl_QVInput>(u"Wie getippt|As typed",
+                                 [=](ctl_QVInput& field) {
+                                     number(field, 0);
+                                     field.AsTyped(true);
+                                     field.input().Text(say(u"98,1|98.1"));
+                                 }),
+             sample<ctl_QVInput>(u"Nur lesen|Read only",
+                                 [=](ctl_QVInput& field) {
+                                     number(field, 18.015);
+                                     field.input().Locked(true);
+                                 }),
+             sample<ctl_QVInput>(u"Gesperrt|Disabled", [=](ctl_QVInput& field) {
+                 number(field, 18.015);
+                 field.Enabled(false);
+             })}};
+}
+
 } // namespace
 
 std::vector<Exhibit> inputExhibits()
 {
     return {textBox(),
+            numberField(),
             richTextBox(),
             button(),
             listBox(),

@@ -117,7 +117,7 @@ TEST_F(CatalogueTest, ShowsEveryControlOfTheSystem)
           u"Timer",           u"Form",          u"ctl_Button",  u"ctl_CmdBar",   u"ctl_UICommandbar",
           u"ctl_Title",       u"ctl_Frame",     u"ctl_Pannel",  u"ctl_Gradient", u"ctl_Label",
           u"ctl_ReEvent",     u"ctl_TermLabel", u"ctl_Mark",    u"frm_Fade",     u"ListView",
-          u"frm_DialogSound", u"ctl_Bubble",    u"ctl_DrAtom"}) {
+          u"frm_DialogSound", u"ctl_Bubble",    u"ctl_DrAtom",  u"ctl_QVInput"}) {
         const bool scrollBar = name == u"ScrollBar";
         EXPECT_TRUE(shown.contains(String(name)) || (scrollBar && shown.contains(u"VScrollBar")))
             << phial::toUtf8(name);
