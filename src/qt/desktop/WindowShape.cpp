@@ -19,49 +19,78 @@ namespace phial::qt
 namespace
 {
 
-bool liesOn(const QRect& above, const QRect& below)
+/// Pixels of a row, from `start` to before `end`.
+struct Run {
+    int start;
+    int end;
+};
+
+// Without leaving early, so that the compiler looks at many pixels at once.
+template <typename Condition>
+bool holdsAlong(const QRgb* row, int start, int end, Condition condition)
 {
-    return above.left() == below.left() && above.right() == below.right() &&
-           above.bottom() + 1 == below.top();
+    bool holds = true;
+    for (int x = start; x < end; ++x) {
+        holds &= condition(row[x]);
+    }
+    return holds;
 }
 
-// The runs of a row for which the condition holds, each one pixel high.
+// Whether the condition holds in the runs and nowhere else in the row.
 template <typename Condition>
-std::vector<QRect> runsOf(const QImage& image, int y, Condition condition)
+bool holdsInRuns(const QRgb* row, int width, const std::vector<Run>& runs, Condition condition)
 {
-    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-    std::vector<QRect> runs;
-    for (int x = 0; x < image.width(); ++x) {
+    int beyond = 0;
+    for (const Run& run : runs) {
+        const auto fails = [condition](QRgb pixel) { return !condition(pixel); };
+        if (!holdsAlong(row, beyond, run.start, fails) || !holdsAlong(row, run.start, run.end, condition)) {
+            return false;
+        }
+        beyond = run.end;
+    }
+    return holdsAlong(row, beyond, width, [condition](QRgb pixel) { return !condition(pixel); });
+}
+
+template <typename Condition>
+std::vector<Run> runsOf(const QRgb* row, int width, Condition condition)
+{
+    std::vector<Run> runs;
+    for (int x = 0; x < width; ++x) {
         const int start = x;
-        while (x < image.width() && condition(row[x])) {
+        while (x < width && condition(row[x])) {
             ++x;
         }
         if (x > start) {
-            runs.emplace_back(start, y, x - start, 1);
+            runs.push_back({start, x});
         }
     }
     return runs;
 }
 
-// The pixels for which the condition holds, as a region. It takes bands from above to below; rows with the
-// same runs make one band.
+// The pixels within that size for which the condition holds, as a region. It takes bands from above to below;
+// rows with the same runs make one band, and most rows are like the one above.
 template <typename Condition>
-QRegion regionWhere(const QImage& image, Condition condition)
+QRegion regionWhere(const QImage& image, QSize size, Condition condition)
 {
+    const int width = std::min(size.width(), image.width());
+    const int height = std::min(size.height(), image.height());
     std::vector<QRect> bands;
-    std::size_t last = 0; // where the band above the row begins
-    for (int y = 0; y < image.height(); ++y) {
-        const std::vector<QRect> runs = runsOf(image, y, condition);
-        const bool goesOn = !runs.empty() && std::equal(bands.begin() + static_cast<std::ptrdiff_t>(last),
-                                                        bands.end(), runs.begin(), runs.end(), liesOn);
-        if (goesOn) {
-            std::for_each(bands.begin() + static_cast<std::ptrdiff_t>(last), bands.end(),
-                          [y](QRect& run) { run.setBottom(y); });
-        } else {
-            last = bands.size();
-            bands.insert(bands.end(), runs.begin(), runs.end());
+    std::vector<Run> runs;
+    int top = 0; // of the present band
+    const auto endBand = [&](int bottom) {
+        for (const Run& run : runs) {
+            bands.emplace_back(QPoint(run.start, top), QPoint(run.end - 1, bottom - 1));
+        }
+        top = bottom;
+    };
+    for (int y = 0; y < height; ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        if (!holdsInRuns(row, width, runs, condition)) {
+            endBand(y);
+            runs = runsOf(row, width, condition);
         }
     }
+    endBand(height);
     QRegion region;
     region.setRects(bands.data(), static_cast<int>(bands.size()));
     return region;
@@ -75,19 +104,23 @@ QRegion solidByColour(QWidget& inside, Colour key)
     QImage shown(inside.size(), QImage::Format_ARGB32_Premultiplied);
     shown.fill(Qt::transparent);
     inside.render(&shown, QPoint(), QRegion(), QWidget::DrawChildren);
-    return regionWhere(shown, [hole = toQColor(key).rgb()](QRgb pixel) {
+    return regionWhere(shown, shown.size(), [hole = toQColor(key).rgb()](QRgb pixel) {
         return pixel != hole && qAlpha(pixel) >= LeastOfSoft;
     });
 }
 
 QRegion solidByPicture(const QWidget& inside, const Picture& mask, int leastAlpha)
 {
+    const auto isSolid = [leastAlpha](QRgb pixel) { return qAlpha(pixel) >= leastAlpha; };
+    if (mask.pixelRatio() == 1) {
+        return regionWhere(imageOf(mask), inside.size(), isSolid);
+    }
     QImage shown(inside.size(), QImage::Format_ARGB32_Premultiplied);
     shown.fill(Qt::transparent);
     QPainter painter(&shown);
     painter.drawImage(QPointF(0, 0), imageForPainting(mask));
     painter.end();
-    return regionWhere(shown, [leastAlpha](QRgb pixel) { return qAlpha(pixel) >= leastAlpha; });
+    return regionWhere(shown, shown.size(), isSolid);
 }
 
 #if QT_CONFIG(xcb)
