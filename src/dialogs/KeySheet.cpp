@@ -138,6 +138,7 @@ void KeySheet::paint()
         painter_.paint(device, looks_[at]);
     }
     isPainted_ = true;
+    stale_.clear();
 }
 
 void KeySheet::paintLight(std::span<const std::int32_t> lit)
@@ -172,46 +173,58 @@ void KeySheet::paintStrip(const VariantStrip& strip)
     }
 }
 
-std::vector<std::size_t> KeySheet::changes()
+bool KeySheet::refresh()
 {
-    std::vector<std::size_t> stale;
     if (!isPainted_) {
-        return stale;
+        return false;
     }
     const auto keys = board_->keys();
+    std::optional<PixelRectangle> changed;
     for (std::size_t at = 0; at < keys.size(); ++at) {
         KeyLook look = looks_[at];
         take(look, keys[at]);
         if (!(look == looks_[at])) {
             looks_[at] = std::move(look);
-            stale.push_back(at);
+            changed = changed ? changed->united(looks_[at].area) : looks_[at].area;
+            if (std::ranges::find(stale_, at) == stale_.end()) {
+                stale_.push_back(at);
+            }
         }
     }
-    return stale;
+    if (changed) {
+        surface_.drawLater(areaAround(*changed), [this] { repaint(); });
+    }
+    return changed.has_value();
 }
 
-void KeySheet::repaint(std::span<const std::size_t> stale)
+/// With the keys whose boxes meet it.
+PixelRectangle KeySheet::areaAround(const PixelRectangle& area) const
 {
-    std::vector<const KeyLook*> painted;
-    PixelRectangle area = looks_.at(stale.front()).area;
+    PixelRectangle all = area;
     for (const KeyLook& look : looks_) {
-        const auto meetsLook = [&](std::size_t at) { return look.area.meets(looks_[at].area); };
-        if (std::ranges::any_of(stale, meetsLook)) {
-            painted.push_back(&look);
-            area = area.united(look.area);
+        if (look.area.meets(area)) {
+            all = all.united(look.area);
         }
     }
-    surface_.drawWithin(area, [&] {
-        DrawDevice& device = surface_.device();
-        for (const std::size_t at : stale) {
-            const PixelRectangle& erased = looks_[at].area;
-            device.Line(erased.left, erased.top, erased.right() - 1, erased.bottom() - 1,
-                        surface_.BackColor(), LineShape::Filled);
+    return all;
+}
+
+/// Those that have changed, and whatever their boxes meet.
+void KeySheet::repaint()
+{
+    DrawDevice& device = surface_.device();
+    for (const std::size_t at : stale_) {
+        const PixelRectangle& erased = looks_[at].area;
+        device.Line(erased.left, erased.top, erased.right() - 1, erased.bottom() - 1, surface_.BackColor(),
+                    LineShape::Filled);
+    }
+    for (const KeyLook& look : looks_) {
+        const auto meetsLook = [&](std::size_t at) { return look.area.meets(looks_[at].area); };
+        if (std::ranges::any_of(stale_, meetsLook)) {
+            painter_.paint(device, look);
         }
-        for (const KeyLook* look : painted) {
-            painter_.paint(device, *look);
-        }
-    });
+    }
+    stale_.clear();
 }
 
 } // namespace phial

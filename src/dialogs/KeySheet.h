@@ -40,16 +40,16 @@ public:
     /// A frame around the keys of a row, from the first to the last.
     void paintLight(std::span<const std::int32_t> lit);
     void paintStrip(const VariantStrip& strip);
-    /// Takes over what keys look like now. Gives those that have changed since they were painted, by their
-    /// position in the layout; none as long as nothing was painted.
-    std::vector<std::size_t> changes();
-    /// Paints these again, and whatever their boxes meet.
-    void repaint(std::span<const std::size_t> stale);
+    /// Takes over what keys look like now, and has those painted again that have changed when they are next
+    /// seen. Gives whether some have; as long as nothing was painted none has.
+    bool refresh();
 
 private:
     void place();
     KeyLook placed(const KeyDesign& key) const;
     void take(KeyLook& look, const KeyDesign& key) const;
+    PixelRectangle areaAround(const PixelRectangle& area) const;
+    void repaint();
     std::size_t positionOf(std::int32_t index) const;
 
     PaintSurface& surface_;
@@ -60,6 +60,7 @@ private:
     double ratio_ = 1;           ///< pixels of the device in one of the surface, as last painted
     std::vector<KeyLook> looks_; ///< in the order of the keys, as they were painted last
     bool isPainted_ = false;
+    std::vector<std::size_t> stale_; ///< that look otherwise than they are painted
 };
 
 } // namespace phial

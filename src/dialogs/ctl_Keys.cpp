@@ -396,15 +396,12 @@ void ctl_Keys::paint()
 
 void ctl_Keys::refresh()
 {
-    const auto stale = sheet_.changes();
-    if (stale.empty()) {
+    if (!sheet_.refresh()) {
         return;
     }
     frame_.report(ControlAspect::Accessibility);
     if (strip_ || scan_) { // they lie on keys
         surface_.invalidate();
-    } else {
-        sheet_.repaint(stale);
     }
 }
 

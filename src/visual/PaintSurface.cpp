@@ -5,6 +5,8 @@
 #include "visual/UserControl.h"
 #include "visual/VisualHost.h"
 
+#include <utility>
+
 namespace phial
 {
 
@@ -45,6 +47,8 @@ PicturePtr PaintSurface::image(double pixelRatio)
     followTheme();
     if (!painted_ && !painting_) {
         paintControl();
+    } else if (later_ && !painting_) {
+        paintBy(std::exchange(later_, nullptr));
     }
     reported_ = false;
     return backend_->picture();
@@ -52,18 +56,24 @@ PicturePtr PaintSurface::image(double pixelRatio)
 
 void PaintSurface::paintControl()
 {
-    painting_ = true;
     painted_ = true;
     paintedIn_ = coreTheme().changes();
     isDrawnUpon_ = false;
+    later_ = nullptr;
+    paintBy([this] { control_.paint(); });
+    painted_ = true; // whatever a setter within the painting has asked for is done
+}
+
+void PaintSurface::paintBy(const std::function<void()>& drawing)
+{
+    painting_ = true;
     try {
-        control_.paint();
+        drawing();
     } catch (...) {
         painting_ = false;
         throw;
     }
     painting_ = false;
-    painted_ = true; // whatever a setter within the painting has asked for is done
 }
 
 /// What a program has drawn on a control that keeps it stays as it is.
@@ -117,6 +127,14 @@ void PaintSurface::drawWithin(const PixelRectangle& area, const std::function<vo
     }
     isDrawingPart_ = false;
     if (hasDrawnPart_ && !painting_ && !reported_) {
+        reportPart(area);
+    }
+}
+
+void PaintSurface::drawLater(const PixelRectangle& area, std::function<void()> drawing)
+{
+    later_ = std::move(drawing);
+    if (!painting_ && !reported_) {
         reportPart(area);
     }
 }

@@ -38,6 +38,9 @@ public:
     /// Draws what changes nothing outside of that area (in pixels of the image), so that no more of the
     /// control need be shown anew.
     void drawWithin(const PixelRectangle& area, const std::function<void()>& drawing);
+    /// Likewise, once the image is next needed; then one drawing does for several changes. The last one given
+    /// draws, and all of it is left out where the control is painted anew by then.
+    void drawLater(const PixelRectangle& area, std::function<void()> drawing);
     /// For an adapter that is told of another picture: what of the control (in its pixels) has changed.
     PixelRectangle changedPart() const;
     /// Gives the image's memory back while the control is not seen; a control that keeps what is drawn keeps
@@ -79,6 +82,7 @@ private:
     void remake(double pixelRatio);
     void followTheme();
     void paintControl();
+    void paintBy(const std::function<void()>& drawing);
 
     UserControl& control_;
     DrawDevice device_;
@@ -86,6 +90,7 @@ private:
     std::optional<PixelRectangle> part_; ///< none: everything
     PixelSize madeFor_;
     double ratio_ = 0;                      ///< 0: not known yet
+    std::function<void()> later_;           ///< set while a part is to be drawn when the image is needed
     std::optional<PixelRectangle> changed_; ///< set while a change of this part alone is told
     bool painting_ = false;
     bool painted_ = false;

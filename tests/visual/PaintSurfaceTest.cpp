@@ -184,6 +184,53 @@ TEST_F(PaintedControls, DrawingInAPartThatFailsHasChangedEverything)
     EXPECT_THAT(peer.changed, ElementsAre(AllOfTheBox, part));
 }
 
+TEST_F(PaintedControls, WhatIsDrawnLaterIsToldAtOnceAndDrawnOnce)
+{
+    box->surface().image(1);
+    PartPeer peer(*box);
+    const PixelRectangle one{2, 3, 4, 5};
+    const PixelRectangle other{8, 0, 2, 2};
+    std::vector<int> drawings;
+    box->surface().drawLater(one, [&] { drawings.push_back(1); });
+    box->surface().drawLater(other, [&] {
+        drawings.push_back(2);
+        box->device().Line(2, 3, 9, 7, QBColor(12));
+    });
+    EXPECT_THAT(peer.changed, ElementsAre(one, other));
+    EXPECT_THAT(drawings, IsEmpty());
+    box->surface().image(1);
+    box->surface().image(1);
+    EXPECT_THAT(drawings, ElementsAre(2)) << "the last one draws for both";
+    EXPECT_THAT(peer.changed, ElementsAre(one, other)) << "what was told has been drawn";
+}
+
+TEST_F(PaintedControls, NothingIsDrawnLaterUponWhatIsPaintedAnew)
+{
+    box->AutoRedraw(false);
+    box->surface().image(1);
+    PartPeer peer(*box);
+    int drawings = 0;
+    box->surface().invalidate();
+    box->surface().drawLater({2, 3, 4, 5}, [&] { ++drawings; });
+    box->surface().image(1);
+    EXPECT_EQ(drawings, 0);
+    EXPECT_THAT(peer.changed, ElementsAre(AllOfTheBox)) << "which is told once";
+    box->surface().drawLater({2, 3, 4, 5}, [&] { ++drawings; });
+    box->surface().image(2);
+    EXPECT_EQ(drawings, 0) << "painted at another ratio";
+}
+
+TEST_F(PaintedControls, DrawingLaterThatFailsIsNotTriedAgain)
+{
+    box->surface().image(1);
+    box->surface().drawLater({1, 1, 2, 2}, [] { throw RuntimeError(ErrorNumber::InvalidArgument); });
+    EXPECT_RAISES(box->surface().image(1), InvalidArgument);
+    PartPeer peer(*box);
+    EXPECT_NO_THROW(box->surface().image(1));
+    box->device().Line(1, 1, 2, 2, QBColor(12));
+    EXPECT_THAT(peer.changed, ElementsAre(AllOfTheBox)) << "what is drawn after it is told";
+}
+
 TEST_F(PaintedControls, AChangedPartCountsFromTheControlsCornerWhereOneSectionIsShown)
 {
     box->AutoRedraw(false);
