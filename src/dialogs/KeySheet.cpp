@@ -82,15 +82,22 @@ KeyLook KeySheet::placed(const KeyDesign& key) const
     return look;
 }
 
-/// What changes of a look while one types.
-void KeySheet::take(KeyLook& look, const KeyDesign& key) const
+/// What changes of a look while one types. Gives whether it has.
+bool KeySheet::take(KeyLook& look, const KeyDesign& key) const
 {
-    look.face = board_->face(key.index);
-    if (look.face.text.find(u'|') != String::npos) {
-        look.face.text = LNG()->TRANSLATEAUTO(look.face.text);
+    KeyFace face = board_->face(key.index);
+    if (face.text.find(u'|') != String::npos) {
+        face.text = LNG()->TRANSLATEAUTO(face.text);
     }
-    look.state = board_->state(key.index);
-    look.isPressed = hand_->isDown(key.index) && !board_->modifier(key.index);
+    const KeyState state = board_->state(key.index);
+    const bool isPressed = hand_->isDown(key.index) && !board_->modifier(key.index);
+    if (face == look.face && state == look.state && isPressed == look.isPressed) {
+        return false;
+    }
+    look.face = std::move(face);
+    look.state = state;
+    look.isPressed = isPressed;
+    return true;
 }
 
 void KeySheet::place()
@@ -181,10 +188,7 @@ bool KeySheet::refresh()
     const auto keys = board_->keys();
     std::optional<PixelRectangle> changed;
     for (std::size_t at = 0; at < keys.size(); ++at) {
-        KeyLook look = looks_[at];
-        take(look, keys[at]);
-        if (!(look == looks_[at])) {
-            looks_[at] = std::move(look);
+        if (take(looks_[at], keys[at])) {
             changed = changed ? changed->united(looks_[at].area) : looks_[at].area;
             if (std::ranges::find(stale_, at) == stale_.end()) {
                 stale_.push_back(at);

@@ -47,7 +47,7 @@ public:
 private:
     void place();
     KeyLook placed(const KeyDesign& key) const;
-    void take(KeyLook& look, const KeyDesign& key) const;
+    bool take(KeyLook& look, const KeyDesign& key) const;
     PixelRectangle areaAround(const PixelRectangle& area) const;
     void repaint();
     std::size_t positionOf(std::int32_t index) const;

@@ -90,13 +90,10 @@ void frm_DialogKeyboard::connect()
     form_.on(keys_->CLICK, [this](std::int32_t index) {
         if (!window_.isDragged()) { // by another finger
             ignoringErrors([&] { perform(keys_->board().click(index)); });
-            keys_->refresh();
         }
     });
-    form_.on(keys_->VARIANT, [this](const String& text) {
-        ignoringErrors([&] { perform(keys_->board().type(text)); });
-        keys_->refresh();
-    });
+    form_.on(keys_->VARIANT,
+             [this](const String& text) { ignoringErrors([&] { perform(keys_->board().type(text)); }); });
 }
 
 /// Escape gives up with modifiers too, which the form's cancel control does not hear. A field of one line
