@@ -1,5 +1,6 @@
 #include "dialogs/ctl_Keys.h"
 #include "dialogs/frm_DialogKeyboard.h"
+#include "dialogs/frm_DialogNumericTouch.h"
 #include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
@@ -28,6 +29,13 @@ constexpr std::int32_t AltKey = 51;
 constexpr std::int32_t SymKey = 52;
 constexpr std::int32_t EnterKey = 58;
 
+// Keys of the pad for numbers.
+constexpr std::int32_t PadSwap = 0;
+constexpr std::int32_t PadOne = 1;
+constexpr std::int32_t PadSeven = 7;
+constexpr std::int32_t PadOk = 11;
+constexpr std::int32_t PadSign = 45;
+
 constexpr std::int32_t ScanStep = 1500; // milliseconds
 
 constexpr double FieldWidth = 340;
@@ -36,12 +44,13 @@ constexpr double FieldTop = 74;
 constexpr double FieldGap = 6;
 
 /// A press on the field asks for its text as in touch mode.
+template <typename InputForm>
 void asksByPress(Stage& stage, const ControlPtr& field, Event<>& pressed)
 {
     stage.keep(pressed.connect([target = std::weak_ptr<Control>(field)] {
-        frm_DialogKeyboard keyboard;
-        keyboard.TargetControl(target.lock());
-        keyboard.Show();
+        InputForm form;
+        form.TargetControl(target.lock());
+        form.Show();
     }));
 }
 
@@ -57,37 +66,62 @@ ControlPtr putFields(Stage& stage)
     const auto box = stage.put<TextBox>(place(36));
     box->Font(galleryFont(13));
     box->Text(say(u"Ein Textfeld|A text field"));
-    asksByPress(stage, box, box->Click);
+    asksByPress<frm_DialogKeyboard>(stage, box, box->Click);
     const auto lines = stage.put<TextBox>(place(56));
     lines->Font(galleryFont(11));
     lines->MultiLine(true);
     lines->Text(say(u"Mehrere|Several") + u"\r\n" + say(u"Zeilen|lines"));
-    asksByPress(stage, lines, lines->Click);
+    asksByPress<frm_DialogKeyboard>(stage, lines, lines->Click);
     const auto label = stage.put<Label>(place(24));
     label->Font(galleryFont(13));
     label->ForeColor(colours::Ink);
     label->Caption(say(u"Eine Beschriftung|A label"));
-    asksByPress(stage, label, label->Click);
+    asksByPress<frm_DialogKeyboard>(stage, label, label->Click);
     const auto rich = stage.put<RichTextBox>(place(36));
     rich->Font(galleryFont(11));
     rich->Text(say(u"Formatierter Text|Rich text"));
-    asksByPress(stage, rich, rich->Click);
+    asksByPress<frm_DialogKeyboard>(stage, rich, rich->Click);
     const auto term = stage.put<clt_TermInput>(place(36));
     term->Term(u"2H2 + O2 -> 2H2O");
-    asksByPress(stage, term, term->CLICK);
+    asksByPress<frm_DialogKeyboard>(stage, term, term->CLICK);
     return label;
 }
 
-/// The keyboard without its modal wait, so that the gallery goes on.
+void putWindowNote(Stage& stage, StringView both)
+{
+    putNote(stage, {24, 4, stage.size().width - 48, NoteHeight}, both);
+}
+
+/// The form without its modal wait, so that the gallery goes on.
+template <typename InputForm>
+ObjectPtr asExhibit(Stage& stage, const std::shared_ptr<InputForm>& form)
+{
+    stage.atEnd([form] { form->form().discard(); });
+    return form->form().shared_from_this();
+}
+
 ObjectPtr buildKeyboard(Stage& stage)
 {
-    putNote(stage, {24, 4, stage.size().width - 48, NoteHeight},
-            u"Der Knopf unten öffnet die Tastatur, ein Druck auf ein Feld auch.|"
-            u"The button below opens the keyboard, and so does a press on a field.");
+    putWindowNote(stage, u"Der Knopf unten öffnet die Tastatur, ein Druck auf ein Feld auch.|"
+                         u"The button below opens the keyboard, and so does a press on a field.");
     const auto keyboard = std::make_shared<frm_DialogKeyboard>();
     keyboard->TargetControl(putFields(stage));
-    stage.atEnd([keyboard] { keyboard->form().discard(); });
-    return keyboard->form().shared_from_this();
+    return asExhibit(stage, keyboard);
+}
+
+ObjectPtr buildPad(Stage& stage)
+{
+    putWindowNote(stage, u"Der Knopf unten öffnet den Zahlenblock, ein Druck auf das Feld auch. Wer woanders "
+                         u"hintippt, bestätigt.|"
+                         u"The button below opens the number pad, and so does a press on the field. A tap "
+                         u"elsewhere confirms.");
+    const auto box = stage.put<TextBox>({(stage.size().width - FieldWidth) / 2, FieldTop, FieldWidth, 36});
+    box->Font(galleryFont(13));
+    box->Text(say(u"18,015|18.015"));
+    asksByPress<frm_DialogNumericTouch>(stage, box, box->Click);
+    const auto pad = std::make_shared<frm_DialogNumericTouch>();
+    pad->TargetControl(box);
+    return asExhibit(stage, pad);
 }
 
 /// Opens it, and does something with its keys.
@@ -143,6 +177,28 @@ std::vector<Sample> keySamples()
     };
 }
 
+std::vector<Sample> padSamples()
+{
+    return {
+        sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+        sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); }),
+        struck(u"Getippt|Typed", {PadSeven, PadSign, PadOne, PadSwap}),
+        opened(u"Gedrückt|Pressed",
+               [](Form&, ctl_Keys& keys) {
+                   const PixelRectangle area = keys.areaOf(PadOk);
+                   keys.pointerDown({PointerButton::Left, 0, area.left + 2, area.bottom() - 2});
+               }),
+        opened(u"Abtasten|Scan",
+               [](Form&, ctl_Keys& keys) {
+                   keys.scanInterval(ScanStep);
+                   strike(keys, PadSeven);
+               }),
+        struck(u"Lange Zahl|Long number", {PadOne, PadSign, PadSeven, PadSeven, PadSeven, PadSeven, PadSeven,
+                                           PadSeven, PadSeven, PadSeven, PadSeven, PadSeven, PadOne}),
+        withField(u"Gesperrt|Read only", [](TextBox& field) { field.Locked(true); }),
+    };
+}
+
 std::vector<Sample> fieldSamples()
 {
     return {
@@ -172,6 +228,8 @@ std::vector<Exhibit> keyboardExhibits()
     return {{Group::Windows, u"frm_DialogKeyboard",
              u"Die Tastatur für Texte im Tipp-Modus.|The keyboard for texts in touch mode.", buildKeyboard,
              keySamples()},
+            {Group::Windows, u"frm_DialogNumericTouch",
+             u"Der Zahlenblock im Tipp-Modus.|The number pad in touch mode.", buildPad, padSamples()},
             {Group::Windows, u"ctl_Keys",
              u"Die Tasten für einen einzelnen Schalter, und das Feld darüber.|"
              u"The keys for a single switch, and the field above them.",

@@ -9,7 +9,7 @@ namespace phial::dialog_numeric_touch_design
 {
 
 inline constexpr ControlDesign Controls[] = {
-    design<TextBox>(u"txt_Input", {17, 64, 188, 46})
+    design<TextBox>(u"txt_Input", {17, 67, 188, 42})
         .font(20)
         .ink(Palette::Ink)
         .ground(Palette::Field)
