@@ -18,6 +18,7 @@ public:
     /// Keys by their place, as the server numbers them.
     enum Key : unsigned {
         Escape = 9,
+        Five = 14,
         SharpS = 20,
         Tab = 23,
         Q = 24,

@@ -12,6 +12,7 @@
 #include "qt/desktop/SystemBox.h"
 #include "qt/desktop/WindowHandles.h"
 #include "qt/desktop/WindowShape.h"
+#include "visual/VisualHost.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -228,11 +229,23 @@ void FormWindow::showShape()
     }
 }
 
+/// Whether the form waits for a dialog that the desktop has not brought to the front yet. When one dialog
+/// follows another, the desktop puts the form below in front for a moment, and tells it late.
+bool FormWindow::isBehindFreshDialog(const Form& form)
+{
+    const auto modal = visualHost().forms().innermostModal();
+    const auto* dialog = modal ? qobject_cast<const FormWindow*>(widgetOf(modal->hWnd())) : nullptr;
+    return dialog && modal.get() != &form && dialog->open_ && !dialog->wasActive_;
+}
+
 bool FormWindow::event(QEvent* event)
 {
     const auto self = form_; // handlers may close the window
     if (event->type() == QEvent::WindowActivate && open_) {
-        dispatch([&] { self->inputActivate(); });
+        wasActive_ = true;
+        if (!isBehindFreshDialog(*self)) {
+            dispatch([&] { self->inputActivate(); });
+        }
     } else if (event->type() == QEvent::WindowDeactivate && open_ && !SystemBox::isOpen()) {
         dispatch([&] { self->inputDeactivate(); });
     }

@@ -53,6 +53,7 @@ protected:
 
 private:
     static Qt::WindowFlags flagsFor(const Form& form);
+    static bool isBehindFreshDialog(const Form& form);
 
     void showAll();
     void show(FormAspect aspect);
@@ -82,7 +83,8 @@ private:
     QTimer settling_; ///< runs while what the desktop says of the state may be late
     bool soft_;
     bool open_ = false;
-    bool showing_ = false; ///< the model is being shown; what the window says of itself is an echo
+    bool wasActive_ = false; ///< since it was opened
+    bool showing_ = false;   ///< the model is being shown; what the window says of itself is an echo
     bool shapeScheduled_ = false;
 };
 
