@@ -525,6 +525,20 @@ TEST_F(DialogNumericTouch, ADragTypesNothing)
     EXPECT_EQ(target->Text(), u"25");
 }
 
+TEST_F(DialogNumericTouch, ThePointerGoesOnWithoutItBehindATap)
+{
+    outside.display().moveCursor(960, 540);
+    open(box(u"25"));
+    const double left = pad.form().Left();
+    const PixelPoint at = middle(pad_keys::Five);
+    keyPad()->pointerDown({PointerButton::Left, 0, at.x, at.y});
+    keyPad()->pointerUp({PointerButton::Left, 0, at.x, at.y});
+    outside.display().moveCursor(1200, 540);
+    outside.advance(0.1);
+    EXPECT_EQ(pad.form().Left(), left);
+    EXPECT_EQ(input()->Text(), u"5");
+}
+
 TEST_F(DialogNumericTouch, APressThatMovesTenPixelsIsAClick)
 {
     open(box(u"25"));

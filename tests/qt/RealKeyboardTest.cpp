@@ -41,12 +41,16 @@ protected:
     /// Between the keys' plate and the window's edge, where nothing is but the window.
     QPoint plate() { return window().mapToGlobal(QPoint(window().width() / 2, 4)); }
 
+    /// It is over before the pointer goes on, which would be a drag.
     void tap(std::int32_t index)
     {
         const auto keys = keyboard_.form().control<ctl_Keys>(u"ctl_Keys");
+        bool isOver = false;
+        const Connection released = keys->RELEASED.connect([&](std::int32_t) { isOver = true; });
         const PixelRectangle area = keys->areaOf(index);
         desk_.click(widgetOf(*keys).mapToGlobal(
             QPointF(area.left + area.width / 2, area.top + area.height / 2).toPoint()));
+        EXPECT_TRUE(eventually([&] { return isOver; }));
     }
     QRect screen() { return QGuiApplication::primaryScreen()->geometry(); }
     QRect place() { return window().frameGeometry(); }

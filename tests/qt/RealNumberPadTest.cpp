@@ -116,10 +116,15 @@ protected:
         return onDesktop(widgetOf(*keys),
                          QPointF(area.left + area.width / 2, area.top + area.height / 2).toPoint());
     }
+    /// Each tap is over before the pointer goes on, which would be a drag.
     void tap(std::initializer_list<std::int32_t> indices)
     {
         for (const std::int32_t index : indices) {
+            bool isOver = false;
+            const Connection released =
+                pad()->control<ctl_Keys>(u"ctl_Keys")->RELEASED.connect([&](std::int32_t) { isOver = true; });
             desk_.click(placeOf(index));
+            EXPECT_TRUE(eventually([&] { return isOver; }));
         }
     }
     static std::shared_ptr<TextBox> input() { return pad()->control<TextBox>(u"txt_Input"); }
