@@ -1,24 +1,29 @@
 // The text keyboard in a real window drawn into memory: opened with the first paint, all faces changed by
 // SHIFT, a tap until its character is painted, and a step of a drag; beside a QLineEdit with 60 QPushButtons
-// in the same look, and beside the same keyboard made of a picture and a label for each key.
+// in the same look, and beside the same keyboard made of a picture and a label for each key. The pad for
+// numbers opened, beside a QDialog with a QLineEdit and its 15 QPushButtons.
 
 #include "BenchSession.h"
 #include "PaintWatch.h"
 #include "dialogs/KeyPainter.h"
+#include "dialogs/NumberLayout.h"
 #include "dialogs/TextLayout.h"
 #include "dialogs/frm_DialogKeyboard.h"
+#include "dialogs/frm_DialogNumericTouch.h"
 #include "visual/Form.h"
 #include "visual/Label.h"
 #include "visual/PictureBox.h"
 #include "visual/TextBox.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
 #include <benchmark/benchmark.h>
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace
@@ -104,6 +109,22 @@ public:
     std::vector<std::shared_ptr<Label>> labels;
 };
 
+/// A push button for each key, on the window.
+std::vector<QPushButton*> pushButtons(std::span<const KeyDesign> keys, QWidget& window)
+{
+    std::vector<QPushButton*> buttons;
+    for (const KeyDesign& key : keys) {
+        auto* button = new QPushButton(QString::fromStdU16String(String(key.caption)), &window);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setGeometry(static_cast<int>(key.left / TwipsPerPixel),
+                            static_cast<int>(key.top / TwipsPerPixel),
+                            static_cast<int>(key.width / TwipsPerPixel) - 4,
+                            static_cast<int>(key.height / TwipsPerPixel) - 4);
+        buttons.push_back(button);
+    }
+    return buttons;
+}
+
 /// The same as one would make it of the toolkit's widgets.
 class ButtonWindow
 {
@@ -112,15 +133,7 @@ public:
     {
         window.resize(static_cast<int>(WindowSize.width), static_cast<int>(WindowSize.height));
         field->setGeometry(15, static_cast<int>(FieldTop), 720, static_cast<int>(FieldHeight));
-        for (const KeyDesign& key : text_layout::Keys) {
-            auto* button = new QPushButton(QString::fromStdU16String(String(key.caption)), &window);
-            button->setFocusPolicy(Qt::NoFocus);
-            button->setGeometry(static_cast<int>(key.left / TwipsPerPixel),
-                                static_cast<int>(key.top / TwipsPerPixel),
-                                static_cast<int>(key.width / TwipsPerPixel) - 4,
-                                static_cast<int>(key.height / TwipsPerPixel) - 4);
-            buttons.push_back(button);
-        }
+        buttons = pushButtons(text_layout::Keys, window);
         window.show();
     }
 
@@ -159,6 +172,39 @@ void buttonsOpen(benchmark::State& state)
     }
 }
 BENCHMARK(buttonsOpen)->Name("ButtonsOpen")->Unit(benchmark::kMillisecond);
+
+void padOpen(benchmark::State& state)
+{
+    PaintWatch watch;
+    const auto target = std::make_shared<TextBox>();
+    for (auto _ : state) {
+        {
+            frm_DialogNumericTouch pad;
+            pad.TargetControl(target);
+            pad.form().Show(); // not modal, so that the benchmark goes on
+            watch.finish();
+            pad.form().Unload();
+        }
+        PaintWatch::endClosed();
+    }
+}
+BENCHMARK(padOpen)->Name("PadOpen")->Unit(benchmark::kMillisecond);
+
+void padButtonsOpen(benchmark::State& state)
+{
+    constexpr PixelSize PadSize{222, 340};
+    PaintWatch watch;
+    for (auto _ : state) {
+        QDialog window;
+        window.resize(static_cast<int>(PadSize.width), static_cast<int>(PadSize.height));
+        auto* const field = new QLineEdit(&window);
+        field->setGeometry(17, 67, 188, 42);
+        pushButtons(number_layout::Keys, window);
+        window.show();
+        watch.finish();
+    }
+}
+BENCHMARK(padButtonsOpen)->Name("PadButtonsOpen")->Unit(benchmark::kMillisecond);
 
 void keyboardFaces(benchmark::State& state)
 {
