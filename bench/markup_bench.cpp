@@ -1,6 +1,6 @@
 // Texts with markup: parsed, set and drawn as a label does it, 100 of them, beside QTextDocument with the
-// same HTML; a format put on and taken off, and a repair, in a text of a page; and the dialog opened with its
-// first paint.
+// same HTML; a format put on and taken off, and a repair, in a text of a page; the dialog opened with its
+// first paint; and a character typed into a page in it.
 
 #include "BenchSession.h"
 #include "PaintWatch.h"
@@ -107,9 +107,29 @@ void openDialog(benchmark::State& state)
         dialog.form().Show(); // not modal, so that the benchmark goes on
         watch.finish();
         dialog.form().Unload();
+        PaintWatch::endClosed();
     }
 }
 BENCHMARK(openDialog)->Name("DialogOpen")->Unit(benchmark::kMillisecond);
+
+/// A character at the end of a page, until field and preview are painted.
+void typeWithPreview(benchmark::State& state)
+{
+    PaintWatch watch;
+    frm_DialogMiniHTML dialog;
+    dialog.pText(page());
+    dialog.form().Show();
+    watch.finish();
+    TextBox& field = dialog.form().control<ctl_MiniHTMLInput>(u"txt_Input")->input();
+    for (auto _ : state) {
+        field.SelStart(static_cast<std::int32_t>(field.Text().size()));
+        field.SelText(u"x");
+        watch.finish();
+    }
+    dialog.form().Unload();
+    PaintWatch::endClosed();
+}
+BENCHMARK(typeWithPreview)->Name("TypeWithPreview")->Unit(benchmark::kMillisecond);
 
 } // namespace
 
