@@ -45,9 +45,9 @@ void MarkupPreview::listenToPointer()
 {
     const auto listen = [this](auto& part, auto top) {
         connections_ +=
-            part.MouseDown.connect([this, top](const PointerEvent& event) { press(event.Y + top()); });
+            part.MouseDown.connect([this, top](const PointerEvent& event) { press(event, event.Y + top()); });
         connections_ +=
-            part.MouseMove.connect([this, top](const PointerEvent& event) { move(event, event.Y + top()); });
+            part.MouseMove.connect([this, top](const PointerEvent& event) { move(event.Y + top()); });
         connections_ += part.MouseUp.connect([this](const PointerEvent&) { hold_.reset(); });
     };
     listen(*parts_.holder, [] { return 0.0; });
@@ -88,9 +88,16 @@ void MarkupPreview::scrollTo(double value)
     parts_.bar->Value(toWhole(std::clamp(value, 0.0, static_cast<double>(parts_.bar->Max()))));
 }
 
-void MarkupPreview::move(const PointerEvent& event, double y)
+void MarkupPreview::press(const PointerEvent& event, double y)
 {
-    if (hold_ && event.Button == PointerButton::Left) {
+    if (event.Button == PointerButton::Left) {
+        hold_ = Hold{y, parts_.bar->Value()};
+    }
+}
+
+void MarkupPreview::move(double y)
+{
+    if (hold_) {
         scrollTo(hold_->value + hold_->y - y);
     }
 }

@@ -38,8 +38,8 @@ private:
     void fitBar();
     void bringIntoView(StringView before);
     void scrollTo(double value);
-    void press(double y) { hold_ = Hold{y, parts_.bar->Value()}; }
-    void move(const PointerEvent& event, double y);
+    void press(const PointerEvent& event, double y);
+    void move(double y);
     void turn(WheelEvent& event);
 
     Parts parts_;

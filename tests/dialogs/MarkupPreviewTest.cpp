@@ -51,6 +51,20 @@ TEST_F(MarkupPreviewTest, AShortTextHasNoBar)
     EXPECT_EQ(top(), 0);
 }
 
+TEST_F(MarkupPreviewTest, ATextThatJustFitsHasNoBar)
+{
+    field().Text(lines(3));
+    PixelRectangle place = holder->frame().pixelRectangle();
+    place.height = label->frame().pixelRectangle().height;
+    holder->frame().pixelRectangle(place);
+    write(0, u"x");
+    EXPECT_FALSE(bar->Visible());
+    place.height -= 1;
+    holder->frame().pixelRectangle(place);
+    write(0, u"x");
+    EXPECT_TRUE(bar->Visible());
+}
+
 TEST_F(MarkupPreviewTest, ALongTextIsShownWhereItIsChanged)
 {
     write(0, lines(60));
@@ -61,9 +75,14 @@ TEST_F(MarkupPreviewTest, ALongTextIsShownWhereItIsChanged)
     EXPECT_EQ(top(), end) << "the line is in view";
     write(0, u"x");
     EXPECT_EQ(top(), 0) << "its beginning";
-    write(static_cast<std::int32_t>(field().Text().size() / 2), u"x");
-    EXPECT_LT(top(), 0);
-    EXPECT_GT(bottom(), view());
+}
+
+TEST_F(MarkupPreviewTest, ALineBelowTheViewComesToItsFoot)
+{
+    field().Text(lines(60));
+    constexpr int Line = 30;
+    write(Line * static_cast<std::int32_t>(StringView(u"Zeile\r\n").size()), u"x");
+    EXPECT_DOUBLE_EQ(top() + (Line + 1) * bar->SmallChange(), view());
 }
 
 TEST_F(MarkupPreviewTest, ATextThatGetsShortComesBackWhole)
@@ -103,6 +122,14 @@ TEST_F(MarkupPreviewTest, IsDraggedByAFinger)
     EXPECT_EQ(top(), -60);
     label->pointerMove({PointerButton::None, 0, 20, 90});
     EXPECT_EQ(top(), -60) << "nothing is held any more";
+    headless::drag(*label, {20, 160}, {20, 130});
+    EXPECT_EQ(top(), -90);
+    headless::drag(*holder, {20, 100}, {20, 90});
+    EXPECT_EQ(top(), -100);
+    label->pointerDown({PointerButton::Right, 0, 20, 200});
+    label->pointerMove({PointerButton::Right, 0, 20, 150});
+    label->pointerUp({PointerButton::Right, 0, 20, 150});
+    EXPECT_EQ(top(), -100);
     headless::drag(*label, {20, 100}, {20, 900});
     EXPECT_EQ(top(), 0);
 }
