@@ -7,9 +7,11 @@
 #include "dialogs/DialogHelpImagesDesign.h"
 #include "dialogs/DialogKeyboardDesign.h"
 #include "dialogs/DialogMiniHTMLDesign.h"
+#include "dialogs/DialogNumericTouchDesign.h"
 #include "dialogs/frm_DialogHelpImages.h"
 #include "dialogs/frm_DialogKeyboard.h"
 #include "dialogs/frm_DialogMiniHTML.h"
+#include "dialogs/frm_DialogNumericTouch.h"
 #include "media/frm_AppMCI.h"
 #include "media/frm_DialogSound.h"
 #include "results/cls_DataScores.h"
@@ -115,6 +117,12 @@ inline std::vector<LibraryForm> libraryForms()
          .design = &dialog_mini_html_design::Design,
          .pairs = {u"Fett|Bold", u"Kursiv|Italic", u"Tief|Lower", u"Hoch|Raise"},
          .data = {},
+         .aborts = true},
+        {.name = u"frm_DialogNumericTouch",
+         .make = makeLibraryForm<frm_DialogNumericTouch>,
+         .design = &dialog_numeric_touch_design::Design,
+         .pairs = {u"Bitte geben Sie den Wert ein:|Please enter the value:", u"Abbrechen|Cancel"},
+         .data = {u"\u2715", u"0"},
          .aborts = true},
         {.name = u"frm_DialogSound",
          .make = makePraise,
