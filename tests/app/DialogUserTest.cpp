@@ -1,12 +1,8 @@
-#include "app/UserTest.h"
+#include "app/DialogUserTest.h"
+
 #include "app/cls_Language.h"
-#include "app/frm_DialogUser.h"
-#include "headless/Hand.h"
 #include "support/MarkedWaves.h"
 #include "visual/ComboBox.h"
-#include "visual/ScrollBar.h"
-#include "visual/Shape.h"
-#include "visual/ctl_CmdBar.h"
 
 #include <gmock/gmock-matchers.h>
 #include <string>
@@ -19,71 +15,12 @@ namespace
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 constexpr StringView NoName = u"Ohne Namen geht's leider nicht!";
 constexpr StringView NameTooShort = u"Das iss aber 'n bisschen kurz! (Bitte mindestens 3 Zeichen eingeben!)";
 constexpr StringView NameTooLong = u"Iss das nich 'n bisschen viel? (Bitte maximal 20 Zeichen eingeben!)";
 
-class DialogUser : public UserTest
-{
-protected:
-    /// Opens the dialog and plays the pupil before it; gives what SCREENNAMEINPUT answers.
-    bool play(const std::function<void()>& pupil)
-    {
-        outside.visual().onModal(u"frm_DialogUser", [&](Form& form) {
-            dialog = form.shared_from_this();
-            pupil();
-        });
-        return QVAPP()->USER()->SCREENNAMEINPUT();
-    }
-    /// The same with the abort that ends most tests.
-    void look(const std::function<void()>& pupil)
-    {
-        play([&] {
-            pupil();
-            abort();
-        });
-    }
-
-    template <typename Class>
-    std::shared_ptr<Class> get(StringView name, std::int32_t index = -1)
-    {
-        return dialog->control<Class>(name, index);
-    }
-    String name() { return get<TextBox>(u"txt_Screenname")->Text(); }
-    void enter(const String& text) { get<TextBox>(u"txt_Screenname")->Text(text); }
-    void confirm() { headless::clickButton(*get<ctl_CmdBar>(u"bar_Buttons"), u"DIALOG.OK();"); }
-    void abort() { headless::clickButton(*get<ctl_CmdBar>(u"bar_Buttons"), u"DIALOG.ABORT();"); }
-
-    std::shared_ptr<PictureBox> avatars() { return get<PictureBox>(u"pic_Avatars"); }
-    std::shared_ptr<ScrollBar> bar() { return get<ScrollBar>(u"srl_Avatars"); }
-    void clickCell(std::int32_t column, std::int32_t row)
-    {
-        headless::click(*avatars(), column * 50 + 25, row * 50 + 25);
-    }
-    PixelPoint marker()
-    {
-        const auto shape = get<Shape>(u"shp_Avatar");
-        return {shape->Left(), shape->Top()};
-    }
-    /// The avatar that a confirmation takes over.
-    String confirmedAvatar()
-    {
-        enter(u"Maxi");
-        confirm();
-        return QVAPP()->USER()->AVATAR();
-    }
-    bool isInView(std::int32_t row)
-    {
-        const double top = row * 50 + avatars()->Top();
-        return top >= 0 && top + 50 <= get<PictureBox>(u"pic_AvatarHolder")->Height();
-    }
-
-    std::shared_ptr<Form> dialog;
-};
-
-TEST_F(DialogUser, OffersNamesToChooseFromWhereNobodyHasBeenHere)
+TEST_F(DialogUserTest, OffersNamesToChooseFromWhereNobodyHasBeenHere)
 {
     LNG()->CURRENT(ID_Language_German);
     EXPECT_TRUE(play([&] {
@@ -100,7 +37,7 @@ TEST_F(DialogUser, OffersNamesToChooseFromWhereNobodyHasBeenHere)
     look([&] { EXPECT_FALSE(get<ComboBox>(u"cbo_Names")->frame().isReachable()) << "there is a name now"; });
 }
 
-TEST_F(DialogUser, OffersNamesInTheLanguageInForceAndEachIsTaken)
+TEST_F(DialogUserTest, OffersNamesInTheLanguageInForceAndEachIsTaken)
 {
     for (const auto language : {ID_Language_German, ID_Language_English}) {
         look([&] {
@@ -117,18 +54,7 @@ TEST_F(DialogUser, OffersNamesInTheLanguageInForceAndEachIsTaken)
     }
 }
 
-TEST_F(DialogUser, BeginsWithTheLoginAndTheFirstAvatar)
-{
-    makeAvatars(4);
-    outside.machine().UserName(u"login");
-    look([&] {
-        EXPECT_EQ(name(), u"login");
-        EXPECT_EQ(marker(), (PixelPoint{1, 1}));
-        EXPECT_TRUE(get<Shape>(u"shp_Avatar")->Visible());
-    });
-}
-
-TEST_F(DialogUser, BeginsWithTheLatestEntry)
+TEST_F(DialogUserTest, BeginsWithTheLatestEntry)
 {
     makeAvatars(4);
     storeNames({u"Maxi:a04", u"Uli:a02"});
@@ -138,18 +64,7 @@ TEST_F(DialogUser, BeginsWithTheLatestEntry)
     });
 }
 
-TEST_F(DialogUser, UnknownAvatarOfTheLatestEntryLeavesTheFirstSelected)
-{
-    makeAvatars(4);
-    storeNames({u"Maxi:gone"});
-    EXPECT_TRUE(play([&] {
-        EXPECT_EQ(name(), u"Maxi");
-        confirm();
-    }));
-    EXPECT_EQ(QVAPP()->USER()->AVATAR(), u"a01");
-}
-
-TEST_F(DialogUser, ShowsTheSixLatestEntriesAndKeepsTheSeventh)
+TEST_F(DialogUserTest, ShowsTheSixLatestEntriesAndKeepsTheSeventh)
 {
     makeAvatars(2);
     storeNames({u"Anna:a01", u"Bert:a02", u"Cleo:a01", u"Dora:a01", u"Emil:a01", u"Fred:a01", u"Gert:a02"});
@@ -164,7 +79,7 @@ TEST_F(DialogUser, ShowsTheSixLatestEntriesAndKeepsTheSeventh)
     EXPECT_EQ(storedNames().Item(7), u"Gert:a02");
 }
 
-TEST_F(DialogUser, EmptyPlacesSaySoInTheLanguageInForce)
+TEST_F(DialogUserTest, EmptyPlacesSaySoInTheLanguageInForce)
 {
     LNG()->CURRENT(ID_Language_German);
     storeNames({u"Anna:a01"});
@@ -178,7 +93,7 @@ TEST_F(DialogUser, EmptyPlacesSaySoInTheLanguageInForce)
     });
 }
 
-TEST_F(DialogUser, TakesNamesOfThreeToTwentyCharacters)
+TEST_F(DialogUserTest, TakesNamesOfThreeToTwentyCharacters)
 {
     for (const std::size_t length : {3U, 20U}) {
         const String text(length, u'x');
@@ -191,7 +106,7 @@ TEST_F(DialogUser, TakesNamesOfThreeToTwentyCharacters)
     }
 }
 
-TEST_F(DialogUser, WarnsAboutOtherNamesAndStaysOpen)
+TEST_F(DialogUserTest, WarnsAboutOtherNamesAndStaysOpen)
 {
     const std::pair<String, StringView> cases[] = {
         {u"", NoName},
@@ -214,7 +129,7 @@ TEST_F(DialogUser, WarnsAboutOtherNamesAndStaysOpen)
     EXPECT_EQ(QVAPP()->USER()->SCREENNAME(), u"pupil");
 }
 
-TEST_F(DialogUser, JudgesANameWithoutItsOuterBlanks)
+TEST_F(DialogUserTest, JudgesANameWithoutItsOuterBlanks)
 {
     EXPECT_TRUE(play([&] {
         enter(u"   " + String(20, u'x') + u"  ");
@@ -223,7 +138,7 @@ TEST_F(DialogUser, JudgesANameWithoutItsOuterBlanks)
     EXPECT_EQ(QVAPP()->USER()->SCREENNAME(), String(20, u'x'));
 }
 
-TEST_F(DialogUser, PlaysASoundWithEachWarning)
+TEST_F(DialogUserTest, PlaysASoundWithEachWarning)
 {
     folder.write("sfx/wrong/a.wav", test::markedWave(0.5, 7));
     QVAPP()->URL()->RESOURCESFX(path(u"sfx\\"));
@@ -237,7 +152,7 @@ TEST_F(DialogUser, PlaysASoundWithEachWarning)
     EXPECT_EQ(test::markOf(*outside.audio().heard()[0].sound), 7);
 }
 
-TEST_F(DialogUser, OpensTheKeyboardForTheNameInTouchMode)
+TEST_F(DialogUserTest, OpensTheKeyboardForTheNameInTouchMode)
 {
     LNG()->CURRENT(ID_Language_German);
     QVAPP()->CONFIG()->TOUCHMODE(true);
@@ -252,7 +167,7 @@ TEST_F(DialogUser, OpensTheKeyboardForTheNameInTouchMode)
     });
 }
 
-TEST_F(DialogUser, MakesTheNameReadyForTypingWithoutTouchMode)
+TEST_F(DialogUserTest, MakesTheNameReadyForTypingWithoutTouchMode)
 {
     look([&] {
         headless::click(*get<TextBox>(u"txt_Screenname"));
@@ -260,7 +175,7 @@ TEST_F(DialogUser, MakesTheNameReadyForTypingWithoutTouchMode)
     });
 }
 
-TEST_F(DialogUser, TakesUnusualNamesAsTheyAre)
+TEST_F(DialogUserTest, TakesUnusualNamesAsTheyAre)
 {
     makeAvatars(1);
     for (const String& text : {String(u"a:b"), String(u"\u0634\u0645\u0633"), String(u"\U0001F9EA\U0001F9EA"),
@@ -274,7 +189,7 @@ TEST_F(DialogUser, TakesUnusualNamesAsTheyAre)
     }
 }
 
-TEST_F(DialogUser, ShowsANameAsItWasTyped)
+TEST_F(DialogUserTest, ShowsANameAsItWasTyped)
 {
     makeAvatars(1);
     storeNames({u"<b>x</b>:a01"});
@@ -287,7 +202,7 @@ TEST_F(DialogUser, ShowsANameAsItWasTyped)
     });
 }
 
-TEST_F(DialogUser, BearsWhateverStandsInTheListOfNames)
+TEST_F(DialogUserTest, BearsWhateverStandsInTheListOfNames)
 {
     makeAvatars(2);
     const String names[] = {String(10'000, u'x'),
@@ -313,7 +228,7 @@ TEST_F(DialogUser, BearsWhateverStandsInTheListOfNames)
     }
 }
 
-TEST_F(DialogUser, AStoreThatCannotBeWrittenKeepsItsListAndTheNameLastsForThisRun)
+TEST_F(DialogUserTest, AStoreThatCannotBeWrittenKeepsItsListAndTheNameLastsForThisRun)
 {
     makeAvatars(2);
     storeNames({u"Anna:a01", u"Bert:a02"});
@@ -328,7 +243,7 @@ TEST_F(DialogUser, AStoreThatCannotBeWrittenKeepsItsListAndTheNameLastsForThisRu
     EXPECT_EQ(storedNames(), CoreStringList({u"Anna:a01", u"Bert:a02"}));
 }
 
-TEST_F(DialogUser, AbortAndTheFramesCloseLeaveEverythingAsItWas)
+TEST_F(DialogUserTest, AbortAndTheFramesCloseLeaveEverythingAsItWas)
 {
     makeAvatars(2);
     storeNames({u"Maxi:a02"});
@@ -349,28 +264,7 @@ TEST_F(DialogUser, AbortAndTheFramesCloseLeaveEverythingAsItWas)
     EXPECT_EQ(storedNames(), CoreStringList({u"Maxi:a02"}));
 }
 
-TEST_F(DialogUser, ClickTakesTheAvatarOfTheCell)
-{
-    makeAvatars(5);
-    play([&] {
-        clickCell(1, 1);
-        EXPECT_EQ(marker(), (PixelPoint{51, 51}));
-        EXPECT_EQ(confirmedAvatar(), u"a04");
-    });
-}
-
-TEST_F(DialogUser, ClickBesideTheLastAvatarDoesNothing)
-{
-    makeAvatars(3);
-    play([&] {
-        clickCell(0, 1);
-        clickCell(1, 1);
-        EXPECT_EQ(marker(), (PixelPoint{1, 51}));
-        EXPECT_EQ(confirmedAvatar(), u"a03");
-    });
-}
-
-TEST_F(DialogUser, ClickOnALatestEntryTakesNameAndAvatar)
+TEST_F(DialogUserTest, ClickOnALatestEntryTakesNameAndAvatar)
 {
     makeAvatars(3);
     storeNames({u"Anna:a01", u"Bert:a03"});
@@ -386,7 +280,7 @@ TEST_F(DialogUser, ClickOnALatestEntryTakesNameAndAvatar)
     });
 }
 
-TEST_F(DialogUser, DoubleClickOnALatestEntryConfirms)
+TEST_F(DialogUserTest, DoubleClickOnALatestEntryConfirms)
 {
     makeAvatars(3);
     storeNames({u"Anna:a01", u"Bert:a03"});
@@ -396,7 +290,7 @@ TEST_F(DialogUser, DoubleClickOnALatestEntryConfirms)
     EXPECT_EQ(storedNames(), CoreStringList({u"Bert:a03", u"Anna:a01"}));
 }
 
-TEST_F(DialogUser, DoubleClickOnAnEmptyPlaceDoesNothing)
+TEST_F(DialogUserTest, DoubleClickOnAnEmptyPlaceDoesNothing)
 {
     look([&] {
         headless::doubleClick(*get<PictureBox>(u"pic_Last", 0));
@@ -404,94 +298,7 @@ TEST_F(DialogUser, DoubleClickOnAnEmptyPlaceDoesNothing)
     });
 }
 
-TEST_F(DialogUser, ListHasARowForTwoAvatars)
-{
-    const std::pair<std::int32_t, double> heights[] = {{0, 0}, {1, 50}, {2, 50}, {5, 150}, {12, 300}};
-    for (const auto& [count, height] : heights) {
-        makeAvatars(count);
-        look([&, height = height] {
-            EXPECT_EQ(avatars()->Height(), height);
-            EXPECT_FALSE(bar()->Enabled());
-        });
-    }
-}
-
-TEST_F(DialogUser, LongListIsScrolledByTheDifferenceOfTheHeights)
-{
-    makeAvatars(30);
-    look([&] {
-        EXPECT_TRUE(bar()->Enabled());
-        EXPECT_EQ(bar()->Max(), 15 * 50 - 300);
-        bar()->inputScroll(120);
-        EXPECT_EQ(avatars()->Top(), -120);
-        headless::turnWheel(*avatars(), -1);
-        EXPECT_EQ(avatars()->Top(), -170);
-        headless::turnWheel(*get<Shape>(u"shp_Avatar"), 100);
-        EXPECT_EQ(avatars()->Top(), 0);
-        headless::turnWheel(*avatars(), -100);
-        EXPECT_EQ(avatars()->Top(), -450);
-    });
-}
-
-TEST_F(DialogUser, OnlyTheAvatarsInViewArePainted)
-{
-    makeAvatars(30);
-    look([&] {
-        const auto painted = [&] { return outside.visual().drawing(*avatars()); };
-        EXPECT_THAT(painted(), HasSubstr("1,1 48x48"));
-        EXPECT_THAT(painted(), HasSubstr("51,251 48x48"));
-        EXPECT_THAT(painted(), Not(HasSubstr(",301 ")));
-        bar()->inputScroll(120);
-        EXPECT_THAT(painted(), HasSubstr("1,-19 48x48")) << "row 2 has gone by its upper part";
-        EXPECT_THAT(painted(), HasSubstr("51,281 48x48"));
-    });
-}
-
-TEST_F(DialogUser, DraggingTheListScrollsItAndSelectsNothing)
-{
-    makeAvatars(30);
-    look([&] {
-        headless::drag(*avatars(), {20, 280}, {20, 80});
-        EXPECT_EQ(avatars()->Top(), -200);
-        EXPECT_EQ(marker(), (PixelPoint{1, 1}));
-        headless::drag(*avatars(), {70, 225}, {72, 228});
-        EXPECT_EQ(avatars()->Top(), -200);
-        EXPECT_EQ(marker(), (PixelPoint{51, 201}));
-    });
-}
-
-TEST_F(DialogUser, SelectedAvatarIsInView)
-{
-    makeAvatars(30);
-    storeNames({u"Maxi:a30"});
-    look([&] {
-        EXPECT_EQ(avatars()->Top(), -450);
-        headless::click(*get<PictureBox>(u"pic_Last", 0));
-        EXPECT_TRUE(isInView(14));
-    });
-}
-
-TEST_F(DialogUser, KeysMoveTheMarkAndTheList)
-{
-    makeAvatars(30);
-    look([&] {
-        avatars()->SetFocus();
-        headless::type(*dialog, u"{DOWN}{RIGHT}");
-        EXPECT_EQ(marker(), (PixelPoint{51, 51}));
-        headless::type(*dialog, u"{UP}{LEFT}{LEFT}{UP}");
-        EXPECT_EQ(marker(), (PixelPoint{1, 1}));
-        headless::type(*dialog, u"{END}");
-        EXPECT_EQ(marker(), (PixelPoint{51, 701}));
-        EXPECT_TRUE(isInView(14));
-        headless::type(*dialog, u"{PGUP}");
-        EXPECT_EQ(marker(), (PixelPoint{51, 401}));
-        EXPECT_TRUE(isInView(8));
-        headless::type(*dialog, u"{HOME}{PGDN}");
-        EXPECT_EQ(marker(), (PixelPoint{1, 301}));
-    });
-}
-
-TEST_F(DialogUser, IsServedByTheKeyboardAlone)
+TEST_F(DialogUserTest, IsServedByTheKeyboardAlone)
 {
     makeAvatars(4);
     storeNames({u"Anna:a01", u"Bert:a03"});
@@ -508,51 +315,12 @@ TEST_F(DialogUser, IsServedByTheKeyboardAlone)
     EXPECT_FALSE(play([&] { headless::type(*dialog, u"{ESC}"); }));
 }
 
-TEST_F(DialogUser, ReturnOnALatestEntryTakesItAndConfirms)
+TEST_F(DialogUserTest, ReturnOnALatestEntryTakesItAndConfirms)
 {
     makeAvatars(4);
     storeNames({u"Anna:a01", u"Bert:a03"});
     EXPECT_TRUE(play([&] { headless::type(*dialog, u"{TAB}{TAB}{ENTER}"); }));
     EXPECT_EQ(QVAPP()->USER()->SCREENNAME(), u"Bert");
-}
-
-TEST_F(DialogUser, WorksWithoutAnyAvatar)
-{
-    QVAPP()->URL()->RESOURCEAVATARS(path(u"nowhere\\"));
-    makeAvatars(0);
-    EXPECT_TRUE(play([&] {
-        EXPECT_FALSE(get<Shape>(u"shp_Avatar")->Visible());
-        avatars()->SetFocus();
-        headless::type(*dialog, u"{DOWN}{END}");
-        enter(u"Maxi");
-        confirm();
-    }));
-    EXPECT_EQ(QVAPP()->USER()->AVATAR(), u"");
-    EXPECT_EQ(storedNames().First(), u"Maxi:");
-}
-
-TEST_F(DialogUser, BrokenPictureCanBeChosenLikeAnyOther)
-{
-    makeFile(u"avatar\\a02.gif", u"no picture");
-    makeAvatars(1);
-    play([&] {
-        clickCell(1, 0);
-        EXPECT_EQ(confirmedAvatar(), u"a02");
-    });
-}
-
-TEST_F(DialogUser, ReachesTheLastOfFiveThousandAvatars)
-{
-    constexpr std::int32_t Many = 5000;
-    makeAvatars(Many);
-    play([&] {
-        EXPECT_EQ(avatars()->Height(), Many / 2 * 50);
-        EXPECT_LE(avatars()->surface().image(2.3)->Height(), get<PictureBox>(u"pic_AvatarHolder")->Height());
-        avatars()->SetFocus();
-        headless::type(*dialog, u"{END}");
-        EXPECT_TRUE(isInView(Many / 2 - 1));
-        EXPECT_EQ(confirmedAvatar(), QVAPP()->USER()->AVATARID(Many));
-    });
 }
 
 } // namespace
