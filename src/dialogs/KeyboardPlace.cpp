@@ -13,6 +13,7 @@ namespace
 
 constexpr double LeastKeyMillimetres = 9;
 constexpr double FreeAtEdge = 30;
+constexpr double FreeBeside = 12;
 constexpr double DragBegins = 10;
 constexpr double SnapsWithin = 30;
 constexpr double Twip = 1 / TwipsPerPixel;
@@ -63,7 +64,10 @@ std::optional<PixelPoint> placeLeft(const Opening& opening, PixelSize keyboard, 
     }
     const PixelPoint middle{opening.left->x + keyboard.width / 2, opening.left->y + keyboard.height / 2};
     const PixelPoint corner = inBoth(broughtWithin, *opening.left, keyboard, screen);
-    const bool hides = opening.target && areaAt(corner, keyboard).meets(*opening.target);
+    const auto hidden = [&](const std::optional<PixelRectangle>& area) {
+        return area && areaAt(corner, keyboard).meets(*area);
+    };
+    const bool hides = hidden(opening.target) || hidden(opening.kept);
     return screen.contains(middle) && !hides ? std::optional(corner) : std::nullopt;
 }
 
@@ -96,6 +100,18 @@ PixelPoint besideTarget(const PixelRectangle& target, PixelSize keyboard, const 
     return {left, hasRoomBelow || above < screen.top ? target.bottom() : above};
 }
 
+std::optional<PixelPoint> besideKept(const PixelRectangle& kept, PixelSize keyboard,
+                                     const PixelRectangle& screen)
+{
+    const double right = kept.right() + FreeBeside;
+    const double left = kept.left - FreeBeside - keyboard.width;
+    const bool fitsRight = right + keyboard.width <= screen.right() - FreeAtEdge;
+    if (!fitsRight && left < screen.left) {
+        return std::nullopt;
+    }
+    return keptOnScreen({fitsRight ? right : left, kept.top}, keyboard, screen);
+}
+
 PixelPoint keptOnScreen(PixelPoint corner, PixelSize keyboard, const PixelRectangle& screen)
 {
     return inBoth(keptWithin, corner, keyboard, screen);
@@ -105,6 +121,9 @@ PixelPoint openingPlace(const Opening& opening, PixelSize keyboard, const PixelR
 {
     if (const auto left = placeLeft(opening, keyboard, screen)) {
         return *left;
+    }
+    if (const auto beside = opening.kept ? besideKept(*opening.kept, keyboard, screen) : std::nullopt) {
+        return *beside;
     }
     const PixelPoint corner =
         opening.target ? besideTarget(*opening.target, keyboard, screen) : centredOn(opening.point, keyboard);

@@ -34,6 +34,12 @@ PixelPoint centredOn(PixelPoint point, PixelSize keyboard);
 /// below but above there is.
 PixelPoint besideTarget(const PixelRectangle& target, PixelSize keyboard, const PixelRectangle& screen);
 
+/// The corner of a keyboard that stands at the right of what is kept in sight, or at its left where there is
+/// room only there; none where there is room on neither side. Their tops are on a line, as far as the screen
+/// allows.
+std::optional<PixelPoint> besideKept(const PixelRectangle& kept, PixelSize keyboard,
+                                     const PixelRectangle& screen);
+
 /// The corner of one that is to stand there: 30 pixels stay free at the right and at the bottom of the
 /// screen, and before that the left and the top edge are in sight.
 PixelPoint keptOnScreen(PixelPoint corner, PixelSize keyboard, const PixelRectangle& screen);
@@ -43,10 +49,12 @@ struct Opening {
     std::optional<PixelRectangle> target; ///< none where it is not to be seen
     PixelPoint point;                     ///< the middle otherwise: the pointer
     std::optional<PixelPoint> left;       ///< the corner at which the user has left the last one
+    std::optional<PixelRectangle> kept{}; ///< what is to be read while one types
 };
 
 /// The corner at which it opens. Where the user has put the last one, as far as that is on the same screen
-/// and does not hide the target; else beside the target; else around the point.
+/// and hides neither the target nor what is kept; else beside what is kept, as far as there is room; else
+/// beside the target; else around the point.
 PixelPoint openingPlace(const Opening& opening, PixelSize keyboard, const PixelRectangle& screen);
 
 /// Whether a press that has come from one point to another is a drag: more than 10 pixels in either

@@ -196,7 +196,8 @@ void KeyboardWindow::open()
     noteDesign();
     scaleTo(scaleOn(screen));
     paintGround();
-    moveTo(place::openingPlace({target, point, placeLeft()}, sizeOf(*form_), screen));
+    const auto kept = placeToKeep(target_.target());
+    moveTo(place::openingPlace({target, point, placeLeft(), kept}, sizeOf(*form_), screen));
 }
 
 void KeyboardWindow::noteDesign()

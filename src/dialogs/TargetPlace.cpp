@@ -3,9 +3,12 @@
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
 #include "core/CoreWindowOps.h"
+#include "core/RuntimeError.h"
 #include "core/SessionState.h"
 #include "visual/Control.h"
 #include "visual/Form.h"
+
+#include <algorithm>
 
 namespace phial
 {
@@ -44,6 +47,27 @@ PixelRectangle areaOnDesktop(const ControlFrame& frame)
             within.height * zoom};
 }
 
+/// Null where the control names nothing.
+ObjectPtr namedNeighbour(const ObjectPtr& control)
+{
+    ObjectPtr named;
+    if (control) {
+        ignoringErrors([&] {
+            const auto value = tryGet(*control, u"KeyboardBeside");
+            named = value ? value->object() : nullptr;
+        });
+    }
+    return named;
+}
+
+PixelRectangle united(const PixelRectangle& one, const PixelRectangle& other)
+{
+    const double left = std::min(one.left, other.left);
+    const double top = std::min(one.top, other.top);
+    return {left, top, std::max(one.right(), other.right()) - left,
+            std::max(one.bottom(), other.bottom()) - top};
+}
+
 } // namespace
 
 std::optional<PixelRectangle> placeSeen(const ObjectPtr& target)
@@ -56,6 +80,18 @@ std::optional<PixelRectangle> placeSeen(const ObjectPtr& target)
     const bool isSeen = frame.form() ? frame.isSeen() : frame.Visible();
     const PixelRectangle area = isSeen ? areaOnDesktop(frame) : PixelRectangle();
     return area.isEmpty() ? std::nullopt : std::optional(area);
+}
+
+std::optional<PixelRectangle> placeToKeep(const ObjectPtr& target)
+{
+    const auto* control = dynamic_cast<const Control*>(target.get());
+    ObjectPtr neighbour = namedNeighbour(target);
+    if (control && !neighbour && control->frame().privateHolder()) {
+        neighbour = namedNeighbour(control->frame().ContainerObject());
+    }
+    const auto kept = placeSeen(neighbour);
+    const auto own = kept ? placeSeen(target) : std::nullopt;
+    return own ? united(*kept, *own) : kept;
 }
 
 } // namespace phial

@@ -12,4 +12,9 @@ namespace phial
 /// its place on what holds it. None for what is no control or is not to be seen.
 std::optional<PixelRectangle> placeSeen(const ObjectPtr& target);
 
+/// What a keyboard for the control stands beside and leaves in sight, such as the question to which it is the
+/// answer: the place of what the control, or the one that holds it for itself, names as its `KeyboardBeside`,
+/// the control's own included. None where nothing is named or seen.
+std::optional<PixelRectangle> placeToKeep(const ObjectPtr& target);
+
 } // namespace phial

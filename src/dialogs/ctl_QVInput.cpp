@@ -7,6 +7,8 @@
 #include "core/Arithmetic.h"
 #include "core/CoreNumbers.h"
 #include "core/Format.h"
+#include "dialogs/frm_DialogKeyboard.h"
+#include "dialogs/frm_DialogNumericTouch.h"
 #include "visual/PropertyRows.h"
 
 #include <algorithm>
@@ -26,6 +28,16 @@ double typedNumber(const String& text)
     double value = 0;
     CoreNumbers::ToDouble(text, value); // of what is no number its beginning counts
     return value;
+}
+
+/// Opens a keyboard for the field, touch mode or not.
+template <typename Keyboard>
+void open(const ObjectPtr& field, const String& title)
+{
+    Keyboard keyboard;
+    keyboard.TargetControl(field);
+    keyboard.TitleText(title);
+    keyboard.Show();
 }
 
 /// Sets a flag until the end of the block.
@@ -56,12 +68,14 @@ struct ctl_QVInput::Properties {
             .kept()
             .then(&ctl_QVInput::modeChanged),
         rows::property<u"AsTyped">(&ctl_QVInput::asTyped_, false).then(&ctl_QVInput::UPDATE),
+        rows::readOnly<u"KeyboardBeside">(&ctl_QVInput::KeyboardBeside),
         rows::property<u"Font">(&ctl_QVInput::Font, &ctl_QVInput::Font),
         rows::property<u"ForeColor">(&ctl_QVInput::input_, &TextBox::ForeColor, &TextBox::ForeColor).still(),
         rows::property<u"BackColor">(&ctl_QVInput::input_, &TextBox::BackColor, &TextBox::BackColor).still(),
         rows::property<u"Locked">(&ctl_QVInput::input_, &TextBox::Locked, &TextBox::Locked).still(),
         rows::property<u"MaxLength">(&ctl_QVInput::input_, &TextBox::MaxLength, &TextBox::MaxLength).still(),
         rows::operation<u"UPDATE">(&ctl_QVInput::UPDATE),
+        rows::operation<u"OpenKeyboard">(&ctl_QVInput::OpenKeyboard),
     };
     static constexpr bool Always = true;
 };
@@ -198,8 +212,13 @@ void ctl_QVInput::begin()
         return; // it comes back from the keyboard
     }
     lastText_ = input_->Text();
+    selectAll();
+}
+
+void ctl_QVInput::selectAll()
+{
     input_->SelStart(0);
-    input_->SelLength(static_cast<std::int32_t>(lastText_.size()));
+    input_->SelLength(static_cast<std::int32_t>(input_->Text().size()));
 }
 
 /// A keyboard of the system's own opens in touch mode alone.
@@ -215,30 +234,45 @@ void ctl_QVInput::previewKey(KeyEvent& event)
         settle();
     } else if (event.is(Key::Down) && (event.Shift == 0 || event.Shift == ShiftMask::Alt) && hasKeyboard()) {
         event.KeyCode = 0;
-        ask();
+        pressed();
     }
 }
 
 void ctl_QVInput::pressed()
 {
-    if (!input_->Locked()) {
-        ask();
-    }
-}
-
-void ctl_QVInput::ask()
-{
-    if (isAsking_) {
-        return;
-    }
-    const auto self = shared_from_this(); // the keyboard runs events
-    {
-        const FlagSet asking(isAsking_);
+    ask([this] {
         if (isNumber()) {
             QVAPP()->DIALOG()->NUMBERINPUT(input_, text_);
         } else if (mode_ == ID_InputMode_Text) {
             QVAPP()->DIALOG()->TEXTINPUT(input_, text_);
         }
+    });
+}
+
+void ctl_QVInput::OpenKeyboard()
+{
+    ask([this] {
+        if (isNumber()) {
+            open<frm_DialogNumericTouch>(input_, text_);
+        } else if (mode_ == ID_InputMode_Text) {
+            open<frm_DialogKeyboard>(input_, text_);
+        }
+    });
+}
+
+void ctl_QVInput::ask(const std::function<void()>& dialog)
+{
+    if (isAsking_ || input_->Locked()) {
+        return;
+    }
+    const auto self = shared_from_this(); // the keyboard runs events
+    const String before = input_->Text();
+    {
+        const FlagSet asking(isAsking_);
+        dialog();
+    }
+    if (input_->Text() != before) {
+        selectAll();
     }
     settle();
 }

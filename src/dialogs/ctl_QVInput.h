@@ -5,6 +5,7 @@
 #include "visual/TextBox.h"
 #include "visual/UserControl.h"
 
+#include <functional>
 #include <memory>
 
 namespace phial
@@ -57,11 +58,19 @@ public:
     bool AsTyped() const { return asTyped_; }
     void AsTyped(bool value);
 
+    /// What a keyboard that the field opens stands beside and does not hide, such as the question; held
+    /// weakly. None at first: it stands under the field or above it. Not persisted.
+    ObjectPtr KeyboardBeside() const { return keyboardBeside_.lock(); }
+    void KeyboardBeside(const ObjectPtr& value) { keyboardBeside_ = value; }
     FontPtr Font() const { return input_->Font(); }
     void Font(FontPtr value) { input_->Font(std::move(value)); }
 
     /// Lets the rules count for what stands in the field.
     void UPDATE();
+
+    /// Opens the pad or the keyboard as a press in touch mode does, whatever the mode; not for a field that
+    /// is locked.
+    void OpenKeyboard();
 
     /// The user has left another text than there was: VALUE. Each change is told once.
     Event<const Variant& /*pValue*/> CHANGED;
@@ -93,9 +102,10 @@ private:
     void modeChanged();
     void nameField();
     void begin();
+    void selectAll();
     void previewKey(KeyEvent& event);
     void pressed();
-    void ask();
+    void ask(const std::function<void()>& dialog);
     void settle();
 
     ControlFrame frame_;
@@ -107,6 +117,7 @@ private:
     double max_ = 0;
     enm_InputMode mode_ = ID_InputMode_Number;
     bool asTyped_ = false;
+    std::weak_ptr<Object> keyboardBeside_;
     String lastText_;       ///< when the field got the focus, or as CHANGED has told it since
     bool isAsking_ = false; ///< a keyboard is open
     Connections connections_;

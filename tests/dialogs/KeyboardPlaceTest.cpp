@@ -56,6 +56,10 @@ TEST_P(KeyboardPlaces, AreAsTheTableSays)
         found = listed(place::centredOn(pointIn(given), keyboard));
     } else if (what == u"beside") {
         found = listed(place::besideTarget(areaIn(given), keyboard, screen));
+    } else if (what == u"aside") {
+        if (const auto corner = place::besideKept(areaIn(given), keyboard, screen)) {
+            found = listed(*corner);
+        }
     } else if (what == u"kept") {
         found = listed(place::keptOnScreen(pointIn(given), keyboard, screen));
     } else if (what == u"dragged") {
@@ -73,6 +77,28 @@ INSTANTIATE_TEST_SUITE_P(Table, KeyboardPlaces, ::testing::ValuesIn(readCaseTabl
 constexpr PixelSize Keyboard{750, 340};
 constexpr PixelRectangle Screen{0, 0, 1920, 1080};
 constexpr PixelRectangle Target{800, 100, 200, 40};
+
+constexpr PixelRectangle Kept{800, 20, 300, 120};
+
+TEST(KeyboardOpening, IsBesideWhatIsKeptInSight)
+{
+    EXPECT_EQ(place::openingPlace({Target, {10, 10}, {}, Kept}, Keyboard, Screen), (PixelPoint{1112, 20}));
+    const PixelRectangle low{0, 0, 1024, 600};
+    EXPECT_EQ(place::openingPlace({Target, {10, 10}, {}, Kept}, Keyboard, low), (PixelPoint{38, 20}));
+    const PixelRectangle narrow{700, 0, 800, 1080};
+    EXPECT_EQ(place::openingPlace({Target, {10, 10}, {}, Kept}, Keyboard, narrow), (PixelPoint{700, 140}))
+        << "there is no room beside it";
+}
+
+TEST(KeyboardOpening, WhereItWasLeftItHidesNothingOfWhatIsKept)
+{
+    EXPECT_EQ(place::openingPlace({Target, {10, 10}, PixelPoint{0, 300}, Kept}, Keyboard, Screen),
+              (PixelPoint{0, 300}));
+    EXPECT_EQ(place::openingPlace({Target, {10, 10}, PixelPoint{1000, 141}, Kept}, Keyboard, Screen),
+              (PixelPoint{1000, 141}));
+    EXPECT_EQ(place::openingPlace({{}, {10, 10}, PixelPoint{1000, 139}, Kept}, Keyboard, Screen),
+              (PixelPoint{1112, 20}));
+}
 
 TEST(KeyboardOpening, IsBesideTheTarget)
 {

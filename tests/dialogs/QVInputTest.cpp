@@ -5,6 +5,7 @@
 #include "core/CoreText.h"
 #include "core/Locale.h"
 #include "core/RuntimeError.h"
+#include "dialogs/TargetPlace.h"
 #include "dialogs/TargetText.h"
 #include "dialogs/ctl_QVInput.h"
 #include "headless/Hand.h"
@@ -423,11 +424,15 @@ TEST_F(QVInput, InTouchModeAPressOpensThePadForNumbers)
         EXPECT_EQ(pad.control<TextBox>(u"txt_Input")->Text(), u"0");
         typeAndConfirm(pad, u"18,015");
     });
+    control->AsTyped(true);
     headless::click(field());
+    EXPECT_EQ(shown(), u"18,015");
+    EXPECT_EQ(field().SelText(), u"18,015") << "what is typed next replaces it";
+    control->AsTyped(false);
     EXPECT_EQ(shown(), u"18,02");
-    EXPECT_THAT(changes, ElementsAre(Variant(18.02)));
+    EXPECT_THAT(changes, ElementsAre(Variant(18.015)));
     leave();
-    EXPECT_EQ(changes.size(), 1U);
+    EXPECT_EQ(changes.back(), Variant(18.02));
 }
 
 TEST_F(QVInput, InTouchModeAPressOpensTheKeyboardForTexts)
@@ -469,6 +474,51 @@ TEST_F(QVInput, InTouchModeTheKeyDownOpensThePadToo)
     headless::type(*form, u"^{down}"); // these open nothing
     headless::type(*form, u"+{down}");
     EXPECT_THAT(changes, ElementsAre(Variant(3.0), Variant(4.0)));
+}
+
+TEST_F(QVInput, AProgramCanOpenItsKeyboardWhateverTheMode)
+{
+    control->TEXT(u"Masse");
+    playPad([](Form& pad) {
+        EXPECT_EQ(pad.control<ctl_Label>(u"lab_Title")->Caption(), u"Masse");
+        typeAndConfirm(pad, u"18");
+    });
+    control->OpenKeyboard();
+    control->MODE(ID_InputMode_Text);
+    playKeyboard([](Form& keyboard) { typeAndConfirm(keyboard, u"Wasser"); });
+    callMember(*control, u"OpenKeyboard", {});
+    EXPECT_THAT(changes, ElementsAre(Variant(18.0), Variant(u"Wasser")));
+    control->MODE(static_cast<enm_InputMode>(0));
+    control->OpenKeyboard();
+    control->MODE(ID_InputMode_Text);
+    field().Locked(true);
+    control->OpenKeyboard();
+    EXPECT_EQ(shown(), u"Wasser");
+}
+
+TEST_F(QVInput, ItsPadStandsBesideWhatIsToBeRead)
+{
+    outside.display().resize(1920, 1080);
+    const auto question = form->add<TextBox>(u"txt_Question");
+    question->Move(10, 60, 300, 100);
+    EXPECT_EQ(control->KeyboardBeside(), nullptr);
+    EXPECT_FALSE(placeToKeep(control));
+    control->KeyboardBeside(question);
+    EXPECT_EQ(control->KeyboardBeside(), question);
+    const auto inner = control->container()->controls().front();
+    outside.windows().place(inner->hWnd(), {110, 110, 310, 150});
+    outside.windows().place(question->hWnd(), {120, 160, 420, 260});
+    EXPECT_EQ(placeToKeep(inner), (PixelRectangle{110, 110, 310, 150}));
+    outside.windows().place(control->hWnd(), {90, 110, 310, 150});
+    EXPECT_EQ(placeToKeep(control), (PixelRectangle{90, 110, 330, 150}));
+    playPad([&](Form& pad) {
+        EXPECT_EQ(pad.Left() / TwipsPerPixel, 432);
+        EXPECT_EQ(pad.Top() / TwipsPerPixel, 110);
+        typeAndConfirm(pad, u"18");
+    });
+    control->OpenKeyboard();
+    question->Visible(false);
+    EXPECT_FALSE(placeToKeep(control));
 }
 
 TEST_F(QVInput, AModeWithoutANameOpensNothing)
