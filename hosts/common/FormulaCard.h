@@ -47,6 +47,9 @@ public:
 
     explicit FormulaCard(phial::Form& form);
 
+    /// The card as a whole.
+    phial::ControlPtr panel() const { return form_.control<phial::ctl_Pannel>(u"pan_Formula"); }
+
     void show(const ListedTask& task);
     /// Shows the name in the language in force.
     void TRANSLATE();

@@ -1,8 +1,11 @@
 #include "common/NumberAnswer.h"
 
+#include "app/cls_App.h"
+#include "app/sys_Global.h"
 #include "common/FrameTexts.h"
 #include "core/CoreNumbers.h"
 #include "core/NumberText.h"
+#include "media/cls_AppMedia.h"
 #include "visual/Shape.h"
 
 namespace learning
@@ -39,15 +42,29 @@ std::optional<double> typedNumber(phial::StringView text)
     return phial::CoreNumbers::ToDouble(phial::trimmed(text), value) ? std::optional(value) : std::nullopt;
 }
 
-NumberAnswer::NumberAnswer(phial::Form& form)
-    : form_(form), field_(form.control<phial::TextBox>(u"txt_Answer")), pad_(form, field_)
+NumberAnswer::NumberAnswer(phial::Form& form, const phial::ControlPtr& task)
+    : form_(form), field_(form.control<phial::ctl_QVInput>(u"txt_Answer")),
+      input_(std::static_pointer_cast<phial::TextBox>(field_->input().shared_from_this())),
+      pad_(form.control<phial::ctl_Button>(u"but_Pad"))
 {
     phial::addControls(form, Lock);
+    field_->KeyboardBeside(task);
+    pressing_ = pad_->CLICK.connect([this] {
+        phial::QVAPP()->MEDIA()->CLICK();
+        input_->SetFocus();
+        field_->OpenKeyboard();
+    });
+}
+
+/// The pad asks for what a screen reader calls the field.
+void NumberAnswer::TRANSLATE()
+{
+    field_->TEXT(field_->frame().AccessibleName());
 }
 
 std::optional<double> NumberAnswer::value() const
 {
-    return typedNumber(field_->Text());
+    return typedNumber(input_->Text());
 }
 
 phial::String NumberAnswer::text() const
@@ -64,31 +81,31 @@ phial::String NumberAnswer::unreadable()
 
 void NumberAnswer::open()
 {
-    field_->Text({});
-    field_->Locked(false);
+    input_->Text({});
+    input_->Locked(false);
     look(false);
 }
 
 /// Colours alone do not tell that it is decided: there is a sign as well.
 void NumberAnswer::look(bool decided)
 {
-    field_->BackColor(decided ? phial::Palette::DisabledGround : phial::Palette::Surface);
-    field_->ForeColor(decided ? phial::Palette::DisabledText : phial::Palette::Ink);
+    input_->BackColor(decided ? phial::Palette::DisabledGround : phial::Palette::Surface);
+    input_->ForeColor(decided ? phial::Palette::DisabledText : phial::Palette::Ink);
     for (const phial::ControlDesign& row : Lock) {
         form_.control<phial::Shape>(row.name)->Visible(decided);
     }
-    pad_.Enabled(!decided);
+    pad_->Enabled(!decided);
 }
 
 void NumberAnswer::retry()
 {
-    field_->SelStart(0);
-    field_->SelLength(static_cast<std::int32_t>(field_->Text().size()));
+    input_->SelStart(0);
+    input_->SelLength(static_cast<std::int32_t>(input_->Text().size()));
 }
 
 void NumberAnswer::close()
 {
-    field_->Locked(true);
+    input_->Locked(true);
     look(true);
 }
 

@@ -1,28 +1,43 @@
 #pragma once
 
-#include "common/NumberPad.h"
+#include "common/FrameDesign.h"
+#include "dialogs/ctl_QVInput.h"
 
+#include <memory>
 #include <optional>
 
 namespace learning
 {
 
-/// A number as the answer to a task: a field beside the button that checks it, with a pad to type it by
-/// touch. Comma and point are both decimal signs.
+/// A number as the answer to a task: a field beside the button that checks it, and a button that opens a pad
+/// to type it by touch or mouse; in touch mode a press on the field does so too. The pad stands beside the
+/// task and hides neither that nor the field. Comma and point are both decimal signs.
+///
+/// The answer stays as the pupil has typed it: nothing is no answer and not 0, and what is no number is
+/// judged as that.
 class NumberAnswer
 {
 public:
-    /// The row of the app's table that makes the field; the pad's is NumberPad::row.
+    /// The row of the app's table that makes the field; `spoken` is what the pad asks for as well.
     static constexpr phial::ControlDesign row(phial::StringView spoken)
     {
         constexpr auto Place = frame_design::TaskPlaces::Answer;
-        return phial::design<phial::TextBox>(u"txt_Answer", {Place.left, Place.top, FieldWidth, Place.height})
+        return phial::design<phial::ctl_QVInput>(u"txt_Answer",
+                                                 {Place.left, Place.top, FieldWidth, Place.height})
             .inside(u"pan_Task")
             .font(24)
             .ground(phial::Palette::Surface)
-            .align(phial::Alignment::Right)
+            .set(u"MODE", phial::ID_InputMode_Double)
+            .set(u"AsTyped", true)
             .set(u"MaxLength", 12)
             .spoken(spoken);
+    }
+    /// The row of the button that opens the pad.
+    static constexpr phial::ControlDesign pad()
+    {
+        return frame_design::sideButton(u"but_Pad", frame_design::TaskPlaces::Pad, u"Zahlenblock|Number pad")
+            .inside(u"pan_Task")
+            .unfocusable();
     }
     /// The row of the unit beside the field.
     static constexpr phial::ControlDesign unit(phial::StringView text)
@@ -38,9 +53,15 @@ public:
             .align(phial::TEXTALIGN::MiddleLeft);
     }
 
-    explicit NumberAnswer(phial::Form& form);
+    /// The controls stand on the form. The pad opens beside `task`.
+    NumberAnswer(phial::Form& form, const phial::ControlPtr& task);
+    NumberAnswer(const NumberAnswer&) = delete;
+    NumberAnswer& operator=(const NumberAnswer&) = delete;
 
-    const std::shared_ptr<phial::TextBox>& field() const { return field_; }
+    /// What one types into.
+    phial::ControlPtr field() const { return input_; }
+    /// Puts a text there as if it had been typed.
+    void type(phial::String text) { input_->Text(std::move(text)); }
     /// What stands there; empty where it is no number.
     std::optional<double> value() const;
     /// The same text for the same number, however it is written; empty where it is none.
@@ -54,7 +75,7 @@ public:
     void close();
     /// What is told to whom has not typed a number.
     static phial::String unreadable();
-    void TRANSLATE() { pad_.TRANSLATE(); }
+    void TRANSLATE();
 
 private:
     static constexpr double FieldWidth = 220;
@@ -63,8 +84,10 @@ private:
     void look(bool decided);
 
     phial::Form& form_;
-    std::shared_ptr<phial::TextBox> field_;
-    NumberPad pad_;
+    std::shared_ptr<phial::ctl_QVInput> field_;
+    std::shared_ptr<phial::TextBox> input_; ///< within it
+    std::shared_ptr<phial::ctl_Button> pad_;
+    phial::Connection pressing_;
 };
 
 /// A typed number; empty where it is none.

@@ -47,7 +47,7 @@ constexpr phial::ControlDesign Controls[] = {
     learning::FormulaCard::name(),
     learning::NumberAnswer::row(u"Molare Masse in g/mol|Molar mass in g/mol"),
     learning::NumberAnswer::unit(u"g/mol|g/mol"),
-    learning::NumberPad::row(),
+    learning::NumberAnswer::pad(),
 };
 
 } // namespace
@@ -80,7 +80,7 @@ std::span<const phial::ControlDesign> Trainer::controls() const
 void Trainer::attach(phial::Form& form)
 {
     card_.emplace(form);
-    answer_.emplace(form);
+    answer_.emplace(form, card_->panel());
 }
 
 void Trainer::TRANSLATE()
@@ -147,22 +147,22 @@ void Trainer::fillWrong()
 {
     const String typical = massOfFirstElement(*data_.elements, task_.text);
     const auto before = answer_->value();
-    answer_->field()->Text(before && before == learning::typedNumber(typical) ? massText(*before + 1000)
-                           : before                                           ? massText(*before + 1)
-                                                                              : typical);
+    answer_->type(before && before == learning::typedNumber(typical) ? massText(*before + 1000)
+                  : before                                           ? massText(*before + 1)
+                                                                     : typical);
 }
 
 void Trainer::fill(Sample sample)
 {
     switch (sample) {
     case Sample::Right:
-        answer_->field()->Text(massText(mass_));
+        answer_->type(massText(mass_));
         return;
     case Sample::Wrong:
         fillWrong();
         return;
     case Sample::Unreadable:
-        answer_->field()->Text(translate(u"viel", u"much"));
+        answer_->type(translate(u"viel", u"much"));
         return;
     }
 }

@@ -105,9 +105,8 @@ class DecidedField : public TrainerTest, public testing::WithParamInterface<phia
 protected:
     ShownField shown()
     {
-        const auto field = form().control<phial::TextBox>(u"txt_Answer");
         const auto lock = form().control<phial::Shape>(u"shp_Lock");
-        return {field->BackColor(), field->ForeColor(),
+        return {field().BackColor(), field().ForeColor(),
                 lock->frame().isReachable() ? std::optional(lock->FillColor()) : std::nullopt};
     }
     static double between(phial::Colour one, phial::Colour other)
@@ -131,13 +130,13 @@ TEST_P(DecidedField, LooksLockedAndItsPadIsOff)
     EXPECT_GE(between(open.ink, decided.ink), Told);
     ASSERT_TRUE(decided.sign);
     EXPECT_GE(between(*decided.sign, phial::Palette::Ground), OfSigns);
-    EXPECT_FALSE(form().control<phial::ctl_Button>(u"but_Key", 0)->Enabled());
+    EXPECT_FALSE(form().control<phial::ctl_Button>(u"but_Pad")->Enabled());
 
     type(u"{enter}");
     EXPECT_EQ(shown().ground, open.ground);
     EXPECT_EQ(shown().ink, open.ink);
     EXPECT_FALSE(shown().sign);
-    EXPECT_TRUE(form().control<phial::ctl_Button>(u"but_Key", 0)->Enabled());
+    EXPECT_TRUE(form().control<phial::ctl_Button>(u"but_Pad")->Enabled());
 }
 
 INSTANTIATE_TEST_SUITE_P(Sets, DecidedField,
@@ -278,7 +277,7 @@ TEST_F(TrainerTest, F1DoesNothingOutsideATask)
     EXPECT_TRUE(isOpen());
 }
 
-TEST_F(TrainerTest, ThePadHonoursSelectionAndGreatestLength)
+TEST_F(TrainerTest, ThePadHonoursTheGreatestLengthAndReplacesAWrongAnswer)
 {
     openInstalled();
     touch(u"but_Level", 0);
@@ -288,9 +287,74 @@ TEST_F(TrainerTest, ThePadHonoursSelectionAndGreatestLength)
     touch(u"but_Check");
     touchPad(u"7");
     EXPECT_EQ(answer(), u"7");
-    touchPad(DeleteSign);
-    touchPad(DeleteSign);
+    EXPECT_EQ(focused(), u"txt_Answer");
+    type(u"18,0");
+    EXPECT_EQ(answer(), u"18,0") << "typing goes on in the field and replaces what the pad has put there";
+}
+
+TEST_F(TrainerTest, ThePadAsksForTheMassInTheLanguageInForce)
+{
+    openInstalled();
+    touch(u"but_Level", 0);
+    const auto expectTitle = [this](phial::StringView title) {
+        outside.visual().onModal(u"frm_DialogNumericTouch", [title](phial::Form& pad) {
+            EXPECT_EQ(pad.control<phial::ctl_Label>(u"lab_Title")->frame().AccessibleName(), title);
+            phial::headless::strike(pad, {.key = phial::Key::Escape});
+        });
+        touch(u"but_Pad");
+    };
+    expectTitle(u"Molare Masse in g/mol");
+    touch(u"but_Language");
+    expectTitle(u"Molar mass in g/mol");
     EXPECT_EQ(answer(), u"");
+}
+
+TEST_F(TrainerTest, APadThatIsClosedWithoutANumberLeavesNoAnswer)
+{
+    openInstalled();
+    touch(u"but_Level", 0);
+    touchPad(u"");
+    EXPECT_EQ(answer(), u"");
+    touch(u"but_Check");
+    EXPECT_EQ(seen(u"lab_Feedback"), u"Bitte gib eine Zahl ein, zum Beispiel 12,5.");
+    EXPECT_EQ(answer(), u"");
+}
+
+TEST_F(TrainerTest, InTouchModeAPressOnTheFieldOpensThePadBesideTheTask)
+{
+    openInstalled();
+    outside.display().resize(1920, 1080);
+    phial::QVAPP()->CONFIG()->TOUCHMODE(true);
+    touch(u"but_Level", 0);
+    outside.windows().place(form().control<phial::ctl_Pannel>(u"pan_Formula")->hWnd(), {332, 244, 892, 416});
+    outside.windows().place(field().hWnd(), {332, 436, 552, 500});
+    outside.visual().onModal(u"frm_DialogNumericTouch", [&](phial::Form& pad) {
+        EXPECT_EQ(pad.Left() / phial::TwipsPerPixel, 904);
+        EXPECT_EQ(pad.Top() / phial::TwipsPerPixel, 244);
+        phial::headless::type(pad, u"18~");
+    });
+    phial::headless::click(field());
+    EXPECT_EQ(answer(), u"18");
+    touch(u"but_Check");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"Richtig!"));
+    phial::headless::click(field()); // it is decided
+    EXPECT_EQ(answer(), u"18");
+}
+
+TEST_F(TrainerTest, AnAnswerStaysAsItWasTyped)
+{
+    openInstalled();
+    type(u"{enter}");
+    for (const phial::StringView text : {u"", u"viel", u"18,0150", u"18."}) {
+        field().inputText(phial::String(text), static_cast<std::int32_t>(text.size()), 0);
+        phial::headless::click(field());
+        form().control<phial::ctl_Button>(u"but_Check")->SetFocus();
+        EXPECT_EQ(answer(), text);
+        field().SetFocus();
+    }
+    type(u"{enter}");
+    EXPECT_EQ(answer(), u"18.");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"Richtig!"));
 }
 
 } // namespace

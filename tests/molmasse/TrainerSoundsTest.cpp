@@ -56,12 +56,12 @@ private:
     std::size_t listened_ = 0;
 };
 
-TEST_F(TrainerSounds, KeysOfThePadClick)
+TEST_F(TrainerSounds, TheButtonOfThePadClicks)
 {
     touch(u"but_Level", 0);
     EXPECT_THAT(heard(), IsEmpty());
     touchPad(u"18");
-    EXPECT_THAT(heard(), ElementsAre(Click, Click));
+    EXPECT_THAT(heard(), ElementsAre(Click));
 }
 
 TEST_F(TrainerSounds, AnswersArePraisedAndBlamedWithoutAWindow)

@@ -4,6 +4,9 @@
 #include "app/cls_AppConfig.h"
 #include "app/sys_Global.h"
 #include "common/frm_LearningApp.h"
+#include "dialogs/NumberLayout.h"
+#include "dialogs/ctl_Keys.h"
+#include "dialogs/ctl_QVInput.h"
 #include "headless/Hand.h"
 #include "molmasse/Trainer.h"
 #include "support/AppSession.h"
@@ -107,16 +110,26 @@ protected:
     {
         phial::headless::click(*form().control<phial::ctl_Button>(button, index));
     }
-    /// Presses the pad's key with that sign.
+    /// Opens the pad, presses its keys with those signs, and OK.
     void touchPad(phial::StringView signs)
     {
-        for (const char16_t sign : signs) {
-            touch(u"but_Key", padIndex(sign));
-        }
+        expectPad(signs);
+        touch(u"but_Pad");
+    }
+    /// The next pad is used so.
+    void expectPad(phial::StringView signs)
+    {
+        outside.visual().onModal(u"frm_DialogNumericTouch", [signs = phial::String(signs)](phial::Form& pad) {
+            const auto keys = pad.control<phial::ctl_Keys>(u"ctl_Keys");
+            for (const char16_t sign : signs) {
+                pressKey(*keys, sign == DeleteSign ? phial::String(u"BACKSPACE") : phial::String(1, sign));
+            }
+            pressKey(*keys, u"OK");
+        });
     }
 
     // What the pupil sees.
-    static constexpr phial::StringView DeleteSign = u"\u232B"; ///< on the pad
+    static constexpr char16_t DeleteSign = u'\u232B'; ///< for the pad's key that deletes
     static bool contains(const phial::String& text, phial::StringView part)
     {
         return text.find(part) != phial::String::npos;
@@ -127,7 +140,8 @@ protected:
         return found->frame().isReachable() ? found->Caption() : phial::String(u"(hidden)");
     }
     phial::String formula() { return form().control<phial::ctl_TermLabel>(u"trm_Formula")->Term(); }
-    phial::String answer() { return form().control<phial::TextBox>(u"txt_Answer")->Text(); }
+    phial::String answer() { return field().Text(); }
+    phial::TextBox& field() { return form().control<phial::ctl_QVInput>(u"txt_Answer")->input(); }
     phial::String buttonText(phial::StringView button)
     {
         return form().control<phial::ctl_Button>(button)->Caption();
@@ -151,13 +165,16 @@ private:
             folder.write(file, content);
         }
     }
-    std::int32_t padIndex(char16_t sign)
+    static void pressKey(phial::ctl_Keys& keys, const phial::String& name)
     {
-        for (std::int32_t i = 0;; ++i) {
-            if (form().control<phial::ctl_Button>(u"but_Key", i)->Caption() == phial::StringView(&sign, 1)) {
-                return i;
+        for (const phial::KeyDesign& key : phial::number_layout::Keys) {
+            if (keys.board().name(key.index) == name) {
+                const phial::PixelRectangle area = keys.areaOf(key.index);
+                phial::headless::click(keys, area.left + area.width / 2, area.top + area.height / 2);
+                return;
             }
         }
+        ADD_FAILURE() << phial::toUtf8(name);
     }
 };
 

@@ -198,10 +198,8 @@ TEST_F(TrainerTest, TheLanguageButtonTranslatesEverythingThatIsSeen)
 
 TEST_F(TrainerTest, TheDecimalSignIsThatOfTheLanguageAndBothAreRead)
 {
-    constexpr std::int32_t CommaKey = 9;
     openInstalled();
     touch(u"but_Language");
-    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Key", CommaKey)->Caption(), u".");
     touch(u"but_Level", 0);
     touch(u"but_Hint");
     EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1.0\u00A0g/mol)<br>1 \u00D7 O (16.0\u00A0g/mol)");
@@ -210,7 +208,6 @@ TEST_F(TrainerTest, TheDecimalSignIsThatOfTheLanguageAndBothAreRead)
               u"Right! 18.0\u00A0g/mol, 7 points for you.<br>All the small numbers taken in.");
 
     touch(u"but_Language");
-    EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Key", CommaKey)->Caption(), u",");
     EXPECT_EQ(seen(u"lab_Feedback"),
               u"Richtig! 18,0\u00A0g/mol, 7 Punkte für dich.<br>Alle kleinen Zahlen mitgerechnet.");
 }

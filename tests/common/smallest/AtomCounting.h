@@ -36,7 +36,7 @@ inline constexpr phial::ControlDesign Controls[] = {
     learning::FormulaCard::name(),
     learning::NumberAnswer::row(u"Zahl der Atome|Number of atoms"),
     learning::NumberAnswer::unit(u"Atome|atoms"),
-    learning::NumberPad::row(),
+    learning::NumberAnswer::pad(),
 };
 
 /// Counting atoms: a formula on a card, and the number of its atoms as the answer.
@@ -57,7 +57,7 @@ public:
     void attach(phial::Form& form) override
     {
         card_.emplace(form);
-        answer_.emplace(form);
+        answer_.emplace(form, card_->panel());
     }
     void TRANSLATE() override
     {
@@ -102,9 +102,8 @@ public:
     void fill(Sample sample) override
     {
         const double off = sample == Sample::Wrong ? 1 : 0;
-        answer_->field()->Text(sample == Sample::Unreadable
-                                   ? phial::String(u"?")
-                                   : phial::plainText(countedIn(task_.text) + off, u','));
+        answer_->type(sample == Sample::Unreadable ? phial::String(u"?")
+                                                   : phial::plainText(countedIn(task_.text) + off, u','));
     }
 
 private:
