@@ -37,7 +37,8 @@ public:
     String TEXTINPUTDIRECT(const String& pOldValue, const String& pTitle) const;
 
     /// Shows a folder of pictures as a book (see dialogs/frm_DialogHelpImages.h); an empty one is the
-    /// program's own help. With the parameter "DELETE" as True the user may delete pages. Always empty.
+    /// program's own help. With the parameter "DELETE" as True the user may delete pages; "CHAPTER" names a
+    /// sub-folder to begin with. Always empty.
     Variant HELPIMAGES(const String& pTitle, const String& pFolder = {},
                        const CoreParameters* pMore = nullptr) const;
 

@@ -24,6 +24,7 @@ inline constexpr double ButtonWidth = 140;
 inline constexpr double ButtonGap = 12;
 inline constexpr double ButtonTop = Height - BarHeight + (BarHeight - ButtonHeight) / 2;
 inline constexpr double StripGap = 6;
+inline constexpr double StripEdge = 2; ///< around the strip, so that its white is seen on white
 inline constexpr double StripTop = Height - BarHeight - StripHeight - StripGap;
 
 inline constexpr StringView Print = u"HELP.PRINT();";
@@ -46,6 +47,10 @@ inline constexpr ControlDesign Controls[] = {
         .ground(QBColor(15))
         .hidden()
         .touchable(),
+    design<Label>(u"lab_Strip", {Margin, StripTop, 20, StripHeight})
+        .set(u"BackStyle", BackStyle::Opaque)
+        .ground(RGB(28, 40, 54))
+        .hidden(),
     design<Label>(u"bar_Progress", {Margin, StripTop, 20, StripHeight})
         .at(0)
         .set(u"BackStyle", BackStyle::Opaque)
@@ -54,11 +59,13 @@ inline constexpr ControlDesign Controls[] = {
     design<ctl_Title>(u"bar_Header", {0, 0, Width, HeaderHeight}, u"Hilfe|Help")
         .font(15, FontWeight::Bold)
         .unfocusable(),
+    design<Label>(u"lab_Band", {0, Height - BarHeight, Width, BarHeight})
+        .set(u"BackStyle", BackStyle::Opaque),
     button(u"but_Back", Margin, u"Zurück|Back"),
     button(u"but_Menu", Margin + ButtonWidth + ButtonGap, u"Übersicht|Contents"),
     button(u"but_Delete", Margin + 2 * (ButtonWidth + ButtonGap), u"Löschen|Delete").hidden(),
     design<ctl_CmdBar>(u"ctl_CmdBar1", {Width / 2, Height - BarHeight, 200, BarHeight}).buttons(Commands),
-    button(u"but_Next", Width - Margin - ButtonWidth, u"Weiter|Next").set(u"Accent", true),
+    button(u"but_Next", Width - Margin - ButtonWidth, u"Weiter|Next"),
 };
 
 inline constexpr FormDesign Design{.name = u"frm_DialogHelpImages",

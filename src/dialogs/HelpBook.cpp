@@ -73,6 +73,14 @@ void HelpBook::openBook(const String& folder)
     open(book_);
 }
 
+void HelpBook::openChapter(const String& chapter)
+{
+    const String folder = CorePathText::WithBackslash(folder_ + chapter);
+    if (coreRoot().CoreFiles().FolderExists(folder)) {
+        open(folder);
+    }
+}
+
 void HelpBook::open(const String& folder)
 {
     folder_ = CorePathText::WithBackslash(folder);

@@ -42,6 +42,8 @@ public:
 
     /// Opens a book at its first folder and page; a missing backslash is added. The way back is forgotten.
     void openBook(const String& folder);
+    /// Goes to a sub-folder of the present one, as a colour of its map would, if it exists.
+    void openChapter(const String& chapter);
     /// Goes to another folder of the book, to its first page.
     void open(const String& folder);
     /// Reads the present folder again and stays on the page, as far as there is one.

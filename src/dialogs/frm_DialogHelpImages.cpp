@@ -9,7 +9,9 @@
 #include "core/CoreDisplay.h"
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
+#include "core/CoreTheme.h"
 #include "core/CoreTiming.h"
+#include "core/SessionState.h"
 #include "dialogs/DialogHelpImagesDesign.h"
 #include "dialogs/HelpPrint.h"
 
@@ -136,6 +138,9 @@ void frm_DialogHelpImages::load()
     }
     isLoaded_ = true;
     book_.openBook(folder_.empty() ? QVAPP()->URL()->DATAAPP() + String(HelpFolder) : folder_);
+    if (const String chapter = more_.Get(u"CHAPTER").toText(); !chapter.empty()) {
+        book_.openChapter(chapter);
+    }
     const PixelSize view = pages_.viewSize();
     form_->control<PictureBox>(u"pic_Viewer", 3)->frame().pixelRectangle({0, 0, view.width, view.height});
     showBook();
@@ -160,6 +165,9 @@ void frm_DialogHelpImages::layOut()
     form_->control<ctl_CmdBar>(u"ctl_CmdBar1")
         ->frame()
         .pixelRectangle({nextLeft - ButtonGap - width, inner.height - BarHeight, width, BarHeight});
+    const auto band = form_->control<Label>(u"lab_Band");
+    band->BackColor(coreTheme().Colour(ThemeSlot::Frame));
+    band->frame().pixelRectangle({0, inner.height - BarHeight, inner.width, BarHeight});
     form_->control<ctl_Title>(u"bar_Header")->frame().pixelRectangle({0, 0, inner.width, HeaderHeight});
     form_->control<PictureBox>(u"pic_ViewHolder")
         ->frame()
@@ -191,6 +199,11 @@ void frm_DialogHelpImages::makeStrip()
         segments_.load(next);
     }
     const double top = form_->innerSize().height - BarHeight - StripHeight - StripGap;
+    const auto edge = form_->control<Label>(u"lab_Strip");
+    edge->Visible(strip_.segments() > 0);
+    edge->frame().pixelRectangle({Margin - StripEdge, top - StripEdge,
+                                  strip_.left(strip_.segments()) + strip_.segmentWidth() + 2 * StripEdge,
+                                  StripHeight + 2 * StripEdge});
     for (std::int32_t segment = 1; segment <= strip_.segments(); ++segment) {
         Label& label = *segments_(segment);
         label.frame().pixelRectangle(
@@ -227,7 +240,7 @@ void frm_DialogHelpImages::showPlace()
     bar->BUTTONS()->Item(1)->Enabled(pages_.picture() != nullptr);
     bar->REFRESH();
     form_->control<ctl_Title>(u"bar_Header")
-        ->TextRight(place.pages == 0 ? String()
+        ->TextRight(place.pages <= 1 ? String()
                                      : Variant(place.page).toText() + u" / " + Variant(place.pages).toText());
     if (form_->Visible() && !form_->ActiveControl()) {
         for (const auto& button : {next_, back_}) {
@@ -412,7 +425,16 @@ void frm_DialogHelpImages::letGo(std::int32_t touch, PixelPoint at, bool isCance
 void frm_DialogHelpImages::tap(PixelPoint at)
 {
     if (book_.follow(pages_.mapColourAt(at))) {
-        showBook();
+        enterFolder();
+    }
+}
+
+/// Whoever has opened a chapter reads on.
+void frm_DialogHelpImages::enterFolder()
+{
+    showBook();
+    if (next_->Enabled()) {
+        next_->SetFocus();
     }
 }
 
@@ -427,9 +449,23 @@ void frm_DialogHelpImages::wheel(WheelEvent& event)
 
 void frm_DialogHelpImages::keyDown(KeyEvent& event)
 {
-    if (event.Shift == 0 && turnsPage(event)) {
+    if (event.Shift == 0 && (turnsPage(event) || opensChapter(event))) {
         event.KeyCode = 0;
     }
+}
+
+/// The chapters of a menu have numbers.
+bool frm_DialogHelpImages::opensChapter(const KeyEvent& event)
+{
+    constexpr std::int32_t Chapters = 6;
+    const std::int32_t number = event.KeyCode - u'0';
+    if (number < 1 || number > Chapters || !book_.place().isMenuInView()) {
+        return false;
+    }
+    finishSlide();
+    book_.openChapter(u"K" + Variant(number).toText());
+    enterFolder();
+    return true;
 }
 
 bool frm_DialogHelpImages::turnsPage(const KeyEvent& event)

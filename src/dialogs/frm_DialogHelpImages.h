@@ -22,7 +22,8 @@ namespace phial
 /// See HelpBook for what a folder holds. A page that is larger than its place can be enlarged by two fingers
 /// or the wheel.
 ///
-/// The arrow keys, PageUp and PageDown turn pages, Home and End go to the first and last one, Escape closes.
+/// The arrow keys, PageUp and PageDown turn pages, Home and End go to the first and last one, 1 to 6 open a
+/// menu's chapters, Escape closes.
 /// With the option "DELETE" a page's file can be deleted. An object serves for one dialog.
 class frm_DialogHelpImages
 {
@@ -41,7 +42,8 @@ public:
     /// Empty for the program's own help book, "Hilfe\" in the folder of its data.
     const String& Folder() const;
     void Folder(String value) { folder_ = std::move(value); }
-    /// "DELETE" with the value True lets the user delete pages.
+    /// "DELETE" with the value True lets the user delete pages; "CHAPTER" is a sub-folder to begin with, from
+    /// which the way back leads to the book's menu.
     CoreParameters& More() { return more_; }
 
     // What is shown.
@@ -76,10 +78,12 @@ private:
     void letGo(std::int32_t touch, PixelPoint at, bool isCancelled);
     void pinch(std::int32_t touch, PixelPoint at);
     void tap(PixelPoint at);
+    void enterFolder();
     void wheel(WheelEvent& event);
 
     void keyDown(KeyEvent& event);
     bool turnsPage(const KeyEvent& event);
+    bool opensChapter(const KeyEvent& event);
     void deletePage();
     void printPage();
 
