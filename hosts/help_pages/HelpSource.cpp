@@ -1,7 +1,10 @@
 #include "help_pages/HelpSource.h"
 
 #include "core/RuntimeError.h"
+#include "core/Variant.h"
 #include "visual/Markup.h"
+
+#include <optional>
 
 namespace help_pages
 {
@@ -26,6 +29,43 @@ String behind(StringView line, std::size_t sign)
                               u"A help book cannot have this line here: " + String(line));
 }
 
+/// Of a line that begins so.
+std::optional<Block::Kind> kindOf(StringView sign)
+{
+    if (sign == u"> ") {
+        return Block::Kind::Term;
+    }
+    if (sign == u"* ") {
+        return Block::Kind::Step;
+    }
+    if (sign == u"! ") {
+        return Block::Kind::Note;
+    }
+    if (sign == u"% ") {
+        return Block::Kind::Picture;
+    }
+    return std::nullopt;
+}
+
+/// What a screen reader says of a block; empty for a picture, which shows what the text tells.
+String saidOf(const Block& block, int step)
+{
+    switch (block.kind) {
+    case Block::Kind::Picture:
+        return {};
+    case Block::Kind::Term:
+        return block.text;
+    case Block::Kind::Step:
+        return phial::Variant(step).toText() + u". " + phial::plainMarkup(block.text);
+    case Block::Kind::Key:
+        return block.key + u": " + phial::plainMarkup(block.text);
+    case Block::Kind::Paragraph:
+    case Block::Kind::Note:
+        break;
+    }
+    return phial::plainMarkup(block.text);
+}
+
 class Reader
 {
 public:
@@ -39,9 +79,13 @@ public:
             book_.chapters.push_back({behind(line, 1), {}});
         } else if (phial::trimmed(String(line)).empty()) {
             isWithin_ = false;
-        } else if (line.starts_with(u"> ")) {
-            page(line).blocks.push_back({Block::Kind::Term, behind(line, 1)});
-            isWithin_ = false;
+        } else if (const auto kind = kindOf(line.substr(0, 2))) {
+            page(line).blocks.push_back({*kind, behind(line, 1), {}});
+            isWithin_ = *kind == Block::Kind::Step || *kind == Block::Kind::Note;
+        } else if (const std::size_t end = line.find(u"] "); line.starts_with(u'[') && end != line.npos) {
+            page(line).blocks.push_back(
+                {Block::Kind::Key, behind(line, end + 1), String(line.substr(1, end - 1))});
+            isWithin_ = true;
         } else {
             addToParagraph(line);
         }
@@ -84,7 +128,7 @@ private:
         if (isWithin_) {
             current.blocks.back().text += u" " + String(line);
         } else {
-            current.blocks.push_back({Block::Kind::Paragraph, String(line)});
+            current.blocks.push_back({Block::Kind::Paragraph, String(line), {}});
         }
         isWithin_ = true;
     }
@@ -98,8 +142,22 @@ private:
 String Page::spoken() const
 {
     String text = title + u".";
+    int steps = 0;
     for (const Block& block : blocks) {
-        text += u"\n" + (block.kind == Block::Kind::Paragraph ? phial::plainMarkup(block.text) : block.text);
+        steps += block.kind == Block::Kind::Step ? 1 : 0;
+        if (const String said = saidOf(block, steps); !said.empty()) {
+            text += u"\n" + said;
+        }
+    }
+    return text + u"\n";
+}
+
+String Book::spoken() const
+{
+    String text = title + u".";
+    std::int32_t number = 0;
+    for (const Chapter& chapter : chapters) {
+        text += u"\n" + phial::Variant(++number).toText() + u": " + chapter.title;
     }
     return text + u"\n";
 }

@@ -1,5 +1,5 @@
-// Paints a help book: `help_pages SOURCE FOLDER` writes the menu, its map (as menu_choice.ppm) and the pages
-// of each chapter (K1 to K6) with their texts. Needs neither a display nor the installation tree.
+// Paints a help book: `help_pages SOURCE FOLDER` writes the menu, its map and the pages of each chapter (K1
+// to K6), as PPM files, with their texts. Needs neither a display nor the installation tree.
 
 #include "core/RuntimeError.h"
 #include "help_pages/HelpPainting.h"
@@ -21,21 +21,19 @@ namespace
 
 using Paint = std::function<void(phial::DrawDevice&, phial::TextMetrics&)>;
 
-constexpr int JpegQuality = 92;
-
 QString said(const phial::String& text)
 {
     return QString::fromStdU16String(text);
 }
 
-void save(const QString& file, double ratio, const Paint& paint)
+void save(const QString& path, double ratio, const Paint& paint)
 {
+    const QString file = path + QStringLiteral(".ppm");
     const auto picture = std::make_shared<phial::Picture>(help_pages::PageSize, ratio);
     const auto metrics = std::make_shared<phial::qt::QtTextMetrics>();
     phial::DrawDevice device(std::make_shared<phial::qt::PictureBackend>(picture, metrics));
     paint(device, *metrics);
-    const QImage image = phial::qt::imageOf(*picture).convertToFormat(QImage::Format_RGB32);
-    if (!image.save(file, nullptr, file.endsWith(QStringLiteral(".jpg")) ? JpegQuality : -1)) {
+    if (!phial::qt::imageOf(*picture).convertToFormat(QImage::Format_RGB32).save(file)) {
         throw std::runtime_error("cannot write " + file.toStdString());
     }
 }
@@ -43,8 +41,8 @@ void save(const QString& file, double ratio, const Paint& paint)
 /// The picture in its own size, and twice as fine beside it.
 void savePage(const QString& path, const Paint& paint)
 {
-    save(path + QStringLiteral(".jpg"), 1, paint);
-    save(path + QStringLiteral("@2x.png"), 2, paint);
+    save(path, 1, paint);
+    save(path + QStringLiteral("@2x"), 2, paint);
 }
 
 void saveText(const QString& path, const phial::String& text)
@@ -55,17 +53,18 @@ void saveText(const QString& path, const phial::String& text)
     }
 }
 
-void saveChapter(const QDir& folder, const help_pages::Chapter& chapter)
+void saveChapter(const QDir& folder, const help_pages::Book& book, std::size_t chapter)
 {
-    for (std::size_t at = 0; at < chapter.pages.size(); ++at) {
-        const help_pages::Page& page = chapter.pages[at];
+    folder.mkpath(QStringLiteral("."));
+    const auto& pages = book.chapters[chapter].pages;
+    for (std::size_t at = 0; at < pages.size(); ++at) {
         const QString path = folder.filePath(QStringLiteral("%1").arg(at + 1, 2, 10, QLatin1Char('0')));
         savePage(path, [&](phial::DrawDevice& device, phial::TextMetrics& metrics) {
-            if (!help_pages::drawPage(device, metrics, page)) {
-                throw std::runtime_error("too long: " + phial::toUtf8(page.title));
+            if (!help_pages::drawPage(device, metrics, book, chapter, at)) {
+                throw std::runtime_error("too long: " + phial::toUtf8(pages[at].title));
             }
         });
-        saveText(path, page.spoken());
+        saveText(path, pages[at].spoken());
     }
 }
 
@@ -74,16 +73,12 @@ void saveBook(const QDir& folder, const help_pages::Book& book)
     folder.mkpath(QStringLiteral("."));
     savePage(folder.filePath(QStringLiteral("menu")),
              [&](auto& device, auto& metrics) { help_pages::drawMenu(device, metrics, book); });
-    save(folder.filePath(QStringLiteral("menu_choice.ppm")), 1,
+    save(folder.filePath(QStringLiteral("menu_choice")), 1,
          [&](auto& device, auto&) { help_pages::drawMap(device, book); });
-    phial::String text = book.title + u".";
+    saveText(folder.filePath(QStringLiteral("menu")), book.spoken());
     for (std::size_t at = 0; at < book.chapters.size(); ++at) {
-        const QDir chapter(folder.filePath(QStringLiteral("K%1").arg(at + 1)));
-        chapter.mkpath(QStringLiteral("."));
-        saveChapter(chapter, book.chapters[at]);
-        text += u"\n" + book.chapters[at].title;
+        saveChapter(QDir(folder.filePath(QStringLiteral("K%1").arg(at + 1))), book, at);
     }
-    saveText(folder.filePath(QStringLiteral("menu")), text + u"\n");
 }
 
 } // namespace
