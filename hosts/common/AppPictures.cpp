@@ -19,6 +19,7 @@
 #include "core/CoreSystem.h"
 #include "core/NativePath.h"
 #include "core/SessionState.h"
+#include "dialogs/frm_DialogHelpImages.h"
 #include "results/cls_DataScores.h"
 #include "server/cls_AppServer.h"
 #include "visual/ListView.h"
@@ -250,6 +251,20 @@ void showAbout(StringView language, const Take& take)
     about.form().Unload();
 }
 
+/// The help book's menu, and the first page of the chapter that belongs to a task.
+void showHelp(StringView language, const Take& take)
+{
+    const auto show = [&](StringView name, StringView chapter) {
+        phial::frm_DialogHelpImages help;
+        help.More().Set(u"CHAPTER", String(chapter));
+        help.form().Show();
+        take(pictureName() + String(name) + String(language), help.form());
+        help.form().Unload();
+    };
+    show(u"help-", {});
+    show(u"help-chapter-", u"K1");
+}
+
 /// The app without the data that it needs.
 void showMissing(const MakeApp& makeApp, const Take& take, StringView language)
 {
@@ -275,6 +290,7 @@ void showInOtherColours(StringView language, const MakeApp& makeApp, const Take&
         Tour(makeApp(), take, where).showColours();
         showMasterChoice(where, take);
         showAbout(where, take);
+        showHelp(where, take);
     }
     phial::coreTheme().SetColours(before);
 }
@@ -298,6 +314,7 @@ void showIn(phial::enm_LanguageC language, StringView name, const MakeApp& makeA
         showInOtherColours(name, makeApp, take);
         Tour(makeApp(), take, name).showClassroom(*newClassroom());
         showMasterChoice(name, take);
+        showHelp(name, take);
     }
     showMissing(makeApp, take, name);
     showAbout(name, take);

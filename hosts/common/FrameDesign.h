@@ -187,7 +187,7 @@ inline constexpr ControlDesign Head[] = {
     headerButton(u"but_Colours", ColoursPlace, {}),
     headerButton(u"but_Language", LanguagePlace, u"EN|DE").spoken(u"Auf Englisch|In German"),
     headerButton(u"but_Screen", ScreenPlace, u"\u2922").spoken(u"Ganzer Bildschirm (F11)|Full screen (F11)"),
-    headerButton(u"but_Help", HelpPlace, u"?").spoken(u"Hilfe|Help"),
+    headerButton(u"but_Help", HelpPlace, u"?").spoken(u"Hilfe (F1)|Help (F1)"),
 
     heading(u"lab_Question", {60, 60, 780, 44}).inside(u"pan_Start"),
     // No line of what is read has more than 66 letters.
@@ -201,6 +201,9 @@ inline constexpr ControlDesign Head[] = {
         .font(11)
         .ink(Palette::Muted)
         .align(TopLeft),
+
+    sideButton(u"but_About", {594, 364, 246, 48}, u"Über das Programm …|About the program …")
+        .inside(u"pan_Start"),
 
     design<ctl_Label>(u"lab_Remembered", {60, 428, 513, 48})
         .inside(u"pan_Start")

@@ -139,6 +139,9 @@ public:
     virtual phial::String support() const { return {}; }
     /// How the solution is come by, shown when the task is decided.
     virtual phial::String working() const { return {}; }
+    /// The chapter of the app's help book that belongs to the task that is shown, such as "K2"; empty for the
+    /// book's menu.
+    virtual phial::StringView helpChapter() const { return {}; }
     /// What may be looked up for nothing in a round of the level that has begun, in the language in force;
     /// without any there is no drawer.
     virtual std::vector<ReferenceEntry> reference() const { return {}; }

@@ -18,6 +18,8 @@
 #include "common/MissedTasks.h"
 #include "common/frm_LeaveRound.h"
 #include "core/CoreDialogs.h"
+#include "core/CoreFiles.h"
+#include "core/CoreParameters.h"
 #include "core/CoreRoot.h"
 #include "core/CoreTheme.h"
 #include "core/SessionState.h"
@@ -42,6 +44,8 @@ constexpr auto FullScreenKey = // F11
     static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 10);
 constexpr auto ReferenceKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 1); // F2
 constexpr auto SayAgainKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 2);  // F3
+constexpr auto HintKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 3);      // F4
+constexpr StringView HelpFolder = u"Hilfe\\";
 constexpr std::int32_t AskingInterval = 5'000; // milliseconds
 
 phial::FormDesign designOf(const AppTexts& texts)
@@ -185,10 +189,8 @@ void frm_LearningApp::connect()
     form_.press(u"but_Forget", [this] { forgetMissed(); });
     form_.on(form_->QueryUnload, [this](bool& rKeeps) { askBeforeClosing(rKeeps); });
     form_.on(get<phial::ctl_Avatar>(u"ctl_User")->CLICK, [this] { askForUser(); });
-    form_.press(u"but_Help", [this] {
-        QVAPP()->DIALOG()->ABOUT();
-        backToTask();
-    });
+    form_.press(u"but_Help", [this] { showHelp(); });
+    form_.press(u"but_About", [] { QVAPP()->DIALOG()->ABOUT(); });
     for (const auto* button : {u"but_Colours", u"but_Sound", u"but_Mascot"}) {
         form_.press(button, [this] { backToTask(); });
     }
@@ -298,6 +300,23 @@ void frm_LearningApp::forgetMissed()
     }
 }
 
+/// The app's help book, on the page of tasks with the chapter that belongs to the task. Without a book the
+/// app tells what it is.
+void frm_LearningApp::showHelp()
+{
+    const String book = QVAPP()->URL()->DATAAPP() + String(HelpFolder);
+    if (QVAPP()->URL()->DATAAPP().empty() || !phial::coreRoot().CoreFiles().FolderExists(book)) {
+        QVAPP()->DIALOG()->ABOUT();
+    } else {
+        phial::CoreParameters more;
+        if (page_ == Page::Task) {
+            more.Set(u"CHAPTER", String(app_->helpChapter()));
+        }
+        QVAPP()->DIALOG()->HELPIMAGES({}, book, &more);
+    }
+    backToTask();
+}
+
 void frm_LearningApp::toggleFullScreen()
 {
     if (windowed_) {
@@ -328,6 +347,15 @@ void frm_LearningApp::nameUser()
     const String name = avatar->accessibleText();
     avatar->frame().ToolTipText(purpose);
     avatar->frame().AccessibleName(name.empty() ? purpose : name + u", " + purpose);
+}
+
+/// The keys of what bears only a sign or no key in its caption.
+void frm_LearningApp::nameHelp()
+{
+    get<phial::ctl_Button>(u"but_Help")->frame().ToolTipText(translate(u"Hilfe (F1)", u"Help (F1)"));
+    get<phial::ctl_Button>(u"but_Hint")
+        ->frame()
+        .ToolTipText(translate(u"Tipp zeigen (F4)", u"Show the hint (F4)"));
 }
 
 void frm_LearningApp::enterClassroom()
@@ -408,6 +436,7 @@ void frm_LearningApp::TRANSLATE()
     QVAPP()->CONFIG()->NAME(form_->Caption());
     nameLevelButtons();
     nameUser();
+    nameHelp();
     showAppTexts();
     caption(*form_, u"lab_Missing", missingText());
     tasks_->TRANSLATE();
@@ -566,6 +595,9 @@ bool frm_LearningApp::isForField(const phial::KeyEvent& event) const
 std::function<void()> frm_LearningApp::actionOf(const phial::KeyEvent& event)
 {
     if (event.is(phial::Key::F1)) {
+        return [this] { showHelp(); };
+    }
+    if (event.is(HintKey)) {
         return [this] {
             if (page_ == Page::Task) {
                 tasks_->giveHint();

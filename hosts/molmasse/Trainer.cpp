@@ -138,6 +138,13 @@ String Trainer::working() const
     return workedLine(*data_.elements, task_.text);
 }
 
+phial::StringView Trainer::helpChapter() const
+{
+    constexpr phial::StringView MolarMass = u"K2";
+    constexpr phial::StringView Brackets = u"K3";
+    return task_.text.find(u'(') == String::npos ? MolarMass : Brackets;
+}
+
 std::vector<learning::ReferenceEntry> Trainer::reference() const
 {
     return massesOfElements(*data_.elements, data_.tasks.tasks());

@@ -46,6 +46,7 @@ public:
     std::vector<phial::StringView> mastered() const override { return masteredIn(task_.text); }
     phial::String support() const override;
     phial::String working() const override;
+    phial::StringView helpChapter() const override;
     std::vector<learning::ReferenceEntry> reference() const override;
     void fill(Sample sample) override;
 

@@ -44,6 +44,7 @@ public:
     phial::String remark() const override;
     phial::String support() const override;
     phial::String working() const override;
+    phial::StringView helpChapter() const override { return u"K1"; }
     std::vector<phial::StringView> mastered() const override;
     void fill(Sample sample) override;
 

@@ -207,7 +207,7 @@ TEST_F(TrainerTest, ARightAnswerIsWorkedOutToo)
     openInstalled();
     type(u"{enter}18{enter}");
     EXPECT_EQ(seen(u"lab_Hint"), u"2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
-    type(u"{f1}"); // there is nothing left to give a hint for
+    type(u"{f4}"); // there is nothing left to give a hint for
     EXPECT_EQ(seen(u"lab_Hint"), u"2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
 }
@@ -242,10 +242,10 @@ TEST_F(TrainerTest, WhatIsNoNumberIsTurnedDownWithoutLosingATry)
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
 }
 
-TEST_F(TrainerTest, F1ShowsTheAtomsCountedAndCostsThreePoints)
+TEST_F(TrainerTest, F4ShowsTheAtomsCountedAndCostsThreePoints)
 {
     openInstalled();
-    type(u"{enter}{f1}");
+    type(u"{enter}{f4}");
 
     EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1,0\u00A0g/mol)<br>1 \u00D7 O (16,0\u00A0g/mol)");
     EXPECT_EQ(focused(), u"txt_Answer");
@@ -254,7 +254,7 @@ TEST_F(TrainerTest, F1ShowsTheAtomsCountedAndCostsThreePoints)
     EXPECT_EQ(seen(u"lab_Points"), u"7 Punkte");
 }
 
-TEST_F(TrainerTest, TheHintButtonDoesAsF1)
+TEST_F(TrainerTest, TheHintButtonDoesAsF4)
 {
     openInstalled();
     touch(u"but_Level", 0);
@@ -267,11 +267,11 @@ TEST_F(TrainerTest, TheHintButtonDoesAsF1)
     EXPECT_EQ(seen(u"lab_Points"), u"7 Punkte");
 }
 
-TEST_F(TrainerTest, F1DoesNothingOutsideATask)
+TEST_F(TrainerTest, F4DoesNothingOutsideATask)
 {
     openInstalled();
 
-    type(u"{f1}");
+    type(u"{f4}");
 
     EXPECT_TRUE(isSeen(u"pan_Start"));
     EXPECT_TRUE(isOpen());

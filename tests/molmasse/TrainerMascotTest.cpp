@@ -284,7 +284,7 @@ TEST_F(TrainerMascot, LooksCalmAfterTheThirdTry)
 TEST_F(TrainerMascot, SmilesAtTheHint)
 {
     begin();
-    type(u"{F1}");
+    type(u"{F4}");
     EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Happy);
     EXPECT_EQ(said(), u"") << "the page tells it";
 }

@@ -12,6 +12,7 @@
 #include "support/AppSession.h"
 #include "term/ctl_TermLabel.h"
 #include "visual/Form.h"
+#include "visual/PictureBox.h"
 #include "visual/ctl_Label.h"
 #include "visual/ctl_Pannel.h"
 
@@ -82,6 +83,25 @@ protected:
     {
         install();
         open();
+    }
+
+    /// A help book with a page in each of these folders, which says so.
+    void installHelp(std::initializer_list<std::string> folders)
+    {
+        for (const std::string& chapter : folders) {
+            const std::string page = "installed/apps/Molmasse/data/Hilfe/" + chapter + "/1";
+            folder.write(page + ".gif", "");
+            folder.write(page + ".txt", chapter);
+        }
+    }
+    /// The help book comes with that folder's page.
+    void expectHelp(const phial::String& chapter)
+    {
+        outside.visual().onModal(u"frm_DialogHelpImages", [chapter](phial::Form& help) {
+            EXPECT_EQ(help.control<phial::PictureBox>(u"pic_Viewer", 1)->frame().AccessibleName(),
+                      u"Seite 1 von 1: " + chapter);
+            help.Unload();
+        });
     }
 
     /// The box that tells about the rank comes at the end of a round.

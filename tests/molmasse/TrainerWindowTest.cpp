@@ -37,20 +37,77 @@ TEST_F(TrainerTest, BeginsWithTheChoiceOfTheLevel)
     EXPECT_EQ(focused(), u"but_Level");
 }
 
-TEST_F(TrainerTest, HelpTellsAboutTheTrainerInTheLanguageInForce)
+TEST_F(TrainerTest, TellsAboutItselfInTheLanguageInForce)
 {
     openInstalled();
     const auto expectAbout = [this](StringView button, StringView caption) {
-        EXPECT_EQ(form().control<phial::ctl_Button>(u"but_Help")->frame().AccessibleName(), button);
+        EXPECT_EQ(buttonText(u"but_About"), button);
         outside.visual().onModal(u"frm_AppAbout", [caption](phial::Form& about) {
             EXPECT_EQ(about.Caption(), caption);
             about.Unload();
         });
-        touch(u"but_Help");
+        touch(u"but_About");
     };
-    expectAbout(u"Hilfe", u"Info über Molmassen-Trainer");
+    expectAbout(u"Über das Programm …", u"Info über Molmassen-Trainer");
     phial::LNG()->CURRENT(phial::ID_Language_English);
-    expectAbout(u"Help", u"About Molar mass trainer");
+    expectAbout(u"About the program …", u"About Molar mass trainer");
+}
+
+TEST_F(TrainerTest, OpensItsHelpBookByKeyAndByTouchOnEachPage)
+{
+    installHelp({".", "K2", "K3"});
+    openInstalled();
+    expectHelp(u".");
+    type(u"{f1}");
+    expectHelp(u".");
+    touch(u"but_Help");
+    touch(u"but_Level", 0);
+    expectHelp(u"K2");
+    type(u"{f1}");
+    EXPECT_EQ(focused(), u"txt_Answer");
+    expectHelp(u"K2");
+    touch(u"but_Help");
+    EXPECT_EQ(focused(), u"txt_Answer");
+}
+
+TEST_F(TrainerTest, OpensTheChapterAboutBracketsAtAFormulaWithSome)
+{
+    installHelp({".", "K2", "K3"});
+    install(Elements, "[leicht] Leicht | Easy\nNa(OH)2\n");
+    open();
+    touch(u"but_Level", 0);
+    expectHelp(u"K3");
+    type(u"{f1}");
+}
+
+TEST_F(TrainerTest, OpensTheWholeBookWhereItHasNoSuchChapter)
+{
+    installHelp({"."});
+    openInstalled();
+    touch(u"but_Level", 0);
+    expectHelp(u".");
+    type(u"{f1}");
+}
+
+TEST_F(TrainerTest, TellsWhatItIsWhereItHasNoHelpBook)
+{
+    openInstalled();
+    outside.visual().onModal(u"frm_AppAbout", [](phial::Form& about) { about.Unload(); });
+    type(u"{f1}");
+    EXPECT_EQ(focused(), u"but_Level");
+}
+
+TEST_F(TrainerTest, TellsTheKeysOfHelpAndHint)
+{
+    openInstalled();
+    const auto tip = [this](StringView button) {
+        return form().control<phial::ctl_Button>(button)->frame().ToolTipText();
+    };
+    EXPECT_EQ(tip(u"but_Help"), u"Hilfe (F1)");
+    EXPECT_EQ(tip(u"but_Hint"), u"Tipp zeigen (F4)");
+    phial::LNG()->CURRENT(phial::ID_Language_English);
+    EXPECT_EQ(tip(u"but_Help"), u"Help (F1)");
+    EXPECT_EQ(tip(u"but_Hint"), u"Show the hint (F4)");
 }
 
 TEST_F(TrainerTest, FillsItsWindowAtEachSize)
