@@ -45,7 +45,7 @@ std::vector<Exhibit> catalogue()
 {
     std::vector<Exhibit> all;
     for (const auto section : {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits,
-                               userExhibits, keyboardExhibits, markupExhibits, resultExhibits,
+                               userExhibits, keyboardExhibits, markupExhibits, helpExhibits, resultExhibits,
                                formulaExhibits, soundExhibits, mascotExhibits, periodicExhibits}) {
         std::ranges::move(section(), std::back_inserter(all));
     }

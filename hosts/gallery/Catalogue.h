@@ -16,6 +16,7 @@ std::vector<Exhibit> userExhibits();
 std::vector<Exhibit> windowExhibits();
 std::vector<Exhibit> keyboardExhibits();
 std::vector<Exhibit> markupExhibits();
+std::vector<Exhibit> helpExhibits();
 std::vector<Exhibit> resultExhibits();
 std::vector<Exhibit> formulaExhibits();
 std::vector<Exhibit> soundExhibits();
