@@ -1,6 +1,7 @@
 #include "headless/Hand.h"
 
 #include "core/RuntimeError.h"
+#include "headless/PressedControl.h"
 #include "headless/TextTyping.h"
 #include "visual/CommandBar.h"
 #include "visual/Form.h"
@@ -46,9 +47,14 @@ void press(Control& control, double x, double y)
     }
     focusByPress(control);
     const PointerEvent event{PointerButton::Left, 0, x, y};
+    const PressedControl pressed(control);
     control.pointerDown(event);
-    control.pointerUp(event);
-    control.click();
+    if (pressed.isLive()) {
+        control.pointerUp(event);
+    }
+    if (pressed.isLive()) {
+        control.click();
+    }
 }
 
 void moveFocus(Form& form, bool backward)
@@ -107,8 +113,9 @@ void focusByPress(Control& control)
 void doubleClick(Control& control)
 {
     const auto self = control.shared_from_this();
+    const PressedControl pressed(control);
     click(control);
-    if (control.frame().isReachable()) {
+    if (pressed.isLive() && control.frame().isReachable()) {
         control.doubleClick();
     }
 }
@@ -126,12 +133,17 @@ void drag(Control& control, PixelPoint from, PixelPoint to)
         return PointerEvent{PointerButton::Left, 0, from.x + (to.x - from.x) * share + origin.x - now.x,
                             from.y + (to.y - from.y) * share + origin.y - now.y};
     };
+    const PressedControl pressed(control);
     control.pointerDown(event(0));
-    for (int step = 1; step <= Steps; ++step) {
+    for (int step = 1; step <= Steps && pressed.isLive(); ++step) {
         control.pointerMove(event(static_cast<double>(step) / Steps));
     }
-    control.pointerUp(event(1));
-    control.click();
+    if (pressed.isLive()) {
+        control.pointerUp(event(1));
+    }
+    if (pressed.isLive()) {
+        control.click();
+    }
 }
 
 void turnWheel(Control& control, double notches)

@@ -65,7 +65,7 @@ void TouchScreen::begin(Finger& finger, const ControlPtr& control)
         return;
     }
     finger.number = takesTouch ? freeNumber(*control) : 0;
-    finger.pressed = control;
+    finger.pressed = PressedControl(*control);
     const PixelPoint origin = screenOrigin(*control);
     const PointerEvent event{PointerButton::Left, 0, finger.place.x - origin.x, finger.place.y - origin.y,
                              finger.number};
@@ -76,14 +76,14 @@ void TouchScreen::begin(Finger& finger, const ControlPtr& control)
 bool TouchScreen::isMouseDown() const
 {
     return std::ranges::any_of(
-        down_, [](const auto& held) { return held.second.number == 0 && !held.second.pressed.expired(); });
+        down_, [](const auto& held) { return held.second.number == 0 && held.second.pressed.inPlace(); });
 }
 
 std::int32_t TouchScreen::freeNumber(const Control& control) const
 {
     const auto isTaken = [&](std::int32_t number) {
         return std::ranges::any_of(down_, [&](const auto& held) {
-            return held.second.number == number && held.second.pressed.lock().get() == &control;
+            return held.second.number == number && held.second.pressed.inPlace().get() == &control;
         });
     };
     std::int32_t number = 1;
@@ -98,7 +98,7 @@ void TouchScreen::move(std::int32_t finger, PixelPoint by)
     Finger& moved = held(finger);
     moved.place = {moved.place.x + by.x, moved.place.y + by.y};
     lead(finger);
-    if (const ControlPtr control = moved.pressed.lock()) {
+    if (const ControlPtr control = moved.pressed.inPlace()) {
         const PixelPoint origin = screenOrigin(*control);
         control->pointerMove(
             {PointerButton::Left, 0, moved.place.x - origin.x, moved.place.y - origin.y, moved.number});
@@ -112,18 +112,16 @@ void TouchScreen::release(std::int32_t finger)
     if (leading_ == finger) {
         leading_.reset();
     }
-    const ControlPtr control = released.pressed.lock();
+    const ControlPtr control = released.pressed.inPlace();
     if (!control) {
         return;
     }
     const PixelPoint origin = screenOrigin(*control);
     const PointerEvent event{PointerButton::Left, 0, released.place.x - origin.x, released.place.y - origin.y,
                              released.number};
-    const auto form = control->frame().form();
-    const bool shown = form && form->Visible();
+    const PressedControl let(*control);
     control->pointerUp(event);
-    const bool closed = shown && !form->Visible();
-    if (!closed && control->frame().isReachable() && isOn(*control, event)) {
+    if (let.isLive() && control->frame().isReachable() && isOn(*control, event)) {
         control->click();
     }
 }
@@ -132,7 +130,7 @@ void TouchScreen::cancel()
 {
     leading_.reset();
     for (const auto& [number, finger] : std::exchange(down_, {})) {
-        if (const ControlPtr control = finger.pressed.lock()) {
+        if (const ControlPtr control = finger.pressed.inPlace()) {
             const PixelPoint origin = screenOrigin(*control);
             control->pointerUp({PointerButton::Left, 0, finger.place.x - origin.x, finger.place.y - origin.y,
                                 finger.number, true});

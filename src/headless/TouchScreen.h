@@ -1,7 +1,7 @@
 #pragma once
 
 #include "headless/FakeDisplay.h"
-#include "visual/Control.h"
+#include "headless/PressedControl.h"
 
 #include <map>
 #include <optional>
@@ -32,9 +32,9 @@ public:
 
 private:
     struct Finger {
-        std::weak_ptr<Control> pressed; ///< empty for one that does nothing
-        PixelPoint place;               ///< on the screen
-        std::int32_t number = 0;        ///< 0 where it is the mouse
+        PressedControl pressed;  ///< none for one that does nothing
+        PixelPoint place;        ///< on the screen
+        std::int32_t number = 0; ///< 0 where it is the mouse
     };
 
     Finger& held(std::int32_t finger);

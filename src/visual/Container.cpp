@@ -62,6 +62,9 @@ void Container::release(const Control& control)
     controls_.erase(found);
     removed->frame().container_ = nullptr;
     report_(ControlAspect::Children);
+    if (!removed->frame().container_) {
+        removed->frame().peer(nullptr); // what is left of a press on its widget is for nobody
+    }
 }
 
 void Container::toFront(const Control& control)

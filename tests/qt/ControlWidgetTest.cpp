@@ -15,9 +15,14 @@
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
+#include <QPointingDevice>
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <functional>
+#include <memory>
+#include <string>
 #include <vector>
 
 using namespace phial;
@@ -63,6 +68,76 @@ TEST_F(ControlWidgetTest, StandsInALayoutOfPlainQt)
     EXPECT_GT(widget->width(), 200);
     const QImage shown = grabbed(*widget, 1);
     EXPECT_NE(shown, QImage(shown.size(), shown.format()));
+}
+
+/// Its handlers take it away, from a form of the system's.
+class TakenAwayTest : public DesktopSession
+{
+protected:
+    TakenAwayTest()
+    {
+        form_->ScaleMode(ScaleUnit::Pixels);
+        form_->innerSize({200, 100});
+        form_->Show();
+    }
+    ~TakenAwayTest() override { form_->discard(); }
+
+    using Heard = std::vector<std::string>;
+
+    Heard heardUntilTaken(StringView takenAt, bool takesTouch, const std::function<void(QWidget&)>& act)
+    {
+        Heard heard;
+        const auto box = form_->add<PictureBox>(u"pic_Once");
+        box->frame().takesTouch(takesTouch);
+        box->Move(0, 0, 40, 40);
+        const auto hear = [&](StringView what) {
+            heard.push_back(toUtf8(what));
+            if (what == takenAt) {
+                form_->remove(*box);
+            }
+        };
+        Connections connections;
+        connections += box->MouseDown.connect([&](const PointerEvent&) { hear(u"down"); });
+        connections += box->MouseUp.connect(
+            [&](const PointerEvent& event) { hear(event.isCancelled ? u"cancelled" : u"up"); });
+        connections += box->Click.connect([&] { hear(u"click"); });
+        connections += box->DblClick.connect([&] { hear(u"double"); });
+        const QPointer<QWidget> widget(&widgetOf(*box));
+        act(*widget);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(widget);
+        return heard;
+    }
+
+    std::shared_ptr<Form> form_ = std::make_shared<Form>(u"frm_Test");
+};
+
+TEST_F(TakenAwayTest, AControlHearsNoMoreOfTheMouse)
+{
+    const auto click = [](QWidget& widget) {
+        const QPointer<QWidget> self(&widget);
+        QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, {5, 5});
+        if (self) {
+            QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, {5, 5});
+        }
+    };
+    EXPECT_EQ(heardUntilTaken(u"down", false, click), (Heard{"down"}));
+    EXPECT_EQ(heardUntilTaken(u"up", false, click), (Heard{"down", "up"}));
+    EXPECT_EQ(heardUntilTaken(u"click", false, click), (Heard{"down", "up", "click"}));
+}
+
+TEST_F(TakenAwayTest, AControlHearsNoMoreOfAFinger)
+{
+    const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
+    const auto tap = [&](QWidget& widget) {
+        const QPointer<QWidget> self(&widget);
+        QTest::touchEvent(&widgetOf(*form_), device.get()).press(0, {5, 5}, &widget);
+        QTest::touchEvent(&widgetOf(*form_), device.get())
+            .release(0, {5, 5}, self ? self.data() : &widgetOf(*form_));
+    };
+    EXPECT_EQ(heardUntilTaken(u"down", true, tap), (Heard{"down", "cancelled"}));
+    EXPECT_EQ(heardUntilTaken(u"up", true, tap), (Heard{"down", "up"}));
+    EXPECT_EQ(heardUntilTaken(u"click", true, tap), (Heard{"down", "up", "click"}));
 }
 
 TEST_F(ControlWidgetTest, SiblingsAreFoundByTheirObjectNames)

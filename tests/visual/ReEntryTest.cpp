@@ -1,7 +1,9 @@
 #include "core/CoreRoot.h"
 #include "core/CoreTiming.h"
+#include "headless/TouchScreen.h"
 #include "visual/ControlArray.h"
 #include "visual/FormTest.h"
+#include "visual/PictureBox.h"
 #include "visual/Timer.h"
 
 namespace phial::test
@@ -35,6 +37,55 @@ TEST_F(ReEntry, AControlMayTakeItselfAwayWithinItsEvent)
     headless::type(*form, u"ab");
     EXPECT_EQ(box->Text(), u"a") << "the second key finds no control";
     EXPECT_EQ(form->find(u"txt_Once"), nullptr);
+}
+
+/// What one hears when a press, its end or its click takes it away.
+using Taken = std::vector<std::string>;
+
+Taken heardUntilTaken(Form& form, StringView takenAt, const std::function<void(PictureBox&)>& act)
+{
+    Taken heard;
+    const auto box = form.add<PictureBox>(u"pic_Once");
+    box->Move(0, 0, 40, 40);
+    const auto hear = [&](StringView what) {
+        heard.push_back(toUtf8(what));
+        if (what == takenAt) {
+            form.remove(*box);
+        }
+    };
+    Connections connections;
+    connections += box->MouseDown.connect([&](const PointerEvent&) { hear(u"down"); });
+    connections += box->MouseMove.connect([&](const PointerEvent&) { hear(u"move"); });
+    connections += box->MouseUp.connect([&](const PointerEvent&) { hear(u"up"); });
+    connections += box->Click.connect([&] { hear(u"click"); });
+    connections += box->DblClick.connect([&] { hear(u"double"); });
+    act(*box);
+    return heard;
+}
+
+TEST_F(ReEntry, AControlThatIsTakenAwayHearsNoMore)
+{
+    form->ScaleMode(ScaleUnit::Pixels);
+    form->Show();
+    const auto taken = [&](StringView at, auto act) { return heardUntilTaken(*form, at, act); };
+    const auto click = [](PictureBox& box) { headless::click(box); };
+    EXPECT_THAT(taken(u"down", click), ElementsAre("down"));
+    EXPECT_THAT(taken(u"up", click), ElementsAre("down", "up"));
+    EXPECT_THAT(taken(u"click", click), ElementsAre("down", "up", "click"));
+    const auto doubleClick = [](PictureBox& box) { headless::doubleClick(box); };
+    EXPECT_THAT(taken(u"click", doubleClick), ElementsAre("down", "up", "click"));
+    const auto drag = [](PictureBox& box) { headless::drag(box, {1, 1}, {9, 9}); };
+    EXPECT_THAT(taken(u"down", drag), ElementsAre("down"));
+    EXPECT_THAT(taken(u"move", drag), ElementsAre("down", "move"));
+    const auto tap = [this](PictureBox& box) {
+        headless::TouchScreen screen(outside.display());
+        screen.press(1, box);
+        screen.move(1, {1, 1});
+        screen.release(1);
+    };
+    EXPECT_THAT(taken(u"down", tap), ElementsAre("down"));
+    EXPECT_THAT(taken(u"move", tap), ElementsAre("down", "move"));
+    EXPECT_THAT(taken(u"up", tap), ElementsAre("down", "move", "up"));
 }
 
 TEST_F(ReEntry, ATimerMayOpenAModalFormWhileAnotherOneIsWaitedFor)

@@ -188,7 +188,8 @@ void ControlWidget::textChanged()
 
 bool ControlWidget::event(QEvent* event)
 {
-    if (peer_ && !peer_->isLinked()) {
+    const bool isLeft = peer_ && !peer_->isLinked();
+    if (isLeft && event->type() != QEvent::DeferredDelete) {
         event->ignore(); // the control has left its window; this widget ends when its events are over
         return false;
     }
