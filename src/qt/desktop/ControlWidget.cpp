@@ -30,6 +30,28 @@
 namespace phial::qt
 {
 
+namespace
+{
+
+/// What the toolkit knows of where a drag has come from. It lives as long as the drag, which the widget need
+/// not: the program runs meanwhile and may take the control away.
+class DragSource final : public QObject
+{
+public:
+    explicit DragSource(ControlWidget& widget) : widget_(&widget) {}
+    /// Null where the drag comes from elsewhere, or from a control that has gone.
+    static ControlWidget* widgetOf(const QObject* source)
+    {
+        const auto* from = dynamic_cast<const DragSource*>(source);
+        return from ? from->widget_.data() : nullptr;
+    }
+
+private:
+    QPointer<ControlWidget> widget_;
+};
+
+} // namespace
+
 /// The model's link to the widget, which goes when either does.
 class ControlWidget::Peer final : public ControlPeer
 {
@@ -486,7 +508,9 @@ void ControlWidget::beginDrag()
     if (text) {
         content->setText(toQt(*text));
     }
-    auto* drag = new QDrag(this); // the toolkit ends both
+    auto* source = new DragSource(*this);
+    auto* drag = new QDrag(source); // the toolkit ends it, and it what it carries
+    connect(drag, &QObject::destroyed, source, &QObject::deleteLater);
     drag->setMimeData(content);
     pressed_ = false;
     drag->exec(Qt::CopyAction);
@@ -499,7 +523,7 @@ void ControlWidget::dragEnterEvent(QDragEnterEvent* event)
     if (entry && entry->locked) {
         event->setDropAction(Qt::IgnoreAction);
         event->accept();
-    } else if (qobject_cast<ControlWidget*>(event->source()) || event->mimeData()->hasText()) {
+    } else if (DragSource::widgetOf(event->source()) || event->mimeData()->hasText()) {
         event->acceptProposedAction();
     }
 }
@@ -508,10 +532,10 @@ void ControlWidget::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
     dispatch([&] {
-        if (auto* source = qobject_cast<ControlWidget*>(event->source())) {
+        if (const ControlWidget* source = DragSource::widgetOf(event->source())) {
             const QPointF place = event->position() / zoomOf(*control_);
             control_->dragDrop(source->control(), place.x(), place.y());
-        } else {
+        } else if (event->mimeData()->hasText()) {
             control_->textDropped(fromQt(event->mimeData()->text()));
         }
     });
