@@ -270,7 +270,11 @@ void KeyboardWindow::press(const Control& part, const PointerEvent& event)
 
 void KeyboardWindow::press(std::int32_t touch, std::optional<PixelPoint> at)
 {
-    if (isDragged() || !at) {
+    if (isDragged()) {
+        DRAGGED.emit();
+        return;
+    }
+    if (!at) {
         return;
     }
     touch_ = touch;

@@ -67,7 +67,8 @@ public:
 
     /// The user has confirmed without a key, by Return or by leaving the window.
     Event<> CONFIRMED;
-    /// A press has turned out to be a drag, and is to do nothing else.
+    /// A press has turned out to be a drag, and is to do nothing else; nor is one that has come while a drag
+    /// is on.
     Event<> DRAGGED;
 
     /// The user has confirmed, or given up: the window closes in a moment. The first of these counts.

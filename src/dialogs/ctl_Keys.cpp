@@ -67,7 +67,11 @@ void ctl_Keys::pointerDown(const PointerEvent& event)
         return;
     }
     const auto self = weak_from_this().lock();
+    isPressTaken_ = true;
     PRESSED.emit(event);
+    if (!isPressTaken_) {
+        return;
+    }
     if (scan_) {
         switchFinger_ = event.Touch;
         waitForHold();
@@ -171,6 +175,7 @@ void ctl_Keys::strike(std::int32_t index)
 
 void ctl_Keys::cancelPresses()
 {
+    isPressTaken_ = false;
     hand_->cancel();
     switchFinger_.reset();
     switchKey_.reset();

@@ -52,7 +52,7 @@ public:
     void scanInterval(std::int32_t value);
 
     /// Something has gone down, on a key or between keys; it moves; it has gone up again, or cannot become a
-    /// drag any more.
+    /// drag any more. Whoever hears of a press may cancel it.
     Event<const PointerEvent&> PRESSED;
     Event<const PointerEvent&> MOVED;
     Event<std::int32_t> RELEASED;
@@ -61,7 +61,7 @@ public:
     /// A variant was chosen, a single character.
     Event<const String&> VARIANT;
 
-    /// The press has become a drag: what is down strikes nothing, and modifiers go back.
+    /// The press has become a drag, or belongs to one: what is down strikes nothing, and modifiers go back.
     void cancelPresses();
     /// Paints what has changed: after names, states or the language were changed from outside.
     void refresh();
@@ -125,6 +125,7 @@ private:
     std::optional<std::int32_t> switchKey_;    ///< likewise, a key's code
     std::size_t stripSteps_ = 0;               ///< that the scan has gone through the variants
     bool isShown_ = false;
+    bool isPressTaken_ = false; ///< the last one; false since it was cancelled
     Connections ticking_;
 };
 

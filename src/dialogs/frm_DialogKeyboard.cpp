@@ -87,11 +87,8 @@ void frm_DialogKeyboard::connect()
     form_.on(keys_->PRESSED, [this](const PointerEvent& event) { window_.press(*keys_, event); });
     form_.on(keys_->MOVED, [this](const PointerEvent& event) { window_.move(*keys_, event); });
     form_.on(keys_->RELEASED, [this](std::int32_t touch) { window_.release(touch); });
-    form_.on(keys_->CLICK, [this](std::int32_t index) {
-        if (!window_.isDragged()) { // by another finger
-            ignoringErrors([&] { perform(keys_->board().click(index)); });
-        }
-    });
+    form_.on(keys_->CLICK,
+             [this](std::int32_t index) { ignoringErrors([&] { perform(keys_->board().click(index)); }); });
     form_.on(keys_->VARIANT,
              [this](const String& text) { ignoringErrors([&] { perform(keys_->board().type(text)); }); });
 }

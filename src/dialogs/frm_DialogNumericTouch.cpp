@@ -47,11 +47,8 @@ void frm_DialogNumericTouch::connectKeys()
     form_.on(keys_->PRESSED, [this](const PointerEvent& event) { window_.press(*keys_, event); });
     form_.on(keys_->MOVED, [this](const PointerEvent& event) { window_.move(*keys_, event); });
     form_.on(keys_->RELEASED, [this](std::int32_t touch) { window_.release(touch); });
-    form_.on(keys_->CLICK, [this](std::int32_t index) {
-        if (!window_.isDragged()) { // by another finger
-            ignoringErrors([&] { strike(keys_->board().name(index)); });
-        }
-    });
+    form_.on(keys_->CLICK,
+             [this](std::int32_t index) { ignoringErrors([&] { strike(keys_->board().name(index)); }); });
 }
 
 /// Escape gives up with modifiers too, which the form's cancel control does not hear.

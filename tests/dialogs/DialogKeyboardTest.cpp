@@ -359,6 +359,34 @@ TEST_F(DialogKeyboardTest, ASecondFingerNeitherEndsADragNorTypes)
     EXPECT_EQ(input()->Text(), u"q");
 }
 
+TEST_F(DialogKeyboardTest, AFingerThatComesWhileItIsDraggedPressesNothing)
+{
+    open(target<TextBox>());
+    touch.press(1, *keyPad(), middle(keys::LetterA));
+    touch.move(1, {20, 0});
+    outside.advance(0.02);
+    for (const std::int32_t modifier : {keys::Shift, keys::Ctrl, keys::Alt, keys::Sym}) {
+        touch.press(2, *keyPad(), middle(modifier));
+        EXPECT_FALSE(keyPad()->parts()[14].state.pressed);
+        EXPECT_EQ(face(keys::LetterE), u"e") << modifier;
+        touch.release(2);
+    }
+    touch.press(2, *keyPad(), middle(keys::LetterE));
+    outside.advance(1);
+    EXPECT_FALSE(keyPad()->showsVariants());
+    touch.press(3, *keyPad(), middle(keys::Shift));
+    touch.release(1);
+    touch.release(2);
+    touch.release(3);
+    outside.runPending();
+    for (const Modifier modifier : {Modifier::Shift, Modifier::Ctrl, Modifier::Alt, Modifier::Sym}) {
+        EXPECT_EQ(state(modifier), KeyState::Off);
+    }
+    EXPECT_EQ(input()->Text(), u"");
+    tap(keys::Shift);
+    EXPECT_EQ(state(Modifier::Shift), KeyState::Once) << "the drag is over";
+}
+
 TEST_F(DialogKeyboardTest, LinesKeepTheirSizeOnASmallerScreen)
 {
     outside.visual().addScreen({1920, 0, 600, 480});

@@ -175,6 +175,19 @@ TEST_F(KeysTest, ADragStrikesNothing)
     EXPECT_THAT(struck(), IsEmpty());
 }
 
+TEST_F(KeysTest, WhoeverHearsOfAPressMayCancelIt)
+{
+    connections += keys->PRESSED.connect([this](const PointerEvent&) { keys->cancelPresses(); });
+    tap(test::keys::Shift);
+    EXPECT_EQ(keys->board().state(Modifier::Shift), KeyState::Off);
+    tap(test::keys::LetterQ);
+    keys->scanInterval(800);
+    tap(test::keys::LetterQ);
+    outside.advance(0.8);
+    EXPECT_THAT(drawn(), ::testing::HasSubstr("box 2,50 716x44")) << "rows still";
+    EXPECT_THAT(struck(), IsEmpty());
+}
+
 TEST_F(KeysTest, BackspaceIsStruckAgainAndAgain)
 {
     touch.press(1, *keys, middle(test::keys::Backspace));
