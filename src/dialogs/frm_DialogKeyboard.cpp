@@ -173,9 +173,17 @@ void frm_DialogKeyboard::edited()
     if (isKept) {
         showLines();
     }
-    if (taken != inserted) {
-        String text = text_;
-        text.replace(insertion.start, insertion.length, taken);
+    if (taken == inserted) {
+        return;
+    }
+    String text = text_;
+    text.replace(insertion.start, insertion.length, taken);
+    if (isKept) {
+        text_ = text;
+        input_->SelStart(static_cast<std::int32_t>(insertion.start));
+        input_->SelLength(static_cast<std::int32_t>(insertion.length));
+        input_->SelText(taken); // which can be undone
+    } else {
         replaceText(text, insertion.start + taken.size());
     }
 }

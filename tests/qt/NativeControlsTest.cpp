@@ -585,6 +585,52 @@ TEST_F(NativeControlsTest, AFieldShownWithItsCaretInTheTextHasNothingToUndo)
     }
 }
 
+TEST_F(NativeControlsTest, WhatWasEditedCanBeUndoneInAFieldOfOtherLines)
+{
+    for (const bool several : {true, false}) {
+        const auto box = shown<TextBox>(several ? u"txt_Page" : u"txt_Line");
+        box->MultiLine(!several);
+        box->Text(u"x");
+        QTest::keyClicks(widgetOf(*box).focusProxy(), "abc");
+        box->SelStart(1);
+        box->SelLength(1);
+        box->SelText(u"yz");
+        box->MultiLine(several);
+        EXPECT_EQ(box->Text(), u"ayzcx");
+        EXPECT_EQ(box->SelStart(), 3);
+        const auto after = [&](Qt::Key key) {
+            QTest::keyClick(widgetOf(*box).focusProxy(), key, Qt::ControlModifier);
+            return box->Text();
+        };
+        EXPECT_EQ(after(Qt::Key_Z), u"abcx") << several;
+        EXPECT_EQ(after(Qt::Key_Z), u"x");
+        EXPECT_EQ(after(Qt::Key_Z), u"x") << "what the program has set stays";
+        EXPECT_EQ(after(Qt::Key_Y), u"abcx");
+    }
+}
+
+TEST_F(NativeControlsTest, AFieldOfHiddenSignsCanBecomeAPage)
+{
+    const auto box = shown<TextBox>(u"txt_Input");
+    box->PasswordChar(u"*");
+    QTest::keyClicks(widgetOf(*box).focusProxy(), "abc");
+    box->MultiLine(true);
+    EXPECT_EQ(box->Text(), u"abc");
+}
+
+TEST_F(NativeControlsTest, LineEndsOfAnyKindAreEditedOnAPage)
+{
+    const auto box = shown<TextBox>(u"txt_Input");
+    box->MultiLine(true);
+    box->Text(u"a\nb");
+    QTest::keyClicks(widgetOf(*box).focusProxy(), "x");
+    box->SelStart(2);
+    box->SelText(u"y");
+    EXPECT_EQ(inner<QPlainTextEdit>(*box).toPlainText(), QStringLiteral("xay\nb"));
+    QTest::keyClick(widgetOf(*box).focusProxy(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box->Text(), u"xa\r\nb");
+}
+
 TEST_F(NativeControlsTest, TheLimitOfTypingLeavesWhatTheProgramEdits)
 {
     for (const bool several : {false, true}) {

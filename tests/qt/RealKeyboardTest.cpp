@@ -162,6 +162,55 @@ TEST_F(RealKeyboard, ALineMakesAPageInWhichOneGoesOnTyping)
     EXPECT_TRUE(eventually([&] { return input()->Text() == u"e\r\nr"; })) << toUtf8(input()->Text());
 }
 
+TEST_F(RealKeyboard, UndoingGoesOnThroughTheFirstLineEnd)
+{
+    const auto undoneIs = [this](StringView expected) {
+        desk_.strike({UserDesk::Ctrl, UserDesk::Z});
+        return eventually([&] { return input()->Text() == expected; });
+    };
+    open(nullptr);
+    for (const auto key : {UserDesk::E, UserDesk::R}) {
+        desk_.strike({key});
+    }
+    desk_.strike({UserDesk::Ctrl, UserDesk::Return});
+    desk_.strike({UserDesk::G});
+    EXPECT_TRUE(eventually([&] { return input()->Text() == u"er\r\ng"; })) << toUtf8(input()->Text());
+    EXPECT_TRUE(undoneIs(u"er\r\n")) << toUtf8(input()->Text());
+    EXPECT_TRUE(undoneIs(u"er")) << toUtf8(input()->Text());
+    EXPECT_TRUE(undoneIs(u"")) << toUtf8(input()->Text());
+    keyboard_.form().Unload();
+    QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));
+    open(nullptr);
+    desk_.strike({UserDesk::E});
+    desk_.strike({UserDesk::Ctrl, UserDesk::V});
+    EXPECT_TRUE(eventually([&] { return input()->Text() == u"ea\r\nb"; })) << toUtf8(input()->Text());
+    EXPECT_TRUE(undoneIs(u"e")) << toUtf8(input()->Text());
+    EXPECT_TRUE(undoneIs(u"")) << toUtf8(input()->Text());
+    QGuiApplication::clipboard()->clear();
+}
+
+TEST_F(RealKeyboard, ComesBackByTheDesksKeysForTheNextWindow)
+{
+    QWidget other;
+    other.setGeometry(10, 10, 200, 60);
+    other.show();
+    EXPECT_TRUE(eventually([&] { return other.isActiveWindow(); }));
+    open(makeControl<TextBox>());
+    desk_.strike({UserDesk::E});
+    desk_.strike({UserDesk::Alt, UserDesk::Tab});
+    EXPECT_TRUE(eventually([&] { return other.isActiveWindow(); }));
+    EXPECT_TRUE(keyboard_.form().isLoaded());
+    desk_.strike({UserDesk::G});
+    desk_.strike({UserDesk::Alt, UserDesk::Tab});
+    EXPECT_TRUE(eventually([&] { return window().isActiveWindow() && field().hasFocus(); }));
+    desk_.strike({UserDesk::R});
+    EXPECT_TRUE(eventually([&] { return input()->Text() == u"er"; })) << toUtf8(input()->Text());
+    for (const Modifier modifier : {Modifier::Shift, Modifier::Ctrl, Modifier::Alt, Modifier::Sym}) {
+        const auto keys = keyboard_.form().control<ctl_Keys>(u"ctl_Keys");
+        EXPECT_EQ(keys->board().state(modifier), KeyState::Off);
+    }
+}
+
 TEST_F(RealKeyboard, TakesPastedLinesWhereItsTargetHasThem)
 {
     QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));

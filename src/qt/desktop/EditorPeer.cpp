@@ -1,6 +1,7 @@
 #include "qt/desktop/EditorPeer.h"
 
 #include "qt/desktop/DesktopColours.h"
+#include "qt/desktop/LineEnds.h"
 #include "qt/desktop/WidgetAspects.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace phial::qt
 {
@@ -112,7 +114,7 @@ void EditorPeer<Model>::makeEditor()
 }
 
 /// Another widget, which takes the place of the one that there was in the order of Tab and, before that is
-/// hidden, its focus.
+/// hidden, its focus. What the user has edited can be undone in it too.
 template <typename Model>
 void EditorPeer<Model>::remakeEditor()
 {
@@ -120,6 +122,7 @@ void EditorPeer<Model>::remakeEditor()
     QWidget& old = before->widget();
     const bool hasFocus = holder_.window()->focusWidget() == &old;
     makeEditor();
+    repeatEdits(*before);
     QWidget& made = editor_->widget();
     made.show();
     QWidget::setTabOrder(&old, &made);
@@ -129,6 +132,21 @@ void EditorPeer<Model>::remakeEditor()
     old.removeEventFilter(this);
     before->pressed().removeEventFilter(this);
     old.hide();
+}
+
+/// One field cannot take over the steps of another, so all of them are undone in the one and made again in
+/// the other.
+template <typename Model>
+void EditorPeer<Model>::repeatEdits(TextEditor& before)
+{
+    std::vector<String> texts{withDoubleEnds(before.text())};
+    while (before.undo()) {
+        texts.push_back(withDoubleEnds(before.text()));
+    }
+    editor_->text(texts.back());
+    for (auto text = texts.rbegin() + 1; text != texts.rend(); ++text) {
+        edit(*text);
+    }
 }
 
 template <typename Model>
@@ -159,15 +177,22 @@ template <typename Model>
 void EditorPeer<Model>::showText()
 {
     const String before = editor_->text();
-    const String now = model_->Text();
+    const String now = many_ ? withDoubleEnds(model_->Text()) : model_->Text();
     if (before != now && !before.empty() && model_->SelStart() > 0) {
-        const TextDifference difference = differenceOf(before, now);
-        editor_->replace(difference.start, difference.length, difference.replacement);
+        edit(now);
     }
     if (editor_->text() != now) {
         editor_->text(now);
     }
     showSelection();
+}
+
+/// A step that can be undone.
+template <typename Model>
+void EditorPeer<Model>::edit(const String& now)
+{
+    const TextDifference difference = differenceOf(editor_->text(), now);
+    editor_->replace(difference.start, difference.length, difference.replacement);
 }
 
 template <typename Model>

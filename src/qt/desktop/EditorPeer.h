@@ -28,6 +28,8 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void makeEditor();
     void remakeEditor();
+    void repeatEdits(TextEditor& before);
+    void edit(const String& now);
     void edited();
 
     std::shared_ptr<Model> model_;

@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace phial::qt
 {
 
@@ -60,16 +62,24 @@ public:
     String text() const override { return fromQt(line_->text()); }
     void text(const String& value) override
     {
-        line_->setMaxLength(
-            std::max(limit_, static_cast<int>(value.size()))); // text of the program is not cut
+        makeRoomFor(static_cast<qsizetype>(value.size()));
         line_->setText(toQt(value));
     }
     void replace(std::int32_t start, std::int32_t length, const String& value) override
     {
         const auto whole = line_->text().size() - length + static_cast<qsizetype>(value.size());
-        line_->setMaxLength(std::max(limit_, static_cast<int>(whole)));
+        makeRoomFor(whole);
         line_->setSelection(start, length);
         line_->insert(toQt(value));
+    }
+    // Undoing clears a field with hidden signs, which is a step that could be undone in turn.
+    bool undo() override
+    {
+        const bool can = line_->isUndoAvailable() && line_->echoMode() == QLineEdit::Normal;
+        if (can) {
+            line_->undo();
+        }
+        return can;
     }
     std::int32_t selectionStart() const override
     {
@@ -86,7 +96,7 @@ public:
     void style(const EditorStyle& style) override
     {
         limit_ = style.maximumLength > 0 ? style.maximumLength : NoLimit;
-        line_->setMaxLength(std::max(limit_, static_cast<int>(line_->text().size())));
+        makeRoomFor(line_->text().size());
         line_->setFont(fontCatalogue().font(style.font));
         line_->setAlignment(lineAlignment(style.alignment));
         line_->setReadOnly(style.locked);
@@ -96,6 +106,15 @@ public:
     }
 
 private:
+    // Text of the program is not cut. Another limit ends what could be undone.
+    void makeRoomFor(qsizetype length)
+    {
+        const int room = std::max(limit_, static_cast<int>(length));
+        if (line_->maxLength() != room) {
+            line_->setMaxLength(room);
+        }
+    }
+
     QPointer<QLineEdit> line_; // its holder may end first
     int limit_ = NoLimit;
 };

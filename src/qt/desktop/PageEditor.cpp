@@ -79,6 +79,14 @@ public:
         cursor.insertText(toQt(withSingleEnds(value)));
         cursor.endEditBlock();
     }
+    bool undo() override
+    {
+        const bool can = page_->document()->isUndoAvailable();
+        if (can) {
+            page_->undo();
+        }
+        return can;
+    }
     std::int32_t selectionStart() const override
     {
         return toDoubleEnds(text(), page_->textCursor().selectionStart());

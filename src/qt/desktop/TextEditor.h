@@ -41,6 +41,8 @@ public:
     /// Puts a text in place of a part, which the user can undo as what has been typed; `text` cannot be
     /// undone and ends what could be.
     virtual void replace(std::int32_t start, std::int32_t length, const String& value) = 0;
+    /// Takes back the last step of what can be undone; gives whether there was one.
+    virtual bool undo() = 0;
     virtual std::int32_t selectionStart() const = 0;
     virtual std::int32_t selectionLength() const = 0;
     virtual void select(std::int32_t start, std::int32_t length) = 0;
