@@ -67,7 +67,7 @@ private:
             return false;
         }
         Part& part = parts_.back();
-        if (part.numeratorOf != 0 && at >= part.range.end && at < part.numeratorOf) {
+        if (part.numeratorOf != 0 && at >= part.range.end) {
             if (at + 1 == part.numeratorOf) {
                 part = {{part.numeratorOf, part.denominatorEnd}, 0, {}};
             }

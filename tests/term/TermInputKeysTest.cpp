@@ -34,48 +34,45 @@ TEST_F(TermInputKeys, SignsAreTypedAndAreNoKeysForMoving)
     EXPECT_EQ(field->Term().back(), u'{');
 }
 
-TEST_F(TermInputKeys, BackspaceTakesTheCharacterBefore)
+/// Keys that edit, in a field with a caret ("|"), and what is seen behind them.
+struct EditingRow {
+    const char* name;
+    StringView before;
+    StringView keys;
+    StringView after;
+    std::size_t changes;
+};
+
+class EditingKeys : public TermInputKeys, public ::testing::WithParamInterface<EditingRow>
 {
-    edit(u"H2O", 2);
-    type(u"{bs}");
-    EXPECT_EQ(shown(), u"H|O");
-    type(u"{bs}");
-    EXPECT_EQ(shown(), u"|O");
-    EXPECT_THAT(log, ElementsAre("changed", "changed"));
-    type(u"{bs}");
-    EXPECT_EQ(shown(), u"|O");
-    EXPECT_EQ(log.size(), 2U) << "nothing has changed";
+};
+
+TEST_P(EditingKeys, DoAsTheyAreNamed)
+{
+    const EditingRow& row = GetParam();
+    const std::size_t caret = row.before.find(u'|');
+    edit(String(row.before.substr(0, caret)) += row.before.substr(caret + 1),
+         static_cast<std::int32_t>(caret));
+    type(row.keys);
+    EXPECT_EQ(shown(), row.after);
+    EXPECT_EQ(log, std::vector<std::string>(row.changes, "changed"));
 }
 
-TEST_F(TermInputKeys, DeleteTakesTheCharacterBehind)
-{
-    edit(u"H2O", 1);
-    type(u"{del}");
-    EXPECT_EQ(shown(), u"H|O");
-    type(u"{del}");
-    EXPECT_EQ(shown(), u"H|");
-    EXPECT_THAT(log, ElementsAre("changed", "changed"));
-    type(u"{del}");
-    EXPECT_EQ(log.size(), 2U) << "nothing has changed";
-}
-
-TEST_F(TermInputKeys, ArrowsHomeAndEndMoveTheCaretAsFarAsItGoes)
-{
-    edit(u"H2O", 1);
-    type(u"{left}");
-    EXPECT_EQ(shown(), u"|H2O");
-    type(u"{left}");
-    EXPECT_EQ(shown(), u"|H2O");
-    type(u"{end}");
-    EXPECT_EQ(shown(), u"H2O|");
-    type(u"{right}");
-    EXPECT_EQ(shown(), u"H2O|");
-    type(u"{home}");
-    EXPECT_EQ(shown(), u"|H2O");
-    type(u"{right}");
-    EXPECT_EQ(shown(), u"H|2O");
-    EXPECT_THAT(log, IsEmpty()) << "nothing has changed";
-}
+INSTANTIATE_TEST_SUITE_P(
+    Table, EditingKeys,
+    ::testing::Values(EditingRow{"BackspaceTakesTheCharacterBefore", u"H2|O", u"{bs}", u"H|O", 1},
+                      EditingRow{"AndTheOneBeforeIt", u"H2|O", u"{bs 2}", u"|O", 2},
+                      EditingRow{"BackspaceAtTheBeginningDoesNothing", u"|O", u"{bs}", u"|O", 0},
+                      EditingRow{"DeleteTakesTheCharacterBehind", u"H|2O", u"{del}", u"H|O", 1},
+                      EditingRow{"AndTheOneBehindIt", u"H|2O", u"{del 2}", u"H|", 2},
+                      EditingRow{"DeleteAtTheEndDoesNothing", u"H|", u"{del}", u"H|", 0},
+                      EditingRow{"LeftGoesBack", u"H|2O", u"{left}", u"|H2O", 0},
+                      EditingRow{"LeftEndsAtTheBeginning", u"H|2O", u"{left 2}", u"|H2O", 0},
+                      EditingRow{"RightGoesOn", u"|H2O", u"{right}", u"H|2O", 0},
+                      EditingRow{"RightEndsAtTheEnd", u"H2|O", u"{right 2}", u"H2O|", 0},
+                      EditingRow{"EndGoesBehindTheLast", u"|H2O", u"{end}", u"H2O|", 0},
+                      EditingRow{"HomeGoesBeforeTheFirst", u"H2O|", u"{home}", u"|H2O", 0}),
+    [](const auto& instance) { return instance.param.name; });
 
 TEST_F(TermInputKeys, TheCaretIsHeldToAShorterTerm)
 {

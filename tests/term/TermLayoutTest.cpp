@@ -2,6 +2,7 @@
 
 #include "term/TermDraw.h"
 #include "term/TermPicture.h"
+#include "term/TermRules.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -29,6 +30,13 @@ std::size_t textsDrawn(StringView term)
     TermPicture picture;
     laidOut(term).draw(picture.device(), 0, -1);
     return picture.lines().size();
+}
+
+TEST(TermRulesTest, WhatStandsBeforeAPartIsNotRead)
+{
+    constexpr StringView Whole = u" +";
+    EXPECT_EQ(TermRules().read(Whole, 1).level, TermLevel::Normal) << "no charge behind a blank";
+    EXPECT_EQ(TermRules().read(Whole.substr(1), 0).level, TermLevel::Superscript);
 }
 
 TEST(TermLayoutTest, DrawsWhatTermDrawDraws)

@@ -114,6 +114,7 @@ TEST(TermCopyTest, AFractionStaysInBracketsAndItsPartsHaveRulesOfTheirOwn)
     EXPECT_EQ(toUtf8(textOfTerm(u"(n)/(V)2")), "(n)/(V)2") << "a digit behind it is an ordinary one";
     EXPECT_EQ(toUtf8(textOfTerm(u"x(2a2)/((1)/(H2))2")), "x(2a₂)/((1)/(H₂))₂");
     EXPECT_EQ(toUtf8(textOfTerm(u"(a)/(b2")), "(a)/(b₂");
+    EXPECT_EQ(toUtf8(textOfTerm(u"(a|)/(b|)")), "(a|)/(b|)") << "at an end it strikes nothing";
     const String deep = String(20'000, u'(') + u"a";
     EXPECT_EQ(textOfTerm(deep), deep);
     String nested = u"a";
