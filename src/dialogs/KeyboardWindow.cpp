@@ -314,7 +314,6 @@ void KeyboardWindow::release(std::int32_t touch)
         cornerAtStart_.reset();
         keepPlace(cornerOf(*form_));
     }
-    touchPlace_.reset();
 }
 
 void KeyboardWindow::followPointer()

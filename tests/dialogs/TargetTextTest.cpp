@@ -120,6 +120,14 @@ TEST_F(TargetTextTest, WritesRichTextInTheFontOfTheTarget)
     EXPECT_NE(document, toRichText(u"x", {}));
 }
 
+TEST_F(TargetTextTest, WhatDoesNotSayOtherwiseTakesAnyText)
+{
+    const TargetText text(makeControl<Label>());
+    EXPECT_FALSE(text.locked());
+    EXPECT_EQ(text.maxLength(), 0);
+    EXPECT_EQ(text.passwordChar(), u"");
+}
+
 TEST_F(TargetTextTest, IsSilentWhereThereIsNoSuchProperty)
 {
     const auto label = makeControl<ctl_Label>(); // it has a Caption, but its type says TEXT
