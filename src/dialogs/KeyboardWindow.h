@@ -20,7 +20,8 @@ namespace phial
 /// or abort, so that no key ends the form in which it is being handled.
 ///
 /// The form's design is in pixels at scale 1, and the head, 68 pixels high, is free from 228 pixels at the
-/// left to 66 pixels at the right for what one types into. The controls of the window are added to it.
+/// left to 66 pixels at the right for what one types into. In a narrow window the words end before the cross,
+/// and what one types into stands below the head. The controls of the window are added to it.
 class KeyboardWindow
 {
 public:

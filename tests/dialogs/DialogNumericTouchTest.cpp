@@ -430,6 +430,17 @@ TEST_F(DialogNumericTouch, CrossAndEscapeGiveUp)
     }
 }
 
+TEST_F(DialogNumericTouch, ClosedByTheDesktopItGivesUp)
+{
+    const auto target = box(u"25");
+    open(target);
+    tap(pad_keys::Seven);
+    pad.form().inputClose();
+    EXPECT_FALSE(isOpen());
+    EXPECT_FALSE(pad.Accepted());
+    EXPECT_EQ(target->Text(), u"25");
+}
+
 TEST_F(DialogNumericTouch, ConfirmedUntouchedItLeavesItsTargetAlone)
 {
     const auto target = box(u"0,000018");
