@@ -326,6 +326,7 @@ TEST_F(QVInput, ManyDecimalsAreWrittenAsFarAsTheyMean)
 TEST_F(QVInput, TheFieldFillsTheControl)
 {
     EXPECT_EQ(field().frame().pixelRectangle(), (PixelRectangle{0, 0, 200, 40}));
+    EXPECT_TRUE(control->surface().transparent()) << "behind the round corners of the field";
     control->Move(5, 5, 90, 25);
     EXPECT_EQ(field().frame().pixelRectangle(), (PixelRectangle{0, 0, 90, 25}));
 }
@@ -410,6 +411,7 @@ TEST_F(QVInput, OutsideOfTouchModeAPressMakesTheFieldReadyForTyping)
     EXPECT_EQ(field().SelText(), u"42");
     headless::type(*form, u"{down}");
     headless::type(*form, u"%{down}");
+    EXPECT_EQ(outside.textBoxes().prepared().size(), 1U) << "the key is the field's own";
     EXPECT_THAT(changes, IsEmpty());
 }
 
