@@ -53,6 +53,8 @@ struct Exhibit {
     std::vector<Sample> samples;
     /// False when only the samples are of interest, and no property.
     bool editable = true;
+    /// Whether a tour shows each of its states in both languages and in all colours.
+    bool everyLook = false;
 };
 
 /// A state of an exhibit of that class.

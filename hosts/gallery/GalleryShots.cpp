@@ -31,6 +31,11 @@ void takeOpenWindows(const Camera& camera, frm_Gallery& gallery, const String& n
     }
 }
 
+String toText(std::size_t number)
+{
+    return phial::Variant(static_cast<std::int32_t>(number)).toText();
+}
+
 /// How much of an exhibit a tour shows.
 enum class Thoroughness : std::uint8_t { EachState, FirstState };
 
@@ -38,8 +43,9 @@ enum class Thoroughness : std::uint8_t { EachState, FirstState };
 std::size_t statesShown(const Exhibit& exhibit, Thoroughness thoroughness)
 {
     const std::size_t first = exhibit.group == Group::Windows ? 2 : 1;
-    return thoroughness == Thoroughness::EachState ? exhibit.samples.size()
-                                                   : std::min(first, exhibit.samples.size());
+    return thoroughness == Thoroughness::EachState || exhibit.everyLook
+               ? exhibit.samples.size()
+               : std::min(first, exhibit.samples.size());
 }
 
 void tour(const Camera& camera, StringView language, Thoroughness thoroughness)
@@ -52,9 +58,7 @@ void tour(const Camera& camera, StringView language, Thoroughness thoroughness)
             if (shown.samples[state].prints) {
                 continue;
             }
-            const String name = String(shown.title) + u"-" +
-                                phial::Variant(static_cast<std::int32_t>(state + 1)).toText() + u"-" +
-                                String(language);
+            const String name = String(shown.title) + u"-" + toText(state + 1) + u"-" + String(language);
             if (shown.samples[state].waits) {
                 camera.takeModal(name, [&] { gallery.show(exhibit, state); });
             } else {
@@ -97,7 +101,24 @@ void tourProperties(const Camera& camera)
     camera.take(u"Properties-font-de", form);
 }
 
-/// The library's windows in the other sets of colours, upon the gallery.
+/// An exhibit's states in the colours in force: a window as it opens, upon the gallery, or all that it has.
+void takeColours(const Camera& camera, frm_Gallery& gallery, std::size_t exhibit, StringView setName)
+{
+    constexpr std::size_t Opened = 1;
+    const Exhibit& shown = gallery.exhibits()[exhibit];
+    const String name = String(shown.title) + u"-";
+    for (std::size_t state = 0; state < shown.samples.size(); ++state) {
+        const bool isWindow = shown.group == Group::Windows && state == Opened;
+        const Sample& sample = shown.samples[state];
+        if ((shown.everyLook || isWindow) && !sample.prints && !sample.waits) {
+            gallery.show(exhibit, state);
+            const String number = shown.everyLook ? toText(state + 1) + u"-" : String();
+            takeOpenWindows(camera, gallery, name + number + String(setName));
+        }
+    }
+}
+
+/// The library's windows in the other sets of colours.
 void tourColours(const Camera& camera)
 {
     constexpr std::pair<phial::ColourSet, StringView> Sets[] = {
@@ -108,13 +129,7 @@ void tourColours(const Camera& camera)
         frm_Gallery gallery;
         gallery.Show();
         for (std::size_t exhibit = 0; exhibit < gallery.exhibits().size(); ++exhibit) {
-            const auto& shown = gallery.exhibits()[exhibit];
-            constexpr std::size_t Opened = 1;
-            if (shown.group == Group::Windows && shown.samples.size() > Opened &&
-                !shown.samples[Opened].prints && !shown.samples[Opened].waits) {
-                gallery.show(exhibit, Opened);
-                takeOpenWindows(camera, gallery, String(shown.title) + u"-" + String(setName));
-            }
+            takeColours(camera, gallery, exhibit, setName);
         }
     }
     phial::coreTheme().SetColours(before);

@@ -11,6 +11,7 @@
 #include "visual/TextBox.h"
 #include "visual/ctl_Label.h"
 
+#include <utility>
 #include <vector>
 
 namespace gallery
@@ -100,12 +101,13 @@ ObjectPtr asExhibit(Stage& stage, const std::shared_ptr<InputForm>& form)
     return form->form().shared_from_this();
 }
 
-ObjectPtr buildKeyboard(Stage& stage)
+ObjectPtr buildTitledKeyboard(Stage& stage, StringView title)
 {
     putWindowNote(stage, u"Der Knopf unten öffnet die Tastatur, ein Druck auf ein Feld auch.|"
                          u"The button below opens the keyboard, and so does a press on a field.");
     const auto keyboard = std::make_shared<frm_DialogKeyboard>();
     keyboard->TargetControl(putFields(stage));
+    keyboard->TitleText(say(title));
     return asExhibit(stage, keyboard);
 }
 
@@ -124,6 +126,18 @@ ObjectPtr buildPad(Stage& stage)
     return asExhibit(stage, pad);
 }
 
+ObjectPtr buildKeyboard(Stage& stage)
+{
+    return buildTitledKeyboard(stage, {});
+}
+
+ObjectPtr buildQuestion(Stage& stage)
+{
+    return buildTitledKeyboard(stage, u"Wie heißt die Verbindung, die in der Probe enthalten ist, und woran "
+                                      u"erkennst du sie?|What is the compound in the sample called, and how "
+                                      u"do you recognize it?");
+}
+
 /// Opens it, and does something with its keys.
 template <typename Act>
 Sample opened(StringView name, Act act)
@@ -134,11 +148,17 @@ Sample opened(StringView name, Act act)
     });
 }
 
+PixelPoint middleOf(const ctl_Keys& keys, std::int32_t index)
+{
+    const PixelRectangle area = keys.areaOf(index);
+    return {area.left + area.width / 2, area.top + area.height / 2};
+}
+
 /// Strikes a key.
 void strike(ctl_Keys& keys, std::int32_t index)
 {
-    const PixelRectangle area = keys.areaOf(index);
-    const PointerEvent event{PointerButton::Left, 0, area.left + area.width / 2, area.top + area.height / 2};
+    const PixelPoint at = middleOf(keys, index);
+    const PointerEvent event{PointerButton::Left, 0, at.x, at.y};
     keys.pointerDown(event);
     keys.pointerUp(event);
 }
@@ -166,12 +186,22 @@ std::vector<Sample> keySamples()
         struck(u"Umgeschaltet|Shifted", {ShiftKey}),
         struck(u"Symbole|Symbols", {SymKey}),
         struck(u"Festgestellt|Locked", {ShiftKey, ShiftKey}),
+        struck(u"Symbole fest|Symbols locked", {SymKey, SymKey}),
+        struck(u"Beide|Both", {ShiftKey, SymKey, SymKey}),
         struck(u"Befehle|Commands", {CtrlKey}),
+        struck(u"Tasten mit Alt|Keys with Alt", {AltKey}),
         struck(u"Strg und Alt|Ctrl and Alt", {CtrlKey, CtrlKey, AltKey, AltKey}),
         opened(u"Gedrückt|Pressed",
                [](Form&, ctl_Keys& keys) {
                    const PixelRectangle area = keys.areaOf(EnterKey);
                    keys.pointerDown({PointerButton::Left, 0, area.right() - 2, area.top + 2});
+               }),
+        opened(u"Gehalten|Held",
+               [](Form&, ctl_Keys& keys) {
+                   const PixelPoint shift = middleOf(keys, ShiftKey);
+                   const PixelPoint letter = middleOf(keys, LetterA);
+                   keys.pointerDown({PointerButton::Left, 0, shift.x, shift.y, 1});
+                   keys.pointerDown({PointerButton::Left, 0, letter.x, letter.y, 2});
                }),
         opened(u"Varianten|Variants", [](Form&, ctl_Keys& keys) { keys.showVariants(LetterA); }),
     };
@@ -221,19 +251,37 @@ std::vector<Sample> fieldSamples()
     };
 }
 
+std::vector<Sample> questionSamples()
+{
+    return {sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+            sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); })};
+}
+
 } // namespace
 
 std::vector<Exhibit> keyboardExhibits()
 {
-    return {{Group::Windows, u"frm_DialogKeyboard",
-             u"Die Tastatur für Texte im Tipp-Modus.|The keyboard for texts in touch mode.", buildKeyboard,
-             keySamples()},
-            {Group::Windows, u"frm_DialogNumericTouch",
-             u"Der Zahlenblock im Tipp-Modus.|The number pad in touch mode.", buildPad, padSamples()},
-            {Group::Windows, u"ctl_Keys",
-             u"Die Tasten für einen einzelnen Schalter, und das Feld darüber.|"
-             u"The keys for a single switch, and the field above them.",
-             buildKeyboard, fieldSamples()}};
+    const auto inEveryLook = [](StringView title, StringView about, auto build, std::vector<Sample> samples) {
+        return Exhibit{.group = Group::Windows,
+                       .title = title,
+                       .about = about,
+                       .build = build,
+                       .samples = std::move(samples),
+                       .everyLook = true};
+    };
+    return {inEveryLook(u"frm_DialogKeyboard",
+                        u"Die Tastatur für Texte im Tipp-Modus.|The keyboard for texts in touch mode.",
+                        buildKeyboard, keySamples()),
+            inEveryLook(u"frm_DialogNumericTouch",
+                        u"Der Zahlenblock im Tipp-Modus.|The number pad in touch mode.", buildPad,
+                        padSamples()),
+            inEveryLook(u"ctl_Keys",
+                        u"Die Tasten für einen einzelnen Schalter, und das Feld darüber.|"
+                        u"The keys for a single switch, and the field above them.",
+                        buildKeyboard, fieldSamples()),
+            inEveryLook(u"KeyboardWindow",
+                        u"Eine lange Frage über der Tastatur.|A long question above the keyboard.",
+                        buildQuestion, questionSamples())};
 }
 
 } // namespace gallery

@@ -79,16 +79,19 @@ std::vector<Exhibit> periodicExhibits()
                       [](ctl_PSE& table) { table.Colouring(TableColours::HighContrast); }),
           tableSample(u"Farben für alle|Colours for everybody",
                       [](ctl_PSE& table) { table.Colouring(TableColours::Distinct); }),
-          tableSample(u"Einordnen|Put in order", [](ctl_PSE& table) {
-              for (const StringView symbol : {u"H", u"He", u"Li", u"Ne"}) {
-                  table.FADED()->Add(String(symbol));
-              }
-              table.MODE(enm_PSEMode::ID_PSEMode_Place);
-              for (const StringView symbol : {u"O", u"C", u"F", u"Be"}) {
-                  table.DRAGADD(symbol);
-              }
-              table.activatePart(table.parts().size() - 3); // carbon is taken
-          })}}};
+          tableSample(u"Einordnen|Put in order",
+                      [](ctl_PSE& table) {
+                          for (const StringView symbol : {u"H", u"He", u"Li", u"Ne"}) {
+                              table.FADED()->Add(String(symbol));
+                          }
+                          table.MODE(enm_PSEMode::ID_PSEMode_Place);
+                          for (const StringView symbol : {u"O", u"C", u"F", u"Be"}) {
+                              table.DRAGADD(symbol);
+                          }
+                          table.activatePart(table.parts().size() - 3); // carbon is taken
+                      })},
+         true,
+         true}};
 }
 
 } // namespace gallery
