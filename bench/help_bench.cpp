@@ -13,6 +13,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 
@@ -109,6 +110,7 @@ void browserOpen(benchmark::State& state)
     }
     PaintWatch watch;
     for (auto _ : state) {
+        QPixmapCache::clear();
         QTextBrowser browser;
         browser.resize(1000, 560);
         browser.setHtml(html);
@@ -123,6 +125,7 @@ void labelsOpen(benchmark::State& state)
     const QString folder = book(BookPages);
     PaintWatch watch;
     for (auto _ : state) {
+        QPixmapCache::clear();
         QWidget window;
         window.resize(1000, 560);
         for (int page = 1; page <= Held; ++page) {
@@ -154,7 +157,7 @@ void slideFrame(benchmark::State& state)
     for (auto _ : state) {
         const auto begin = std::chrono::steady_clock::now();
         x += step;
-        if (x < 100 || x > 600) {
+        if (x < 110 || x > 590) {
             step = -step;
         }
         view.pointerMove({.X = x, .Y = 100});
