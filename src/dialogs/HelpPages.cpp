@@ -38,9 +38,14 @@ std::size_t pixelAt(double share, std::size_t count)
 } // namespace
 
 HelpPages::HelpPages(Form& form, StringView boxes, StringView view)
-    : form_(form), view_(form.control<PictureBox>(view)), boxes_(form, String(boxes))
+    : form_(form), view_(form.control<PictureBox>(view)), boxes_(form, String(boxes)),
+      reading_(u"tmr_Read", ReadInterval)
 {
     boxes_.adopt();
+    connections_ += reading_.Tick.connect([this] {
+        readNeighbours();
+        lay(0);
+    });
     connections_ += boxes_(Current)->Paint.connect([this] { paintEnlarged(); });
 }
 
@@ -55,18 +60,19 @@ double HelpPages::density() const
     return visualHost().pixelRatio() * form_.Zoom();
 }
 
-HelpPages::Held HelpPages::held(const String& file) const
+/// With its picture, if that is held.
+HelpPages::Held HelpPages::known(const String& file) const
 {
-    for (const Held& known : held_) {
-        if (known.picture && known.file == file) {
-            return known;
-        }
+    const auto found =
+        std::ranges::find_if(held_, [&](const Held& each) { return each.picture && each.file == file; });
+    return found == held_.end() ? Held{file, nullptr} : *found;
+}
+
+void HelpPages::read(Held& page) const
+{
+    if (!page.picture && !page.file.empty()) {
+        ignoringErrors([&] { page.picture = LoadPictureWithin(page.file, viewSize(), density()); });
     }
-    Held made{file, nullptr};
-    if (!file.empty()) {
-        ignoringErrors([&] { made.picture = LoadPictureWithin(file, viewSize(), density()); });
-    }
-    return made;
 }
 
 void HelpPages::dropUnfitting()
@@ -81,15 +87,31 @@ void HelpPages::dropUnfitting()
 void HelpPages::show(const String& before, const String& current, const String& next)
 {
     dropUnfitting();
-    held_ = {held(before), held(current), held(next)};
+    held_ = {known(before), known(current), known(next)};
+    read(held_[Current]);
+    reading_.Enabled(true);
     fine_ = nullptr;
     for (std::int32_t index = Before; index <= Next; ++index) {
-        const auto& picture = held_.at(static_cast<std::size_t>(index)).picture;
-        boxes_(index)->PaintedPart(std::nullopt);
-        boxes_(index)->Picture(picture);
-        boxes_(index)->Visible(picture != nullptr);
+        showBox(index);
     }
     showWhole();
+}
+
+void HelpPages::readNeighbours()
+{
+    reading_.Enabled(false);
+    for (const std::int32_t index : {Before, Next}) {
+        read(held_.at(static_cast<std::size_t>(index)));
+        showBox(index);
+    }
+}
+
+void HelpPages::showBox(std::int32_t index)
+{
+    const auto& picture = held_.at(static_cast<std::size_t>(index)).picture;
+    boxes_(index)->PaintedPart(std::nullopt);
+    boxes_(index)->Picture(picture);
+    boxes_(index)->Visible(picture != nullptr);
 }
 
 void HelpPages::showMap(const String& file)
@@ -107,6 +129,7 @@ void HelpPages::showMap(const String& file)
 void HelpPages::forget()
 {
     held_ = {};
+    reading_.Enabled(false);
     map_ = {};
     fine_ = nullptr;
 }
@@ -125,6 +148,9 @@ void HelpPages::place(std::int32_t index, double offset)
 
 void HelpPages::lay(double offset)
 {
+    if (offset != 0 && reading_.Enabled()) {
+        readNeighbours();
+    }
     const double width = viewSize().width;
     place(Before, offset - width);
     if (!zoom_.isEnlarged()) {

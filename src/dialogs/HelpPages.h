@@ -4,6 +4,7 @@
 #include "dialogs/PageZoom.h"
 #include "visual/ControlArray.h"
 #include "visual/PictureBox.h"
+#include "visual/Timer.h"
 
 #include <array>
 #include <memory>
@@ -15,12 +16,14 @@ namespace phial
 /// The pictures of a help book in their view: the page before (0), the one in view (1), the next (2), and a
 /// menu's map, which stays hidden (3). A page takes the whole view, its picture in the middle as large as the
 /// bitmap, or smaller where the view is. No more than these pictures are held; what fails to load leaves its
-/// place empty.
+/// place empty. The page in view is read at once, its neighbours when it has been seen, or is moved.
 class HelpPages
 {
 public:
     /// Takes up the picture boxes and what holds them.
     HelpPages(Form& form, StringView boxes, StringView view);
+
+    static constexpr std::int32_t ReadInterval = 30; ///< milliseconds until the neighbours are read
 
     /// The files of the three pages, empty for none. Pictures that are held already are not read again,
     /// unless the view has another size now or is shown finer.
@@ -63,7 +66,10 @@ private:
         PicturePtr picture;
     };
 
-    Held held(const String& file) const;
+    Held known(const String& file) const;
+    void read(Held& page) const;
+    void readNeighbours();
+    void showBox(std::int32_t index);
     void dropUnfitting();
     double density() const;
     void place(std::int32_t index, double offset);
@@ -73,6 +79,7 @@ private:
     std::shared_ptr<PictureBox> view_;
     ControlArray<PictureBox> boxes_;
     std::array<Held, Pages> held_;
+    Timer reading_; ///< runs while neighbours are not read yet
     Held map_;
     PixelSize heldFor_; ///< the view for which the pictures were read, and how fine
     double heldDensity_ = 0;

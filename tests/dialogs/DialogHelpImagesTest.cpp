@@ -15,6 +15,7 @@ TEST_F(DialogHelpImages, LaysThePagesSideBySide)
 {
     putPages(3);
     open();
+    waitForNeighbours();
     EXPECT_EQ(page(1).frame().pixelRectangle(), (PixelRectangle{350, 109, 300, 200}));
     EXPECT_EQ(page(2).frame().pixelRectangle(), (PixelRectangle{1350, 109, 300, 200}));
     EXPECT_FALSE(page(0).Visible());
@@ -92,14 +93,36 @@ TEST_F(DialogHelpImages, KeepsThePicturesThatItStillShows)
 {
     putPages(4);
     open();
+    waitForNeighbours();
     const PicturePtr second = page(2).Picture();
     press(u"but_Next");
     EXPECT_EQ(page(1).Picture(), second);
     EXPECT_TRUE(page(0).Picture());
 }
 
-/// Each reading of a large picture makes another one.
+TEST_F(DialogHelpImages, ReadsThePageInViewBeforeItsNeighbours)
+{
+    putPages(3);
+    open();
+    EXPECT_TRUE(page(1).Visible());
+    EXPECT_FALSE(page(2).Picture());
+    waitForNeighbours();
+    EXPECT_TRUE(page(2).Picture());
+    EXPECT_EQ(page(1).Left(), 350) << "and moves nothing";
+}
 
+TEST_F(DialogHelpImages, ReadsTheNeighboursAtOnceForASwipe)
+{
+    putPages(3);
+    open();
+    view().pointerDown({.X = 500, .Y = 10});
+    EXPECT_FALSE(page(2).Picture());
+    view().pointerMove({.X = 480, .Y = 10});
+    EXPECT_TRUE(page(2).Visible());
+    EXPECT_EQ(page(2).Left(), 1330);
+}
+
+/// Each reading of a large picture makes another one.
 TEST_F(DialogHelpImages, ReadsAPictureOnceForAsLongAsTheViewKeepsItsSize)
 {
     put("01.gif", {2000, 400});
@@ -151,6 +174,7 @@ TEST_F(DialogHelpImages, FillsALargerWindow)
     open();
     form.innerSize({1400, 900});
     EXPECT_EQ(view().frame().pixelRectangle(), (PixelRectangle{0, 48, 1400, 758}));
+    waitForNeighbours();
     EXPECT_EQ(page(1).Left(), 550);
     EXPECT_EQ(page(2).Left(), 1950);
     EXPECT_EQ(button(u"but_Next").Left() + button(u"but_Next").Width(), 1384);

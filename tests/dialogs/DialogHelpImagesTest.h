@@ -60,6 +60,8 @@ protected:
         dialog.Folder(path(u"Hilfe\\"));
         form.Show();
     }
+    /// Until the pages beside the one in view have been read.
+    void waitForNeighbours() { outside.advance(0.1); }
     PictureBox& page(std::int32_t index) { return *form.control<PictureBox>(u"pic_Viewer", index); }
     PictureBox& view() { return *form.control<PictureBox>(u"pic_ViewHolder"); }
     ctl_Button& button(StringView name) { return *form.control<ctl_Button>(name); }
