@@ -186,22 +186,12 @@ std::vector<Sample> keySamples()
         struck(u"Umgeschaltet|Shifted", {ShiftKey}),
         struck(u"Symbole|Symbols", {SymKey}),
         struck(u"Festgestellt|Locked", {ShiftKey, ShiftKey}),
-        struck(u"Symbole fest|Symbols locked", {SymKey, SymKey}),
-        struck(u"Beide|Both", {ShiftKey, SymKey, SymKey}),
         struck(u"Befehle|Commands", {CtrlKey}),
-        struck(u"Tasten mit Alt|Keys with Alt", {AltKey}),
         struck(u"Strg und Alt|Ctrl and Alt", {CtrlKey, CtrlKey, AltKey, AltKey}),
         opened(u"Gedrückt|Pressed",
                [](Form&, ctl_Keys& keys) {
                    const PixelRectangle area = keys.areaOf(EnterKey);
                    keys.pointerDown({PointerButton::Left, 0, area.right() - 2, area.top + 2});
-               }),
-        opened(u"Gehalten|Held",
-               [](Form&, ctl_Keys& keys) {
-                   const PixelPoint shift = middleOf(keys, ShiftKey);
-                   const PixelPoint letter = middleOf(keys, LetterA);
-                   keys.pointerDown({PointerButton::Left, 0, shift.x, shift.y, 1});
-                   keys.pointerDown({PointerButton::Left, 0, letter.x, letter.y, 2});
                }),
         opened(u"Varianten|Variants", [](Form&, ctl_Keys& keys) { keys.showVariants(LetterA); }),
     };
@@ -253,8 +243,20 @@ std::vector<Sample> fieldSamples()
 
 std::vector<Sample> questionSamples()
 {
-    return {sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
-            sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); })};
+    return {
+        sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+        sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); }),
+        struck(u"Symbole fest|Symbols locked", {SymKey, SymKey}),
+        struck(u"Beide|Both", {ShiftKey, SymKey, SymKey}),
+        struck(u"Tasten mit Alt|Keys with Alt", {AltKey}),
+        opened(u"Gehalten|Held",
+               [](Form&, ctl_Keys& keys) {
+                   const PixelPoint shift = middleOf(keys, ShiftKey);
+                   const PixelPoint letter = middleOf(keys, LetterA);
+                   keys.pointerDown({PointerButton::Left, 0, shift.x, shift.y, 1});
+                   keys.pointerDown({PointerButton::Left, 0, letter.x, letter.y, 2});
+               }),
+    };
 }
 
 } // namespace
@@ -280,7 +282,8 @@ std::vector<Exhibit> keyboardExhibits()
                         u"The keys for a single switch, and the field above them.",
                         buildKeyboard, fieldSamples()),
             inEveryLook(u"KeyboardWindow",
-                        u"Eine lange Frage über der Tastatur.|A long question above the keyboard.",
+                        u"Eine lange Frage über der Tastatur, und was mehrere Finger tun.|"
+                        u"A long question above the keyboard, and what several fingers do.",
                         buildQuestion, questionSamples())};
 }
 
