@@ -263,7 +263,8 @@ std::vector<Sample> questionSamples()
 
 std::vector<Exhibit> keyboardExhibits()
 {
-    const auto inEveryLook = [](StringView title, StringView about, auto build, std::vector<Sample> samples) {
+    const auto inEveryLook = [](StringView title, StringView about, auto build,
+                                std::vector<Sample>&& samples) {
         return Exhibit{.group = Group::Windows,
                        .title = title,
                        .about = about,

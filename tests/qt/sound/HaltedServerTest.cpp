@@ -140,7 +140,7 @@ TEST_F(DeadServer, IsHeardAgainWhenItIsBack)
     ASSERT_TRUE(program_.hasTold("ready"));
     EXPECT_TRUE(isHeard());
     server_.kill();
-    QThread::msleep(3000); // a sound that begins while the server dies is lost, and the device with it
+    QThread::msleep(500); // a sound that begins while the server dies is lost, and the device with it
     EXPECT_GT(ask("play", ShortSeconds), 0);
     server_.start();
     EXPECT_TRUE(isHeard());
