@@ -2,12 +2,11 @@
 #include "app/sys_Global.h"
 #include "core/Locale.h"
 #include "dialogs/KeyParts.h"
+#include "dialogs/KeyboardRun.h"
 #include "dialogs/NumberLayout.h"
 #include "dialogs/ScanChoice.h"
 #include "dialogs/frm_DialogNumericTouch.h"
 #include "headless/Hand.h"
-#include "headless/TouchScreen.h"
-#include "support/AppSession.h"
 #include "term/clt_TermInput.h"
 #include "visual/Label.h"
 #include "visual/RichTextBox.h"
@@ -15,7 +14,6 @@
 
 #include <algorithm>
 #include <gmock/gmock-more-matchers.h>
-#include <initializer_list>
 #include <set>
 
 namespace phial::test
@@ -36,55 +34,17 @@ constexpr std::int32_t Clear = 13;
 constexpr std::int32_t Sign = 45;
 } // namespace pad_keys
 
-/// The pad for numbers over a form, on a screen that one touches.
-class DialogNumericTouch : public AppSession
+/// The pad for numbers.
+class DialogNumericTouch : public KeyboardRun<frm_DialogNumericTouch>
 {
 protected:
-    DialogNumericTouch()
-    {
-        outside.display().resize(1920, 1080);
-        LNG()->CURRENT(ID_Language_German);
-    }
-    ~DialogNumericTouch() override { host->discard(); }
-
     std::shared_ptr<TextBox> box(StringView text)
     {
-        const auto made = host->add<TextBox>(u"target");
+        const auto made = target<TextBox>();
         made->Text(String(text));
         return made;
     }
-    void open(const ObjectPtr& target)
-    {
-        pad.TargetControl(target);
-        pad.form().Show();
-    }
-    template <typename Class>
-    std::shared_ptr<Class> get(StringView name)
-    {
-        return pad.form().control<Class>(name);
-    }
-    std::shared_ptr<TextBox> input() { return get<TextBox>(u"txt_Input"); }
-    std::shared_ptr<ctl_Keys> keyPad() { return get<ctl_Keys>(u"ctl_Keys"); }
-
-    PixelPoint middle(std::int32_t index)
-    {
-        const PixelRectangle area = keyPad()->areaOf(index);
-        return {area.left + area.width / 2, area.top + area.height / 2};
-    }
-    void tap(std::int32_t index)
-    {
-        touch.press(1, *keyPad(), middle(index));
-        touch.release(1);
-        outside.runPending();
-    }
-    void tapAll(std::initializer_list<std::int32_t> indices)
-    {
-        for (const std::int32_t index : indices) {
-            tap(index);
-        }
-    }
     void type(StringView notation) { headless::type(pad.form(), notation); }
-    bool isOpen() { return pad.form().isLoaded(); }
     void expectConfirmed()
     {
         EXPECT_TRUE(isOpen()) << "never from within a handler";
@@ -93,9 +53,7 @@ protected:
         EXPECT_TRUE(pad.Accepted());
     }
 
-    std::shared_ptr<Form> host = std::make_shared<Form>(u"frm_Host");
-    frm_DialogNumericTouch pad;
-    headless::TouchScreen touch{outside.display()};
+    frm_DialogNumericTouch& pad = keyboard;
 };
 
 // Load.
