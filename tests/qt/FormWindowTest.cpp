@@ -449,6 +449,21 @@ TEST_F(ShapedWindowTest, AMaskPictureSoftensTheGround)
     EXPECT_EQ(shown->at(5, 60), 0U);
 }
 
+TEST_F(ShapedWindowTest, APictureThatIsItsOwnMaskIsTheGround)
+{
+    const auto picture = std::make_shared<Picture>(PixelSize{400, 30});
+    std::ranges::fill(picture->pixels().subspan(0, 400 * 20), 0xFF00FF00U);
+    std::ranges::fill(picture->pixels().subspan(400 * 20, 400 * 10), 0x80008000U);
+    form_->BackColor(RGB(255, 0, 0));
+    form_->Picture(picture);
+    form_->translucency({255, std::nullopt, picture});
+    EXPECT_TRUE(shapeIs(QRect(0, 0, 400, 30)));
+    const PicturePtr shown = grabForm(*form_, 1);
+    EXPECT_EQ(shown->at(5, 5), 0xFF00FF00U);
+    EXPECT_EQ(shown->at(5, 25), 0x80008000U) << "nothing of the ground's colour at soft edges";
+    EXPECT_EQ(shown->at(5, 60), 0U);
+}
+
 /// Pixel by pixel, for rows of a few solid runs each, of which many are like the one above.
 QRegion solidOf(const Picture& mask, const QRect& inside)
 {

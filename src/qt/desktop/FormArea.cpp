@@ -23,8 +23,13 @@ FormArea::FormArea(std::shared_ptr<Form> form, FormWindow& window)
 void FormArea::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    paintGround(painter);
     const PicturePtr mask = form_->translucency().mask;
+    if (window_.isSoft() && mask && mask == form_->Picture()) {
+        painter.setCompositionMode(QPainter::CompositionMode_Source); // all in one, as it is
+        painter.drawImage(QPointF(0, 0), imageForPainting(*mask));
+        return;
+    }
+    paintGround(painter);
     if (window_.isSoft() && mask) {
         painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
         painter.drawImage(QPointF(0, 0), imageForPainting(*mask));
