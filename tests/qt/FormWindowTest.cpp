@@ -7,6 +7,7 @@
 #include "visual/TextBox.h"
 #include "visual/ctl_Button.h"
 
+#include <QMenuBar>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -325,6 +326,23 @@ TEST_F(FormWindowTest, MenusAreShownAndChosen)
     (*found)->trigger();
     EXPECT_EQ(chosen, 1);
     EXPECT_EQ(form->ScaleHeight(), 300); // the bar takes nothing from the inside
+}
+
+TEST_F(FormWindowTest, AMenuBarComesWithItsFirstEntry)
+{
+    const auto form = makeForm();
+    form->menu().add(u"mnu_Hidden", u"Später")->Visible(false);
+    form->Show();
+    EXPECT_EQ(widgetOf(*form).findChild<QMenuBar*>(), nullptr);
+    form->menu().add(u"mnu_File", u"&Datei");
+    const auto* bar = widgetOf(*form).findChild<QMenuBar*>();
+    ASSERT_NE(bar, nullptr);
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_EQ(form->ScaleHeight(), 300);
+    EXPECT_EQ(widgetOf(*form).height(), 300 + bar->height());
+    form->menu().entry(u"mnu_File")->Visible(false);
+    EXPECT_FALSE(bar->isVisible());
+    EXPECT_EQ(widgetOf(*form).height(), 300);
 }
 
 TEST_F(FormWindowTest, TheColourKeyMakesHolesInTheWindow)

@@ -61,8 +61,8 @@ void partFromWidgets(const Container& container)
 } // namespace
 
 FormWindow::FormWindow(const std::shared_ptr<Form>& form)
-    : QWidget(nullptr, flagsFor(*form)), form_(form), menuBar_(new QMenuBar(this)),
-      area_(new FormArea(form, *this)), border_(form->BorderStyle()), flags_(flagsFor(*form)),
+    : QWidget(nullptr, flagsFor(*form)), form_(form), area_(new FormArea(form, *this)),
+      border_(form->BorderStyle()), flags_(flagsFor(*form)),
       soft_(hasHoles(form->translucency()) && desktopComposes())
 {
     setAttribute(Qt::WA_TranslucentBackground, soft_); // before the desktop's window is made
@@ -102,9 +102,21 @@ void FormWindow::showAll()
     const QScopedValueRollback<bool> showing(showing_, true);
     setWindowTitle(toQt(form_->Caption()));
     setEnabled(form_->Enabled());
-    showMenu(*menuBar_, form_->menu());
+    showMenuBar();
     showStyle();
     showGeometry();
+}
+
+// A menu bar takes longer to make than many a whole form, and most forms have none.
+void FormWindow::showMenuBar()
+{
+    if (!menuBar_ &&
+        std::ranges::any_of(form_->menu().entries(), [](const auto& entry) { return entry->Visible(); })) {
+        menuBar_ = new QMenuBar(this);
+    }
+    if (menuBar_) {
+        showMenu(*menuBar_, form_->menu());
+    }
 }
 
 void FormWindow::modelChanged(FormAspect aspect)
@@ -151,7 +163,7 @@ void FormWindow::show(FormAspect aspect)
         scheduleShape();
         break;
     case FormAspect::Menu:
-        showMenu(*menuBar_, form_->menu());
+        showMenuBar();
         showGeometry();
         scheduleShape();
         break;

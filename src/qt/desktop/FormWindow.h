@@ -56,6 +56,7 @@ private:
     static bool isBehindFreshDialog(const Form& form);
 
     void showAll();
+    void showMenuBar();
     void show(FormAspect aspect);
     void showStyle();
     void showFrame();
@@ -74,7 +75,7 @@ private:
     QSize menuSize() const;
 
     std::shared_ptr<Form> form_;
-    QMenuBar* menuBar_;
+    QMenuBar* menuBar_ = nullptr; ///< none as long as there is no entry to show
     QWidget* area_;
     std::unique_ptr<ContainerWidgets> controls_;
     BorderStyle border_; ///< as shown

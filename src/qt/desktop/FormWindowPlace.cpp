@@ -73,7 +73,7 @@ void FormWindow::showFrame()
 
 QSize FormWindow::menuSize() const
 {
-    return {0, menuBar_->isHidden() ? 0 : menuBar_->sizeHint().height()};
+    return {0, !menuBar_ || menuBar_->isHidden() ? 0 : menuBar_->sizeHint().height()};
 }
 
 void FormWindow::showGeometry()
@@ -115,7 +115,9 @@ void FormWindow::limitSize(QSize size)
 void FormWindow::arrange()
 {
     const int menuHeight = menuSize().height();
-    menuBar_->setGeometry(0, 0, width(), menuHeight);
+    if (menuBar_) {
+        menuBar_->setGeometry(0, 0, width(), menuHeight);
+    }
     area_->setGeometry(0, menuHeight, width(), height() - menuHeight);
 }
 
