@@ -3,11 +3,10 @@
 #include "core/CoreTheme.h"
 #include "core/Palette.h"
 #include "core/SessionState.h"
+#include "dialogs/KeyPictures.h"
 #include "dialogs/SignPainter.h"
-#include "visual/VisualHost.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 namespace phial
@@ -158,31 +157,12 @@ void paintFace(DrawDevice& device, const KeyLook& look)
     }
 }
 
-void KeyPainter::paint(DrawDevice& device, const KeyLook& look)
+void KeyPainter::paint(DrawDevice& device, const KeyLook& look) const
 {
     const PicturePtr image = device.Image();
-    device.PaintPicture(capOf(look, image ? image->pixelRatio() : 1), look.area.left, look.area.top);
+    const PicturePtr cap = KeyPictures::current()->cap(look, image ? image->pixelRatio() : 1);
+    device.PaintPicture(cap, look.area.left, look.area.top);
     paintFace(device, look);
-}
-
-const PicturePtr& KeyPainter::capOf(const KeyLook& look, double ratio)
-{
-    if (colours_ != coreTheme().changes() || ratio_ != ratio) {
-        caps_.clear();
-        colours_ = coreTheme().changes();
-        ratio_ = ratio;
-    }
-    KeyLook bare = look;
-    bare.area.left = bare.area.top = 0;
-    bare.face = {};
-    const auto known = std::ranges::find(caps_, bare, &Cap::look);
-    if (known != caps_.end()) {
-        return known->picture;
-    }
-    DrawDevice device(visualHost().createSurface({bare.area.width, bare.area.height}, ratio));
-    paintCap(device, bare);
-    caps_.push_back({std::move(bare), device.Image()});
-    return caps_.back().picture;
 }
 
 } // namespace phial

@@ -3,8 +3,6 @@
 #include "dialogs/KeyBoard.h"
 #include "visual/DrawDevice.h"
 
-#include <vector>
-
 namespace phial
 {
 
@@ -34,22 +32,11 @@ void paintCap(DrawDevice& device, const KeyLook& look);
 /// What stands on it.
 void paintFace(DrawDevice& device, const KeyLook& look);
 
-/// Paints keys; caps of the same look are drawn once.
+/// Paints keys; caps of the same look are drawn once (see KeyPictures).
 class KeyPainter
 {
 public:
-    void paint(DrawDevice& device, const KeyLook& look);
-
-private:
-    struct Cap {
-        KeyLook look; ///< without face, at the corner
-        PicturePtr picture;
-    };
-    const PicturePtr& capOf(const KeyLook& look, double ratio);
-
-    std::vector<Cap> caps_;
-    std::uint32_t colours_ = 0; ///< the theme's count of changes when they were drawn
-    double ratio_ = 0;
+    void paint(DrawDevice& device, const KeyLook& look) const;
 };
 
 } // namespace phial

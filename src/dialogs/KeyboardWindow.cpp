@@ -9,7 +9,7 @@
 #include "core/CoreRoot.h"
 #include "core/SessionState.h"
 #include "dialogs/FittingWords.h"
-#include "dialogs/KeyboardGround.h"
+#include "dialogs/KeyPictures.h"
 #include "dialogs/KeyboardPlace.h"
 #include "dialogs/TargetPlace.h"
 #include "visual/VisualHost.h"
@@ -235,7 +235,7 @@ void KeyboardWindow::scaleTo(double scale)
 
 void KeyboardWindow::paintGround()
 {
-    const PicturePtr ground = keyboardGround(form_->innerSize(), scale_);
+    const PicturePtr ground = KeyPictures::current()->ground(form_->innerSize(), scale_);
     form_->Picture(ground);
     form_->translucency({.opacity = 255, .colourKey = std::nullopt, .mask = ground});
 }

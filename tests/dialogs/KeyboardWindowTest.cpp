@@ -184,6 +184,14 @@ TEST_F(KeyboardWindowTest, HasTheHolesOfItsGround)
     EXPECT_EQ(keyboard.form->BorderStyle(), BorderStyle::None);
 }
 
+TEST_F(KeyboardWindowTest, TheNextKeyboardHasTheSameGround)
+{
+    open();
+    SampleKeyboard next;
+    next.form->Show();
+    EXPECT_EQ(next.form->Picture(), keyboard.form->Picture());
+}
+
 TEST_F(KeyboardWindowTest, ItsGroundFollowsTheColours)
 {
     open();
