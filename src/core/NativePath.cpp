@@ -60,11 +60,18 @@ bool isThere(const fs::path& path)
 /// The entry of a folder whose name differs from the given one in case only.
 std::optional<fs::path> entryIgnoringCase(const fs::path& folder, StringView name)
 {
+    constexpr std::size_t MostBytes = 3; // that a 16-bit unit takes in UTF-8
     std::optional<fs::path> found;
     std::error_code error;
     for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
          entry.increment(error)) {
-        fs::path candidate = entry->path().filename();
+        const fs::path& path = entry->path();
+        const auto& native = path.native();
+        const std::size_t length = native.size() - (native.rfind(fs::path::preferred_separator) + 1);
+        if (length < name.size() || length > MostBytes * name.size()) {
+            continue; // most entries of a large folder, without a look at their signs
+        }
+        fs::path candidate = path.filename();
         if (equalsIgnoringCase(fromUtf8(candidate.string()), name) && (!found || candidate < *found)) {
             found = std::move(candidate);
         }

@@ -275,6 +275,9 @@ int compareIgnoringCase(StringView left, StringView right)
 {
     const std::size_t common = std::min(left.size(), right.size());
     for (std::size_t i = 0; i < common; ++i) {
+        if (left[i] == right[i]) {
+            continue;
+        }
         const int difference = int{upperCase(left[i])} - int{upperCase(right[i])};
         if (difference != 0) {
             return difference;

@@ -5,6 +5,7 @@
 #include "core/CoreFiles.h"
 #include "core/CorePathText.h"
 #include "core/CoreRoot.h"
+#include "core/FolderListing.h"
 #include "core/RuntimeError.h"
 
 #include <algorithm>
@@ -17,6 +18,7 @@ namespace
 
 constexpr StringView EnglishFolder = u"en\\";
 constexpr StringView PagePatterns[] = {u"*.gif", u"*.jpg", u"*.bmp"};
+constexpr StringView TextPattern = u"*.txt";
 constexpr std::uintmax_t LongestPageText = 65536; // bytes
 
 struct ChapterColour {
@@ -27,6 +29,12 @@ constexpr ChapterColour ChapterColours[] = {
     {u"#0000FF", u"K1\\"}, {u"#00FFFF", u"K2\\"}, {u"#00FFFD", u"K2\\"}, {u"#00FF00", u"K3\\"},
     {u"#02FF00", u"K3\\"}, {u"#FFFF00", u"K4\\"}, {u"#FF0000", u"K5\\"}, {u"#FF00FF", u"K6\\"},
 };
+
+bool isPage(StringView path)
+{
+    return std::ranges::any_of(PagePatterns,
+                               [path](StringView pattern) { return matchesPattern(path, pattern); });
+}
 
 bool startsIgnoringCase(const String& text, const String& beginning)
 {
@@ -103,10 +111,14 @@ void HelpBook::read()
 {
     shown_ = inLanguage(book_, folder_);
     files_.Clear();
-    for (const StringView pattern : PagePatterns) {
-        files_.AddList(coreRoot().CoreFiles().List(shown_ + String(pattern), false, true, true));
+    texts_.Clear();
+    for (const String& path : coreRoot().CoreFiles().List(shown_, false, true, true)) { // in their order
+        if (isPage(path)) {
+            files_.Add(path);
+        } else if (matchesPattern(path, TextPattern)) {
+            texts_.Add(path);
+        }
     }
-    files_.Sort();
     const String map = shown_ + String(MapName);
     hasMenu_ = files_.Exists(map);
     if (hasMenu_) {
@@ -146,6 +158,9 @@ String HelpBook::textOf(std::int32_t page) const
     }
     const CoreFiles& files = coreRoot().CoreFiles();
     const String beside = CorePathText::WithoutExtension(file) + u".txt";
+    if (!texts_.Exists(beside)) {
+        return {};
+    }
     String text;
     ignoringErrors([&] {
         const FileStamp stamp = files.Changed(beside);

@@ -83,6 +83,7 @@ private:
     String folder_;
     String shown_;
     CoreStringList files_;
+    CoreStringList texts_; ///< the text files among them
     std::int32_t page_ = 1;
     bool hasMenu_ = false;
     std::vector<String> menus_; ///< folders with menus from the book's first on, as they were asked for
