@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/PageSegments.h"
 #include "visual/FormDesign.h"
 #include "visual/Label.h"
 #include "visual/PictureBox.h"
@@ -47,12 +48,15 @@ inline constexpr ControlDesign Controls[] = {
         .ground(QBColor(15))
         .hidden()
         .touchable(),
-    design<Label>(u"lab_Strip", {Margin, StripTop, 20, StripHeight})
+    design<PageSegments>(u"pic_Strip", {0, StripTop - StripEdge, Width, StripHeight + 2 * StripEdge}),
+    design<Label>(u"lab_Strip", {Margin, 0, 20, StripHeight + 2 * StripEdge})
+        .inside(u"pic_Strip")
         .set(u"BackStyle", BackStyle::Opaque)
         .ground(RGB(28, 40, 54))
         .hidden(),
-    design<Label>(u"bar_Progress", {Margin, StripTop, 20, StripHeight})
+    design<Label>(u"bar_Progress", {Margin, StripEdge, 20, StripHeight})
         .at(0)
+        .inside(u"pic_Strip")
         .set(u"BackStyle", BackStyle::Opaque)
         .ground(QBColor(7))
         .hidden(),

@@ -55,9 +55,9 @@ bool isLeft(const PointerEvent& event)
 
 frm_DialogHelpImages::frm_DialogHelpImages()
     : form_(help_design::Design), pages_(*form_, u"pic_Viewer", u"pic_ViewHolder"),
-      segments_(*form_, u"bar_Progress"), back_(form_->control<ctl_Button>(u"but_Back")),
-      next_(form_->control<ctl_Button>(u"but_Next")), menu_(form_->control<ctl_Button>(u"but_Menu")),
-      delete_(form_->control<ctl_Button>(u"but_Delete")),
+      segments_(*form_, u"bar_Progress"), stripView_(form_->control<PageSegments>(u"pic_Strip")),
+      back_(form_->control<ctl_Button>(u"but_Back")), next_(form_->control<ctl_Button>(u"but_Next")),
+      menu_(form_->control<ctl_Button>(u"but_Menu")), delete_(form_->control<ctl_Button>(u"but_Delete")),
       animation_(std::make_shared<Timer>(u"tmr_Animation", SlideInterval))
 {
     segments_.adopt();
@@ -198,16 +198,17 @@ void frm_DialogHelpImages::makeStrip()
     for (auto next = static_cast<std::int32_t>(segments_.Count()); next <= strip_.segments(); ++next) {
         segments_.load(next);
     }
-    const double top = form_->innerSize().height - BarHeight - StripHeight - StripGap;
+    const double top = form_->innerSize().height - BarHeight - StripHeight - StripGap - StripEdge;
+    stripView_->frame().pixelRectangle({0, top, form_->innerSize().width, StripHeight + 2 * StripEdge});
     const auto edge = form_->control<Label>(u"lab_Strip");
     edge->Visible(strip_.segments() > 0);
-    edge->frame().pixelRectangle({Margin - StripEdge, top - StripEdge,
+    edge->frame().pixelRectangle({Margin - StripEdge, 0,
                                   strip_.left(strip_.segments()) + strip_.segmentWidth() + 2 * StripEdge,
                                   StripHeight + 2 * StripEdge});
     for (std::int32_t segment = 1; segment <= strip_.segments(); ++segment) {
         Label& label = *segments_(segment);
         label.frame().pixelRectangle(
-            {Margin + strip_.left(segment), top, strip_.segmentWidth(), StripHeight});
+            {Margin + strip_.left(segment), StripEdge, strip_.segmentWidth(), StripHeight});
         label.BackColor(strip_.colourOf(segment, book_.Page()));
         label.Visible(true);
     }
@@ -219,6 +220,7 @@ void frm_DialogHelpImages::showPage()
     for (std::int32_t segment = 1; segment <= strip_.segments(); ++segment) {
         segments_(segment)->BackColor(strip_.colourOf(segment, book_.Page()));
     }
+    stripView_->refresh();
     const std::int32_t page = book_.Page();
     const bool isMapAlone = book_.HasMenu() && book_.Files().Count() == 0;
     pages_.showMap(book_.mapFile());

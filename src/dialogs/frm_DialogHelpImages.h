@@ -3,6 +3,7 @@
 #include "core/CoreParameters.h"
 #include "dialogs/HelpBook.h"
 #include "dialogs/HelpPages.h"
+#include "dialogs/PageSegments.h"
 #include "dialogs/PageSlide.h"
 #include "dialogs/PageStrip.h"
 #include "visual/ControlArray.h"
@@ -97,6 +98,7 @@ private:
     PageSlide slide_;
     PageStrip strip_;
     ControlArray<Label> segments_;
+    std::shared_ptr<PageSegments> stripView_;
     std::shared_ptr<ctl_Button> back_;
     std::shared_ptr<ctl_Button> next_;
     std::shared_ptr<ctl_Button> menu_;

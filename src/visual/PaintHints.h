@@ -17,6 +17,9 @@ public:
     virtual bool coversAll() const = 0;
     /// The area of currentPart(), which is asked for at each painting and so without the parts' names.
     virtual std::optional<PixelRectangle> currentPartArea() const = 0;
+    /// Whether it paints the controls within it itself and hands presses on to them, so that an adapter makes
+    /// no widgets for them.
+    virtual bool showsChildren() const { return false; }
 
 protected:
     ~PaintHints() = default;

@@ -135,6 +135,26 @@ TEST_F(HelpWindowTest, ATapOnTheMenuOpensItsChapter)
     EXPECT_EQ(dialog_.Folder(), folder().path() + u"K3\\");
 }
 
+TEST_F(HelpWindowTest, ASegmentOfTheStripLeadsToItsPage)
+{
+    for (const char* page : {"1.bmp", "2.bmp", "3.bmp"}) {
+        put(page, {400, 200});
+    }
+    open();
+    QWidget& strip = widgetOf(*form_.control<Control>(u"pic_Strip"));
+    const auto middleOf = [&](std::int32_t page) {
+        const PixelRectangle area = form_.control<Label>(u"bar_Progress", page)->frame().pixelRectangle();
+        return QPointF(area.left + area.width / 2, area.top + area.height / 2).toPoint();
+    };
+    EXPECT_TRUE(strip.findChildren<QWidget*>().isEmpty()) << "one widget does for all";
+    const QImage seen = strip.grab().toImage();
+    EXPECT_EQ(seen.pixelColor(middleOf(1)), QColor(255, 255, 255));
+    EXPECT_EQ(seen.pixelColor(middleOf(2)), QColor(192, 192, 192));
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, middleOf(3));
+    EXPECT_EQ(dialog_.Page(), 3);
+    EXPECT_EQ(strip.grab().toImage().pixelColor(middleOf(3)), QColor(255, 255, 255));
+}
+
 TEST_F(HelpWindowTest, KeysTurnThePages)
 {
     put("1.bmp", {400, 200});

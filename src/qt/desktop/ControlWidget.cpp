@@ -90,7 +90,7 @@ ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* pare
     peer_ = std::make_unique<Peer>(*this);
     registerWindow(control_->hWnd(), *this);
     connect(&ThemeNews::instance(), &ThemeNews::changed, this, [this] { update(); });
-    if (Container* inner = control_->container()) {
+    if (Container* inner = control_->container(); inner && !(hints_ && hints_->showsChildren())) {
         children_ = std::make_unique<ContainerWidgets>(*inner, *this);
     }
     if (placement_ == Placement::ByLayout) {
