@@ -144,6 +144,7 @@ void frm_DialogHelpImages::load()
     const PixelSize view = pages_.viewSize();
     form_->control<PictureBox>(u"pic_Viewer", 3)->frame().pixelRectangle({0, 0, view.width, view.height});
     showBook();
+    handOnKeyboard();
 }
 
 /// Everything keeps its distance from the edges; the buttons share what a narrow window leaves them.
@@ -230,7 +231,7 @@ void frm_DialogHelpImages::showPage()
     speakPage();
 }
 
-/// A button that can no longer be pressed hands the keyboard on.
+/// What can no longer have the keyboard hands it on.
 void frm_DialogHelpImages::showPlace()
 {
     const HelpPlace place = book_.place();
@@ -244,12 +245,26 @@ void frm_DialogHelpImages::showPlace()
     form_->control<ctl_Title>(u"bar_Header")
         ->TextRight(place.pages <= 1 ? String()
                                      : Variant(place.page).toText() + u" / " + Variant(place.pages).toText());
+    const auto page = form_->control<PictureBox>(u"pic_Viewer", 1);
+    page->frame().canFocus(place.isMenuInView() || !(next_->Enabled() || back_->Enabled()));
+    if (!page->frame().canFocus() && form_->ActiveControl() == page) {
+        form_->focus(nullptr);
+    }
     if (form_->Visible() && !form_->ActiveControl()) {
-        for (const auto& button : {next_, back_}) {
-            if (button->Enabled()) {
-                button->SetFocus();
-                break;
-            }
+        handOnKeyboard();
+    }
+}
+
+/// To what goes on with reading: the page where that is a menu or the only one, else the way to the next one,
+/// or back. Never to "Print", which Return would press.
+void frm_DialogHelpImages::handOnKeyboard()
+{
+    const ControlPtr page = form_->control<PictureBox>(u"pic_Viewer", 1);
+    for (const ControlPtr& control : {page, ControlPtr(next_), ControlPtr(back_)}) {
+        const ControlFrame& frame = control->frame();
+        if (frame.canFocus() && frame.Visible() && frame.Enabled()) {
+            control->SetFocus();
+            return;
         }
     }
 }

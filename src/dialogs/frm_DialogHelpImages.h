@@ -64,6 +64,7 @@ private:
     void makeStrip();
     void showPage();
     void showPlace();
+    void handOnKeyboard();
     void speakPage();
 
     void turn(PageTurn turn);

@@ -130,6 +130,23 @@ TEST_F(DialogHelpImages, FollowsATapOnAnEnlargedMenu)
     EXPECT_EQ(dialog.Folder(), at(u"K1\\"));
 }
 
+TEST_F(DialogHelpImages, OpensWithTheKeyboardAtItsMenu)
+{
+    putMenu();
+    put("K2/01.gif");
+    put("K2/02.gif");
+    open();
+    const ControlPtr menu = form.control<PictureBox>(u"pic_Viewer", 1);
+    EXPECT_EQ(form.ActiveControl(), menu);
+    strike(Key::Return);
+    EXPECT_THAT(outside.visual().printed(), ::testing::IsEmpty());
+    headless::strike(form, {.key = static_cast<Key>(u'2')});
+    EXPECT_EQ(form.ActiveControl(), form.control<ctl_Button>(u"but_Next"));
+    EXPECT_FALSE(menu->frame().canFocus()) << "pages of a chapter are turned by the buttons";
+    press(u"but_Menu");
+    EXPECT_EQ(form.ActiveControl(), menu);
+}
+
 TEST_F(DialogHelpImages, OpensAChapterOfTheMenuByItsNumber)
 {
     putMenu();

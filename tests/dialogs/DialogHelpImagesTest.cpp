@@ -222,6 +222,22 @@ TEST_F(DialogHelpImages, SaysWhatAPageShows)
     EXPECT_EQ(page(1).frame().announcement(), page(1).frame().AccessibleName());
 }
 
+TEST_F(DialogHelpImages, OpensWithTheKeyboardAtTheWayToTheNextPage)
+{
+    putPages(2);
+    open();
+    EXPECT_EQ(form.ActiveControl(), form.control<ctl_Button>(u"but_Next"));
+}
+
+TEST_F(DialogHelpImages, OpensWithTheKeyboardAtAPageThatIsAlone)
+{
+    putPages(1);
+    open();
+    EXPECT_EQ(form.ActiveControl(), form.control<PictureBox>(u"pic_Viewer", 1));
+    strike(Key::Return);
+    EXPECT_THAT(outside.visual().printed(), IsEmpty());
+}
+
 TEST_F(DialogHelpImages, HandsTheKeyboardOnFromAButtonThatGoesOff)
 {
     putPages(2);
