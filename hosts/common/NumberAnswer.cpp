@@ -6,35 +6,9 @@
 #include "core/CoreNumbers.h"
 #include "core/NumberText.h"
 #include "media/cls_AppMedia.h"
-#include "visual/Shape.h"
 
 namespace learning
 {
-
-namespace
-{
-
-/// The sign of a decided answer, a padlock at the end of the unit's room: its shackle, and the body before
-/// it.
-constexpr double LockLeft =
-    frame_design::TaskPlaces::Answer.left + frame_design::TaskPlaces::Answer.width - 22;
-constexpr double LockTop = frame_design::TaskPlaces::Answer.top + frame_design::TaskPlaces::Answer.height / 2;
-constexpr phial::ControlDesign Lock[] = {
-    phial::design<phial::Shape>(u"shp_LockShackle", {LockLeft + 3, LockTop - 11, 12, 18})
-        .inside(u"pan_Task")
-        .set(u"Shape", phial::ShapeKind::Oval)
-        .set(u"BorderWidth", 2)
-        .set(u"BorderColor", phial::Palette::Muted)
-        .hidden(),
-    phial::design<phial::Shape>(u"shp_Lock", {LockLeft, LockTop - 2, 18, 14})
-        .inside(u"pan_Task")
-        .set(u"BorderWidth", 0)
-        .set(u"FillStyle", phial::FillStyle::Solid)
-        .set(u"FillColor", phial::Palette::Muted)
-        .hidden(),
-};
-
-} // namespace
 
 std::optional<double> typedNumber(phial::StringView text)
 {
@@ -43,11 +17,10 @@ std::optional<double> typedNumber(phial::StringView text)
 }
 
 NumberAnswer::NumberAnswer(phial::Form& form, const phial::ControlPtr& task)
-    : form_(form), field_(form.control<phial::ctl_QVInput>(u"txt_Answer")),
+    : lock_(form), field_(form.control<phial::ctl_QVInput>(u"txt_Answer")),
       input_(std::static_pointer_cast<phial::TextBox>(field_->input().shared_from_this())),
       pad_(form.control<phial::ctl_Button>(u"but_Pad"))
 {
-    phial::addControls(form, Lock);
     field_->KeyboardBeside(task);
     pressing_ = pad_->CLICK.connect([this] {
         phial::QVAPP()->MEDIA()->CLICK();
@@ -86,14 +59,11 @@ void NumberAnswer::open()
     look(false);
 }
 
-/// Colours alone do not tell that it is decided: there is a sign as well.
 void NumberAnswer::look(bool decided)
 {
     input_->BackColor(decided ? phial::Palette::DisabledGround : phial::Palette::Surface);
     input_->ForeColor(decided ? phial::Palette::DisabledText : phial::Palette::Ink);
-    for (const phial::ControlDesign& row : Lock) {
-        form_.control<phial::Shape>(row.name)->Visible(decided);
-    }
+    lock_.Visible(decided);
     pad_->Enabled(!decided);
 }
 

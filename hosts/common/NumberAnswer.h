@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/AnswerLock.h"
 #include "common/FrameDesign.h"
 #include "dialogs/ctl_QVInput.h"
 
@@ -45,7 +46,8 @@ public:
         constexpr auto Place = frame_design::TaskPlaces::Answer;
         return phial::design<phial::ctl_Label>(u"lab_Unit",
                                                {Place.left + FieldWidth + 12, Place.top,
-                                                Place.width - FieldWidth - 12 - LockWidth, Place.height},
+                                                Place.width - FieldWidth - 12 - AnswerLock::Width,
+                                                Place.height},
                                                text)
             .inside(u"pan_Task")
             .font(18)
@@ -79,11 +81,10 @@ public:
 
 private:
     static constexpr double FieldWidth = 220;
-    static constexpr double LockWidth = 24; ///< left free by the unit
 
     void look(bool decided);
 
-    phial::Form& form_;
+    AnswerLock lock_;
     std::shared_ptr<phial::ctl_QVInput> field_;
     std::shared_ptr<phial::TextBox> input_; ///< within it
     std::shared_ptr<phial::ctl_Button> pad_;

@@ -16,14 +16,18 @@ constexpr double TermSizes[] = {39, 33, 28.5, 24}; // points: 52, 44, 38, 32 pix
 
 } // namespace
 
-std::optional<double> fittingTermSize(phial::StringView term, double width)
+double termWidth(phial::StringView term, double points)
 {
     phial::DrawDevice device(phial::visualHost().createSurface({1, 1}, 1));
     device.FontName(phial::FontDesign{}.name);
-    const auto* const size = std::ranges::find_if(TermSizes, [&](double points) {
-        device.FontSize(points);
-        return phial::TermDraw(device, term, 0, 0) <= width;
-    });
+    device.FontSize(points);
+    return phial::TermDraw(device, term, 0, 0);
+}
+
+std::optional<double> fittingTermSize(phial::StringView term, double width)
+{
+    const auto* const size =
+        std::ranges::find_if(TermSizes, [&](double points) { return termWidth(term, points) <= width; });
     return size == std::end(TermSizes) ? std::nullopt : std::optional(*size);
 }
 

@@ -9,6 +9,9 @@
 namespace learning
 {
 
+/// How wide a formula is in that size, in pixels.
+double termWidth(phial::StringView term, double points);
+
 /// The size in points, from 39 (52 pixels) down to 24 (32 pixels) in steps, in which a formula is no wider
 /// than that many pixels; none when even the smallest is too large.
 std::optional<double> fittingTermSize(phial::StringView term, double width);
