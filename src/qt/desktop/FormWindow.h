@@ -69,6 +69,7 @@ private:
     void restyleLists();
     void showFocus();
     void tellGeometry();
+    void keepOnScreen();
     void tellState();
     void arrange();
     bool fillsScreen() const;
@@ -87,6 +88,7 @@ private:
     bool wasActive_ = false; ///< since it was opened
     bool showing_ = false;   ///< the model is being shown; what the window says of itself is an echo
     bool shapeScheduled_ = false;
+    bool isFrameKnown_ = false; ///< since the desktop has put one around the window
 };
 
 } // namespace phial::qt

@@ -4,7 +4,9 @@
 #include <QMenuBar>
 #include <QMoveEvent>
 #include <QResizeEvent>
+#include <QScreen>
 
+#include <algorithm>
 #include <cmath>
 
 /// The part of a form's window that deals with its frame, its place and whether it fills the screen.
@@ -158,6 +160,26 @@ void FormWindow::tellGeometry()
         form_->inputGeometry(frame.left() * TwipsPerPixel, frame.top() * TwipsPerPixel,
                              frame.width() * TwipsPerPixel, frame.height() * TwipsPerPixel);
     });
+    if (!isFrameKnown_ && frame.size() != size()) {
+        isFrameKnown_ = true;
+        keepOnScreen();
+    }
+}
+
+// One that was put into the middle before its frame was known may reach out of a low screen by that. Where
+// there is no room for all of it, its title is seen.
+void FormWindow::keepOnScreen()
+{
+    const QRect frame = frameGeometry();
+    const QRect room = screen()->geometry();
+    const auto within = [](int start, int length, int from, int most) {
+        return std::max(from, std::min(start, from + most - length));
+    };
+    const QPoint corner(within(frame.x(), frame.width(), room.x(), room.width()),
+                        within(frame.y(), frame.height(), room.y(), room.height()));
+    if (form_->centred() && !isMaximized() && !isFullScreen() && corner != frame.topLeft()) {
+        move(corner);
+    }
 }
 
 void FormWindow::moveEvent(QMoveEvent* event)
