@@ -14,6 +14,7 @@
 #include "core/SessionState.h"
 #include "dialogs/DialogHelpImagesDesign.h"
 #include "dialogs/HelpPrint.h"
+#include "visual/VisualHost.h"
 
 #include <algorithm>
 #include <cmath>
@@ -137,6 +138,7 @@ void frm_DialogHelpImages::load()
         form_->control<ctl_Title>(u"bar_Header")->Title(title_);
     }
     isLoaded_ = true;
+    fitScreen();
     book_.openBook(folder_.empty() ? QVAPP()->URL()->DATAAPP() + String(HelpFolder) : folder_);
     if (const String chapter = more_.Get(u"CHAPTER").toText(); !chapter.empty()) {
         book_.openChapter(chapter);
@@ -145,6 +147,21 @@ void frm_DialogHelpImages::load()
     form_->control<PictureBox>(u"pic_Viewer", 3)->frame().pixelRectangle({0, 0, view.width, view.height});
     showBook();
     handOnKeyboard();
+}
+
+/// A screen, or what the zoom leaves of it, may be smaller than the design.
+void frm_DialogHelpImages::fitScreen()
+{
+    constexpr PixelSize Frame{16, 36}; // about what desktops put around a window
+    VisualHost& host = visualHost();
+    const auto opener = host.forms().ActiveForm();
+    const PixelRectangle screen = opener ? host.screen().of(*opener) : host.screen().first();
+    const PixelSize inner = form_->innerSize();
+    const PixelSize fitting{std::min(inner.width, (screen.width - Frame.width) / form_->Zoom()),
+                            std::min(inner.height, (screen.height - Frame.height) / form_->Zoom())};
+    if (!screen.isEmpty() && fitting != inner) {
+        form_->innerSize(fitting);
+    }
 }
 
 /// Everything keeps its distance from the edges; the buttons share what a narrow window leaves them.

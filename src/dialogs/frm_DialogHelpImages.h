@@ -59,6 +59,7 @@ private:
     void connect();
     void connectPointer(PictureBox& box);
     void load();
+    void fitScreen();
     void layOut();
     void showBook();
     void makeStrip();

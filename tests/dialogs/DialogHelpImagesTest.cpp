@@ -183,6 +183,16 @@ TEST_F(DialogHelpImages, FillsALargerWindow)
     EXPECT_LT(button(u"but_Delete").Left() + button(u"but_Delete").Width(), button(u"but_Next").Left());
 }
 
+TEST_F(DialogHelpImages, IsNoLargerThanTheScreen)
+{
+    outside.display().resize(819, 480);
+    putPages(1);
+    open();
+    EXPECT_EQ(form.innerSize(), (PixelSize{803, 444}));
+    EXPECT_LE(form.Top() + form.Height(), 480 * TwipsPerPixel);
+    EXPECT_LT(view().frame().pixelRectangle().bottom(), button(u"but_Next").frame().pixelRectangle().top);
+}
+
 TEST_F(DialogHelpImages, HoldsTenThousandPages)
 {
     std::filesystem::create_directories(folder.native() / "Hilfe");

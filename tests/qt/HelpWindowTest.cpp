@@ -29,6 +29,7 @@ protected:
     {
         dialog_.Folder(folder().path());
         form_.Show();
+        form_.innerSize({1000, 564}); // the screen in memory is smaller
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&widgetOf(form_)));
     }
     QWidget& view() { return widgetOf(*form_.control<PictureBox>(u"pic_ViewHolder")); }

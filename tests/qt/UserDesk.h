@@ -18,6 +18,7 @@ public:
     /// Keys by their place, as the server numbers them.
     enum Key : unsigned {
         Escape = 9,
+        One = 10,
         Five = 14,
         SharpS = 20,
         Tab = 23,
@@ -40,6 +41,7 @@ public:
         Home = 110,
         Left = 113,
         Right = 114,
+        End = 115,
     };
 
     UserDesk();
