@@ -3,6 +3,7 @@
 #include "app/FormTexts.h"
 #include "core/RuntimeError.h"
 #include "dialogs/DialogKeyboardDesign.h"
+#include "dialogs/KeysOnWindow.h"
 #include "dialogs/ScanChoice.h"
 #include "dialogs/TextLayout.h"
 #include "visual/VisualHost.h"
@@ -69,8 +70,8 @@ void frm_DialogKeyboard::connect()
 {
     form_.on(form_->Load, [this] { load(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
+    joinKeys(form_, window_, keys_);
     form_.on(form_->KeyDown, [this](KeyEvent& event) { previewKey(event); });
-    form_.on(form_->KeyUp, [this](KeyEvent& event) { keys_->previewKeyUp(event); });
     form_.on(input_->Change, [this] { edited(); });
     form_.on(form_->Unloaded, [this] {
         if (Accepted() && input_->Text() != written_) {
@@ -78,34 +79,24 @@ void frm_DialogKeyboard::connect()
         }
     });
     form_.on(window_.CONFIRMED, [this] { accept(); });
-    form_.on(window_.DRAGGED, [this] { keys_->cancelPresses(); });
     form_.on(window_.SCALED, [this] {
         if (input_->MultiLine()) {
             showLines();
         }
     });
-    form_.on(keys_->PRESSED, [this](const PointerEvent& event) { window_.press(*keys_, event); });
-    form_.on(keys_->MOVED, [this](const PointerEvent& event) { window_.move(*keys_, event); });
-    form_.on(keys_->RELEASED, [this](std::int32_t touch) { window_.release(touch); });
     form_.on(keys_->CLICK,
              [this](std::int32_t index) { ignoringErrors([&] { perform(keys_->board().click(index)); }); });
     form_.on(keys_->VARIANT,
              [this](const String& text) { ignoringErrors([&] { perform(keys_->board().type(text)); }); });
 }
 
-/// Escape gives up with modifiers too, which the form's cancel control does not hear. A field of one line
-/// makes nothing of Ctrl and Return, a page makes a line.
+/// A field of one line makes nothing of Ctrl and Return, a page makes a line.
 void frm_DialogKeyboard::previewKey(KeyEvent& event)
 {
-    keys_->previewKey(event);
     const bool makesLine = event.is(Key::Return) && event.Shift == ShiftMask::Control;
     if (makesLine && !(takesLines_ && input_->MultiLine())) {
         event.KeyCode = 0;
         addLine();
-    }
-    if (event.is(Key::Escape) && event.Shift != 0) {
-        event.KeyCode = 0;
-        window_.abort();
     }
 }
 

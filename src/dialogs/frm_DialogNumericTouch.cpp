@@ -4,6 +4,7 @@
 #include "core/Locale.h"
 #include "core/RuntimeError.h"
 #include "dialogs/DialogNumericTouchDesign.h"
+#include "dialogs/KeysOnWindow.h"
 #include "dialogs/NumberLayout.h"
 #include "dialogs/ScanChoice.h"
 
@@ -22,7 +23,6 @@ frm_DialogNumericTouch::frm_DialogNumericTouch()
     keys_->board().rename(number_layout::DecimalSignKey,
                           currentLocale().decimalSign == u'.' ? StringView(u".") : StringView(u","));
     connect();
-    connectKeys();
     TRANSLATE();
 }
 
@@ -35,30 +35,11 @@ void frm_DialogNumericTouch::connect()
 {
     form_.on(form_->Load, [this] { load(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
-    form_.on(form_->KeyDown, [this](KeyEvent& event) { previewKey(event); });
-    form_.on(form_->KeyUp, [this](KeyEvent& event) { keys_->previewKeyUp(event); });
     form_.on(input_->Change, [this] { edited(); });
     form_.on(window_.CONFIRMED, [this] { accept(); });
-    form_.on(window_.DRAGGED, [this] { keys_->cancelPresses(); });
-}
-
-void frm_DialogNumericTouch::connectKeys()
-{
-    form_.on(keys_->PRESSED, [this](const PointerEvent& event) { window_.press(*keys_, event); });
-    form_.on(keys_->MOVED, [this](const PointerEvent& event) { window_.move(*keys_, event); });
-    form_.on(keys_->RELEASED, [this](std::int32_t touch) { window_.release(touch); });
+    joinKeys(form_, window_, keys_);
     form_.on(keys_->CLICK,
              [this](std::int32_t index) { ignoringErrors([&] { strike(keys_->board().name(index)); }); });
-}
-
-/// Escape gives up with modifiers too, which the form's cancel control does not hear.
-void frm_DialogNumericTouch::previewKey(KeyEvent& event)
-{
-    keys_->previewKey(event);
-    if (event.is(Key::Escape) && event.Shift != 0) {
-        event.KeyCode = 0;
-        window_.abort();
-    }
 }
 
 void frm_DialogNumericTouch::TRANSLATE()

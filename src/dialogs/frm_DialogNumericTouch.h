@@ -39,8 +39,6 @@ public:
 
 private:
     void connect();
-    void connectKeys();
-    void previewKey(KeyEvent& event);
     void load();
     void readTarget();
     void edited();
