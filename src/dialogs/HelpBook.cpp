@@ -65,7 +65,8 @@ String helpFolderFor(const String& book, const String& asked, bool isEnglish,
             return own;
         }
         const String english = book + String(EnglishFolder);
-        if (startsIgnoringCase(asked, book) && !startsIgnoringCase(asked, english)) {
+        const bool isBelow = asked.size() > book.size() && startsIgnoringCase(asked, book);
+        if (isBelow && !startsIgnoringCase(asked, english)) {
             if (String twin = english + asked.substr(book.size()); exists(twin)) {
                 return twin;
             }
