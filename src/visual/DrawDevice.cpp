@@ -52,7 +52,7 @@ DrawDevice::DrawDevice(DrawTarget& target, DrawErrors errors) : target_(&target)
 
 void DrawDevice::detach()
 {
-    if (target_) {
+    if (target_ && backend_) {
         backend_.reset();
         face_ = nullptr;
         faces_ = {};
