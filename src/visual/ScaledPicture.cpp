@@ -54,4 +54,10 @@ PicturePtr LoadPictureWithin(const String& path, PixelSize field, double density
     return shown.isWhole ? picture : withRatio(*picture, picture->Width() / shown.size.width);
 }
 
+std::optional<ComingPicture> BeginPictureWithin(const String& path, PixelSize field, double density)
+{
+    auto* decoder = dynamic_cast<ScaledDecoder*>(&visualHost());
+    return decoder ? decoder->beginWithin(nativePath(path), field, density) : std::nullopt;
+}
+
 } // namespace phial

@@ -3,6 +3,8 @@
 #include "visual/Picture.h"
 
 #include <filesystem>
+#include <future>
+#include <optional>
 
 namespace phial
 {
@@ -15,6 +17,12 @@ struct ShownScale {
     bool isWhole = true; ///< in its own size
 
     static ShownScale within(PixelSize pixels, PixelSize field, double density);
+};
+
+/// A picture that is being read in the background.
+struct ComingPicture {
+    PixelSize size;                  ///< that it will have, logical
+    std::future<PicturePtr> picture; ///< raises what reading it raises; who lets go of it need not wait
 };
 
 /// Reads pictures no finer than they are shown, so that large photos take little memory. A host of the
@@ -30,10 +38,17 @@ public:
     /// The picture as ShownScale tells; null where that is its own size. Raises 53 for a missing file and 481
     /// for one that is no picture.
     virtual PicturePtr decodeWithin(const std::filesystem::path& file, PixelSize field, double density) = 0;
+    /// The same, begun in the background; none where decodeWithin gives null or the file's beginning is no
+    /// picture's.
+    virtual std::optional<ComingPicture> beginWithin(const std::filesystem::path& file, PixelSize field,
+                                                     double density) = 0;
 };
 
 /// The picture of a file as it is shown in a field on a surface with so many pixels for a logical one; raises
 /// like LoadPicture, whose finer versions a picture has that is shown in its own size.
 PicturePtr LoadPictureWithin(const String& path, PixelSize field, double density);
+/// The same, begun in the background, for who has something else to do until the picture is needed. None
+/// where that cannot be, or would not be worth it.
+std::optional<ComingPicture> BeginPictureWithin(const String& path, PixelSize field, double density);
 
 } // namespace phial

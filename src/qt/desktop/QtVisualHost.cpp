@@ -14,6 +14,7 @@
 #include "qt/desktop/PictureBackend.h"
 #include "qt/desktop/PictureImage.h"
 #include "qt/desktop/PixelRatio.h"
+#include "qt/desktop/ScaledReading.h"
 #include "qt/desktop/Theme.h"
 #include "qt/desktop/ToolkitLanguage.h"
 #include "qt/desktop/WindowHandles.h"
@@ -27,6 +28,7 @@
 #include <QPageSize>
 #include <QPointer>
 #include <QScreen>
+#include <QThreadPool>
 
 namespace phial::qt
 {
@@ -139,38 +141,32 @@ PicturePtr QtVisualHost::decodePicture(const std::filesystem::path& file, double
     return pictureOf(image, pixelRatio);
 }
 
-// A photo is turned by what its file says after it has been made smaller.
 PicturePtr QtVisualHost::decodeWithin(const std::filesystem::path& file, PixelSize field, double density)
 {
     if (!std::filesystem::is_regular_file(file)) {
         throw RuntimeError(ErrorNumber::FileNotFound);
     }
-    QImageReader reader(toQt(file.u16string()));
-    reader.setAutoTransform(true);
-    QSize size = reader.size();
-    if (!size.isValid()) {
-        return nullptr;
+    const auto reading = ScaledReading::of(file, field, density);
+    return reading ? reading->read() : nullptr;
+}
+
+std::optional<ComingPicture> QtVisualHost::beginWithin(const std::filesystem::path& file, PixelSize field,
+                                                       double density)
+{
+    const auto reading = ScaledReading::of(file, field, density);
+    if (!reading) {
+        return std::nullopt;
     }
-    const bool isTurned = (reader.transformation() & QImageIOHandler::TransformationRotate90) != 0;
-    if (isTurned) {
-        size.transpose();
-    }
-    const ShownScale shown =
-        ShownScale::within({double(size.width()), double(size.height())}, field, density);
-    if (shown.isWhole) {
-        return nullptr;
-    }
-    QSize scaled(qMax(1, qRound(shown.size.width * shown.density)),
-                 qMax(1, qRound(shown.size.height * shown.density)));
-    if (isTurned) {
-        scaled.transpose();
-    }
-    reader.setScaledSize(scaled);
-    const QImage image = reader.read();
-    if (image.isNull()) {
-        throw RuntimeError(InvalidPicture, u"Invalid picture");
-    }
-    return pictureOf(image, shown.density);
+    const auto promise = std::make_shared<std::promise<PicturePtr>>();
+    ComingPicture coming{reading->size(), promise->get_future()};
+    QThreadPool::globalInstance()->start([promise, reading] {
+        try {
+            promise->set_value(reading->read());
+        } catch (...) {
+            promise->set_exception(std::current_exception());
+        }
+    });
+    return coming;
 }
 
 // The theme gets its colours when the session starts, so that windows are the first to need it.

@@ -29,6 +29,8 @@ public:
     double pixelRatio() const override;
     PicturePtr decodePicture(const std::filesystem::path& file, double pixelRatio) override;
     PicturePtr decodeWithin(const std::filesystem::path& file, PixelSize field, double density) override;
+    std::optional<ComingPicture> beginWithin(const std::filesystem::path& file, PixelSize field,
+                                             double density) override;
     std::unique_ptr<FormPeer> openWindow(Form& form, bool modal) override;
     void runModal(Form& form) override;
     std::vector<PixelRectangle> screens() const override;
