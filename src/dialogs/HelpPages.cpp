@@ -43,10 +43,11 @@ HelpPages::HelpPages(Form& form, StringView boxes, StringView view)
 {
     boxes_.adopt();
     connections_ += reading_.Tick.connect([this] {
+        awaitCurrent();
         readNeighbours();
         lay(0);
     });
-    connections_ += boxes_(Current)->Paint.connect([this] { paintEnlarged(); });
+    connections_ += boxes_(Current)->Paint.connect([this] { paintCurrent(); });
 }
 
 PixelSize HelpPages::viewSize() const
@@ -75,10 +76,51 @@ void HelpPages::read(Held& page) const
     }
 }
 
+/// As long as there is no window: making it takes about as long.
+void HelpPages::beginCurrent()
+{
+    const Held& page = held_[Current];
+    if (!page.picture && !page.file.empty() && !form_.Visible()) {
+        ignoringErrors([&] { coming_ = BeginPictureWithin(page.file, viewSize(), density()); });
+    }
+}
+
+void HelpPages::takeCurrent()
+{
+    std::future<PicturePtr> picture = std::move(coming_->picture);
+    coming_.reset();
+    ignoringErrors([&] { held_[Current].picture = picture.get(); });
+}
+
+/// From here on the picture is there, or its place is empty.
+void HelpPages::awaitCurrent()
+{
+    if (coming_) {
+        takeCurrent();
+        showBox(Current);
+    } else if (held_[Current].picture || !boxes_(Current)->Visible()) {
+        return;
+    }
+    if (!held_[Current].picture) {
+        showBox(Current);
+        FAILED.emit();
+    }
+}
+
+PixelSize HelpPages::sizeOf(std::int32_t index) const
+{
+    if (index == Current && coming_) {
+        return coming_->size;
+    }
+    const auto& picture = held_.at(static_cast<std::size_t>(index)).picture;
+    return picture ? picture->size() : PixelSize{};
+}
+
 void HelpPages::dropUnfitting()
 {
     if (heldFor_ != viewSize() || heldDensity_ != density()) {
         held_ = {};
+        coming_.reset();
         heldFor_ = viewSize();
         heldDensity_ = density();
     }
@@ -87,8 +129,15 @@ void HelpPages::dropUnfitting()
 void HelpPages::show(const String& before, const String& current, const String& next)
 {
     dropUnfitting();
+    const bool goesOn = isComing(current);
     held_ = {known(before), known(current), known(next)};
-    read(held_[Current]);
+    if (!goesOn) {
+        coming_.reset();
+        beginCurrent();
+    }
+    if (!coming_) {
+        read(held_[Current]);
+    }
     reading_.Enabled(true);
     fine_ = nullptr;
     for (std::int32_t index = Before; index <= Next; ++index) {
@@ -111,7 +160,7 @@ void HelpPages::showBox(std::int32_t index)
     const auto& picture = held_.at(static_cast<std::size_t>(index)).picture;
     boxes_(index)->PaintedPart(std::nullopt);
     boxes_(index)->Picture(picture);
-    boxes_(index)->Visible(picture != nullptr);
+    boxes_(index)->Visible(picture != nullptr || (index == Current && coming_));
 }
 
 void HelpPages::showMap(const String& file)
@@ -129,6 +178,7 @@ void HelpPages::showMap(const String& file)
 void HelpPages::forget()
 {
     held_ = {};
+    coming_.reset();
     reading_.Enabled(false);
     map_ = {};
     fine_ = nullptr;
@@ -136,10 +186,9 @@ void HelpPages::forget()
 
 void HelpPages::place(std::int32_t index, double offset)
 {
-    const auto& picture = held_.at(static_cast<std::size_t>(index)).picture;
-    if (picture) {
+    const PixelSize size = sizeOf(index);
+    if (!size.isEmpty()) {
         const PixelSize view = viewSize();
-        const PixelSize size = picture->size();
         boxes_(index)->frame().pixelRectangle({std::floor((view.width - size.width) / 2) + std::round(offset),
                                                std::floor((view.height - size.height) / 2), size.width,
                                                size.height});
@@ -161,9 +210,8 @@ void HelpPages::lay(double offset)
 
 void HelpPages::showWhole()
 {
-    const PicturePtr picture = this->picture();
     const bool wasEnlarged = zoom_.isEnlarged();
-    zoom_.reset(picture ? picture->size() : PixelSize{}, viewSize());
+    zoom_.reset(sizeOf(Current), viewSize());
     if (wasEnlarged) {
         layZoom();
     }
@@ -172,7 +220,8 @@ void HelpPages::showWhole()
 
 void HelpPages::enlarge(double by, PixelPoint at)
 {
-    if (picture()) {
+    awaitCurrent();
+    if (hasPicture()) {
         zoom_.enlarge(by, at);
     }
 }
@@ -191,12 +240,12 @@ void HelpPages::layZoom()
     if (!zoom_.isEnlarged()) {
         fine_ = nullptr;
         box.PaintedPart(std::nullopt);
-        box.Picture(picture());
+        box.Picture(held_[Current].picture);
         lay(0);
         return;
     }
     if (!fine_) {
-        fine_ = picture();
+        fine_ = held_[Current].picture;
         ignoringErrors(
             [&] { fine_ = LoadPictureWithin(held_[Current].file, viewSize(), density() * PageZoom::Most); });
     }
@@ -206,8 +255,17 @@ void HelpPages::layZoom()
     box.Refresh();
 }
 
-void HelpPages::paintEnlarged()
+/// The box has laid its ground already when a picture that was on its way comes. One that has failed leaves
+/// the place empty until the neighbours are read: a box cannot go while it is being painted.
+void HelpPages::paintCurrent()
 {
+    if (coming_) {
+        takeCurrent();
+        if (const PicturePtr picture = held_[Current].picture) {
+            boxes_(Current)->Picture(picture);
+            boxes_(Current)->device().PaintPicture(picture, 0, 0);
+        }
+    }
     if (zoom_.isEnlarged() && fine_) {
         PictureBox& box = *boxes_(Current);
         const PixelRectangle part = box.PaintedPart();
@@ -219,7 +277,7 @@ void HelpPages::paintEnlarged()
 String HelpPages::mapColourAt(PixelPoint point) const
 {
     const PixelRectangle page = zoom_.place();
-    if (!map_.picture || !picture() || !page.contains(point)) {
+    if (!map_.picture || !hasPicture() || !page.contains(point)) {
         return {};
     }
     const Picture& map = *map_.picture;

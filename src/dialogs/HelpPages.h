@@ -4,6 +4,7 @@
 #include "dialogs/PageZoom.h"
 #include "visual/ControlArray.h"
 #include "visual/PictureBox.h"
+#include "visual/ScaledPicture.h"
 #include "visual/Timer.h"
 
 #include <array>
@@ -16,7 +17,9 @@ namespace phial
 /// The pictures of a help book in their view: the page before (0), the one in view (1), the next (2), and a
 /// menu's map, which stays hidden (3). A page takes the whole view, its picture in the middle as large as the
 /// bitmap, or smaller where the view is. No more than these pictures are held; what fails to load leaves its
-/// place empty. The page in view is read at once, its neighbours when it has been seen, or is moved.
+/// place empty. The page in view is read at once, its neighbours when it has been seen, or is moved. While
+/// the window is being made the page is read in the background, as far as the outside can do that, and waited
+/// for when it is painted.
 class HelpPages
 {
 public:
@@ -35,8 +38,10 @@ public:
 
     /// The view's size in pixels.
     PixelSize viewSize() const;
-    /// The picture in view; null where there is none.
-    PicturePtr picture() const { return held_[Current].picture; }
+    /// Whether there is a picture in view. One on its way counts, as long as it has not failed.
+    bool hasPicture() const { return coming_ || held_[Current].picture; }
+    /// The picture on its way has failed.
+    Event<> FAILED;
     /// Puts the pages side by side, the one in view at that distance from its rest, unless it is enlarged.
     void lay(double offset);
     const PageZoom& zoom() const { return zoom_; }
@@ -68,18 +73,24 @@ private:
 
     Held known(const String& file) const;
     void read(Held& page) const;
+    void beginCurrent();
+    void takeCurrent();
+    void awaitCurrent();
+    bool isComing(const String& file) const { return coming_ && held_[Current].file == file; }
+    PixelSize sizeOf(std::int32_t index) const;
+    void paintCurrent();
     void readNeighbours();
     void showBox(std::int32_t index);
     void dropUnfitting();
     double density() const;
     void place(std::int32_t index, double offset);
-    void paintEnlarged();
 
     Form& form_;
     std::shared_ptr<PictureBox> view_;
     ControlArray<PictureBox> boxes_;
     std::array<Held, Pages> held_;
-    Timer reading_; ///< runs while neighbours are not read yet
+    std::optional<ComingPicture> coming_; ///< of the page in view, until it is needed
+    Timer reading_;                       ///< runs while neighbours are not read yet
     Held map_;
     PixelSize heldFor_; ///< the view for which the pictures were read, and how fine
     double heldDensity_ = 0;

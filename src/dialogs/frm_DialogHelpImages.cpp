@@ -91,6 +91,7 @@ void frm_DialogHelpImages::connect()
     form_.press(u"but_Delete", [this] { deletePage(); });
     form_.command(u"ctl_CmdBar1", help_design::Print, [this] { printPage(); });
     form_.on(animation_->Tick, [this] { tick(); });
+    form_.on(pages_.FAILED, [this] { showPlace(); });
     segments_.connectEach([this](Label& segment, std::int32_t index) {
         return segment.Click.connect([this, index] { goToPage(strip_.pageOf(index)); });
     });
@@ -257,7 +258,7 @@ void frm_DialogHelpImages::showPlace()
     menu_->Enabled(place.hasMenuToGoTo());
     delete_->Enabled(place.pages > 0);
     const auto bar = form_->control<ctl_CmdBar>(u"ctl_CmdBar1");
-    bar->BUTTONS()->Item(1)->Enabled(pages_.picture() != nullptr);
+    bar->BUTTONS()->Item(1)->Enabled(pages_.hasPicture());
     bar->REFRESH();
     form_->control<ctl_Title>(u"bar_Header")
         ->TextRight(place.pages <= 1 ? String()

@@ -7,6 +7,9 @@
 #include <QPointingDevice>
 #include <QTest>
 
+#include <algorithm>
+#include <cmath>
+
 using namespace phial;
 using namespace phial::qt;
 
@@ -40,6 +43,7 @@ protected:
         outside().clock().advance(1);
         return eventually([this, page] { return dialog_.Page() == page; });
     }
+    bool mayPrint() { return form_.control<ctl_CmdBar>(u"ctl_CmdBar1")->BUTTONS()->Item(1)->Enabled(); }
     auto touch() { return QTest::touchEvent(view().window(), device_.get()); }
     QPoint inWindow(int x, int y) { return view().mapTo(view().window(), QPoint(x, y)); }
 
@@ -60,6 +64,72 @@ TEST_F(HelpWindowTest, ALargePictureIsReadNoFinerThanItIsShown)
     const PicturePtr finest = LoadPictureWithin(file, {500, 500}, 16);
     EXPECT_EQ(finest->columns(), 2000U);
     EXPECT_EQ(finest->size(), (PixelSize{500, 250}));
+}
+
+TEST_F(HelpWindowTest, APictureIsAsLargeAsItIsShownHoweverItIsRead)
+{
+    for (const QSize size :
+         {QSize(901, 601), QSize(1000, 600), QSize(2000, 1200), QSize(2001, 1201), QSize(4000, 2400)}) {
+        for (const char* format : {"JPG", "PNG"}) {
+            const PicturePtr picture =
+                LoadPictureWithin(put("photo.jpg", size, format, QColor(200, 0, 0)), {500, 300}, 1);
+            const double width = std::min(500.0, std::round(300.0 * size.width() / size.height()));
+            EXPECT_EQ(picture->columns(), static_cast<std::size_t>(width)) << size.width() << format;
+            EXPECT_LE(picture->rows(), 300U);
+            EXPECT_GE(picture->rows(), 299U);
+            EXPECT_NEAR(qRed(picture->at(picture->columns() - 1, picture->rows() - 1)), 200, 3);
+        }
+    }
+}
+
+TEST_F(HelpWindowTest, APictureIsReadInTheBackgroundAsItIsReadAtOnce)
+{
+    const String file = put("photo.jpg", {1000, 600}, "JPG", QColor(10, 120, 230));
+    auto coming = BeginPictureWithin(file, {500, 500}, 1);
+    ASSERT_TRUE(coming);
+    const PicturePtr read = LoadPictureWithin(file, {500, 500}, 1);
+    EXPECT_EQ(coming->size, read->size());
+    const PicturePtr come = coming->picture.get();
+    EXPECT_EQ(come->size(), read->size());
+    EXPECT_TRUE(std::ranges::equal(come->pixels(), read->pixels()));
+}
+
+TEST_F(HelpWindowTest, NothingIsReadInTheBackgroundThatIsShownInItsOwnSizeOrIsNoPicture)
+{
+    folder().write("broken.gif", "GIF89a");
+    EXPECT_FALSE(BeginPictureWithin(put("small.bmp", {60, 40}), {500, 500}, 1));
+    EXPECT_FALSE(BeginPictureWithin(folder().path() + u"broken.gif", {500, 500}, 1));
+    EXPECT_FALSE(BeginPictureWithin(folder().path() + u"missing.gif", {500, 500}, 1));
+}
+
+TEST_F(HelpWindowTest, ALargePageIsThereWhenTheWindowIsPainted)
+{
+    put("1.jpg", {2000, 1000}, "JPG", QColor(200, 0, 0));
+    open();
+    const QImage seen = view().grab().toImage();
+    EXPECT_NEAR(seen.pixelColor(seen.width() / 2, seen.height() / 2).red(), 200, 3);
+    ASSERT_TRUE(page().Picture());
+    EXPECT_EQ(page().Picture()->size(), (PixelSize{page().Width(), page().Height()}));
+    EXPECT_TRUE(mayPrint());
+}
+
+TEST_F(HelpWindowTest, APageThatFailsBehindItsBeginningLeavesItsPlaceEmpty)
+{
+    put("1.jpg", {2000, 1000}, "PNG");
+    std::filesystem::resize_file(folder().native() / "1.jpg", 60);
+    open();
+    outside().clock().advance(1);
+    EXPECT_TRUE(eventually([this] { return !page().Visible(); }));
+    EXPECT_FALSE(mayPrint());
+}
+
+TEST_F(HelpWindowTest, ABookClosesWhileItsPageIsBeingRead)
+{
+    put("1.jpg", {4000, 3000}, "JPG");
+    dialog_.Folder(folder().path());
+    form_.Show();
+    form_.Unload();
+    EXPECT_FALSE(form_.Visible());
 }
 
 TEST_F(HelpWindowTest, ASmallPictureIsReadAsItIs)
