@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/String.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace phial
+{
+
+/// How high a sign of a formula stands, where the text says so.
+enum class FormulaLevel : std::uint8_t { Line, Low, High };
+
+/// A sign of a formula, whichever way it was written, and where it stood in the text.
+struct FormulaUnit {
+    char16_t sign = 0;
+    FormulaLevel level = FormulaLevel::Line;
+    std::uint32_t start = 0;
+    std::uint32_t length = 0;
+};
+
+// What stands for signs of several units.
+inline constexpr char16_t ForwardArrow = u'\u2192';
+inline constexpr char16_t BackwardArrow = u'\u2190';
+inline constexpr char16_t BothArrows = u'\u21CC';
+
+/// The signs of a text, which may be plain text, a term (see term/TermDraw.h), Unicode with raised and
+/// lowered characters, or markup with `sub` and `sup`:
+///
+///     H₂SO₄, H<sub>2</sub>SO<sub>4</sub>, H2SO4    the same signs; the levels of digits differ
+///     SO₄²⁻, SO4^2-, SO<sub>4</sub><sup>2-</sup>   "2-" raised
+///     · • ⋅ ∙ *                                    *
+///     − – ‐                                        -
+///     -> → ⟶ <- ← <-> ⇌ <=>                        one sign each
+///     no-break and thin blanks, line ends          a blank
+///     ½                                            1, / and 2
+///
+/// What only colours, strikes through or has no width is left out. Linear in the text's length.
+std::vector<FormulaUnit> formulaUnits(StringView text);
+
+} // namespace phial
