@@ -4,6 +4,7 @@
 #include "core/CoreMachine.h"
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
+#include "term/TermSpeech.h"
 #include "visual/Container.h"
 #include "visual/PropertyRows.h"
 
@@ -57,6 +58,11 @@ void ctl_TermLabel::TEXTALIGN(phial::TEXTALIGN value) { rows::set<Properties, u"
 void ctl_TermLabel::TEXTFONT(FontPtr value) { rows::set<Properties, u"TEXTFONT">(*this, std::move(value)); }
 void ctl_TermLabel::TEXTCOLOR(Colour value) { rows::set<Properties, u"TEXTCOLOR">(*this, value); }
 // clang-format on
+
+String ctl_TermLabel::accessibleText() const
+{
+    return spokenTerm(term_);
+}
 
 void ctl_TermLabel::readProperties(const PropertyBag& bag)
 {

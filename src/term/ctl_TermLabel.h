@@ -45,7 +45,7 @@ public:
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::StaticText; }
-    String accessibleText() const override { return term_; }
+    String accessibleText() const override;
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
     void shown() override { REDRAW(); }

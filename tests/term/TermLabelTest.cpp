@@ -218,7 +218,7 @@ TEST_F(TermLabelTest, IsReachedByTheNamesOfItsMembers)
     EXPECT_EQ(getMember(*label, u"TERM").toText(), u"O2");
     EXPECT_EQ(getMember(*label, u"ctrlid").toText(), label->CTRLID());
     callMember(*label, u"redraw");
-    EXPECT_EQ(label->accessibleText(), u"O2");
+    EXPECT_EQ(label->accessibleText(), u"Sauerstoff: O zwei");
 }
 
 TEST_F(TermLabelTest, AClickIsTold)

@@ -1,0 +1,31 @@
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+#include "support/AppSession.h"
+#include "term/TermSpeech.h"
+
+#include <gtest/gtest.h>
+
+namespace phial::test
+{
+namespace
+{
+
+using TermSpeech = AppSession;
+
+TEST_F(TermSpeech, ReadsFormulasAndEquationsInTheLanguageInForce)
+{
+    LNG()->CURRENT(ID_Language_German);
+    EXPECT_EQ(spokenTerm(u"SO4^2-"), u"Sulfat: S O vier, zweifach negativ geladen");
+    EXPECT_EQ(spokenTerm(u"2H2 + O2 -> 2H2O"), u"zwei H zwei plus O zwei reagiert zu zwei H zwei O");
+    LNG()->CURRENT(ID_Language_English);
+    EXPECT_EQ(spokenTerm(u"SO4^2-"), u"sulfate: S O four, charge two minus");
+}
+
+TEST_F(TermSpeech, LeavesOtherTermsAsTheyAre)
+{
+    EXPECT_EQ(spokenTerm(u"M(H2O) = 2*M(H) + M(O)"), u"M(H2O) = 2*M(H) + M(O)");
+    EXPECT_EQ(spokenTerm({}), u"");
+}
+
+} // namespace
+} // namespace phial::test
