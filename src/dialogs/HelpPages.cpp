@@ -126,6 +126,16 @@ void HelpPages::dropUnfitting()
     }
 }
 
+void HelpPages::expect(const String& current)
+{
+    dropUnfitting();
+    if (!isComing(current)) {
+        coming_.reset();
+        held_[Current] = known(current);
+        beginCurrent();
+    }
+}
+
 void HelpPages::show(const String& before, const String& current, const String& next)
 {
     dropUnfitting();

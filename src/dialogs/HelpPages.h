@@ -28,6 +28,9 @@ public:
 
     static constexpr std::int32_t ReadInterval = 30; ///< milliseconds until the neighbours are read
 
+    /// For who has more to do before it shows the pages: the file of the one in view. Reading it begins in
+    /// the background where that can be.
+    void expect(const String& current);
     /// The files of the three pages, empty for none. Pictures that are held already are not read again,
     /// unless the view has another size now or is shown finer.
     void show(const String& before, const String& current, const String& next);

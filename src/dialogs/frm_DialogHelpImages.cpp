@@ -202,6 +202,7 @@ void frm_DialogHelpImages::showBook()
 {
     delete_->Visible(more_.Get(u"DELETE") == Variant(true));
     pages_.forget();
+    pages_.expect(fileInView());
     makeStrip();
     showPage();
 }
@@ -233,6 +234,13 @@ void frm_DialogHelpImages::makeStrip()
     }
 }
 
+/// A menu without pages is its map.
+String frm_DialogHelpImages::fileInView() const
+{
+    const bool isMapAlone = book_.HasMenu() && book_.Files().Count() == 0;
+    return isMapAlone ? book_.mapFile() : book_.fileOf(book_.Page());
+}
+
 void frm_DialogHelpImages::showPage()
 {
     book_.Page(book_.Page());
@@ -241,10 +249,8 @@ void frm_DialogHelpImages::showPage()
     }
     stripView_->refresh();
     const std::int32_t page = book_.Page();
-    const bool isMapAlone = book_.HasMenu() && book_.Files().Count() == 0;
     pages_.showMap(book_.mapFile());
-    pages_.show(book_.fileOf(page - 1), isMapAlone ? book_.mapFile() : book_.fileOf(page),
-                book_.fileOf(page + 1));
+    pages_.show(book_.fileOf(page - 1), fileInView(), book_.fileOf(page + 1));
     showPlace();
     speakPage();
 }

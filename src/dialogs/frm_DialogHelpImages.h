@@ -64,6 +64,7 @@ private:
     void showBook();
     void makeStrip();
     void showPage();
+    String fileInView() const;
     void showPlace();
     void handOnKeyboard();
     void speakPage();
