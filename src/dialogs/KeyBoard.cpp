@@ -61,6 +61,13 @@ String inNotation(StringView text)
     return strokes;
 }
 
+/// A letter of German keyboards.
+bool isKeyLetter(char16_t character)
+{
+    const char16_t capital = upperCase(character);
+    return (capital >= u'A' && capital <= u'Z') || StringView(u"ÄÖÜ").find(capital) != StringView::npos;
+}
+
 template <typename Table>
 auto rowOf(const Table& table, StringView name)
 {
@@ -221,6 +228,9 @@ KeyDeed KeyBoard::deed(std::int32_t index) const
     if (const KeyStrokes* named = rowOf(NamedStrokes, name)) {
         return {Kind::Send, prefixed(String(named->strokes))};
     }
+    if (name.size() == 1 && layout_.capitalsFirst && isKeyLetter(name.front())) {
+        return {Kind::Send, prefixed(lowerCase(name), !isOn(Modifier::Shift))};
+    }
     if (name.size() == 1) {
         return {Kind::Send, prefixed(inNotation(name))};
     }
@@ -233,8 +243,14 @@ KeyDeed KeyBoard::deed(std::int32_t index) const
 /// Each modifier in front of what stands there.
 String KeyBoard::prefixed(String strokes) const
 {
+    return prefixed(std::move(strokes), isOn(Modifier::Shift));
+}
+
+/// With Shift as it is told, whatever its key says.
+String KeyBoard::prefixed(String strokes, bool isShifted) const
+{
     for (const ModifierName& row : Modifiers) {
-        if (isOn(row.modifier)) {
+        if (row.modifier == Modifier::Shift ? isShifted : isOn(row.modifier)) {
             strokes.insert(0, row.prefix);
         }
     }

@@ -43,6 +43,8 @@ struct KeyLayout {
     std::span<const KeyDesign> keys;
     std::span<const KeyLevels> levels;
     std::span<const NamedFaces> named;
+    /// A key with a letter types its capital, and the small letter with Shift, as its levels show.
+    bool capitalsFirst = false;
 };
 
 /// What a key shows now.
@@ -76,6 +78,9 @@ struct KeyDeed {
 
     Kind kind = Kind::Nothing;
     String strokes{}; ///< in the notation of KeyNotation.h
+
+    /// It deletes something.
+    bool takesAway() const { return kind == Kind::Clear || strokes.find(u"{bs}") != String::npos; }
 
     friend bool operator==(const KeyDeed&, const KeyDeed&) = default;
 };
@@ -140,6 +145,7 @@ private:
     bool showsSymbols() const;
     KeyDeed deed(std::int32_t index) const;
     String prefixed(String strokes) const;
+    String prefixed(String strokes, bool isShifted) const;
     void fallBack();
 
     KeyLayout layout_;

@@ -14,15 +14,21 @@ inline constexpr double Key = 720;
 
 /// Puts the keys of a row side by side.
 template <std::size_t Count>
-constexpr std::array<KeyDesign, Count> row(double top, std::array<KeyDesign, Count> keys)
+constexpr std::array<KeyDesign, Count> row(double top, double left, std::array<KeyDesign, Count> keys)
 {
-    double left = Left;
     for (KeyDesign& key : keys) {
         key.left = left;
         key.top = top;
         left += key.width;
     }
     return keys;
+}
+
+/// The same from the usual left edge on.
+template <std::size_t Count>
+constexpr std::array<KeyDesign, Count> row(double top, std::array<KeyDesign, Count> keys)
+{
+    return row(top, Left, keys);
 }
 
 template <std::size_t... Counts>

@@ -32,6 +32,8 @@ constexpr auto SpokenKeys = std::to_array<SpokenWords>({
     {u"^ENTER", u"Neue Zeile", u"New line"},
     {u"ESC", u"Abbrechen", u"Cancel"},
     {u"^ESC", u"Tastatur schließen", u"Close keyboard"},
+    {u"->", u"Reaktionspfeil", u"Reaction arrow"},
+    {u"{(}{)}/{(}{)}{LEFT 4}", u"Bruch", u"Fraction"},
     {u"SWAP", u"Vorzeichen wechseln", u"Change sign"},
     {u"UP", u"Nach oben", u"Up"},
     {u"+UP", u"Seite nach oben", u"Page up"},
@@ -119,6 +121,17 @@ const SpokenWords* wordsOfKey(const KeyBoard& board, const String& name)
     return changed ? changed : wordsOf(SpokenKeys, name);
 }
 
+/// What a key types that is named in the notation of keyboard emulation; of the star that shows a
+/// multiplication sign, that.
+String signOf(const KeyBoard& board, std::int32_t index, const String& name)
+{
+    constexpr std::size_t Quoted = 3; // such as "{+}"
+    if (name.size() == Quoted && name.front() == u'{' && name.back() == u'}') {
+        return name.substr(1, 1);
+    }
+    return name == u"*" && board.face(index).text == u"x" ? String(u"×") : name;
+}
+
 } // namespace
 
 String spokenCharacter(StringView character)
@@ -144,7 +157,7 @@ String spokenKey(const KeyBoard& board, std::int32_t index)
     const String name = board.name(index);
     const SpokenWords* words = wordsOfKey(board, name);
     if (!words) {
-        return spokenCharacter(name);
+        return spokenCharacter(signOf(board, index, name));
     }
     const String what = said(*words);
     return board.state(index) == KeyState::Locked

@@ -29,7 +29,6 @@ namespace
 
 constexpr std::int32_t DraggingInterval = 10; // milliseconds
 constexpr std::int32_t UnloadInterval = 100;
-constexpr double KeyPitch = 48; // pixels at scale 1
 constexpr double QuitBeyond = 100 / TwipsPerPixel;
 
 constexpr double Margin = 15;
@@ -132,8 +131,8 @@ void sizeFont(Object& control, double size)
 
 } // namespace
 
-KeyboardWindow::KeyboardWindow(DesignedForm& form, Leaving leaving)
-    : form_(form), dragging_(std::make_shared<Timer>(u"tmr_Dragging", DraggingInterval)),
+KeyboardWindow::KeyboardWindow(DesignedForm& form, Leaving leaving, double pitch)
+    : form_(form), pitch_(pitch), dragging_(std::make_shared<Timer>(u"tmr_Dragging", DraggingInterval)),
       unload_(std::make_shared<Timer>(u"tmr_Unload", UnloadInterval))
 {
     form_.add(WindowControls);
@@ -151,6 +150,13 @@ KeyboardWindow::KeyboardWindow(DesignedForm& form, Leaving leaving)
     connectGround();
     if (leaving == Leaving::Confirms) {
         form_.on(form_->Deactivate, [this] { confirm(); });
+    }
+}
+
+void KeyboardWindow::placeWords(const PixelRectangle& area)
+{
+    for (const StringView words : {u"lab_Title", u"lab_Description"}) {
+        form_->control<ctl_Label>(words)->frame().pixelRectangle(area);
     }
 }
 
@@ -215,7 +221,7 @@ void KeyboardWindow::noteDesign()
 double KeyboardWindow::scaleOn(const PixelRectangle& screen) const
 {
     const double millimetres = visualHost().millimetresPerPixel(middleOf(screen));
-    return place::scaleFor({designSize_, KeyPitch}, {screen, millimetres, openerZoom_});
+    return place::scaleFor({designSize_, pitch_}, {screen, millimetres, openerZoom_});
 }
 
 /// A window with holes has no zoom, so all that stands on it grows by itself.

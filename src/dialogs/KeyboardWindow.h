@@ -31,8 +31,14 @@ public:
         Confirms, ///< as if OK had been pressed
     };
 
-    /// The form outlives the window.
-    KeyboardWindow(DesignedForm& form, Leaving leaving);
+    static constexpr double KeyPitch = 48;
+
+    /// The form outlives the window. The pitch is from one to the next of the least parts that are tapped, in
+    /// pixels at scale 1: keys, where nothing is smaller.
+    KeyboardWindow(DesignedForm& form, Leaving leaving, double pitch = KeyPitch);
+
+    /// Where the words stand, in pixels at scale 1, on a form whose head is another one. Before it opens.
+    void placeWords(const PixelRectangle& area);
 
     // The contract of all dialogs for input.
     /// The control whose text is edited, held weakly; none at first.
@@ -104,6 +110,7 @@ private:
     void end(Ending ending);
 
     DesignedForm& form_;
+    double pitch_;
     std::shared_ptr<Timer> dragging_;
     std::shared_ptr<Timer> unload_;
     TargetText target_;

@@ -42,11 +42,6 @@ Insertion insertionInto(const String& before, const String& now)
     return {start, now.size() - start - rest};
 }
 
-bool takesAway(const KeyDeed& deed)
-{
-    return deed.kind == KeyDeed::Kind::Clear || deed.strokes.find(u"{bs}") != String::npos;
-}
-
 } // namespace
 
 frm_DialogKeyboard::frm_DialogKeyboard()
@@ -186,7 +181,7 @@ bool frm_DialogKeyboard::hasRoomFor(std::size_t length) const
 
 void frm_DialogKeyboard::perform(const KeyDeed& deed)
 {
-    if (window_.isEnding() && takesAway(deed)) {
+    if (window_.isEnding() && deed.takesAway()) {
         return; // what was accepted stays, though CLEAR lies just above ENTER
     }
     switch (deed.kind) {

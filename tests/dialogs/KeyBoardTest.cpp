@@ -1,6 +1,8 @@
 #include "dialogs/KeyBoard.h"
 
 #include "dialogs/KeySigns.h"
+#include "dialogs/PeriodicKeyLayout.h"
+#include "dialogs/TermKeyLayout.h"
 #include "dialogs/TextLayout.h"
 #include "support/CaseTable.h"
 #include "support/Raises.h"
@@ -77,8 +79,9 @@ String typed(const KeyDeed& deed)
     for (const KeyStroke& stroke : parseKeyNotation(deed.strokes)) {
         KeyStroke sent = stroke;
         sent.character = sentCharacter(stroke);
-        if (stroke.key == Key::None) {
-            text += typedCharacter(sent);
+        const char16_t character = stroke.key == Key::None ? typedCharacter(sent) : u'\0';
+        if (character != 0) {
+            text += character;
         }
     }
     return text;
@@ -99,6 +102,28 @@ TEST_P(KeyBoardCases, ShowSendAndFallBack)
     EXPECT_EQ(told(board.click(index)), columns[3]);
     EXPECT_EQ(statesOf(board), columns[4]);
 }
+
+class TermKeyCases : public ::testing::TestWithParam<test::CaseRow>
+{
+};
+
+TEST_P(TermKeyCases, ShowSendAndFallBack)
+{
+    const auto& columns = GetParam().columns;
+    ASSERT_TRUE(columns[0] == u"term" || columns[0] == u"periodic");
+    KeyBoard board(columns[0] == u"term" ? term_key_layout::Layout : periodic_key_layout::Layout);
+    takeStates(board, columns[1]);
+    const std::int32_t index = indexOf(board, columns[2]);
+    ASSERT_GE(index, 0);
+    EXPECT_EQ(told(board.face(index)), columns[3]);
+    const KeyDeed deed = board.click(index);
+    EXPECT_EQ(told(deed), columns[4]);
+    EXPECT_EQ(typed(deed), columns[5] == u"-" && columns[2] != u"-" ? u"" : columns[5]);
+    EXPECT_EQ(statesOf(board), columns[6]);
+}
+
+INSTANTIATE_TEST_SUITE_P(TermKeys, TermKeyCases, ::testing::ValuesIn(test::readCaseTable("termkeys.txt", 7)),
+                         test::caseName<::testing::TestParamInfo<test::CaseRow>>);
 
 INSTANTIATE_TEST_SUITE_P(Keys, KeyBoardCases, ::testing::ValuesIn(test::readCaseTable("keyboard.txt", 5)),
                          test::caseName<::testing::TestParamInfo<test::CaseRow>>);

@@ -1,15 +1,23 @@
 #pragma once
 
+#include "app/cls_App.h"
+#include "app/cls_AppURL.h"
 #include "app/frm_DialogUser.h"
 #include "app/screen/frm_AppAbout.h"
 #include "app/screen/frm_Fade.h"
 #include "app/screen/frm_Resource.h"
+#include "app/sys_Global.h"
+#include "core/NativePath.h"
 #include "dialogs/DialogHelpImagesDesign.h"
 #include "dialogs/DialogKeyboardDesign.h"
+#include "dialogs/DialogKeyboardPSEDesign.h"
+#include "dialogs/DialogKeyboardTermDesign.h"
 #include "dialogs/DialogMiniHTMLDesign.h"
 #include "dialogs/DialogNumericTouchDesign.h"
 #include "dialogs/frm_DialogHelpImages.h"
 #include "dialogs/frm_DialogKeyboard.h"
+#include "dialogs/frm_DialogKeyboardPSE.h"
+#include "dialogs/frm_DialogKeyboardTerm.h"
 #include "dialogs/frm_DialogMiniHTML.h"
 #include "dialogs/frm_DialogNumericTouch.h"
 #include "media/frm_AppMCI.h"
@@ -18,6 +26,7 @@
 #include "results/frm_DialogHighscore.h"
 #include "server/NetMonitorDesign.h"
 #include "server/frm_NetMonitor.h"
+#include "support/Places.h"
 
 #include <functional>
 #include <memory>
@@ -66,6 +75,13 @@ inline MadeForm makeHelp()
     return {made, &made->form()};
 }
 
+/// With the table of the installed elements.
+inline MadeForm makePeriodicKeyboard()
+{
+    QVAPP()->URL()->ROOT(systemPath(treeFolder()) + u"\\");
+    return makeLibraryForm<frm_DialogKeyboardPSE>();
+}
+
 /// The praise window with a word of praise.
 inline MadeForm makePraise()
 {
@@ -109,6 +125,18 @@ inline std::vector<LibraryForm> libraryForms()
         {.name = u"frm_DialogKeyboard",
          .make = makeLibraryForm<frm_DialogKeyboard>,
          .design = &dialog_keyboard_design::Design,
+         .pairs = {u"Bitte geben Sie den Wert ein:|Please enter the value:", u"Abbrechen|Cancel"},
+         .data = {u"\u2715"},
+         .aborts = true},
+        {.name = u"frm_DialogKeyboardPSE",
+         .make = makePeriodicKeyboard,
+         .design = &dialog_keyboard_pse_design::Design,
+         .pairs = {u"Bitte geben Sie den Wert ein:|Please enter the value:", u"Abbrechen|Cancel"},
+         .data = {u"\u2715"},
+         .aborts = true},
+        {.name = u"frm_DialogKeyboardTerm",
+         .make = makeLibraryForm<frm_DialogKeyboardTerm>,
+         .design = &dialog_keyboard_term_design::Design,
          .pairs = {u"Bitte geben Sie den Wert ein:|Please enter the value:", u"Abbrechen|Cancel"},
          .data = {u"\u2715"},
          .aborts = true},

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "visual/FormDesign.h"
+
+/// The design of frm_DialogKeyboardTerm, at scale 1: what is asked for at the top, the term below it between
+/// keys of its own, then the letters and digits.
+namespace phial::dialog_keyboard_term_design
+{
+
+/// The words; they stand above the field.
+inline constexpr PixelRectangle WordsArea{24, 8, 652, 32};
+
+extern const FormDesign Design;
+
+} // namespace phial::dialog_keyboard_term_design

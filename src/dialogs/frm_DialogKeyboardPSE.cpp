@@ -1,0 +1,103 @@
+#include "dialogs/frm_DialogKeyboardPSE.h"
+
+#include "app/cls_App.h"
+#include "app/cls_AppURL.h"
+#include "app/cls_Language.h"
+#include "app/sys_Global.h"
+#include "chem/cls_DataElement.h"
+#include "core/CoreDialogs.h"
+#include "core/CoreFiles.h"
+#include "core/CoreRoot.h"
+#include "core/RuntimeError.h"
+#include "dialogs/DialogKeyboardPSEDesign.h"
+#include "dialogs/ElementCount.h"
+#include "dialogs/PeriodicKeyLayout.h"
+#include "mascot/ctl_Bubble.h"
+#include "periodic/ctl_PSE.h"
+#include "term/clt_TermInput.h"
+
+namespace phial
+{
+
+frm_DialogKeyboardPSE::frm_DialogKeyboardPSE()
+    : form_(dialog_keyboard_pse_design::Design),
+      window_(form_, KeyboardWindow::Leaving::Confirms, dialog_keyboard_pse_design::CellPitch),
+      pad_(form_, window_, periodic_key_layout::Layout), table_(form_->control<ctl_PSE>(u"ctl_PSE"))
+{
+    constexpr ControlDesign::Rectangle Table = dialog_keyboard_pse_design::TableArea;
+    table_->frame().pixelRectangle({Table.left, Table.top, Table.width, Table.height});
+    window_.placeWords(dialog_keyboard_pse_design::WordsArea);
+    table_->BUBBLE(form_->control<ctl_Bubble>(u"ctl_Bubble1"));
+    form_.on(form_->Load, [this] { load(); });
+    form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
+    form_.on(window_.SCALED, [this] { sizeBubble(); });
+    sizeBubble();
+    // Whoever taps an element twice wants two of it.
+    form_.on(table_->CLICK, [this](const auto& element) { take(*element); });
+    form_.on(table_->CLICKAGAIN, [this](const auto& element) { take(*element); });
+    TRANSLATE();
+}
+
+void frm_DialogKeyboardPSE::Show()
+{
+    form_->Show(FormShow::Modal);
+}
+
+void frm_DialogKeyboardPSE::TRANSLATE()
+{
+    pad_.translate();
+}
+
+void frm_DialogKeyboardPSE::load()
+{
+    loadTable();
+    pad_.open();
+}
+
+/// Its font is no plain member "Font", which the window would scale.
+void frm_DialogKeyboardPSE::sizeBubble()
+{
+    constexpr double BubblePoints = 9;
+    const auto bubble = form_->control<ctl_Bubble>(u"ctl_Bubble1");
+    const FontPtr font = bubble->TEXTFONT()->clone();
+    font->Size(BubblePoints * window_.scale());
+    bubble->TEXTFONT(font);
+}
+
+/// Without the file the keyboard has no table, and its keys serve all the same.
+void frm_DialogKeyboardPSE::loadTable()
+{
+    const String file = QVAPP()->URL()->ROOT() + u"resources\\data\\elements2.dat";
+    const bool isThere = coreRoot().CoreFiles().Exists(file);
+    table_->Visible(isThere);
+    if (isThere) {
+        table_->LOAD(file, ctl_PSE::ElementFile);
+        return;
+    }
+    coreRoot().CoreDialogs().Error(
+        LNG()->TRANSLATE(u"Die Elemente-Datei des PSE wurde nicht gefunden: ",
+                         u"The element file of the periodic table was not found: ") +
+        file);
+}
+
+/// One more of the element at the end of the term, or else its symbol at the caret.
+void frm_DialogKeyboardPSE::take(const cls_DataElement& element)
+{
+    clt_TermInput& field = pad_.field();
+    if (window_.isEnding() || field.LOCKED()) {
+        return;
+    }
+    const String term = field.Term();
+    const auto counted = countedUp(term, element.SYMBOL());
+    if (!counted) {
+        ignoringErrors([&] { pad_.send(element.SYMBOL()); });
+        return;
+    }
+    const bool wasAtEnd = field.CARET() == static_cast<std::int32_t>(term.size());
+    field.Term(*counted);
+    if (wasAtEnd) {
+        field.CARET(static_cast<std::int32_t>(counted->size()));
+    }
+}
+
+} // namespace phial

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "dialogs/KeyboardRun.h"
+#include "headless/Hand.h"
+#include "term/clt_TermInput.h"
+
+#include <gtest/gtest.h>
+
+namespace phial::test
+{
+
+/// Indices of the keys that tests of the keyboards for terms press.
+namespace term_test_keys
+{
+inline constexpr std::int32_t Open = 0;
+inline constexpr std::int32_t Two = 2;
+inline constexpr std::int32_t Three = 3;
+inline constexpr std::int32_t Ok = 11;
+inline constexpr std::int32_t Backspace = 12;
+inline constexpr std::int32_t Star = 13;
+inline constexpr std::int32_t Close = 24;
+inline constexpr std::int32_t Raise = 25;
+inline constexpr std::int32_t LetterA = 26;
+inline constexpr std::int32_t LetterN = 43;
+inline constexpr std::int32_t Shift = 37;
+inline constexpr std::int32_t Plus = 49;
+inline constexpr std::int32_t Right = 56;
+inline constexpr std::int32_t Clear = 59;
+} // namespace term_test_keys
+
+/// A keyboard for terms over a form.
+template <typename Dialog>
+class TermKeyboardRun : public KeyboardRun<Dialog>
+{
+protected:
+    using KeyboardRun<Dialog>::keyboard;
+
+    std::shared_ptr<clt_TermInput> field() { return this->template get<clt_TermInput>(u"txt_Input"); }
+    std::shared_ptr<clt_TermInput> termTarget(StringView term)
+    {
+        const auto made = this->template target<clt_TermInput>();
+        made->Term(String(term));
+        return made;
+    }
+    void openWith(StringView term) { this->open(termTarget(term)); }
+    void type(StringView notation) { headless::type(keyboard.form(), notation); }
+    void expectConfirmed()
+    {
+        EXPECT_TRUE(this->isOpen()) << "never from within a handler";
+        this->outside.advance(0.11);
+        EXPECT_FALSE(this->isOpen());
+        EXPECT_TRUE(keyboard.Accepted());
+    }
+};
+
+} // namespace phial::test
