@@ -16,8 +16,11 @@
 #include "core/RuntimeError.h"
 #include "dialogs/frm_DialogHelpImages.h"
 #include "dialogs/frm_DialogKeyboard.h"
+#include "dialogs/frm_DialogKeyboardPSE.h"
+#include "dialogs/frm_DialogKeyboardTerm.h"
 #include "dialogs/frm_DialogMiniHTML.h"
 #include "dialogs/frm_DialogNumericTouch.h"
+#include "term/clt_TermInput.h"
 
 namespace phial
 {
@@ -74,6 +77,34 @@ private:
     String before_;
 };
 
+/// The hidden term field that stands in for a control of the program, likewise.
+class ScratchTerm
+{
+public:
+    explicit ScratchTerm(const String& term) : before_(field_->Term()) { field_->Term(term); }
+    ~ScratchTerm() { field_->Term(before_); }
+    ScratchTerm(const ScratchTerm&) = delete;
+    ScratchTerm& operator=(const ScratchTerm&) = delete;
+
+    const std::shared_ptr<clt_TermInput>& field() const { return field_; }
+
+private:
+    std::shared_ptr<clt_TermInput> field_ =
+        Session::current().sharedForm<frm_Resource>()->part<clt_TermInput>(u"ctl_Term");
+    String before_;
+};
+
+/// A term without a control, asked for by one of the two calls for terms.
+template <typename Ask>
+String askDirectly(Ask ask, const String& preset, const String& onAbort)
+{
+    const ScratchTerm scratch(preset);
+    if (ask(scratch.field())) {
+        return scratch.field()->Term();
+    }
+    return onAbort == u"PRESET" ? preset : onAbort;
+}
+
 } // namespace
 
 bool cls_AppDialog::NUMBERINPUT(const ObjectPtr& pTextbox, const String& pTitle) const
@@ -100,6 +131,28 @@ String cls_AppDialog::TEXTINPUTDIRECT(const String& pOldValue, const String& pTi
     const ScratchText scratch(pOldValue);
     askFor<frm_DialogKeyboard>(scratch.box(), pTitle);
     return scratch.box()->Text();
+}
+
+bool cls_AppDialog::TERMINPUT(const ObjectPtr& pTextbox, const String& pTitle) const
+{
+    return askFor<frm_DialogKeyboardTerm>(pTextbox, pTitle);
+}
+
+String cls_AppDialog::TERMINPUTDIRECT(const String& pPreset, const String& pTitle,
+                                      const String& pReturnOnAbort) const
+{
+    return askDirectly([&](const auto& field) { return TERMINPUT(field, pTitle); }, pPreset, pReturnOnAbort);
+}
+
+bool cls_AppDialog::PSEINPUT(const ObjectPtr& pTextbox, const String& pTitle) const
+{
+    return askFor<frm_DialogKeyboardPSE>(pTextbox, pTitle);
+}
+
+String cls_AppDialog::PSEINPUTDIRECT(const String& pPreset, const String& pTitle,
+                                     const String& pReturnOnAbort) const
+{
+    return askDirectly([&](const auto& field) { return PSEINPUT(field, pTitle); }, pPreset, pReturnOnAbort);
 }
 
 Variant cls_AppDialog::HELPIMAGES(const String& pTitle, const String& pFolder,

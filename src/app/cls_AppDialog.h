@@ -36,6 +36,21 @@ public:
     /// has given up. It may have several lines, parted by CR LF.
     String TEXTINPUTDIRECT(const String& pOldValue, const String& pTitle) const;
 
+    /// Lets the user edit the term of a control of the program's own (see dialogs/TermTarget.h) on the
+    /// keyboard for terms, in each mode, since hardly any keyboard on the desk has its signs; true when the
+    /// user has confirmed, and the term then stands in the control.
+    bool TERMINPUT(const ObjectPtr& pTextbox, const String& pTitle) const;
+
+    /// The same for a term without a control: the new term, or the old one when the user has given up.
+    /// Another text than "PRESET" as last argument is what the caller then gets instead.
+    String TERMINPUTDIRECT(const String& pPreset, const String& pTitle,
+                           const String& pReturnOnAbort = u"PRESET") const;
+
+    /// The same two with the periodic table as keyboard.
+    bool PSEINPUT(const ObjectPtr& pTextbox, const String& pTitle) const;
+    String PSEINPUTDIRECT(const String& pPreset, const String& pTitle,
+                          const String& pReturnOnAbort = u"PRESET") const;
+
     /// Shows a folder of pictures as a book (see dialogs/frm_DialogHelpImages.h); an empty one is the
     /// program's own help. With the parameter "DELETE" as True the user may delete pages; "CHAPTER" names a
     /// sub-folder to begin with. Always empty.

@@ -4,8 +4,11 @@
 #include "app/screen/frm_Resource.h"
 #include "core/CoreParameters.h"
 #include "core/Locale.h"
+#include "core/NativePath.h"
 #include "core/RuntimeError.h"
 #include "headless/Hand.h"
+#include "support/Places.h"
+#include "term/clt_TermInput.h"
 #include "visual/Form.h"
 #include "visual/Label.h"
 #include "visual/PictureBox.h"
@@ -331,6 +334,115 @@ TEST_F(AppDialog, ANumberInputWithinAnotherInputLeavesItsTextAlone)
         abort(outer);
     });
     EXPECT_EQ(dialog().TEXTINPUTDIRECT(u"eins", u""), u"eins");
+}
+
+// Terms.
+
+/// Each of the two keyboards for terms.
+struct TermCalls {
+    StringView form;
+    bool (cls_AppDialog::*input)(const ObjectPtr&, const String&) const;
+    String (cls_AppDialog::*direct)(const String&, const String&, const String&) const;
+};
+
+class AppDialogTerms : public AppDialog, public ::testing::WithParamInterface<TermCalls>
+{
+protected:
+    AppDialogTerms() { QVAPP()->URL()->ROOT(systemPath(test::treeFolder()) + u"\\"); }
+
+    void playTerm(const std::function<void(Form&)>& user)
+    {
+        outside.visual().onModal(String(GetParam().form), user);
+    }
+    static std::shared_ptr<clt_TermInput> field(Form& keyboard)
+    {
+        return keyboard.control<clt_TermInput>(u"txt_Input");
+    }
+    bool input(const ObjectPtr& target) { return (dialog().*GetParam().input)(target, u"Titel"); }
+    String direct(const String& preset, const String& onAbort)
+    {
+        return (dialog().*GetParam().direct)(preset, u"Titel", onAbort);
+    }
+};
+
+TEST_P(AppDialogTerms, OpenInAnyModeAndWriteTheTerm)
+{
+    for (const bool mode : {false, true}) {
+        touchMode(mode);
+        const auto term = makeControl<clt_TermInput>();
+        term->Term(u"H2");
+        playTerm([](Form& keyboard) {
+            EXPECT_EQ(field(keyboard)->Term(), u"H2");
+            EXPECT_EQ(keyboard.control<ctl_Label>(u"lab_Title")->Caption(), u"Titel");
+            field(keyboard)->Term(u"H2O");
+            confirm(keyboard);
+        });
+        EXPECT_TRUE(input(term));
+        EXPECT_EQ(term->Term(), u"H2O");
+    }
+}
+
+TEST_P(AppDialogTerms, GivenUpTheyChangeNothing)
+{
+    box->Text(u"H2");
+    playTerm([](Form& keyboard) {
+        field(keyboard)->Term(u"H2O");
+        abort(keyboard);
+    });
+    EXPECT_FALSE(input(box));
+    EXPECT_EQ(box->Text(), u"H2");
+}
+
+TEST_P(AppDialogTerms, DirectlyTheyGiveTheNewTerm)
+{
+    playTerm([](Form& keyboard) {
+        EXPECT_EQ(field(keyboard)->Term(), u"H2");
+        field(keyboard)->Term(u"H2O");
+        confirm(keyboard);
+    });
+    EXPECT_EQ(direct(u"H2", u"PRESET"), u"H2O");
+}
+
+TEST_P(AppDialogTerms, DirectlyGivenUpTheyGiveThePresetOrWhatTheCallerWants)
+{
+    const auto givenUp = [&](const String& onAbort) {
+        playTerm([](Form& keyboard) {
+            field(keyboard)->Term(u"H2O");
+            abort(keyboard);
+        });
+        return direct(u"H2", onAbort);
+    };
+    EXPECT_EQ(givenUp(u"PRESET"), u"H2");
+    EXPECT_EQ(givenUp(u""), u"");
+    EXPECT_EQ(givenUp(u"preset"), u"preset") << "exactly that word";
+}
+
+TEST_P(AppDialogTerms, ACallWithinAnotherOneLeavesItsTermAlone)
+{
+    playTerm([this](Form& outer) {
+        playTerm([](Form& inner) {
+            field(inner)->Term(u"O2");
+            confirm(inner);
+        });
+        EXPECT_EQ(direct(u"O", u"PRESET"), u"O2");
+        EXPECT_EQ(field(outer)->Term(), u"H");
+        abort(outer);
+    });
+    EXPECT_EQ(direct(u"H", u"PRESET"), u"H");
+}
+
+INSTANTIATE_TEST_SUITE_P(Keyboards, AppDialogTerms,
+                         ::testing::Values(TermCalls{u"frm_DialogKeyboardTerm", &cls_AppDialog::TERMINPUT,
+                                                     &cls_AppDialog::TERMINPUTDIRECT},
+                                           TermCalls{u"frm_DialogKeyboardPSE", &cls_AppDialog::PSEINPUT,
+                                                     &cls_AppDialog::PSEINPUTDIRECT}),
+                         [](const auto& row) { return toUtf8(row.param.form); });
+
+TEST_F(AppDialog, TheScratchTermStandsOnTheResourceForm)
+{
+    outside.visual().onModal(u"frm_DialogKeyboardTerm", abort);
+    EXPECT_EQ(dialog().TERMINPUTDIRECT(u"H2", u""), u"H2");
+    EXPECT_TRUE(session->sharedForm<frm_Resource>()->form().control<clt_TermInput>(u"ctl_Term"));
 }
 
 TEST_F(AppDialog, AFormThatFailsToLoadTellsItsCaller)
