@@ -1,5 +1,8 @@
+#include "dialogs/FreeTermKeys.h"
 #include "dialogs/ctl_Keys.h"
 #include "dialogs/frm_DialogKeyboard.h"
+#include "dialogs/frm_DialogKeyboardPSE.h"
+#include "dialogs/frm_DialogKeyboardTerm.h"
 #include "dialogs/frm_DialogNumericTouch.h"
 #include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
@@ -36,6 +39,12 @@ constexpr std::int32_t PadOne = 1;
 constexpr std::int32_t PadSeven = 7;
 constexpr std::int32_t PadOk = 11;
 constexpr std::int32_t PadSign = 45;
+
+// Keys of the keyboards for terms.
+constexpr std::int32_t TermOpen = 0;
+constexpr std::int32_t TermTwo = 2;
+constexpr std::int32_t TermClose = 24;
+constexpr std::int32_t TermClear = 59;
 
 constexpr std::int32_t ScanStep = 1500; // milliseconds
 
@@ -124,6 +133,44 @@ ObjectPtr buildPad(Stage& stage)
     const auto pad = std::make_shared<frm_DialogNumericTouch>();
     pad->TargetControl(box);
     return asExhibit(stage, pad);
+}
+
+/// A keyboard for terms, and a field that it edits.
+template <typename TermForm>
+ObjectPtr buildTerms(Stage& stage, StringView note, const String& term)
+{
+    putWindowNote(stage, note);
+    const auto field =
+        stage.put<clt_TermInput>({(stage.size().width - FieldWidth) / 2, FieldTop, FieldWidth, 44});
+    field->TEXTFONT(galleryFont(13));
+    field->Term(term);
+    FreeTermKeys::current()->showArrowAndFraction();
+    asksByPress<TermForm>(stage, field, field->CLICK);
+    const auto keyboard = std::make_shared<TermForm>();
+    keyboard->TargetControl(field);
+    return asExhibit(stage, keyboard);
+}
+
+ObjectPtr buildTermKeyboard(Stage& stage)
+{
+    return buildTerms<frm_DialogKeyboardTerm>(
+        stage,
+        u"Der Knopf unten öffnet die Tastatur für Formeln, ein Druck auf das Feld auch. Ein Tipp auf einen "
+        u"Buchstaben gibt den großen.|"
+        u"The button below opens the formula keyboard, and so does a press on the field. A tap on a letter "
+        u"gives its capital.",
+        u"2H2 + O2 -> 2H2O");
+}
+
+ObjectPtr buildPeriodicKeyboard(Stage& stage)
+{
+    return buildTerms<frm_DialogKeyboardPSE>(
+        stage,
+        u"Der Knopf unten öffnet die Tastatur, ein Druck auf das Feld auch. Wer ein Element noch einmal "
+        u"antippt, zählt es hoch.|"
+        u"The button below opens the keyboard, and so does a press on the field. A second tap on an element "
+        u"counts it up.",
+        u"CuSO4*5H2O");
 }
 
 ObjectPtr buildKeyboard(Stage& stage)
@@ -219,6 +266,52 @@ std::vector<Sample> padSamples()
     };
 }
 
+Sample withTerm(StringView name, void (*change)(clt_TermInput& field))
+{
+    return opened(name,
+                  [change](Form& form, ctl_Keys&) { change(*form.control<clt_TermInput>(u"txt_Input")); });
+}
+
+/// What both keyboards for terms show alike; each begins with samples of its own.
+std::vector<Sample> termSamples(std::vector<Sample> own)
+{
+    const std::vector<Sample> alike{
+        struck(u"Getippt|Typed", {TermClear, TermOpen, TermTwo, TermClose, TermTwo}),
+        withTerm(u"Bruch|Fraction", [](clt_TermInput& field) { field.Term(u"m = (n*M)/(V + V2)"); }),
+        withTerm(u"Lange Formel|Long formula",
+                 [](clt_TermInput& field) {
+                     field.Term(u"2KMnO4 + 16HCl -> 2KCl + 2MnCl2 + 5Cl2 + 8H2O + 2KMnO4 + 16HCl + SO4^2-");
+                     field.CARET(0);
+                 }),
+        withTerm(u"Gesperrt|Read only", [](clt_TermInput& field) { field.LOCKED(true); }),
+        opened(u"Gedrückt|Pressed",
+               [](Form&, ctl_Keys& keys) {
+                   const PixelRectangle area = keys.areaOf(PadOk);
+                   keys.pointerDown({PointerButton::Left, 0, area.left + 2, area.bottom() - 2});
+               }),
+        opened(u"Abtasten|Scan", [](Form&, ctl_Keys& keys) { keys.scanInterval(ScanStep); }),
+    };
+    own.insert(own.end(), alike.begin(), alike.end());
+    return own;
+}
+
+std::vector<Sample> termKeySamples()
+{
+    return termSamples({
+        sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+        sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); }),
+        struck(u"Umgeschaltet|Shifted", {ShiftKey}),
+    });
+}
+
+std::vector<Sample> periodicKeySamples()
+{
+    return termSamples({
+        sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+        sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); }),
+    });
+}
+
 std::vector<Sample> fieldSamples()
 {
     return {
@@ -278,6 +371,12 @@ std::vector<Exhibit> keyboardExhibits()
             inEveryLook(u"frm_DialogNumericTouch",
                         u"Der Zahlenblock im Tipp-Modus.|The number pad in touch mode.", buildPad,
                         padSamples()),
+            inEveryLook(u"frm_DialogKeyboardTerm", u"Die Tastatur für Formeln.|The keyboard for formulas.",
+                        buildTermKeyboard, termKeySamples()),
+            inEveryLook(u"frm_DialogKeyboardPSE",
+                        u"Das Periodensystem als Tastatur für Formeln.|"
+                        u"The periodic table as a keyboard for formulas.",
+                        buildPeriodicKeyboard, periodicKeySamples()),
             inEveryLook(u"ctl_Keys",
                         u"Die Tasten für einen einzelnen Schalter, und das Feld darüber.|"
                         u"The keys for a single switch, and the field above them.",
