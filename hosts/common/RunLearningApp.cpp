@@ -6,6 +6,7 @@
 #include "app/cls_AppTools.h"
 #include "app/sys_Global.h"
 #include "common/frm_LearningApp.h"
+#include "dialogs/FreeTermKeys.h"
 #include "qt/base/MasterSearch.h"
 #include "qt/desktop/DesktopApplication.h"
 #include "qt/desktop/ShotBook.h"
@@ -33,6 +34,7 @@ int runLearningApp(int argc, char** argv, const AppIdentity& identity, const Mak
     app->CONFIG()->IDENT(phial::String(identity.identifier));
     app->CONFIG()->NAME(phial::String(identity.name));
     app->CONFIG()->VERSION(phial::String(identity.version));
+    phial::FreeTermKeys::current()->showArrowAndFraction();
     // Without an installation the start ends early; the window then says what is missing.
     phial::ignoringErrors([&] { app->INIT(application.commandLine()); });
 
