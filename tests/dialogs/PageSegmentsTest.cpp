@@ -55,6 +55,7 @@ TEST_F(PageSegmentsTest, ShowsTheLabelsInTheirColours)
     form->Show();
     EXPECT_THAT(painted(), HasSubstr("box 20,2 4x10 fill #FF0000"));
     EXPECT_THAT(painted(), HasSubstr("box 25,2 4x10 fill #0000FF"));
+    EXPECT_TRUE(strip->surface().transparent()) << "the window's ground is seen beside them";
 }
 
 TEST_F(PageSegmentsTest, LeavesOutWhatIsHidden)
