@@ -6,7 +6,10 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
+#include <optional>
 #include <random>
+#include <vector>
 
 namespace phial::test
 {
@@ -182,42 +185,72 @@ TEST_F(DialogKeyboardTest, CtrlAndAltTypeSymbols)
     EXPECT_EQ(input()->Text(), u"€e") << "once and locked have no bit in common";
 }
 
-TEST_F(DialogKeyboardTest, TenFingersAndADeskLoseNoKey)
+TEST_F(DialogKeyboardTest, TenFingersAndADeskTypeEachKeyOnceAndInItsOrder)
 {
-    std::mt19937 random(60);
-    const auto box = target<TextBox>();
-    open(box);
-    keyPad()->offersVariants(false);
-    String expected;
-    std::array<bool, 10> isDown{};
+    constexpr std::int32_t Fingers = 10;
     constexpr int Moves = 3000; // 60 seconds, a move every 20 milliseconds
+    struct Finger {
+        std::int32_t key = 0;
+        bool isDown = false;
+    };
+    std::mt19937 random(60);
+    open(target<TextBox>());
+    keyPad()->offersVariants(false);
+    std::vector<std::int32_t> characters;
+    for (const KeyDesign& key : text_layout::Keys) {
+        if (face(key.index).size() == 1 && keyPad()->board().name(key.index).size() == 1) {
+            characters.push_back(key.index);
+        }
+    }
+    ASSERT_GT(characters.size(), 40U);
+    std::array<Finger, Fingers> fingers{};
+    std::map<String, std::ptrdiff_t> presses;
+    String expected;
+    std::optional<std::size_t> waiting; // whose key the next press strikes
+    const auto strikeWaiting = [&] {
+        if (waiting) {
+            expected += face(fingers[*waiting].key);
+            waiting.reset();
+        }
+    };
+    const auto letGo = [&](std::size_t number) {
+        touch.release(static_cast<std::int32_t>(number));
+        fingers[number].isDown = false;
+        if (waiting == number) {
+            strikeWaiting();
+        }
+    };
     for (int move = 0; move < Moves; ++move) {
-        const auto finger = random() % 11;
-        if (finger == 10) {
+        const std::size_t number = random() % (Fingers + 1);
+        const std::int32_t key = characters[random() % characters.size()];
+        if (number == Fingers) { // the desk's keys pass a key that is still down
             headless::type(keyboard.form(), u"0");
             expected += u'0';
-        } else if (isDown[finger]) {
-            touch.release(static_cast<std::int32_t>(finger));
-            isDown[finger] = false;
+            ++presses[u"0"];
+        } else if (fingers[number].isDown) {
+            letGo(number);
         } else {
-            const std::int32_t key = 26 + static_cast<std::int32_t>(random() % 9); // a to l
-            touch.press(static_cast<std::int32_t>(finger), *keyPad(), middle(key));
-            expected += face(key);
-            isDown[finger] = true;
+            strikeWaiting();
+            touch.press(static_cast<std::int32_t>(number), *keyPad(), middle(key));
+            fingers[number] = {key, true};
+            waiting = number;
+            ++presses[face(key)];
         }
         outside.advance(0.02);
         outside.runPending();
     }
-    for (std::int32_t finger = 0; finger < 10; ++finger) {
-        if (isDown[static_cast<std::size_t>(finger)]) {
-            touch.release(finger);
+    for (std::size_t number = 0; number < fingers.size(); ++number) {
+        if (fingers[number].isDown) {
+            letGo(number);
         }
     }
     outside.runPending();
-    String got = input()->Text();
-    std::ranges::sort(got); // the desk's keys may pass a key that is still down
-    std::ranges::sort(expected);
-    EXPECT_EQ(toUtf8(got), toUtf8(expected));
+    const String typed = input()->Text();
+    EXPECT_EQ(toUtf8(typed), toUtf8(expected));
+    EXPECT_EQ(presses.size(), characters.size());
+    for (const auto& [character, count] : presses) {
+        EXPECT_EQ(std::ranges::count(typed, character.front()), count) << toUtf8(character);
+    }
 }
 
 TEST_F(DialogKeyboardTest, ThousandsOfTapsTypeWhatTheKeysShow)
