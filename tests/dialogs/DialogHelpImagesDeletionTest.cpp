@@ -1,4 +1,5 @@
 #include "DialogHelpImagesTest.h"
+#include "support/LimitedDisk.h"
 
 namespace phial
 {
@@ -66,18 +67,28 @@ TEST_F(DialogHelpImages, DeletesThePageThatARunningSlideGoesTo)
     EXPECT_EQ(dialog.Files(), (CoreStringList{at(u"01.gif"), at(u"03.gif")}));
 }
 
-TEST_F(DialogHelpImages, TellsOfAFileThatCannotBeDeleted)
+TEST_F(DialogHelpImages, TellsOfAFolderThatIsReadOnlyAndLosesNothing)
 {
     putPages(2);
     allowDeletion();
-    outside.files().protect(folder.native() / "Hilfe");
+    folder.write("Hilfe/01.txt", "Wasser");
+    const std::vector<std::string> before = folder.names("Hilfe");
+    const auto disk = test::LimitedDisk::readOnly(folder.native() / "Hilfe");
+    if (!disk.isInForce()) {
+        outside.files().protect(folder.native() / "Hilfe");
+    }
     open();
-    answer(DialogAnswer::Yes);
-    outside.dialogs().expect(headless::Box::Error,
-                             u"Die Lösung lässt sich nicht löschen. Die Datei ist geschützt.");
-    press(u"but_Delete");
-    EXPECT_EQ(dialog.Files().Count(), 2);
-    EXPECT_EQ(dialog.Page(), 1);
+    for (const std::int32_t shown : {1, 2}) {
+        answer(DialogAnswer::Yes);
+        outside.dialogs().expect(headless::Box::Error,
+                                 u"Die Lösung lässt sich nicht löschen. Die Datei ist geschützt.");
+        press(u"but_Delete");
+        EXPECT_EQ(dialog.Files(), (CoreStringList{at(u"01.gif"), at(u"02.gif")}));
+        EXPECT_EQ(dialog.Page(), shown);
+        EXPECT_TRUE(page(1).Picture());
+        EXPECT_EQ(folder.names("Hilfe"), before);
+        strikeAndWait(Key::Right);
+    }
 }
 
 TEST_F(DialogHelpImages, AsksInEnglish)
