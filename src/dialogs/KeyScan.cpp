@@ -30,7 +30,7 @@ void KeyScan::step()
     }
     *key_ = (*key_ + 1) % rows_[row_].size();
     if (*key_ == 0 && ++round_ == Rounds) {
-        toRows();
+        key_.reset();
     }
 }
 
@@ -46,14 +46,8 @@ std::optional<std::int32_t> KeyScan::press()
     }
     const std::int32_t index = rows_[row_][*key_];
     row_ = 0;
-    toRows();
-    return index;
-}
-
-void KeyScan::toRows()
-{
     key_.reset();
-    round_ = 0;
+    return index;
 }
 
 std::vector<std::int32_t> KeyScan::lit() const

@@ -27,8 +27,6 @@ public:
     std::vector<std::int32_t> lit() const;
 
 private:
-    void toRows();
-
     std::vector<std::vector<std::int32_t>> rows_; ///< from top to bottom
     std::size_t row_ = 0;
     std::optional<std::size_t> key_; ///< in the chosen row
