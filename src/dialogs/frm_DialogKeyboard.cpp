@@ -162,16 +162,10 @@ void frm_DialogKeyboard::edited()
     if (taken == inserted) {
         return;
     }
-    String text = text_;
-    text.replace(insertion.start, insertion.length, taken);
-    if (isKept) {
-        text_ = text;
-        input_->SelStart(static_cast<std::int32_t>(insertion.start));
-        input_->SelLength(static_cast<std::int32_t>(insertion.length));
-        input_->SelText(taken); // which can be undone
-    } else {
-        replaceText(text, insertion.start + taken.size());
-    }
+    text_.replace(insertion.start, insertion.length, taken);
+    input_->SelStart(static_cast<std::int32_t>(insertion.start));
+    input_->SelLength(static_cast<std::int32_t>(insertion.length));
+    input_->SelText(taken); // which can be undone
 }
 
 bool frm_DialogKeyboard::hasRoomFor(std::size_t length) const

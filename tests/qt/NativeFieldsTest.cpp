@@ -4,6 +4,7 @@
 #include "visual/RichTextBox.h"
 #include "visual/TextBox.h"
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
@@ -201,6 +202,33 @@ TEST_F(NativeControlsTest, WhatTheProgramEditsInAFieldCanBeUndone)
         EXPECT_EQ(box->Text(), u"abc");
         QTest::keyClick(&field, Qt::Key_Y, Qt::ControlModifier);
         EXPECT_EQ(box->Text(), u"axyzc");
+    }
+}
+
+TEST_F(NativeControlsTest, WhatTheProgramMakesOfAnEntryIsUndoneWithIt)
+{
+    for (const bool several : {false, true}) {
+        const auto box = shown<TextBox>(several ? u"txt_Page" : u"txt_Line");
+        box->MultiLine(several);
+        const Connection changed = box->Change.connect([&] {
+            if (const auto at = box->Text().find(u'#'); at != String::npos) {
+                box->SelStart(static_cast<std::int32_t>(at));
+                box->SelLength(1);
+                box->SelText(u"Nr. ");
+            }
+        });
+        QWidget& field = *widgetOf(*box).focusProxy();
+        const auto after = [&](Qt::Key key) {
+            QTest::keyClick(&field, key, Qt::ControlModifier);
+            return box->Text();
+        };
+        QTest::keyClicks(&field, "a");
+        QGuiApplication::clipboard()->setText(QStringLiteral("#1"));
+        EXPECT_EQ(after(Qt::Key_V), u"aNr. 1") << several;
+        QTest::keyClicks(&field, "b");
+        EXPECT_EQ(after(Qt::Key_Z), u"aNr. 1") << several;
+        EXPECT_EQ(after(Qt::Key_Z), u"a") << several;
+        EXPECT_EQ(after(Qt::Key_Y), u"aNr. 1") << several;
     }
 }
 

@@ -52,6 +52,23 @@ protected:
             QPointF(area.left + area.width / 2, area.top + area.height / 2).toPoint()));
         EXPECT_TRUE(eventually([&] { return isOver; }));
     }
+    testing::AssertionResult textIs(StringView expected)
+    {
+        const bool is = eventually([&] { return input()->Text() == expected; });
+        return (is ? testing::AssertionSuccess() : testing::AssertionFailure()) << toUtf8(input()->Text());
+    }
+    testing::AssertionResult undoneIs(StringView expected)
+    {
+        desk_.strike({UserDesk::Ctrl, UserDesk::Z});
+        return textIs(expected);
+    }
+    void pasteLinesBehindE(const ObjectPtr& target)
+    {
+        QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));
+        open(target);
+        desk_.strike({UserDesk::E});
+        desk_.strike({UserDesk::Ctrl, UserDesk::V});
+    }
     QRect screen() { return QGuiApplication::primaryScreen()->geometry(); }
     QRect place() { return window().frameGeometry(); }
 
@@ -164,28 +181,36 @@ TEST_F(RealKeyboard, ALineMakesAPageInWhichOneGoesOnTyping)
 
 TEST_F(RealKeyboard, UndoingGoesOnThroughTheFirstLineEnd)
 {
-    const auto undoneIs = [this](StringView expected) {
-        desk_.strike({UserDesk::Ctrl, UserDesk::Z});
-        return eventually([&] { return input()->Text() == expected; });
-    };
     open(nullptr);
     for (const auto key : {UserDesk::E, UserDesk::R}) {
         desk_.strike({key});
     }
     desk_.strike({UserDesk::Ctrl, UserDesk::Return});
     desk_.strike({UserDesk::G});
-    EXPECT_TRUE(eventually([&] { return input()->Text() == u"er\r\ng"; })) << toUtf8(input()->Text());
-    EXPECT_TRUE(undoneIs(u"er\r\n")) << toUtf8(input()->Text());
-    EXPECT_TRUE(undoneIs(u"er")) << toUtf8(input()->Text());
-    EXPECT_TRUE(undoneIs(u"")) << toUtf8(input()->Text());
+    EXPECT_TRUE(textIs(u"er\r\ng"));
+    EXPECT_TRUE(undoneIs(u"er\r\n"));
+    EXPECT_TRUE(undoneIs(u"er"));
+    EXPECT_TRUE(undoneIs(u""));
     keyboard_.form().Unload();
-    QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));
-    open(nullptr);
-    desk_.strike({UserDesk::E});
-    desk_.strike({UserDesk::Ctrl, UserDesk::V});
-    EXPECT_TRUE(eventually([&] { return input()->Text() == u"ea\r\nb"; })) << toUtf8(input()->Text());
-    EXPECT_TRUE(undoneIs(u"e")) << toUtf8(input()->Text());
-    EXPECT_TRUE(undoneIs(u"")) << toUtf8(input()->Text());
+    pasteLinesBehindE(nullptr);
+    EXPECT_TRUE(textIs(u"ea\r\nb"));
+    EXPECT_TRUE(undoneIs(u"e"));
+    EXPECT_TRUE(undoneIs(u""));
+    QGuiApplication::clipboard()->clear();
+}
+
+TEST_F(RealKeyboard, PastedLinesAreUndoneWhereTheyBecomeBlanks)
+{
+    pasteLinesBehindE(makeControl<TextBox>());
+    EXPECT_TRUE(textIs(u"ea b"));
+    desk_.strike({UserDesk::R});
+    EXPECT_TRUE(textIs(u"ea br"));
+    EXPECT_TRUE(undoneIs(u"ea b"));
+    EXPECT_TRUE(undoneIs(u"e"));
+    EXPECT_TRUE(undoneIs(u""));
+    desk_.strike({UserDesk::G});
+    EXPECT_TRUE(textIs(u"g"));
+    EXPECT_TRUE(undoneIs(u""));
     QGuiApplication::clipboard()->clear();
 }
 

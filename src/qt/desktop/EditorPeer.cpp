@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -153,7 +154,12 @@ template <typename Model>
 void EditorPeer<Model>::edited()
 {
     input([this] {
+        const QPointer<QObject> alive(this); // a handler may close the form
+        const bool wasTelling = std::exchange(tellsEdit_, editor_->text() != model_->Text());
         model_->inputText(editor_->text(), editor_->selectionStart(), editor_->selectionLength());
+        if (alive) {
+            tellsEdit_ = wasTelling;
+        }
     });
 }
 
@@ -172,13 +178,17 @@ void EditorPeer<Model>::showStyle()
 }
 
 /// A text that the program sets begins anew, with its caret at the start; one that it has edited, such as a
-/// selection that got a format, has the caret behind the edit, and the user can undo it.
+/// selection that got a format, has the caret behind the edit, and the user can undo it. One that it makes of
+/// what the user is just entering takes the place of that step.
 template <typename Model>
 void EditorPeer<Model>::showText()
 {
     const String before = editor_->text();
     const String now = many_ ? withDoubleEnds(model_->Text()) : model_->Text();
     if (before != now && !before.empty() && model_->SelStart() > 0) {
+        if (tellsEdit_ && !editor_->canRedo()) {
+            editor_->undo(); // else undoing the correction alone would only have it made again
+        }
         edit(now);
     }
     if (editor_->text() != now) {

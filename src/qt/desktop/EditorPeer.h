@@ -37,6 +37,7 @@ private:
     std::unique_ptr<TextEditor> editor_;
     DeadKeys deadKeys_;
     bool many_ = false;
+    bool tellsEdit_ = false; ///< handlers hear of a text that the user has changed
     bool keepsAway_ = false; ///< the desktop's keyboard
 };
 

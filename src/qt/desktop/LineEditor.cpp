@@ -81,6 +81,7 @@ public:
         }
         return can;
     }
+    bool canRedo() const override { return line_->isRedoAvailable(); }
     std::int32_t selectionStart() const override
     {
         return line_->hasSelectedText() ? line_->selectionStart() : line_->cursorPosition();

@@ -87,6 +87,7 @@ public:
         }
         return can;
     }
+    bool canRedo() const override { return page_->document()->isRedoAvailable(); }
     std::int32_t selectionStart() const override
     {
         return toDoubleEnds(text(), page_->textCursor().selectionStart());

@@ -43,6 +43,8 @@ public:
     virtual void replace(std::int32_t start, std::int32_t length, const String& value) = 0;
     /// Takes back the last step of what can be undone; gives whether there was one.
     virtual bool undo() = 0;
+    /// Whether the last step that was taken back can be made again.
+    virtual bool canRedo() const = 0;
     virtual std::int32_t selectionStart() const = 0;
     virtual std::int32_t selectionLength() const = 0;
     virtual void select(std::int32_t start, std::int32_t length) = 0;
