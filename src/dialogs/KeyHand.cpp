@@ -19,7 +19,6 @@ std::optional<std::int32_t> KeyHand::strikeBefore(std::int32_t finger)
 
 void KeyHand::press(std::int32_t finger, std::int32_t index)
 {
-    lift(finger);
     const KeyState before = board_.state(index);
     const bool isModifier = board_.press(index);
     down_.push_back({finger, index, before, isModifier});

@@ -22,7 +22,7 @@ public:
     /// A finger is about to go down. Gives the key that this strikes, if another one is down and not struck
     /// yet; it is struck before `press`, since that may be of a modifier, which is not for it.
     std::optional<std::int32_t> strikeBefore(std::int32_t finger);
-    /// A finger has gone down on a key.
+    /// A finger has gone down on a key; behind `strikeBefore`.
     void press(std::int32_t finger, std::int32_t index);
     /// A finger goes up. Gives the key that this strikes.
     std::optional<std::int32_t> release(std::int32_t finger);
