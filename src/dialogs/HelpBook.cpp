@@ -38,8 +38,7 @@ bool isPage(StringView path)
 
 bool startsIgnoringCase(const String& text, const String& beginning)
 {
-    return text.size() >= beginning.size() &&
-           equalsIgnoringCase(StringView(text).substr(0, beginning.size()), beginning);
+    return equalsIgnoringCase(StringView(text).substr(0, beginning.size()), beginning);
 }
 
 String inLanguage(const String& book, const String& asked)

@@ -11,6 +11,7 @@
 #include "support/CaseTable.h"
 #include "visual/ScaledPicture.h"
 
+#include <filesystem>
 #include <gmock/gmock-more-matchers.h>
 #include <sstream>
 
@@ -380,12 +381,34 @@ TEST_F(HelpBookFolder, TellsWhatAPageSays)
     put("01.gif");
     put("01.txt", "Wasser ist H2O.\r\n");
     put("02.gif");
-    put("03.gif");
-    put("03.txt", std::string(70000, 'x'));
     openBook();
     EXPECT_EQ(book.textOf(1), u"Wasser ist H2O.");
     EXPECT_EQ(book.textOf(2), u"");
-    EXPECT_EQ(book.textOf(3), u"");
+}
+
+TEST_F(HelpBookFolder, LeavesATextAloneThatIsTooLongForAPage)
+{
+    constexpr std::size_t Longest = 65536;
+    put("01.gif");
+    put("01.txt", std::string(Longest, 'x'));
+    put("02.gif");
+    put("02.txt", std::string(Longest + 1, 'x'));
+    openBook();
+    EXPECT_EQ(book.textOf(1).size(), Longest);
+    EXPECT_EQ(book.textOf(2), u"");
+}
+
+TEST_F(HelpBookFolder, IsOnItsLastPageWhenOthersHaveTakenPagesAway)
+{
+    for (const auto* name : {"a.gif", "b.gif", "c.gif"}) {
+        put(name);
+    }
+    openBook();
+    book.Page(3);
+    std::filesystem::remove(folder.native() / "Hilfe/b.gif");
+    std::filesystem::remove(folder.native() / "Hilfe/c.gif");
+    book.reload();
+    EXPECT_EQ(book.Page(), 1);
 }
 
 TEST_F(HelpBookFolder, DropsAPageAndStaysWithTheOneBefore)
