@@ -25,7 +25,8 @@ protected:
         form_->ScaleMode(ScaleUnit::Pixels);
         form_->innerSize({300, 200});
         form_->Move(100 * TwipsPerPixel, 50 * TwipsPerPixel);
-        QGuiApplication::styleHints()->setMouseDoubleClickInterval(0); // the test before may just have pressed
+        // The test before may just have pressed.
+        QGuiApplication::styleHints()->setMouseDoubleClickInterval(0);
     }
     ~TouchTest() override
     {
