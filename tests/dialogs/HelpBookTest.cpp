@@ -181,6 +181,26 @@ TEST(PageSlideHand, DoesNothingWithoutAPress)
     EXPECT_EQ(slide.finish(), PageTurn::Stay);
 }
 
+TEST(PageSlideHand, HoldsThePageNoMoreWhenItLetsGo)
+{
+    PageSlide slide;
+    slide.grab(500);
+    slide.drag(510, 1600, true, true);
+    EXPECT_EQ(slide.release(1600), PageTurn::Stay);
+    slide.drag(700, 1600, true, true);
+    EXPECT_EQ(slide.offset(), 10);
+}
+
+TEST(PageSlideHand, HoldsThePageNoMoreWhenAKeyTurnsIt)
+{
+    PageSlide slide;
+    slide.grab(500);
+    slide.slide(PageTurn::Next, 1600, 0);
+    slide.drag(700, 1600, true, true);
+    EXPECT_EQ(slide.offset(), 0);
+    EXPECT_TRUE(slide.isRunning());
+}
+
 TEST(PageSlideHand, EndsASlideAtOnceWithItsTurn)
 {
     PageSlide slide;
