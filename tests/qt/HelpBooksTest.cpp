@@ -121,7 +121,8 @@ TEST_P(HelpBooks, HasTheSamePagesInBothLanguages)
 }
 
 INSTANTIATE_TEST_SUITE_P(Apps, HelpBooks,
-                         testing::Combine(testing::Values("molmasse", "puzzle"), testing::Values("de", "en")),
+                         testing::Combine(testing::Values("molmasse", "puzzle", "formeln"),
+                                          testing::Values("de", "en")),
                          [](const auto& test) {
                              return std::string(std::get<0>(test.param)) + "_" + std::get<1>(test.param);
                          });

@@ -1,7 +1,8 @@
+#include "term/TermSpeech.h"
+
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "support/AppSession.h"
-#include "term/TermSpeech.h"
 
 #include <gtest/gtest.h>
 

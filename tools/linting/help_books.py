@@ -2,7 +2,7 @@
 
 import hashlib
 
-APPS = ("molmasse", "puzzle")
+APPS = ("molmasse", "puzzle", "formeln")
 SUMS = "painted.txt"
 """The file beside an app's texts that tells their sums, since pictures differ with the fonts of a computer."""
 
