@@ -1,22 +1,38 @@
 // The text keyboard in a real window drawn into memory: opened with the first paint, all faces changed by
 // SHIFT, a tap until its character is painted, and a step of a drag; beside a QLineEdit with 60 QPushButtons
 // in the same look, and beside the same keyboard made of a picture and a label for each key. The pad for
-// numbers opened, beside a QDialog with a QLineEdit and its 15 QPushButtons.
+// numbers opened, beside a QDialog with a QLineEdit and its 15 QPushButtons. The keyboard for terms opened,
+// and the echo of a key struck there, beside buttons and a bare term field; the periodic keyboard opened,
+// beside a QGraphicsScene of 118 items with its buttons.
 
 #include "BenchSession.h"
 #include "PaintWatch.h"
+#include "app/cls_App.h"
+#include "app/cls_AppURL.h"
+#include "app/sys_Global.h"
+#include "core/NativePath.h"
 #include "dialogs/KeyPainter.h"
 #include "dialogs/NumberLayout.h"
+#include "dialogs/PeriodicKeyLayout.h"
+#include "dialogs/TermKeyLayout.h"
 #include "dialogs/TextLayout.h"
 #include "dialogs/frm_DialogKeyboard.h"
+#include "dialogs/frm_DialogKeyboardPSE.h"
+#include "dialogs/frm_DialogKeyboardTerm.h"
 #include "dialogs/frm_DialogNumericTouch.h"
+#include "periodic/PeriodicPlaces.h"
+#include "term/clt_TermInput.h"
 #include "visual/Form.h"
 #include "visual/Label.h"
 #include "visual/PictureBox.h"
 #include "visual/TextBox.h"
+#include "visual/VisualHost.h"
 
 #include <QApplication>
 #include <QDialog>
+#include <QGraphicsRectItem>
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -206,6 +222,129 @@ void padButtonsOpen(benchmark::State& state)
 }
 BENCHMARK(padButtonsOpen)->Name("PadButtonsOpen")->Unit(benchmark::kMillisecond);
 
+template <typename TermForm>
+void termOpen(benchmark::State& state)
+{
+    PaintWatch watch;
+    const auto target = std::make_shared<clt_TermInput>();
+    for (auto _ : state) {
+        {
+            TermForm keyboard;
+            keyboard.TargetControl(target);
+            keyboard.form().Show(); // not modal, so that the benchmark goes on
+            watch.finish();
+            keyboard.form().Unload();
+        }
+        PaintWatch::endClosed();
+    }
+}
+BENCHMARK(termOpen<frm_DialogKeyboardTerm>)->Name("TermKeyboardOpen")->Unit(benchmark::kMillisecond);
+BENCHMARK(termOpen<frm_DialogKeyboardPSE>)->Name("PeriodicKeyboardOpen")->Unit(benchmark::kMillisecond);
+
+void termButtonsOpen(benchmark::State& state)
+{
+    PaintWatch watch;
+    for (auto _ : state) {
+        QDialog window;
+        window.resize(static_cast<int>(WindowSize.width), static_cast<int>(WindowSize.height));
+        auto* const field = new QLineEdit(&window);
+        field->setGeometry(156, 46, 328, 68);
+        pushButtons(term_key_layout::Keys, window);
+        window.show();
+        watch.finish();
+    }
+}
+BENCHMARK(termButtonsOpen)->Name("TermButtonsOpen")->Unit(benchmark::kMillisecond);
+
+/// 118 cells with three texts each, as one would make them of the toolkit's scene, and buttons beside it.
+void periodicSceneOpen(benchmark::State& state)
+{
+    constexpr double Cell = 28;
+    constexpr PixelSize FormSize{840, 472};
+    PaintWatch watch;
+    for (auto _ : state) {
+        QDialog window;
+        window.resize(static_cast<int>(FormSize.width), static_cast<int>(FormSize.height));
+        auto* const field = new QLineEdit(&window);
+        field->setGeometry(24, 44, 536, 54);
+        auto* const view = new QGraphicsView(&window);
+        view->setGeometry(24, 104, 536, 353);
+        auto* const scene = new QGraphicsScene(view);
+        for (int element = 1; element <= 118; ++element) {
+            const auto place = placeOf(element);
+            auto* const cell = scene->addRect(place->column * Cell, place->row * Cell, Cell, Cell, QPen(),
+                                              QColor(150, 255, 150));
+            const auto text = [&](const QString& what, double x, double y) {
+                auto* const item = new QGraphicsSimpleTextItem(what, cell);
+                item->setPos(place->column * Cell + x, place->row * Cell + y);
+            };
+            text(QStringLiteral("Xy"), 8, 8);
+            text(QString::number(element), 2, 16);
+            text(QString::number(element * 2), 2, 0);
+        }
+        view->setScene(scene);
+        pushButtons(periodic_key_layout::Keys, window);
+        window.show();
+        watch.finish();
+    }
+}
+BENCHMARK(periodicSceneOpen)->Name("PeriodicSceneOpen")->Unit(benchmark::kMillisecond);
+
+/// Struck, typed, and painted in the field.
+void termTap(benchmark::State& state)
+{
+    PaintWatch watch;
+    frm_DialogKeyboardTerm keyboard;
+    keyboard.TargetControl(std::make_shared<clt_TermInput>());
+    keyboard.form().Show();
+    watch.finish();
+    const auto keys = keyboard.form().control<ctl_Keys>(u"ctl_Keys");
+    const auto field = keyboard.form().control<clt_TermInput>(u"txt_Input");
+    for (auto _ : state) {
+        keys->CLICK.emit(KeyQ);
+        while (field->Term().empty()) {
+            QApplication::processEvents();
+        }
+        QApplication::processEvents();
+        state.PauseTiming();
+        field->Term(u"");
+        watch.finish();
+        state.ResumeTiming();
+    }
+    keyboard.form().Unload();
+    PaintWatch::endClosed();
+}
+BENCHMARK(termTap)->Name("TermKeyboardEcho")->Unit(benchmark::kMicrosecond);
+
+/// The same field on a form of its own, into which a program types.
+void bareTermTap(benchmark::State& state)
+{
+    PaintWatch watch;
+    const auto form = std::make_shared<Form>(u"frm_Bench");
+    form->ScaleMode(ScaleUnit::Pixels);
+    form->innerSize(WindowSize);
+    const auto field = form->add<clt_TermInput>(u"txt_Input");
+    field->Move(156, 46, 328, 68);
+    field->Term(u"");
+    form->Show();
+    field->frame().SetFocus();
+    watch.finish();
+    for (auto _ : state) {
+        SendKeys(u"+q", form);
+        while (field->Term().empty()) {
+            QApplication::processEvents();
+        }
+        QApplication::processEvents();
+        state.PauseTiming();
+        field->Term(u"");
+        watch.finish();
+        state.ResumeTiming();
+    }
+    form->discard();
+    PaintWatch::endClosed();
+}
+BENCHMARK(bareTermTap)->Name("BareTermEcho")->Unit(benchmark::kMicrosecond);
+
 void keyboardFaces(benchmark::State& state)
 {
     PaintWatch watch;
@@ -315,5 +454,6 @@ BENCHMARK(widgetMove)->Name("WidgetMove")->Unit(benchmark::kMicrosecond);
 int main(int argc, char** argv)
 {
     const BenchSession session(argc, argv);
+    QVAPP()->URL()->ROOT(systemPath(PHIAL_BENCH_TREE) + u"\\");
     return runBenchmarks(argc, argv);
 }
