@@ -23,8 +23,8 @@ String oneMore(String digits)
 
 std::optional<String> countedUp(StringView term, StringView symbol)
 {
-    const std::size_t lastOfSymbol = term.find_last_not_of(u"0123456789");
-    const StringView formula = term.substr(0, lastOfSymbol == StringView::npos ? 0 : lastOfSymbol + 1);
+    // Where there are digits alone, npos and 1 make 0.
+    const StringView formula = term.substr(0, term.find_last_not_of(u"0123456789") + 1);
     if (symbol.empty() || !formula.ends_with(symbol)) {
         return std::nullopt;
     }
