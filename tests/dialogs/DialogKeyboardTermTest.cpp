@@ -161,6 +161,17 @@ TEST_F(DialogKeyboardTerm, BackspaceAndClearTakeAway)
     EXPECT_EQ(field()->Term(), u"A");
 }
 
+TEST_F(DialogKeyboardTerm, AHeldKeyOffersNoVariantsOfTexts)
+{
+    openWith(u"");
+    touch.press(1, *keyPad(), middle(term_keys_of::LetterA));
+    outside.advance(0.6);
+    EXPECT_FALSE(keyPad()->showsVariants());
+    touch.release(1);
+    outside.runPending();
+    EXPECT_EQ(field()->Term(), u"A");
+}
+
 TEST_F(DialogKeyboardTerm, TypesAtTheCaret)
 {
     openWith(u"H2O");
@@ -347,6 +358,7 @@ TEST_F(DialogKeyboardTerm, ADragTypesNothing)
 
 TEST_F(DialogKeyboardTerm, GrowsWithAllThatStandsOnIt)
 {
+    EXPECT_DOUBLE_EQ(field()->TEXTFONT()->Size(), 16);
     outside.visual().millimetresPerPixel(0.125);
     openWith(u"H");
     EXPECT_EQ(keyboard.form().innerSize(), (PixelSize{1125, 510}));
