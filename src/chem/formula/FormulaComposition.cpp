@@ -47,7 +47,7 @@ public:
 
     std::optional<std::vector<ElementCount>> sums()
     {
-        std::ranges::stable_sort(counts_, {}, orderOf);
+        std::ranges::sort(counts_, {}, orderOf);
         std::vector<ElementCount> sums;
         for (const ElementCount& each : counts_) {
             if (sums.empty() || orderOf(sums.back()) != orderOf(each)) {
