@@ -37,17 +37,6 @@ inline constexpr ControlDesign button(StringView name, double left, StringView t
 }
 
 inline constexpr ControlDesign Controls[] = {
-    design<PictureBox>(u"pic_ViewHolder", {0, HeaderHeight, Width, StripTop - HeaderHeight - StripGap})
-        .set(u"AutoRedraw", false)
-        .ground(Palette::Ground)
-        .touchable(),
-    design<PictureBox>(u"pic_Viewer", {0, 0, Width, 100})
-        .repeated(4, 4, 0, 0)
-        .inside(u"pic_ViewHolder")
-        .set(u"AutoRedraw", false)
-        .ground(QBColor(15))
-        .hidden()
-        .touchable(),
     design<PageSegments>(u"pic_Strip", {0, StripTop - StripEdge, Width, StripHeight + 2 * StripEdge}),
     design<Label>(u"lab_Strip", {Margin, 0, 20, StripHeight + 2 * StripEdge})
         .inside(u"pic_Strip")
@@ -70,6 +59,18 @@ inline constexpr ControlDesign Controls[] = {
     button(u"but_Delete", Margin + 2 * (ButtonWidth + ButtonGap), u"Löschen|Delete").hidden(),
     design<ctl_CmdBar>(u"ctl_CmdBar1", {Width / 2, Height - BarHeight, 200, BarHeight}).buttons(Commands),
     button(u"but_Next", Width - Margin - ButtonWidth, u"Weiter|Next"),
+    // Painted behind all others, since the page is waited for then.
+    design<PictureBox>(u"pic_ViewHolder", {0, HeaderHeight, Width, StripTop - HeaderHeight - StripGap})
+        .set(u"AutoRedraw", false)
+        .ground(Palette::Ground)
+        .touchable(),
+    design<PictureBox>(u"pic_Viewer", {0, 0, Width, 100})
+        .repeated(4, 4, 0, 0)
+        .inside(u"pic_ViewHolder")
+        .set(u"AutoRedraw", false)
+        .ground(QBColor(15))
+        .hidden()
+        .touchable(),
 };
 
 inline constexpr FormDesign Design{.name = u"frm_DialogHelpImages",

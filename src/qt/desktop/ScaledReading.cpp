@@ -24,6 +24,20 @@ bool isWithin(QSize size, QSize bounds)
     return size.width() <= bounds.width() && size.height() <= bounds.height();
 }
 
+/// Straight into the picture's own memory.
+PicturePtr shrunkPicture(const QImage& image, QSize size, double density)
+{
+    auto picture =
+        std::make_shared<Picture>(PixelSize{size.width() / density, size.height() / density}, density);
+    const auto columns = static_cast<int>(picture->columns());
+    const auto rows = static_cast<int>(picture->rows());
+    QImage smaller(reinterpret_cast<uchar*>(picture->pixels().data()), qMin(size.width(), columns),
+                   qMin(size.height(), rows), qsizetype{columns} * qsizetype{sizeof(QRgb)},
+                   QImage::Format_ARGB32_Premultiplied);
+    shrinkInto(smaller, image);
+    return picture;
+}
+
 } // namespace
 
 ScaledReading::ScaledReading(std::filesystem::path file, QSize held, QSize shown, bool isTurned,
@@ -83,7 +97,8 @@ PicturePtr ScaledReading::read() const
     if (image.isNull()) {
         throw RuntimeError(InvalidScaledPicture, u"Invalid picture");
     }
-    return pictureOf(isWithin(shown_, image.size()) ? shrunk(image, shown_) : image, density_);
+    const bool isLarger = isWithin(shown_, image.size()) && shown_ != image.size();
+    return isLarger ? shrunkPicture(image, shown_, density_) : pictureOf(image, density_);
 }
 
 } // namespace phial::qt

@@ -122,24 +122,20 @@ void averageColumns(std::span<const std::uint16_t> row, const Covers& covers, st
 
 } // namespace
 
-QImage shrunk(const QImage& image, QSize size)
+void shrinkInto(QImage& smaller, const QImage& image)
 {
-    const auto format = image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
-    const QImage source = image.convertToFormat(format);
-    if (size == source.size()) {
-        return source;
-    }
-    const Covers columns = coversOf(source.width(), size.width());
-    const Covers rows = coversOf(source.height(), size.height());
+    const bool hasAlpha = image.hasAlphaChannel();
+    const QImage source =
+        image.convertToFormat(hasAlpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    const Covers columns = coversOf(source.width(), smaller.width());
+    const Covers rows = coversOf(source.height(), smaller.height());
     const auto averageDown = rows.count == UsualCount ? averageThreeRows : averageRows;
     const auto averageAlong = columns.count == UsualCount ? averageColumns<UsualCount> : averageColumns<0>;
     std::vector<std::uint16_t> row(static_cast<std::size_t>(source.width()) * BytesInPixel);
-    QImage smaller(size, format);
-    for (int y = 0; y < size.height(); ++y) {
+    for (int y = 0; y < smaller.height(); ++y) {
         averageDown(source, rows, static_cast<std::size_t>(y), row);
         averageAlong(row, columns, reinterpret_cast<std::uint32_t*>(smaller.scanLine(y)));
     }
-    return smaller;
 }
 
 } // namespace phial::qt

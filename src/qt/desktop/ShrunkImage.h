@@ -5,8 +5,8 @@
 namespace phial::qt
 {
 
-/// The image in a smaller size: each pixel is the average of all that it covers. Gives one of the painter's
-/// usual formats, and the image itself where it has that size. The size is at most the image's.
-QImage shrunk(const QImage& image, QSize size);
+/// Fills `smaller` with the image in its size: each pixel is the average of all that it covers. `smaller` is
+/// no larger than the image, and its pixels are premultiplied ones with alpha.
+void shrinkInto(QImage& smaller, const QImage& image);
 
 } // namespace phial::qt
