@@ -4,6 +4,8 @@
 #include "chem/formula/CheckedRational.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <memory_resource>
 #include <string>
 #include <tuple>
 
@@ -19,10 +21,15 @@ auto orderOf(const ElementCount& count)
 }
 
 /// Adds up the atoms of a part, each multiplied by the groups that it stands in.
+constexpr std::size_t UsualAtoms = 16;
+
 class AtomSum
 {
 public:
-    explicit AtomSum(const FormulaTree& tree) : tree_(tree) {}
+    explicit AtomSum(const FormulaTree& tree) : tree_(tree)
+    {
+        counts_.reserve(std::min(tree.items.size(), UsualAtoms));
+    }
 
     bool add(const FormulaPart& part)
     {
@@ -70,8 +77,11 @@ private:
     };
 
     const FormulaTree& tree_;
-    std::vector<Factor> factors_;
-    std::vector<ElementCount> counts_;
+    static constexpr std::size_t InlineBytes = 1024; // for ordinary formulas
+    alignas(std::max_align_t) std::byte buffer_[InlineBytes];
+    std::pmr::monotonic_buffer_resource memory_{buffer_, InlineBytes};
+    std::pmr::vector<Factor> factors_{&memory_};
+    std::pmr::vector<ElementCount> counts_{&memory_};
 };
 
 String numberOf(std::int64_t number)

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <memory_resource>
 #include <numeric>
 #include <utility>
 
@@ -70,9 +72,9 @@ struct Refused {
 class Reader
 {
 public:
-    Reader(StringView text, bool isEquation)
-        : text_(text), units_(formulaUnits(text)), isEquation_(isEquation)
+    Reader(StringView text, bool isEquation) : text_(text), isEquation_(isEquation)
     {
+        readFormulaUnits(text, units_);
         tree_.items.reserve(units_.size());
         hasArrow_ = std::ranges::any_of(units_, isArrow, &FormulaUnit::sign);
     }
@@ -613,12 +615,16 @@ private:
     }
 
     StringView text_;
-    std::vector<FormulaUnit> units_;
+    // An ordinary formula fits in here, so that only its tree takes memory from the heap.
+    static constexpr std::size_t InlineBytes = 1024;
+    alignas(std::max_align_t) std::byte buffer_[InlineBytes];
+    std::pmr::monotonic_buffer_resource memory_{buffer_, InlineBytes};
+    std::pmr::vector<FormulaUnit> units_{&memory_};
     bool isEquation_;
     bool hasArrow_ = false;
     std::size_t at_ = 0;
     FormulaTree tree_;
-    std::vector<Open> open_;
+    std::pmr::vector<Open> open_{&memory_};
     std::optional<std::size_t> last_; ///< the item that a number would belong to
     char16_t lastClosing_ = TextEnd;  ///< the bracket that has ended it
     std::size_t chargeBegin_ = 0;

@@ -16,7 +16,7 @@ struct FormulaReading {
     explicit operator bool() const { return !refusal; }
 };
 
-/// Reads one formula in any notation of formulaUnits. Time and memory grow with its length alone, however
+/// Reads one formula in any notation of readFormulaUnits. Time and memory grow with its length alone, however
 /// deep its brackets nest. What is not clear is refused, not guessed.
 ///
 /// | Text            | Read as                                                                  |

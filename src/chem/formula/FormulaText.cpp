@@ -52,6 +52,13 @@ constexpr auto LevelTags = std::to_array<LevelTag>({
     {u"</sup>", FormulaLevel::Line},
 });
 
+/// What most formulas are made of: it means itself and nothing else.
+constexpr bool isOrdinary(char16_t sign)
+{
+    return (sign >= u'A' && sign <= u'Z') || (sign >= u'a' && sign <= u'z') ||
+           (sign >= u'0' && sign <= u'9') || sign == u'(' || sign == u')' || sign == u' ' || sign == u'+';
+}
+
 bool isChargeOrIndex(char16_t sign)
 {
     return isDigit(sign) || sign == u'+' || sign == u'-';
@@ -60,16 +67,20 @@ bool isChargeOrIndex(char16_t sign)
 class UnitReader
 {
 public:
-    explicit UnitReader(StringView text) : text_(text) { units_.reserve(text.size()); }
+    UnitReader(StringView text, std::pmr::vector<FormulaUnit>& units) : text_(text), units_(units)
+    {
+        units_.reserve(units_.size() + text.size());
+    }
 
-    std::vector<FormulaUnit> read()
+    void read()
     {
         while (at_ < text_.size()) {
-            if (!takeMark() && !takeTag() && !takeSpelling() && !takeScript()) {
+            const bool isTaken =
+                !isOrdinary(text_[at_]) && (takeMark() || takeTag() || takeSpelling() || takeScript());
+            if (!isTaken) {
                 take(text_[at_], 1);
             }
         }
-        return std::move(units_);
     }
 
 private:
@@ -153,14 +164,14 @@ private:
     std::size_t at_ = 0;
     std::optional<FormulaLevel> marked_;
     FormulaLevel tagged_ = FormulaLevel::Line;
-    std::vector<FormulaUnit> units_;
+    std::pmr::vector<FormulaUnit>& units_;
 };
 
 } // namespace
 
-std::vector<FormulaUnit> formulaUnits(StringView text)
+void readFormulaUnits(StringView text, std::pmr::vector<FormulaUnit>& units)
 {
-    return UnitReader(text).read();
+    UnitReader(text, units).read();
 }
 
 } // namespace phial

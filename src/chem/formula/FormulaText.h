@@ -3,6 +3,7 @@
 #include "core/String.h"
 
 #include <cstdint>
+#include <memory_resource>
 #include <vector>
 
 namespace phial
@@ -35,7 +36,8 @@ inline constexpr char16_t BothArrows = u'\u21CC';
 ///     no-break and thin blanks, line ends          a blank
 ///     ½                                            1, / and 2
 ///
-/// What only colours, strikes through or has no width is left out. Linear in the text's length.
-std::vector<FormulaUnit> formulaUnits(StringView text);
+/// What only colours, strikes through or has no width is left out. Linear in the text's length. They are put
+/// behind those that `units` has.
+void readFormulaUnits(StringView text, std::pmr::vector<FormulaUnit>& units);
 
 } // namespace phial
