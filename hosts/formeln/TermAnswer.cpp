@@ -12,7 +12,7 @@ TermAnswer::TermAnswer(phial::Form& form)
       field_(form.control<phial::clt_TermInput>(u"trm_Answer"))
 {
     field_->TEXTFONT()->Size(Points);
-    field_->TEXTALIGN(phial::TEXTALIGN::MiddleLeft);
+    field_->TEXTALIGN(phial::TEXTALIGN::MiddleCentre); // away from the frame, as on the card
     field_->Term({});
     close(false);
 }

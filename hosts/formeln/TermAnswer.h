@@ -23,7 +23,7 @@ public:
     static constexpr phial::ControlDesign row(phial::StringView spoken)
     {
         return phial::design<phial::clt_TermInput>(
-                   u"trm_Answer", {Margin, Inset, Width - 2 * Margin, Place.height - 2 * Inset})
+                   u"trm_Answer", {Inset, Inset, Width - 2 * Inset, Place.height - 2 * Inset})
             .inside(u"pan_Answer")
             .focusable()
             .spoken(spoken);
