@@ -4,7 +4,6 @@
 #include <array>
 #include <map>
 #include <optional>
-#include <utility>
 #include <vector>
 
 namespace phial
@@ -21,8 +20,6 @@ struct PlacedTag {
     std::size_t end;
     String name; ///< in lower case
     bool isClosing;
-
-    std::size_t length() const { return end - begin; }
 };
 
 bool isNameUnit(char16_t unit)
@@ -196,7 +193,6 @@ public:
                 write(text_.substr(done, tag.begin - done));
                 done = tag.end;
                 tag.isClosing ? close(*look) : open_.push_back(*look);
-                isChanged_ = true;
             }
         }
         write(text_.substr(done));
@@ -218,9 +214,7 @@ private:
     void write(StringView part)
     {
         if (!part.empty()) {
-            if (std::exchange(isChanged_, false)) {
-                writeTags();
-            }
+            writeTags();
             written_ += part;
         }
     }
@@ -264,7 +258,6 @@ private:
 
     StringView text_;
     std::vector<LookTag> open_; ///< as the text has it
-    bool isChanged_ = false;    ///< since the last part was written
     bool hasFaults_ = false;
     std::vector<LookTag> standing_; ///< as it has been written
     String written_;
