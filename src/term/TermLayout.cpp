@@ -64,12 +64,12 @@ void TermLayout::draw(DrawDevice& device, std::int32_t distance, std::int32_t ca
         device.ForeColor(mark.colour);
         if (mark.text.empty()) {
             device.Line(mark.from.x + distance, mark.from.y, mark.to.x + distance, mark.to.y);
-            continue;
+        } else {
+            device.font(mark.font);
+            device.CurrentX(mark.from.x + distance);
+            device.CurrentY(mark.from.y);
+            device.Print(mark.text);
         }
-        device.font(mark.font);
-        device.CurrentX(mark.from.x + distance);
-        device.CurrentY(mark.from.y);
-        device.Print(mark.text);
     }
     const auto place = std::ranges::lower_bound(places_, caret, {}, &Place::index);
     if (place != places_.end() && place->index == caret) {

@@ -50,7 +50,6 @@ clt_TermInput::clt_TermInput() : frame_(*this), surface_(*this), cursor_(u"tmr_C
     frame_.MousePointer(MousePointer::Text);
     ticking_ = cursor_.Tick.connect([this] { tick(); });
     rows::start<Properties>(*this);
-    tellText();
     UserControl_Initialize();
 }
 
@@ -90,12 +89,6 @@ void clt_TermInput::readProperties(const PropertyBag& bag)
 void clt_TermInput::writeProperties(PropertyBag& bag)
 {
     rows::write<Properties>(*this, bag);
-}
-
-void clt_TermInput::shown()
-{
-    cursor_.Enabled(focused_);
-    refresh();
 }
 
 void clt_TermInput::resized()
@@ -221,7 +214,6 @@ void clt_TermInput::gotFocus()
 void clt_TermInput::lostFocus()
 {
     focused_ = false;
-    activation_.clear();
     cursor_.Enabled(false);
     blinkOn_ = false;
     keyDown_ = 0;
@@ -231,10 +223,7 @@ void clt_TermInput::lostFocus()
 
 void clt_TermInput::tick()
 {
-    if (!focused_) {
-        cursor_.Enabled(false);
-    }
-    blinkOn_ = focused_ && (!blinkOn_ || !mayBlink());
+    blinkOn_ = !blinkOn_ || !mayBlink();
     showChangedCaret();
 }
 

@@ -84,8 +84,8 @@ public:
     void initProperties() override { refresh(); }
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
-    void shown() override;
-    void hidden() override { cursor_.Enabled(false); }
+    void shown() override { refresh(); }
+    void hidden() override { lostFocus(); } // a form that is hidden does not tell it
     void ended() override { cursor_.Enabled(false); }
     void resized() override;
     void paint() override { draw(); }

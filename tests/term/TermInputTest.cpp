@@ -1,5 +1,6 @@
 #include "term/TermField.h"
 #include "visual/FrameMembers.h"
+#include "visual/PictureBox.h"
 #include "visual/VisualHost.h"
 
 namespace phial::test
@@ -275,6 +276,50 @@ TEST_F(TermInputTest, NothingTicksForAFieldThatIsNotSeenOrHasEnded)
     EXPECT_EQ(caretX(), 10);
     form->remove(*field);
     outside.advance(2);
+}
+
+TEST_F(TermInputTest, TheCaretBlinksAgainWhenItsFormIsShownAgain)
+{
+    edit(u"H2O", 1);
+    form->Hide();
+    outside.advance(2);
+    form->Show();
+    EXPECT_TRUE(field->frame().hasFocus());
+    EXPECT_EQ(caretX(), std::nullopt);
+    outside.advance(0.5);
+    EXPECT_EQ(caretX(), 10);
+    outside.advance(0.5);
+    EXPECT_EQ(caretX(), std::nullopt);
+}
+
+TEST_F(TermInputTest, AFieldThatIsDisabledWhileItsFormIsHiddenHasNoCaret)
+{
+    edit(u"H2O", 1);
+    outside.advance(0.5);
+    form->Hide();
+    field->Enabled(false);
+    form->Show();
+    for (int tick = 0; tick < 3; ++tick) {
+        EXPECT_FALSE(field->frame().hasFocus());
+        EXPECT_EQ(caretX(), std::nullopt) << tick;
+        outside.advance(0.5);
+    }
+}
+
+TEST_F(TermInputTest, TheCaretBlinksAgainWhenWhatHoldsItIsShownAgain)
+{
+    const auto holder = form->add<PictureBox>(u"pic_Holder");
+    field = form->add<clt_TermInput>(u"trm_Inner", holder->container());
+    field->Move(10, 20, 200, 40);
+    edit(u"", 0);
+    holder->Visible(false);
+    outside.advance(2);
+    holder->Visible(true);
+    EXPECT_FALSE(field->frame().hasFocus()) << "hiding has taken the focus away";
+    field->SetFocus();
+    EXPECT_EQ(caretX(), std::nullopt);
+    outside.advance(0.5);
+    EXPECT_EQ(caretX(), 0);
 }
 
 TEST_F(TermInputTest, AnEmptyTermHasItsCaretAtZero)
