@@ -139,6 +139,19 @@ TEST_F(TermInputKeys, AKeyThatWentDownElsewhereIsNotTold)
     EXPECT_THAT(log, IsEmpty()) << "held since before";
 }
 
+TEST_F(TermInputKeys, ReturnGivesTheFieldTheFocusAndEscapeDoesNot)
+{
+    for (const Key key : {Key::Escape, Key::Return}) {
+        ASSERT_FALSE(field->frame().hasFocus());
+        KeyEvent down{static_cast<std::int32_t>(key), 0};
+        field->keyDown(down);
+        KeyEvent up{static_cast<std::int32_t>(key), 0};
+        field->keyUp(up);
+    }
+    EXPECT_TRUE(field->frame().hasFocus());
+    EXPECT_THAT(log, ElementsAre("cancel", "enter"));
+}
+
 TEST_F(TermInputKeys, ReturnThatWentDownBeforeTheLockIsNotTold)
 {
     edit(u"H2O", 3);

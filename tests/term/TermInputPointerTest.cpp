@@ -137,6 +137,10 @@ TEST_F(TermInputPointer, APressDragsOnceAndOnlyWithTheLeftButton)
     field->pointerDown({PointerButton::Right, 0, 50, 20});
     field->pointerMove({PointerButton::Right, 0, 90, 20});
     EXPECT_EQ(peer.drags, 1);
+    field->pointerDown(at(50));
+    field->pointerDown({PointerButton::Right, 0, 50, 20});
+    field->pointerMove(at(90));
+    EXPECT_EQ(peer.drags, 1) << "another button has ended the press";
 }
 
 TEST_F(TermInputPointer, AFingerDragsAfterTenPixels)

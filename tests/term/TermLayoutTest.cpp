@@ -55,6 +55,7 @@ TEST(TermLayoutTest, DrawsWhatTermDrawDraws)
 TEST(TermLayoutTest, NeighboursThatLookAlikeAreOneText)
 {
     EXPECT_EQ(textsDrawn(u"NaCl"), 1U);
+    EXPECT_EQ(textsDrawn(u"Na Cl"), 1U);
     EXPECT_EQ(textsDrawn(u"H12O"), 3U);
     EXPECT_EQ(textsDrawn(u"a§b"), 2U) << "in another colour";
     EXPECT_EQ(textsDrawn(u"aµ#b"), 1U);
