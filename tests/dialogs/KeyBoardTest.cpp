@@ -168,6 +168,20 @@ TEST(KeyBoard, AModifierGoesOnAtEachPress)
     EXPECT_EQ(board.state(shift), KeyState::Off);
 }
 
+TEST(KeyBoard, AHeldModifierFallsBackOnlyWhenItHasServedThisTime)
+{
+    KeyBoard board(text_layout::Layout);
+    board.state(Modifier::Shift, KeyState::Once);
+    board.hold(Modifier::Shift, true);
+    board.click(indexOf(board, u"a"));
+    EXPECT_TRUE(board.hold(Modifier::Shift, false));
+    EXPECT_EQ(board.state(Modifier::Shift), KeyState::Off);
+    board.state(Modifier::Shift, KeyState::Once);
+    board.hold(Modifier::Shift, true);
+    EXPECT_FALSE(board.hold(Modifier::Shift, false));
+    EXPECT_EQ(board.state(Modifier::Shift), KeyState::Once);
+}
+
 TEST(KeyBoard, OtherKeysHaveNoState)
 {
     KeyBoard board(text_layout::Layout);
@@ -202,9 +216,12 @@ TEST(KeyBoard, TheTagIsTheNameInUpperCase)
 
 TEST(KeyBoard, ATagInBracesIsSentAsItStands)
 {
-    constexpr auto Keys = std::to_array<KeyDesign>({{0, u"(", u"{(}"}, {13, u"x", u"*"}});
+    constexpr auto Keys = std::to_array<KeyDesign>(
+        {{0, u"(", u"{(}"}, {1, u"x", u"{1"}, {2, u"x", u"2}"}, {13, u"x", u"*"}});
     KeyBoard board({Keys, {}, {}});
     EXPECT_EQ(board.click(0).strokes, u"{(}");
+    EXPECT_EQ(board.click(1).strokes, u"{{}1") << "one brace is a character";
+    EXPECT_EQ(board.click(2).strokes, u"2{}}");
     EXPECT_EQ(board.click(13).strokes, u"{*}");
 }
 
