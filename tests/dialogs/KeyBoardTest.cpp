@@ -216,8 +216,8 @@ TEST(KeyBoard, TheTagIsTheNameInUpperCase)
 
 TEST(KeyBoard, ATagInBracesIsSentAsItStands)
 {
-    constexpr auto Keys = std::to_array<KeyDesign>(
-        {{0, u"(", u"{(}"}, {1, u"x", u"{1"}, {2, u"x", u"2}"}, {13, u"x", u"*"}});
+    constexpr auto Keys =
+        std::to_array<KeyDesign>({{0, u"(", u"{(}"}, {1, u"x", u"{1"}, {2, u"x", u"2}"}, {13, u"x", u"*"}});
     KeyBoard board({Keys, {}, {}});
     EXPECT_EQ(board.click(0).strokes, u"{(}");
     EXPECT_EQ(board.click(1).strokes, u"{{}1") << "one brace is a character";
