@@ -1,5 +1,7 @@
 #include "DialogHelpImagesTest.h"
 
+#include <gmock/gmock-more-matchers.h>
+
 namespace phial
 {
 

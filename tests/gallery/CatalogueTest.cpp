@@ -74,6 +74,7 @@ void CatalogueTest::awaitModal(StringView title, const Sample& sample)
 
 TEST_F(CatalogueTest, EveryStateOfEveryExhibitIsShownInBothLanguages)
 {
+    installElements();
     open();
     for (const auto language : {phial::ID_Language_German, phial::ID_Language_English}) {
         phial::LNG()->CURRENT(language);
@@ -240,6 +241,7 @@ TEST_F(CatalogueTest, SaysSoWhereNothingCanBeHeard)
 
 TEST_F(CatalogueTest, ATourTakesEachStateOnceUnderItsOwnName)
 {
+    installElements();
     std::set<String> names;
     const auto note = [&](StringView name) {
         EXPECT_TRUE(names.insert(String(name)).second) << phial::toUtf8(name);

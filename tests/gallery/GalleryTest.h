@@ -1,10 +1,15 @@
 #pragma once
 
+#include "app/cls_App.h"
+#include "app/cls_AppURL.h"
+#include "app/sys_Global.h"
 #include "gallery/Catalogue.h"
 #include "gallery/frm_Gallery.h"
 #include "headless/Hand.h"
 #include "support/AppSession.h"
+#include "support/Places.h"
 
+#include <filesystem>
 #include <memory>
 
 namespace gallery
@@ -25,6 +30,17 @@ protected:
     {
         gallery = std::make_unique<frm_Gallery>();
         gallery->Show();
+    }
+
+    /// Installs the table of the elements; without it the periodic keyboard tells that it is missing.
+    void installElements()
+    {
+        makeTree(u"installed\\");
+        const auto data = folder.native() / "installed/Resources/data";
+        std::filesystem::create_directories(data);
+        std::filesystem::copy_file(phial::test::treeFolder() / "Resources/data/elements2.dat",
+                                   data / "elements2.dat", std::filesystem::copy_options::overwrite_existing);
+        phial::QVAPP()->URL()->INITROOT(path(u"installed\\"));
     }
 
     phial::Form& form() { return gallery->form(); }

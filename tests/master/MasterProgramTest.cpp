@@ -128,7 +128,8 @@ TEST_F(MasterProgramTest, KnowsTheAppsThatAreInstalled)
 {
     EXPECT_EQ(run({QStringLiteral("--app"), QStringLiteral("Molmase"), QStringLiteral("--settings")}), 0);
     EXPECT_EQ(master_.ranOutput(), "Mind: there is no learning app \"Molmase\" on this computer.\n"
-                                   "Those known are:\n  Molmasse  Molmassen-Trainer\n"
+                                   "Those known are:\n  Formeln  Formel-Trainer\n"
+                                   "  Molmasse  Molmassen-Trainer\n"
                                    "  Puzzle  Elemente-Puzzle\n"
                                    "Chosen: Molmase\nNothing is set.\n");
 }
