@@ -13,9 +13,14 @@ namespace
 
 QtMessageHandler otherMessages = nullptr;
 
-/// The module writes under the common category, so that only the beginnings tell its messages.
-bool isOfSoundModule(const QString& message)
+constexpr QLatin1String ModuleCategories("qt.multimedia.");
+
+/// The module writes most under the common category, where only the beginnings tell its messages.
+bool isOfSoundModule(const QMessageLogContext& context, const QString& message)
 {
+    if (QLatin1String(context.category).startsWith(ModuleCategories)) {
+        return true;
+    }
     constexpr QLatin1String Beginnings[] = {QLatin1String("PulseAudioService:"),
                                             QLatin1String("\"PulseAudioService:"),
                                             QLatin1String("\"Stream error:"),
@@ -28,7 +33,7 @@ bool isOfSoundModule(const QString& message)
 
 void passOn(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (type != QtWarningMsg || !isOfSoundModule(message)) {
+    if (type != QtWarningMsg || !isOfSoundModule(context, message)) {
         otherMessages(type, context, message);
     }
 }
