@@ -15,13 +15,16 @@ using phial::String;
 String formulaLine(phial::StringView formula)
 {
     constexpr char16_t LoweredZero = u'\u2080';
+    constexpr char16_t TermDot = u'*';
+    constexpr char16_t MiddleDot = u'\u00B7';
     String line(formula);
     bool isIndex = false; // a number in front belongs to no symbol
     for (char16_t& unit : line) {
+        unit = unit == TermDot ? MiddleDot : unit;
         if (isIndex && phial::isDigit(unit)) {
             unit = static_cast<char16_t>(LoweredZero + (unit - u'0'));
         } else {
-            isIndex = !phial::isDigit(unit) && unit != u' ' && unit != u'(';
+            isIndex = !phial::isDigit(unit) && unit != u' ' && unit != u'(' && unit != MiddleDot;
         }
     }
     return line;

@@ -12,7 +12,8 @@ class cls_DataElements;
 namespace learning
 {
 
-/// A formula in one line of plain text, its indices lowered: "Ca(OH)₂" for Ca(OH)2.
+/// A formula in one line of plain text, its indices lowered: "Ca(OH)₂" for Ca(OH)2, "CuSO₄·5H₂O" for
+/// CuSO4*5H2O.
 phial::String formulaLine(phial::StringView formula);
 
 /// A formula and what it is called, on the card of the task: as large as the formula fits.

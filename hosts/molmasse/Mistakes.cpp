@@ -2,8 +2,10 @@
 
 #include "chem/FormulaAnalysis.h"
 #include "common/FrameTexts.h"
+#include "core/NumberText.h"
 #include "core/Variant.h"
 #include "molmasse/MassJudge.h"
+#include "molmasse/SaltParts.h"
 
 #include <cmath>
 #include <utility>
@@ -38,7 +40,8 @@ class MistakeSearch
 {
 public:
     MistakeSearch(StringView formula, double answer, const MassSource& source)
-        : formula_(formula), atoms_(formula), answer_(answer), source_(source)
+        : parts_(saltParts(formula)), formula_(joined(parts_)), atoms_(formula_), answer_(answer),
+          source_(source)
     {
     }
 
@@ -49,6 +52,8 @@ public:
         }
         forgetIndices();
         forgetBrackets();
+        forgetParts();
+        forgetFactors();
         takeOneElement();
         sumUp(Mistake::AtomsCounted, [](const String&) { return 1.0; });
         sumUp(Mistake::AtomicNumbers,
@@ -94,45 +99,92 @@ private:
             const std::size_t end = endOfDigits(formula_, position);
             if (end > position) {
                 ++found;
-                const StringView number = formula_.substr(position, end - position);
                 considerFormula(without(formula_, position, end),
-                                {Mistake::IndexForgotten, symbol, String(number)});
-                bare.append(formula_.substr(copied, position - copied));
+                                {Mistake::IndexForgotten, symbol, formula_.substr(position, end - position)});
+                bare.append(formula_, copied, position - copied);
                 copied = end;
             }
             position = end;
         }
         if (found > 1) {
-            considerFormula(bare.append(formula_.substr(copied)), {Mistake::IndexForgotten, {}, {}});
+            considerFormula(bare.append(formula_, copied), {Mistake::IndexForgotten, {}, {}});
         }
     }
 
     /// Each group counted once; then as if its number stood behind its last atom alone.
     void forgetBrackets()
     {
+        for (std::size_t part = 0; part < parts_.size(); ++part) {
+            forgetBrackets(part);
+        }
+    }
+    void forgetBrackets(std::size_t part)
+    {
+        const StringView text = parts_[part].formula;
         std::vector<std::size_t> open;
-        for (std::size_t position = 0; position < formula_.size(); ++position) {
-            if (formula_[position] == u'(') {
+        for (std::size_t position = 0; position < text.size(); ++position) {
+            if (text[position] == u'(') {
                 open.push_back(position);
-            } else if (formula_[position] == u')' && !open.empty()) {
-                forgetBracket(open.back(), position);
+            } else if (text[position] == u')' && !open.empty()) {
+                forgetBracket(part, open.back(), position);
                 open.pop_back();
             }
         }
     }
-    void forgetBracket(std::size_t opening, std::size_t closing)
+    void forgetBracket(std::size_t part, std::size_t opening, std::size_t closing)
     {
-        const std::size_t end = endOfDigits(formula_, closing + 1);
-        const String number(formula_.substr(closing + 1, end - closing - 1));
+        const StringView text = parts_[part].formula;
+        const std::size_t end = endOfDigits(text, closing + 1);
+        const String number(text.substr(closing + 1, end - closing - 1));
         if (number.empty()) {
             return;
         }
         const Diagnosis diagnosis{Mistake::BracketForgotten, {}, number};
-        considerFormula(without(formula_, closing + 1, end).insert(closing + 1, u"1"), diagnosis);
-        if (!phial::isDigit(formula_[closing - 1])) {
-            const String opened = without(formula_, closing, closing + 1);
-            considerFormula(without(opened, opening, opening + 1), diagnosis);
+        considerPart(part, without(text, closing + 1, end).insert(closing + 1, u"1"), diagnosis);
+        if (!phial::isDigit(text[closing - 1])) {
+            const String opened = without(text, closing, closing + 1);
+            considerPart(part, without(opened, opening, opening + 1), diagnosis);
         }
+    }
+    /// The formula with one of its parts misread.
+    void considerPart(std::size_t part, String misread, const Diagnosis& diagnosis)
+    {
+        std::vector<SaltPart> parts = parts_;
+        parts[part].formula = std::move(misread);
+        considerFormula(joined(parts), diagnosis);
+    }
+
+    /// All that stands behind each of the dots.
+    void forgetParts()
+    {
+        for (std::size_t kept = 1; kept < parts_.size(); ++kept) {
+            considerFormula(joined({parts_.begin(), parts_.begin() + std::ptrdiff_t(kept)}),
+                            {Mistake::PartForgotten, {}, {}});
+        }
+    }
+
+    /// Each part counted once; then as if its number multiplied its first atom alone.
+    void forgetFactors()
+    {
+        for (std::size_t part = 0; part < parts_.size(); ++part) {
+            if (parts_[part].times != 1) {
+                forgetFactor(part);
+            }
+        }
+    }
+    void forgetFactor(std::size_t part)
+    {
+        std::vector<SaltPart> parts = parts_;
+        const String number = phial::plainText(static_cast<double>(parts[part].times), u',');
+        const Diagnosis diagnosis{Mistake::FactorForgotten, {}, number};
+        parts[part].times = 1;
+        considerFormula(joined(parts), diagnosis);
+        String& text = parts[part].formula;
+        std::size_t behindSymbol = 0;
+        phial::nextSymbol(text, behindSymbol);
+        const std::size_t end = endOfDigits(text, behindSymbol);
+        text.insert(end, String(u")").append(number)).insert(0, u"(");
+        considerFormula(joined(parts), diagnosis);
     }
 
     void takeOneElement()
@@ -177,7 +229,8 @@ private:
 
     static constexpr double SameResult = 1e-6; // g/mol
 
-    StringView formula_;
+    std::vector<SaltPart> parts_;
+    String formula_; // its parts in one, without dots
     phial::AtomCounts atoms_;
     double answer_;
     const MassSource& source_;
@@ -206,6 +259,12 @@ String explained(const Diagnosis& diagnosis)
     case Mistake::BracketForgotten:
         return translate(u"Die {1} hinter der Klammer gilt für alles in der Klammer.",
                          u"The {1} behind the bracket counts for all that is in the bracket.", {count});
+    case Mistake::PartForgotten:
+        return translate(u"Was hinter dem Punkt steht, gehört dazu. Es fehlt noch.",
+                         u"What stands behind the dot belongs to it. It is still missing.");
+    case Mistake::FactorForgotten:
+        return translate(u"Die {1} hinter dem Punkt gilt für alles, was ihr folgt.",
+                         u"The {1} behind the dot counts for all that follows it.", {count});
     case Mistake::OneElementOnly:
         return translate(u"Das ist erst die Masse von {1}. Es fehlen noch Atome.",
                          u"That is the mass of {1} alone. Other atoms are missing.", {symbol});

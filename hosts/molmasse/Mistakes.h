@@ -12,6 +12,8 @@ namespace molmasse
 enum class Mistake {
     IndexForgotten,   ///< the number behind one symbol, or behind each, was left out
     BracketForgotten, ///< the number behind a bracket was left out, or multiplied its last atom only
+    PartForgotten,    ///< what stands behind a dot was left out, such as the water of a hydrate
+    FactorForgotten,  ///< the number behind a dot was left out, or multiplied the next atom only
     OneElementOnly,   ///< the mass of one element of the compound, once or as often as it occurs
     AtomsCounted,     ///< the number of atoms instead of their masses
     AtomicNumbers,    ///< the sum of the atomic numbers

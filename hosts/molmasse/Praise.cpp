@@ -1,6 +1,7 @@
 #include "molmasse/Praise.h"
 
 #include "chem/FormulaAnalysis.h"
+#include "molmasse/SaltParts.h"
 
 #include <algorithm>
 
@@ -14,6 +15,7 @@ namespace
 
 /// What there is to see in a formula.
 struct Traits {
+    bool isHydrate = false;
     int brackets = 0;
     int depth = 0; ///< of brackets within brackets
     double symbols = 0;
@@ -35,7 +37,9 @@ Traits traitsOf(StringView formula)
     while (!phial::nextSymbol(formula, position).empty()) {
         ++traits.symbols;
     }
-    const phial::AtomCounts atoms(formula);
+    const phial::String counted = withoutDots(formula);
+    traits.isHydrate = counted != formula;
+    const phial::AtomCounts atoms(counted);
     traits.elements = static_cast<double>(atoms.size());
     for (const phial::AtomCount& atom : atoms) {
         traits.atoms += atom.count;
@@ -50,6 +54,8 @@ struct Praise {
 };
 
 constexpr Praise Table[] = {
+    {[](const Traits& traits) { return traits.isHydrate; },
+     u"Auch hinter dem Punkt alles mitgezählt.|All behind the dot counted too."},
     {[](const Traits& traits) { return traits.depth > 1; },
      u"Klammer in der Klammer richtig aufgelöst.|Bracket within a bracket worked out."},
     {[](const Traits& traits) { return traits.brackets > 1; },

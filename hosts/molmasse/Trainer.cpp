@@ -3,6 +3,7 @@
 #include "common/FrameTexts.h"
 #include "molmasse/MassJudge.h"
 #include "molmasse/Mistakes.h"
+#include "molmasse/SaltParts.h"
 #include "molmasse/Working.h"
 
 namespace molmasse
@@ -92,8 +93,9 @@ void Trainer::TRANSLATE()
 void Trainer::show(int position)
 {
     task_ = data_.tasks.at(position);
-    mass_ = data_.elements->MOL(task_.text);
-    exactMass_ = exactMass(data_.exactMasses, task_.text).value_or(mass_);
+    counted_ = withoutDots(task_.text);
+    mass_ = data_.elements->MOL(counted_);
+    exactMass_ = exactMass(data_.exactMasses, counted_).value_or(mass_);
     card_->show(task_);
     answer_->open();
 }
@@ -101,7 +103,7 @@ void Trainer::show(int position)
 Judgement Trainer::judge()
 {
     judged_ = answer_->value();
-    return judgeMass(judged_, massesOf(task_.text, mass_, exactMass_));
+    return judgeMass(judged_, massesOf(counted_, mass_, exactMass_));
 }
 
 String Trainer::solution() const
@@ -111,7 +113,7 @@ String Trainer::solution() const
 
 String Trainer::hint() const
 {
-    return atomsCounted(*data_.elements, task_.text, AtomMasses::Shown);
+    return atomsCounted(*data_.elements, counted_, AtomMasses::Shown);
 }
 
 String Trainer::remark() const
@@ -130,7 +132,7 @@ String Trainer::remark() const
 
 String Trainer::support() const
 {
-    return atomsCounted(*data_.elements, task_.text, AtomMasses::Hidden);
+    return atomsCounted(*data_.elements, counted_, AtomMasses::Hidden);
 }
 
 String Trainer::working() const
@@ -142,7 +144,7 @@ phial::StringView Trainer::helpChapter() const
 {
     constexpr phial::StringView MolarMass = u"K2";
     constexpr phial::StringView Brackets = u"K3";
-    return task_.text.find(u'(') == String::npos ? MolarMass : Brackets;
+    return counted_.find(u'(') == String::npos ? MolarMass : Brackets;
 }
 
 std::vector<learning::ReferenceEntry> Trainer::reference() const

@@ -55,6 +55,7 @@ private:
 
     TrainerData data_;
     learning::ListedTask task_;
+    phial::String counted_;        ///< its formula without dots
     double mass_ = 0;              ///< its molar mass by the table, one decimal an element, in g/mol
     double exactMass_ = 0;         ///< the same with all digits
     std::optional<double> judged_; ///< the last answer, in g/mol

@@ -9,6 +9,7 @@
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
 #include "molmasse/MassJudge.h"
+#include "molmasse/SaltParts.h"
 
 namespace molmasse
 {
@@ -61,8 +62,12 @@ std::optional<learning::TaskFault> faultOf(const phial::cls_DataElements& elemen
     if (const auto fault = learning::FormulaCard::faultOf(formula, elements)) {
         return fault;
     }
-    const double mass = elements.MOL(formula);
-    const bool isClear = canBeJudged(massesOf(formula, mass, exactMass(exactMasses, formula).value_or(mass)));
+    const String counted = withoutDots(formula);
+    if (counted.empty()) {
+        return learning::TaskFault::NoTask;
+    }
+    const double mass = elements.MOL(counted);
+    const bool isClear = canBeJudged(massesOf(counted, mass, exactMass(exactMasses, counted).value_or(mass)));
     return isClear ? std::nullopt : std::optional(learning::TaskFault::Ambiguous);
 }
 

@@ -8,6 +8,7 @@
 #include "common/FrameTexts.h"
 #include "core/Format.h"
 #include "core/NumberText.h"
+#include "molmasse/SaltParts.h"
 
 #include <set>
 
@@ -22,9 +23,9 @@ namespace
 constexpr phial::StringView Times = u" \u00D7 "; // so often that atom
 constexpr phial::StringView Dot = u" \u00B7 ";   // so often that mass
 
-String countText(const phial::AtomCount& atoms)
+String countText(double count)
 {
-    return phial::plainText(atoms.count, u',');
+    return phial::plainText(count, u',');
 }
 
 String massOf(const phial::cls_DataElements& elements, phial::StringView symbol)
@@ -40,6 +41,32 @@ String sum(const std::vector<String>& terms)
     }
     return text;
 }
+
+/// Masses that are multiplied and added up, as they are written down.
+class Worked
+{
+public:
+    void add(double times, double mass)
+    {
+        const String single = massText(mass);
+        isMultiplied_ = isMultiplied_ || times != 1;
+        factors_.push_back(times == 1 ? single : countText(times).append(Dot).append(single));
+        products_.push_back(massText(times * mass));
+    }
+    String line() const
+    {
+        String text = sum(factors_);
+        if (isMultiplied_ && products_.size() > 1) {
+            text.append(u" = ").append(sum(products_));
+        }
+        return text;
+    }
+
+private:
+    std::vector<String> factors_;
+    std::vector<String> products_;
+    bool isMultiplied_ = false;
+};
 
 } // namespace
 
@@ -57,7 +84,7 @@ String atomsCounted(const phial::cls_DataElements& elements, const String& formu
         if (!text.empty()) {
             text += u"<br>";
         }
-        text.append(countText(atoms)).append(Times).append(atoms.symbol);
+        text.append(countText(atoms.count)).append(Times).append(atoms.symbol);
         if (masses == AtomMasses::Shown) {
             text.append(u" (").append(massOf(elements, atoms.symbol)).append(u"\u00A0g/mol)");
         }
@@ -67,21 +94,18 @@ String atomsCounted(const phial::cls_DataElements& elements, const String& formu
 
 String workedLine(const phial::cls_DataElements& elements, const String& formula)
 {
-    const phial::AtomCounts atoms(formula);
-    std::vector<String> factors;
-    std::vector<String> products;
-    bool isMultiplied = false;
-    for (const phial::AtomCount& atom : atoms) {
-        const String mass = massOf(elements, atom.symbol);
-        isMultiplied = isMultiplied || atom.count != 1;
-        factors.push_back(atom.count == 1 ? mass : countText(atom).append(Dot).append(mass));
-        products.push_back(massText(atom.count * elements.MOL(atom.symbol)));
+    Worked worked;
+    const std::vector<SaltPart> parts = saltParts(formula);
+    if (parts.size() > 1) {
+        for (const SaltPart& part : parts) {
+            worked.add(static_cast<double>(part.times), elements.MOL(part.formula));
+        }
+    } else {
+        for (const phial::AtomCount& atom : phial::AtomCounts(formula)) {
+            worked.add(atom.count, elements.MOL(atom.symbol));
+        }
     }
-    String line = sum(factors);
-    if (isMultiplied && products.size() > 1) {
-        line.append(u" = ").append(sum(products));
-    }
-    return line.append(u" = ").append(massText(elements.MOL(formula))).append(u"\u00A0g/mol");
+    return worked.line().append(u" = ").append(massText(elements.MOL(joined(parts)))).append(u"\u00A0g/mol");
 }
 
 std::vector<learning::ReferenceEntry> massesOfElements(phial::cls_DataElements& elements,

@@ -18,7 +18,8 @@ phial::String atomsCounted(const phial::cls_DataElements& elements, const phial:
                            AtomMasses masses);
 
 /// The molar mass worked out in one line: "2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0 g/mol". The products stand in
-/// it where there are some to add.
+/// it where there are some to add. A formula with dots is worked out from its parts:
+/// "159,6 + 5 · 18,0 = 159,6 + 90,0 = 249,6 g/mol".
 phial::String workedLine(const phial::cls_DataElements& elements, const phial::String& formula);
 
 /// The table's molar masses of the elements in these tasks, in the order of the atomic numbers.

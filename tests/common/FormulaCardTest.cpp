@@ -21,6 +21,7 @@ TEST(FormulaLine, LowersIndicesAlone)
     EXPECT_EQ(formulaLine(u"Ca3(PO4)2"), u"Ca\u2083(PO\u2084)\u2082");
     EXPECT_EQ(formulaLine(u"C12H22O11"), u"C\u2081\u2082H\u2082\u2082O\u2081\u2081");
     EXPECT_EQ(formulaLine(u"2H2O"), u"2H\u2082O");
+    EXPECT_EQ(formulaLine(u"CuSO4*5H2O"), u"CuSO\u2084\u00B75H\u2082O");
     EXPECT_EQ(formulaLine(u""), u"");
 }
 

@@ -34,6 +34,13 @@ TEST_F(Working, AddsUpTheElementsInTheOrderOfTheFormula)
     EXPECT_EQ(workedLine(table, u"C8H18"), u"8 · 12,0 + 18 · 1,0 = 96,0 + 18,0 = 114,0\u00A0g/mol");
 }
 
+TEST_F(Working, AddsUpThePartsOfAHydrate)
+{
+    EXPECT_EQ(workedLine(table, u"CuSO4*5H2O"), u"159,6 + 5 · 18,0 = 159,6 + 90,0 = 249,6\u00A0g/mol");
+    EXPECT_EQ(workedLine(table, u"KCl*MgCl2*6H2O"),
+              u"74,6 + 95,3 + 6 · 18,0 = 74,6 + 95,3 + 108,0 = 277,9\u00A0g/mol");
+}
+
 TEST_F(Working, HasNoStepThatTellsNothing)
 {
     EXPECT_EQ(workedLine(table, u"O2"), u"2 · 16,0 = 32,0\u00A0g/mol");
