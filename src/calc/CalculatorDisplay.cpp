@@ -1,5 +1,6 @@
 #include "calc/CalculatorDisplay.h"
 
+#include "calc/SignificantDigits.h"
 #include "core/NumberText.h"
 #include "core/RuntimeError.h"
 
@@ -99,7 +100,7 @@ CalculatorAnswer CalculatorDisplay::press(StringView key)
         if (isFailed() || !evaluate()) {
             return CalculatorAnswer::Failed;
         }
-        show(fitted(value_));
+        showResult();
         return CalculatorAnswer::Done;
     }
     if (key.size() == 4 && key.starts_with(u"STO") && key[3] >= u'1' && key[3] <= u'4') {
@@ -192,7 +193,7 @@ CalculatorAnswer CalculatorDisplay::store(std::int32_t memory)
         return CalculatorAnswer::Failed;
     }
     memories_.at(checked(memory)) = value_;
-    show(fitted(value_));
+    showResult();
     return CalculatorAnswer::Done;
 }
 
@@ -205,6 +206,14 @@ bool CalculatorDisplay::evaluate()
     }
     fail();
     return false;
+}
+
+void CalculatorDisplay::showResult()
+{
+    const auto significant = digits_ == ResultDigits::Significant
+                                 ? inSignificantDigits(value_, text_, decimalSign_)
+                                 : std::nullopt;
+    show(significant && significant->size() <= Room ? *significant : fitted(value_));
 }
 
 CalculatorAnswer CalculatorDisplay::fail()

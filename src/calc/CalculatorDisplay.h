@@ -19,6 +19,12 @@ enum class CalculatorAnswer : std::uint8_t {
     Failed,  ///< the term cannot be worked out, and the display says so
 };
 
+/// With which digits a result is shown.
+enum class ResultDigits : std::uint8_t {
+    All,
+    Significant, ///< as many as the numbers of the term allow, see SignificantDigits.h
+};
+
 /// The calculator's line and what its keys make of it; it knows no form. What stands on the line is the term,
 /// so a digit behind a result belongs to the result; only a line of "0" gives way to what is typed.
 ///
@@ -41,6 +47,10 @@ public:
     /// for a variable add its name. A value that is no number makes each term fail.
     void variables(std::vector<Variant> value) { variables_ = std::move(value); }
     const std::vector<Variant>& variables() const { return variables_; }
+
+    /// All at first. OK and the memories keep the value of the term whatever is shown.
+    ResultDigits digits() const { return digits_; }
+    void digits(ResultDigits value) { digits_ = value; }
 
     /// Puts a text onto the line: trimmed, with a "0" before a decimal sign at its beginning, without the "0"
     /// of "0log", and cut to the line's room.
@@ -78,8 +88,9 @@ public:
     CalculatorAnswer recall(std::int32_t memory);
     CalculatorAnswer addVariable(StringView name);
     CalculatorAnswer paste(StringView text);
-    /// Adds a molar mass to the sum on the line.
+    /// Adds a molar mass to the sum on the line, or multiplies what stands there with that of a formula.
     CalculatorAnswer addMass(double mass);
+    CalculatorAnswer addFormulaMass(double mass) { return appendFactor(fitted(mass)); }
 
     /// None for an empty memory. These raise 9 for one that is not there.
     const std::optional<double>& memory(std::int32_t memory) const { return memories_.at(checked(memory)); }
@@ -108,6 +119,7 @@ private:
     CalculatorAnswer store(std::int32_t memory);
     bool evaluate();
     CalculatorAnswer fail();
+    void showResult();
     bool isNought() const { return text_ == u"0" || isFailed(); }
 
     ExpressionSolver solver_;
@@ -116,6 +128,7 @@ private:
     String text_ = u"0";
     String failedTerm_;
     bool isFresh_ = true;
+    ResultDigits digits_{};
     std::array<std::optional<double>, Memories> memories_;
     double value_ = 0;
     std::optional<double> result_;
