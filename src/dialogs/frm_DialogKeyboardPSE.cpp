@@ -1,18 +1,12 @@
 #include "dialogs/frm_DialogKeyboardPSE.h"
 
-#include "app/cls_App.h"
-#include "app/cls_AppURL.h"
-#include "app/cls_Language.h"
-#include "app/sys_Global.h"
 #include "chem/cls_DataElement.h"
-#include "core/CoreDialogs.h"
-#include "core/CoreFiles.h"
-#include "core/CoreRoot.h"
 #include "core/RuntimeError.h"
 #include "dialogs/DialogKeyboardPSEDesign.h"
 #include "dialogs/ElementCount.h"
 #include "dialogs/PeriodicKeyLayout.h"
 #include "mascot/ctl_Bubble.h"
+#include "periodic/ElementFile.h"
 #include "periodic/ctl_PSE.h"
 #include "term/clt_TermInput.h"
 
@@ -67,17 +61,11 @@ void frm_DialogKeyboardPSE::sizeBubble()
 /// Without the file the keyboard has no table, and its keys serve all the same.
 void frm_DialogKeyboardPSE::loadTable()
 {
-    const String file = QVAPP()->URL()->ROOT() + u"resources\\data\\elements2.dat";
-    const bool isThere = coreRoot().CoreFiles().Exists(file);
+    const bool isThere = checkElementFile();
     table_->Visible(isThere);
     if (isThere) {
-        table_->LOAD(file, ctl_PSE::ElementFile);
-        return;
+        table_->LOAD(elementFile(), ctl_PSE::ElementFile);
     }
-    coreRoot().CoreDialogs().Error(
-        LNG()->TRANSLATE(u"Die Elemente-Datei des PSE wurde nicht gefunden: ",
-                         u"The element file of the periodic table was not found: ") +
-        file);
 }
 
 /// One more of the element at the end of the term, or else its symbol at the caret.
