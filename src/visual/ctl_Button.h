@@ -28,11 +28,14 @@ public:
     Event<> CLICK;
     Event<> GotFocus;
     Event<> LostFocus;
+    /// A press has ended here, with whichever button of the mouse.
+    Event<const PointerEvent&> MouseUp;
 
     StringView typeName() const override { return u"ctl_Button"; }
     MemberTable members() const override;
     ControlFrame& frame() override { return frame_; }
     String accessibleText() const override { return caption_; }
+    void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
     void click() override { CLICK.emit(); }
     void gotFocus() override { GotFocus.emit(); }
     void lostFocus() override { LostFocus.emit(); }
