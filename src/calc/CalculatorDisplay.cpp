@@ -72,6 +72,15 @@ constexpr TypedKey TypedKeys[] = {
     {u'=', u"="}, {u'×', u"*"}, {u'·', u"*"}, {u'l', u"log"}, {8, u"<-"},
 };
 
+/// A text from a table or a web page ends with tabs, line ends or fixed blanks.
+StringView withoutBlankEnds(StringView text)
+{
+    constexpr StringView Blanks = u" \t\r\n\u00A0\u202F";
+    const std::size_t first = text.find_first_not_of(Blanks);
+    return first == StringView::npos ? StringView()
+                                     : text.substr(first, text.find_last_not_of(Blanks) + 1 - first);
+}
+
 } // namespace
 
 CalculatorDisplay::CalculatorDisplay(std::shared_ptr<RandomSource> random, const Locale& locale)
@@ -238,7 +247,7 @@ CalculatorAnswer CalculatorDisplay::addVariable(StringView name)
 
 CalculatorAnswer CalculatorDisplay::paste(StringView text)
 {
-    const String pasted = trimmed(text);
+    const StringView pasted = withoutBlankEnds(text);
     if (pasted.empty() || !std::ranges::all_of(pasted, isTermSign)) {
         return CalculatorAnswer::Ignored;
     }
