@@ -44,9 +44,10 @@ phial::String groupTitle(Group group)
 std::vector<Exhibit> catalogue()
 {
     std::vector<Exhibit> all;
-    for (const auto section : {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits,
-                               userExhibits, keyboardExhibits, markupExhibits, helpExhibits, resultExhibits,
-                               formulaExhibits, soundExhibits, mascotExhibits, periodicExhibits}) {
+    for (const auto section :
+         {shownExhibits, inputExhibits, barExhibits, partExhibits, windowExhibits, userExhibits,
+          keyboardExhibits, deskExhibits, markupExhibits, helpExhibits, resultExhibits, formulaExhibits,
+          soundExhibits, mascotExhibits, periodicExhibits}) {
         std::ranges::move(section(), std::back_inserter(all));
     }
     std::ranges::stable_sort(all, {}, &Exhibit::group);

@@ -15,6 +15,7 @@ std::vector<Exhibit> partExhibits();
 std::vector<Exhibit> userExhibits();
 std::vector<Exhibit> windowExhibits();
 std::vector<Exhibit> keyboardExhibits();
+std::vector<Exhibit> deskExhibits();
 std::vector<Exhibit> markupExhibits();
 std::vector<Exhibit> helpExhibits();
 std::vector<Exhibit> resultExhibits();

@@ -11,9 +11,14 @@
 #include "chem/MoleculeTable.h"
 #include "chem/MoleculeViewer.h"
 #include "core/CoreDialogs.h"
+#include "core/CoreDisplay.h"
 #include "core/CoreParameters.h"
 #include "core/CoreRoot.h"
+#include "core/Locale.h"
+#include "core/NumberText.h"
 #include "core/RuntimeError.h"
+#include "desk/frm_ToolCalc.h"
+#include "server/cls_AppServer.h"
 #include "term/TermDraw.h"
 #include "term/TermHtml.h"
 #include "visual/Form.h"
@@ -70,6 +75,18 @@ std::optional<PixelSize> wantedSize()
         }
     }
     return wanted;
+}
+
+/// The teacher can switch the calculator off for a lesson; the pupil is told.
+bool isCalculatorAllowed()
+{
+    const auto& server = QVAPP()->SERVER();
+    if (!server->ONLINE() || server->SETTING(u"Calculator", true).toBoolean()) {
+        return true;
+    }
+    coreRoot().CoreDialogs().Info(LNG()->TRANSLATE(u"Der Taschenrechner ist in dieser Stunde ausgeschaltet.",
+                                                   u"The pocket calculator is switched off in this lesson."));
+    return false;
 }
 
 /// The place at which something of that length lies in the middle of the screen, with its beginning within.
@@ -145,6 +162,37 @@ bool cls_AppTools::RASMOL(StringView pTerm, StringView pRasName, bool pCheckOnly
 String cls_AppTools::TERM2HTML(StringView pFormula) const
 {
     return termToHtml(pFormula);
+}
+
+double cls_AppTools::CALC(const Variant& pDefault, std::int32_t pX, std::int32_t pY,
+                          const CoreTokenList* pVars, bool pShowPSE, const Variant& pReturnOnAbort,
+                          const String& pTitle, const CoreParameters* pFlags) const
+{
+    constexpr std::int32_t AtPointer = -1;
+    const double preset = pDefault.toReal();
+    std::optional<double> result;
+    if (isCalculatorAllowed()) {
+        const CoreDisplay& display = coreRoot().CoreDisplay();
+        const Screen& screen = visualHost().screen();
+        frm_ToolCalc form;
+        if (pVars) {
+            form.Variables(*pVars);
+        }
+        form.Corner(PixelPoint{pX == AtPointer ? display.CursorX() * screen.TwipsPerPixelX() : pX,
+                               pY == AtPointer ? display.CursorY() * screen.TwipsPerPixelY() : pY});
+        if (pFlags) {
+            form.Parameters().CopyFrom(*pFlags);
+        }
+        form.ShowPSE(pShowPSE);
+        form.Preset(preset);
+        form.Title(pTitle);
+        form.Show();
+        result = form.result();
+    }
+    if (result) {
+        return *result;
+    }
+    return pReturnOnAbort == Variant(u"DEFAULT") ? preset : pReturnOnAbort.toReal();
 }
 
 std::int32_t cls_AppTools::stArt(StringView pApp, StringView pParameters, bool pWait, bool pRaiseErrors) const

@@ -2,6 +2,7 @@
 
 #include "core/Colour.h"
 #include "core/String.h"
+#include "core/Variant.h"
 
 #include <cstdint>
 #include <memory>
@@ -9,6 +10,8 @@
 namespace phial
 {
 
+class CoreParameters;
+class CoreTokenList;
 class DrawDevice;
 class Form;
 class MoleculeTable;
@@ -61,6 +64,22 @@ public:
     /// cannot be started 75, a path that leads out of APPS 5; without `pRaiseErrors` each gives -1.
     std::int32_t stArt(StringView pApp, StringView pParameters = {}, bool pWait = false,
                        bool pRaiseErrors = true) const;
+
+    /// Opens the pocket calculator (see desk/frm_ToolCalc.h) over the program and gives its result.
+    ///
+    /// `pDefault` stands on its line at first; what is no number raises 13. `pX` and `pY` are the window's
+    /// upper left corner in twips, -1 the pointer's place; all of it goes onto the screen. Each of `pVars`
+    /// becomes a key: a name with a value, and a unit behind it where it has one. `pShowPSE` opens the
+    /// periodic table beside the keys. An empty title leaves the usual one. Of `pFlags` "TASK" is a text to
+    /// stand above the keys.
+    ///
+    /// Closed otherwise than by OK it gives `pDefault`, or `pReturnOnAbort` where that is not the text
+    /// "DEFAULT". So it does at once, and says so, where the teacher has switched the calculator off: the
+    /// classroom's setting "Calculator".
+    double CALC(const Variant& pDefault = 0, std::int32_t pX = -1, std::int32_t pY = -1,
+                const CoreTokenList* pVars = nullptr, bool pShowPSE = false,
+                const Variant& pReturnOnAbort = u"DEFAULT", const String& pTitle = {},
+                const CoreParameters* pFlags = nullptr) const;
 
 private:
     std::shared_ptr<const MoleculeTable> molecules_; // read at first use

@@ -8,6 +8,8 @@
 #include "app/screen/frm_Resource.h"
 #include "app/sys_Global.h"
 #include "core/NativePath.h"
+#include "desk/CalculatorDesign.h"
+#include "desk/frm_ToolCalc.h"
 #include "dialogs/DialogHelpImagesDesign.h"
 #include "dialogs/DialogKeyboardDesign.h"
 #include "dialogs/DialogKeyboardPSEDesign.h"
@@ -80,6 +82,12 @@ inline MadeForm makePeriodicKeyboard()
 {
     QVAPP()->URL()->ROOT(systemPath(treeFolder()) + u"\\");
     return makeLibraryForm<frm_DialogKeyboardPSE>();
+}
+
+inline MadeForm makeCalculator()
+{
+    QVAPP()->URL()->ROOT(systemPath(treeFolder()) + u"\\");
+    return makeLibraryForm<frm_ToolCalc>();
 }
 
 /// The praise window with a word of praise.
@@ -177,6 +185,13 @@ inline std::vector<LibraryForm> libraryForms()
          .pairs = {},
          .data = {},
          .shown = false},
+        {.name = u"frm_ToolCalc",
+         .make = makeCalculator,
+         .design = &tool_calc_design::Design,
+         .pairs = {u"Speicher 1|Memory 1", u"Speicher 2|Memory 2", u"Speicher 3|Memory 3",
+                   u"Speicher 4|Memory 4"},
+         .data = {u"0", u"M1", u"M2", u"M3", u"M4"},
+         .aborts = true},
     };
 }
 

@@ -3,7 +3,7 @@ import re
 
 # Each may use those before it. The root and its sub-objects use all of them, since they hand them out; so do the
 # frame's own dialogs.
-SUBSYSTEMS = ("app", "chem", "term", "calc", "media", "results", "server", "mascot", "periodic", "dialogs")
+SUBSYSTEMS = ("app", "chem", "term", "calc", "media", "results", "server", "mascot", "periodic", "dialogs", "desk")
 ROOTS_OWN = re.compile(r"(cls_App\w*|StartUp|Session|frm_DialogUser)\.cpp$")
 SYSTEM = ("core", "visual", *SUBSYSTEMS)
 # What each folder of src/ may include besides itself. Subsystems reach each other through the root; their .cpp

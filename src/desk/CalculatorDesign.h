@@ -11,14 +11,14 @@ inline constexpr double Margin = 16;
 inline constexpr double Gap = 8;
 
 inline constexpr double KeyWidth = 64;
-inline constexpr double KeyHeight = 48;
+inline constexpr double KeyHeight = 46;
 inline constexpr std::int32_t Columns = 5;
 inline constexpr std::int32_t Rows = 6;
 inline constexpr double KeypadWidth = Columns * KeyWidth + (Columns - 1) * Gap;
 
 inline constexpr double DisplayHeight = 64;
 inline constexpr double ReadingTop = Margin + DisplayHeight + 4;
-inline constexpr double ReadingHeight = 44;
+inline constexpr double ReadingHeight = 38;
 inline constexpr double KeysTop = ReadingTop + ReadingHeight + Gap;
 inline constexpr double CalcWidth = Margin + KeypadWidth + Margin;
 inline constexpr double CalcHeight = KeysTop + Rows * KeyHeight + (Rows - 1) * Gap + Margin;
@@ -29,7 +29,9 @@ inline constexpr double TableWidth = 624;
 inline constexpr double MemoryHeight = 40;
 inline constexpr double StoreWidth = 64;
 inline constexpr double TapeTitleHeight = 24;
+inline constexpr double TapeMargin = 12; ///< what the list keeps free of each line's width
 inline constexpr double VariableHeight = 44;
+inline constexpr double LeastVariableWidth = 110;
 
 /// The display's font begins with this size and goes down to the least.
 inline constexpr double LargestPoints = 26;

@@ -1,4 +1,4 @@
-#include "tools/CalculatorDesign.h"
+#include "desk/CalculatorDesign.h"
 
 #include "mascot/ctl_Bubble.h"
 #include "periodic/ctl_PSE.h"
@@ -30,20 +30,34 @@ constexpr ControlDesign key(std::int32_t index, std::int32_t row, std::int32_t c
         .spoken(spoken);
 }
 
+/// A key that keeps the value of the line in that memory, counted from 1.
+constexpr ControlDesign store(std::int32_t memory, StringView face, StringView spoken)
+{
+    return design<ctl_Button>(u"but_Key", {0, 0, StoreWidth, MemoryHeight}, face)
+        .at(FirstStoreKey + memory - 1)
+        .font(11)
+        .spoken(spoken);
+}
+
 constexpr ControlDesign CalcControls[] = {
-    design<ctl_Pannel>(u"bar_Task", {0, 0, CalcWidth, 0}).ground(Palette::AccentSoft).hidden(),
+    design<ctl_Pannel>(u"bar_Task", {0, 0, CalcWidth, 0})
+        .ground(Palette::AccentSoft)
+        .edge(Palette::AccentSoft)
+        .hidden(),
     design<ctl_Label>(u"lab_Task", {Margin, Gap, CalcWidth - 2 * Margin, 20})
         .inside(u"bar_Task")
         .font(12)
         .ink(Palette::Ink)
         .set(u"AutoSize", true),
-    design<ctl_Pannel>(u"bar_Calc", {0, 0, CalcWidth, CalcHeight}).ground(Palette::Ground),
+    design<ctl_Pannel>(u"bar_Calc", {0, 0, CalcWidth, CalcHeight})
+        .ground(Palette::Ground)
+        .edge(Palette::Ground),
     design<Shape>(u"shp_Display", {Margin, Margin, KeypadWidth, DisplayHeight})
         .inside(u"bar_Calc")
-        .set(u"BackColor", Palette::Field)
-        .set(u"BackStyle", 1)
+        .set(u"FillColor", Palette::Field)
+        .set(u"FillStyle", FillStyle::Solid)
         .edge(Palette::ControlBorder),
-    design<ctl_Label>(u"Label2", {Margin + 6, Margin + 4, 60, 16}, u"RAD|RAD")
+    design<ctl_Label>(u"Label2", {Margin + 6, Margin + 4, 60, 16}, u"RAD")
         .inside(u"bar_Calc")
         .font(8)
         .ink(Palette::Muted)
@@ -77,8 +91,8 @@ constexpr ControlDesign CalcControls[] = {
     key(1, 3, 0, u"1", u"1|1"),
     key(2, 3, 1, u"2", u"2|2"),
     key(3, 3, 2, u"3", u"3|3"),
-    key(14, 3, 3, u"+", u"plus|plus"),
-    key(15, 3, 4, u"−", u"minus|minus"),
+    key(14, 3, 3, u"+", u"plus"),
+    key(15, 3, 4, u"−", u"minus"),
     key(0, 4, 0, u"0", u"0|0"),
     key(16, 4, 1, u",", u"Komma|Decimal sign"),
     key(17, 4, 2, u"(−)", u"Vorzeichen|Sign"),
@@ -98,12 +112,15 @@ constexpr ControlDesign CalcControls[] = {
         .set(u"BACKCOLOR", Palette::Ground)
         .set(u"Colouring", TableColours::ByTheme)
         .hidden(),
-    design<ctl_Button>(u"but_Key", {0, 0, StoreWidth, MemoryHeight}, u"STO")
-        .repeated(4, 4, StoreWidth, 0)
-        .at(FirstStoreKey)
-        .font(11),
+    store(1, u"STO1", u"In Speicher 1|Store in memory 1"),
+    store(2, u"STO2", u"In Speicher 2|Store in memory 2"),
+    store(3, u"STO3", u"In Speicher 3|Store in memory 3"),
+    store(4, u"STO4", u"In Speicher 4|Store in memory 4"),
     design<ctl_Button>(u"but_Recall", {0, 0, 100, MemoryHeight}).repeated(4, 4, 100, 0).font(11),
-    design<ctl_Pannel>(u"bar_Var", {0, 0, CalcWidth, 0}).ground(Palette::Footer).hidden(),
+    design<ctl_Pannel>(u"bar_Var", {0, 0, CalcWidth, 0})
+        .ground(Palette::Footer)
+        .edge(Palette::Footer)
+        .hidden(),
     design<ctl_Bubble>(u"ctl_Bubble1", {0, 0, 170, 90}).hidden(),
 };
 

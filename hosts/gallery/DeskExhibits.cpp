@@ -1,0 +1,73 @@
+#include "core/CoreTokenList.h"
+#include "desk/frm_ToolCalc.h"
+#include "gallery/ActionExhibit.h"
+#include "gallery/Catalogue.h"
+#include "visual/ctl_Button.h"
+
+#include <initializer_list>
+#include <memory>
+#include <vector>
+
+namespace gallery
+{
+
+using namespace phial;
+
+namespace
+{
+
+// Keys of the calculator, by their index.
+constexpr std::int32_t Times = 12;
+constexpr std::int32_t Equals = 19;
+constexpr std::int32_t Table = 20;
+constexpr std::int32_t Open = 10;
+constexpr std::int32_t Close = 11;
+constexpr std::int32_t Comma = 16;
+constexpr std::int32_t FirstStore = 40;
+
+ObjectPtr buildCalculator(Stage& stage)
+{
+    putNote(stage, {24, 4, stage.size().width - 48, 68},
+            u"Der Knopf unten öffnet den Taschenrechner mit einer Aufgabe.|"
+            u"The button below opens the pocket calculator with a task.");
+    const auto made = std::make_shared<frm_ToolCalc>();
+    CoreTokenList variables;
+    variables.Add(u"n", {0.25, u"mol"});
+    variables.Add(u"M", {58.5, u"g/mol"});
+    variables.Add(u"V", {2, u"l"});
+    made->Variables(variables);
+    made->Parameters().Set(u"TASK", say(u"Wie viel wiegen 0,25 mol Natriumchlorid?|"
+                                        u"How much do 0.25 mol of sodium chloride weigh?"));
+    stage.atEnd([made] { made->form().discard(); });
+    return made->form().shared_from_this();
+}
+
+/// Opens it and strikes keys one after the other.
+Sample struckKeys(StringView name, std::initializer_list<std::int32_t> keys)
+{
+    return sample<Form>(name, [keys = std::vector(keys)](Form& form) {
+        form.Show();
+        for (const std::int32_t key : keys) {
+            form.control<ctl_Button>(u"but_Key", key)->click();
+        }
+    });
+}
+
+} // namespace
+
+std::vector<Exhibit> deskExhibits()
+{
+    return {Exhibit{
+        .group = Group::Windows,
+        .title = u"frm_ToolCalc",
+        .about = u"Der Taschenrechner.|The pocket calculator.",
+        .build = buildCalculator,
+        .samples = {struckKeys(u"Zeigen|Show", {}),
+                    struckKeys(u"Gerechnet|Worked out", {3, Times, 1, 8, Equals, FirstStore, Comma, 5}),
+                    struckKeys(u"Fehler|Error", {Open, 2, Close, 3, Close, Equals}),
+                    struckKeys(u"Periodensystem|Periodic table", {Table, 3, Times, 1, 8})},
+        .editable = false,
+        .everyLook = true}};
+}
+
+} // namespace gallery
