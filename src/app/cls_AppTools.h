@@ -71,7 +71,7 @@ public:
     /// upper left corner in twips, -1 the pointer's place; all of it goes onto the screen. Each of `pVars`
     /// becomes a key: a name with a value, and a unit behind it where it has one. `pShowPSE` opens the
     /// periodic table beside the keys. An empty title leaves the usual one. Of `pFlags` "TASK" is a text to
-    /// stand above the keys.
+    /// stand above the keys, and "FORMULA" as False takes the key for molar masses of formulas away.
     ///
     /// Closed otherwise than by OK it gives `pDefault`, or `pReturnOnAbort` where that is not the text
     /// "DEFAULT". So it does at once, and says so, where the teacher has switched the calculator off: the

@@ -5,7 +5,6 @@
 #include "core/RuntimeError.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
 namespace phial
@@ -48,16 +47,6 @@ String asShown(StringView text)
         shown.erase(0, 1);
     }
     return shown;
-}
-
-/// The nearest number of so many significant digits.
-double roundedToDigits(double value, int digits)
-{
-    std::array<char, 32> buffer{};
-    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                       std::chars_format::scientific, digits - 1);
-    std::from_chars(buffer.data(), written.ptr, value);
-    return value;
 }
 
 struct TypedKey {
@@ -262,12 +251,7 @@ CalculatorAnswer CalculatorDisplay::addMass(double mass)
 
 String CalculatorDisplay::fitted(double value) const
 {
-    constexpr int AllDigits = 15;
-    String text = plainText(value, decimalSign_);
-    for (int digits = AllDigits - 1; text.size() > Room; --digits) {
-        text = plainText(roundedToDigits(value, digits), decimalSign_);
-    }
-    return text;
+    return textInRoom(value, Room, decimalSign_);
 }
 
 std::size_t CalculatorDisplay::checked(std::int32_t memory)

@@ -1,6 +1,7 @@
 #include "calc/SignificantDigits.h"
 
 #include "calc/TermPieces.h"
+#include "core/NumberText.h"
 
 #include <algorithm>
 #include <array>
@@ -66,6 +67,16 @@ String withDigits(double value, int digits, char16_t decimalSign)
                : written(value, std::chars_format::fixed, digits - 1 - magnitude, decimalSign);
 }
 
+/// The nearest number of so many significant digits.
+double roundedToDigits(double value, int digits)
+{
+    std::array<char, 32> buffer{};
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                       std::chars_format::scientific, digits - 1);
+    std::from_chars(buffer.data(), written.ptr, value);
+    return value;
+}
+
 } // namespace
 
 std::optional<String> inSignificantDigits(double value, StringView term, char16_t decimalSign)
@@ -94,6 +105,16 @@ std::optional<String> inSignificantDigits(double value, StringView term, char16_
     }
     return isSum ? written(value, std::chars_format::fixed, std::min(least.decimals, AllDigits), decimalSign)
                  : withDigits(value, std::min(least.digits, AllDigits), decimalSign);
+}
+
+String textInRoom(double value, std::size_t room, char16_t decimalSign)
+{
+    constexpr int AllDigits = 15;
+    String text = plainText(value, decimalSign);
+    for (int digits = AllDigits - 1; text.size() > room && digits > 0; --digits) {
+        text = plainText(roundedToDigits(value, digits), decimalSign);
+    }
+    return text;
 }
 
 } // namespace phial

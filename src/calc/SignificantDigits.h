@@ -16,4 +16,8 @@ namespace phial
 /// 0.0001, the value has an exponent: 1,2E+05.
 std::optional<String> inSignificantDigits(double value, StringView term, char16_t decimalSign);
 
+/// The number with as many of its 15 significant digits as so many signs have room for, never without its
+/// exponent. 20 signs have room for every number; what not even one digit helps is longer than the room.
+String textInRoom(double value, std::size_t room, char16_t decimalSign);
+
 } // namespace phial

@@ -42,6 +42,7 @@ constexpr StringView DigitsKey = u"DIGITS";
 
 constexpr std::int32_t CommaIndex = 16;
 constexpr std::int32_t EqualsIndex = 19;
+constexpr std::int32_t FormulaIndex = 21;
 constexpr std::int32_t DigitsIndex = 26;
 
 /// What each key is called, by its index; its face may show another sign.
@@ -72,7 +73,7 @@ constexpr KeyText KeyTexts[] = {
     {18, u"^"},
     {EqualsIndex, u"="},
     {20, TableKey},
-    {21, FormulaKey},
+    {FormulaIndex, FormulaKey},
     {22, u"log"},
     {23, u"<-"},
     {24, u"CE"},
@@ -111,7 +112,6 @@ frm_ToolCalc::frm_ToolCalc()
     }
     table_->BUBBLE(form_->control<ctl_Bubble>(u"ctl_Bubble1"));
     connect();
-    TRANSLATE();
     showTerm();
 }
 
@@ -184,6 +184,7 @@ void frm_ToolCalc::TRANSLATE()
 void frm_ToolCalc::load()
 {
     isTableThere_ = checkElementFile();
+    keys_(FormulaIndex)->Enabled(parameters_.Get(u"FORMULA", true).toBoolean());
     makeVariableKeys();
     TRANSLATE();
     if (std::exchange(showsTable_, false)) {

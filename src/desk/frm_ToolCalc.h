@@ -39,7 +39,8 @@ public:
     // Set before it is shown.
     /// Names with a value each, and a unit behind it where that has one; each becomes a key.
     void Variables(const CoreTokenList& value);
-    /// "TASK" is a text that stands above the keys.
+    /// "TASK" is a text that stands above the keys. With "FORMULA" as False nobody is told the molar masses
+    /// of formulas.
     CoreParameters& Parameters() { return parameters_; }
     /// Whether the periodic table is open at first.
     void ShowPSE(bool value) { showsTable_ = value; }

@@ -19,6 +19,16 @@ std::string shownIn(StringView term)
     return toUtf8(inSignificantDigits(value, term, u',').value_or(u""));
 }
 
+TEST(TextInRoom, HasAsManyDigitsAsThereIsRoomFor)
+{
+    EXPECT_EQ(textInRoom(18.015, 12, u','), u"18,015");
+    EXPECT_EQ(textInRoom(1.0 / 3, 12, u','), u"0,3333333333");
+    EXPECT_EQ(textInRoom(2.0 / 3, 6, u'.'), u"0.6667");
+    EXPECT_EQ(textInRoom(-1E-20 / 3, 20, u','), u"-3,3333333333333E-21");
+    EXPECT_EQ(textInRoom(-1E-20 / 3, 12, u','), u"-3,33333E-21");
+    EXPECT_EQ(textInRoom(123456, 4, u','), u"100000") << "not without its value";
+}
+
 } // namespace
 
 TEST(SignificantDigits, AProductHasThoseOfTheLeastExactNumber)
