@@ -87,13 +87,14 @@ inline constexpr ControlDesign headerButton(StringView name, ControlDesign::Rect
 }
 
 /// What the frame leaves to the app on its page of tasks, `pan_Task`: the card with the task, the place of
-/// the answer beside the button that checks it, and that of the button that opens a pad to type it with. The
-/// pad has room above that, beside the card.
+/// the answer beside the button that checks it, and those of the buttons that open a pad to type it with and
+/// the pocket calculator. The pad has room above that, beside the card.
 namespace TaskPlaces
 {
 inline constexpr ControlDesign::Rectangle Card{32, 80, 560, 172};
 inline constexpr ControlDesign::Rectangle Answer{32, 272, 328, 64};
 inline constexpr ControlDesign::Rectangle Pad{640, 272, 228, 64};
+inline constexpr ControlDesign::Rectangle Calculator{640, 352, 228, 56};
 } // namespace TaskPlaces
 
 /// The same for an app whose task is one large board: the board, and a title beside it. The board leaves

@@ -115,6 +115,8 @@ public:
     virtual phial::String answer() const = 0;
     /// What the present answer is worth.
     virtual Judgement judge() = 0;
+    /// Opens the pocket calculator for the present answer; an app whose answers are no numbers has none.
+    virtual void calculate() {}
     /// The present answer is to be replaced by what is typed next.
     virtual void retry() {}
     /// The task is decided: its answer can be read and no longer changed.

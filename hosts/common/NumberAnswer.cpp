@@ -1,11 +1,18 @@
 #include "common/NumberAnswer.h"
 
 #include "app/cls_App.h"
+#include "app/cls_AppTools.h"
 #include "app/sys_Global.h"
+#include "calc/SignificantDigits.h"
 #include "common/FrameTexts.h"
 #include "core/CoreNumbers.h"
+#include "core/CoreParameters.h"
+#include "core/Locale.h"
 #include "core/NumberText.h"
 #include "media/cls_AppMedia.h"
+
+#include <cmath>
+#include <limits>
 
 namespace learning
 {
@@ -19,7 +26,8 @@ std::optional<double> typedNumber(phial::StringView text)
 NumberAnswer::NumberAnswer(phial::Form& form, const phial::ControlPtr& task)
     : lock_(form), field_(form.control<phial::ctl_QVInput>(u"txt_Answer")),
       input_(std::static_pointer_cast<phial::TextBox>(field_->input().shared_from_this())),
-      pad_(form.control<phial::ctl_Button>(u"but_Pad"))
+      pad_(form.control<phial::ctl_Button>(u"but_Pad")),
+      calculator_(std::dynamic_pointer_cast<phial::ctl_Button>(form.find(u"but_Calculator")))
 {
     field_->KeyboardBeside(task);
     pressing_ = pad_->CLICK.connect([this] {
@@ -52,6 +60,25 @@ phial::String NumberAnswer::unreadable()
                      u"Please type a number, for example 12.5.");
 }
 
+void NumberAnswer::calculate(const phial::String& task)
+{
+    if (input_->Locked()) {
+        return;
+    }
+    constexpr double NotTaken = std::numeric_limits<double>::quiet_NaN();
+    constexpr std::int32_t AtPointer = -1;
+    phial::CoreParameters flags;
+    flags.Set(u"TASK", task);
+    flags.Set(u"FORMULA", false);
+    const double result =
+        phial::QVAPP()->TOOLS()->CALC(0, AtPointer, AtPointer, nullptr, false, NotTaken, {}, &flags);
+    const phial::String text = phial::textInRoom(result, Room, phial::currentLocale().decimalSign);
+    if (!std::isnan(result) && text.size() <= Room) {
+        type(text);
+    }
+    input_->SetFocus();
+}
+
 void NumberAnswer::open()
 {
     input_->Text({});
@@ -65,6 +92,9 @@ void NumberAnswer::look(bool decided)
     input_->ForeColor(decided ? phial::Palette::DisabledText : phial::Palette::Ink);
     lock_.Visible(decided);
     pad_->Enabled(!decided);
+    if (calculator_) {
+        calculator_->Enabled(!decided);
+    }
 }
 
 void NumberAnswer::retry()

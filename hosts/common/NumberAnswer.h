@@ -30,13 +30,22 @@ public:
             .ground(phial::Palette::Surface)
             .set(u"MODE", phial::ID_InputMode_Double)
             .set(u"AsTyped", true)
-            .set(u"MaxLength", 12)
+            .set(u"MaxLength", static_cast<std::int32_t>(Room))
             .spoken(spoken);
     }
     /// The row of the button that opens the pad.
     static constexpr phial::ControlDesign pad()
     {
         return frame_design::sideButton(u"but_Pad", frame_design::TaskPlaces::Pad, u"Zahlenblock|Number pad")
+            .inside(u"pan_Task")
+            .unfocusable();
+    }
+    /// The row of the button that opens the pocket calculator, which an app may leave out. The app calls
+    /// `calculate` at its press.
+    static constexpr phial::ControlDesign calculator()
+    {
+        return frame_design::sideButton(u"but_Calculator", frame_design::TaskPlaces::Calculator,
+                                        u"Taschenrechner (F4)|Pocket calculator (F4)")
             .inside(u"pan_Task")
             .unfocusable();
     }
@@ -69,6 +78,11 @@ public:
     /// The same text for the same number, however it is written; empty where it is none.
     phial::String text() const;
 
+    /// Opens the pocket calculator, over which the task's text stands. The result that the pupil takes there
+    /// becomes the answer, with as many digits as the field has room for. It knows no molar masses of
+    /// formulas, which could be the solution. Nothing happens once the answer is closed.
+    void calculate(const phial::String& task);
+
     /// Empties the field for a new task.
     void open();
     /// What is typed next replaces what stands there.
@@ -81,6 +95,7 @@ public:
 
 private:
     static constexpr double FieldWidth = 220;
+    static constexpr std::size_t Room = 12; ///< signs
 
     void look(bool decided);
 
@@ -88,6 +103,7 @@ private:
     std::shared_ptr<phial::ctl_QVInput> field_;
     std::shared_ptr<phial::TextBox> input_; ///< within it
     std::shared_ptr<phial::ctl_Button> pad_;
+    std::shared_ptr<phial::ctl_Button> calculator_; ///< null where the app has no row for it
     phial::Connection pressing_;
 };
 

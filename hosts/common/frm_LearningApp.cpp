@@ -42,9 +42,10 @@ namespace
 
 constexpr auto FullScreenKey = // F11
     static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 10);
-constexpr auto ReferenceKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 1); // F2
-constexpr auto SayAgainKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 2);  // F3
-constexpr auto HintKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 3);      // F4
+constexpr auto ReferenceKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 1);  // F2
+constexpr auto SayAgainKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 2);   // F3
+constexpr auto CalculatorKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 3); // F4
+constexpr auto HintKey = static_cast<phial::Key>(static_cast<std::int32_t>(phial::Key::F1) + 4);       // F5
 constexpr StringView HelpFolder = u"Hilfe\\";
 constexpr std::int32_t AskingInterval = 5'000; // milliseconds
 
@@ -355,7 +356,7 @@ void frm_LearningApp::nameHelp()
     get<phial::ctl_Button>(u"but_Help")->frame().ToolTipText(translate(u"Hilfe (F1)", u"Help (F1)"));
     get<phial::ctl_Button>(u"but_Hint")
         ->frame()
-        .ToolTipText(translate(u"Tipp zeigen (F4)", u"Show the hint (F4)"));
+        .ToolTipText(translate(u"Tipp zeigen (F5)", u"Show the hint (F5)"));
 }
 
 void frm_LearningApp::enterClassroom()
@@ -601,6 +602,13 @@ std::function<void()> frm_LearningApp::actionOf(const phial::KeyEvent& event)
         return [this] {
             if (page_ == Page::Task) {
                 tasks_->giveHint();
+            }
+        };
+    }
+    if (event.is(CalculatorKey)) {
+        return [this] {
+            if (page_ == Page::Task) {
+                app_->calculate();
             }
         };
     }

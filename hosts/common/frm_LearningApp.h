@@ -23,8 +23,9 @@ namespace learning
 /// The window of a learning app: choice of the level, the tasks of a round, the summary; or what is missing,
 /// or that the teacher has not opened the app yet. The header shows who works here, and changes it when it is
 /// pressed; the footer tells about the classroom. Return does what the coloured button says, F1 opens the
-/// help book, F2 the masses or whatever may be looked up, F3 repeats what the mascot has said last, F4 gives
-/// the hint, Escape ends; everything can be touched as well.
+/// help book, F2 the masses or whatever may be looked up, F3 repeats what the mascot has said last, F4 opens
+/// the pocket calculator where answers are numbers, F5 gives the hint, Escape ends; everything can be touched
+/// as well.
 class frm_LearningApp
 {
 public:

@@ -49,6 +49,7 @@ constexpr phial::ControlDesign Controls[] = {
     learning::NumberAnswer::row(u"Molare Masse in g/mol|Molar mass in g/mol"),
     learning::NumberAnswer::unit(u"g/mol|g/mol"),
     learning::NumberAnswer::pad(),
+    learning::NumberAnswer::calculator(),
 };
 
 } // namespace
@@ -82,6 +83,7 @@ void Trainer::attach(phial::Form& form)
 {
     card_.emplace(form);
     answer_.emplace(form, card_->panel());
+    calculating_ = form.control<phial::ctl_Button>(u"but_Calculator")->CLICK.connect([this] { calculate(); });
 }
 
 void Trainer::TRANSLATE()

@@ -36,6 +36,7 @@ public:
     phial::String taskTitle() const override { return learning::formulaLine(task_.text); }
     phial::String answer() const override { return answer_->text(); }
     learning::Judgement judge() override;
+    void calculate() override { answer_->calculate(taskTitle()); }
     void retry() override { answer_->retry(); }
     void close() override { answer_->close(); }
     phial::ControlPtr field() const override { return answer_->field(); }
@@ -61,6 +62,7 @@ private:
     std::optional<double> judged_; ///< the last answer, in g/mol
     std::optional<learning::FormulaCard> card_;
     std::optional<learning::NumberAnswer> answer_;
+    phial::Connection calculating_;
 };
 
 } // namespace molmasse

@@ -205,7 +205,7 @@ TEST_F(BoardRoom, LeavesEscapeToABoardThatWantsIt)
 
 TEST_F(BoardRoom, HasTheKeysOfTheFrameAllTheSame)
 {
-    phial::headless::type(form(), u"{f4}");
+    phial::headless::type(form(), u"{f5}");
     EXPECT_EQ(form().control<phial::ctl_Label>(u"lab_Hint")->Caption(), u"Tipp");
 }
 

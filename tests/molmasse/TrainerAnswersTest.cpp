@@ -3,6 +3,8 @@
 #include "molmasse/TrainerTest.h"
 #include "support/Contrast.h"
 #include "visual/Shape.h"
+#include "visual/ctl_Button.h"
+#include "visual/ctl_Label.h"
 
 namespace molmasse
 {
@@ -207,7 +209,7 @@ TEST_F(TrainerTest, ARightAnswerIsWorkedOutToo)
     openInstalled();
     type(u"{enter}18{enter}");
     EXPECT_EQ(seen(u"lab_Hint"), u"2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
-    type(u"{f4}"); // there is nothing left to give a hint for
+    type(u"{f5}"); // there is nothing left to give a hint for
     EXPECT_EQ(seen(u"lab_Hint"), u"2 · 1,0 + 16,0 = 2,0 + 16,0 = 18,0\u00A0g/mol");
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
 }
@@ -242,10 +244,10 @@ TEST_F(TrainerTest, WhatIsNoNumberIsTurnedDownWithoutLosingATry)
     EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
 }
 
-TEST_F(TrainerTest, F4ShowsTheAtomsCountedAndCostsThreePoints)
+TEST_F(TrainerTest, F5ShowsTheAtomsCountedAndCostsThreePoints)
 {
     openInstalled();
-    type(u"{enter}{f4}");
+    type(u"{enter}{f5}");
 
     EXPECT_EQ(seen(u"lab_Hint"), u"2 \u00D7 H (1,0\u00A0g/mol)<br>1 \u00D7 O (16,0\u00A0g/mol)");
     EXPECT_EQ(focused(), u"txt_Answer");
@@ -254,7 +256,7 @@ TEST_F(TrainerTest, F4ShowsTheAtomsCountedAndCostsThreePoints)
     EXPECT_EQ(seen(u"lab_Points"), u"7 Punkte");
 }
 
-TEST_F(TrainerTest, TheHintButtonDoesAsF4)
+TEST_F(TrainerTest, TheHintButtonDoesAsF5)
 {
     openInstalled();
     touch(u"but_Level", 0);
@@ -267,11 +269,56 @@ TEST_F(TrainerTest, TheHintButtonDoesAsF4)
     EXPECT_EQ(seen(u"lab_Points"), u"7 Punkte");
 }
 
-TEST_F(TrainerTest, F4DoesNothingOutsideATask)
+/// Works out a term on the calculator that opens next.
+void playCalculator(phial::headless::HeadlessVisualHost& visual, phial::StringView term, bool takes)
+{
+    visual.onModal(u"frm_ToolCalc", [term = phial::String(term), takes](phial::Form& calculator) {
+        constexpr std::int32_t FormulaKey = 21;
+        EXPECT_FALSE(calculator.control<phial::ctl_Button>(u"but_Key", FormulaKey)->Enabled());
+        EXPECT_EQ(calculator.control<phial::ctl_Label>(u"lab_Task")->Caption(), u"H\u2082O");
+        for (const char16_t sign : term) {
+            phial::headless::strike(calculator, {.character = sign});
+        }
+        phial::headless::strike(calculator, takes ? phial::KeyStroke{.key = phial::Key::Return,
+                                                                     .Shift = phial::ShiftMask::Control}
+                                                  : phial::KeyStroke{.key = phial::Key::Escape});
+    });
+}
+
+TEST_F(TrainerTest, F4OpensTheCalculatorAndTakesItsResultIntoTheAnswer)
+{
+    openInstalled();
+    type(u"{enter}");
+    playCalculator(outside.visual(), u"2*1+16", true);
+    type(u"{f4}");
+    EXPECT_EQ(answer(), u"18");
+    EXPECT_EQ(focused(), u"txt_Answer");
+    type(u"{enter}");
+    EXPECT_EQ(seen(u"lab_Points"), u"10 Punkte");
+    type(u"{f4}");
+    EXPECT_EQ(answer(), u"18") << "closed, and no calculator comes";
+}
+
+TEST_F(TrainerTest, TheCalculatorsButtonDoesAsF4AndClosedOtherwiseNothing)
+{
+    openInstalled();
+    type(u"{enter}7");
+    playCalculator(outside.visual(), u"2*1+16", false);
+    touch(u"but_Calculator");
+    EXPECT_EQ(answer(), u"7");
+    playCalculator(outside.visual(), u"1/3", true);
+    touch(u"but_Calculator");
+    EXPECT_EQ(answer(), u"0,3333333333");
+    playCalculator(outside.visual(), u"10^14", true);
+    touch(u"but_Calculator");
+    EXPECT_EQ(answer(), u"0,3333333333") << "no number is cut";
+}
+
+TEST_F(TrainerTest, F4AndF5DoNothingOutsideATask)
 {
     openInstalled();
 
-    type(u"{f4}");
+    type(u"{f4}{f5}");
 
     EXPECT_TRUE(isSeen(u"pan_Start"));
     EXPECT_TRUE(isOpen());

@@ -284,7 +284,7 @@ TEST_F(TrainerMascot, LooksCalmAfterTheThirdTry)
 TEST_F(TrainerMascot, SmilesAtTheHint)
 {
     begin();
-    type(u"{F4}");
+    type(u"{F5}");
     EXPECT_EQ(atom().MOOD(), Mood::ID_DrAtomMood_Happy);
     EXPECT_EQ(said(), u"") << "the page tells it";
 }

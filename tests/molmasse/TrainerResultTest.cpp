@@ -294,7 +294,7 @@ TEST_F(TrainerResult, ShowsTheMarkAsASignAndInWords)
     touch(u"but_Again");
     touch(u"but_Level", 1);
     expectRankBox();
-    type(u"1{enter}{f4}36,5{enter}{enter}");
+    type(u"1{enter}{f5}36,5{enter}{enter}");
     EXPECT_EQ(mark()->MARK(), phial::enm_Mark::ID_Mark_4M);
     EXPECT_EQ(seen(u"lab_Mark"), u"Note 4- (Ausreichend minus)");
     EXPECT_EQ(seen(u"lab_Rank"), u"Platz 2 der Bestenliste");

@@ -233,7 +233,7 @@ TEST_F(TrainerTest, ScreenReadersSayTaskVerdictHintAndWorking)
     EXPECT_EQ(said(), seen(u"lab_Feedback") + u"\nAufgabe 1 von 2\nWasser, H2O");
     type(u"25{enter}");
     EXPECT_EQ(said(), u"Leider nicht. Du hast noch 2 Versuche.");
-    type(u"{f4}");
+    type(u"{f5}");
     EXPECT_EQ(said(), phial::plainMarkup(seen(u"lab_Hint")));
     type(u"18{enter}");
     EXPECT_EQ(said(),

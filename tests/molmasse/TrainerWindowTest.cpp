@@ -104,10 +104,10 @@ TEST_F(TrainerTest, TellsTheKeysOfHelpAndHint)
         return form().control<phial::ctl_Button>(button)->frame().ToolTipText();
     };
     EXPECT_EQ(tip(u"but_Help"), u"Hilfe (F1)");
-    EXPECT_EQ(tip(u"but_Hint"), u"Tipp zeigen (F4)");
+    EXPECT_EQ(tip(u"but_Hint"), u"Tipp zeigen (F5)");
     phial::LNG()->CURRENT(phial::ID_Language_English);
     EXPECT_EQ(tip(u"but_Help"), u"Help (F1)");
-    EXPECT_EQ(tip(u"but_Hint"), u"Show the hint (F4)");
+    EXPECT_EQ(tip(u"but_Hint"), u"Show the hint (F5)");
 }
 
 TEST_F(TrainerTest, FillsItsWindowAtEachSize)

@@ -170,7 +170,7 @@ TEST_F(PuzzleRound, TellsTheTrendsOfNeighboursAsHint)
 {
     begin(1);
     drag(0, Sodium); // not judged yet
-    type(u"{f4}");
+    type(u"{f5}");
     EXPECT_EQ(seen(u"lab_Hint"),
               u"K: steht unter Natrium, also auch ein Außenelektron, aber eine Schale mehr.");
     EXPECT_EQ(table().DRAGSYMBOLDROP(0), u"Na") << "what lies there unjudged stays";
