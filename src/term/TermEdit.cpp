@@ -98,6 +98,16 @@ bool TermEdit::eraseBehind()
     return change(at, behind(at) - at, {}, at);
 }
 
+bool TermEdit::replace(std::size_t at, std::size_t length, StringView piece)
+{
+    const std::size_t begin = heldPlace(at);
+    const std::size_t end = std::max(begin, heldPlace(begin + std::min(length, text_.size() - begin)));
+    const std::size_t kept = text_.size() - (end - begin);
+    const StringView fits = fitting(piece, LongestText - std::min(kept, LongestText));
+    return fits != StringView(text_).substr(begin, end - begin) &&
+           change(begin, end - begin, fits, begin + fits.size());
+}
+
 bool TermEdit::replace(StringView whole)
 {
     const StringView fits = fitting(whole, LongestText);

@@ -36,6 +36,8 @@ public:
     bool insert(StringView piece);
     bool eraseBefore();
     bool eraseBehind();
+    /// Another piece for so many units from a place on, all held to the text; the caret comes behind it.
+    bool replace(std::size_t at, std::size_t length, StringView piece);
     /// Another whole text. The caret's index stays.
     bool replace(StringView whole);
     /// Takes everything away.

@@ -80,6 +80,12 @@ void clt_TermInput::CARET(std::int32_t value)
     caretMoved();
 }
 
+void clt_TermInput::inset(std::int32_t pixels)
+{
+    inset_ = pixels;
+    refresh();
+}
+
 void clt_TermInput::readProperties(const PropertyBag& bag)
 {
     rows::read<Properties>(*this, bag);
@@ -115,7 +121,8 @@ PixelPoint clt_TermInput::anchor() const
 {
     const PixelSize size = surface_.size();
     const TextPlace place = placeOf(align_);
-    return {std::rint(along(size.width, place.horizontal)), std::rint(along(size.height, place.vertical))};
+    const double room = size.width - 2.0 * inset_;
+    return {inset_ + std::rint(along(room, place.horizontal)), std::rint(along(size.height, place.vertical))};
 }
 
 void clt_TermInput::layOut()
@@ -171,12 +178,13 @@ std::int32_t clt_TermInput::shiftForCaret() const
     const std::int32_t caret = places_.shownAt(shownCaret()).x;
     const std::int32_t left = places_.left();
     const std::int32_t right = places_.right();
-    if (left >= 0 && right <= width) {
+    if (left >= inset_ && right <= width - inset_) {
         return std::min(0, width - 1 - caret);
     }
-    const std::int32_t far = width - 1 - SightGap;
-    const auto [least, most] = std::minmax({far - right, SightGap - left});
-    const std::int32_t inSight = std::max(SightGap, std::min(caret + shift_, far)) - caret;
+    const std::int32_t near = std::max(SightGap, inset_);
+    const std::int32_t far = width - 1 - near;
+    const auto [least, most] = std::minmax({far - right, near - left});
+    const std::int32_t inSight = std::max(near, std::min(caret + shift_, far)) - caret;
     return std::clamp(inSight, least, most);
 }
 

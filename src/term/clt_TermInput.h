@@ -62,6 +62,13 @@ public:
     /// to the term, and never stands between the halves of a pair. No member by name.
     std::int32_t CARET() const { return edit_.caret(); }
     void CARET(std::int32_t value);
+    /// A change of the user's by other means than the field's own keys, such as a key beside it: so many
+    /// units from a place on become the piece, behind which the caret comes. It can be undone and raises
+    /// CHANGED; a locked field stays as it is.
+    void edit(std::size_t at, std::size_t length, StringView piece);
+    /// How far the term stays away from the field's left and right edge, in pixels; 0 at first.
+    std::int32_t inset() const { return inset_; }
+    void inset(std::int32_t pixels);
 
     Event<> CLICK;
     Event<const PointerEvent&> MouseDown;
@@ -145,8 +152,9 @@ private:
     Colour backColour_;
     SharedFont font_;
 
-    TermLayout layout_;      ///< of the term as it is shown, before it is moved
-    TermCaret places_;       ///< the layout's
+    TermLayout layout_; ///< of the term as it is shown, before it is moved
+    TermCaret places_;  ///< the layout's
+    std::int32_t inset_ = 0;
     std::int32_t shift_ = 0; ///< by which a long term is moved, in pixels
     bool focused_ = false;
     bool blinkOn_ = false;

@@ -167,6 +167,11 @@ bool clt_TermInput::command(const KeyEvent& event)
     }
 }
 
+void clt_TermInput::edit(std::size_t at, std::size_t length, StringView piece)
+{
+    changedBy(!locked_ && edit_.replace(at, length, piece));
+}
+
 void clt_TermInput::copy() const
 {
     if (!edit_.view().empty()) {

@@ -184,6 +184,38 @@ TEST(TermEditTest, AWholeTextIsOneStepAndTheSameOneNone)
     EXPECT_EQ(shown(edit), u"H|2O");
 }
 
+TEST(TermEditTest, APieceTakesThePlaceOfUnitsInOneStep)
+{
+    TermEdit edit = editOf(u"H|2S + O2");
+    EXPECT_TRUE(edit.replace(0, 3, u"H2SO4"));
+    EXPECT_EQ(shown(edit), u"H2SO4| + O2");
+    EXPECT_TRUE(edit.replace(8, 100, u"SO2")) << "held to the text";
+    EXPECT_EQ(shown(edit), u"H2SO4 + SO2|");
+    EXPECT_TRUE(edit.replace(100, 1, u"!"));
+    EXPECT_EQ(shown(edit), u"H2SO4 + SO2!|");
+    EXPECT_FALSE(edit.replace(0, 2, u"H2")) << "the same";
+    EXPECT_FALSE(edit.replace(3, 0, u""));
+    EXPECT_TRUE(edit.replace(1, 1, u""));
+    EXPECT_EQ(shown(edit), u"H|SO4 + SO2!");
+    for (int step = 0; step < 4; ++step) {
+        EXPECT_TRUE(edit.undo());
+    }
+    EXPECT_EQ(shown(edit), u"H|2S + O2");
+    EXPECT_FALSE(edit.undo());
+}
+
+TEST(TermEditTest, APieceNeitherPartsAPairNorOutgrowsTheText)
+{
+    TermEdit edit;
+    edit.text(u"a\U0001F600b");
+    EXPECT_TRUE(edit.replace(2, 1, u"c"));
+    EXPECT_EQ(edit.text(), u"ac\U0001F600b") << "before the pair whose middle was named";
+    edit.text(String(TermEdit::LongestText, u'a'));
+    EXPECT_TRUE(edit.replace(0, 1, u"bc"));
+    EXPECT_EQ(edit.text().size(), TermEdit::LongestText);
+    EXPECT_EQ(edit.text().substr(0, 2), u"ba");
+}
+
 TEST(TermEditTest, GrowsToItsLimitAndPartsNoPair)
 {
     TermEdit edit;

@@ -128,6 +128,38 @@ TEST_F(TermInputTest, TheAnchorFollowsTheAlignment)
     EXPECT_NE(drawn().find("text 80,18 \"AB\""), std::string::npos);
 }
 
+TEST_F(TermInputTest, TheTermStandsOffItsEdgesByTheInset)
+{
+    outside.display().blinksCaret(false);
+    field->inset(6);
+    EXPECT_EQ(field->inset(), 6);
+    edit(u"AB", 0);
+    EXPECT_EQ(caretX(), 6);
+    EXPECT_NE(drawn().find("text 6,8 \"AB\""), std::string::npos);
+    field->TEXTALIGN(TEXTALIGN::MiddleCentre);
+    EXPECT_NE(drawn().find("text 90,8 \"AB\""), std::string::npos);
+    field->TEXTALIGN(TEXTALIGN::MiddleRight);
+    EXPECT_NE(drawn().find("text 174,8 \"AB\""), std::string::npos);
+    field->CARET(2);
+    EXPECT_EQ(caretX(), 194);
+}
+
+TEST_F(TermInputTest, AChangeByOtherMeansIsTheUsers)
+{
+    int changes = 0;
+    const Connection changed = field->CHANGED.connect([&] { ++changes; });
+    edit(u"H2S", 1);
+    field->edit(0, 3, u"H2SO4");
+    EXPECT_EQ(shown(), u"H2SO4|");
+    EXPECT_EQ(changes, 1);
+    field->edit(0, 5, u"H2SO4");
+    EXPECT_EQ(changes, 1) << "nothing has changed";
+    field->LOCKED(true);
+    field->edit(0, 5, {});
+    EXPECT_EQ(shown(), u"H2SO4|");
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(TermInputTest, AtTheFarEdgeTheCaretHasAPixelToStandOn)
 {
     outside.display().blinksCaret(false);
@@ -391,6 +423,17 @@ TEST_F(LongTerms, MoveNoFurtherThanTheyMust)
     EXPECT_EQ(caretX(), 2);
     field->CARET(25);
     EXPECT_EQ(caretX(), 162);
+}
+
+TEST_F(LongTerms, KeepTheInsetAtBothEnds)
+{
+    field->inset(6);
+    edit(Long, 50);
+    EXPECT_EQ(caretX(), 193);
+    field->CARET(0);
+    EXPECT_EQ(caretX(), 6);
+    edit(String(19, u'a'), 19); // 190 pixels, of which 188 have room
+    EXPECT_EQ(caretX(), 193);
 }
 
 TEST_F(LongTerms, ATermThatFitsAgainStandsAtItsAnchor)
