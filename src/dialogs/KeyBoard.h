@@ -52,6 +52,7 @@ struct KeyFace {
     String text;          ///< "German|English" where they differ
     bool isSign = false;  ///< its characters are drawings (arrows, check mark); see KeySigns.h
     bool isEmpty = false; ///< the level in force has no character: what the key shows at first, in grey
+    bool isTerm = false;  ///< it is drawn as a term
 
     friend bool operator==(const KeyFace&, const KeyFace&) = default;
 };

@@ -1,10 +1,12 @@
 #include "dialogs/KeyPainter.h"
 
+#include "core/Arithmetic.h"
 #include "core/CoreTheme.h"
 #include "core/Palette.h"
 #include "core/SessionState.h"
 #include "dialogs/KeyPictures.h"
 #include "dialogs/SignPainter.h"
+#include "term/TermDraw.h"
 
 #include <algorithm>
 #include <vector>
@@ -27,6 +29,7 @@ constexpr double LampEdge = 15;
 // Points at scale 1.
 constexpr double CharacterPoints = 15;
 constexpr double WordPoints = 11;
+constexpr double TermPoints = 13;
 constexpr double LeastPoints = 6;
 
 struct KeyColours {
@@ -130,6 +133,27 @@ void paintText(DrawDevice& device, const PixelRectangle& area, double scale, con
     device.Print(text);
 }
 
+/// Where the caret behind the term would stand, which counts fractions too.
+double widthOfTerm(DrawDevice& device, StringView term)
+{
+    return layOutTerm(device, term, 0, 0, TEXTALIGN::MiddleLeft).places().back().x;
+}
+
+void paintTerm(DrawDevice& device, const PixelRectangle& area, double scale, StringView term)
+{
+    constexpr double Margin = 4;
+    device.FontName(u"Tahoma");
+    device.FontSize(TermPoints * scale);
+    const double room = area.width - 2 * Margin * scale;
+    double width = widthOfTerm(device, term);
+    if (width > room && room > 0) {
+        device.FontSize(std::max(LeastPoints, device.FontSize() * room / width));
+        width = widthOfTerm(device, term);
+    }
+    TermDraw(device, term, toWhole(area.left + (area.width - width) / 2), toWhole(area.top + area.height / 2),
+             TEXTALIGN::MiddleLeft);
+}
+
 } // namespace
 
 void paintCap(DrawDevice& device, const KeyLook& look)
@@ -152,6 +176,8 @@ void paintFace(DrawDevice& device, const KeyLook& look)
         paintSign(device, look.face.text.front(),
                   {area.left + (area.width - size) / 2, area.top + (area.height - size) / 2, size, size},
                   ink);
+    } else if (look.face.isTerm) {
+        paintTerm(device, area, look.scale, look.face.text);
     } else {
         paintText(device, area, look.scale, look.face.text);
     }

@@ -40,8 +40,8 @@ std::vector<NamedPart> keyParts(const KeyBoard& board, const KeySheet& sheet,
             buttonOf(sheet.areaOf(key.index), spokenKey(board, key.index), stateOf(board, key.index)));
     }
     for (std::size_t at = 0; strip && at < strip->count(); ++at) {
-        all.push_back(buttonOf(strip->cell(at), spokenCharacter(String(1, strip->character(at))),
-                               {.pressed = at == strip->chosen()}));
+        all.push_back(
+            buttonOf(strip->cell(at), strip->variant(at).spoken, {.pressed = at == strip->chosen()}));
     }
     return all;
 }

@@ -174,7 +174,8 @@ void KeySheet::paintStrip(const VariantStrip& strip)
         KeyLook look;
         look.area = strip.cell(at);
         look.scale = scale();
-        look.face.text = String(1, strip.character(at));
+        look.face.text = strip.variant(at).shown;
+        look.face.isTerm = strip.variant(at).isTerm;
         look.isPressed = at == strip.chosen();
         painter_.paint(device, look);
     }

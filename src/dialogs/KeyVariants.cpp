@@ -1,5 +1,7 @@
 #include "dialogs/KeyVariants.h"
 
+#include "dialogs/KeySpeech.h"
+
 #include <algorithm>
 #include <array>
 
@@ -37,6 +39,16 @@ String variantsOf(StringView face)
     }
     // Signs have no capitals, and those that do not change stand once as well.
     return small == face.front() ? String(row->offered) : upperCase(row->offered);
+}
+
+std::vector<KeyVariant> textVariants(const KeyBoard& board, std::int32_t index)
+{
+    std::vector<KeyVariant> all;
+    for (const char16_t character : variantsOf(board.face(index).text)) {
+        const String text(1, character);
+        all.push_back({text, text, spokenCharacter(text)});
+    }
+    return all;
 }
 
 } // namespace phial

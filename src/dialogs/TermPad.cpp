@@ -1,10 +1,12 @@
 #include "dialogs/TermPad.h"
 
 #include "app/FormTexts.h"
+#include "core/Arithmetic.h"
 #include "core/RuntimeError.h"
 #include "dialogs/KeysOnWindow.h"
 #include "dialogs/ScanChoice.h"
 #include "dialogs/TermTarget.h"
+#include "dialogs/TermVariants.h"
 #include "term/clt_TermInput.h"
 #include "visual/VisualHost.h"
 
@@ -14,7 +16,9 @@ namespace phial
 namespace
 {
 
-constexpr double TermPoints = 16; // at scale 1; two of its lines, as of a fraction, fit into the field
+// At scale 1.
+constexpr double TermPoints = 16; // two of its lines, as of a fraction, fit into the field
+constexpr double FieldInset = 6;  // pixels
 
 } // namespace
 
@@ -23,7 +27,7 @@ TermPad::TermPad(DesignedForm& form, KeyboardWindow& window, const KeyLayout& la
       keys_(form->control<ctl_Keys>(u"ctl_Keys"))
 {
     keys_->layout(layout);
-    keys_->offersVariants(false);
+    keys_->variants(termVariants);
     placeKeys();
     sizeText();
     input_->Term({});
@@ -43,6 +47,7 @@ void TermPad::sizeText()
     const FontPtr font = input_->TEXTFONT()->clone();
     font->Size(TermPoints * window_.scale());
     input_->TEXTFONT(font);
+    input_->inset(toWhole(FieldInset * window_.scale()));
 }
 
 void TermPad::connect()
@@ -57,6 +62,7 @@ void TermPad::connect()
     });
     form_.on(keys_->CLICK,
              [this](std::int32_t index) { ignoringErrors([&] { perform(keys_->board().click(index)); }); });
+    form_.on(keys_->VARIANT, [this](const String& text) { typeVariant(text); });
 }
 
 void TermPad::open()
@@ -113,11 +119,27 @@ void TermPad::send(StringView strokes)
     SendKeys(strokes, form_.pointer());
 }
 
+/// As a whole, so that it is undone as a whole.
+void TermPad::typeVariant(StringView variant)
+{
+    keys_->board().type(variant); // modifiers fall back
+    const auto at = static_cast<std::size_t>(input_->CARET());
+    const String piece = variantBehind(StringView(input_->Term()).substr(0, at), variant);
+    replace(at, 0, piece);
+    if (!input_->LOCKED()) {
+        input_->CARET(static_cast<std::int32_t>(at + caretInVariant(piece)));
+    }
+}
+
+void TermPad::replace(std::size_t at, std::size_t length, StringView piece)
+{
+    ignoringErrors([this] { input_->frame().SetFocus(); });
+    input_->edit(at, length, piece);
+}
+
 void TermPad::clear()
 {
-    if (!input_->LOCKED()) {
-        input_->Term({});
-    }
+    input_->edit(0, input_->Term().size(), {});
 }
 
 void TermPad::accept()

@@ -26,6 +26,8 @@ public:
 
     /// Types into the field, in the notation of KeyNotation.h.
     void send(StringView strokes);
+    /// The user's change of so many units from a place on, which can be undone.
+    void replace(std::size_t at, std::size_t length, StringView piece);
     clt_TermInput& field() { return *input_; }
     ctl_Keys& keys() { return *keys_; }
 
@@ -35,6 +37,7 @@ private:
     void sizeText();
     void readTarget();
     void perform(const KeyDeed& deed);
+    void typeVariant(StringView variant);
     void clear();
     void accept();
     void writeBack();

@@ -2,8 +2,6 @@
 
 #include "core/Palette.h"
 #include "dialogs/KeyParts.h"
-#include "dialogs/KeySpeech.h"
-#include "dialogs/KeyVariants.h"
 #include "visual/PropertyRows.h"
 
 #include <algorithm>
@@ -209,20 +207,28 @@ void ctl_Keys::hold()
 bool ctl_Keys::showVariants(std::int32_t index)
 {
     const bool isCharacter = sheet_.kindOf(index) == KeyKind::Character;
-    const String variants = offersVariants_ && isCharacter ? variantsOf(board_->face(index).text) : String();
-    if (!variants.empty()) {
-        openStrip(variants, index);
-    }
-    return !variants.empty();
+    return offersVariants_ && isCharacter && showVariants(source_(*board_, index), index);
 }
 
 // Variants.
 
-void ctl_Keys::openStrip(const String& variants, std::int32_t index)
+bool ctl_Keys::showVariants(std::vector<KeyVariant> variants, std::int32_t index)
 {
-    strip_.emplace(variants, areaOf(index), surface_.size());
+    if (variants.empty()) {
+        return false;
+    }
+    stripFinger_.reset();
+    stripSteps_ = 0;
+    strip_.emplace(std::move(variants), areaOf(index), surface_.size());
     frame_.report(ControlAspect::Accessibility);
-    frame_.announce(spokenCharacter(String(1, strip_->character(0))));
+    tellChosen();
+    return true;
+}
+
+/// What keys, fingers or the scan have reached in the strip.
+void ctl_Keys::tellChosen()
+{
+    frame_.announce(strip_->variant(strip_->chosen()).spoken);
     surface_.invalidate();
 }
 
@@ -239,9 +245,9 @@ void ctl_Keys::closeStrip()
 void ctl_Keys::chooseVariant(std::size_t at)
 {
     const auto self = weak_from_this().lock();
-    const String character(1, strip_->character(at));
+    const String text = strip_->variant(at).text;
     closeStrip();
-    VARIANT.emit(character);
+    VARIANT.emit(text);
     refresh();
 }
 
@@ -272,16 +278,20 @@ void ctl_Keys::previewKeyUp(KeyEvent& event)
 void ctl_Keys::goThroughStrip(KeyEvent& event)
 {
     const bool isStep = event.is(Key::Left) || event.is(Key::Right);
+    const bool isRowStep = strip_->rows() > 1 && (event.is(Key::Up) || event.is(Key::Down));
     const bool isChoice = event.is(Key::Return) || event.is(Key::Space);
     const bool isEnd = event.is(Key::Escape);
     if (isStep) {
         stepStrip(event.is(Key::Right));
+    } else if (isRowStep) {
+        strip_->stepRow(event.is(Key::Down));
+        tellChosen();
     } else if (isChoice) {
         chooseVariant(strip_->chosen());
     } else {
         closeStrip();
     }
-    if (isStep || isChoice || isEnd) {
+    if (isStep || isRowStep || isChoice || isEnd) {
         event.KeyCode = 0;
     }
 }
@@ -289,8 +299,7 @@ void ctl_Keys::goThroughStrip(KeyEvent& event)
 void ctl_Keys::stepStrip(bool isForward)
 {
     strip_->step(isForward);
-    frame_.announce(spokenCharacter(String(1, strip_->character(strip_->chosen()))));
-    surface_.invalidate();
+    tellChosen();
 }
 
 // The scan.

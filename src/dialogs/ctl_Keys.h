@@ -45,6 +45,8 @@ public:
     /// Whether keys can be held for variants; true at first.
     bool offersVariants() const { return offersVariants_; }
     void offersVariants(bool value) { offersVariants_ = value; }
+    /// Which variants they offer; those of texts at first.
+    void variants(VariantSource source) { source_ = source; }
 
     /// How long each row or key lights up, in milliseconds; 0 without a scan, as at first. A negative one
     /// raises 5.
@@ -58,7 +60,7 @@ public:
     Event<std::int32_t> RELEASED;
     /// A key was struck; whoever hears it asks `board().click`. Modifiers have passed on when they went down.
     Event<std::int32_t> CLICK;
-    /// A variant was chosen, a single character.
+    /// A variant was chosen: what it types.
     Event<const String&> VARIANT;
 
     /// The press has become a drag, or belongs to one: what is down strikes nothing, and modifiers go back.
@@ -73,6 +75,8 @@ public:
     void previewKeyUp(KeyEvent& event);
     /// Shows the variants of a key, as holding it does. Gives whether it has some.
     bool showVariants(std::int32_t index);
+    /// The same for what is no key: beside that key. Shows nothing where there are none.
+    bool showVariants(std::vector<KeyVariant> variants, std::int32_t index);
     bool showsVariants() const { return strip_.has_value(); }
 
     StringView typeName() const override { return u"ctl_Keys"; }
@@ -97,7 +101,6 @@ private:
 
     void strike(std::int32_t index);
     void hold();
-    void openStrip(const String& variants, std::int32_t index);
     void closeStrip();
     void chooseVariant(std::size_t at);
     bool pressStrip(const PointerEvent& event);
@@ -108,6 +111,7 @@ private:
     void holdSwitch();
     void goThroughStrip(KeyEvent& event);
     void stepStrip(bool isForward);
+    void tellChosen();
     void waitForHold();
 
     ControlFrame frame_;
@@ -118,6 +122,7 @@ private:
     std::optional<VariantStrip> strip_;
     std::optional<std::int32_t> stripFinger_; ///< the one that has opened it, or presses it
     bool offersVariants_ = true;
+    VariantSource source_ = textVariants;
     Timer timer_;
     std::optional<KeyScan> scan_;
     Timer scanTimer_;

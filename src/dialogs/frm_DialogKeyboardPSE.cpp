@@ -10,6 +10,8 @@
 #include "periodic/ctl_PSE.h"
 #include "term/clt_TermInput.h"
 
+#include <algorithm>
+
 namespace phial
 {
 
@@ -81,10 +83,12 @@ void frm_DialogKeyboardPSE::take(const cls_DataElement& element)
         ignoringErrors([&] { pad_.send(element.SYMBOL()); });
         return;
     }
-    const bool wasAtEnd = field.CARET() == static_cast<std::int32_t>(term.size());
-    field.Term(*counted);
-    if (wasAtEnd) {
-        field.CARET(static_cast<std::int32_t>(counted->size()));
+    const std::int32_t caret = field.CARET();
+    const bool wasAtEnd = caret == static_cast<std::int32_t>(term.size());
+    const auto same = static_cast<std::size_t>(std::ranges::mismatch(term, *counted).in1 - term.begin());
+    pad_.replace(same, term.size() - same, StringView(*counted).substr(same));
+    if (!wasAtEnd) {
+        field.CARET(caret);
     }
 }
 

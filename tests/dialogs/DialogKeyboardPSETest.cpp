@@ -92,6 +92,24 @@ TEST_F(DialogKeyboardPSE, CountsOnWhatItBeginsWith)
     EXPECT_EQ(field()->Term(), u"C13H");
 }
 
+TEST_F(DialogKeyboardPSE, CountingUpAndClearingAreUndone)
+{
+    openWith(u"");
+    tapElements({u"C", u"C", u"C"});
+    EXPECT_EQ(field()->Term(), u"C3");
+    type(u"^z");
+    EXPECT_EQ(field()->Term(), u"C2");
+    type(u"^z");
+    EXPECT_EQ(field()->Term(), u"C");
+    type(u"^y");
+    EXPECT_EQ(field()->Term(), u"C2");
+    EXPECT_EQ(field()->CARET(), 2);
+    tap(table_keys::Clear);
+    EXPECT_EQ(field()->Term(), u"");
+    type(u"^z");
+    EXPECT_EQ(field()->Term(), u"C2");
+}
+
 TEST_F(DialogKeyboardPSE, TheCaretStaysAtTheEndAndNowhereElse)
 {
     openWith(u"C9");

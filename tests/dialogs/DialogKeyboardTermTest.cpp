@@ -161,15 +161,114 @@ TEST_F(DialogKeyboardTerm, BackspaceAndClearTakeAway)
     EXPECT_EQ(field()->Term(), u"A");
 }
 
-TEST_F(DialogKeyboardTerm, AHeldKeyOffersNoVariantsOfTexts)
+TEST_F(DialogKeyboardTerm, AHeldLetterOffersElementsOneOfWhichIsTyped)
 {
-    openWith(u"");
-    touch.press(1, *keyPad(), middle(term_keys_of::LetterA));
-    outside.advance(0.6);
-    EXPECT_FALSE(keyPad()->showsVariants());
+    openWith(u"2");
+    hold(term_keys_of::LetterN);
+    ASSERT_TRUE(keyPad()->showsVariants());
+    EXPECT_EQ(keyPad()->frame().announcement(), u"Stickstoff");
     touch.release(1);
     outside.runPending();
-    EXPECT_EQ(field()->Term(), u"A");
+    EXPECT_EQ(field()->Term(), u"2") << "holding types nothing";
+    const PixelRectangle sodium = keyPad()->parts()[term_key_layout::Keys.size() + 1].area;
+    touch.press(1, *keyPad(), {sodium.left + 5, sodium.top + 5});
+    touch.release(1);
+    EXPECT_EQ(field()->Term(), u"2Na");
+    EXPECT_EQ(field()->CARET(), 3);
+    EXPECT_FALSE(keyPad()->showsVariants());
+}
+
+TEST_F(DialogKeyboardTerm, ArrowsAndReturnChooseAVariant)
+{
+    openWith(u"10");
+    hold(term_keys_of::Three);
+    touch.release(1);
+    type(u"{right}{left}{enter}");
+    outside.runPending();
+    EXPECT_EQ(field()->Term(), u"10^3");
+    hold(term_keys_of::Two);
+    touch.release(1);
+    type(u"{enter}");
+    EXPECT_EQ(field()->Term(), u"10^3#^2");
+    EXPECT_TRUE(isOpen()) << "Return was the strip's";
+}
+
+TEST_F(DialogKeyboardTerm, AFractionHasTheCaretInItsNumerator)
+{
+    openWith(u"a+b");
+    field()->CARET(2);
+    hold(term_keys_of::Open);
+    touch.release(1);
+    type(u"{enter}1");
+    outside.runPending();
+    EXPECT_EQ(field()->Term(), u"a+(1)/()b");
+}
+
+TEST_F(DialogKeyboardTerm, ASingleSwitchReachesVariants)
+{
+    chooseScan(800);
+    openWith(u"");
+    outside.advance(1.6); // the row of q
+    type(u" ");
+    outside.advance(1.6); // e
+    touch.press(1, *keyPad(), {2, 2});
+    outside.advance(0.6);
+    ASSERT_TRUE(keyPad()->showsVariants());
+    EXPECT_EQ(keyPad()->frame().announcement(), u"Erbium");
+    touch.release(1);
+    outside.advance(0.8);
+    type(u" ");
+    EXPECT_EQ(field()->Term(), u"Es");
+}
+
+TEST_F(DialogKeyboardTerm, VariantsDoNothingToALockedTerm)
+{
+    const auto target = termTarget(u"H");
+    target->LOCKED(true);
+    open(target);
+    field()->CARET(0);
+    keyPad()->VARIANT.emit(u"Na");
+    EXPECT_EQ(field()->Term(), u"H");
+    EXPECT_EQ(field()->CARET(), 0);
+}
+
+TEST_F(DialogKeyboardTerm, AVariantTakesShiftBack)
+{
+    openWith(u"");
+    tap(term_keys_of::Shift);
+    keyPad()->VARIANT.emit(u"Na");
+    EXPECT_EQ(keyPad()->board().state(Modifier::Shift), KeyState::Off);
+    EXPECT_EQ(field()->Term(), u"Na");
+}
+
+TEST_F(DialogKeyboardTerm, VariantsAndClearingAreUndoneAtOnce)
+{
+    openWith(u"H");
+    keyPad()->VARIANT.emit(u"Na");
+    type(u"^z");
+    EXPECT_EQ(field()->Term(), u"H");
+    type(u"^y");
+    EXPECT_EQ(field()->Term(), u"HNa");
+    tap(term_keys_of::Clear);
+    EXPECT_EQ(field()->Term(), u"");
+    type(u"^z");
+    EXPECT_EQ(field()->Term(), u"HNa");
+    EXPECT_EQ(field()->CARET(), 3);
+}
+
+TEST_F(DialogKeyboardTerm, TheTermStandsOffTheEdgeOfItsField)
+{
+    openWith(u"H2O");
+    EXPECT_EQ(field()->inset(), 6);
+    field()->CARET(0);
+    EXPECT_EQ(field()->frame().textEntry()->caretArea.left, 6);
+    field()->CARET(3);
+    field()->Term(String(100, u'H'));
+    field()->CARET(100);
+    const double width = field()->frame().pixelRectangle().width;
+    EXPECT_EQ(field()->frame().textEntry()->caretArea.left, width - 7) << "a long one too";
+    field()->CARET(0);
+    EXPECT_EQ(field()->frame().textEntry()->caretArea.left, 6);
 }
 
 TEST_F(DialogKeyboardTerm, TypesAtTheCaret)

@@ -43,6 +43,12 @@ protected:
         return made;
     }
     void openWith(StringView term) { this->open(termTarget(term)); }
+    /// Until it shows what it offers; the finger stays down.
+    void hold(std::int32_t index)
+    {
+        this->touch.press(1, *this->keyPad(), this->middle(index));
+        this->outside.advance(0.6);
+    }
     void type(StringView notation) { headless::type(keyboard.form(), notation); }
     void expectConfirmed()
     {
