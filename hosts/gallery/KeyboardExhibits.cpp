@@ -45,6 +45,8 @@ constexpr std::int32_t TermOpen = 0;
 constexpr std::int32_t TermTwo = 2;
 constexpr std::int32_t TermClose = 24;
 constexpr std::int32_t TermClear = 59;
+constexpr std::int32_t TermLetterC = 40;
+constexpr std::int32_t TermMinus = 47;
 
 constexpr std::int32_t ScanStep = 1500; // milliseconds
 
@@ -266,6 +268,12 @@ std::vector<Sample> padSamples()
     };
 }
 
+/// As if the key were held.
+Sample withVariants(StringView name, std::int32_t index)
+{
+    return opened(name, [index](Form&, ctl_Keys& keys) { keys.showVariants(index); });
+}
+
 Sample withTerm(StringView name, void (*change)(clt_TermInput& field))
 {
     return opened(name,
@@ -304,11 +312,22 @@ std::vector<Sample> termKeySamples()
     });
 }
 
+std::vector<Sample> offerSamples()
+{
+    return {
+        sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+        withVariants(u"Elemente mit C|Elements with C", TermLetterC),
+        withVariants(u"Pfeile|Arrows", TermMinus),
+        withVariants(u"Ein Bruch|A fraction", TermOpen),
+    };
+}
+
 std::vector<Sample> periodicKeySamples()
 {
     return termSamples({
         sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
         sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); }),
+        withVariants(u"Hoch und tief|Raised and lowered", TermTwo),
     });
 }
 
@@ -377,6 +396,10 @@ std::vector<Exhibit> keyboardExhibits()
                         u"Das Periodensystem als Tastatur für Formeln.|"
                         u"The periodic table as a keyboard for formulas.",
                         buildPeriodicKeyboard, periodicKeySamples()),
+            inEveryLook(u"TermPad",
+                        u"Was die Tastatur für Formeln anbietet, wenn man eine Taste hält.|"
+                        u"What the formula keyboard offers when a key is held.",
+                        buildTermKeyboard, offerSamples()),
             inEveryLook(u"ctl_Keys",
                         u"Die Tasten für einen einzelnen Schalter, und das Feld darüber.|"
                         u"The keys for a single switch, and the field above them.",
