@@ -1,17 +1,22 @@
 // The pocket calculator by itself: `rechner`, or `rechner --shots DIR` to draw its states into picture files.
-// OK copies the result and ends it.
+// OK writes the result to the standard
+// output and ends it.
 
 #include "app/Session.h"
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
+#include "core/Locale.h"
+#include "core/NumberText.h"
+#include "core/Palette.h"
+#include "core/SessionState.h"
 #include "desk/frm_ToolCalc.h"
 #include "qt/desktop/DesktopApplication.h"
 #include "qt/desktop/ShotBook.h"
-#include "visual/VisualHost.h"
 
 #include <initializer_list>
+#include <iostream>
 
 namespace
 {
@@ -59,6 +64,7 @@ int main(int argc, char** argv)
     // Without an installation it has no periodic table, and says so.
     phial::ignoringErrors([&] { app->INIT(application.commandLine()); });
 
+    phial::coreTheme().SetColour(phial::ThemeSlot::Accent, phial::Palette::Accent);
     if (const auto folder = application.shotsFolder()) {
         phial::qt::takeShots(*folder, takeEachState);
         return 0;
@@ -67,7 +73,8 @@ int main(int argc, char** argv)
     app->READY();
     calculator.Show();
     if (calculator.result()) {
-        phial::visualHost().clipboardText(calculator.hGet());
+        std::cout << phial::toUtf8(phial::plainText(*calculator.result(), phial::currentLocale().decimalSign))
+                  << '\n';
     }
     return 0;
 }

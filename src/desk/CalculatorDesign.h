@@ -25,7 +25,7 @@ inline constexpr double CalcHeight = KeysTop + Rows * KeyHeight + (Rows - 1) * G
 
 /// The width of what stands beside the keys: past lines, or the table.
 inline constexpr double TapeWidth = 232;
-inline constexpr double TableWidth = 624;
+inline constexpr double TableWidth = 616;
 inline constexpr double MemoryHeight = 40;
 inline constexpr double StoreWidth = 64;
 inline constexpr double TapeTitleHeight = 24;
