@@ -1,5 +1,9 @@
 #include "core/CoreTokenList.h"
 #include "desk/frm_ToolCalc.h"
+#include "desk/frm_ToolGroupNames.h"
+#include "desk/frm_ToolOxValues.h"
+#include "desk/frm_ToolPeriodensystem.h"
+#include "desk/frm_ToolpHRules.h"
 #include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
 #include "visual/ctl_Button.h"
@@ -53,21 +57,62 @@ Sample struckKeys(StringView name, std::initializer_list<std::int32_t> keys)
     });
 }
 
+/// A sheet without its modal wait, so that the gallery goes on.
+template <typename Sheet>
+ObjectPtr buildSheet(Stage& stage)
+{
+    putNote(stage, {24, 4, stage.size().width - 48, 68},
+            u"Der Knopf unten öffnet das Blatt.|The button below opens the sheet.");
+    const auto made = std::make_shared<Sheet>();
+    stage.atEnd([made] { made->form().discard(); });
+    return made->form().shared_from_this();
+}
+
+/// Opens a sheet and presses a button on it.
+Sample pressed(StringView name, StringView button)
+{
+    return sample<Form>(name, [button](Form& form) {
+        form.Show();
+        form.control<ctl_Button>(button)->click();
+    });
+}
+
 } // namespace
 
 std::vector<Exhibit> deskExhibits()
 {
-    return {Exhibit{
-        .group = Group::Windows,
-        .title = u"frm_ToolCalc",
-        .about = u"Der Taschenrechner.|The pocket calculator.",
-        .build = buildCalculator,
-        .samples = {struckKeys(u"Zeigen|Show", {}),
-                    struckKeys(u"Gerechnet|Worked out", {3, Times, 1, 8, Equals, FirstStore, Comma, 5}),
-                    struckKeys(u"Fehler|Error", {Open, 2, Close, 3, Close, Equals}),
-                    struckKeys(u"Periodensystem|Periodic table", {Table, 3, Times, 1, 8})},
-        .editable = false,
-        .everyLook = true}};
+    const auto sheet = [](StringView title, StringView about, auto build, std::vector<Sample>&& samples) {
+        return Exhibit{.group = Group::Windows,
+                       .title = title,
+                       .about = about,
+                       .build = build,
+                       .samples = std::move(samples),
+                       .editable = false,
+                       .everyLook = true};
+    };
+    const std::vector<Sample> shown{sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); })};
+    return {
+        sheet(u"frm_ToolPeriodensystem", u"Das Periodensystem als Blatt.|The sheet of the periodic table.",
+              buildSheet<frm_ToolPeriodensystem>,
+              {shown.front(), pressed(u"Namen|Names", u"but_NamSymb"),
+               pressed(u"Bild|Picture", u"but_Change")}),
+        sheet(u"frm_ToolGroupNames", u"Namen und Formeln von Gruppen.|Names and formulas of groups.",
+              buildSheet<frm_ToolGroupNames>, std::vector(shown)),
+        sheet(u"frm_ToolOxValues", u"Regeln für Oxidationszahlen.|Rules for oxidation numbers.",
+              buildSheet<frm_ToolOxValues>, std::vector(shown)),
+        sheet(u"frm_ToolpHRules", u"Säuren und Regeln zum pH-Wert.|Acids and rules of pH.",
+              buildSheet<frm_ToolpHRules>, std::vector(shown)),
+        Exhibit{
+            .group = Group::Windows,
+            .title = u"frm_ToolCalc",
+            .about = u"Der Taschenrechner.|The pocket calculator.",
+            .build = buildCalculator,
+            .samples = {struckKeys(u"Zeigen|Show", {}),
+                        struckKeys(u"Gerechnet|Worked out", {3, Times, 1, 8, Equals, FirstStore, Comma, 5}),
+                        struckKeys(u"Fehler|Error", {Open, 2, Close, 3, Close, Equals}),
+                        struckKeys(u"Periodensystem|Periodic table", {Table, 3, Times, 1, 8})},
+            .editable = false,
+            .everyLook = true}};
 }
 
 } // namespace gallery

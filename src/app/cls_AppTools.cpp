@@ -18,6 +18,11 @@
 #include "core/NumberText.h"
 #include "core/RuntimeError.h"
 #include "desk/frm_ToolCalc.h"
+#include "desk/frm_ToolGroupNames.h"
+#include "desk/frm_ToolOxValues.h"
+#include "desk/frm_ToolPeriodensystem.h"
+#include "desk/frm_ToolpHRules.h"
+#include "periodic/ElementFile.h"
 #include "server/cls_AppServer.h"
 #include "term/TermDraw.h"
 #include "term/TermHtml.h"
@@ -193,6 +198,33 @@ double cls_AppTools::CALC(const Variant& pDefault, std::int32_t pX, std::int32_t
         return *result;
     }
     return pReturnOnAbort == Variant(u"DEFAULT") ? preset : pReturnOnAbort.toReal();
+}
+
+void cls_AppTools::PERIODICSYSTEM()
+{
+    if (!periodicTable_ || !periodicTable_->form().isLoaded()) {
+        if (!checkElementFile()) {
+            return;
+        }
+        periodicTable_ = std::make_shared<frm_ToolPeriodensystem>();
+    }
+    const auto shown = periodicTable_; // it may be modal, and then be opened anew meanwhile
+    shown->Show();
+}
+
+void cls_AppTools::GROUPNAMES() const
+{
+    frm_ToolGroupNames().Show();
+}
+
+void cls_AppTools::OxValues() const
+{
+    frm_ToolOxValues().Show();
+}
+
+void cls_AppTools::pHRules() const
+{
+    frm_ToolpHRules().Show();
 }
 
 std::int32_t cls_AppTools::stArt(StringView pApp, StringView pParameters, bool pWait, bool pRaiseErrors) const

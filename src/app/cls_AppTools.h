@@ -15,6 +15,7 @@ class CoreTokenList;
 class DrawDevice;
 class Form;
 class MoleculeTable;
+class frm_ToolPeriodensystem;
 enum class TEXTALIGN : std::int32_t;   // see visual/Alignment.h
 enum class WindowState : std::int32_t; // see visual/Form.h
 
@@ -81,8 +82,19 @@ public:
                 const Variant& pReturnOnAbort = u"DEFAULT", const String& pTitle = {},
                 const CoreParameters* pFlags = nullptr) const;
 
+    /// Opens the sheet of the periodic table beside the program's windows (see
+    /// desk/frm_ToolPeriodensystem.h). There is one; called again it comes to the front. Without the
+    /// installation's element file the user is told so, and nothing opens.
+    void PERIODICSYSTEM();
+    /// Open reference sheets and return when they have been closed: names of groups with their formulas, the
+    /// rules for oxidation numbers, acids and the rules of pH.
+    void GROUPNAMES() const;
+    void OxValues() const;
+    void pHRules() const;
+
 private:
     std::shared_ptr<const MoleculeTable> molecules_; // read at first use
+    std::shared_ptr<frm_ToolPeriodensystem> periodicTable_;
 };
 
 } // namespace phial

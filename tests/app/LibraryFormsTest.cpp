@@ -55,6 +55,9 @@ std::vector<Halves> pairsOf(const LibraryForm& row)
     for (const StringView pair : row.pairs) {
         pairs.push_back(halvesOf(pair));
     }
+    for (const String& pair : row.madePairs) {
+        pairs.push_back(halvesOf(pair));
+    }
     return pairs;
 }
 

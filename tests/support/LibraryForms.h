@@ -7,9 +7,25 @@
 #include "app/screen/frm_Fade.h"
 #include "app/screen/frm_Resource.h"
 #include "app/sys_Global.h"
+#include "chem/formula/FormulaPrinter.h"
+#include "chem/formula/FormulaReader.h"
+#include "chem/formula/FormulaSpeech.h"
+#include "chem/formula/OxidationNumbers.h"
 #include "core/NativePath.h"
+#include "desk/AcidTable.h"
 #include "desk/CalculatorDesign.h"
+#include "desk/GroupNames.h"
+#include "desk/GroupNamesDesign.h"
+#include "desk/OlderNotation.h"
+#include "desk/OxValuesDesign.h"
+#include "desk/OxidationExamples.h"
+#include "desk/PeriodicSheetDesign.h"
 #include "desk/frm_ToolCalc.h"
+#include "desk/frm_ToolGroupNames.h"
+#include "desk/frm_ToolOxValues.h"
+#include "desk/frm_ToolPeriodensystem.h"
+#include "desk/frm_ToolpHRules.h"
+#include "desk/pHRulesDesign.h"
 #include "dialogs/DialogHelpImagesDesign.h"
 #include "dialogs/DialogKeyboardDesign.h"
 #include "dialogs/DialogKeyboardPSEDesign.h"
@@ -49,6 +65,7 @@ struct LibraryForm {
     std::function<MadeForm()> make;
     const FormDesign* design = nullptr; ///< whose texts are pairs "German|English"; null for none
     std::vector<StringView> pairs;      ///< "German|English": what stands outside the design
+    std::vector<String> madePairs{};    ///< likewise, worked out
     std::vector<StringView> data;       ///< what is no text of the form and stays in both languages
     bool shown = true;                  ///< false: it is never shown, and only loaded
     bool aborts = false;                ///< Escape closes it, as its frame does
@@ -88,6 +105,62 @@ inline MadeForm makeCalculator()
 {
     QVAPP()->URL()->ROOT(systemPath(treeFolder()) + u"\\");
     return makeLibraryForm<frm_ToolCalc>();
+}
+
+/// The sheet of the periodic table with the installed elements.
+inline MadeForm makePeriodicSheet()
+{
+    QVAPP()->URL()->ROOT(systemPath(treeFolder()) + u"\\");
+    return makeLibraryForm<frm_ToolPeriodensystem>();
+}
+
+/// How a formula is spoken, "German|English".
+inline String spokenPair(StringView term)
+{
+    const FormulaReading reading = readFormula(term);
+    return reading ? spokenInGerman(reading.tree) + u"|" + spokenInEnglish(reading.tree)
+                   : String(term) + u"|" + String(term);
+}
+
+/// The lines of the sheet of groups, and how their formulas are spoken.
+inline std::vector<String> groupPairs()
+{
+    std::vector<String> pairs;
+    for (const GroupName& group : groupNames()) {
+        pairs.emplace_back(group.name);
+        pairs.push_back(spokenPair(termOfOlderNotation(group.formula)));
+    }
+    return pairs;
+}
+
+/// The rules for oxidation numbers and how their examples are spoken.
+inline std::vector<String> oxidationPairs()
+{
+    std::vector<String> pairs;
+    for (const OxidationLine& line : oxidationLines()) {
+        pairs.push_back(germanSentence(line.rule) + u"|" + englishSentence(line.rule));
+        String halves[2];
+        String shown;
+        for (const OxidationExample& example : line.examples) {
+            const String both = spokenPair(example.formula);
+            const std::size_t bar = both.find(u'|');
+            const String number = u": " + String(example.symbol) + u" " + String(example.number);
+            shown +=
+                (shown.empty() ? u"" : u",   ") + formulaMarkup(readFormula(example.formula).tree) + number;
+            halves[0] += (halves[0].empty() ? u"" : u"; ") + both.substr(0, bar) + number;
+            halves[1] += (halves[1].empty() ? u"" : u"; ") + both.substr(bar + 1) + number;
+        }
+        pairs.push_back(halves[0] + u"|" + halves[1]);
+        pairs.push_back(shown + u"|" + shown);
+    }
+    return pairs;
+}
+
+inline std::vector<String> acidPairs()
+{
+    const FontSpec font{.name = u"Tahoma", .size = 12};
+    return {acidTable(u"Säure               Base           pKs", font) + u"|" +
+            acidTable(u"Acid                Base           pKa", font)};
 }
 
 /// The praise window with a word of praise.
@@ -191,6 +264,33 @@ inline std::vector<LibraryForm> libraryForms()
          .pairs = {u"Speicher 1|Memory 1", u"Speicher 2|Memory 2", u"Speicher 3|Memory 3",
                    u"Speicher 4|Memory 4"},
          .data = {u"0", u"M1", u"M2", u"M3", u"M4"},
+         .aborts = true},
+        {.name = u"frm_ToolGroupNames",
+         .make = makeLibraryForm<frm_ToolGroupNames>,
+         .design = &tool_group_names_design::Design,
+         .pairs = {},
+         .madePairs = groupPairs(),
+         .data = {},
+         .aborts = true},
+        {.name = u"frm_ToolOxValues",
+         .make = makeLibraryForm<frm_ToolOxValues>,
+         .design = &tool_ox_values_design::Design,
+         .pairs = {},
+         .madePairs = oxidationPairs(),
+         .data = {},
+         .aborts = true},
+        {.name = u"frm_ToolPeriodensystem",
+         .make = makePeriodicSheet,
+         .design = &tool_periodic_design::Design,
+         .pairs = {u"Bild|Picture", u"Namen|Names"},
+         .data = {},
+         .aborts = true},
+        {.name = u"frm_ToolpHRules",
+         .make = makeLibraryForm<frm_ToolpHRules>,
+         .design = &tool_ph_rules_design::Design,
+         .pairs = {},
+         .madePairs = acidPairs(),
+         .data = {},
          .aborts = true},
     };
 }

@@ -140,7 +140,7 @@ class Judge:
         if not any(map(str.isalpha, _words_only(german))):
             return None
         if not any(map(str.isalpha, _words_only(english))):
-            return "without an English half"
+            return None if self._is_same(f"{german}|{english}") else "without an English half"
         if _bare(german) != _bare(english):
             return "the English half reads as German" if reads_german(english) else None
         return "the same in German and English" if _has_letters(german) and not self._is_same(german) else None

@@ -1,0 +1,53 @@
+#include "desk/OlderNotation.h"
+
+#include "visual/DrawDevice.h"
+
+namespace phial
+{
+
+namespace
+{
+
+constexpr char16_t Lowers = u'@';
+constexpr char16_t Raises = u'^';
+constexpr char16_t Ends = u'|';
+
+} // namespace
+
+void drawOlderNotation(DrawDevice& device, double height, StringView notation)
+{
+    const double signHeight = device.TextHeight(u"G");
+    const double base = (height - signHeight) / 2;
+    double left = 0;
+    double top = base;
+    for (const char16_t unit : notation) {
+        if (unit == Lowers) {
+            top = base + signHeight / 2;
+        } else if (unit == Raises) {
+            top = base - signHeight / 2;
+        } else if (unit == Ends) {
+            top = base;
+        } else {
+            const StringView sign(&unit, 1);
+            device.CurrentX(left);
+            device.CurrentY(top);
+            device.Print(sign);
+            left += device.TextWidth(sign);
+        }
+    }
+}
+
+String termOfOlderNotation(StringView notation)
+{
+    String term;
+    for (const char16_t unit : notation) {
+        if (unit == Raises) {
+            term += u'^';
+        } else if (unit != Lowers && unit != Ends) {
+            term += unit;
+        }
+    }
+    return term;
+}
+
+} // namespace phial

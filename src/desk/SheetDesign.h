@@ -1,0 +1,22 @@
+#pragma once
+
+#include "visual/FormDesign.h"
+#include "visual/ctl_CmdBar.h"
+
+/// What the reference sheets have in common: the bar at the bottom whose button closes them.
+namespace phial::sheet_design
+{
+
+inline constexpr double Margin = 16;
+inline constexpr double BarHeight = 76;
+
+inline constexpr StringView Confirm = u"DIALOG.OK();";
+inline constexpr ButtonDesign Commands[] = {{Confirm, u"OK|OK", true}};
+
+/// The bar below a sheet of that size.
+inline constexpr ControlDesign commandBar(double width, double height)
+{
+    return design<ctl_CmdBar>(u"bar_Buttons", {0, height, width, BarHeight}).buttons(Commands);
+}
+
+} // namespace phial::sheet_design
