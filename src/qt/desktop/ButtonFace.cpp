@@ -8,7 +8,6 @@
 #include <QIcon>
 #include <QImage>
 #include <QPainter>
-#include <QPixmapCache>
 #include <QPushButton>
 #include <QStyleOption>
 
@@ -160,63 +159,15 @@ QIcon buttonIcon(const QStyleOptionButton& option, const QWidget* button, const 
     return inked;
 }
 
-namespace
-{
-
-void paintRounded(QPainter& painter, const QRectF& area, const ButtonFace& face, double zoom)
+void paintButton(const QStyleOption& option, QPainter& painter, const ButtonFace& face, double zoom)
 {
     const double inset = EdgeWidth * zoom / 2;
+    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(face.ground);
     painter.setPen(QPen(face.edge, EdgeWidth * zoom));
-    painter.drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), ButtonRadius * zoom,
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), ButtonRadius * zoom,
                             ButtonRadius * zoom);
-}
-
-/// Whether what is painted there covers whole pixels of a surface that is scaled by `ratio` only.
-bool isOnPixels(const QPainter& painter, const QRectF& area, double ratio)
-{
-    const QTransform transform = painter.deviceTransform();
-    const QRectF mapped = transform.mapRect(area);
-    return transform.type() <= QTransform::TxScale && transform.m11() == ratio && transform.m22() == ratio &&
-           mapped == QRectF(mapped.toRect());
-}
-
-/// The same box as a picture: most buttons of a window are alike, and curves take longer than pixels.
-QPixmap roundedPicture(const QSize& size, const ButtonFace& face, double zoom, double ratio)
-{
-    const QString key = QStringLiteral("phial-button-%1-%2-%3-%4-%5-%6")
-                            .arg(size.width())
-                            .arg(size.height())
-                            .arg(face.ground.rgba())
-                            .arg(face.edge.rgba())
-                            .arg(zoom)
-                            .arg(ratio);
-    QPixmap picture;
-    if (!QPixmapCache::find(key, &picture)) {
-        picture = QPixmap((QSizeF(size) * ratio).toSize());
-        picture.setDevicePixelRatio(ratio);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paintRounded(painter, QRectF(QPointF(), size), face, zoom);
-        painter.end();
-        QPixmapCache::insert(key, picture);
-    }
-    return picture;
-}
-
-} // namespace
-
-void paintButton(const QStyleOption& option, QPainter& painter, const ButtonFace& face, double zoom)
-{
-    const QRectF area(option.rect);
-    const double ratio = painter.device()->devicePixelRatioF();
-    painter.save();
-    if (isOnPixels(painter, area, ratio)) {
-        painter.drawPixmap(area.topLeft(), roundedPicture(option.rect.size(), face, zoom, ratio));
-    } else {
-        paintRounded(painter, area, face, zoom);
-    }
     painter.restore();
 }
 
