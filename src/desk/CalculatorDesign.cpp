@@ -105,7 +105,7 @@ constexpr ControlDesign CalcControls[] = {
         .font(11)
         .ink(Palette::Muted),
     design<ListBox>(u"lst_Tape", {0, Margin + TapeTitleHeight, TapeWidth, 100})
-        .font(11)
+        .font(10)
         .spoken(u"Bisher gerechnet|Worked out so far"),
     design<ctl_PSE>(u"ctl_PSE", {0, Margin, TableWidth, 300})
         .set(u"FIXEDSIZE", true)

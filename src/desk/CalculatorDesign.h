@@ -29,7 +29,7 @@ inline constexpr double TableWidth = 616;
 inline constexpr double MemoryHeight = 40;
 inline constexpr double StoreWidth = 64;
 inline constexpr double TapeTitleHeight = 24;
-inline constexpr double TapeMargin = 12; ///< what the list keeps free of each line's width
+inline constexpr double TapeRoom = 172; ///< of a line, beside the bar that turns the list
 inline constexpr double VariableHeight = 44;
 inline constexpr double LeastVariableWidth = 110;
 

@@ -322,10 +322,9 @@ void frm_ToolCalc::noteLine(const String& term)
 /// The term and its value, in the room of a line: a long term loses its beginning, since the value counts.
 String frm_ToolCalc::tapeLine(StringView term, const String& value) const
 {
-    const double room = calc_design::TapeWidth - 2 * calc_design::TapeMargin;
     const auto face = visualHost().metrics().face(tape_->Font()->traits());
     String line = String(term) + u" = " + value;
-    for (StringView rest = term; !rest.empty() && face->width(line) > room;) {
+    for (StringView rest = term; !rest.empty() && face->width(line) > calc_design::TapeRoom;) {
         rest.remove_prefix(1);
         line = u"…" + String(rest) + u" = " + value;
     }
