@@ -1,6 +1,7 @@
 // The pocket calculator in a real window drawn into memory: opened with the first paint and a key struck
 // until its sign is painted, beside a QDialog with a QLineEdit, a list and as many QPushButtons in the same
-// look; the font of the line fitted; and "=" of 20 signs without a window, beside muParser.
+// look; the font of the line fitted; and "=" of 20 signs without a window, beside muParser. The sheet of
+// groups opened, beside a QTextBrowser with a table of the same lines.
 
 #include "BenchSession.h"
 #include "PaintWatch.h"
@@ -11,7 +12,9 @@
 #include "core/NativePath.h"
 #include "core/NumberText.h"
 #include "desk/CalculatorDesign.h"
+#include "desk/GroupNames.h"
 #include "desk/frm_ToolCalc.h"
+#include "desk/frm_ToolGroupNames.h"
 #include "visual/Form.h"
 #include "visual/ctl_Button.h"
 
@@ -22,6 +25,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTextBrowser>
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>
@@ -169,6 +173,71 @@ void fit(benchmark::State& state)
     calculator.form().discard();
 }
 BENCHMARK(fit)->Name("CalculatorLineFitted")->Unit(benchmark::kMicrosecond);
+
+void groupSheet(benchmark::State& state)
+{
+    PaintWatch watch;
+    for (auto _ : state) {
+        {
+            frm_ToolGroupNames sheet;
+            sheet.form().Show(); // not modal, so that the benchmark goes on
+            watch.finish();
+            sheet.form().Unload();
+        }
+        PaintWatch::endClosed();
+    }
+}
+BENCHMARK(groupSheet)->Name("GroupSheetOpen")->Unit(benchmark::kMillisecond);
+
+/// The formula as the toolkit's markup.
+QString htmlOf(StringView notation)
+{
+    QString html;
+    QString end;
+    for (const char16_t unit : notation) {
+        if (unit == u'@' || unit == u'^' || unit == u'|') {
+            html += end;
+            end = unit == u'@'   ? QStringLiteral("</sub>")
+                  : unit == u'^' ? QStringLiteral("</sup>")
+                                 : QString();
+            html += unit == u'@'   ? QStringLiteral("<sub>")
+                    : unit == u'^' ? QStringLiteral("<sup>")
+                                   : QString();
+        } else {
+            html += QChar(unit);
+        }
+    }
+    return html + end;
+}
+
+void groupSheetAsDocument(benchmark::State& state)
+{
+    constexpr std::size_t Rows = 13;
+    const auto groups = groupNames();
+    PaintWatch watch;
+    for (auto _ : state) {
+        QString html = QStringLiteral("<table cellpadding=\"6\">");
+        for (std::size_t row = 0; row < Rows; ++row) {
+            html += QStringLiteral("<tr>");
+            for (std::size_t at = row; at < groups.size(); at += Rows) {
+                const StringView name = groups[at].name.substr(0, groups[at].name.find(u'|'));
+                html += QStringLiteral("<td>") + QString::fromStdU16String(String(name)) +
+                        QStringLiteral("</td><td>") + htmlOf(groups[at].formula) + QStringLiteral("</td>");
+            }
+            html += QStringLiteral("</tr>");
+        }
+        QDialog window;
+        window.resize(976, 547);
+        auto* const view = new QTextBrowser(&window);
+        view->setGeometry(0, 0, 976, 471);
+        view->setHtml(html + QStringLiteral("</table>"));
+        auto* const button = new QPushButton(QStringLiteral("OK"), &window);
+        button->setGeometry(840, 480, 128, 60);
+        window.show();
+        watch.finish();
+    }
+}
+BENCHMARK(groupSheetAsDocument)->Name("GroupSheetAsDocument")->Unit(benchmark::kMillisecond);
 
 void equals(benchmark::State& state)
 {
