@@ -1,14 +1,17 @@
 #include "chem/formula/FormulaReader.h"
 
+#include "chem/ElementSymbols.h"
 #include "chem/formula/FormulaComposition.h"
 #include "chem/formula/FormulaNames.h"
 #include "chem/formula/FormulaPrinter.h"
 #include "chem/formula/FormulaText.h"
 #include "support/CaseTable.h"
 
+#include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
 #include <random>
+#include <set>
 
 namespace phial
 {
@@ -208,6 +211,51 @@ TEST(FormulaNames, StandUnderTheFormulaAsItIsPrinted)
     }
     EXPECT_EQ(nameOfFormula(u"SO4^2-")->german, u"Sulfat");
     EXPECT_EQ(nameOfFormula(u"XeF6"), nullptr);
+}
+
+TEST(FormulaNames, AreFormulasThatReadEachWithNamesOfItsOwn)
+{
+    std::set<StringView> german;
+    std::set<StringView> english;
+    EXPECT_LE(formulaNames().size(), 300U);
+    for (const FormulaName& each : formulaNames()) {
+        SCOPED_TRACE(toUtf8(each.formula));
+        const FormulaReading reading = readFormula(each.formula);
+        ASSERT_TRUE(reading);
+        EXPECT_EQ(plainFormula(reading.tree), each.formula);
+        EXPECT_TRUE(german.insert(each.german).second) << toUtf8(each.german);
+        EXPECT_TRUE(english.insert(each.english).second) << toUtf8(each.english);
+    }
+}
+
+/// A salt's cation and anion by the names of both: the charges of so many of them make nothing.
+TEST(FormulaNames, TheChargesOfSaltsAreBalanced)
+{
+    const auto chargeOf = [](StringView formula) { return readFormula(formula).tree.species.front().charge; };
+    int salts = 0;
+    for (const FormulaName& salt : formulaNames()) {
+        for (const FormulaName& cation : formulaNames()) {
+            const StringView metal = cation.formula.substr(0, cation.formula.find(u'^'));
+            if (chargeOf(cation.formula) <= 0 || atomicNumberOf(metal) == 0 ||
+                !salt.formula.starts_with(metal)) {
+                continue;
+            }
+            for (const FormulaName& anion : formulaNames()) {
+                const StringView rest = anion.formula.substr(0, anion.formula.find(u'^'));
+                if (chargeOf(anion.formula) >= 0 || salt.formula != String(metal).append(rest)) {
+                    continue;
+                }
+                // One of each, such as CaCO3; several cations of a metal are told apart by its number.
+                const bool isBalanced = std::ranges::any_of(formulaNames(), [&](const FormulaName& other) {
+                    return other.formula.starts_with(String(metal) + u"^") &&
+                           chargeOf(other.formula) + chargeOf(anion.formula) == 0;
+                });
+                EXPECT_TRUE(isBalanced) << toUtf8(salt.formula);
+                ++salts;
+            }
+        }
+    }
+    EXPECT_GT(salts, 15);
 }
 
 } // namespace

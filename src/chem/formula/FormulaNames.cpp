@@ -220,4 +220,9 @@ const FormulaName* nameOfFormula(StringView plainFormula)
     return found != Names.end() && found->formula == plainFormula ? found : nullptr;
 }
 
+std::span<const FormulaName> formulaNames()
+{
+    return Names;
+}
+
 } // namespace phial

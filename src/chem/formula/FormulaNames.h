@@ -2,6 +2,8 @@
 
 #include "core/String.h"
 
+#include <span>
+
 namespace phial
 {
 
@@ -16,5 +18,8 @@ struct FormulaName {
 /// IUPAC's recommendations of 2005 and 2013; where lessons call a substance otherwise, such as ammonia, that
 /// name.
 const FormulaName* nameOfFormula(StringView plainFormula);
+
+/// All that have a name, by their units.
+std::span<const FormulaName> formulaNames();
 
 } // namespace phial
