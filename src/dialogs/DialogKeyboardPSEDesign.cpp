@@ -1,6 +1,7 @@
 #include "dialogs/DialogKeyboardPSEDesign.h"
 
 #include "dialogs/ctl_Keys.h"
+#include "dialogs/ctl_Offers.h"
 #include "mascot/ctl_Bubble.h"
 #include "periodic/ctl_PSE.h"
 #include "term/clt_TermInput.h"
@@ -22,6 +23,7 @@ constexpr ControlDesign PSEControls[] = {
         .set(u"BACKCOLOR", Palette::Footer)
         .set(u"Colouring", TableColours::ByTheme)
         .unfocusable(),
+    design<ctl_Offers>(u"ctl_Offers", {576, 364, 240, 96}).ground(Palette::Footer).touchable().hidden(),
     design<ctl_Bubble>(u"ctl_Bubble1", {0, 0, 170, 90}).hidden(),
 };
 

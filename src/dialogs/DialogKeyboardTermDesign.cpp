@@ -1,6 +1,7 @@
 #include "dialogs/DialogKeyboardTermDesign.h"
 
 #include "dialogs/ctl_Keys.h"
+#include "dialogs/ctl_Offers.h"
 #include "term/clt_TermInput.h"
 
 namespace phial::dialog_keyboard_term_design
@@ -15,6 +16,7 @@ constexpr ControlDesign TermControls[] = {
         .set(u"TEXTCOLOR", Palette::Ink)
         .set(u"BACKCOLOR", Palette::Field)
         .keyboarded(),
+    design<ctl_Offers>(u"ctl_Offers", OfferArea).ground(Palette::Footer).touchable().hidden(),
 };
 
 } // namespace

@@ -10,6 +10,10 @@ namespace phial::dialog_keyboard_term_design
 /// The words; they stand above the field.
 inline constexpr PixelRectangle WordsArea{24, 8, 652, 32};
 
+/// Where formulas are offered: field and keys make room for them.
+inline constexpr ControlDesign::Rectangle OfferArea{24, 44, 652, 48};
+inline constexpr double OfferRoom = OfferArea.height + 6;
+
 extern const FormDesign Design;
 
 } // namespace phial::dialog_keyboard_term_design

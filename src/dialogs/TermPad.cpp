@@ -1,9 +1,12 @@
 #include "dialogs/TermPad.h"
 
 #include "app/FormTexts.h"
+#include "chem/formula/FormulaNames.h"
 #include "core/Arithmetic.h"
 #include "core/RuntimeError.h"
+#include "dialogs/FormulaOffers.h"
 #include "dialogs/KeysOnWindow.h"
+#include "dialogs/OfferChoice.h"
 #include "dialogs/ScanChoice.h"
 #include "dialogs/TermTarget.h"
 #include "dialogs/TermVariants.h"
@@ -22,10 +25,13 @@ constexpr double FieldInset = 6;  // pixels
 
 } // namespace
 
-TermPad::TermPad(DesignedForm& form, KeyboardWindow& window, const KeyLayout& layout)
+TermPad::TermPad(DesignedForm& form, KeyboardWindow& window, const KeyLayout& layout,
+                 const OfferPlace& offers)
     : form_(form), window_(window), input_(form->control<clt_TermInput>(u"txt_Input")),
-      keys_(form->control<ctl_Keys>(u"ctl_Keys"))
+      keys_(form->control<ctl_Keys>(u"ctl_Keys")), offers_(form->control<ctl_Offers>(u"ctl_Offers")),
+      room_(offers.room)
 {
+    offers_->cells(offers.columns, offers.rows);
     keys_->layout(layout);
     keys_->variants(termVariants);
     placeKeys();
@@ -63,10 +69,25 @@ void TermPad::connect()
     form_.on(keys_->CLICK,
              [this](std::int32_t index) { ignoringErrors([&] { perform(keys_->board().click(index)); }); });
     form_.on(keys_->VARIANT, [this](const String& text) { typeVariant(text); });
+    form_.on(input_->CHANGED, [this] { refreshOffers(); });
+    form_.on(form_->KeyUp, [this](const KeyEvent&) { followCaret(); });
+    form_.on(form_->KeyDown, [this](KeyEvent& event) {
+        if (event.KeyCode != 0 && input_->frame().hasFocus()) {
+            offers_->previewKey(event);
+        }
+    });
+    form_.on(offers_->TAKEN, [this](std::size_t at) { takeOffer(at); });
+    form_.on(offers_->PRESSED, [this](const PointerEvent& event) { window_.press(*offers_, event); });
+    form_.on(offers_->MOVED, [this](const PointerEvent& event) { window_.move(*offers_, event); });
+    form_.on(offers_->RELEASED, [this](std::int32_t touch) { window_.release(touch); });
+    form_.on(window_.DRAGGED, [this] { offers_->cancelPress(); });
 }
 
 void TermPad::open()
 {
+    if (mayOffer()) {
+        makeRoom();
+    }
     window_.open();
     keys_->scanInterval(rememberedScan());
     translate();
@@ -87,6 +108,7 @@ void TermPad::readTarget()
     input_->Term(readTerm(target.target()));
     input_->CARET(static_cast<std::int32_t>(input_->Term().size()));
     input_->LOCKED(target.locked());
+    refreshOffers();
 }
 
 void TermPad::perform(const KeyDeed& deed)
@@ -135,6 +157,62 @@ void TermPad::replace(std::size_t at, std::size_t length, StringView piece)
 {
     ignoringErrors([this] { input_->frame().SetFocus(); });
     input_->edit(at, length, piece);
+}
+
+// Formulas that are offered.
+
+bool TermPad::mayOffer() const
+{
+    const TargetText& target = window_.target();
+    return OfferLeave::current()->isGiven && wantsOffers() && !target.locked() &&
+           target.passwordChar().empty();
+}
+
+void TermPad::makeRoom()
+{
+    offers_->frame().Visible(true);
+    if (room_ > 0) {
+        const PixelSize size = form_->innerSize();
+        form_->innerSize({size.width, size.height + room_});
+        for (ControlFrame* frame : {&input_->frame(), &keys_->frame()}) {
+            PixelRectangle area = frame->pixelRectangle();
+            area.top += room_;
+            frame->pixelRectangle(area);
+        }
+        room_ = 0;
+    }
+}
+
+/// What is offered goes with the caret, which keys may have moved.
+void TermPad::followCaret()
+{
+    if (input_->CARET() != offeredAt_ && !offers_->chosen()) {
+        refreshOffers();
+    }
+}
+
+void TermPad::refreshOffers()
+{
+    if (!offers_->frame().Visible()) {
+        return;
+    }
+    offeredAt_ = input_->CARET();
+    const String term = input_->Term();
+    const StringView before = StringView(term).substr(0, static_cast<std::size_t>(offeredAt_));
+    offers_->offer(offersBehind(before, offers_->most()).formulas);
+}
+
+/// In the place of what has been begun.
+void TermPad::takeOffer(std::size_t at)
+{
+    const auto caret = static_cast<std::size_t>(input_->CARET());
+    const String term = input_->Term();
+    const FormulaOffers offers = offersBehind(StringView(term).substr(0, caret), offers_->most());
+    if (at < offers.formulas.size() && !window_.isEnding()) {
+        replace(caret - offers.length, offers.length, offers.formulas[at]->formula);
+        keys_->board().type({}); // modifiers fall back
+        keys_->refresh();
+    }
 }
 
 void TermPad::clear()

@@ -18,7 +18,8 @@ namespace phial
 frm_DialogKeyboardPSE::frm_DialogKeyboardPSE()
     : form_(dialog_keyboard_pse_design::Design),
       window_(form_, KeyboardWindow::Leaving::Confirms, dialog_keyboard_pse_design::CellPitch),
-      pad_(form_, window_, periodic_key_layout::Layout), table_(form_->control<ctl_PSE>(u"ctl_PSE"))
+      pad_(form_, window_, periodic_key_layout::Layout, {.columns = 2, .rows = 2}),
+      table_(form_->control<ctl_PSE>(u"ctl_PSE"))
 {
     constexpr ControlDesign::Rectangle Table = dialog_keyboard_pse_design::TableArea;
     table_->frame().pixelRectangle({Table.left, Table.top, Table.width, Table.height});

@@ -9,7 +9,8 @@ namespace phial
 
 frm_DialogKeyboardTerm::frm_DialogKeyboardTerm()
     : form_(dialog_keyboard_term_design::Design), window_(form_, KeyboardWindow::Leaving::Confirms),
-      pad_(form_, window_, term_key_layout::Layout)
+      pad_(form_, window_, term_key_layout::Layout,
+           {.columns = 5, .room = dialog_keyboard_term_design::OfferRoom})
 {
     window_.placeWords(dialog_keyboard_term_design::WordsArea);
     const auto chosen = FreeTermKeys::current();

@@ -170,6 +170,25 @@ TEST_F(DialogKeyboardPSE, WithoutTheElementFileItSaysSoAndHasNoTable)
     expectConfirmed();
 }
 
+TEST_F(DialogKeyboardPSE, OffersFormulasBelowItsKeys)
+{
+    openWithOffers(u"");
+    EXPECT_TRUE(offers()->frame().Visible());
+    tapElements({u"H", u"H", u"S"});
+    ASSERT_EQ(offers()->count(), 3U);
+    tapOffer(1);
+    EXPECT_EQ(field()->Term(), u"H2SO4");
+    const PixelRectangle area = offers()->frame().pixelRectangle();
+    EXPECT_FALSE(area.meets(table()->frame().pixelRectangle()));
+    for (const KeyDesign& key : periodic_key_layout::Keys) {
+        PixelRectangle keyArea = keyPad()->areaOf(key.index);
+        keyArea.top += keyPad()->frame().pixelRectangle().top;
+        keyArea.left += keyPad()->frame().pixelRectangle().left;
+        EXPECT_FALSE(area.meets(keyArea)) << key.index;
+    }
+    EXPECT_LE(area.bottom(), keyboard.form().innerSize().height);
+}
+
 // Its keys.
 
 TEST_F(DialogKeyboardPSE, HasItsKeysInSixRows)

@@ -256,6 +256,138 @@ TEST_F(DialogKeyboardTerm, VariantsAndClearingAreUndoneAtOnce)
     EXPECT_EQ(field()->CARET(), 3);
 }
 
+// Formulas that are offered.
+
+TEST_F(DialogKeyboardTerm, OffersNothingWithoutLeaveOrWish)
+{
+    openWith(u"H2S");
+    EXPECT_FALSE(offers()->frame().Visible());
+    EXPECT_EQ(offers()->count(), 0U);
+    OfferLeave::current()->isGiven = true;
+    wantOffers(false);
+    frm_DialogKeyboardTerm unwanted;
+    unwanted.TargetControl(termTarget(u"H2S"));
+    unwanted.form().Show();
+    EXPECT_FALSE(unwanted.form().control<ctl_Offers>(u"ctl_Offers")->frame().Visible());
+    unwanted.form().Unload();
+}
+
+TEST_F(DialogKeyboardTerm, OffersNothingForHiddenSignsOrALockedTerm)
+{
+    OfferLeave::current()->isGiven = true;
+    const auto box = target<TextBox>();
+    box->PasswordChar(u"*");
+    open(box);
+    EXPECT_FALSE(offers()->frame().Visible());
+    frm_DialogKeyboardTerm locked;
+    const auto term = termTarget(u"H2S");
+    term->LOCKED(true);
+    locked.TargetControl(term);
+    locked.form().Show();
+    EXPECT_FALSE(locked.form().control<ctl_Offers>(u"ctl_Offers")->frame().Visible());
+    locked.form().Unload();
+}
+
+TEST_F(DialogKeyboardTerm, ATapTakesAnOfferForWhatHasBeenBegun)
+{
+    openWithOffers(u"Zn + HCl -> ");
+    EXPECT_EQ(offers()->count(), 0U);
+    type(u"2+h2+s");
+    ASSERT_EQ(offers()->count(), 3U);
+    EXPECT_EQ(field()->Term(), u"Zn + HCl -> 2H2S") << "nothing is typed by itself";
+    EXPECT_EQ(offers()->parts()[1].name, u"Schwefelsäure: H zwei S O vier");
+    tapOffer(1);
+    EXPECT_EQ(field()->Term(), u"Zn + HCl -> 2H2SO4");
+    EXPECT_EQ(field()->CARET(), 18);
+    EXPECT_EQ(keyboard.form().ActiveControl(), field());
+    type(u"^z");
+    EXPECT_EQ(field()->Term(), u"Zn + HCl -> 2H2S") << "undone at once";
+}
+
+TEST_F(DialogKeyboardTerm, ArrowsAndReturnTakeAnOffer)
+{
+    openWithOffers(u"H2S");
+    type(u"{down}");
+    EXPECT_EQ(offers()->chosen(), 0U);
+    EXPECT_EQ(offers()->frame().announcement(), u"Schweflige Säure: H zwei S O drei");
+    type(u"{right}");
+    EXPECT_EQ(offers()->chosen(), 1U);
+    EXPECT_TRUE(offers()->parts()[1].state.pressed);
+    type(u"{left}{left}");
+    EXPECT_EQ(offers()->chosen(), 2U);
+    type(u"{right}{right}{down}{enter}");
+    EXPECT_EQ(field()->Term(), u"H2SO4");
+    EXPECT_EQ(offers()->chosen(), std::nullopt);
+    EXPECT_TRUE(isOpen()) << "Return was the offer's";
+    type(u"{enter}");
+    expectConfirmed();
+}
+
+TEST_F(DialogKeyboardTerm, UpEscapeAndTypingLeaveTheOffers)
+{
+    openWithOffers(u"H2S");
+    type(u"{down}{up}");
+    EXPECT_EQ(offers()->chosen(), std::nullopt);
+    type(u"{down}{esc}");
+    EXPECT_EQ(offers()->chosen(), std::nullopt);
+    EXPECT_FALSE(keyboard.Accepted());
+    type(u"{down}+o");
+    EXPECT_EQ(offers()->chosen(), std::nullopt);
+    EXPECT_EQ(field()->Term(), u"H2SO");
+    EXPECT_EQ(offers()->count(), 2U);
+    type(u"{left}{left}");
+    EXPECT_EQ(offers()->count(), 5U) << "for what stands before the caret";
+    type(u"{home}{down}");
+    EXPECT_EQ(offers()->chosen(), std::nullopt) << "there is none";
+}
+
+TEST_F(DialogKeyboardTerm, OffersStandAboveItsKeysAndHideNothing)
+{
+    const double height = keyboard.form().innerSize().height;
+    outside.visual().millimetresPerPixel(9.0 / 48);
+    openWithOffers(u"H2S");
+    const double scale = offers()->frame().pixelRectangle().height / 48;
+    EXPECT_NEAR(keyboard.form().innerSize().height, (height + 54) * scale, 1);
+    EXPECT_GE(scale, 1) << "9 mm";
+    const PixelRectangle area = offers()->frame().pixelRectangle();
+    EXPECT_FALSE(area.meets(field()->frame().pixelRectangle()));
+    EXPECT_FALSE(area.meets(keyPad()->frame().pixelRectangle()));
+    EXPECT_FALSE(area.meets(get<ctl_Button>(u"but_Close")->frame().pixelRectangle()));
+    EXPECT_LE(area.bottom(), keyPad()->frame().pixelRectangle().top + 1);
+}
+
+TEST_F(DialogKeyboardTerm, WithOffersItFitsASmallScreen)
+{
+    outside.display().resize(1024, 600);
+    openWithOffers(u"H2S");
+    EXPECT_LE(keyboard.form().innerSize().width, 1024);
+    EXPECT_LE(keyboard.form().innerSize().height, 600);
+}
+
+TEST_F(DialogKeyboardTerm, APressOnAnOfferThatGoesElsewhereTakesNothing)
+{
+    openWithOffers(u"H2S");
+    const PixelRectangle first = offers()->parts()[0].area;
+    touch.press(1, *offers(), {first.left + 5, first.top + 5});
+    touch.move(1, {first.right() + 5, first.top + 5});
+    touch.release(1);
+    EXPECT_EQ(field()->Term(), u"H2S");
+    offers()->cancelPress();
+    offers()->activatePart(7);
+    EXPECT_EQ(field()->Term(), u"H2S");
+    offers()->activatePart(1);
+    EXPECT_EQ(field()->Term(), u"H2SO4") << "as screen readers do";
+}
+
+TEST_F(DialogKeyboardTerm, OffersBehindOkDoNothing)
+{
+    openWithOffers(u"H2S");
+    tap(term_keys_of::Ok);
+    offers()->activatePart(1);
+    EXPECT_EQ(field()->Term(), u"H2S");
+    expectConfirmed();
+}
+
 TEST_F(DialogKeyboardTerm, TheTermStandsOffTheEdgeOfItsField)
 {
     openWith(u"H2O");

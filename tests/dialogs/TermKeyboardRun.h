@@ -1,6 +1,8 @@
 #pragma once
 
 #include "dialogs/KeyboardRun.h"
+#include "dialogs/OfferChoice.h"
+#include "dialogs/ctl_Offers.h"
 #include "headless/Hand.h"
 #include "term/clt_TermInput.h"
 
@@ -43,6 +45,19 @@ protected:
         return made;
     }
     void openWith(StringView term) { this->open(termTarget(term)); }
+    void openWithOffers(StringView term)
+    {
+        OfferLeave::current()->isGiven = true;
+        openWith(term);
+    }
+    std::shared_ptr<ctl_Offers> offers() { return this->template get<ctl_Offers>(u"ctl_Offers"); }
+    void tapOffer(std::size_t at)
+    {
+        const PixelRectangle area = offers()->parts().at(at).area;
+        this->touch.press(1, *offers(), {area.left + area.width / 2, area.top + area.height / 2});
+        this->touch.release(1);
+        this->outside.runPending();
+    }
     /// Until it shows what it offers; the finger stays down.
     void hold(std::int32_t index)
     {
