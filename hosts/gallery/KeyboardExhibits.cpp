@@ -1,4 +1,5 @@
 #include "dialogs/FreeTermKeys.h"
+#include "dialogs/OfferChoice.h"
 #include "dialogs/ctl_Keys.h"
 #include "dialogs/frm_DialogKeyboard.h"
 #include "dialogs/frm_DialogKeyboardPSE.h"
@@ -312,10 +313,25 @@ std::vector<Sample> termKeySamples()
     });
 }
 
+/// Its field has a formula that goes on in several ways.
+Sample withOffers(StringView name, StringView begun)
+{
+    return sample<Form>(name, [begun](Form& form) {
+        OfferLeave::current()->isGiven = true;
+        form.Show();
+        OfferLeave::current()->isGiven = false;
+        const auto field = form.control<clt_TermInput>(u"txt_Input");
+        field->edit(0, field->Term().size(), begun);
+    });
+}
+
 std::vector<Sample> offerSamples()
 {
     return {
         sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+        withOffers(u"Formeln|Formulas", u"Zn + H2S"),
+        withOffers(u"Viele Formeln|Many formulas", u"Ca"),
+        withVariants(u"Hoch und tief|Raised and lowered", TermTwo),
         withVariants(u"Elemente mit C|Elements with C", TermLetterC),
         withVariants(u"Pfeile|Arrows", TermMinus),
         withVariants(u"Ein Bruch|A fraction", TermOpen),
@@ -327,7 +343,7 @@ std::vector<Sample> periodicKeySamples()
     return termSamples({
         sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
         sample<Form>(u"Zeigen|Show", [](Form& form) { form.Show(); }),
-        withVariants(u"Hoch und tief|Raised and lowered", TermTwo),
+        withOffers(u"Formeln|Formulas", u"Zn + H2S"),
     });
 }
 
@@ -397,8 +413,8 @@ std::vector<Exhibit> keyboardExhibits()
                         u"The periodic table as a keyboard for formulas.",
                         buildPeriodicKeyboard, periodicKeySamples()),
             inEveryLook(u"TermPad",
-                        u"Was die Tastatur für Formeln anbietet, wenn man eine Taste hält.|"
-                        u"What the formula keyboard offers when a key is held.",
+                        u"Was die Tastatur für Formeln anbietet, von selbst und wenn man eine Taste hält.|"
+                        u"What the formula keyboard offers by itself and when a key is held.",
                         buildTermKeyboard, offerSamples()),
             inEveryLook(u"ctl_Keys",
                         u"Die Tasten für einen einzelnen Schalter, und das Feld darüber.|"
