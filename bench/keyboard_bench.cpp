@@ -11,8 +11,10 @@
 #include "app/cls_AppURL.h"
 #include "app/sys_Global.h"
 #include "core/NativePath.h"
+#include "dialogs/FormulaOffers.h"
 #include "dialogs/KeyPainter.h"
 #include "dialogs/NumberLayout.h"
+#include "dialogs/OfferChoice.h"
 #include "dialogs/PeriodicKeyLayout.h"
 #include "dialogs/TermKeyLayout.h"
 #include "dialogs/TextLayout.h"
@@ -52,6 +54,7 @@ constexpr double FieldTop = 12;
 constexpr double FieldHeight = 44;
 constexpr std::int32_t KeyShift = 37;
 constexpr std::int32_t KeyQ = 14;
+constexpr std::int32_t KeyC = 40;
 
 /// The keyboard as the facade opens it, for a target that is not to be seen.
 class ShownKeyboard
@@ -291,7 +294,7 @@ void periodicSceneOpen(benchmark::State& state)
 BENCHMARK(periodicSceneOpen)->Name("PeriodicSceneOpen")->Unit(benchmark::kMillisecond);
 
 /// Struck, typed, and painted in the field.
-void termTap(benchmark::State& state)
+void strikeTermKey(benchmark::State& state, std::int32_t index)
 {
     PaintWatch watch;
     frm_DialogKeyboardTerm keyboard;
@@ -301,7 +304,7 @@ void termTap(benchmark::State& state)
     const auto keys = keyboard.form().control<ctl_Keys>(u"ctl_Keys");
     const auto field = keyboard.form().control<clt_TermInput>(u"txt_Input");
     for (auto _ : state) {
-        keys->CLICK.emit(KeyQ);
+        keys->CLICK.emit(index);
         while (field->Term().empty()) {
             QApplication::processEvents();
         }
@@ -314,7 +317,29 @@ void termTap(benchmark::State& state)
     keyboard.form().Unload();
     PaintWatch::endClosed();
 }
+
+void termTap(benchmark::State& state)
+{
+    strikeTermKey(state, KeyQ);
+}
 BENCHMARK(termTap)->Name("TermKeyboardEcho")->Unit(benchmark::kMicrosecond);
+
+/// The same with formulas that begin with the letter.
+void termTapWithOffers(benchmark::State& state)
+{
+    OfferLeave::current()->isGiven = true;
+    strikeTermKey(state, KeyC);
+    OfferLeave::current()->isGiven = false;
+}
+BENCHMARK(termTapWithOffers)->Name("TermKeyboardEchoOffers")->Unit(benchmark::kMicrosecond);
+
+void offers(benchmark::State& state)
+{
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(offersBehind(u"2NaOH + H2S", 5));
+    }
+}
+BENCHMARK(offers)->Name("FormulaOffers")->Unit(benchmark::kMicrosecond);
 
 /// The same field on a form of its own, into which a program types.
 void bareTermTap(benchmark::State& state)
