@@ -30,6 +30,7 @@ namespace
 
 constexpr Colour TableGround = QBColor(15);
 constexpr double FirstCell = 32;
+constexpr std::int32_t HoldInterval = 500; // milliseconds
 
 template <typename Shared>
 void share(Shared& list, Shared value)
@@ -112,13 +113,14 @@ struct ctl_PSE::Properties {
 
 ctl_PSE::ctl_PSE()
     : frame_(*this), surface_(*this), table_(std::make_shared<cls_DataElements>()), watch_(frame_, sheet_),
-      hand_(sheet_.tiles)
+      holding_(u"tmr_Hold", HoldInterval), hand_(sheet_.tiles)
 {
     sheet_.style.fontName = tableFont(visualHost().metrics());
     frame_.canFocus(true);
     frame_.TabStop(true);
     frame_.takesTouch(true);
-    watching_ = watch_.Ticking.connect([this] {
+    watching_ += holding_.Tick.connect([this] { hold(); });
+    watching_ += watch_.Ticking.connect([this] {
         if (!frame_.Enabled()) {
             hover(nullptr);
             watch_.watch(nullptr);

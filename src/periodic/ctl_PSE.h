@@ -6,6 +6,7 @@
 #include "periodic/TileHand.h"
 #include "visual/PaintHints.h"
 #include "visual/PaintSurface.h"
+#include "visual/Timer.h"
 #include "visual/UserControl.h"
 
 #include <memory>
@@ -102,6 +103,9 @@ public:
     Event<const std::shared_ptr<cls_DataElement>&> CLICK;
     Event<const std::shared_ptr<cls_DataElement>&> CLICKAGAIN;
     Event<> CLICKOUTSIDE;
+    /// A finger, the mouse or Enter has held an element for half a second. A handler that has used this sets
+    /// the flag, and letting go presses nothing then.
+    Event<const std::shared_ptr<cls_DataElement>&, bool&> HELD;
     /// The user has put the tile of that slot elsewhere, by drag, tap or key: onto the table, where
     /// DRAGSYMBOLDROP tells the element, or home.
     Event<std::int32_t> DROPPED;
@@ -156,6 +160,8 @@ private:
     void hover(std::shared_ptr<cls_DataElement> element);
     void repaintCellOf(const cls_DataElement* element);
     void release();
+    void waitForHold();
+    void hold();
     void choose(std::shared_ptr<cls_DataElement> element);
 
     void moveTile(PixelPoint pointer);
@@ -170,6 +176,7 @@ private:
     void reach(const CursorStop& stop);
     bool moveCursor(CursorStep step);
     bool pressCursor();
+    bool holdCursor();
     bool escape();
     bool sendCursorHome();
 
@@ -188,10 +195,13 @@ private:
     std::shared_ptr<cls_DataElement> hover_;
     std::shared_ptr<cls_DataElement> last_; ///< clicked
     ElementWatch watch_;
-    Connection watching_;
+    Connections watching_;
     PixelPoint pointed_;                 ///< where the pointer was last, of its own moves
     bool hasLeft_ = false;               ///< the pointer, as far as is known
     std::optional<std::int32_t> finger_; ///< that is down; 0 for the mouse
+    Timer holding_;
+    bool isHoldUsed_ = false; ///< by a handler, during the present press
+    bool isHoldTold_ = false; ///< of the key that is down
     TileHand hand_;
     PicturePtr ground_;                ///< while a tile is moved: the table without it
     std::optional<CursorStop> cursor_; ///< of the keys; none until they or a press come

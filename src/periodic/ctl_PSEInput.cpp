@@ -45,6 +45,27 @@ void ctl_PSE::pointerDown(const PointerEvent& event)
     } else if (const auto cell = sheet_.cellOf(hover_.get())) {
         const ElementPlace& place = sheet_.cells()[*cell].place;
         putCursor({double{1} * place.row, double{1} * place.column});
+        waitForHold();
+    }
+}
+
+void ctl_PSE::waitForHold()
+{
+    isHoldUsed_ = false;
+    holding_.Enabled(false);
+    holding_.Enabled(true);
+}
+
+/// One that has strayed to another element holds that.
+void ctl_PSE::hold()
+{
+    const auto self = weak_from_this().lock();
+    holding_.Enabled(false);
+    const auto element = hover_;
+    if (finger_ && element && !isPlacing()) {
+        bool isUsed = false;
+        HELD.emit(element, isUsed);
+        isHoldUsed_ = isUsed;
     }
 }
 
@@ -72,6 +93,10 @@ void ctl_PSE::pointerUp(const PointerEvent& event)
     }
     pointerMove(event);
     finger_.reset();
+    holding_.Enabled(false);
+    if (std::exchange(isHoldUsed_, false)) {
+        return;
+    }
     if (isPlacing()) {
         releaseTile(event);
     } else if (event.Touch == 0) {
@@ -93,6 +118,8 @@ bool ctl_PSE::hasLostButton(const PointerEvent& event) const
 void ctl_PSE::cancelPress()
 {
     finger_.reset();
+    holding_.Enabled(false);
+    isHoldUsed_ = false;
     if (hand_.cancelPress(sheet_.grid)) {
         REDRAW();
     }
@@ -290,7 +317,7 @@ void ctl_PSE::keyDown(KeyEvent& event)
     const bool isPress = isPlain && (event.is(Key::Return) || event.is(Key::Space));
     const bool isRemoval = isPlain && (event.is(Key::Delete) || event.is(Key::Backspace));
     const bool isUsed = step                    ? moveCursor(*step)
-                        : isPress               ? (event.isRepeat ? cursorStop().has_value() : pressCursor())
+                        : isPress               ? (event.isRepeat ? holdCursor() : pressCursor())
                         : event.is(Key::Escape) ? escape()
                                                 : isRemoval && sendCursorHome();
     if (isUsed) {
@@ -338,6 +365,7 @@ void ctl_PSE::keyPress(KeyPressEvent& event)
 /// Of tiles that lie on each other each press takes the next one.
 bool ctl_PSE::pressCursor()
 {
+    isHoldTold_ = false;
     const auto stop = cursorStop();
     if (!stop) {
         return false;
@@ -348,6 +376,18 @@ bool ctl_PSE::pressCursor()
         activatePart(stop->part);
     }
     return true;
+}
+
+/// The key repeats: the first time it has been held. Gives whether there is a cursor.
+bool ctl_PSE::holdCursor()
+{
+    const auto stop = cursorStop();
+    if (stop && !isPlacing() && !std::exchange(isHoldTold_, true)) {
+        const auto element = sheet_.cells()[stop->part].painted.element;
+        bool isUsed = false;
+        HELD.emit(element, isUsed);
+    }
+    return stop.has_value();
 }
 
 bool ctl_PSE::escape()
