@@ -21,8 +21,7 @@ constexpr ControlDesign PSEControls[] = {
     design<ctl_PSE>(u"ctl_PSE", TableArea)
         .set(u"FIXEDSIZE", true)
         .set(u"BACKCOLOR", Palette::Footer)
-        .set(u"Colouring", TableColours::ByTheme)
-        .unfocusable(),
+        .set(u"Colouring", TableColours::ByTheme),
     design<ctl_Offers>(u"ctl_Offers", {576, 364, 240, 96}).ground(Palette::Footer).touchable().hidden(),
     design<ctl_Bubble>(u"ctl_Bubble1", {0, 0, 170, 90}).hidden(),
 };

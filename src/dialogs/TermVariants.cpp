@@ -3,6 +3,7 @@
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "chem/ElementSymbols.h"
+#include "chem/formula/FormulaNames.h"
 #include "dialogs/KeyBoard.h"
 #include "dialogs/KeySpeech.h"
 
@@ -98,12 +99,29 @@ std::vector<KeyVariant> termVariants(const KeyBoard& board, std::int32_t index)
     return sign == u'-' ? arrowVariants() : elementVariants(upperCase(sign));
 }
 
+std::vector<KeyVariant> ionVariants(StringView symbol)
+{
+    std::vector<KeyVariant> all;
+    const String begin = String(symbol) + RaisingSign;
+    for (const FormulaName& each : formulaNames()) {
+        if (each.formula.starts_with(begin)) {
+            const String ion(each.formula);
+            all.push_back({ion, ion, LNG()->TRANSLATE(each.german, each.english), true});
+        }
+    }
+    return all;
+}
+
 String variantBehind(StringView before, StringView variant)
 {
     const bool isMoved =
         !variant.empty() && (variant.front() == RaisingSign || variant.front() == LoweringSign);
     if (isMoved && endsMoved(before, variant.front())) {
         return u"#" + String(variant);
+    }
+    const StringView symbol = variant.substr(0, variant.find(RaisingSign));
+    if (atomicNumberOf(symbol) != 0 && symbol != variant && before.ends_with(symbol)) {
+        return String(variant.substr(symbol.size()));
     }
     const bool hasBlank = before.empty() || before.back() == u' ';
     return String(hasBlank && variant.starts_with(u' ') ? variant.substr(1) : variant);

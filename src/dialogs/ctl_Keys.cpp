@@ -287,7 +287,9 @@ void ctl_Keys::goThroughStrip(KeyEvent& event)
         strip_->stepRow(event.is(Key::Down));
         tellChosen();
     } else if (isChoice) {
-        chooseVariant(strip_->chosen());
+        if (!event.isRepeat) { // the key may have opened the strip
+            chooseVariant(strip_->chosen());
+        }
     } else {
         closeStrip();
     }

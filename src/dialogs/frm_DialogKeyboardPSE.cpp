@@ -5,6 +5,7 @@
 #include "dialogs/DialogKeyboardPSEDesign.h"
 #include "dialogs/ElementCount.h"
 #include "dialogs/PeriodicKeyLayout.h"
+#include "dialogs/TermVariants.h"
 #include "mascot/ctl_Bubble.h"
 #include "periodic/ElementFile.h"
 #include "periodic/ctl_PSE.h"
@@ -32,6 +33,11 @@ frm_DialogKeyboardPSE::frm_DialogKeyboardPSE()
     // Whoever taps an element twice wants two of it.
     form_.on(table_->CLICK, [this](const auto& element) { take(*element); });
     form_.on(table_->CLICKAGAIN, [this](const auto& element) { take(*element); });
+    form_.on(table_->HELD, [this](const auto& element, bool& isUsed) { isUsed = offerIons(*element); });
+    form_.on(form_->KeyDown, [this](const KeyEvent& event) {
+        isKeyDown_ = table_->frame().hasFocus() && (event.is(Key::Return) || event.is(Key::Space));
+    });
+    form_.on(form_->KeyUp, [this](const KeyEvent&) { isKeyDown_ = false; });
     TRANSLATE();
 }
 
@@ -71,26 +77,42 @@ void frm_DialogKeyboardPSE::loadTable()
     }
 }
 
-/// One more of the element at the end of the term, or else its symbol at the caret.
+/// One more of the element at the end of the term, or else its symbol at the caret. Who taps types on in the
+/// field, and who uses the cursor goes on in the table.
 void frm_DialogKeyboardPSE::take(const cls_DataElement& element)
 {
     clt_TermInput& field = pad_.field();
     if (window_.isEnding() || field.LOCKED()) {
         return;
     }
+    if (!isKeyDown_) {
+        ignoringErrors([&] { field.frame().SetFocus(); });
+    }
     const String term = field.Term();
+    const std::int32_t caret = field.CARET();
     const auto counted = countedUp(term, element.SYMBOL());
     if (!counted) {
-        ignoringErrors([&] { pad_.send(element.SYMBOL()); });
+        if (isKeyDown_) {
+            field.edit(static_cast<std::size_t>(caret), 0, element.SYMBOL());
+        } else {
+            ignoringErrors([&] { pad_.send(element.SYMBOL()); });
+        }
         return;
     }
-    const std::int32_t caret = field.CARET();
     const bool wasAtEnd = caret == static_cast<std::int32_t>(term.size());
     const auto same = static_cast<std::size_t>(std::ranges::mismatch(term, *counted).in1 - term.begin());
-    pad_.replace(same, term.size() - same, StringView(*counted).substr(same));
+    field.edit(same, term.size() - same, StringView(*counted).substr(same));
     if (!wasAtEnd) {
         field.CARET(caret);
     }
+}
+
+/// Gives whether there are some.
+bool frm_DialogKeyboardPSE::offerIons(const cls_DataElement& element)
+{
+    constexpr std::int32_t Seven = 7; // at the corner of the digits
+    return !window_.isEnding() && !pad_.field().LOCKED() &&
+           pad_.keys().showVariants(ionVariants(element.SYMBOL()), Seven);
 }
 
 } // namespace phial

@@ -42,11 +42,13 @@ private:
     void loadTable();
     void sizeBubble();
     void take(const cls_DataElement& element);
+    bool offerIons(const cls_DataElement& element);
 
     DesignedForm form_;
     KeyboardWindow window_;
     TermPad pad_;
     std::shared_ptr<ctl_PSE> table_;
+    bool isKeyDown_ = false; ///< with which the table's cursor presses an element
 };
 
 } // namespace phial

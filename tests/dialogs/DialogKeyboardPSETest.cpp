@@ -45,6 +45,16 @@ protected:
         touch.release(1);
         outside.runPending();
     }
+    void holdElement(StringView symbol)
+    {
+        const auto parts = table()->parts();
+        const auto part = std::ranges::find_if(parts, [&](const NamedPart& each) {
+            return each.name.find(u", " + String(symbol) + u",") != String::npos;
+        });
+        ASSERT_NE(part, parts.end());
+        touch.press(1, *table(), {part->area.left + 5, part->area.top + 5});
+        outside.advance(0.6);
+    }
     void tapElements(std::initializer_list<StringView> symbols)
     {
         for (const StringView symbol : symbols) {
@@ -264,12 +274,77 @@ TEST_F(DialogKeyboardPSE, EachKeyHasANameOfItsOwnInWords)
     }
 }
 
-TEST_F(DialogKeyboardPSE, OnlyItsFieldIsReachedByTabAndKeepsTheFocus)
+TEST_F(DialogKeyboardPSE, FieldAndTableAreReachedByTabAndTapsLeaveTheFocusInTheField)
 {
     openWith(u"");
-    EXPECT_THAT(keyboard.form().tabOrder(), ::testing::ElementsAre(field()));
+    EXPECT_THAT(keyboard.form().tabOrder(), ::testing::ElementsAre(field(), table()));
+    EXPECT_EQ(keyboard.form().ActiveControl(), field());
     tapElements({u"H", u"H"});
     EXPECT_EQ(keyboard.form().ActiveControl(), field());
+}
+
+TEST_F(DialogKeyboardPSE, ArrowsGoThroughTheTableAndReturnTypesElements)
+{
+    openWith(u"2");
+    table()->frame().SetFocus();
+    type(u"{home}"); // the row of hydrogen
+    type(u"{enter}{enter}");
+    EXPECT_EQ(field()->Term(), u"2H2");
+    type(u"{down} ");
+    EXPECT_EQ(field()->Term(), u"2H2Li");
+    EXPECT_EQ(keyboard.form().ActiveControl(), table()) << "for the next element";
+    EXPECT_TRUE(isOpen());
+    EXPECT_FALSE(keyboard.Accepted());
+    tapElement(u"O");
+    EXPECT_EQ(field()->Term(), u"2H2LiO");
+    EXPECT_EQ(keyboard.form().ActiveControl(), field());
+}
+
+TEST_F(DialogKeyboardPSE, AHeldElementOffersItsIons)
+{
+    openWith(u"");
+    tapElement(u"Fe");
+    holdElement(u"Fe");
+    ASSERT_TRUE(keyPad()->showsVariants());
+    EXPECT_EQ(keyPad()->frame().announcement(), u"Eisen(II)-Ion");
+    touch.release(1);
+    outside.runPending();
+    EXPECT_EQ(field()->Term(), u"Fe") << "holding types nothing";
+    type(u"{right}{enter}");
+    EXPECT_EQ(field()->Term(), u"Fe^3+") << "of the iron that stands there";
+    field()->edit(5, 0, u" + ");
+    holdElement(u"S");
+    touch.release(1);
+    type(u"{enter}");
+    EXPECT_EQ(field()->Term(), u"Fe^3+ + S^2-");
+}
+
+TEST_F(DialogKeyboardPSE, AnElementWithoutIonsOffersNone)
+{
+    openWith(u"");
+    holdElement(u"He");
+    EXPECT_FALSE(keyPad()->showsVariants());
+    touch.release(1);
+    field()->LOCKED(true);
+    holdElement(u"Fe");
+    EXPECT_FALSE(keyPad()->showsVariants());
+    touch.release(1);
+}
+
+TEST_F(DialogKeyboardPSE, AHeldReturnOffersTheIonsOfTheCursorsElement)
+{
+    openWith(u"");
+    table()->frame().SetFocus();
+    type(u"{home}{enter}");
+    KeyEvent repeated{static_cast<std::int32_t>(Key::Return)};
+    repeated.isRepeat = true;
+    for (int times = 0; times < 3; ++times) {
+        KeyEvent event = repeated;
+        keyboard.form().inputKeyDown(event);
+    }
+    ASSERT_TRUE(keyPad()->showsVariants()) << "which repeating does not choose";
+    type(u"{enter}");
+    EXPECT_EQ(field()->Term(), u"H^+");
 }
 
 TEST_F(DialogKeyboardPSE, AsksInBothLanguages)

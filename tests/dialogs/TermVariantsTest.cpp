@@ -143,6 +143,27 @@ TEST_F(TermVariants, ADigitBesideARaisedOneStandsBesideIt)
     EXPECT_EQ(variantBehind({}, u"µ2"), u"µ2");
 }
 
+TEST_F(TermVariants, AnElementOffersTheIonsThatHaveAName)
+{
+    const auto ions = ionVariants(u"Fe");
+    ASSERT_EQ(ions.size(), 2U);
+    EXPECT_EQ(ions[0], (KeyVariant{u"Fe^2+", u"Fe^2+", u"Eisen(II)-Ion", true}));
+    EXPECT_EQ(ions[1].text, u"Fe^3+");
+    EXPECT_EQ(ionVariants(u"C").size(), 0U) << "those of calcium are not its own";
+    EXPECT_EQ(ionVariants(u"He").size(), 0U);
+    LNG()->CURRENT(ID_Language_English);
+    EXPECT_EQ(ionVariants(u"Ca").front().spoken, u"calcium ion");
+}
+
+TEST_F(TermVariants, AnIonBehindItsOwnSymbolAddsItsCharge)
+{
+    EXPECT_EQ(variantBehind(u"Fe", u"Fe^2+"), u"^2+");
+    EXPECT_EQ(variantBehind(u"2Na", u"Na^+"), u"^+");
+    EXPECT_EQ(variantBehind(u"Fe ", u"Fe^2+"), u"Fe^2+");
+    EXPECT_EQ(variantBehind({}, u"Fe^2+"), u"Fe^2+");
+    EXPECT_EQ(variantBehind(u"Na", u"Na"), u"Na");
+}
+
 TEST_F(TermVariants, NoBlankIsDoubled)
 {
     EXPECT_EQ(variantBehind(u"H2", u" ⇌ "), u" ⇌ ");
