@@ -143,7 +143,6 @@ void frm_ToolCalc::Variables(const CoreTokenList& value)
 void frm_ToolCalc::Title(String value)
 {
     title_ = std::move(value);
-    TRANSLATE();
 }
 
 void frm_ToolCalc::Show()

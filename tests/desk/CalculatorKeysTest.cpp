@@ -65,7 +65,8 @@ TEST_F(CalculatorKeys, TypedSignsAreKeys)
     strike(Key::Delete);
     type(u"2^3.5");
     EXPECT_EQ(line(), u"2^3,5");
-    type(u"xyz %");
+    visualHost().clipboardText(u"7");
+    type(u"xyzcv %");
     EXPECT_EQ(line(), u"2^3,5");
 }
 
@@ -172,6 +173,9 @@ TEST_F(CalculatorKeys, DeleteEmptiesTheMemoryWithTheFocusAndElseTheLine)
     strike(Key::Delete);
     EXPECT_EQ(recall(1)->Caption(), u"M2");
     EXPECT_EQ(recall(0)->Caption(), u"7");
+    recall(0)->SetFocus();
+    strike(Key::Delete);
+    EXPECT_EQ(recall(0)->Caption(), u"M1");
     EXPECT_EQ(line(), u"7");
     key(Equals)->SetFocus();
     strike(Key::Delete);

@@ -3,7 +3,9 @@
 #include "visual/ListBox.h"
 #include "visual/VisualHost.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace phial::test
 {
@@ -124,6 +126,92 @@ TEST_F(CalculatorLayout, NothingOverlapsAndNothingStandsOutside)
     }
 }
 
+/// The areas of what stands on the form beside the keypad.
+std::vector<PixelRectangle> areasBeside(const Form& form, bool hasTable)
+{
+    std::vector<PixelRectangle> areas;
+    const auto add = [&](StringView name, std::int32_t index = -1) {
+        areas.push_back(form.control<Control>(name, index)->frame().pixelRectangle());
+    };
+    add(u"bar_Calc");
+    add(u"bar_Var");
+    if (hasTable) {
+        add(u"ctl_PSE");
+    } else {
+        add(u"lab_Tape");
+        add(u"lst_Tape");
+    }
+    for (std::int32_t memory = 0; memory < 4; ++memory) {
+        add(u"but_Key", Store1 + memory);
+        add(u"but_Recall", memory);
+    }
+    return areas;
+}
+
+bool overlap(const PixelRectangle& one, const PixelRectangle& other)
+{
+    return one.left < other.left + other.width && other.left < one.left + one.width &&
+           one.top < other.top + other.height && other.top < one.top + one.height;
+}
+
+TEST_F(CalculatorLayout, WhatStandsBesideTheKeypadSharesTheRoom)
+{
+    CoreTokenList variables;
+    variables.Add(u"n", 2);
+    calculator.Variables(variables);
+    open();
+    for (const bool hasTable : {false, true}) {
+        if (hasTable) {
+            tap({Table});
+        }
+        const auto areas = areasBeside(form(), hasTable);
+        double right = 0;
+        for (std::size_t one = 0; one < areas.size(); ++one) {
+            for (std::size_t other = 0; other < one; ++other) {
+                EXPECT_FALSE(overlap(areas[one], areas[other])) << one << " and " << other;
+            }
+            if (one > 1) { // neither bar
+                right = std::max(right, areas[one].left + areas[one].width);
+                EXPECT_GE(areas[one].left, areas[0].left + areas[0].width);
+                EXPECT_LE(areas[one].top + areas[one].height, areas[1].top - 8);
+            }
+        }
+        EXPECT_DOUBLE_EQ(right, width() - 16);
+        EXPECT_EQ(areas[0].left, 0);
+        const PixelRectangle lastRecall = areas.back();
+        EXPECT_DOUBLE_EQ(lastRecall.top + lastRecall.height, areas[0].height - 16) << "level with OK";
+    }
+}
+
+TEST_F(CalculatorLayout, KeysOfVariablesStandInEvenRows)
+{
+    CoreTokenList variables;
+    for (const StringView name : {u"a", u"b", u"c", u"d", u"e", u"f", u"g"}) {
+        variables.Add(name, {123.456, u"mmol/l"});
+    }
+    calculator.Variables(variables);
+    open();
+    const auto area = [&](std::int32_t at) {
+        return form().control<Control>(u"but_Var", at)->frame().pixelRectangle();
+    };
+    std::int32_t columns = 1;
+    while (columns < 7 && area(columns).top == area(0).top) {
+        ++columns;
+    }
+    EXPECT_GT(columns, 1);
+    EXPECT_LT(columns, 7) << "with their units they need two rows";
+    EXPECT_EQ(area(0).left, 16);
+    const PixelRectangle last = area(columns - 1);
+    EXPECT_NEAR(last.left + last.width, width() - 16, 0.01);
+    for (std::int32_t at = 1; at < 7; ++at) {
+        const double step = (area(0).width + 8) * (at % columns);
+        EXPECT_NEAR(area(at).left, 16 + step, 0.01) << at;
+        const std::int32_t row = at / columns;
+        EXPECT_NEAR(area(at).top, area(0).top + row * (area(0).height + 8), 0.01) << at;
+        EXPECT_GE(area(at).width, roomFor(u"a = 123,456 mmol/l") * 11 / size()) << at;
+    }
+}
+
 TEST_F(CalculatorLayout, WithTaskAndVariablesItHasRoomOnASmallScreen)
 {
     CoreTokenList variables;
@@ -160,7 +248,10 @@ TEST_F(CalculatorLayout, ACaptionOfItsOwnStaysInEitherLanguage)
     EXPECT_EQ(form().Caption(), u"Taschenrechner");
     LNG()->CURRENT(ID_Language_English);
     EXPECT_EQ(form().Caption(), u"Pocket calculator");
+    form().Unload();
     calculator.Title(u"Dreisatz");
+    open();
+    EXPECT_EQ(form().Caption(), u"Dreisatz");
     LNG()->CURRENT(ID_Language_German);
     EXPECT_EQ(form().Caption(), u"Dreisatz");
 }

@@ -227,6 +227,18 @@ TEST_F(CalculatorLines, VariablesAreKeysWithTheirValues)
     EXPECT_EQ(line(), u"14,625");
 }
 
+TEST_F(CalculatorLines, AVariableWithoutAValueMakesTheTermFail)
+{
+    CoreTokenList variables;
+    variables.Add(u"q", std::span<const Variant>());
+    calculator.Variables(variables);
+    open();
+    EXPECT_EQ(form().control<ctl_Button>(u"but_Var", 0)->Caption(), u"q = ");
+    headless::click(*form().control<ctl_Button>(u"but_Var", 0));
+    type(u"=");
+    EXPECT_NE(line(), u"q");
+}
+
 TEST_F(CalculatorLines, AVariableWhoseValueIsNoNumberMakesTheTermFail)
 {
     CoreTokenList variables;

@@ -72,12 +72,15 @@ TEST_F(Sheets, ColumnsOfAcidsBeginBelowTheirHeads)
         return MarkupLayout(String(markup) + u"|", font, visualHost().metrics()).size().width;
     };
     const double blank = width(u"x ") - width(u"x");
+    const double baseAt = width(head.substr(0, head.find(u"Base")));
     const double pKsAt = width(head.substr(0, head.find(u"pKs")));
     const String text = acidTable(head, font);
     const auto lines = split(text, u"\n");
     for (std::size_t row = 1; row < 10; ++row) {
         const std::size_t at = lines[row].rfind(u' ') + 1;
         EXPECT_NEAR(width(lines[row].substr(0, at)), pKsAt, blank / 2 + 0.01) << toUtf8(lines[row]);
+        const std::size_t base = lines[row].find_first_not_of(u' ', lines[row].find(u' '));
+        EXPECT_NEAR(width(lines[row].substr(0, base)), baseAt, blank / 2 + 0.01) << toUtf8(lines[row]);
     }
 }
 
@@ -210,6 +213,13 @@ TEST_F(Sheets, NamesAreTheModeOnlyWhileTheirTableLoads)
     EXPECT_TRUE(sheet.control<ctl_PSE>(u"frm_P2")->BUBBLE());
     const PixelRectangle holder = sheet.control<Control>(u"frm_P1Holder")->frame().pixelRectangle();
     EXPECT_EQ(sheet.control<Control>(u"frm_P2")->frame().pixelRectangle(), holder);
+    EXPECT_EQ(sheet.control<Control>(u"frm_P3")->frame().pixelRectangle(), holder);
+    const auto drawn = [&](StringView table) {
+        return outside.visual().drawing(*sheet.control<Control>(table));
+    };
+    EXPECT_NE(drawn(u"frm_P2").find("\"Na\""), std::string::npos);
+    EXPECT_EQ(drawn(u"frm_P2").find("Natrium"), std::string::npos);
+    EXPECT_NE(drawn(u"frm_P3").find("Natrium"), std::string::npos);
     sheet.Unload();
 }
 
