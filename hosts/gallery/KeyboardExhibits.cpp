@@ -1,3 +1,4 @@
+#include "chem/cls_DataElements.h"
 #include "dialogs/FreeTermKeys.h"
 #include "dialogs/OfferChoice.h"
 #include "dialogs/ctl_Keys.h"
@@ -9,6 +10,7 @@
 #include "gallery/Catalogue.h"
 #include "gallery/GalleryColours.h"
 #include "gallery/GalleryFont.h"
+#include "periodic/ctl_PSE.h"
 #include "term/clt_TermInput.h"
 #include "visual/Label.h"
 #include "visual/RichTextBox.h"
@@ -347,6 +349,23 @@ std::vector<Sample> periodicKeySamples()
     });
 }
 
+std::vector<Sample> tableSamples()
+{
+    const auto iron = [](Form& form) -> std::shared_ptr<cls_DataElement> {
+        return form.control<ctl_PSE>(u"ctl_PSE")->Elements()->ITEM(u"Fe", false);
+    };
+    return {
+        sample<Form>(u"Geschlossen|Closed", [](Form&) {}),
+        opened(u"Ionen|Ions",
+               [iron](Form& form, ctl_Keys&) {
+                   bool isUsed = false;
+                   form.control<ctl_PSE>(u"ctl_PSE")->HELD.emit(iron(form), isUsed);
+               }),
+        opened(u"Mit Tasten|By keys",
+               [](Form& form, ctl_Keys&) { form.control<ctl_PSE>(u"ctl_PSE")->frame().SetFocus(); }),
+    };
+}
+
 std::vector<Sample> fieldSamples()
 {
     return {
@@ -416,6 +435,10 @@ std::vector<Exhibit> keyboardExhibits()
                         u"Was die Tastatur für Formeln anbietet, von selbst und wenn man eine Taste hält.|"
                         u"What the formula keyboard offers by itself and when a key is held.",
                         buildTermKeyboard, offerSamples()),
+            inEveryLook(u"PeriodicPad",
+                        u"Was das Periodensystem als Tastatur anbietet, und wie man es mit Tasten erreicht.|"
+                        u"What the periodic keyboard offers, and how keys reach its table.",
+                        buildPeriodicKeyboard, tableSamples()),
             inEveryLook(u"ctl_Keys",
                         u"Die Tasten für einen einzelnen Schalter, und das Feld darüber.|"
                         u"The keys for a single switch, and the field above them.",
