@@ -141,7 +141,7 @@ double widthOfTerm(DrawDevice& device, StringView term)
 
 void paintTerm(DrawDevice& device, const PixelRectangle& area, double scale, StringView term)
 {
-    constexpr double Margin = 4;
+    constexpr double Margin = 7; // off the edge of a square cap
     device.FontName(u"Tahoma");
     device.FontSize(TermPoints * scale);
     const double room = area.width - 2 * Margin * scale;
