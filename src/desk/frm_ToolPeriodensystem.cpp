@@ -40,7 +40,10 @@ frm_ToolPeriodensystem::frm_ToolPeriodensystem()
 
 void frm_ToolPeriodensystem::Show()
 {
-    const bool isBlocked = visualHost().forms().innermostModal() && !form_->isLoaded();
+    const bool isBlocked = visualHost().forms().innermostModal() && !form_->isModal();
+    if (isBlocked) {
+        form_->Hide(); // a window that is open already would stay behind the modal one
+    }
     form_->Show(isBlocked ? FormShow::Modal : FormShow::Modeless);
 }
 

@@ -175,6 +175,28 @@ TEST_F(Sheets, OverAModalFormThePeriodicTableIsModalToo)
     tools().OxValues();
 }
 
+TEST_F(Sheets, AnOpenPeriodicTableBecomesModalOverAModalForm)
+{
+    tools().PERIODICSYSTEM();
+    bool wasModal = false;
+    outside.visual().onModal(u"frm_ToolOxValues", [&](Form& form) {
+        outside.visual().onModal(u"frm_ToolPeriodensystem", [&](Form& table) {
+            wasModal = table.isModal();
+            tools().PERIODICSYSTEM();
+            EXPECT_TRUE(table.Visible()) << "in front already";
+            pressOk(table);
+        });
+        tools().PERIODICSYSTEM();
+        pressOk(form);
+    });
+    tools().OxValues();
+    EXPECT_TRUE(wasModal);
+    tools().PERIODICSYSTEM();
+    ASSERT_TRUE(periodicSheet());
+    EXPECT_FALSE(periodicSheet()->isModal()) << "beside the other windows again";
+    periodicSheet()->Unload();
+}
+
 TEST_F(Sheets, ButtonsSayWhatTheyShowNext)
 {
     tools().PERIODICSYSTEM();
