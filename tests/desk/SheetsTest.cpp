@@ -227,6 +227,15 @@ TEST_F(Sheets, ButtonsSayWhatTheyShowNext)
     sheet.Unload();
 }
 
+TEST_F(Sheets, BothPeriodicTablesHaveTheirElements)
+{
+    tools().PERIODICSYSTEM();
+    for (const StringView table : {u"frm_P2", u"frm_P3"}) {
+        EXPECT_GT(periodicSheet()->control<ctl_PSE>(table)->parts().size(), 100U) << toUtf8(table);
+    }
+    periodicSheet()->Unload();
+}
+
 TEST_F(Sheets, NamesAreTheModeOnlyWhileTheirTableLoads)
 {
     tools().PERIODICSYSTEM();
