@@ -6,6 +6,7 @@
 #include "chem/formula/FormulaPrinter.h"
 #include "chem/formula/FormulaReader.h"
 #include "chem/formula/FormulaSpeech.h"
+#include "chem/formula/OxidationNumbers.h"
 
 namespace
 {
@@ -18,6 +19,18 @@ void readEachForm(const FormulaTree& tree, Read read)
     for (const auto print : {plainFormula, unicodeFormula, formulaMarkup, formulaTerm}) {
         const FormulaReading again = read(print(tree));
         fuzz::require(again && again.tree == tree);
+    }
+}
+
+void findOxidationNumbers(const FormulaTree& tree)
+{
+    for (const FormulaSpecies& species : tree.species) {
+        const OxidationNumbers found = oxidationNumbersOf(tree, species);
+        fuzz::require(!found.fault || found.numbers.empty());
+        for (const OxidationNumber& number : found.numbers) {
+            fuzz::require(number.item < tree.items.size() && !tree.items[number.item].isGroup());
+            fuzz::require(!writtenOxidationNumber(number.number).empty());
+        }
     }
 }
 
@@ -34,6 +47,7 @@ void tryReading(StringView text, Read read)
     readEachForm(reading.tree, read);
     spokenInGerman(reading.tree);
     balance(reading.tree);
+    findOxidationNumbers(reading.tree);
     compareFormulas(reading.tree, reading.tree);
 }
 
