@@ -93,7 +93,7 @@ TEST_F(RealHelpBook, IsReadByKeys)
     desk_.strike({UserDesk::Right});
     EXPECT_TRUE(turnsTo(2));
     desk_.strike({UserDesk::End});
-    EXPECT_TRUE(turnsTo(4));
+    EXPECT_TRUE(turnsTo(5));
     desk_.strike({UserDesk::Home});
     EXPECT_TRUE(turnsTo(1));
     desk_.strike({UserDesk::Escape});
