@@ -96,6 +96,7 @@ TEST_F(CatalogueTest, EveryStateOfEveryExhibitIsShownInBothLanguages)
 
 TEST_F(CatalogueTest, NothingStaysOnTheStageOfAnExhibitBefore)
 {
+    installElements();
     open();
     show(u"Label");
     const std::size_t own = form().controlCount() - 1;
