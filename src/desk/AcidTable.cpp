@@ -72,14 +72,14 @@ String paddedTo(double place, String line, const FontSpec& font)
 
 String acidTable(StringView head, const FontSpec& font)
 {
-    constexpr char16_t LineEnd = 10;
+    constexpr char16_t LineFeed = 10;
     const auto [baseAt, pKsAt] = columnsOf(head);
     const double basePlace = widthOf(head.substr(0, baseAt), font);
     const double pKsPlace = widthOf(head.substr(0, pKsAt), font);
-    String text = String(head) + LineEnd;
+    String text = String(head) + LineFeed;
     for (const Acid& acid : Acids) {
         const String begun = paddedTo(basePlace, String(acid.acid), font) + String(acid.base);
-        text += paddedTo(pKsPlace, begun, font) + String(acid.pKs) + LineEnd;
+        text += paddedTo(pKsPlace, begun, font) + String(acid.pKs) + LineFeed;
     }
     return text;
 }
