@@ -2,9 +2,12 @@
 
 #include "chem/FormulaAnalysis.h"
 #include "chem/cls_DataElements.h"
+#include "chem/formula/FormulaPrinter.h"
+#include "chem/formula/FormulaReader.h"
 #include "common/FrameTexts.h"
 #include "common/TermFit.h"
 #include "core/RuntimeError.h"
+#include "term/TermSpeech.h"
 #include "visual/Form.h"
 
 namespace learning
@@ -14,20 +17,11 @@ using phial::String;
 
 String formulaLine(phial::StringView formula)
 {
-    constexpr char16_t LoweredZero = u'\u2080';
-    constexpr char16_t TermDot = u'*';
-    constexpr char16_t MiddleDot = u'\u00B7';
-    String line(formula);
-    bool isIndex = false; // a number in front belongs to no symbol
-    for (char16_t& unit : line) {
-        unit = unit == TermDot ? MiddleDot : unit;
-        if (isIndex && phial::isDigit(unit)) {
-            unit = static_cast<char16_t>(LoweredZero + (unit - u'0'));
-        } else {
-            isIndex = !phial::isDigit(unit) && unit != u' ' && unit != u'(' && unit != MiddleDot;
-        }
+    phial::FormulaReading reading = phial::readFormula(formula);
+    if (!reading) {
+        reading = phial::readEquation(formula);
     }
-    return line;
+    return reading ? phial::unicodeFormula(reading.tree) : String(formula);
 }
 
 std::optional<TaskFault> FormulaCard::faultOf(const String& formula)
@@ -71,7 +65,7 @@ void FormulaCard::TRANSLATE()
 
 String FormulaCard::spoken() const
 {
-    return calledName() + u", " + task_.text;
+    return calledName() + u", " + phial::spelledTerm(task_.text);
 }
 
 String FormulaCard::calledName() const

@@ -12,8 +12,8 @@ class cls_DataElements;
 namespace learning
 {
 
-/// A formula in one line of plain text, its indices lowered: "Ca(OH)₂" for Ca(OH)2, "CuSO₄·5H₂O" for
-/// CuSO4*5H2O.
+/// A formula or an equation in one line of plain text: "Ca(OH)₂" for Ca(OH)2, "CuSO₄·5H₂O" for CuSO4*5H2O,
+/// "SO₄²⁻" for SO4^2-. Anything else as it stands.
 phial::String formulaLine(phial::StringView formula);
 
 /// A formula and what it is called, on the card of the task: as large as the formula fits.
@@ -54,7 +54,7 @@ public:
     void show(const ListedTask& task);
     /// Shows the name in the language in force.
     void TRANSLATE();
-    /// The name and the formula, as screen readers say them.
+    /// The name, and the formula in words.
     phial::String spoken() const;
 
 private:

@@ -6,6 +6,7 @@
 #include "core/CoreRoot.h"
 #include "core/CoreSystem.h"
 #include "term/TermDraw.h"
+#include "term/TermSpeech.h"
 #include "visual/Form.h"
 #include "visual/PropertyRows.h"
 #include "visual/VisualHost.h"
@@ -101,6 +102,11 @@ void clt_TermInput::resized()
 {
     surface_.resized();
     refresh();
+}
+
+String clt_TermInput::accessibleText() const
+{
+    return spelledTerm(edit_.text());
 }
 
 // Drawing.

@@ -86,6 +86,8 @@ public:
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::Editable; }
+    /// The term in words, without its name: the field may be that of an answer.
+    String accessibleText() const override;
     bool coversAll() const override { return true; }
     std::optional<PixelRectangle> currentPartArea() const override { return std::nullopt; }
     void initProperties() override { refresh(); }

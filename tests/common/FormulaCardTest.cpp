@@ -15,13 +15,16 @@ namespace
 
 using phial::String;
 
-TEST(FormulaLine, LowersIndicesAlone)
+TEST(FormulaLine, LowersIndicesAndRaisesCharges)
 {
     EXPECT_EQ(formulaLine(u"H2O"), u"H\u2082O");
     EXPECT_EQ(formulaLine(u"Ca3(PO4)2"), u"Ca\u2083(PO\u2084)\u2082");
     EXPECT_EQ(formulaLine(u"C12H22O11"), u"C\u2081\u2082H\u2082\u2082O\u2081\u2081");
     EXPECT_EQ(formulaLine(u"2H2O"), u"2H\u2082O");
     EXPECT_EQ(formulaLine(u"CuSO4*5H2O"), u"CuSO\u2084\u00B75H\u2082O");
+    EXPECT_EQ(formulaLine(u"SO4^2-"), u"SO₄²⁻");
+    EXPECT_EQ(formulaLine(u"Fe + O2 -> Fe2O3"), u"Fe + O₂ → Fe₂O₃");
+    EXPECT_EQ(formulaLine(u"Wasser"), u"Wasser");
     EXPECT_EQ(formulaLine(u""), u"");
 }
 
@@ -67,11 +70,17 @@ TEST_F(FormulaCardTest, SaysTheNameInTheLanguageInForce)
 {
     card.show({u"H2O", u"Wasser", u"Water"});
     EXPECT_EQ(name(), u"Wasser");
-    EXPECT_EQ(card.spoken(), u"Wasser, H2O");
+    EXPECT_EQ(card.spoken(), u"Wasser, H zwei O");
     phial::LNG()->CURRENT(phial::ID_Language_English);
     card.TRANSLATE();
     EXPECT_EQ(name(), u"Water");
-    EXPECT_EQ(card.spoken(), u"Water, H2O");
+    EXPECT_EQ(card.spoken(), u"Water, H two O");
+}
+
+TEST_F(FormulaCardTest, SaysAHydrateInWords)
+{
+    card.show({u"CuSO4*5H2O", u"Kupfer(II)-sulfat-Pentahydrat", u"copper(II) sulfate pentahydrate"});
+    EXPECT_EQ(card.spoken(), u"Kupfer(II)-sulfat-Pentahydrat, C u S O vier mal fünf H zwei O");
 }
 
 TEST_F(FormulaCardTest, RefusesWhatItCannotShow)

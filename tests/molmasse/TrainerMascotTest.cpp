@@ -116,7 +116,7 @@ TEST_F(TrainerMascot, SaysNothingThatDoesNotStandOnThePage)
     touch(u"but_Level", 0);
     ASSERT_NE(said(), u"");
     EXPECT_EQ(seen(u"lab_Feedback"), said());
-    EXPECT_EQ(spoken(), said() + u"\nAufgabe 1 von 4\n, H2O");
+    EXPECT_EQ(spoken(), said() + u"\nAufgabe 1 von 4\n, H zwei O");
     type(u"18,0{enter}");
     EXPECT_EQ(seen(u"lab_Feedback").find(u"Richtig!"), 0U) << "the verdict takes its place";
     type(u"{enter}");

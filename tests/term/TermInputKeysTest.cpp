@@ -161,6 +161,20 @@ TEST_F(TermInputKeys, ReturnThatWentDownBeforeTheLockIsNotTold)
     EXPECT_THAT(log, IsEmpty());
 }
 
+TEST_F(TermInputKeys, AHiddenFormGivesItTheFocusBackAndForgetsWhatWasHeld)
+{
+    edit(u"H2O", 3);
+    headless::press(*form, {0, Key::Return, 0});
+    form->Hide();
+    EXPECT_FALSE(field->frame().hasFocus());
+    form->Show();
+    EXPECT_TRUE(field->frame().hasFocus());
+    headless::letGo(*form, {0, Key::Return, 0});
+    EXPECT_THAT(log, IsEmpty()) << "it went down in front of what is no longer there";
+    type(u"x");
+    EXPECT_EQ(shown(), u"H2Ox|");
+}
+
 TEST_F(TermInputKeys, ADefaultButtonIsPressedAsWell)
 {
     const auto button = form->add<ctl_Button>(u"but_OK");

@@ -22,6 +22,21 @@ TEST_F(TermSpeech, ReadsFormulasAndEquationsInTheLanguageInForce)
     EXPECT_EQ(spokenTerm(u"SO4^2-"), u"sulfate: S O four, charge two minus");
 }
 
+TEST_F(TermSpeech, ReadsInTheSystemsLanguageWhereNoneIsChosen)
+{
+    outside.environment().set(u"LANG", u"en_GB.UTF-8");
+    LNG()->CURRENT(ID_Language_System);
+    EXPECT_EQ(spokenTerm(u"SO4^2-"), u"sulfate: S O four, charge two minus");
+}
+
+TEST_F(TermSpeech, SpellsWithoutTheName)
+{
+    LNG()->CURRENT(ID_Language_German);
+    EXPECT_EQ(spelledTerm(u"SO4^2-"), u"S O vier, zweifach negativ geladen");
+    EXPECT_EQ(spelledTerm(u"XeF4"), u"X e F vier");
+    EXPECT_EQ(spelledTerm(u"M: 2"), u"M: 2");
+}
+
 TEST_F(TermSpeech, LeavesOtherTermsAsTheyAre)
 {
     EXPECT_EQ(spokenTerm(u"M(H2O) = 2*M(H) + M(O)"), u"M(H2O) = 2*M(H) + M(O)");
