@@ -60,11 +60,23 @@ TEST_F(TermFieldInWindow, IsReadByScreenReadersAsAFieldOfText)
     ASSERT_TRUE(face && face->textInterface());
     EXPECT_EQ(face->role(), QAccessible::EditableText);
     EXPECT_EQ(face->text(QAccessible::Name), QStringLiteral("Formel"));
-    EXPECT_EQ(face->text(QAccessible::Value), QStringLiteral("H2O"));
+    EXPECT_EQ(face->text(QAccessible::Value), QStringLiteral("H2O")) << "in which the caret has its place";
+    EXPECT_EQ(face->text(QAccessible::Description), QStringLiteral("H zwei O"));
+    field_->frame().HelpText(u"Eingabe bestätigt");
+    EXPECT_EQ(face->text(QAccessible::Description), QStringLiteral("H zwei O, Eingabe bestätigt"));
     EXPECT_EQ(face->textInterface()->cursorPosition(), 3);
     EXPECT_TRUE(face->state().editable);
     field_->LOCKED(true);
     EXPECT_TRUE(face->state().readOnly);
+}
+
+TEST_F(TermFieldInWindow, IsNotCalledByWhatIsInIt)
+{
+    QTest::keyClicks(&widget(), QStringLiteral("H2O"));
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(&widget());
+    EXPECT_EQ(face->text(QAccessible::Name), QString());
+    QTest::keyClicks(&widget(), QStringLiteral("("));
+    EXPECT_EQ(face->text(QAccessible::Description), QString()) << "what cannot be read is said as it stands";
 }
 
 TEST_F(TermFieldInWindow, ThePressedPlaceIsThatOfThePicture)

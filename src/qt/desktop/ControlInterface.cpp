@@ -72,10 +72,21 @@ QAccessible::State ControlInterface::state() const
     return state;
 }
 
+/// The value is the text as it stands, in which the caret has its place. Where it is read otherwise, as a
+/// formula is, the description begins with that.
 QString ControlInterface::text(QAccessible::Text text) const
 {
-    const bool isEntry = text == QAccessible::Value && control().frame().textEntry();
-    return isEntry ? toQt(entry().text) : QAccessibleWidget::text(text);
+    const QString own = QAccessibleWidget::text(text);
+    if (!control().frame().textEntry()) {
+        return own;
+    }
+    if (text == QAccessible::Description) {
+        const String spoken = control().accessibleText();
+        if (!spoken.empty() && spoken != entry().text) {
+            return own.isEmpty() ? toQt(spoken) : toQt(spoken) + QStringLiteral(", ") + own;
+        }
+    }
+    return text == QAccessible::Value ? toQt(entry().text) : own;
 }
 
 void* ControlInterface::interface_cast(QAccessible::InterfaceType type)
