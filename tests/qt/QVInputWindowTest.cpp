@@ -56,6 +56,19 @@ TEST_F(QVInputWindow, APressSelectsItsNumberAndTypingReplacesIt)
     EXPECT_EQ(control_->VALUE(), Variant(18.02));
 }
 
+TEST_F(QVInputWindow, ItsFieldFillsItWhateverTheZoomRounds)
+{
+    show();
+    for (const double zoom : {0.75, 0.93, 1.0, 1.37}) {
+        form_->Zoom(zoom);
+        for (int left = 10; left < 20; ++left) {
+            control_->Move(left, left, 44, 47);
+            EXPECT_EQ(widgetOf(control_->input()).geometry(), widgetOf(*control_).rect())
+                << zoom << " at " << left;
+        }
+    }
+}
+
 TEST_F(QVInputWindow, TheTabKeySelectsItsNumberToo)
 {
     show();

@@ -6,6 +6,8 @@
 #include "qt/desktop/Cursors.h"
 #include "qt/desktop/DesktopColours.h"
 #include "qt/desktop/FormWindow.h"
+#include "qt/desktop/WindowHandles.h"
+#include "visual/Container.h"
 
 #include <QPalette>
 #include <QWidget>
@@ -28,7 +30,8 @@ void applyFocusPolicy(QWidget& widget, const ControlFrame& frame)
 String ownName(const Control& control)
 {
     const String given = control.frame().AccessibleName();
-    return given.empty() ? control.accessibleText() : given;
+    const bool isEntry = control.frame().textEntry().has_value(); // what is in it is not what it is called
+    return given.empty() && !isEntry ? control.accessibleText() : given;
 }
 
 /// A text field that another control holds for itself is called as that one where it has no name of its own.
@@ -85,9 +88,45 @@ QRect pixelPlace(const Control& control)
     return {corner, QSize(end.x() - corner.x(), end.y() - corner.y())};
 }
 
-void applyGeometry(QWidget& widget, const Control& control)
+namespace
 {
-    widget.setGeometry(pixelPlace(control));
+
+/// A field that fills the control that holds it ends where that one does: rounded by itself it might reach a
+/// pixel further, and its border would not be seen.
+QRect placeWithin(const QWidget* parent, const Control& control)
+{
+    QRect place = pixelPlace(control);
+    const Control* holder = control.frame().privateHolder();
+    if (!holder || !parent) {
+        return place;
+    }
+    const PixelRectangle room = holder->frame().pixelRectangle();
+    const PixelRectangle area = control.frame().pixelRectangle();
+    if (area.right() == room.width) {
+        place.setWidth(parent->width() - place.left());
+    }
+    if (area.bottom() == room.height) {
+        place.setHeight(parent->height() - place.top());
+    }
+    return place;
+}
+
+} // namespace
+
+void applyGeometry(QWidget& widget, Control& control)
+{
+    const QSize before = widget.size();
+    widget.setGeometry(placeWithin(widget.parentWidget(), control));
+    Container* const inner = control.container();
+    if (!inner || widget.size() == before) {
+        return;
+    }
+    for (const ControlPtr& child : inner->controls()) {
+        QWidget* const shown = widgetOf(child->hWnd());
+        if (shown && child->frame().privateHolder() == &control) {
+            applyGeometry(*shown, *child);
+        }
+    }
 }
 
 void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect)

@@ -32,7 +32,7 @@ QRectF zoomed(const PixelRectangle& area, const Control& control);
 /// The control's rectangle in its window, with its edges rounded to pixels.
 QRect pixelPlace(const Control& control);
 /// Puts the widget there.
-void applyGeometry(QWidget& widget, const Control& control);
+void applyGeometry(QWidget& widget, Control& control);
 
 /// Tells a form's window that the widget lets through another part of it.
 void tellShape(QWidget& widget);
