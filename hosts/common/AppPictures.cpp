@@ -295,10 +295,16 @@ void showInOtherColours(StringView language, const MakeApp& makeApp, const Take&
     phial::coreTheme().SetColours(before);
 }
 
+/// Else it says what is missing, in its window.
+bool canWork(const MakeApp& makeApp)
+{
+    return !QVAPP()->URL()->ROOT().empty() && makeApp()->missing().empty();
+}
+
 void showIn(phial::enm_LanguageC language, StringView name, const MakeApp& makeApp, const Take& take)
 {
     phial::LNG()->CURRENT(language);
-    if (!QVAPP()->URL()->ROOT().empty() && makeApp()->missing().empty()) {
+    if (canWork(makeApp)) {
         const ScratchLists lists;
         newClassroom();
         usersAre({});
@@ -332,6 +338,10 @@ void showRoundIn(phial::enm_LanguageC language, StringView name, const MakeApp& 
         }
     };
     phial::LNG()->CURRENT(language);
+    if (!canWork(makeApp)) {
+        showMissing(makeApp, take, name);
+        return;
+    }
     const ScratchLists lists;
     newClassroom();
     usersAre({u"Maxi:fuchs"});

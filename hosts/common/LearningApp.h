@@ -25,6 +25,8 @@ struct AppTexts {
     phial::StringView reference{};
     /// What a pupil reads whom the teacher has not let in yet.
     phial::StringView waiting;
+    /// Behind the last try of a task: {1} what would have been right.
+    phial::StringView missed = u"Schade. Richtig wären {1}.|A pity. {1} would be right.";
     // Behind a round. {1} solved, {2} tasks.
     phial::StringView solved;
     /// Behind it, where it is more than in the last round: one more, and {1} more.

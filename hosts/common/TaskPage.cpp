@@ -318,7 +318,7 @@ String TaskPage::verdictText()
     case Verdict::Wrong:
         return wrongText();
     case Verdict::Missed:
-        return translate(u"Schade. Richtig wären {1}.", u"A pity. {1} would be right.", {app_.solution()});
+        return translate(app_.texts().missed, phial::Variant::Array{app_.solution()});
     case Verdict::Unreadable:
         break;
     }

@@ -1,8 +1,10 @@
 #include "formeln/EquationCard.h"
 
+#include "common/FormulaCard.h"
 #include "common/FrameTexts.h"
 #include "common/TermFit.h"
 #include "core/CoreNumbers.h"
+#include "term/TermSpeech.h"
 #include "visual/Form.h"
 
 #include <algorithm>
@@ -53,7 +55,6 @@ EquationCard::EquationCard(phial::Form& form) : form_(form)
     for (std::int32_t index = 0; index < MostSubstances; ++index) {
         fields_.push_back(form.control<phial::ctl_QVInput>(u"txt_Factor", index));
         fields_.back()->KeyboardBeside(panel);
-        fields_.back()->input().Alignment(phial::Alignment::Centre);
     }
 }
 
@@ -116,9 +117,11 @@ void EquationCard::TRANSLATE(const String& title)
     for (std::int32_t index = 0; index < count_; ++index) {
         const String substance = form_.control<phial::ctl_TermLabel>(u"trm_Substance", index)->Term();
         const auto& field = fields_.at(static_cast<std::size_t>(index));
-        const String name = learning::translate(u"Faktor vor {1}", u"Factor of {1}", {substance});
-        field->frame().AccessibleName(name);
-        field->TEXT(name);
+        const auto factorOf = [](const String& formula) {
+            return learning::translate(u"Faktor vor {1}", u"Factor of {1}", {formula});
+        };
+        field->frame().AccessibleName(factorOf(phial::spelledTerm(substance)));
+        field->TEXT(factorOf(learning::formulaLine(substance))); // on the pad
     }
 }
 

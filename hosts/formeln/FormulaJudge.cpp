@@ -7,7 +7,6 @@
 #include "chem/formula/FormulaComparison.h"
 #include "chem/formula/FormulaPrinter.h"
 #include "chem/formula/FormulaReader.h"
-#include "chem/formula/FormulaSpeech.h"
 #include "common/FrameTexts.h"
 #include "formeln/EquationCard.h"
 
@@ -30,7 +29,7 @@ namespace
 
 bool speaksGerman()
 {
-    return phial::LNG()->CURRENT() == phial::ID_Language_German;
+    return phial::LNG()->EFFECTIVE() == phial::ID_Language_German;
 }
 
 /// A formula, or an equation where there is an arrow.
@@ -152,9 +151,11 @@ std::vector<Rational> rationals(const std::vector<int>& factors)
     return numbers;
 }
 
+/// Begins as a sentence does.
 String sideText(const phial::Imbalance& both)
 {
-    const String name = both.element == 0 ? translate(u"Ladung", u"charge") : elementName(both.element);
+    String name = both.element == 0 ? translate(u"Ladung", u"Charge") : elementName(both.element);
+    name.replace(0, 1, phial::upperCase(name.substr(0, 1)));
     return translate(u"{1}: links {2}, rechts {3}", u"{1}: {2} on the left, {3} on the right",
                      {name, countText(both.left), countText(both.right)});
 }
@@ -230,29 +231,10 @@ bool isFormula(StringView text, const phial::cls_DataElements& elements)
            });
 }
 
-String formulaLine(StringView text)
-{
-    const FormulaReading reading = readingOf(text);
-    return reading ? phial::unicodeFormula(reading.tree) : String(text);
-}
-
 String formulaMarkup(StringView text)
 {
     const FormulaReading reading = readingOf(text);
     return reading ? phial::formulaMarkup(reading.tree) : String(text);
-}
-
-String spokenFormula(StringView text)
-{
-    const FormulaReading reading = readingOf(text);
-    if (!reading) {
-        return String(text);
-    }
-    // What it is called may be what is asked for.
-    const String spoken =
-        speaksGerman() ? phial::spokenInGerman(reading.tree) : phial::spokenInEnglish(reading.tree);
-    const auto name = spoken.find(u": ");
-    return name == String::npos ? spoken : spoken.substr(name + 2);
 }
 
 String elementsOf(StringView text)

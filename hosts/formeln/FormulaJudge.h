@@ -33,11 +33,8 @@ phial::String atomsOnBothSides(const Equation& equation, const std::vector<int>&
 /// Whether it reads as one formula, all of whose elements there are.
 bool isFormula(phial::StringView text, const phial::cls_DataElements& elements);
 
-/// In one line of plain text, "SO₄²⁻", and with the markup of labels.
-phial::String formulaLine(phial::StringView text);
+/// With the markup of labels.
 phial::String formulaMarkup(phial::StringView text);
-/// How a formula is read aloud, in the language in force.
-phial::String spokenFormula(phial::StringView text);
 /// Its elements, "Na, S, O", and how many atoms of each, "2 × Na, 1 × S, 4 × O", with its charge.
 phial::String elementsOf(phial::StringView text);
 phial::String atomsOf(phial::StringView text);

@@ -3,11 +3,13 @@
 #include "app/cls_App.h"
 #include "app/cls_AppConfig.h"
 #include "app/sys_Global.h"
+#include "common/FormulaCard.h"
 #include "common/FrameTexts.h"
 #include "common/TermFit.h"
 #include "formeln/FormulaJudge.h"
 #include "formeln/NameJudge.h"
 #include "media/cls_AppMedia.h"
+#include "term/TermSpeech.h"
 
 #include <algorithm>
 
@@ -16,6 +18,7 @@ namespace formeln
 
 using learning::Judgement;
 using learning::translate;
+using phial::spelledTerm;
 using phial::String;
 
 namespace
@@ -35,6 +38,7 @@ constexpr learning::AppTexts Texts{
             u"Equations need the smallest whole numbers.",
     .waiting = u"Sobald deine Lehrkraft den Formel-Trainer freigibt, geht es hier von selbst weiter.|"
                u"As soon as your teacher opens the formula trainer for you, it goes on here by itself.",
+    .missed = u"Schade. Richtig wäre {1}.|A pity. {1} would be right.",
     .solved = u"{1} von {2} Aufgaben gelöst|{1} of {2} tasks solved",
     .oneMore = u", eine mehr als zuletzt|, one more than last time",
     .more = u", {1} mehr als zuletzt|, {1} more than last time",
@@ -160,7 +164,7 @@ void FormulaTrainer::TRANSLATE()
         learning::showFitting(*form_->control<phial::ctl_Label>(u"lab_Substance"), firstName(), NameSize);
         form_->control<phial::ctl_TermLabel>(u"trm_Formula")
             ->frame()
-            .AccessibleName(spokenFormula(task_.listed.text)); // without the name that is asked for
+            .AccessibleName(spelledTerm(task_.listed.text)); // without the name that is asked for
         card_->TRANSLATE(question());
     }
 }
@@ -168,7 +172,7 @@ void FormulaTrainer::TRANSLATE()
 void FormulaTrainer::show(int position)
 {
     task_ = data_.tasks.at(position);
-    remark_ = {};
+    opinion_ = {};
     if (const auto equation = equationIn(task_.listed.text)) {
         equation_ = *equation;
         solution_ = balanced(equation_).value_or(std::vector<int>(equation_.count(), 1));
@@ -247,7 +251,8 @@ String FormulaTrainer::question() const
         return translate(u"{1}: Welche Faktoren fehlen?", u"{1}: which factors are missing?",
                          {phial::upperCase(firstName().substr(0, 1)) + firstName().substr(1)});
     case Asked::Name:
-        return translate(u"Wie heißt {1}?", u"What is {1} called?", {formulaLine(task_.listed.text)});
+        return translate(u"Wie heißt {1}?", u"What is {1} called?",
+                         {learning::formulaLine(task_.listed.text)});
     case Asked::Formula:
         break;
     }
@@ -261,14 +266,14 @@ String FormulaTrainer::spoken() const
     }
     if (asks(Asked::Name)) {
         return translate(u"Wie heißt dieser Stoff? {1}", u"What is this substance called? {1}",
-                         {spokenFormula(task_.listed.text)});
+                         {spelledTerm(task_.listed.text)});
     }
-    return question() + u" " + spokenFormula(task_.listed.text);
+    return question() + u" " + spelledTerm(task_.listed.text);
 }
 
 String FormulaTrainer::taskTitle() const
 {
-    return asks(Asked::Formula) ? firstName() : formulaLine(task_.listed.text);
+    return asks(Asked::Formula) ? firstName() : learning::formulaLine(task_.listed.text);
 }
 
 String FormulaTrainer::typedName() const
@@ -297,60 +302,55 @@ Judgement FormulaTrainer::judge()
 {
     switch (task_.asked) {
     case Asked::Name:
-        return judgeName();
+        opinion_ = [this, name = typedName()] { return opinionOfName(name); };
+        break;
     case Asked::Factors:
-        return judgeFactorsTyped();
+        opinion_ = [this, factors = card_->values()] { return opinionOfFactors(factors); };
+        break;
     case Asked::Formula:
+        opinion_ = [this, formula = term_->text()] { return judgeFormula(formula, task_.listed.text); };
         break;
     }
-    const FormulaOpinion opinion = judgeFormula(term_->text(), task_.listed.text);
-    remark_ = opinion.remark;
-    return opinion.judgement;
+    return opinion_().judgement;
 }
 
-Judgement FormulaTrainer::judgeName()
+FormulaOpinion FormulaTrainer::opinionOfName(const String& name) const
 {
     const bool isAnion = task_.listed.text.ends_with(u'-');
-    const NameMatch match = matchOf(typedName(), data_.tasks.namesOf(task_.listed.text), isAnion);
-    remark_ = match == NameMatch::Same ? String() : otherSubstance();
+    const NameMatch match = matchOf(name, data_.tasks.namesOf(task_.listed.text), isAnion);
     if (match == NameMatch::Same) {
-        return Judgement::Right;
+        return {Judgement::Right};
     }
-    if (typedName().empty()) {
-        remark_ = translate(u"Bitte schreibe den Namen des Stoffs.", u"Please write the substance's name.");
-        return Judgement::Unreadable;
+    if (name.empty()) {
+        return {Judgement::Unreadable,
+                translate(u"Bitte schreibe den Namen des Stoffs.", u"Please write the substance's name.")};
     }
-    if (!remark_.empty()) {
-        return Judgement::Wrong;
+    const String other = otherSubstance(name);
+    if (!other.empty()) {
+        return {Judgement::Wrong, other};
     }
-    remark_ = explained(match);
-    return match == NameMatch::Misspelt ? Judgement::Unreadable : Judgement::Wrong;
+    return {match == NameMatch::Misspelt ? Judgement::Unreadable : Judgement::Wrong, explained(match)};
 }
 
 /// Tells whose name was typed, if it is that of another substance of the level.
-String FormulaTrainer::otherSubstance() const
+String FormulaTrainer::otherSubstance(const String& name) const
 {
     for (const learning::ListedTask& other : data_.tasks.list().tasks()) {
         const bool isAnion = other.text.ends_with(u'-');
         if (other.text != task_.listed.text && !equationIn(other.text) &&
-            matchOf(typedName(), data_.tasks.namesOf(other.text), isAnion) == NameMatch::Same) {
+            matchOf(name, data_.tasks.namesOf(other.text), isAnion) == NameMatch::Same) {
             return translate(u"So heißt {1}.", u"That is the name of {1}.", {formulaMarkup(other.text)});
         }
     }
     return {};
 }
 
-Judgement FormulaTrainer::judgeFactorsTyped()
+FormulaOpinion FormulaTrainer::opinionOfFactors(const std::optional<std::vector<int>>& factors) const
 {
-    const auto factors = card_->values();
-    if (!factors) {
-        remark_ = translate(u"Bitte trage ganze Zahlen ein; ein leeres Feld zählt als 1.",
-                            u"Please type whole numbers; an empty field counts as 1.");
-        return Judgement::Unreadable;
-    }
-    const FormulaOpinion opinion = judgeFactors(equation_, *factors);
-    remark_ = opinion.remark;
-    return opinion.judgement;
+    return factors ? judgeFactors(equation_, *factors)
+                   : FormulaOpinion{Judgement::Unreadable,
+                                    translate(u"Bitte trage ganze Zahlen ein; ein leeres Feld zählt als 1.",
+                                              u"Please type whole numbers; an empty field counts as 1.")};
 }
 
 void FormulaTrainer::retry()
@@ -413,7 +413,7 @@ String FormulaTrainer::support() const
     return asks(Asked::Formula)
                ? atomsOf(task_.listed.text)
                : translate(u"Gelesen wird die Formel so: {1}", u"The formula is read like this: {1}",
-                           {spokenFormula(task_.listed.text)});
+                           {spelledTerm(task_.listed.text)});
 }
 
 String FormulaTrainer::working() const

@@ -3,11 +3,14 @@
 #include "common/AnswerLock.h"
 #include "common/LearningApp.h"
 #include "formeln/EquationCard.h"
+#include "formeln/FormulaJudge.h"
 #include "formeln/FormulaTasks.h"
 #include "formeln/TermAnswer.h"
 #include "visual/ctl_Button.h"
 
+#include <functional>
 #include <optional>
+#include <vector>
 
 namespace formeln
 {
@@ -44,9 +47,9 @@ public:
     phial::ControlPtr field() const override;
 
     phial::String solution() const override;
-    phial::String unreadable() const override { return remark_; }
+    phial::String unreadable() const override { return remark(); }
     phial::String hint() const override;
-    phial::String remark() const override { return remark_; }
+    phial::String remark() const override { return opinion_ ? opinion_().remark : phial::String(); }
     phial::String support() const override;
     phial::String working() const override;
     std::vector<phial::StringView> mastered() const override;
@@ -61,15 +64,16 @@ private:
     phial::String question() const;
     phial::String typedName() const;
     void type(const phial::String& answer);
-    learning::Judgement judgeName();
-    learning::Judgement judgeFactorsTyped();
-    phial::String otherSubstance() const;
+    FormulaOpinion opinionOfName(const phial::String& name) const;
+    FormulaOpinion opinionOfFactors(const std::optional<std::vector<int>>& factors) const;
+    phial::String otherSubstance(const phial::String& name) const;
 
     FormulaData data_;
     FormulaTask task_;
     Equation equation_;         ///< of a task that asks for factors
     std::vector<int> solution_; ///< its factors
-    phial::String remark_;      ///< about the answer that was judged last
+    /// Of the answer that was judged last, in the language in force.
+    std::function<FormulaOpinion()> opinion_;
     phial::Form* form_ = nullptr;
     std::optional<EquationCard> card_;
     std::optional<TermAnswer> term_;

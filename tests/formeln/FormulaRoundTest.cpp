@@ -1,5 +1,6 @@
 #include "FormulaTrainerTest.h"
 #include "app/cls_Language.h"
+#include "common/AppPictures.h"
 #include "visual/ListView.h"
 
 #include <gtest/gtest.h>
@@ -144,12 +145,68 @@ TEST_F(FormulaRound, AMissedTaskIsAskedInTheSameWayAgain)
     EXPECT_EQ(term(u"trm_Formula"), u"SO4^2-");
 }
 
+TEST_F(FormulaRound, SpeaksTheSystemsLanguageWhereNoneIsChosen)
+{
+    begin();
+    touch(u"but_Hint");
+    EXPECT_TRUE(contains(seen(u"lab_Hint"), u"Natrium")) << phial::toUtf8(seen(u"lab_Hint"));
+    type(u"CU{enter}");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"Cu ist Kupfer.")) << phial::toUtf8(seen(u"lab_Feedback"));
+}
+
 TEST_F(FormulaRound, SpeaksEnglish)
 {
     phial::LNG()->CURRENT(phial::ID_Language_English);
     begin();
     EXPECT_EQ(seen(u"lab_Asked"), u"What is the formula?");
     EXPECT_EQ(seen(u"lab_Substance"), u"sodium sulfate");
+}
+
+TEST_F(FormulaRound, SaysItsRemarkInTheLanguageThatIsChosenAfterwards)
+{
+    begin(2);
+    type(u"2{tab}3{tab}1{enter}");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"Sauerstoff: links 6, rechts 3."));
+    touch(u"but_Language");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"Oxygen: 6 on the left, 3 on the right."))
+        << phial::toUtf8(seen(u"lab_Feedback"));
+}
+
+TEST_F(FormulaRound, SaysItsRemarkOnANameInTheLanguageThatIsChosenAfterwards)
+{
+    askForNames();
+    begin(1);
+    nameField().Text(u"Sulfat-Jon");
+    touch(u"but_Check");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"Fast!"));
+    touch(u"but_Language");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"Nearly!")) << phial::toUtf8(seen(u"lab_Feedback"));
+}
+
+TEST_F(FormulaRound, TellsTheSolutionOfOneSubstance)
+{
+    begin(1);
+    type(u"XeF2{enter}{bs}4{enter}{bs}6{enter}");
+    EXPECT_TRUE(contains(seen(u"lab_Feedback"), u"Schade. Richtig wäre SO"))
+        << phial::toUtf8(seen(u"lab_Feedback"));
+}
+
+TEST_F(FormulaRound, CallsEachFactorByItsSubstance)
+{
+    begin(2);
+    const auto field = form().control<phial::ctl_QVInput>(u"txt_Factor", 2);
+    EXPECT_EQ(field->frame().AccessibleName(), u"Faktor vor F e zwei O drei");
+    EXPECT_EQ(field->TEXT(), u"Faktor vor Fe\u2082O\u2083");
+}
+
+TEST_F(FormulaRound, PicturesSayWhatIsMissing)
+{
+    open({});
+    std::vector<phial::String> names;
+    learning::showEachState([] { return std::make_unique<FormulaTrainer>(loadFormulaData()); },
+                            learning::PictureTour::Round,
+                            [&](phial::StringView name, const phial::Form&) { names.emplace_back(name); });
+    EXPECT_EQ(names, (std::vector<phial::String>{u"formeln-missing-de", u"formeln-missing-en"}));
 }
 
 TEST_F(FormulaRound, TellsWhatIsMissing)

@@ -1,4 +1,5 @@
 #include "chem/cls_DataElements.h"
+#include "common/FormulaCard.h"
 #include "core/CoreFiles.h"
 #include "core/CoreRoot.h"
 #include "core/NativePath.h"
@@ -70,7 +71,7 @@ TEST_F(InstalledFormulas, AreRightAnswersToThemselves)
                 EXPECT_EQ(judgeFactors(*equation, *factors).judgement, learning::Judgement::Right);
             } else {
                 EXPECT_EQ(judgeFormula(task.text, task.text).judgement, learning::Judgement::Right);
-                EXPECT_EQ(judgeFormula(formulaLine(task.text), task.text).judgement,
+                EXPECT_EQ(judgeFormula(learning::formulaLine(task.text), task.text).judgement,
                           learning::Judgement::Right);
             }
         }
