@@ -38,6 +38,19 @@ TEST_F(QVInput, TellsAChangeWhenItIsLeft)
     EXPECT_EQ(changes.size(), 1U);
 }
 
+TEST_F(QVInput, HidingItsFormIsNoLeaving)
+{
+    enter(u"12,6");
+    form->Hide();
+    EXPECT_FALSE(field().frame().hasFocus());
+    form->Show();
+    EXPECT_TRUE(field().frame().hasFocus());
+    EXPECT_EQ(shown(), u"12,6");
+    EXPECT_THAT(changes, IsEmpty());
+    leave();
+    EXPECT_THAT(changes, ElementsAre(Variant(13.0)));
+}
+
 TEST_F(QVInput, TellsTextsAsTexts)
 {
     control->MODE(ID_InputMode_Text);
