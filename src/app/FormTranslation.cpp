@@ -111,34 +111,30 @@ FormTranslation::FormTranslation(Object& form, CoreTokenList& buffer, bool germa
 
 void FormTranslation::run()
 {
-    if (buffer_.Count() == 0) {
-        gather();
+    const std::vector<ObjectPtr> found = controls();
+    std::vector<Place> places;
+    for (const ObjectPtr& control : found) {
+        findPlaces(control, places);
     }
-    assign();
+    if (buffer_.Count() == 0) {
+        gather(places);
+        for (const ObjectPtr& control : found) {
+            tintField(*control);
+        }
+    }
+    assignText(form_, formName_ + u".Caption", u"Caption");
+    for (const Place& place : places) {
+        assignText(*place.object, place.key, place.property);
+    }
 }
 
-void FormTranslation::gather()
+void FormTranslation::gather(const std::vector<Place>& places)
 {
     note(formName_ + u".Caption", textOf(form_, u"Caption").value_or(String()));
-    const Visit noteText = [this](Object& object, StringView key, StringView property) {
-        if (const auto text = textOf(object, property)) {
-            note(key, *text);
+    for (const Place& place : places) {
+        if (const auto text = textOf(*place.object, place.property)) {
+            note(place.key, *text);
         }
-    };
-    for (const ObjectPtr& control : controls()) {
-        visitControl(*control, noteText);
-        tintField(*control);
-    }
-}
-
-void FormTranslation::assign()
-{
-    assignText(form_, formName_ + u".Caption", u"Caption");
-    const Visit assignOne = [this](Object& object, StringView key, StringView property) {
-        assignText(object, key, property);
-    };
-    for (const ObjectPtr& control : controls()) {
-        visitControl(*control, assignOne);
     }
 }
 
@@ -155,22 +151,22 @@ std::vector<ObjectPtr> FormTranslation::controls()
     return found;
 }
 
-void FormTranslation::visitControl(Object& control, const Visit& visit)
+void FormTranslation::findPlaces(const ObjectPtr& control, std::vector<Place>& places)
 {
-    const String key = keyOf(control);
+    const String key = keyOf(*control);
     for (const StringView property : ControlTexts) {
-        if (findMember(control, property)) {
-            visit(control, String(key).append(u".").append(property), property);
+        if (findMember(*control, property)) {
+            places.push_back({control, property, String(key).append(u".").append(property)});
         }
     }
-    visitMembers(control, u"BUTTONS", key, ButtonTexts, visit);
-    visitMembers(control, u"PANELS", key, ButtonTexts, visit);
-    visitMembers(control, u"ITEMS", key, ItemTexts, visit);
-    visitMembers(control, u"COLUMNHEADERS", key, ColumnTexts, visit);
+    findPlacesWithin(*control, u"BUTTONS", key, ButtonTexts, places);
+    findPlacesWithin(*control, u"PANELS", key, ButtonTexts, places);
+    findPlacesWithin(*control, u"ITEMS", key, ItemTexts, places);
+    findPlacesWithin(*control, u"COLUMNHEADERS", key, ColumnTexts, places);
 }
 
-void FormTranslation::visitMembers(Object& control, StringView collection, StringView controlKey,
-                                   std::span<const StringView> properties, const Visit& visit)
+void FormTranslation::findPlacesWithin(Object& control, StringView collection, StringView controlKey,
+                                       std::span<const StringView> properties, std::vector<Place>& places)
 {
     const ObjectPtr members = objectOf(control, collection);
     const std::int32_t count = members ? countOf(*members) : 0;
@@ -182,7 +178,7 @@ void FormTranslation::visitMembers(Object& control, StringView collection, Strin
         const String key =
             String(controlKey).append(u".").append(collection) + u"(" + Variant(i).toText() + u").";
         for (const StringView property : properties) {
-            visit(*member, String(key).append(property), property);
+            places.push_back({member, property, String(key).append(property)});
         }
     }
 }

@@ -32,14 +32,18 @@ public:
     const CoreStringList& untranslated() const { return untranslated_; }
 
 private:
-    using Visit = std::function<void(Object& object, StringView key, StringView property)>;
+    /// A text of the form: the member that holds it, and the key under which the buffer knows it.
+    struct Place {
+        ObjectPtr object;
+        StringView property;
+        String key;
+    };
 
-    void gather();
-    void assign();
+    void gather(const std::vector<Place>& places);
     std::vector<ObjectPtr> controls();
-    static void visitControl(Object& control, const Visit& visit);
-    static void visitMembers(Object& control, StringView collection, StringView controlKey,
-                             std::span<const StringView> properties, const Visit& visit);
+    static void findPlaces(const ObjectPtr& control, std::vector<Place>& places);
+    static void findPlacesWithin(Object& control, StringView collection, StringView controlKey,
+                                 std::span<const StringView> properties, std::vector<Place>& places);
     void note(StringView key, const String& text);
     void noteUntranslated(StringView key, const String& text);
     void assignText(Object& object, StringView key, StringView property);

@@ -12,7 +12,7 @@ const Member* findMember(const Object& object, StringView name)
 {
     const MemberTable table = object.members();
     const auto found = std::find_if(table.begin(), table.end(), [name](const Member& member) {
-        return equalsIgnoringCase(member.name, name);
+        return member.name.size() == name.size() && equalsIgnoringCase(member.name, name);
     });
     return found != table.end() ? &*found : nullptr;
 }
