@@ -82,11 +82,16 @@ void ListRow::Tag(String value) { rows::set<Properties, u"Tag">(*this, std::move
 void ListRow::ForeColor(Colour value) { rows::set<Properties, u"ForeColor">(*this, value); }
 // clang-format on
 
-String ListRow::Cell(std::int32_t column) const
+void ListRow::checkColumn(std::int32_t column)
 {
     if (column < 1 || column > MostColumns) {
         throw RuntimeError(ErrorNumber::IndexOutOfBounds);
     }
+}
+
+String ListRow::Cell(std::int32_t column) const
+{
+    checkColumn(column);
     if (column == 1) {
         return title_;
     }
@@ -96,9 +101,7 @@ String ListRow::Cell(std::int32_t column) const
 
 void ListRow::Cell(std::int32_t column, String value)
 {
-    if (column < 1 || column > MostColumns) {
-        throw RuntimeError(ErrorNumber::IndexOutOfBounds);
-    }
+    checkColumn(column);
     if (column == 1) {
         Title(std::move(value));
         return;
@@ -106,6 +109,22 @@ void ListRow::Cell(std::int32_t column, String value)
     const auto at = static_cast<std::size_t>(column - 2);
     further_.resize(std::max(further_.size(), at + 1));
     further_[at] = std::move(value);
+    changed_->emit();
+}
+
+String ListRow::Spoken(std::int32_t column) const
+{
+    checkColumn(column);
+    const auto at = static_cast<std::size_t>(column - 1);
+    return at < spoken_.size() ? spoken_[at] : String();
+}
+
+void ListRow::Spoken(std::int32_t column, String value)
+{
+    checkColumn(column);
+    const auto at = static_cast<std::size_t>(column - 1);
+    spoken_.resize(std::max(spoken_.size(), at + 1));
+    spoken_[at] = std::move(value);
     changed_->emit();
 }
 

@@ -70,12 +70,18 @@ public:
     String Cell(std::int32_t column) const;
     void Cell(std::int32_t column, String value);
 
+    /// What a screen reader says in place of a column's text, such as a formula in words; empty for the text.
+    /// Raises 9 outside.
+    String Spoken(std::int32_t column) const;
+    void Spoken(std::int32_t column, String value);
+
     StringView typeName() const override { return u"ListItem"; }
     MemberTable members() const override;
 
 private:
     struct Properties;
     void tellChanged();
+    static void checkColumn(std::int32_t column);
 
     String title_;
     String titleShort_;
@@ -83,6 +89,7 @@ private:
     String tag_;
     Colour foreColor_ = SystemColour::WindowText;
     std::vector<String> further_;            ///< from the second column on
+    std::vector<String> spoken_;             ///< from the first column on
     std::shared_ptr<const Event<>> changed_; ///< of the list's rows
 };
 

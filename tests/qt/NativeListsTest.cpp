@@ -3,6 +3,7 @@
 #include "visual/ListBox.h"
 #include "visual/ListView.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -173,6 +174,25 @@ TEST_F(NativeControlsTest, AShortTitleStandsWhereTheColumnHasNoRoom)
     EXPECT_EQ(shownTitle(), QStringLiteral("H"));
     column->Width(300);
     EXPECT_EQ(shownTitle(), QStringLiteral("Wasserstoff"));
+}
+
+TEST_F(NativeControlsTest, ACellIsReadToTheBlindAsItsRowSaysIt)
+{
+    const auto list = shown<ListView>(u"lst_Groups");
+    list->COLUMNHEADERS()->Add(u"Name", 100);
+    list->COLUMNHEADERS()->Add(u"Formel", 100);
+    const auto row = list->ITEMS()->Add(u"Sulfat");
+    row->Cell(2, u"SO₄²⁻");
+    row->Spoken(2, u"S O vier, zweifach negativ");
+    QAccessibleInterface* const table = QAccessible::queryAccessibleInterface(&inner<QTreeWidget>(*list));
+    const auto spokenAt = [&](int column) {
+        QCoreApplication::processEvents(); // the toolkit lays its lines out later
+        return table->tableInterface()->cellAt(0, column)->text(QAccessible::Name);
+    };
+    EXPECT_EQ(spokenAt(0), QStringLiteral("Sulfat"));
+    EXPECT_EQ(spokenAt(1), QStringLiteral("S O vier, zweifach negativ"));
+    row->Spoken(2, u"");
+    EXPECT_EQ(spokenAt(1), QStringLiteral("SO₄²⁻"));
 }
 
 TEST_F(NativeControlsTest, RowsOfAListViewShowTheirColourAndCanBeTouched)

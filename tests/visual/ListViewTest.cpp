@@ -91,6 +91,18 @@ TEST_F(ListViews, TheTitleIsTheFirstCellAndFurtherOnesComeAsTheyAreSet)
     EXPECT_RAISES(row->Cell(ListRow::MostColumns + 1, u"x"), IndexOutOfBounds);
 }
 
+TEST_F(ListViews, ACellMayBeSpokenOtherwiseThanItIsWritten)
+{
+    const auto row = list->ITEMS()->Add(u"-sulfit");
+    EXPECT_EQ(row->Spoken(2), u"");
+    row->Spoken(2, u"S O drei");
+    EXPECT_EQ(row->Spoken(2), u"S O drei");
+    EXPECT_EQ(row->Spoken(1), u"");
+    EXPECT_EQ(row->Spoken(3), u"");
+    EXPECT_RAISES(row->Spoken(0, u"x"), IndexOutOfBounds);
+    EXPECT_RAISES(row->Spoken(ListRow::MostColumns + 1), IndexOutOfBounds);
+}
+
 TEST_F(ListViews, AHeaderThatIsPressedTellsItsColumn)
 {
     connections +=

@@ -110,6 +110,10 @@ void ListViewPeer::showRow(QTreeWidgetItem& line, const ListRow& row)
         if (at > 0) {
             line.setText(at, toQt(row.Cell(at + 1)));
         }
+        if (const String spoken = row.Spoken(at + 1);
+            !spoken.empty() || line.data(at, Qt::AccessibleTextRole).isValid()) {
+            line.setData(at, Qt::AccessibleTextRole, toQt(spoken));
+        }
         line.setToolTip(at, toQt(row.ToolTipText()));
         line.setTextAlignment(at, lineAlignment(columns.Item(at + 1)->Alignment()));
     }
