@@ -47,6 +47,8 @@ public:
 
     /// What holds other controls within this one; null for most.
     virtual Container* container() { return nullptr; }
+    /// The same, but null while nothing has been put into it.
+    virtual Container* containerInUse() { return container(); }
     /// The control as one that paints itself; null for the toolkit's own widgets.
     virtual UserControl* painted() { return nullptr; }
     /// What a screen reader says when the frame's AccessibleName is empty.

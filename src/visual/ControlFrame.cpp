@@ -174,7 +174,7 @@ void ControlFrame::tellSeen()
             painted->surface().forgetImage();
         }
     }
-    if (Container* inner = control_.container()) {
+    if (Container* inner = control_.containerInUse()) {
         const auto within = inner->controls(); // a handler may add or remove
         for (const ControlPtr& control : within) {
             control->frame().tellSeen();
@@ -184,7 +184,7 @@ void ControlFrame::tellSeen()
 
 void ControlFrame::tellEnded()
 {
-    if (const Container* inner = control_.container()) {
+    if (const Container* inner = control_.containerInUse()) {
         const auto within = inner->controls(); // a handler may add or remove
         for (const ControlPtr& control : within) {
             if (control->frame().privateHolder() == &control_) {
@@ -299,7 +299,7 @@ void ControlFrame::AccessibleName(String value)
     }
     accessibleName_ = std::move(value);
     report(ControlAspect::Accessibility);
-    if (const Container* inner = control_.container()) {
+    if (const Container* inner = control_.containerInUse()) {
         for (const ControlPtr& field : inner->controls()) {
             if (field->frame().privateHolder() == &control_) {
                 field->frame().report(ControlAspect::Accessibility);

@@ -14,7 +14,7 @@ namespace
 std::vector<ControlPtr> fieldsOf(Control& holder)
 {
     std::vector<ControlPtr> fields;
-    if (const Container* inside = holder.container()) {
+    if (const Container* inside = holder.containerInUse()) {
         std::ranges::copy_if(inside->controls(), std::back_inserter(fields), [&](const ControlPtr& control) {
             return control->frame().privateHolder() == &holder;
         });

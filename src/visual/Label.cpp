@@ -28,6 +28,7 @@ struct Label::Properties {
 Label::Label() : frame_(*this), surface_(*this)
 {
     surface_.transparent(true);
+    surface_.paintsDirectly(true);
     rows::start<Properties>(*this);
 }
 

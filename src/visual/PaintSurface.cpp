@@ -54,6 +54,40 @@ PicturePtr PaintSurface::image(double pixelRatio)
     return backend_->picture();
 }
 
+void PaintSurface::paintsDirectly(bool value)
+{
+    if (paintsDirectly_ != value) {
+        paintsDirectly_ = value;
+        forgetImage();
+        report();
+    }
+}
+
+bool PaintSurface::isPaintedDirectly() const
+{
+    return paintsDirectly_ && !backend_ && !retains_ && !part_;
+}
+
+void PaintSurface::paintOn(std::shared_ptr<DrawBackend> shown)
+{
+    const auto leave = [this] {
+        backend_.reset();
+        device_.detach();
+        painted_ = false;
+    };
+    device_.detach();
+    backend_ = std::move(shown);
+    madeFor_ = imageSize();
+    try {
+        paintControl();
+    } catch (...) {
+        leave();
+        throw;
+    }
+    leave();
+    reported_ = false;
+}
+
 void PaintSurface::paintControl()
 {
     painted_ = true;
@@ -218,6 +252,11 @@ Container& PaintSurface::children()
         children_->owner(&control_);
     }
     return *children_;
+}
+
+Container* UserControl::containerInUse()
+{
+    return surface().childrenIfAny() ? container() : nullptr;
 }
 
 std::shared_ptr<DrawBackend> PaintSurface::openBackend()

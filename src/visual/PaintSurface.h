@@ -26,6 +26,16 @@ public:
     /// For an adapter: the painted picture at that ratio, made or remade if needed. Never null.
     PicturePtr image(double pixelRatio);
 
+    /// Whether an adapter may let `paint` draw on what it shows, so that the control needs no image: for one
+    /// that is painted fast and only paints (no holes, no bitwise ink, nothing read back). False at first.
+    void paintsDirectly(bool value);
+    bool paintsDirectly() const { return paintsDirectly_; }
+    /// For an adapter: whether that is so now. Where the control keeps what is drawn, or has got an image by
+    /// being drawn upon or asked for it, that is shown.
+    bool isPaintedDirectly() const;
+    /// For such a control: paints on a surface that lies where the control does.
+    void paintOn(std::shared_ptr<DrawBackend> shown);
+
     /// The control's size in pixels.
     PixelSize size() const;
     /// The part of the control (in its pixels) that has an image, for a control much larger than what is seen
@@ -98,6 +108,7 @@ private:
     bool isDrawingPart_ = false;
     bool hasDrawnPart_ = false;
     bool retains_ = false;
+    bool paintsDirectly_ = false;
     bool isDrawnUpon_ = false;    ///< by others than `paint`
     std::uint32_t paintedIn_ = 0; ///< the theme's count of changes then
     PicturePtr mask_;

@@ -10,6 +10,9 @@ struct PictureBox::Properties {
         rows::property<u"ScaleMode">(&PictureBox::ScaleMode, &PictureBox::ScaleMode),
         rows::property<u"AutoRedraw">(&PictureBox::surface_, &PaintSurface::retains, &PaintSurface::retains)
             .still(),
+        rows::property<u"PaintsDirectly">(&PictureBox::surface_, &PaintSurface::paintsDirectly,
+                                          &PaintSurface::paintsDirectly)
+            .still(),
         rows::property<u"BackColor">(&PictureBox::surface_, &PaintSurface::BackColor,
                                      &PaintSurface::BackColor),
         rows::property<u"Transparent">(&PictureBox::surface_, &PaintSurface::transparent,
@@ -44,6 +47,7 @@ void PictureBox::ScaleMode(ScaleUnit value)
 // One line a setter.
 // clang-format off
 void PictureBox::AutoRedraw(bool value) { rows::set<Properties, u"AutoRedraw">(*this, value); }
+void PictureBox::PaintsDirectly(bool value) { rows::set<Properties, u"PaintsDirectly">(*this, value); }
 void PictureBox::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*this, value); }
 void PictureBox::transparent(bool value) { rows::set<Properties, u"Transparent">(*this, value); }
 void PictureBox::Picture(PicturePtr value) { rows::set<Properties, u"Picture">(*this, std::move(value)); }

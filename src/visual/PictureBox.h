@@ -20,6 +20,10 @@ public:
     /// True: what is drawn stays, and Paint is not raised. False: Paint is raised whenever the image is made.
     bool AutoRedraw() const { return surface_.retains(); }
     void AutoRedraw(bool value);
+    /// AutoRedraw off, and Paint is quick and only draws (no holes, no bitwise ink, nothing read back): it
+    /// draws on the window itself, and the box has no image. False at first.
+    bool PaintsDirectly() const { return surface_.paintsDirectly(); }
+    void PaintsDirectly(bool value);
     Colour BackColor() const { return surface_.BackColor(); }
     /// Clears what was drawn.
     void BackColor(Colour value);

@@ -46,6 +46,7 @@ struct Shape::Properties {
 Shape::Shape() : frame_(*this), surface_(*this)
 {
     surface_.transparent(true);
+    surface_.paintsDirectly(true);
     surface_.MaskPicture(std::make_shared<Picture>(PixelSize{})); // a hole all over: every click goes through
 }
 

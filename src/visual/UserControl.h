@@ -37,6 +37,7 @@ class UserControl : public Control
 public:
     virtual PaintSurface& surface() = 0;
     UserControl* painted() final { return this; }
+    Container* containerInUse() final;
 
     /// Defaults of a freshly placed control.
     virtual void initProperties() {}

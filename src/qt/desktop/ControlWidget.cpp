@@ -13,6 +13,7 @@
 #include "qt/desktop/PixelRatio.h"
 #include "qt/desktop/Theme.h"
 #include "qt/desktop/WidgetAspects.h"
+#include "qt/desktop/WidgetBackend.h"
 #include "qt/desktop/WindowHandles.h"
 #include "visual/KeyboardFocus.h"
 #include "visual/PaintHints.h"
@@ -90,9 +91,7 @@ ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* pare
     peer_ = std::make_unique<Peer>(*this);
     registerWindow(control_->hWnd(), *this);
     connect(&ThemeNews::instance(), &ThemeNews::changed, this, [this] { update(); });
-    if (Container* inner = control_->container(); inner && !(hints_ && hints_->showsChildren())) {
-        children_ = std::make_unique<ContainerWidgets>(*inner, *this);
-    }
+    holdChildren();
     if (placement_ == Placement::ByLayout) {
         setFocusPolicy(control_->frame().canFocus() ? Qt::StrongFocus : Qt::NoFocus);
         takePolicy();
@@ -119,6 +118,18 @@ QSize ControlWidget::sizeHint() const
 {
     const PixelSize size = control_->surface().size();
     return QSizeF(size.width, size.height).toSize();
+}
+
+// The controls within this one have widgets, which are made when the first one comes.
+void ControlWidget::holdChildren()
+{
+    if (children_) {
+        children_->synchronise();
+        orderStops();
+    } else if (Container* inner = control_->containerInUse(); inner && !(hints_ && hints_->showsChildren())) {
+        children_ = std::make_unique<ContainerWidgets>(*inner, *this);
+        orderStops();
+    }
 }
 
 void ControlWidget::findParent()
@@ -156,10 +167,7 @@ void ControlWidget::modelChanged(ControlAspect aspect)
         break;
     case ControlAspect::Children:
     case ControlAspect::ZOrder:
-        if (children_) {
-            children_->synchronise();
-            orderStops();
-        }
+        holdChildren();
         break;
     case ControlAspect::Drag:
         beginDrag();
@@ -245,6 +253,9 @@ bool ControlWidget::touched(QTouchEvent& event)
 void ControlWidget::paintEvent(QPaintEvent* /*event*/)
 {
     dispatch([&] {
+        if (paintDirectly()) {
+            return;
+        }
         QPainter painter(this);
         const double ratio = paintRatio(painter);
         const PicturePtr picture = control_->surface().image(ratio * zoomOf(*control_));
@@ -252,6 +263,18 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/)
         paintPicture(painter, *picture, ratio);
         followParts();
     });
+}
+
+// Gives whether the control is one that is painted without an image.
+bool ControlWidget::paintDirectly()
+{
+    PaintSurface& surface = control_->surface();
+    if (!surface.isPaintedDirectly()) {
+        return false;
+    }
+    surface.paintOn(std::make_shared<WidgetBackend>(*this, surface.size(), zoomOf(*control_)));
+    followParts();
+    return true;
 }
 
 void ControlWidget::paintPicture(QPainter& painter, const Picture& picture, double ratio)

@@ -102,10 +102,12 @@ private:
     class Peer;
 
     void modelChanged(ControlAspect aspect);
+    bool paintDirectly();
     void paintPicture(QPainter& painter, const Picture& picture, double ratio);
     void followOpacity();
     void textChanged();
     bool touched(QTouchEvent& event);
+    void holdChildren();
     void findParent();
     void orderStops();
     bool isForeign() const { return placement_ != Placement::OnForm; }

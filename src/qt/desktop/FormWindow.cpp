@@ -52,7 +52,7 @@ void partFromWidgets(const Container& container)
 {
     for (const ControlPtr& control : container.controls()) {
         control->frame().peer(nullptr);
-        if (const Container* within = control->container()) {
+        if (const Container* within = control->containerInUse()) {
             partFromWidgets(*within);
         }
     }
@@ -201,7 +201,7 @@ void FormWindow::showZoom(const Container& container)
               ControlAspect::Picture}) {
             control->frame().report(aspect);
         }
-        if (const Container* within = control->container()) {
+        if (const Container* within = control->containerInUse()) {
             showZoom(*within);
         }
     }

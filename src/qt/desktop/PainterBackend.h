@@ -54,6 +54,8 @@ protected:
     void begin(QPaintDevice& device);
     QPainter& painter() { return painter_; }
     double ratio() const { return ratio_; }
+    /// For a device that tells it only while it is painted.
+    void ratio(double value) { ratio_ = value; }
     const std::optional<QRect>& clipping() const { return clip_; }
     /// The area in device pixels, with rounded edges and at least one pixel wide and high unless it is empty.
     QRect snapped(const PixelRectangle& area) const;

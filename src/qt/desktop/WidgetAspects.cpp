@@ -117,7 +117,7 @@ void applyGeometry(QWidget& widget, Control& control)
 {
     const QSize before = widget.size();
     widget.setGeometry(placeWithin(widget.parentWidget(), control));
-    Container* const inner = control.container();
+    const Container* const inner = control.containerInUse();
     if (!inner || widget.size() == before) {
         return;
     }
