@@ -218,7 +218,7 @@ void groupSheetAsDocument(benchmark::State& state)
     for (auto _ : state) {
         QString html = QStringLiteral("<table cellpadding=\"6\">");
         for (std::size_t row = 0; row < Rows; ++row) {
-            html += QStringLiteral("<tr>");
+            html += row % 2 == 0 ? QStringLiteral("<tr bgcolor=\"#eaf1f7\">") : QStringLiteral("<tr>");
             for (std::size_t at = row; at < groups.size(); at += Rows) {
                 const StringView name = groups[at].name.substr(0, groups[at].name.find(u'|'));
                 html += QStringLiteral("<td>") + QString::fromStdU16String(String(name)) +
