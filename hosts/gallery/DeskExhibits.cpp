@@ -1,11 +1,14 @@
 #include "core/CoreTokenList.h"
 #include "desk/frm_ToolCalc.h"
 #include "desk/frm_ToolGroupNames.h"
+#include "desk/frm_ToolLookUp.h"
 #include "desk/frm_ToolOxValues.h"
 #include "desk/frm_ToolPeriodensystem.h"
+#include "desk/frm_ToolQuiz.h"
 #include "desk/frm_ToolpHRules.h"
 #include "gallery/ActionExhibit.h"
 #include "gallery/Catalogue.h"
+#include "visual/TextBox.h"
 #include "visual/ctl_Button.h"
 
 #include <initializer_list>
@@ -68,6 +71,48 @@ ObjectPtr buildSheet(Stage& stage)
     return made->form().shared_from_this();
 }
 
+/// Practice whose questions are the same each time.
+ObjectPtr buildQuiz(Stage& stage)
+{
+    putNote(stage, {24, 4, stage.size().width - 48, 68},
+            u"Der Knopf unten beginnt eine Runde.|The button below begins a round.");
+    const auto made = std::make_shared<frm_ToolQuiz>([] {
+        const std::vector<SheetEntry> entries = sheetEntries();
+        const auto sulphates = entriesFound(entries, u"sulfat", ReferenceSheet::Groups);
+        QuizQuestion question{.question = sulphates.front().question, .choices = {}, .right = 1};
+        for (const StringView other : {u"sulfid", u"sulfat", u"sulfit", u"nitrat"}) {
+            question.choices.push_back(
+                {entriesFound(entries, other, ReferenceSheet::Groups).front().answer, {}});
+        }
+        return std::vector{question, question};
+    });
+    stage.atEnd([made] { made->form().discard(); });
+    return made->form().shared_from_this();
+}
+
+/// Presses answers one after the other, and goes on behind each.
+Sample answered(StringView name, std::initializer_list<std::int32_t> answers, bool goesOn)
+{
+    return sample<Form>(name, [answers = std::vector(answers), goesOn](Form& form) {
+        form.Show();
+        for (const std::int32_t answer : answers) {
+            form.control<ctl_Button>(u"but_Choice", answer)->click();
+            if (goesOn) {
+                form.control<CommandBar>(u"bar_Buttons")->inputButton(1);
+            }
+        }
+    });
+}
+
+/// Looks something up.
+Sample sought(StringView name, StringView text)
+{
+    return sample<Form>(name, [text](Form& form) {
+        form.Show();
+        form.control<TextBox>(u"txt_Sought")->Text(String(text));
+    });
+}
+
 /// Opens a sheet and presses a button on it.
 Sample pressed(StringView name, StringView button)
 {
@@ -102,6 +147,12 @@ std::vector<Exhibit> deskExhibits()
               buildSheet<frm_ToolOxValues>, std::vector(shown)),
         sheet(u"frm_ToolpHRules", u"Säuren und Regeln zum pH-Wert.|Acids and rules of pH.",
               buildSheet<frm_ToolpHRules>, std::vector(shown)),
+        sheet(u"frm_ToolLookUp", u"Alle Blätter zum Durchsuchen.|All sheets to search.",
+              buildSheet<frm_ToolLookUp>,
+              {shown.front(), sought(u"Gesucht|Sought", u"sulf"), sought(u"Nichts|Nothing", u"xyz")}),
+        sheet(u"frm_ToolQuiz", u"Üben mit den Blättern.|Practice with the sheets.", buildQuiz,
+              {shown.front(), answered(u"Richtig|Right", {1}, false), answered(u"Falsch|Wrong", {2}, false),
+               answered(u"Ende|End", {1, 2}, true)}),
         Exhibit{
             .group = Group::Windows,
             .title = u"frm_ToolCalc",

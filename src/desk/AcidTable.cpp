@@ -13,12 +13,6 @@ namespace phial
 namespace
 {
 
-struct Acid {
-    StringView acid;
-    StringView base;
-    StringView pKs;
-};
-
 constexpr Acid Acids[] = {
     {u"HCl", u"Cl<sup>-</sup>", u"-3.00"},
     {u"H<sub>3</sub>O<sup>+</sup>", u"H<sub>2</sub>O", u"-1.74"},
@@ -69,6 +63,11 @@ String paddedTo(double place, String line, const FontSpec& font)
 }
 
 } // namespace
+
+std::span<const Acid> acids()
+{
+    return Acids;
+}
 
 String acidTable(StringView head, const FontSpec& font)
 {

@@ -12,6 +12,7 @@ namespace phial
 struct GroupName {
     StringView name;
     StringView formula;
+    bool isAsked = true; ///< whether one may practise it: not where the print is wrong or no name
 };
 
 /// The lines in the order of the sheet. They are what schools know from its print, and stand here as there.

@@ -37,6 +37,7 @@ constexpr ControlDesign formulas(std::int32_t column)
 {
     return lines(column, design<PictureBox>(u"Formel", {NameWidth, Top, FormulaWidth, RowHeight})
                              .set(u"AutoRedraw", false)
+                             .set(u"PaintsDirectly", true)
                              .set(u"Transparent", true)
                              .set(u"Border", false));
 }

@@ -1,5 +1,6 @@
 #include "desk/OlderNotation.h"
 
+#include "term/TermScripts.h"
 #include "visual/DrawDevice.h"
 
 namespace phial
@@ -48,6 +49,24 @@ String termOfOlderNotation(StringView notation)
         }
     }
     return term;
+}
+
+String unicodeOfOlderNotation(StringView notation)
+{
+    String text;
+    TermLevel level = TermLevel::Normal;
+    for (const char16_t unit : notation) {
+        if (unit == Lowers) {
+            level = TermLevel::Subscript;
+        } else if (unit == Raises) {
+            level = TermLevel::Superscript;
+        } else if (unit == Ends) {
+            level = TermLevel::Normal;
+        } else {
+            text += scriptForm(unit, level).value_or(unit);
+        }
+    }
+    return text;
 }
 
 } // namespace phial

@@ -15,4 +15,7 @@ void drawOlderNotation(DrawDevice& device, double height, StringView notation);
 /// The same as readFormula takes it: "NH@4|^+|" is "NH4^+".
 String termOfOlderNotation(StringView notation);
 
+/// The same with small lowered and raised characters where there are such: "NH₄⁺".
+String unicodeOfOlderNotation(StringView notation);
+
 } // namespace phial

@@ -3,7 +3,8 @@
 #include "visual/FormDesign.h"
 #include "visual/ctl_CmdBar.h"
 
-/// What the reference sheets have in common: the bar at the bottom whose button closes them.
+/// What the reference sheets have in common: the bar at the bottom, whose buttons search in all of them and
+/// close them.
 namespace phial::sheet_design
 {
 
@@ -11,7 +12,8 @@ inline constexpr double Margin = 16;
 inline constexpr double BarHeight = 76;
 
 inline constexpr StringView Confirm = u"DIALOG.OK();";
-inline constexpr ButtonDesign Commands[] = {{Confirm, u"OK|OK", true}};
+inline constexpr StringView LooksUp = u"SHEET.LOOKUP();";
+inline constexpr ButtonDesign Commands[] = {{LooksUp, u"Nachschlagen|Look up"}, {Confirm, u"OK|OK", true}};
 
 /// The bar below a sheet of that size.
 inline constexpr ControlDesign commandBar(double width, double height)

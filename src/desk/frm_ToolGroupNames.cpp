@@ -7,7 +7,7 @@
 #include "desk/GroupNames.h"
 #include "desk/GroupNamesDesign.h"
 #include "desk/OlderNotation.h"
-#include "desk/SheetDesign.h"
+#include "desk/SheetCommands.h"
 #include "term/TermSpeech.h"
 
 namespace phial
@@ -20,7 +20,7 @@ frm_ToolGroupNames::frm_ToolGroupNames()
     formulas_.adopt();
     form_.on(form_->Load, [this] { TRANSLATE(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
-    form_.command(u"bar_Buttons", sheet_design::Confirm, [this] { form_->Unload(); });
+    wireSheet(form_, ReferenceSheet::Groups);
     formulas_.connectEach([](PictureBox& box, std::int32_t row) {
         return box.Paint.connect([&box, row] { paint(box, row); });
     });

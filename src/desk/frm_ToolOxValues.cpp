@@ -8,7 +8,7 @@
 #include "chem/formula/OxidationNumbers.h"
 #include "desk/OxValuesDesign.h"
 #include "desk/OxidationExamples.h"
-#include "desk/SheetDesign.h"
+#include "desk/SheetCommands.h"
 #include "term/TermSpeech.h"
 
 namespace phial
@@ -38,7 +38,7 @@ frm_ToolOxValues::frm_ToolOxValues()
     examples_.adopt();
     form_.on(form_->Load, [this] { TRANSLATE(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
-    form_.command(u"bar_Buttons", sheet_design::Confirm, [this] { form_->Unload(); });
+    wireSheet(form_, ReferenceSheet::OxidationNumbers);
 }
 
 void frm_ToolOxValues::Show()

@@ -7,7 +7,7 @@
 #include "app/sys_Global.h"
 #include "core/RuntimeError.h"
 #include "desk/PeriodicSheetDesign.h"
-#include "desk/SheetDesign.h"
+#include "desk/SheetCommands.h"
 #include "mascot/ctl_Bubble.h"
 #include "periodic/ElementFile.h"
 #include "periodic/SheetMode.h"
@@ -27,7 +27,7 @@ frm_ToolPeriodensystem::frm_ToolPeriodensystem()
 {
     form_.on(form_->Load, [this] { load(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
-    form_.command(u"bar_Buttons", sheet_design::Confirm, [this] { form_->Unload(); });
+    wireSheet(form_, ReferenceSheet::Elements);
     form_.on(change_->CLICK, [this] {
         showsPicture_ = !showsPicture_;
         showParts();

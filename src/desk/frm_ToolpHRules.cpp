@@ -4,7 +4,7 @@
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
 #include "desk/AcidTable.h"
-#include "desk/SheetDesign.h"
+#include "desk/SheetCommands.h"
 #include "desk/pHRulesDesign.h"
 
 namespace phial
@@ -15,7 +15,7 @@ frm_ToolpHRules::frm_ToolpHRules()
 {
     form_.on(form_->Load, [this] { TRANSLATE(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
-    form_.command(u"bar_Buttons", sheet_design::Confirm, [this] { form_->Unload(); });
+    wireSheet(form_, ReferenceSheet::Acids);
 }
 
 void frm_ToolpHRules::Show()

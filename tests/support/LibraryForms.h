@@ -16,14 +16,18 @@
 #include "desk/CalculatorDesign.h"
 #include "desk/GroupNames.h"
 #include "desk/GroupNamesDesign.h"
+#include "desk/LookUpDesign.h"
 #include "desk/OlderNotation.h"
 #include "desk/OxValuesDesign.h"
 #include "desk/OxidationExamples.h"
 #include "desk/PeriodicSheetDesign.h"
+#include "desk/QuizDesign.h"
 #include "desk/frm_ToolCalc.h"
 #include "desk/frm_ToolGroupNames.h"
+#include "desk/frm_ToolLookUp.h"
 #include "desk/frm_ToolOxValues.h"
 #include "desk/frm_ToolPeriodensystem.h"
+#include "desk/frm_ToolQuiz.h"
 #include "desk/frm_ToolpHRules.h"
 #include "desk/pHRulesDesign.h"
 #include "dialogs/DialogHelpImagesDesign.h"
@@ -112,6 +116,25 @@ inline MadeForm makePeriodicSheet()
 {
     QVAPP()->URL()->ROOT(systemPath(treeFolder()) + u"\\");
     return makeLibraryForm<frm_ToolPeriodensystem>();
+}
+
+/// The table of all sheets while nothing is found.
+inline MadeForm makeLookUp()
+{
+    const auto made = std::make_shared<frm_ToolLookUp>();
+    made->form().control<TextBox>(u"txt_Sought")->Text(u"???");
+    return {made, &made->form()};
+}
+
+/// A round of a single question.
+inline MadeForm makeQuizForm()
+{
+    const auto made = std::make_shared<frm_ToolQuiz>([] {
+        const QuizQuestion question{
+            .question = u"A?", .choices = {{u"a", {}}, {u"b", {}}, {u"c", {}}, {u"d", {}}}, .right = 0};
+        return std::vector{question};
+    });
+    return {made, &made->form()};
 }
 
 /// How a formula is spoken, "German|English".
@@ -272,6 +295,14 @@ inline std::vector<LibraryForm> libraryForms()
          .madePairs = groupPairs(),
          .data = {},
          .aborts = true},
+        {.name = u"frm_ToolLookUp",
+         .make = makeLookUp,
+         .design = &tool_look_up_design::Design,
+         .pairs = {u"0 Einträge|0 entries", u"Alle Blätter|All sheets", u"Eintrag|Entry", u"Angabe|Details",
+                   u"Blatt|Sheet", u"Periodensystem|Periodic table", u"Namen von Gruppen|Names of groups",
+                   u"Oxidationszahlen|Oxidation numbers", u"Säuren und pH-Wert|Acids and pH"},
+         .data = {u"???"},
+         .aborts = true},
         {.name = u"frm_ToolOxValues",
          .make = makeLibraryForm<frm_ToolOxValues>,
          .design = &tool_ox_values_design::Design,
@@ -284,6 +315,12 @@ inline std::vector<LibraryForm> libraryForms()
          .design = &tool_periodic_design::Design,
          .pairs = {u"Bild|Picture", u"Namen|Names"},
          .data = {},
+         .aborts = true},
+        {.name = u"frm_ToolQuiz",
+         .make = makeQuizForm,
+         .design = &tool_quiz_design::Design,
+         .pairs = {u"Frage 1 von 1|Question 1 of 1"},
+         .data = {u"A?", u"a", u"b", u"c", u"d"},
          .aborts = true},
         {.name = u"frm_ToolpHRules",
          .make = makeLibraryForm<frm_ToolpHRules>,
