@@ -1,4 +1,5 @@
 #include "DesktopSession.h"
+#include "FinerScreen.h"
 #include "UserDesk.h"
 #include "app/Session.h"
 #include "app/cls_App.h"
@@ -14,7 +15,6 @@
 #include "visual/ctl_Label.h"
 
 #include <QPointingDevice>
-#include <QProcess>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -29,9 +29,6 @@ namespace phial::qt
 
 namespace
 {
-
-constexpr auto TrainerScaleVariable = "QT_SCALE_FACTOR";
-constexpr int TrainerPatience = 120000; // milliseconds
 
 class RealFormulaTrainer : public DesktopTest<Session>
 {
@@ -365,19 +362,11 @@ TEST_F(RealFormulaTrainer, ItSpeaksEnglishAsSoonAsThatIsChosen)
 TEST_F(RealFormulaTrainer, DoesAllThisOnFinerScreensToo)
 {
     constexpr int LeastWidth = 1800; // half of that is the smallest screen of a school
-    const bool isFine = qEnvironmentVariableIsSet(TrainerScaleVariable);
+    const bool isFine = isOnFinerScreen();
     if (isFine || QGuiApplication::primaryScreen()->geometry().width() < LeastWidth) {
         return;
     }
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QLatin1String(TrainerScaleVariable), QStringLiteral("2"));
-    program.setProcessEnvironment(environment);
-    program.setProcessChannelMode(QProcess::MergedChannels);
-    program.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--gtest_filter=RealFormulaTrainer.*")});
-    EXPECT_TRUE(program.waitForFinished(TrainerPatience));
-    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardOutput().toStdString();
+    EXPECT_TRUE(passOnFinerScreen("RealFormulaTrainer.*", "2"));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "DesktopRun.h"
+#include "FinerScreen.h"
 #include "UserDesk.h"
 #include "app/cls_Language.h"
 #include "core/NativePath.h"
@@ -6,7 +7,6 @@
 #include "support/Places.h"
 #include "visual/ctl_Title.h"
 
-#include <QProcess>
 #include <QScreen>
 
 /// A learning app's help book on a real desktop, with a window manager, a mouse and a keyboard.
@@ -15,8 +15,6 @@ namespace phial::qt
 
 namespace
 {
-
-constexpr auto BookScaleVariable = "QT_SCALE_FACTOR";
 
 class RealHelpBook : public DesktopRun
 {
@@ -115,17 +113,10 @@ TEST_F(RealHelpBook, SpeaksEnglishToo)
 
 TEST_F(RealHelpBook, DoesAllThisOnFinerScreensToo)
 {
-    if (qEnvironmentVariableIsSet(BookScaleVariable)) {
+    if (isOnFinerScreen()) {
         return; // this is one
     }
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QLatin1String(BookScaleVariable), QStringLiteral("1.25"));
-    program.setProcessEnvironment(environment);
-    program.setProcessChannelMode(QProcess::MergedChannels);
-    program.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_filter=RealHelpBook.*")});
-    EXPECT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardOutput().toStdString();
+    EXPECT_TRUE(passOnFinerScreen("RealHelpBook.*", "1.25"));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "DesktopRun.h"
+#include "FinerScreen.h"
 #include "UserDesk.h"
 #include "app/cls_AppDialog.h"
 #include "app/cls_Language.h"
@@ -17,7 +18,6 @@ namespace phial::qt
 namespace
 {
 
-constexpr auto PadScaleVariable = "QT_SCALE_FACTOR";
 constexpr auto GuestVariable = "PHIAL_GUEST_WINDOW";
 constexpr QRect GuestPlace(20, 420, 200, 100);
 constexpr int MostPatience = 60000; // milliseconds
@@ -285,18 +285,10 @@ TEST_F(RealNumberPad, ItsOwnMenuDragsAndDialogsLeaveItOpen)
 
 TEST_F(RealNumberPad, DoesAllThisOnFinerScreensToo)
 {
-    if (qEnvironmentVariableIsSet(PadScaleVariable)) {
+    if (isOnFinerScreen()) {
         return; // this is one
     }
-    QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QLatin1String(PadScaleVariable), QStringLiteral("2"));
-    program.setProcessEnvironment(environment);
-    program.setProcessChannelMode(QProcess::MergedChannels);
-    program.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--gtest_filter=RealNumberPad.*")});
-    EXPECT_TRUE(program.waitForFinished(MostPatience));
-    EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardOutput().toStdString();
+    EXPECT_TRUE(passOnFinerScreen("RealNumberPad.*", "2"));
 }
 
 /// The other program that a test above starts.

@@ -29,6 +29,7 @@ public:
         Q = 24,
         E = 26,
         R = 27,
+        T = 28,
         Z = 29,
         U = 30,
         I = 31,
@@ -36,11 +37,14 @@ public:
         Return = 36,
         Ctrl = 37,
         A = 38,
+        S = 39,
         D = 40,
+        F = 41,
         G = 42,
         L = 46,
         OUmlaut = 47,
         Shift = 50,
+        C = 54,
         V = 55,
         B = 56,
         Alt = 64,
@@ -52,6 +56,7 @@ public:
         Left = 113,
         Right = 114,
         End = 115,
+        Down = 116,
     };
 
     UserDesk();
