@@ -27,6 +27,11 @@ constexpr auto ButtonTexts =
 constexpr auto ItemTexts = std::to_array<StringView>({u"TITLE", u"TITLESHORT", u"TOOLTIPTEXT", u"TAG"});
 constexpr auto ColumnTexts = std::to_array<StringView>({u"TEXT", u"TOOLTIPTEXT"});
 
+constexpr auto Collections = std::to_array<FormTranslation::Collection>({{u"BUTTONS", ButtonTexts},
+                                                                         {u"PANELS", ButtonTexts},
+                                                                         {u"ITEMS", ItemTexts},
+                                                                         {u"COLUMNHEADERS", ColumnTexts}});
+
 /// The text of a member, none when the object has no such member or it cannot be read.
 std::optional<String> textOf(Object& object, StringView property)
 {
@@ -151,24 +156,42 @@ std::vector<ObjectPtr> FormTranslation::controls()
     return found;
 }
 
-void FormTranslation::findPlaces(const ObjectPtr& control, std::vector<Place>& places)
+/// Forms have many controls of few classes, so the members of a class are looked up once.
+const FormTranslation::Kind& FormTranslation::kindOf(const Object& control)
 {
-    const String key = keyOf(*control);
-    for (const StringView property : ControlTexts) {
-        if (findMember(*control, property)) {
-            places.push_back({control, property, String(key).append(u".").append(property)});
-        }
+    const MemberTable members = control.members();
+    const auto known =
+        std::ranges::find_if(kinds_, [&](const Kind& kind) { return kind.members.data() == members.data(); });
+    if (known != kinds_.end()) {
+        return *known;
     }
-    findPlacesWithin(*control, u"BUTTONS", key, ButtonTexts, places);
-    findPlacesWithin(*control, u"PANELS", key, ButtonTexts, places);
-    findPlacesWithin(*control, u"ITEMS", key, ItemTexts, places);
-    findPlacesWithin(*control, u"COLUMNHEADERS", key, ColumnTexts, places);
+    Kind kind{.members = members, .texts = {}, .collections = {}};
+    std::ranges::copy_if(ControlTexts, std::back_inserter(kind.texts),
+                         [&](StringView property) { return findMember(control, property) != nullptr; });
+    std::ranges::copy_if(Collections, std::back_inserter(kind.collections),
+                         [&](const Collection& each) { return findMember(control, each.name) != nullptr; });
+    return kinds_.emplace_back(std::move(kind));
 }
 
-void FormTranslation::findPlacesWithin(Object& control, StringView collection, StringView controlKey,
-                                       std::span<const StringView> properties, std::vector<Place>& places)
+void FormTranslation::findPlaces(const ObjectPtr& control, std::vector<Place>& places)
 {
-    const ObjectPtr members = objectOf(control, collection);
+    const Kind& kind = kindOf(*control);
+    if (kind.texts.empty() && kind.collections.empty()) {
+        return;
+    }
+    const String key = keyOf(*control);
+    for (const StringView property : kind.texts) {
+        places.push_back({control, property, String(key).append(u".").append(property)});
+    }
+    for (const Collection& each : kind.collections) {
+        findPlacesWithin(*control, each, key, places);
+    }
+}
+
+void FormTranslation::findPlacesWithin(Object& control, const Collection& collection, StringView controlKey,
+                                       std::vector<Place>& places)
+{
+    const ObjectPtr members = objectOf(control, collection.name);
     const std::int32_t count = members ? countOf(*members) : 0;
     for (std::int32_t i = 1; i <= count; ++i) {
         const ObjectPtr member = itemOf(*members, i);
@@ -176,8 +199,8 @@ void FormTranslation::findPlacesWithin(Object& control, StringView collection, S
             continue;
         }
         const String key =
-            String(controlKey).append(u".").append(collection) + u"(" + Variant(i).toText() + u").";
-        for (const StringView property : properties) {
+            String(controlKey).append(u".").append(collection.name) + u"(" + Variant(i).toText() + u").";
+        for (const StringView property : collection.texts) {
             places.push_back({member, property, String(key).append(property)});
         }
     }

@@ -4,7 +4,6 @@
 #include "core/CoreTokenList.h"
 #include "core/Object.h"
 
-#include <functional>
 #include <span>
 #include <vector>
 
@@ -26,6 +25,12 @@ public:
     /// `german` says which part of a pair is taken. A buffer that holds tokens is not gathered again.
     FormTranslation(Object& form, CoreTokenList& buffer, bool german);
 
+    /// A collection that controls have, whose members have texts.
+    struct Collection {
+        StringView name;
+        std::span<const StringView> texts;
+    };
+
     void run();
 
     /// Texts that nobody has translated, as "key in form".
@@ -39,11 +44,19 @@ private:
         String key;
     };
 
+    /// What objects of a class have texts in.
+    struct Kind {
+        MemberTable members;
+        std::vector<StringView> texts;
+        std::vector<Collection> collections;
+    };
+
     void gather(const std::vector<Place>& places);
     std::vector<ObjectPtr> controls();
-    static void findPlaces(const ObjectPtr& control, std::vector<Place>& places);
-    static void findPlacesWithin(Object& control, StringView collection, StringView controlKey,
-                                 std::span<const StringView> properties, std::vector<Place>& places);
+    const Kind& kindOf(const Object& control);
+    void findPlaces(const ObjectPtr& control, std::vector<Place>& places);
+    static void findPlacesWithin(Object& control, const Collection& collection, StringView controlKey,
+                                 std::vector<Place>& places);
     void note(StringView key, const String& text);
     void noteUntranslated(StringView key, const String& text);
     void assignText(Object& object, StringView key, StringView property);
@@ -53,6 +66,7 @@ private:
     CoreTokenList& buffer_;
     bool german_;
     String formName_;
+    std::vector<Kind> kinds_;
     CoreStringList untranslated_;
 };
 

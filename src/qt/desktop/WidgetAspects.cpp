@@ -45,8 +45,13 @@ String spokenName(const Control& control)
 
 void applyNames(QWidget& widget, const Control& control)
 {
-    widget.setAccessibleName(toQt(spokenName(control)));
-    widget.setAccessibleDescription(toQt(control.frame().HelpText()));
+    // Each change makes the toolkit ask for the widget's interface, even when nobody listens.
+    if (const QString name = toQt(spokenName(control)); name != widget.accessibleName()) {
+        widget.setAccessibleName(name);
+    }
+    if (const QString help = toQt(control.frame().HelpText()); help != widget.accessibleDescription()) {
+        widget.setAccessibleDescription(help);
+    }
 }
 
 void applyPointer(QWidget& widget, const ControlFrame& frame)
