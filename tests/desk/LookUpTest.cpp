@@ -91,6 +91,7 @@ TEST_F(LookUp, WhatIsTypedNarrowsTheTable)
     EXPECT_EQ(state(form), u"201 Einträge");
     seek(form, u"sulfit");
     ASSERT_EQ(list(form).ITEMS()->Count(), 1);
+    EXPECT_EQ(list(form).COLUMNHEADERS()->Item(1)->Text(), u"Eintrag");
     EXPECT_EQ(list(form).ITEMS()->Item(1)->Title(), u"-sulfit");
     EXPECT_EQ(list(form).ITEMS()->Item(1)->Cell(2), u"SO₃²⁻");
     EXPECT_EQ(list(form).ITEMS()->Item(1)->Cell(3), u"Namen von Gruppen");
@@ -127,6 +128,10 @@ TEST_F(LookUp, TheChosenRowIsCopiedOrAllOfThem)
     form.control<TextBox>(u"txt_Sought")->frame().SetFocus();
     headless::strike(form, {.key = Key::Down});
     EXPECT_EQ(list(form).ListIndex(), 1) << "the first row is chosen when one goes down to the table";
+    strikeWithControl(form, u'x');
+    EXPECT_EQ(state(form), u"2 Einträge kopiert") << "another key";
+    strikeWithControl(form, u'c');
+    EXPECT_EQ(clipboard(), u"-sulfid\tS²⁻\tNamen von Gruppen\r\n");
     list(form).ListIndex(2);
     strikeWithControl(form, u'c');
     EXPECT_EQ(clipboard(), u"-sulfit\tSO₃²⁻\tNamen von Gruppen\r\n");
@@ -192,6 +197,7 @@ protected:
                 .right = right};
     }
     Form& form() { return quiz.form(); }
+    Colour verdictColour() { return form().control<ctl_Label>(u"lab_Verdict")->ForeColor(); }
     String caption(StringView label) { return form().control<ctl_Label>(label)->Caption(); }
     ctl_Button& choice(std::int32_t number) { return *form().control<ctl_Button>(u"but_Choice", number); }
     CommandBarButton& next() { return *form().control<ctl_CmdBar>(u"bar_Buttons")->BUTTONS()->Item(1); }
@@ -210,8 +216,13 @@ TEST_F(Quiz, AsksAndSaysWhetherItWasRight)
     EXPECT_EQ(caption(u"lab_Question"), u"Eins?");
     EXPECT_EQ(choice(1).frame().AccessibleName(), u"Be");
     EXPECT_FALSE(next().Enabled()) << "an answer comes first";
+    EXPECT_FALSE(choice(1).Accent());
     choice(1).click();
     EXPECT_EQ(caption(u"lab_Verdict"), u"✓ Richtig.");
+    EXPECT_EQ(verdictColour(), Palette::Right);
+    EXPECT_EQ(quiz.right(), 1U);
+    EXPECT_TRUE(choice(1).Accent());
+    EXPECT_FALSE(choice(0).Accent());
     EXPECT_EQ(choice(1).Caption(), u"✓ b");
     EXPECT_TRUE(next().Enabled());
     choice(2).click();
@@ -221,10 +232,13 @@ TEST_F(Quiz, AsksAndSaysWhetherItWasRight)
     EXPECT_EQ(choice(1).Caption(), u"b");
     headless::strike(form(), {.character = u'4'});
     EXPECT_EQ(caption(u"lab_Verdict"), u"Noch nicht. Richtig ist a.");
+    EXPECT_EQ(verdictColour(), Palette::TryAgain);
+    EXPECT_EQ(quiz.right(), 1U);
     EXPECT_EQ(choice(3).Caption(), u"✗ d");
     EXPECT_EQ(choice(0).Caption(), u"✓ a");
     goOn();
     EXPECT_EQ(caption(u"lab_Question"), u"1 von 2 richtig.");
+    EXPECT_EQ(caption(u"lab_Progress"), u"");
     EXPECT_FALSE(choice(0).Visible());
     EXPECT_EQ(next().face(), u"Noch einmal");
     headless::strike(form(), {.character = u'1'});
@@ -244,6 +258,18 @@ TEST_F(Quiz, NothingGoesOnWithoutAnAnswer)
     EXPECT_EQ(caption(u"lab_Question"), u"Eins?");
 }
 
+TEST_F(Quiz, TheFirstChoiceHasTheFirstKey)
+{
+    headless::strike(form(), {.character = u'1'});
+    EXPECT_EQ(choice(0).Caption(), u"✗ a");
+}
+
+TEST_F(Quiz, IsClosedByItsButton)
+{
+    headless::clickButton(*form().control<Control>(u"bar_Buttons"), u"DIALOG.OK();");
+    EXPECT_FALSE(form().isLoaded());
+}
+
 TEST_F(Quiz, ReturnGoesOnBehindAnAnswer)
 {
     headless::strike(form(), {.character = u'2'});
@@ -251,6 +277,7 @@ TEST_F(Quiz, ReturnGoesOnBehindAnAnswer)
     LNG()->CURRENT(ID_Language_English);
     EXPECT_EQ(caption(u"lab_Verdict"), u"✓ Right.");
     EXPECT_EQ(next().face(), u"Next");
+    EXPECT_EQ(form().Caption(), u"Practise");
 }
 
 } // namespace

@@ -14,8 +14,10 @@
 #include "support/Places.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <gtest/gtest.h>
 #include <set>
+#include <sstream>
 
 namespace phial::test
 {
@@ -96,6 +98,8 @@ TEST_F(SheetEntries, WhatIsSoughtStandsFirstThenWhatBeginsWithIt)
     EXPECT_EQ(entries[2].subject, u"-sulfat");
     EXPECT_EQ(entries[3].subject, u"-thiosulfat") << "has it within";
     EXPECT_EQ(found(u"oxid", ReferenceSheet::Groups).front().subject, u"-oxid");
+    EXPECT_EQ(found(u"s").front().subject, u"Schwefel") << "oxygen, which comes first, begins with it only";
+    EXPECT_EQ(found(u"ch").front().subject, u"Chlor") << "sulphur, which comes first, has it within";
 }
 
 TEST_F(SheetEntries, AreCopiedAsLinesOfATable)
@@ -116,6 +120,45 @@ TEST_F(SheetEntries, ArePrintedOnAsManyPagesAsTheyNeed)
     EXPECT_NE(page.find("Natrium"), std::string::npos);
     EXPECT_NE(page.find("Puffer"), std::string::npos);
     EXPECT_NE(page.find("\npage\n"), std::string::npos);
+}
+
+TEST_F(SheetEntries, ArePrintedInTwoColumnsBelowTheirTitle)
+{
+    printEntries(u"Sulfit", found(u"sulfit", ReferenceSheet::Groups));
+    EXPECT_EQ(outside.visual().printed()[0].page->text(), "text 56,56 \"Sulfit\" Tahoma 16 bold #000000\n"
+                                                          "line 56,92 - 738,92 #C4D4E2\n"
+                                                          "text 56,96 \"-sulfit\" Tahoma 11 #000000\n"
+                                                          "text 317.52,96 \"SO₃²⁻\" Tahoma 11 #000000\n"
+                                                          "text 394.25,1067 \"1\" Tahoma 11 #000000\n"
+                                                          "end\n");
+}
+
+TEST_F(SheetEntries, APageIsFullBeforeItsNumber)
+{
+    printEntries(u"Alles", sheetEntries());
+    std::istringstream lines(outside.visual().printed()[0].page->text());
+    constexpr double Top = 56;
+    constexpr double LastLine = 1067 - 28 - 24; // of a row of one line
+    int pages = 1;
+    double lowest = 0;
+    for (std::string line; std::getline(lines, line);) {
+        double left = 0;
+        double top = 0;
+        if (line == "page") {
+            ++pages;
+            std::getline(lines, line);
+            ASSERT_EQ(std::sscanf(line.c_str(), "line %lf,%lf", &left, &top), 2) << line;
+            EXPECT_EQ(top, Top);
+            EXPECT_GT(lowest, LastLine - 24 * 3) << "no more than a long row would have had room";
+            lowest = 0;
+        } else if (std::sscanf(line.c_str(), "line %lf,%lf", &left, &top) == 2) {
+            EXPECT_LE(top, LastLine);
+            lowest = top;
+        } else if (line.find("\"" + std::to_string(pages) + "\"") != std::string::npos) {
+            EXPECT_NE(line.find(",1067 "), std::string::npos) << line;
+        }
+    }
+    EXPECT_GE(pages, 5);
 }
 
 TEST_F(SheetEntries, NothingIsPrintedOfNothing)
@@ -166,6 +209,8 @@ TEST_F(SheetEntries, ElementsOfWhichLessonsDoNotSpeakAreNotAsked)
 {
     EXPECT_FALSE(found(u"natrium", ReferenceSheet::Elements).front().question.empty());
     EXPECT_FALSE(found(u"quecksilber", ReferenceSheet::Elements).front().question.empty());
+    EXPECT_FALSE(found(u"strontium", ReferenceSheet::Elements).front().question.empty());
+    EXPECT_TRUE(found(u"yttrium", ReferenceSheet::Elements).front().question.empty());
     EXPECT_TRUE(found(u"livermorium", ReferenceSheet::Elements).front().question.empty());
 }
 
@@ -183,11 +228,42 @@ TEST_F(SheetEntries, OtherChoicesAreThoseThatLookAlike)
     EXPECT_TRUE(texts.contains(u"SO₄²⁻"));
 }
 
+TEST_F(SheetEntries, QuestionsAndChoicesComeInRandomOrder)
+{
+    std::vector<SheetEntry> entries;
+    for (const StringView answer : {u"a", u"b", u"c", u"d"}) {
+        entries.push_back({.sheet = ReferenceSheet::Groups,
+                           .subject = String(answer),
+                           .content = {},
+                           .spoken = {},
+                           .otherwise = {},
+                           .question = String(answer) + u"?",
+                           .answer = String(answer),
+                           .spokenAnswer = {}});
+    }
+    const auto orderBy = [&](double random) {
+        outside.random().numbers({random});
+        String order;
+        for (const QuizQuestion& question : makeQuiz(entries, entries)) {
+            order += question.question;
+        }
+        const QuizQuestion first = makeQuiz({entries.data(), 1}, entries).front();
+        for (const auto& choice : first.choices) {
+            order += choice.text;
+        }
+        EXPECT_EQ(first.answer().text, u"a");
+        return order;
+    };
+    EXPECT_EQ(orderBy(0.99), u"a?b?c?d?bcda") << "each stays where it is, the answer is the last choice";
+    EXPECT_EQ(orderBy(0), u"b?c?d?a?dbac");
+}
+
 TEST_F(SheetEntries, NothingIsAskedWhereThereAreTooFewAnswers)
 {
     const auto few = found(u"sulf", ReferenceSheet::Groups);
     EXPECT_FALSE(makeQuiz(few, few).empty());
     EXPECT_TRUE(makeQuiz({few.data(), 3}, {few.data(), 3}).empty());
+    EXPECT_EQ(makeQuiz({few.data(), 4}, {few.data(), 4}).size(), 4U);
     EXPECT_TRUE(makeQuiz({}, sheetEntries()).empty());
 }
 
