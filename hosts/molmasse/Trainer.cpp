@@ -97,7 +97,7 @@ void Trainer::show(int position)
     task_ = data_.tasks.at(position);
     counted_ = withoutDots(task_.text);
     mass_ = data_.elements->MOL(counted_);
-    exactMass_ = exactMass(data_.exactMasses, counted_).value_or(mass_);
+    exactMass_ = data_.elements->exactMass(counted_).value_or(mass_);
     card_->show(task_);
     answer_->open();
 }
@@ -123,7 +123,7 @@ String Trainer::remark() const
     const MassSource source{
         [this](const String& formula) { return data_.elements->MOL(formula); },
         [this](const String& formula) {
-            return exactMass(data_.exactMasses, formula).value_or(data_.elements->MOL(formula));
+            return data_.elements->exactMass(formula).value_or(data_.elements->MOL(formula));
         },
         [this](const String& symbol) {
             return data_.elements->EXISTS(symbol) ? data_.elements->ITEM(symbol, false)->PROTONS() : 0;

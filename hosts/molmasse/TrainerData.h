@@ -3,7 +3,6 @@
 #include "chem/cls_DataElements.h"
 #include "common/TaskList.h"
 
-#include <map>
 #include <memory>
 #include <optional>
 
@@ -19,21 +18,12 @@ struct TrainerData {
     phial::String missingFile;
     /// The table of the elements; null when that file is missing.
     std::shared_ptr<phial::cls_DataElements> elements;
-    /// The elements' molar masses with all digits of their file, by symbol; the table has one decimal.
-    std::map<phial::String, double> exactMasses;
     learning::TaskList tasks;
 };
-
-/// The molar masses of the five-line element file in that text, in g/mol by symbol.
-std::map<phial::String, double> readExactMasses(phial::StringView text);
-
-/// The molar mass of a formula by these masses, in g/mol; empty when one is missing.
-std::optional<double> exactMass(const std::map<phial::String, double>& masses, phial::StringView formula);
 
 /// What keeps a line of the task file from being one: what keeps it off the card, or masses that cannot be
 /// judged.
 std::optional<learning::TaskFault> faultOf(const phial::cls_DataElements& elements,
-                                           const std::map<phial::String, double>& exactMasses,
                                            const phial::String& formula);
 
 /// Reads the element table and the tasks. The root must have been started; nothing is raised.

@@ -107,6 +107,12 @@ bool cls_DataElement::MATCH(StringView pT, bool pIgnoreCases) const
     return matches(name_) || (alternatives_ && std::ranges::any_of(*alternatives_, matches));
 }
 
+void cls_DataElement::MOL(double value)
+{
+    mass_ = value;
+    exactMass_.reset();
+}
+
 String cls_DataElement::NAMELIST() const
 {
     String names = name_;
@@ -149,6 +155,7 @@ bool cls_DataElement::DataCopy(tmp_Data& pSource)
     *NAMEALT() = *source->NAMEALT();
     name_ = source->name_;
     mass_ = source->mass_;
+    exactMass_ = source->exactMass_;
     protons_ = source->protons_;
     period_ = source->period_;
     group_ = source->group_;
@@ -170,7 +177,7 @@ void cls_DataElement::DataUnpack(StringView pText)
     CoreValuePacker::Unpack(pText, {id, name, mass, protons, alternatives});
     *NAMEALT() = unpackedList(alternatives.toText());
     name_ = name.toText();
-    mass_ = mass.toReal();
+    MOL(mass.toReal());
     protons_ = protons.toWhole();
     data_.get()->ID(std::move(id));
 }
@@ -191,6 +198,7 @@ void cls_DataElement::DataRead(CoreDataStream& pStream)
     }
     data_.get()->ID(pStream.ReadValue());
     pStream.Read(name_, mass_, protons_);
+    exactMass_.reset();
     if (version >= FirstVersionWithAlternatives) {
         *NAMEALT() = readList(pStream);
     }

@@ -8,14 +8,15 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace phial
 {
 
 /// One chemical element: a record whose ID is the symbol.
 ///
-/// Stored and packed it carries symbol, names, molar mass and proton number; period and group go with `Copy`
-/// alone, so an element that comes from a record file has 0 for both.
+/// Stored and packed it carries symbol, names, molar mass and proton number; period, group and the digits of
+/// the mass go with `Copy` alone, so an element that comes from a record file has 0 for both.
 class cls_DataElement : public tmp_Data, public Object, private DataOwner
 {
 public:
@@ -31,7 +32,11 @@ public:
 
     /// The molar mass in g/mol.
     double MOL() const { return mass_; }
-    void MOL(double value) { mass_ = value; }
+    void MOL(double value);
+    /// The molar mass with all digits of the element file, in g/mol; the other one where none is known. It
+    /// is unknown once the other one is set, stored or packed.
+    double exactMass() const { return exactMass_.value_or(mass_); }
+    void exactMass(double value) { exactMass_ = value; }
 
     /// The proton number, from 1.
     std::int32_t PROTONS() const { return protons_; }
@@ -85,6 +90,7 @@ private:
     String name_;
     std::shared_ptr<CoreStringList> alternatives_; // made at first use
     double mass_ = 0;
+    std::optional<double> exactMass_;
     std::int32_t protons_ = 0;
     std::int32_t period_ = 0;
     std::int32_t group_ = 0;

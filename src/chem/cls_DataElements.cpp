@@ -141,7 +141,8 @@ bool cls_DataElements::import(CoreDataFile& file, ElementFileReader reader)
     std::int32_t protons = 0;
     while (!file.AtEnd()) {
         if (const auto record = reader.take(file.ReadLine())) {
-            CREATE2(record->symbol, record->names, ++protons, record->period, record->group, record->mass);
+            CREATE2(record->symbol, record->names, ++protons, record->period, record->group, record->mass)
+                ->exactMass(record->exactMass);
         }
     }
     file.Close();
@@ -177,6 +178,19 @@ double cls_DataElements::MOL(StringView pTerm) const
             return askForMass(atoms.symbol, pTerm);
         }
         sum += entries_.at(found)->MOL() * atoms.count;
+    }
+    return sum;
+}
+
+std::optional<double> cls_DataElements::exactMass(StringView formula) const
+{
+    double sum = 0;
+    for (const AtomCount& atoms : AtomCounts(formula)) {
+        const std::int32_t found = find(atoms.symbol);
+        if (found == 0) {
+            return std::nullopt;
+        }
+        sum += entries_.at(found)->exactMass() * atoms.count;
     }
     return sum;
 }

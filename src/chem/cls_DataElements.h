@@ -82,6 +82,8 @@ public:
     /// The molar mass of a formula in g/mol, not rounded. If it holds a symbol that the table lacks, the user
     /// is asked once, and what he enters is the result for the whole formula. Raises 6 as `ELEMENTSCOUNT`.
     double MOL(StringView pTerm) const;
+    /// The same by the masses with all digits; none where the table lacks a symbol, and nobody is asked.
+    std::optional<double> exactMass(StringView formula) const;
 
     StringView typeName() const override { return u"cls_DataElements"; }
     MemberTable members() const override;

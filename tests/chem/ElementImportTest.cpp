@@ -49,6 +49,37 @@ TEST_F(ElementImport, ReadsFiveLinesAnElement)
     EXPECT_EQ(table.ITEM(2)->Grup(), 17);
 }
 
+TEST_F(ElementImport, KeepsTheDigitsOfMassesBesideTheTaughtOnes)
+{
+    table.IMPORT2(fileWith("tafel.txt", FiveLines));
+    EXPECT_EQ(table.ITEM(2)->exactMass(), 35.45);
+    EXPECT_EQ(table.MOL(u"HCl"), 36.5);
+    EXPECT_DOUBLE_EQ(table.exactMass(u"HCl").value_or(0), 36.458);
+    EXPECT_DOUBLE_EQ(table.exactMass(u"(HCl)2").value_or(0), 72.916);
+    EXPECT_EQ(table.exactMass(u"HBr"), std::nullopt) << "nobody is asked";
+}
+
+TEST_F(ElementImport, ForgetsTheDigitsWhereAMassIsSetOrComesFromARecord)
+{
+    table.IMPORT2(fileWith("tafel.txt", FiveLines));
+    const auto chlorine = table.ITEM(2);
+    cls_DataElement copied;
+    copied.DATA()->Copy(*chlorine);
+    EXPECT_EQ(copied.exactMass(), 35.45);
+    copied.MOL(35);
+    EXPECT_EQ(copied.exactMass(), 35);
+    cls_DataElement unpacked;
+    unpacked.exactMass(1);
+    unpacked.DATA()->Unpack(chlorine->DATA()->Pack());
+    EXPECT_EQ(unpacked.exactMass(), 35.5);
+    cls_DataElement stored;
+    stored.exactMass(1);
+    ASSERT_TRUE(chlorine->SAVE(folder.path() + u"chlor.dat"));
+    ASSERT_TRUE(stored.LOAD(folder.path() + u"chlor.dat"));
+    EXPECT_EQ(stored.exactMass(), 35.5);
+    EXPECT_EQ(table.CREATE(u"X", u"Etwas", 1, 2.5)->exactMass(), 2.5);
+}
+
 TEST_F(ElementImport, ReadsAFileNamedElements2WithFiveLinesWhateverIsCalled)
 {
     for (const char* name : {"elements2.dat", "ELEMENTS2.DAT", "Elements2.Dat"}) {

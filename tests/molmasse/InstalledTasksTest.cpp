@@ -28,11 +28,9 @@ protected:
     {
         const String tree = systemPath(test::treeFolder());
         elements.IMPORT2(tree + u"\\Resources\\data\\elements2.dat");
-        exactMasses =
-            readExactMasses(coreRoot().CoreFiles().ReadText(tree + u"\\Resources\\data\\elements2.dat"));
         tasks = learning::readTaskFile(
             coreRoot().CoreFiles().ReadText(tree + u"\\apps\\Molmasse\\data\\formeln.txt"),
-            [this](const String& formula) { return faultOf(elements, exactMasses, formula); });
+            [this](const String& formula) { return faultOf(elements, formula); });
     }
 
     bool holdsHydrogen(const String& formula) const
@@ -41,7 +39,6 @@ protected:
     }
 
     cls_DataElements elements;
-    std::map<String, double> exactMasses;
     learning::TaskFile tasks;
 };
 
@@ -84,7 +81,7 @@ TEST_F(InstalledTasks, AreSolvedByBothMassesAndByNeitherWithoutAHydrogenAtom)
             SCOPED_TRACE(toUtf8(task.text));
             const String counted = withoutDots(task.text);
             const double school = elements.MOL(counted);
-            const auto exact = exactMass(exactMasses, counted);
+            const auto exact = elements.exactMass(counted);
             ASSERT_TRUE(exact);
             const TaskMasses masses = massesOf(counted, school, *exact);
             EXPECT_TRUE(canBeJudged(masses));

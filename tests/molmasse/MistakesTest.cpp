@@ -66,13 +66,11 @@ protected:
         const String file =
             phial::systemPath(phial::test::treeFolder()) + u"\\Resources\\data\\elements2.dat";
         table.IMPORT2(file);
-        exactMasses = readExactMasses(phial::coreRoot().CoreFiles().ReadText(file));
     }
 
     phial::cls_DataElements table;
-    std::map<String, double> exactMasses;
     MassSource source{[this](const String& formula) { return table.MOL(formula); },
-                      [this](const String& formula) { return exactMass(exactMasses, formula).value_or(0); },
+                      [this](const String& formula) { return table.exactMass(formula).value_or(0); },
                       [this](const String& symbol) { return table.ITEM(symbol, false)->PROTONS(); }};
 };
 

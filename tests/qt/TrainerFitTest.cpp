@@ -27,10 +27,9 @@ protected:
         const String tree = systemPath(test::treeFolder());
         const String elementFile = tree + u"\\Resources\\data\\elements2.dat";
         elements_.IMPORT2(elementFile);
-        const auto exactMasses = molmasse::readExactMasses(coreRoot().CoreFiles().ReadText(elementFile));
         list_ = learning::readTaskFile(
             coreRoot().CoreFiles().ReadText(tree + u"\\apps\\Molmasse\\data\\formeln.txt"),
-            [&](const String& formula) { return molmasse::faultOf(elements_, exactMasses, formula); });
+            [&](const String& formula) { return molmasse::faultOf(elements_, formula); });
     }
 
     static FontSpec font(double size, bool bold = false)
