@@ -161,13 +161,15 @@ void addAcids(std::vector<SheetEntry>& entries)
     for (const Acid& acid : acids()) {
         const String base = unicodeOfOlderNotation(notationOf(acid.base));
         const String formula = unicodeOfOlderNotation(notationOf(acid.acid));
-        String pKs = u", " + say(u"pKs |pKa ");
-        pKs += acid.pKs;
+        const auto told = [&](StringView formulaOfBase) {
+            return LNG()->TRANSLATE(u"Base {1}, pKs {2}", u"Base {1}, pKa {2}",
+                                    {Variant(String(formulaOfBase)), Variant(String(acid.pKs))});
+        };
         entries.push_back(
             {.sheet = ReferenceSheet::Acids,
              .subject = formula,
-             .content = u"Base " + base + pKs,
-             .spoken = u"Base " + spokenFormula(notationOf(acid.base)) + pKs,
+             .content = told(base),
+             .spoken = told(spokenFormula(notationOf(acid.base))),
              .otherwise = typedFormula(notationOf(acid.acid)) + u" " + typedFormula(notationOf(acid.base)),
              .question = say(u"Welche Base gehört zu |Which base belongs to ") + formula + u"?",
              .answer = base,
