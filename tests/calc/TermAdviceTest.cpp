@@ -67,6 +67,25 @@ TEST(TermAdvice, EveryFlawHasASentenceInBothLanguages)
     }
 }
 
+TEST(TermAdvice, TellsTheInnermostBracketsThatCannotBeWorkedOut)
+{
+    using Kind = TermFlaw::Kind;
+    EXPECT_EQ(flawOf(u"(1/0)"), (TermFlaw{Kind::DivisionByZero, 0, u"1/0"}));
+    EXPECT_EQ(flawOf(u"3+(2/(1-1))"), (TermFlaw{Kind::DivisionByZero, 2, u"2/(1-1)"}));
+    EXPECT_EQ(flawOf(u"2*(3)+(1/0)"), (TermFlaw{Kind::DivisionByZero, 6, u"1/0"}));
+    EXPECT_EQ(flawOf(u"2*(1/0"), (TermFlaw{Kind::DivisionByZero, 2, u"1/0"})) << "not closed";
+    EXPECT_EQ(flawOf(u"1+log(0)"), (TermFlaw{Kind::NoLogarithm, 5, u"log(0)"}));
+    EXPECT_EQ(flawOf(u"2/(3-3)"), (TermFlaw{Kind::DivisionByZero, 0, u"2/(3-3)"}));
+}
+
+TEST(TermAdvice, CountsBracketsThatAreOpen)
+{
+    EXPECT_EQ(flawIn(u"((2))", Names), std::nullopt);
+    EXPECT_EQ(flawIn(u"(2))", Names), (TermFlaw{TermFlaw::Kind::BracketTooMany, 3, u")"}));
+    const auto begun = flawIn(u"log(", Names);
+    EXPECT_TRUE(!begun || begun->kind != TermFlaw::Kind::UnknownName);
+}
+
 TEST(TermAdvice, AVariableThatIsNoNumberDoesNotRaise)
 {
     ExpressionSolver solver;
