@@ -153,7 +153,7 @@ void frm_ToolCalc::Show()
 void frm_ToolCalc::connect()
 {
     form_.on(form_->Load, [this] { load(); });
-    form_.on(form_->Activate, [this] { keepOnScreen(); });
+    form_.on(form_->Activate, [this] { goOnScreen(); });
     form_.on(form_->TRANSLATE, [this] { TRANSLATE(); });
     form_.on(form_->KeyDown, [this](KeyEvent& event) { keyDown(event); });
     form_.on(form_->KeyPress, [this](KeyPressEvent& event) { keyPress(event); });
@@ -182,6 +182,7 @@ void frm_ToolCalc::TRANSLATE()
 
 void frm_ToolCalc::load()
 {
+    zoom_ = form_->Zoom();
     isTableThere_ = checkElementFile();
     keys_(FormulaIndex)->Enabled(parameters_.Get(u"FORMULA", true).toBoolean());
     makeVariableKeys();
@@ -442,8 +443,36 @@ void frm_ToolCalc::togglePSE()
 
 void frm_ToolCalc::fit()
 {
+    form_->Zoom(zoom_);
+    layOut();
+    goOnScreen();
+}
+
+void frm_ToolCalc::layOut()
+{
     layOutCalculator(*form_, showsTable_ ? CalculatorSide::Table : CalculatorSide::Lines);
-    keepOnScreen();
+}
+
+/// All of the window stays on the screen that shows its corner. One that is too large for it, since there are
+/// many variables or the screen is small, is shown smaller as a whole.
+void frm_ToolCalc::goOnScreen()
+{
+    constexpr int Tries = 2; // the frame around the window does not shrink with it
+    const double twips = visualHost().screen().TwipsPerPixelX();
+    const auto window = [&] {
+        return PixelRectangle{form_->Left() / twips, form_->Top() / twips, form_->Width() / twips,
+                              form_->Height() / twips};
+    };
+    const PixelRectangle area = visualHost().screen().at({window().left, window().top});
+    for (int attempt = 0; attempt < Tries; ++attempt) {
+        const double share = std::min(area.width / window().width, area.height / window().height);
+        if (share < 1) {
+            form_->Zoom(form_->Zoom() * share);
+            layOut();
+        }
+    }
+    form_->Move(within(window().left, window().width, area.left, area.width) * twips,
+                within(window().top, window().height, area.top, area.height) * twips);
 }
 
 /// At its corner, or in the middle of the screen.
@@ -458,19 +487,7 @@ void frm_ToolCalc::place()
         form_->Move((area.left + area.width / 2) * twips - form_->Width() / 2,
                     (area.top + area.height / 2) * twips - form_->Height() / 2);
     }
-    keepOnScreen();
-}
-
-/// All of it stays on the screen that shows its corner.
-void frm_ToolCalc::keepOnScreen()
-{
-    const Screen& screen = visualHost().screen();
-    const double twips = screen.TwipsPerPixelX();
-    const double left = form_->Left() / twips;
-    const double top = form_->Top() / twips;
-    const PixelRectangle area = screen.at({left, top});
-    form_->Move(within(left, form_->Width() / twips, area.left, area.width) * twips,
-                within(top, form_->Height() / twips, area.top, area.height) * twips);
+    goOnScreen();
 }
 
 // Keys of the desk.

@@ -97,8 +97,9 @@ private:
     void showDigits();
     double fittingSize(StringView text) const;
     void fit();
+    void layOut();
     void place();
-    void keepOnScreen();
+    void goOnScreen();
 
     void keyDown(KeyEvent& event);
     void keyPress(KeyPressEvent& event);
@@ -108,6 +109,7 @@ private:
     bool isTableThere_ = false;
     bool isTableRead_ = false;
     std::optional<PixelPoint> corner_;
+    double zoom_ = 1; ///< with which it was opened
     String title_;
     std::unique_ptr<CalculatorDisplay> display_;
     std::vector<String> names_;          ///< of the variables

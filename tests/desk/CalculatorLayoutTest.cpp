@@ -223,6 +223,39 @@ TEST_F(CalculatorLayout, WithTaskAndVariablesItHasRoomOnASmallScreen)
     EXPECT_LE(form().ScaleHeight(), 600 - 40) << "with a title";
 }
 
+TEST_F(CalculatorLayout, IsShownSmallerWhereItHasNoRoomAndLargeAgainWhereItHas)
+{
+    outside.display().resize(800, 600);
+    open();
+    EXPECT_EQ(form().Zoom(), 1);
+    const double before = form().Width();
+    tap({Table});
+    EXPECT_LT(form().Zoom(), 1);
+    EXPECT_GT(form().Zoom(), 0.7);
+    EXPECT_LE(form().Width() / 15, 800);
+    EXPECT_EQ(placeOf(u"bar_Calc").left, 0);
+    cornerIs(0, form().Top() / 15);
+    tap({Table});
+    EXPECT_EQ(form().Zoom(), 1);
+    EXPECT_EQ(form().Width(), before);
+}
+
+TEST_F(CalculatorLayout, ManyVariablesAreOnTheScreenToo)
+{
+    outside.display().resize(1024, 600);
+    CoreTokenList variables;
+    for (int at = 0; at < 40; ++at) {
+        variables.Add(u"variable" + String(Variant(at).toText()), {123.456, u"mmol/l"});
+    }
+    calculator.Variables(variables);
+    open();
+    EXPECT_LT(form().Zoom(), 1);
+    EXPECT_LE((form().Top() + form().Height()) / 15, 600.01);
+    EXPECT_GE(form().Top(), 0);
+    const PixelRectangle last = form().control<Control>(u"but_Var", 39)->frame().pixelRectangle();
+    EXPECT_LE(last.top + last.height, form().ScaleHeight());
+}
+
 // Task, variables, title.
 
 TEST_F(CalculatorLayout, BarsAreThereOnlyWithWhatTheyShow)
