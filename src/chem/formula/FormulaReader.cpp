@@ -72,14 +72,14 @@ struct Refused {
 class Reader
 {
 public:
-    Reader(StringView text, bool isEquation) : text_(text), isEquation_(isEquation)
+    Reader(StringView text, bool isEquation, FormulaTree& tree)
+        : text_(text), isEquation_(isEquation), tree_(tree)
     {
         readFormulaUnits(text, units_);
-        tree_.items.reserve(units_.size());
-        hasArrow_ = std::ranges::any_of(units_, isArrow, &FormulaUnit::sign);
+        hasArrow_ = isEquation && std::ranges::any_of(units_, isArrow, &FormulaUnit::sign);
     }
 
-    FormulaTree read()
+    void read()
     {
         skipBlanks();
         if (isAtEnd()) {
@@ -100,7 +100,6 @@ public:
             }
             tree_.leftCount = tree_.species.size();
         }
-        return std::move(tree_);
     }
 
 private:
@@ -133,6 +132,12 @@ private:
         while (sign() == u' ') {
             ++at_;
         }
+    }
+    /// Of units that there are, one at least.
+    SourceSpan spanOfUnits(std::size_t begin, std::size_t end) const
+    {
+        const std::uint32_t start = units_[begin].start;
+        return {start, units_[end - 1].start + units_[end - 1].length - start};
     }
     SourceSpan spanOf(std::size_t begin, std::size_t end) const
     {
@@ -409,7 +414,7 @@ private:
         at_ += length;
         add({.element = static_cast<std::uint8_t>(element),
              .massNumber = massNumber,
-             .span = spanOf(begin, at_)});
+             .span = spanOfUnits(begin, at_)});
         if (endsSymbol(sign())) {
             refuse(FormulaFault::SmallLetter, at_, at_ + 1, suggestedFormulas(text_));
         }
@@ -437,7 +442,7 @@ private:
     {
         const auto bracket = static_cast<FormulaBracket>(Openings.find(sign()));
         open_.push_back({static_cast<std::uint32_t>(tree_.items.size()), at_});
-        tree_.items.push_back({.bracket = bracket, .span = spanOf(at_, at_ + 1)});
+        tree_.items.push_back({.bracket = bracket, .span = spanOfUnits(at_, at_ + 1)});
         last_.reset();
         ++at_;
     }
@@ -457,7 +462,7 @@ private:
         }
         open_.pop_back();
         item.end = static_cast<std::uint32_t>(tree_.items.size());
-        item.span = spanOf(group.unit, at_ + 1);
+        item.span = spanOfUnits(group.unit, at_ + 1);
         last_ = group.item;
         lastClosing_ = sign();
         ++at_;
@@ -546,7 +551,7 @@ private:
         }
         FormulaItem& item = tree_.items[*last_];
         item.count = digits.value;
-        const SourceSpan whole = spanOf(digits.begin, digits.end);
+        const SourceSpan whole = spanOfUnits(digits.begin, digits.end);
         item.span.length = whole.start + whole.length - item.span.start;
         last_.reset();
     }
@@ -621,9 +626,9 @@ private:
     std::pmr::monotonic_buffer_resource memory_{buffer_, InlineBytes};
     std::pmr::vector<FormulaUnit> units_{&memory_};
     bool isEquation_;
-    bool hasArrow_ = false;
+    bool hasArrow_ = false; ///< of an equation
     std::size_t at_ = 0;
-    FormulaTree tree_;
+    FormulaTree& tree_;
     std::pmr::vector<Open> open_{&memory_};
     std::optional<std::size_t> last_; ///< the item that a number would belong to
     char16_t lastClosing_ = TextEnd;  ///< the bracket that has ended it
@@ -632,11 +637,14 @@ private:
 
 FormulaReading reading(StringView text, bool isEquation)
 {
+    FormulaReading reading;
     try {
-        return {Reader(text, isEquation).read(), std::nullopt};
+        Reader(text, isEquation, reading.tree).read();
     } catch (Refused& refused) {
-        return {{}, std::move(refused.refusal)};
+        reading.tree = {};
+        reading.refusal = std::move(refused.refusal);
     }
+    return reading;
 }
 
 } // namespace

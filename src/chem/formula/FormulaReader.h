@@ -10,8 +10,8 @@ namespace phial
 
 /// What reading a text has come to: a tree, or a refusal.
 struct FormulaReading {
-    FormulaTree tree{};
-    std::optional<FormulaRefusal> refusal{};
+    FormulaTree tree;
+    std::optional<FormulaRefusal> refusal;
 
     explicit operator bool() const { return !refusal; }
 };

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "chem/formula/ShortList.h"
 #include "core/String.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace phial
 {
@@ -67,9 +67,9 @@ struct FormulaSpecies {
 /// A formula or an equation that was read. All of it lies flat in three lists: a group's items stand behind
 /// it, so that any depth of brackets is walked without recursion.
 struct FormulaTree {
-    std::vector<FormulaItem> items;
-    std::vector<FormulaPart> parts;
-    std::vector<FormulaSpecies> species;
+    ShortList<FormulaItem, 8> items;
+    ShortList<FormulaPart, 2> parts;
+    ShortList<FormulaSpecies, 1> species;
     std::size_t leftCount = 0; ///< species before the arrow; all of them where there is none
     FormulaArrow arrow = FormulaArrow::None;
 };
