@@ -182,7 +182,6 @@ void frm_ToolCalc::TRANSLATE()
 
 void frm_ToolCalc::load()
 {
-    zoom_ = form_->Zoom();
     isTableThere_ = checkElementFile();
     keys_(FormulaIndex)->Enabled(parameters_.Get(u"FORMULA", true).toBoolean());
     makeVariableKeys();
@@ -443,7 +442,9 @@ void frm_ToolCalc::togglePSE()
 
 void frm_ToolCalc::fit()
 {
-    form_->Zoom(zoom_);
+    if (roomyZoom_) {
+        form_->Zoom(*std::exchange(roomyZoom_, std::nullopt));
+    }
     layOut();
     goOnScreen();
 }
@@ -467,6 +468,7 @@ void frm_ToolCalc::goOnScreen()
     for (int attempt = 0; attempt < Tries; ++attempt) {
         const double share = std::min(area.width / window().width, area.height / window().height);
         if (share < 1) {
+            roomyZoom_ = roomyZoom_.value_or(form_->Zoom());
             form_->Zoom(form_->Zoom() * share);
             layOut();
         }

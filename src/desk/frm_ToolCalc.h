@@ -109,7 +109,7 @@ private:
     bool isTableThere_ = false;
     bool isTableRead_ = false;
     std::optional<PixelPoint> corner_;
-    double zoom_ = 1; ///< with which it was opened
+    std::optional<double> roomyZoom_; ///< which it has again once the screen has room for it
     String title_;
     std::unique_ptr<CalculatorDisplay> display_;
     std::vector<String> names_;          ///< of the variables

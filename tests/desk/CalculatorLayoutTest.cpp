@@ -240,6 +240,24 @@ TEST_F(CalculatorLayout, IsShownSmallerWhereItHasNoRoomAndLargeAgainWhereItHas)
     EXPECT_EQ(form().Width(), before);
 }
 
+TEST_F(CalculatorLayout, KeepsTheZoomOfTheProgramThatOpensIt)
+{
+    const auto program = std::make_shared<Form>(u"frm_Program");
+    program->Zoom(1.25);
+    program->Show();
+    program->inputActivate();
+    outside.visual().onModal(u"frm_ToolCalc", [&](Form& dialog) {
+        EXPECT_EQ(dialog.Zoom(), 1.25);
+        tap({Table});
+        EXPECT_EQ(dialog.Zoom(), 1.25);
+        tap({Table});
+        EXPECT_EQ(dialog.Zoom(), 1.25);
+        dialog.Unload();
+    });
+    form().Show(FormShow::Modal);
+    program->discard();
+}
+
 TEST_F(CalculatorLayout, ManyVariablesAreOnTheScreenToo)
 {
     outside.display().resize(1024, 600);
