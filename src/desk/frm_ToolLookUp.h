@@ -13,8 +13,8 @@ namespace phial
 {
 
 /// All reference sheets as one table to search: what is typed narrows it, a sheet is chosen beside it. A row,
-/// or all that is found where none is chosen, is copied (Ctrl+C in the table, too) and printed; of what is
-/// found one can practise.
+/// or all that is found where none is chosen, is copied (Ctrl+C in the table, too); all that is found is
+/// printed, and of it one can practise.
 class frm_ToolLookUp
 {
 public:

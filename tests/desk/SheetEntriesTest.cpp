@@ -51,6 +51,13 @@ TEST_F(SheetEntries, HaveEachLineOfEachSheet)
     EXPECT_EQ(found(u"").back().subject, u"Puffer") << "in the order of the sheets";
 }
 
+TEST_F(SheetEntries, LackTheElementsWithoutTheirFile)
+{
+    QVAPP()->URL()->ROOT(u"C:\\nowhere\\");
+    EXPECT_TRUE(found(u"", ReferenceSheet::Elements).empty());
+    EXPECT_EQ(found(u"").size(), 49U + 20U + 14U);
+}
+
 TEST_F(SheetEntries, AreWrittenAsOneReadsThem)
 {
     const auto sulphate = found(u"sulfat", ReferenceSheet::Groups).front();
