@@ -1,11 +1,11 @@
 #include "DesktopRun.h"
+#include "FinerScreen.h"
 #include "UserDesk.h"
 #include "app/cls_Language.h"
 #include "dialogs/frm_DialogKeyboard.h"
 #include "visual/ctl_Label.h"
 
 #include <QClipboard>
-#include <QProcess>
 #include <QScreen>
 
 /// The keyboard for texts on a real desktop, with a window manager, a mouse and a German keyboard.
@@ -14,8 +14,6 @@ namespace phial::qt
 
 namespace
 {
-
-constexpr auto ScaleVariable = "QT_SCALE_FACTOR";
 
 class RealKeyboard : public DesktopRun
 {
@@ -256,7 +254,7 @@ TEST_F(RealKeyboard, TakesPastedLinesWhereItsTargetHasThem)
 
 TEST_F(RealKeyboard, FitsTheScreenToWhichItIsDragged)
 {
-    if (qEnvironmentVariableIsSet(ScaleVariable)) {
+    if (isOnFinerScreen()) {
         return; // on one screen
     }
     const auto below = std::make_shared<Form>(u"frm_Below");
@@ -280,19 +278,11 @@ TEST_F(RealKeyboard, FitsTheScreenToWhichItIsDragged)
 
 TEST_F(RealKeyboard, DoesAllThisOnFinerScreensToo)
 {
-    if (qEnvironmentVariableIsSet(ScaleVariable)) {
+    if (isOnFinerScreen()) {
         return; // this is one
     }
     for (const char* const factor : {"1.25", "2"}) {
-        QProcess program;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QLatin1String(ScaleVariable), QLatin1String(factor));
-        program.setProcessEnvironment(environment);
-        program.setProcessChannelMode(QProcess::MergedChannels);
-        program.start(QCoreApplication::applicationFilePath(),
-                      {QStringLiteral("--gtest_filter=RealKeyboard.*")});
-        EXPECT_TRUE(program.waitForFinished());
-        EXPECT_EQ(program.exitCode(), 0) << factor << program.readAllStandardOutput().toStdString();
+        EXPECT_TRUE(passOnFinerScreen("RealKeyboard.*", factor)) << factor;
     }
 }
 
