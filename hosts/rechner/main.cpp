@@ -12,6 +12,7 @@
 #include "core/Palette.h"
 #include "core/SessionState.h"
 #include "desk/frm_ToolCalc.h"
+#include "dialogs/OfferChoice.h"
 #include "qt/desktop/DesktopApplication.h"
 #include "qt/desktop/ShotBook.h"
 
@@ -69,6 +70,7 @@ int main(int argc, char** argv)
         phial::qt::takeShots(*folder, takeEachState);
         return 0;
     }
+    phial::OfferLeave::current()->isGiven = true; // a formula is typed here for its mass, never as an answer
     phial::frm_ToolCalc calculator;
     app->READY();
     calculator.Show();
