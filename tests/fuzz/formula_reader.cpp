@@ -8,6 +8,9 @@
 #include "chem/formula/FormulaSpeech.h"
 #include "chem/formula/OxidationNumbers.h"
 
+#include <cmath>
+#include <vector>
+
 namespace
 {
 
@@ -22,6 +25,45 @@ void readEachForm(const FormulaTree& tree, Read read)
     }
 }
 
+/// How often each item of a species is there, brackets and parts of a hydrate counted in; its factor is not.
+std::vector<long double> timesOf(const FormulaTree& tree, const FormulaSpecies& species)
+{
+    std::vector<long double> times(tree.items.size(), 0);
+    for (std::uint32_t part = species.first; part < species.end; ++part) {
+        const Rational factor = tree.parts[part].factor;
+        const auto share =
+            static_cast<long double>(factor.numerator) / static_cast<long double>(factor.denominator);
+        std::vector<std::uint32_t> open;
+        for (std::uint32_t at = tree.parts[part].first; at < tree.parts[part].end; ++at) {
+            while (!open.empty() && tree.items[open.back()].end <= at) {
+                open.pop_back();
+            }
+            times[at] =
+                (open.empty() ? share : times[open.back()]) * static_cast<long double>(tree.items[at].count);
+            if (tree.items[at].isGroup()) {
+                open.push_back(at);
+            }
+        }
+    }
+    return times;
+}
+
+/// All oxidation numbers of a species add up to its charge.
+void requireSumIsCharge(const FormulaTree& tree, const FormulaSpecies& species, const OxidationNumbers& found)
+{
+    const std::vector<long double> times = timesOf(tree, species);
+    long double sum = 0;
+    long double size = 1;
+    for (const OxidationNumber& each : found.numbers) {
+        const long double share = times[each.item] * static_cast<long double>(each.number.numerator) /
+                                  static_cast<long double>(each.number.denominator);
+        sum += share;
+        size += std::abs(share);
+    }
+    constexpr long double Rounding = 1e-12L;
+    fuzz::require(std::abs(sum - static_cast<long double>(species.charge)) <= Rounding * size);
+}
+
 void findOxidationNumbers(const FormulaTree& tree)
 {
     for (const FormulaSpecies& species : tree.species) {
@@ -30,6 +72,9 @@ void findOxidationNumbers(const FormulaTree& tree)
         for (const OxidationNumber& number : found.numbers) {
             fuzz::require(number.item < tree.items.size() && !tree.items[number.item].isGroup());
             fuzz::require(!writtenOxidationNumber(number.number).empty());
+        }
+        if (!found.fault) {
+            requireSumIsCharge(tree, species, found);
         }
     }
 }
