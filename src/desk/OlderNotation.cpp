@@ -1,6 +1,6 @@
 #include "desk/OlderNotation.h"
 
-#include "term/TermScripts.h"
+#include "core/ScriptCharacters.h"
 #include "visual/DrawDevice.h"
 
 namespace phial
@@ -54,14 +54,14 @@ String termOfOlderNotation(StringView notation)
 String unicodeOfOlderNotation(StringView notation)
 {
     String text;
-    TermLevel level = TermLevel::Normal;
+    ScriptLevel level = ScriptLevel::Normal;
     for (const char16_t unit : notation) {
         if (unit == Lowers) {
-            level = TermLevel::Subscript;
+            level = ScriptLevel::Subscript;
         } else if (unit == Raises) {
-            level = TermLevel::Superscript;
+            level = ScriptLevel::Superscript;
         } else if (unit == Ends) {
-            level = TermLevel::Normal;
+            level = ScriptLevel::Normal;
         } else {
             text += scriptForm(unit, level).value_or(unit);
         }

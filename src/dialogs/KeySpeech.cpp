@@ -2,6 +2,7 @@
 
 #include "app/cls_Language.h"
 #include "app/sys_Global.h"
+#include "core/ScriptCharacters.h"
 
 #include <algorithm>
 #include <array>
@@ -136,17 +137,12 @@ String signOf(const KeyBoard& board, std::int32_t index, const String& name)
 
 String spokenCharacter(StringView character)
 {
-    constexpr StringView Raised = u"⁰¹²³⁴⁵⁶⁷⁸⁹";
-    constexpr StringView Lowered = u"₀₁₂₃₄₅₆₇₈₉";
-    const auto digit = [&](StringView digits) {
-        const std::size_t at = character.size() == 1 ? digits.find(character.front()) : StringView::npos;
-        return at == StringView::npos ? String() : String(1, static_cast<char16_t>(u'0' + at));
-    };
-    if (const String raised = digit(Raised); !raised.empty()) {
-        return LNG()->TRANSLATE(u"Hoch {1}", u"Raised {1}", {raised});
-    }
-    if (const String lowered = digit(Lowered); !lowered.empty()) {
-        return LNG()->TRANSLATE(u"Tief {1}", u"Lowered {1}", {lowered});
+    const auto script = character.size() == 1 ? scriptOf(character.front()) : std::nullopt;
+    if (script && isDigit(script->plain)) {
+        const String digit(1, script->plain);
+        return script->level == ScriptLevel::Superscript
+                   ? LNG()->TRANSLATE(u"Hoch {1}", u"Raised {1}", {digit})
+                   : LNG()->TRANSLATE(u"Tief {1}", u"Lowered {1}", {digit});
     }
     const SpokenWords* words = wordsOf(SpokenSigns, character);
     return words ? said(*words) : String(character);

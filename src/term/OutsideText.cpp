@@ -1,6 +1,5 @@
 #include "term/OutsideText.h"
 
-#include "term/TermScripts.h"
 #include "visual/Input.h"
 
 #include <algorithm>
@@ -21,14 +20,8 @@ struct Spelling {
     StringView to;
 };
 
-/// Signs of other programs as terms write them; blanks of other widths.
-constexpr Spelling Signs[] = {
-    {u"\u2192", u"->"}, {u"\u27F6", u"->"}, {u"\u2190", u"<-"}, {u"\u27F5", u"<-"}, {u"\u2248", u"~~"},
-    {u"\u00B7", u"*"},  {u"\u22C5", u"*"},  {u"\u2259", u"=^"}, {u"\u2212", u"-"},  {u"\u2013", u"-"},
-    {u"\u00A0", u" "},  {u"\u2009", u" "},  {u"\u202F", u" "},  {u"\u00AD", u""},   {u"\u200B", u""},
-    {u"\uFEFF", u""},   {u"\t", u" "},      {u"\n", u" "},      {u"\v", u" "},      {u"\f", u" "},
-    {u"\r", u" "},      {u"\u0085", u" "},  {u"\u2028", u" "},  {u"\u2029", u" "},
-};
+/// Signs that terms alone write in their own way.
+constexpr Spelling Signs[] = {{u"\u2248", u"~~"}, {u"\u2259", u"=^"}};
 
 constexpr Spelling Entities[] = {
     {u"amp", u"&"},        {u"lt", u"<"},          {u"gt", u">"},          {u"quot", u"\""},
@@ -132,7 +125,7 @@ public:
     }
 
 private:
-    TermLevel level() const { return levels_.empty() ? TermLevel::Normal : levels_.back(); }
+    ScriptLevel level() const { return levels_.empty() ? ScriptLevel::Normal : levels_.back(); }
 
     bool readMarkup()
     {
@@ -164,7 +157,7 @@ private:
     void changeLevel(const OutsideTag& tag)
     {
         if (!tag.closes && levels_.size() < DeepestLevels) {
-            levels_.push_back(tag.name == u"sup" ? TermLevel::Superscript : TermLevel::Subscript);
+            levels_.push_back(tag.name == u"sup" ? ScriptLevel::Superscript : ScriptLevel::Subscript);
         } else if (tag.closes && !levels_.empty()) {
             levels_.pop_back();
         }
@@ -178,7 +171,7 @@ private:
         if (!tag.closes && std::ranges::find(Unseen, tag.name) != std::end(Unseen)) {
             skipTo(u"</" + tag.name);
         } else if (std::ranges::find(Parting, tag.name) != std::end(Parting)) {
-            add(u' ', TermLevel::Normal);
+            add(u' ', ScriptLevel::Normal);
         }
     }
 
@@ -217,7 +210,8 @@ private:
             add(text[at + 1], level());
             return 2;
         }
-        if (const auto sign = spelled(Signs, text.substr(at, 1))) {
+        const auto typed = typedForm(unit);
+        if (const auto sign = typed ? typed : spelled(Signs, text.substr(at, 1))) {
             for (const char16_t written : *sign) {
                 add(written, level());
             }
@@ -232,13 +226,13 @@ private:
         return 1;
     }
 
-    void add(char16_t unit, TermLevel level)
+    void add(char16_t unit, ScriptLevel level)
     {
         const bool isBlank = unit == u' ';
         if (isBlank && (units_.empty() || (isHtml_ && units_.back().unit == u' '))) {
             return;
         }
-        units_.push_back({unit, isBlank ? TermLevel::Normal : level});
+        units_.push_back({unit, isBlank ? ScriptLevel::Normal : level});
     }
 
     /// Of several line ends and tabs one blank is left.
@@ -252,7 +246,7 @@ private:
     StringView text_;
     bool isHtml_;
     std::size_t at_ = 0;
-    std::vector<TermLevel> levels_;
+    std::vector<ScriptLevel> levels_;
     std::vector<OutsideUnit> units_;
 };
 

@@ -10,7 +10,7 @@ namespace phial
 /// A unit of a text from outside; a level other than Normal is where that text has it.
 struct OutsideUnit {
     char16_t unit = 0;
-    TermLevel level = TermLevel::Normal;
+    ScriptLevel level = ScriptLevel::Normal;
 
     friend bool operator==(const OutsideUnit&, const OutsideUnit&) = default;
 };

@@ -1,7 +1,7 @@
 #include "term/TermCopy.h"
 
 #include "term/TermBrackets.h"
-#include "term/TermScripts.h"
+#include "term/TermRules.h"
 
 #include <optional>
 #include <utility>
@@ -111,15 +111,15 @@ StringView usualSign(TermSign::Kind kind)
     return {};
 }
 
-String smallForm(StringView units, TermLevel level)
+String smallForm(StringView units, ScriptLevel level)
 {
-    if (level == TermLevel::Normal) {
+    if (level == ScriptLevel::Normal) {
         return String(units);
     }
     if (const auto form = scriptForm(units.front(), level)) {
         return {*form};
     }
-    return String(1, level == TermLevel::Superscript ? u'^' : u'µ') += units;
+    return String(1, level == ScriptLevel::Superscript ? u'^' : u'µ') += units;
 }
 
 String escaped(StringView text)
@@ -146,14 +146,14 @@ String escaped(StringView text)
     return result;
 }
 
-StringView levelTag(TermLevel level, bool closes)
+StringView levelTag(ScriptLevel level, bool closes)
 {
     switch (level) {
-    case TermLevel::Superscript:
+    case ScriptLevel::Superscript:
         return closes ? u"</sup>" : u"<sup>";
-    case TermLevel::Subscript:
+    case ScriptLevel::Subscript:
         return closes ? u"</sub>" : u"<sub>";
-    case TermLevel::Normal:
+    case ScriptLevel::Normal:
         break;
     }
     return {};
@@ -175,8 +175,8 @@ String textOfTerm(StringView term)
 String htmlOfTerm(StringView term)
 {
     String html = u"<span data-term=\"" + escaped(term) + u"\">";
-    TermLevel open = TermLevel::Normal;
-    const auto change = [&](TermLevel level) {
+    ScriptLevel open = ScriptLevel::Normal;
+    const auto change = [&](ScriptLevel level) {
         if (level != open) {
             html += levelTag(open, true);
             html += levelTag(level, false);
@@ -188,7 +188,7 @@ String htmlOfTerm(StringView term)
         change(sign.level);
         html += sign.kind == TermSign::Kind::Character ? escaped(units) : String(usualSign(sign.kind));
     }
-    change(TermLevel::Normal);
+    change(ScriptLevel::Normal);
     return html + u"</span>";
 }
 

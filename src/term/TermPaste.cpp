@@ -15,9 +15,9 @@ namespace
 
 constexpr std::size_t LongestRead = 100'000; // far more than a term can hold
 
-constexpr char16_t markOf(TermLevel level)
+constexpr char16_t markOf(ScriptLevel level)
 {
-    return level == TermLevel::Superscript ? u'^' : u'µ';
+    return level == ScriptLevel::Superscript ? u'^' : u'µ';
 }
 
 /// Writes units so that the rules of terms read them at the levels that they have.
@@ -32,7 +32,7 @@ public:
             goesOn_ = false;
             if (at + 1 < units.size()) {
                 const OutsideUnit& behind = units[at + 1];
-                const bool isMarked = behind.level != TermLevel::Normal && behind.level != unit.level;
+                const bool isMarked = behind.level != ScriptLevel::Normal && behind.level != unit.level;
                 goesOn_ = behind.level == unit.level;
                 next_ = isMarked ? markOf(behind.level) : behind.unit;
             }
@@ -47,7 +47,7 @@ private:
     {
         if (read_ > term_.size()) {
             term_ += unit.unit; // the second half of a sign
-        } else if (unit.level == TermLevel::Normal) {
+        } else if (unit.level == ScriptLevel::Normal) {
             addOrdinary(unit.unit);
         } else {
             addSmall(unit);
@@ -56,7 +56,8 @@ private:
 
     void addOrdinary(char16_t unit)
     {
-        const bool staysRaised = last_ == TermLevel::Superscript && levelOf({unit}) == TermLevel::Superscript;
+        const bool staysRaised =
+            last_ == ScriptLevel::Superscript && levelOf({unit}) == ScriptLevel::Superscript;
         append(staysRaised ? String{u'#', unit} : String{unit});
     }
 
@@ -67,7 +68,7 @@ private:
     {
         const bool begins = last_ != unit.level;
         const bool needsMark =
-            unit.level == TermLevel::Superscript && begins && (goesOn_ || last_ == TermLevel::Subscript);
+            unit.level == ScriptLevel::Superscript && begins && (goesOn_ || last_ == ScriptLevel::Subscript);
         const String alone{unit.unit};
         const String marked{markOf(unit.level), unit.unit};
         if (!needsMark && levelOf(alone) == unit.level) {
@@ -82,7 +83,7 @@ private:
     }
 
     /// The level of the last sign of a piece, if it were written now.
-    TermLevel levelOf(const String& piece) { return tried(piece).level; }
+    ScriptLevel levelOf(const String& piece) { return tried(piece).level; }
 
     void append(const String& piece)
     {
@@ -95,7 +96,7 @@ private:
     struct Trial {
         TermRules rules;
         std::size_t read;
-        TermLevel level;
+        ScriptLevel level;
     };
 
     Trial tried(const String& piece)
@@ -106,7 +107,7 @@ private:
         if (next_) {
             term_ += *next_;
         }
-        Trial trial{rules_, before, TermLevel::Normal};
+        Trial trial{rules_, before, ScriptLevel::Normal};
         while (trial.read < end) {
             const TermSign sign = trial.rules.read(term_, trial.read);
             trial.level = sign.level;
@@ -119,14 +120,14 @@ private:
     String term_;
     TermRules rules_;      // behind what has been read
     std::size_t read_ = 0; // one more than there is while a sign of two units is written
-    TermLevel last_ = TermLevel::Normal;
+    ScriptLevel last_ = ScriptLevel::Normal;
     std::optional<char16_t> next_; // as far as it is known
     bool goesOn_ = false;          // the next unit has the same level
 };
 
 bool isLevelled(const OutsideUnit& unit)
 {
-    return unit.level != TermLevel::Normal;
+    return unit.level != ScriptLevel::Normal;
 }
 
 /// The term that a term field has put into its HTML.

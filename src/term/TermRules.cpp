@@ -44,14 +44,14 @@ TermSign TermRules::read(StringView part, std::size_t position)
     case u'§':
         return {.kind = Kind::Red};
     case u' ':
-        mode_ = TermLevel::Normal;
+        mode_ = ScriptLevel::Normal;
         return plainSign({});
     case u'^':
-        return jump(Kind::Raise, TermLevel::Superscript);
+        return jump(Kind::Raise, ScriptLevel::Superscript);
     case u'µ':
-        return jump(Kind::Lower, TermLevel::Subscript);
+        return jump(Kind::Lower, ScriptLevel::Subscript);
     case u'#':
-        mode_ = TermLevel::Normal;
+        mode_ = ScriptLevel::Normal;
         return {.kind = Kind::EndLevel};
     case u'|':
         return next == NoNeighbour ? plainSign({}) : TermSign{.kind = Kind::Stroke};
@@ -64,7 +64,7 @@ TermSign TermRules::read(StringView part, std::size_t position)
     case u'/':
         return plainSign({});
     case u'+':
-        return mode_ != TermLevel::Superscript && next != NoNeighbour && next != u')'
+        return mode_ != ScriptLevel::Superscript && next != NoNeighbour && next != u')'
                    ? plainSign({})
                    : indexed(part, position);
     case u')':
@@ -88,7 +88,7 @@ TermSign TermRules::plainSign(TermSign sign)
     return sign;
 }
 
-TermSign TermRules::jump(Kind kind, TermLevel level)
+TermSign TermRules::jump(Kind kind, ScriptLevel level)
 {
     mode_ = level;
     forced_ = true;
@@ -106,19 +106,19 @@ TermSign TermRules::indexed(StringView part, std::size_t position)
         isIndex = false;
     }
     if ((unit == u'+' || unit == u'-') && isCharge(part, position)) {
-        mode_ = TermLevel::Superscript;
+        mode_ = ScriptLevel::Superscript;
         isIndex = true;
     }
     if (forced_) {
         forced_ = false;
-    } else if (mode_ == TermLevel::Normal && isIndex) {
-        mode_ = TermLevel::Subscript;
-    } else if (mode_ != TermLevel::Normal && !isIndex) {
-        mode_ = TermLevel::Normal;
+    } else if (mode_ == ScriptLevel::Normal && isIndex) {
+        mode_ = ScriptLevel::Subscript;
+    } else if (mode_ != ScriptLevel::Normal && !isIndex) {
+        mode_ = ScriptLevel::Normal;
     }
     const bool isPair = isHighSurrogate(unit) && isLowSurrogate(unitBehind(part, position));
     return {.level = mode_,
-            .isAnchor = mode_ == TermLevel::Normal,
+            .isAnchor = mode_ == ScriptLevel::Normal,
             .length = static_cast<std::size_t>(isPair ? 2 : 1)};
 }
 

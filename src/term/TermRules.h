@@ -1,15 +1,12 @@
 #pragma once
 
-#include "core/String.h"
+#include "core/ScriptCharacters.h"
 
 #include <cstddef>
 #include <cstdint>
 
 namespace phial
 {
-
-/// Where a character of a term stands.
-enum class TermLevel : std::int8_t { Superscript = -1, Normal = 0, Subscript = 1 };
 
 /// What stands at a place of a term.
 struct TermSign {
@@ -28,9 +25,9 @@ struct TermSign {
     };
 
     Kind kind = Kind::Character;
-    TermLevel level = TermLevel::Normal; ///< of a character
-    bool isAnchor = false;               ///< what is raised or lowered next begins behind the character
-    std::size_t length = 1;              ///< units of the term
+    ScriptLevel level = ScriptLevel::Normal; ///< of a character
+    bool isAnchor = false;                   ///< what is raised or lowered next begins behind the character
+    std::size_t length = 1;                  ///< units of the term
 };
 
 /// The rules by which the units of a term, or of a part of it, become signs: what is raised and lowered, and
@@ -45,10 +42,10 @@ public:
 
 private:
     TermSign plainSign(TermSign sign);
-    TermSign jump(TermSign::Kind kind, TermLevel level);
+    TermSign jump(TermSign::Kind kind, ScriptLevel level);
     TermSign indexed(StringView part, std::size_t position);
 
-    TermLevel mode_ = TermLevel::Normal;
+    ScriptLevel mode_ = ScriptLevel::Normal;
     bool forced_ = false;
     bool plain_ = true; ///< digits that follow are ordinary ones
 };

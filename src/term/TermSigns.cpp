@@ -81,7 +81,7 @@ void TermSigns::startStroke(TermWalk& walk)
 
 void TermSigns::drawCharacter(TermWalk& walk, const TermLine& line, const TermSign& sign)
 {
-    if (sign.level != TermLevel::Normal) {
+    if (sign.level != ScriptLevel::Normal) {
         device_.FontSize(IndexSize * line.fontSize);
         device_.CurrentY(walk.base + static_cast<int>(sign.level) * IndexShift * line.height);
     }

@@ -35,8 +35,8 @@ std::size_t textsDrawn(StringView term)
 TEST(TermRulesTest, WhatStandsBeforeAPartIsNotRead)
 {
     constexpr StringView Whole = u" +";
-    EXPECT_EQ(TermRules().read(Whole, 1).level, TermLevel::Normal) << "no charge behind a blank";
-    EXPECT_EQ(TermRules().read(Whole.substr(1), 0).level, TermLevel::Superscript);
+    EXPECT_EQ(TermRules().read(Whole, 1).level, ScriptLevel::Normal) << "no charge behind a blank";
+    EXPECT_EQ(TermRules().read(Whole.substr(1), 0).level, ScriptLevel::Superscript);
 }
 
 TEST(TermLayoutTest, DrawsWhatTermDrawDraws)

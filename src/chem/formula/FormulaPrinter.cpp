@@ -1,6 +1,7 @@
 #include "chem/formula/FormulaPrinter.h"
 
 #include "chem/ElementSymbols.h"
+#include "core/ScriptCharacters.h"
 
 #include <array>
 #include <string>
@@ -17,16 +18,6 @@ String digitsOf(std::int64_t value)
 {
     const std::string digits = std::to_string(value);
     return {digits.begin(), digits.end()};
-}
-
-String inForms(const String& plain, StringView forms)
-{
-    constexpr StringView Signs = u"0123456789+-";
-    String text;
-    for (const char16_t sign : plain) {
-        text += forms[Signs.find(sign)];
-    }
-    return text;
 }
 
 class Printer
@@ -166,7 +157,7 @@ private:
             text_ += digits;
             return;
         case Style::Unicode:
-            text_ += inForms(digits, u"₀₁₂₃₄₅₆₇₈₉₊₋");
+            text_ += scriptForms(digits, ScriptLevel::Subscript);
             return;
         case Style::Markup:
             text_ += u"<sub>" + digits + u"</sub>";
@@ -182,7 +173,7 @@ private:
             text_ += u"^" + signs;
             return;
         case Style::Unicode:
-            text_ += inForms(signs, u"⁰¹²³⁴⁵⁶⁷⁸⁹⁺⁻");
+            text_ += scriptForms(signs, ScriptLevel::Superscript);
             return;
         case Style::Markup:
             text_ += u"<sup>" + signs + u"</sup>";

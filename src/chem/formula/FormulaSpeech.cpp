@@ -20,10 +20,10 @@ constexpr auto Numbers = std::to_array<StringView>(
     {u"null|zero", u"eins|one", u"zwei|two", u"drei|three", u"vier|four", u"fünf|five", u"sechs|six",
      u"sieben|seven", u"acht|eight", u"neun|nine", u"zehn|ten", u"elf|eleven", u"zwölf|twelve"});
 /// By bracket.
-constexpr auto Openings =
+constexpr auto SpokenOpenings =
     std::to_array<StringView>({u"Klammer auf|open bracket", u"eckige Klammer auf|open square bracket",
                                u"geschweifte Klammer auf|open curly bracket"});
-constexpr auto Closings =
+constexpr auto SpokenClosings =
     std::to_array<StringView>({u"Klammer zu|close bracket", u"eckige Klammer zu|close square bracket",
                                u"geschweifte Klammer zu|close curly bracket"});
 constexpr auto Phases = std::to_array<StringView>(
@@ -136,7 +136,7 @@ private:
             closeGroups(at);
             const FormulaItem& item = tree_.items[at];
             if (item.isGroup()) {
-                tell(Openings[static_cast<std::size_t>(item.bracket)]);
+                tell(SpokenOpenings[static_cast<std::size_t>(item.bracket)]);
                 open_.push_back(at);
             } else {
                 for (const char16_t letter : elementOf(item.element).symbol) {
@@ -156,7 +156,7 @@ private:
         while (!open_.empty() && tree_.items[open_.back()].end <= at) {
             const FormulaItem& group = tree_.items[open_.back()];
             open_.pop_back();
-            tell(Closings[static_cast<std::size_t>(group.bracket)]);
+            tell(SpokenClosings[static_cast<std::size_t>(group.bracket)]);
             speakCount(group.count);
         }
     }
