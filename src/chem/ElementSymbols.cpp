@@ -153,13 +153,18 @@ const ElementSymbol& elementOf(int atomicNumber)
 
 int atomicNumberOf(StringView symbol)
 {
-    const bool isSymbol = !symbol.empty() && symbol.size() <= 2 && symbol[0] >= u'A' && symbol[0] <= u'Z' &&
-                          (symbol.size() == 1 || (symbol[1] >= u'a' && symbol[1] <= u'z'));
-    if (!isSymbol) {
+    const bool isLetter = symbol.size() == 1;
+    const bool isPair = symbol.size() == 2 && symbol[1] != u'\0';
+    return isLetter ? atomicNumberOf(symbol[0], u'\0') : isPair ? atomicNumberOf(symbol[0], symbol[1]) : 0;
+}
+
+int atomicNumberOf(char16_t first, char16_t second)
+{
+    if (first < u'A' || first > u'Z' || (second != u'\0' && (second < u'a' || second > u'z'))) {
         return 0;
     }
-    const std::size_t second = symbol.size() > 1 ? symbol[1] - std::size_t{u'a'} + 1 : 0;
-    return Places[symbol[0] - std::size_t{u'A'}][second];
+    const std::size_t column = second == u'\0' ? 0 : second - std::size_t{u'a'} + 1;
+    return Places[first - std::size_t{u'A'}][column];
 }
 
 } // namespace phial

@@ -19,5 +19,7 @@ const ElementSymbol& elementOf(int atomicNumber);
 
 /// The atomic number of a symbol, which is compared exactly by case; 0 for none.
 int atomicNumberOf(StringView symbol);
+/// Likewise of a symbol's letters; the second is 0 where there is none.
+int atomicNumberOf(char16_t first, char16_t second);
 
 } // namespace phial

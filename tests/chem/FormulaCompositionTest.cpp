@@ -73,9 +73,11 @@ TEST(ElementSymbols, StandAtTheirAtomicNumber)
         EXPECT_EQ(atomicNumberOf(elementOf(number).symbol), number);
     }
     EXPECT_EQ(elementOf(74).german, u"Wolfram");
-    for (const auto* none : {u"", u"h", u"CL", u"Xx", u"J", u"Hel", u"Ö", u"9"}) {
+    for (const auto* none :
+         {u"", u"h", u"CL", u"Xx", u"J", u"Hel", u"Ö", u"9", u"@", u"[", u"H`", u"H{", u"HE"}) {
         EXPECT_EQ(atomicNumberOf(none), 0) << toUtf8(none);
     }
+    EXPECT_EQ(atomicNumberOf(StringView(u"H\0", 2)), 0);
 }
 
 } // namespace

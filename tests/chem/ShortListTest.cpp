@@ -11,6 +11,13 @@ namespace
 using ::testing::ElementsAre;
 using Numbers = ShortList<int, 3>;
 
+struct Place {
+    int row = 7;
+    int column = 7;
+
+    friend bool operator==(const Place&, const Place&) = default;
+};
+
 TEST(ShortList, HoldsItemsInItselfAndThenElsewhere)
 {
     Numbers list;
@@ -67,6 +74,18 @@ TEST(ShortList, IsMovedAndLeavesNothing)
         moved = std::move(list);
         EXPECT_THAT(moved, ElementsAre(9));
     }
+}
+
+TEST(ShortList, AppendsFreshItemsToFill)
+{
+    ShortList<Place, 1> list;
+    list.append().row = 1;
+    list.append().column = 2;
+    EXPECT_THAT(list, ElementsAre(Place{1, 7}, Place{7, 2}));
+    list.pop_back();
+    EXPECT_EQ(list.size(), 1U);
+    list.append();
+    EXPECT_EQ(list.back(), Place{}) << "not what was there";
 }
 
 TEST(ShortList, ReservedRoomMovesNothing)

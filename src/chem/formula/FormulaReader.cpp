@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <memory_resource>
 #include <numeric>
 #include <utility>
 
@@ -113,7 +112,7 @@ private:
         std::int64_t value = 0;
         std::size_t begin = 0; ///< units
         std::size_t end = 0;
-        FormulaLevel level = FormulaLevel::Line;
+        ScriptLevel level = ScriptLevel::Normal;
 
         std::size_t size() const { return end - begin; }
     };
@@ -123,9 +122,9 @@ private:
     bool isAtEnd() const { return at_ >= units_.size(); }
     char16_t sign(std::size_t at) const { return at < units_.size() ? units_[at].sign : TextEnd; }
     char16_t sign() const { return sign(at_); }
-    FormulaLevel level(std::size_t at) const
+    ScriptLevel level(std::size_t at) const
     {
-        return at < units_.size() ? units_[at].level : FormulaLevel::Line;
+        return at < units_.size() ? units_[at].level : ScriptLevel::Normal;
     }
     void skipBlanks()
     {
@@ -159,7 +158,7 @@ private:
 
     bool isLink(std::size_t at) const
     {
-        const bool isPlus = sign(at) == u'+' && level(at) == FormulaLevel::Line;
+        const bool isPlus = sign(at) == u'+' && level(at) == ScriptLevel::Normal;
         const bool isEquals = sign(at) == u'=';
         return isPlus || isArrow(sign(at)) || isEquals;
     }
@@ -187,7 +186,7 @@ private:
 
     void readSpecies()
     {
-        FormulaSpecies species;
+        FormulaSpecies& species = tree_.species.append();
         const std::size_t begin = at_;
         species.first = static_cast<std::uint32_t>(tree_.parts.size());
         species.factor = readFactor();
@@ -197,7 +196,6 @@ private:
         readEnd(species);
         species.end = static_cast<std::uint32_t>(tree_.parts.size());
         species.span = spanOf(begin, at_);
-        tree_.species.push_back(species);
     }
 
     /// `e-` and `n`.
@@ -221,7 +219,7 @@ private:
     /// A whole number, a decimal or a fraction before a formula; 1 where there is none.
     Rational readFactor()
     {
-        if (!isDigit(sign()) || level(at_) != FormulaLevel::Line) {
+        if (!isDigit(sign()) || level(at_) != ScriptLevel::Normal) {
             return {};
         }
         const Digits whole = readDigits();
@@ -267,8 +265,9 @@ private:
     void readParts(FormulaSpecies& species)
     {
         for (;;) {
-            FormulaPart part;
-            if (tree_.parts.size() > species.first) {
+            const bool isFurther = tree_.parts.size() > species.first;
+            FormulaPart& part = tree_.parts.append();
+            if (isFurther) {
                 part.factor = readFactor();
             }
             part.first = static_cast<std::uint32_t>(tree_.items.size());
@@ -277,7 +276,6 @@ private:
             if (part.first == part.end) {
                 refuseMissing();
             }
-            tree_.parts.push_back(part);
             if (!isDot(at_)) {
                 return;
             }
@@ -352,7 +350,7 @@ private:
                 openGroup();
             } else if (Closings.find(now) != StringView::npos && now != TextEnd) {
                 closeGroup();
-            } else if (isBond(now) && level(at_) == FormulaLevel::Line && isBondAt(at_)) {
+            } else if (isBond(now) && level(at_) == ScriptLevel::Normal && isBondAt(at_)) {
                 ++at_;
             } else {
                 break;
@@ -385,7 +383,7 @@ private:
         if (endsSymbol(sign())) {
             refuse(FormulaFault::SmallLetter, at_, at_ + 1, suggestedFormulas(text_));
         }
-        if (isSign(sign()) || level(at_) == FormulaLevel::High) {
+        if (isSign(sign()) || level(at_) == ScriptLevel::Superscript) {
             refuse(FormulaFault::ChargeNotAtEnd, at_, at_ + 1);
         }
         refuse(FormulaFault::BracketNotClosed, open_.back().unit, open_.back().unit + 1);
@@ -394,27 +392,29 @@ private:
     void readAtom(std::int32_t massNumber)
     {
         const std::size_t begin = at_;
-        const std::array<char16_t, 2> letters{sign(), sign(at_ + 1)};
-        std::size_t length = endsSymbol(letters[1]) ? 2 : 1;
-        int element = atomicNumberOf({letters.data(), length});
+        const char16_t first = sign();
+        const char16_t second = endsSymbol(sign(at_ + 1)) ? sign(at_ + 1) : TextEnd;
+        std::size_t length = second == TextEnd ? 1 : 2;
+        int element = atomicNumberOf(first, second);
         if (element == 0 && length == 2) {
             length = 1;
-            element = atomicNumberOf({letters.data(), 1});
+            element = atomicNumberOf(first, TextEnd);
         }
-        if (length == 1 && (letters[0] == u'D' || letters[0] == u'T') && element == 0 &&
-            !endsSymbol(letters[1])) {
+        if (element == 0 && second == TextEnd && (first == u'D' || first == u'T')) {
             element = 1;
-            massNumber = letters[0] == u'D' ? 2 : 3;
+            massNumber = first == u'D' ? 2 : 3;
         }
         if (element == 0) {
-            const std::size_t end = endsSymbol(letters[1]) ? at_ + 2 : at_ + 1;
+            const std::size_t end = second == TextEnd ? at_ + 1 : at_ + 2;
             refuse(FormulaFault::UnknownSymbol, at_, end, suggestedFormulas(text_));
         }
         refuseCapitalPair();
         at_ += length;
-        add({.element = static_cast<std::uint8_t>(element),
-             .massNumber = massNumber,
-             .span = spanOfUnits(begin, at_)});
+        FormulaItem& atom = appendItem();
+        atom.element = static_cast<std::uint8_t>(element);
+        atom.massNumber = massNumber;
+        atom.end = static_cast<std::uint32_t>(tree_.items.size());
+        atom.span = spanOfUnits(begin, at_);
         if (endsSymbol(sign())) {
             refuse(FormulaFault::SmallLetter, at_, at_ + 1, suggestedFormulas(text_));
         }
@@ -430,19 +430,21 @@ private:
         }
     }
 
-    void add(FormulaItem item)
+    /// To which a number behind it belongs.
+    FormulaItem& appendItem()
     {
-        tree_.items.push_back(item);
-        tree_.items.back().end = static_cast<std::uint32_t>(tree_.items.size());
-        last_ = tree_.items.size() - 1;
+        last_ = tree_.items.size();
         lastClosing_ = TextEnd;
+        return tree_.items.append();
     }
 
     void openGroup()
     {
         const auto bracket = static_cast<FormulaBracket>(Openings.find(sign()));
         open_.push_back({static_cast<std::uint32_t>(tree_.items.size()), at_});
-        tree_.items.push_back({.bracket = bracket, .span = spanOfUnits(at_, at_ + 1)});
+        FormulaItem& group = tree_.items.append();
+        group.bracket = bracket;
+        group.span = spanOfUnits(at_, at_ + 1);
         last_.reset();
         ++at_;
     }
@@ -473,7 +475,7 @@ private:
     {
         const std::size_t begin = at_;
         const Digits digits = readDigits();
-        if (digits.level == FormulaLevel::High) {
+        if (digits.level == ScriptLevel::Superscript) {
             if (!beginsSymbol(sign())) {
                 at_ = begin;
                 return false;
@@ -484,7 +486,7 @@ private:
             readAtom(static_cast<std::int32_t>(digits.value));
             return true;
         }
-        if (digits.level == FormulaLevel::Line && isChargeBehind() && takesCharge(digits, species)) {
+        if (digits.level == ScriptLevel::Normal && isChargeBehind() && takesCharge(digits, species)) {
             at_ = begin;
             return false;
         }
@@ -496,7 +498,7 @@ private:
     bool isChargeBehind() const
     {
         std::size_t at = at_;
-        while (isSign(sign(at)) && level(at) == FormulaLevel::Line) {
+        while (isSign(sign(at)) && level(at) == ScriptLevel::Normal) {
             ++at;
         }
         return at > at_ && open_.empty() && (endsSpecies(at) || isDot(at));
@@ -521,15 +523,10 @@ private:
     bool hasIndexBefore(const Digits& digits) const
     {
         return digits.begin > 0 && isDigit(sign(digits.begin - 1)) &&
-               level(digits.begin - 1) == FormulaLevel::Low;
+               level(digits.begin - 1) == ScriptLevel::Subscript;
     }
 
-    std::size_t firstItemOf(const FormulaSpecies& species) const
-    {
-        return tree_.parts.size() > species.first ? tree_.parts[species.first].first : partBegin();
-    }
-    /// Of the part that is being read, which is not among the parts yet.
-    std::size_t partBegin() const { return tree_.parts.empty() ? 0 : tree_.parts.back().end; }
+    std::size_t firstItemOf(const FormulaSpecies& species) const { return tree_.parts[species.first].first; }
 
     [[noreturn]] void refuseAmbiguous(const Digits& digits) const
     {
@@ -588,13 +585,13 @@ private:
     void readCharge(FormulaSpecies& species)
     {
         chargeBegin_ = at_;
-        const FormulaLevel level = this->level(at_);
-        const bool isInLine = level == FormulaLevel::Line;
+        const ScriptLevel level = this->level(at_);
+        const bool isInLine = level == ScriptLevel::Normal;
         if (isInLine && isSign(sign()) && !isChargeBehind()) {
             return; // an operator, or a bond that leads nowhere
         }
         std::int64_t size = 0;
-        if (isDigit(sign()) && level != FormulaLevel::Low) {
+        if (isDigit(sign()) && level != ScriptLevel::Subscript) {
             size = readDigits().value;
             if (!isSign(sign())) {
                 refuse(isInLine ? FormulaFault::NumberMisplaced : FormulaFault::ChargeWithoutSign,
@@ -620,16 +617,12 @@ private:
     }
 
     StringView text_;
-    // An ordinary formula fits in here, so that only its tree takes memory from the heap.
-    static constexpr std::size_t InlineBytes = 1024;
-    alignas(std::max_align_t) std::byte buffer_[InlineBytes];
-    std::pmr::monotonic_buffer_resource memory_{buffer_, InlineBytes};
-    std::pmr::vector<FormulaUnit> units_{&memory_};
+    FormulaUnits units_;
     bool isEquation_;
     bool hasArrow_ = false; ///< of an equation
     std::size_t at_ = 0;
     FormulaTree& tree_;
-    std::pmr::vector<Open> open_{&memory_};
+    ShortList<Open, 4> open_;
     std::optional<std::size_t> last_; ///< the item that a number would belong to
     char16_t lastClosing_ = TextEnd;  ///< the bracket that has ended it
     std::size_t chargeBegin_ = 0;

@@ -10,53 +10,71 @@ namespace phial
 namespace
 {
 
-struct ScriptSigns {
-    FormulaLevel level;
-    StringView plain;
-    StringView forms; ///< of each of them
-};
-constexpr auto Scripts = std::to_array<ScriptSigns>({
-    {FormulaLevel::High, u"0123456789+-", u"⁰¹²³⁴⁵⁶⁷⁸⁹⁺⁻"},
-    {FormulaLevel::Low, u"0123456789+-", u"₀₁₂₃₄₅₆₇₈₉₊₋"},
-});
-
 /// What is written in another way for the same sign. What is longer stands first.
 struct FormulaSpelling {
     StringView from;
     StringView to;
 };
 constexpr auto Spellings = std::to_array<FormulaSpelling>({
-    {u"<->", u"\u21CC"}, {u"<=>", u"\u21CC"}, {u"-->", u"\u2192"}, {u"->", u"\u2192"}, {u"=>", u"\u2192"},
-    {u"<-", u"\u2190"},  {u"⟶", u"\u2192"},   {u"⇒", u"\u2192"},   {u"⟵", u"\u2190"},  {u"⇄", u"\u21CC"},
-    {u"⇋", u"\u21CC"},   {u"↔", u"\u21CC"},   {u"·", u"*"},        {u"•", u"*"},       {u"⋅", u"*"},
-    {u"∙", u"*"},        {u"−", u"-"},        {u"–", u"-"},        {u"‐", u"-"},       {u"‑", u"-"},
-    {u"\u00A0", u" "},   {u"\u2009", u" "},   {u"\u202F", u" "},   {u"\t", u" "},      {u"\r", u" "},
-    {u"\n", u" "},       {u"\u00AD", u""},    {u"\u200B", u""},    {u"\uFEFF", u""},   {u"§", u""},
-    {u"|", u""},         {u"½", u"1/2"},      {u"¼", u"1/4"},      {u"¾", u"3/4"},     {u"⅓", u"1/3"},
+    {u"<->", u"\u21CC"},
+    {u"<=>", u"\u21CC"},
+    {u"-->", u"\u2192"},
+    {u"->", u"\u2192"},
+    {u"=>", u"\u2192"},
+    {u"<-", u"\u2190"},
+    {u"⇒", u"\u2192"},
+    {u"⇄", u"\u21CC"},
+    {u"⇋", u"\u21CC"},
+    {u"↔", u"\u21CC"},
+    {u"§", u""},
+    {u"|", u""},
+    {u"½", u"1/2"},
+    {u"¼", u"1/4"},
+    {u"¾", u"3/4"},
+    {u"⅓", u"1/3"},
     {u"⅔", u"2/3"},
 });
-/// All of them begin with one of these.
-constexpr bool mayBeSpelled(char16_t sign)
+
+/// What a place of the text has instead of the sign that is meant.
+std::optional<FormulaSpelling> spellingAt(StringView rest)
 {
-    return sign > 0x7F || sign < u' ' || sign == u'<' || sign == u'-' || sign == u'=' || sign == u'|';
+    const auto row = std::ranges::find_if(
+        Spellings, [&](const FormulaSpelling& each) { return rest.starts_with(each.from); });
+    if (row != Spellings.end()) {
+        return *row;
+    }
+    const auto typed = typedForm(rest.front());
+    if (!typed) {
+        return std::nullopt;
+    }
+    const auto arrow = std::ranges::find(Spellings, *typed, &FormulaSpelling::from);
+    return FormulaSpelling{rest.substr(0, 1), arrow == Spellings.end() ? *typed : arrow->to};
 }
 
 struct LevelTag {
     StringView tag;
-    FormulaLevel level;
+    ScriptLevel level;
 };
 constexpr auto LevelTags = std::to_array<LevelTag>({
-    {u"<sub>", FormulaLevel::Low},
-    {u"<sup>", FormulaLevel::High},
-    {u"</sub>", FormulaLevel::Line},
-    {u"</sup>", FormulaLevel::Line},
+    {u"<sub>", ScriptLevel::Subscript},
+    {u"<sup>", ScriptLevel::Superscript},
+    {u"</sub>", ScriptLevel::Normal},
+    {u"</sup>", ScriptLevel::Normal},
 });
 
-/// What most formulas are made of: it means itself and nothing else.
-constexpr bool isOrdinary(char16_t sign)
+/// What most formulas are made of: each means itself and nothing else.
+constexpr auto OrdinarySigns = [] {
+    std::array<bool, 0x80> isOrdinary{}; // of ASCII
+    for (const char16_t sign :
+         StringView(u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789()[]{}*.,/+ ")) {
+        isOrdinary.at(sign) = true;
+    }
+    return isOrdinary;
+}();
+
+constexpr bool mayBeSpelled(char16_t sign)
 {
-    return (sign >= u'A' && sign <= u'Z') || (sign >= u'a' && sign <= u'z') ||
-           (sign >= u'0' && sign <= u'9') || sign == u'(' || sign == u')' || sign == u' ' || sign == u'+';
+    return sign >= OrdinarySigns.size() || !OrdinarySigns[sign];
 }
 
 bool isChargeOrIndex(char16_t sign)
@@ -67,16 +85,16 @@ bool isChargeOrIndex(char16_t sign)
 class UnitReader
 {
 public:
-    UnitReader(StringView text, std::pmr::vector<FormulaUnit>& units) : text_(text), units_(units)
+    UnitReader(StringView text, FormulaUnits& units) : text_(text), units_(units)
     {
-        units_.reserve(units_.size() + text.size());
+        units_.reserve(text.size());
     }
 
     void read()
     {
         while (at_ < text_.size()) {
             const bool isTaken =
-                !isOrdinary(text_[at_]) && (takeMark() || takeTag() || takeSpelling() || takeScript());
+                mayBeSpelled(text_[at_]) && (takeMark() || takeTag() || takeSpelling() || takeScript());
             if (!isTaken) {
                 take(text_[at_], 1);
             }
@@ -91,7 +109,9 @@ private:
         if (sign != u'^' && sign != u'µ' && sign != u'#') {
             return false;
         }
-        marked_ = sign == u'^' ? FormulaLevel::High : sign == u'µ' ? FormulaLevel::Low : FormulaLevel::Line;
+        level_ = sign == u'^'   ? ScriptLevel::Superscript
+                 : sign == u'µ' ? ScriptLevel::Subscript
+                                : ScriptLevel::Normal;
         ++at_;
         return true;
     }
@@ -108,19 +128,15 @@ private:
             return false;
         }
         tagged_ = tag->level;
+        level_ = tagged_;
         at_ += tag->tag.size();
         return true;
     }
 
     bool takeSpelling()
     {
-        if (!mayBeSpelled(text_[at_])) {
-            return false;
-        }
-        const StringView rest = text_.substr(at_);
-        const auto* const spelling = std::ranges::find_if(
-            Spellings, [&](const FormulaSpelling& each) { return rest.starts_with(each.from); });
-        if (spelling == Spellings.end()) {
+        const auto spelling = spellingAt(text_.substr(at_));
+        if (!spelling) {
             return false;
         }
         const std::size_t start = at_;
@@ -134,42 +150,44 @@ private:
 
     bool takeScript()
     {
-        if (text_[at_] <= 0x7F) {
+        const auto script = scriptOf(text_[at_]);
+        if (!script || !isChargeOrIndex(script->plain)) {
             return false;
         }
-        for (const ScriptSigns& script : Scripts) {
-            if (const std::size_t found = script.forms.find(text_[at_]); found != StringView::npos) {
-                add(script.plain[found], script.level, 1);
-                return true;
-            }
-        }
-        return false;
+        add(script->plain, script->level, 1);
+        return true;
     }
 
     void take(char16_t sign, std::size_t length)
     {
-        if (!isChargeOrIndex(sign)) {
-            marked_.reset();
+        if (isChargeOrIndex(sign)) {
+            add(sign, level_, length);
+        } else {
+            level_ = tagged_;
+            add(sign, ScriptLevel::Normal, length);
         }
-        add(sign, marked_.value_or(isChargeOrIndex(sign) ? tagged_ : FormulaLevel::Line), length);
     }
 
-    void add(char16_t sign, FormulaLevel level, std::size_t length)
+    void add(char16_t sign, ScriptLevel level, std::size_t length)
     {
-        units_.push_back({sign, level, static_cast<std::uint32_t>(at_), static_cast<std::uint32_t>(length)});
+        FormulaUnit& unit = units_.append();
+        unit.sign = sign;
+        unit.level = level;
+        unit.start = static_cast<std::uint32_t>(at_);
+        unit.length = static_cast<std::uint32_t>(length);
         at_ += length;
     }
 
     StringView text_;
     std::size_t at_ = 0;
-    std::optional<FormulaLevel> marked_;
-    FormulaLevel tagged_ = FormulaLevel::Line;
-    std::pmr::vector<FormulaUnit>& units_;
+    ScriptLevel tagged_ = ScriptLevel::Normal; ///< by the last tag
+    ScriptLevel level_ = ScriptLevel::Normal;  ///< of digits and signs of charge
+    FormulaUnits& units_;
 };
 
 } // namespace
 
-void readFormulaUnits(StringView text, std::pmr::vector<FormulaUnit>& units)
+void readFormulaUnits(StringView text, FormulaUnits& units)
 {
     UnitReader(text, units).read();
 }

@@ -1,24 +1,23 @@
 #pragma once
 
-#include "core/String.h"
+#include "chem/formula/ShortList.h"
+#include "core/ScriptCharacters.h"
 
 #include <cstdint>
-#include <memory_resource>
-#include <vector>
 
 namespace phial
 {
 
-/// How high a sign of a formula stands, where the text says so.
-enum class FormulaLevel : std::uint8_t { Line, Low, High };
-
-/// A sign of a formula, whichever way it was written, and where it stood in the text.
+/// A sign of a formula, whichever way it was written, how high it stands where the text says so, and where it
+/// stood in the text.
 struct FormulaUnit {
     char16_t sign = 0;
-    FormulaLevel level = FormulaLevel::Line;
+    ScriptLevel level = ScriptLevel::Normal;
     std::uint32_t start = 0;
     std::uint32_t length = 0;
 };
+
+using FormulaUnits = ShortList<FormulaUnit, 64>;
 
 // What stands for signs of several units.
 inline constexpr char16_t ForwardArrow = u'\u2192';
@@ -30,14 +29,12 @@ inline constexpr char16_t BothArrows = u'\u21CC';
 ///
 ///     H₂SO₄, H<sub>2</sub>SO<sub>4</sub>, H2SO4    the same signs; the levels of digits differ
 ///     SO₄²⁻, SO4^2-, SO<sub>4</sub><sup>2-</sup>   "2-" raised
-///     · • ⋅ ∙ *                                    *
-///     − – ‐                                        -
 ///     -> → ⟶ <- ← <-> ⇌ <=>                        one sign each
-///     no-break and thin blanks, line ends          a blank
+///     · − and others                               what a keyboard has for them (`typedForm`)
 ///     ½                                            1, / and 2
 ///
 /// What only colours, strikes through or has no width is left out. Linear in the text's length. They are put
 /// behind those that `units` has.
-void readFormulaUnits(StringView text, std::pmr::vector<FormulaUnit>& units);
+void readFormulaUnits(StringView text, FormulaUnits& units);
 
 } // namespace phial

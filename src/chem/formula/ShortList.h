@@ -44,8 +44,8 @@ public:
 
     std::size_t size() const { return size_; }
     bool empty() const { return size_ == 0; }
-    Item* data() { return heap_ ? heap_.get() : near_; }
-    const Item* data() const { return heap_ ? heap_.get() : near_; }
+    Item* data() { return items_; }
+    const Item* data() const { return items_; }
     Item* begin() { return data(); }
     const Item* begin() const { return data(); }
     Item* end() { return data() + size_; }
@@ -58,6 +58,7 @@ public:
     const Item& back() const { return data()[size_ - 1]; }
 
     void clear() { size_ = 0; }
+    void pop_back() { --size_; }
     void reserve(std::size_t count)
     {
         if (count > room_) {
@@ -69,11 +70,19 @@ public:
         if (size_ == room_) {
             const Item kept = item; // which may be one of the list's own
             grow(2 * room_);
-            data()[size_++] = kept;
+            items_[size_++] = kept;
         } else {
-            std::construct_at(data() + size_, item);
+            std::construct_at(items_ + size_, item);
             ++size_;
         }
+    }
+    /// A fresh item at the end, to be filled where it lies.
+    Item& append()
+    {
+        if (size_ == room_) {
+            grow(2 * room_);
+        }
+        return *std::construct_at(items_ + size_++);
     }
 
 private:
@@ -88,6 +97,8 @@ private:
         heap_ = std::move(other.heap_);
         room_ = std::exchange(other.room_, Room);
         size_ = std::exchange(other.size_, 0);
+        items_ = heap_ ? heap_.get() : near_;
+        other.items_ = other.near_;
         if (!heap_) {
             std::uninitialized_copy_n(other.near_, size_, near_);
         }
@@ -95,12 +106,14 @@ private:
     void grow(std::size_t room)
     {
         auto larger = std::make_unique_for_overwrite<Item[]>(room);
-        std::copy_n(data(), size_, larger.get());
+        std::copy_n(items_, size_, larger.get());
         heap_ = std::move(larger);
+        items_ = heap_.get();
         room_ = room;
     }
 
     std::unique_ptr<Item[]> heap_;
+    Item* items_ = near_; ///< here or there
     std::size_t size_ = 0;
     std::size_t room_ = Room;
     union {
