@@ -99,6 +99,12 @@ TEST(FormulaReading, PlacesAreThoseOfTheTextAsItWasWritten)
     EXPECT_EQ(reading.refusal->span.start, 14U);
 }
 
+TEST(FormulaReading, TellsBracketsApart)
+{
+    EXPECT_TRUE(readFormula(u"(CN)2").tree == readFormula(u"(CN)₂").tree);
+    EXPECT_FALSE(readFormula(u"(CN)2").tree == readFormula(u"[CN]2").tree);
+}
+
 TEST(FormulaReading, ReadsDeepBracketsWithoutRecursion)
 {
     constexpr std::size_t Depth = 100'000;

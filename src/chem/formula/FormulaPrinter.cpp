@@ -37,19 +37,21 @@ public:
     }
 
 private:
+    /// Whether it is made of what a keyboard has.
+    bool isTyped() const { return style_ == Style::Plain || style_ == Style::Term; }
+    StringView dot() const { return isTyped() ? u"*" : u"·"; }
     String arrow() const
     {
-        const bool isTyped = style_ == Style::Plain || style_ == Style::Term;
         switch (tree_.arrow) {
         case FormulaArrow::Backward:
-            return isTyped ? u" <- " : u" ← ";
+            return isTyped() ? u" <- " : u" ← ";
         case FormulaArrow::Both:
             return style_ == Style::Plain ? u" <-> " : u" ⇌ ";
         case FormulaArrow::None:
         case FormulaArrow::Forward:
             break;
         }
-        return isTyped ? u" -> " : u" → ";
+        return isTyped() ? u" -> " : u" → ";
     }
 
     void printSpecies(const FormulaSpecies& species)
@@ -57,7 +59,7 @@ private:
         printFactor(species.factor);
         for (std::uint32_t part = species.first; part < species.end; ++part) {
             if (part > species.first) {
-                text_ += style_ == Style::Unicode ? u"·" : u"*";
+                text_ += dot();
                 printFactor(tree_.parts[part].factor);
             }
             printItems(tree_.parts[part], species.charge != 0);
@@ -69,7 +71,7 @@ private:
         }
         printCharge(species.charge);
         if (species.isRadical) {
-            text_ += style_ == Style::Unicode ? u"·" : u"*";
+            text_ += dot();
         }
         printPhase(species.phase);
     }

@@ -442,9 +442,7 @@ private:
     {
         const auto bracket = static_cast<FormulaBracket>(Openings.find(sign()));
         open_.push_back({static_cast<std::uint32_t>(tree_.items.size()), at_});
-        FormulaItem& group = tree_.items.append();
-        group.bracket = bracket;
-        group.span = spanOfUnits(at_, at_ + 1);
+        tree_.items.append().bracket = bracket;
         last_.reset();
         ++at_;
     }
