@@ -88,7 +88,8 @@ TEST_F(FormulaJudge, FactorsMustBalanceAndBeTheSmallest)
 TEST_F(FormulaJudge, WritesAFormulaAndItsAtoms)
 {
     EXPECT_EQ(formulaMarkup(u"SO4^2-"), u"SO<sub>4</sub><sup>2-</sup>");
-    EXPECT_EQ(formulaMarkup(u"CuSO4*5H2O"), u"CuSO<sub>4</sub>·5H<sub>2</sub>O") << "the dot as one prints it";
+    EXPECT_EQ(formulaMarkup(u"CuSO4*5H2O"), u"CuSO<sub>4</sub>·5H<sub>2</sub>O")
+        << "the dot as one prints it";
     EXPECT_EQ(elementsOf(u"Na2SO4"), u"Sauerstoff, Natrium, Schwefel");
     EXPECT_EQ(balancedMarkup(rust(), {4, 3, 2}), u"4Fe + 3O<sub>2</sub> → 2Fe<sub>2</sub>O<sub>3</sub>");
     EXPECT_EQ(atomsOnBothSides(rust(), {4, 3, 2}),
