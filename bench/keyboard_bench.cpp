@@ -304,7 +304,7 @@ void strikeTermKey(benchmark::State& state, std::int32_t index)
     const auto keys = keyboard.form().control<ctl_Keys>(u"ctl_Keys");
     const auto field = keyboard.form().control<clt_TermInput>(u"txt_Input");
     for (auto _ : state) {
-        keys->CLICK.emit(index);
+        keys->CLICK.raise(index);
         while (field->Term().empty()) {
             QApplication::processEvents();
         }

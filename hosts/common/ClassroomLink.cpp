@@ -100,7 +100,7 @@ void ClassroomLink::become(State state)
 {
     if (state_ != state) {
         state_ = state;
-        Changed.emit();
+        Changed.raise();
     }
 }
 

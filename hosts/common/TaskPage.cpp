@@ -156,7 +156,7 @@ void TaskPage::showTask()
     app_.show(round_->position());
     get<phial::ctl_Button>(u"but_Hint")->Enabled(true);
     showRoundTexts();
-    Shown.emit();
+    Shown.raise();
 }
 
 void TaskPage::sayTask()
@@ -233,7 +233,7 @@ void TaskPage::check()
     say({get<phial::ctl_Label>(u"lab_Feedback")->accessibleText(),
          get<phial::ctl_Label>(u"lab_Hint")->accessibleText()});
     if (!isRepeated_) {
-        Judged.emit(*verdict_);
+        Judged.raise(*verdict_);
     }
 }
 
@@ -289,7 +289,7 @@ void TaskPage::goOn()
         app_.field()->SetFocus();
         sayTask();
     } else {
-        Finished.emit();
+        Finished.raise();
     }
 }
 
@@ -378,7 +378,7 @@ void TaskPage::giveHint()
         app_.retry(); // the next try replaces the wrong one
     }
     say({get<phial::ctl_Label>(u"lab_Hint")->accessibleText()});
-    HintGiven.emit();
+    HintGiven.raise();
 }
 
 } // namespace learning

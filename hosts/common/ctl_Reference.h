@@ -39,7 +39,7 @@ public:
     phial::PartRole role() const override { return phial::PartRole::Grouping; }
     void resized() override;
     void paint() override;
-    void click() override { CLICK.emit(); }
+    void click() override { CLICK.raise(); }
     /// One for each entry of the page.
     std::vector<phial::NamedPart> parts() const override;
 

@@ -359,7 +359,7 @@ std::vector<Sample> tableSamples()
         opened(u"Ionen|Ions",
                [iron](Form& form, ctl_Keys&) {
                    bool isUsed = false;
-                   form.control<ctl_PSE>(u"ctl_PSE")->HELD.emit(iron(form), isUsed);
+                   form.control<ctl_PSE>(u"ctl_PSE")->HELD.raise(iron(form), isUsed);
                }),
         opened(u"Mit Tasten|By keys",
                [](Form& form, ctl_Keys&) { form.control<ctl_PSE>(u"ctl_PSE")->frame().SetFocus(); }),

@@ -91,7 +91,7 @@ void AvatarPicker::select(std::int32_t index)
     parts_.marker->Move(cell.x + CellInset, cell.y + CellInset);
     parts_.marker->Visible(true);
     bringIntoView();
-    Selected.emit();
+    Selected.raise();
 }
 
 void AvatarPicker::bringIntoView()

@@ -124,7 +124,7 @@ void ctl_Avatar::paintUser()
 void ctl_Avatar::click()
 {
     const auto self = shared_from_this(); // a handler may close the window
-    CLICK.emit();
+    CLICK.raise();
     UPDATE();
 }
 

@@ -7,7 +7,7 @@ void CoreRuntimeOptions::SetOption(StringView pName, const Variant& pValue)
 {
     const String name = upperCase(pName);
     options_.insert_or_assign(name, pValue);
-    OPTIONSET.emit(name, pValue);
+    OPTIONSET.raise(name, pValue);
 }
 
 Variant CoreRuntimeOptions::Option(StringView pName) const
@@ -18,7 +18,7 @@ Variant CoreRuntimeOptions::Option(StringView pName) const
 
 void CoreRuntimeOptions::Shutdown()
 {
-    SHUTDOWN.emit();
+    SHUTDOWN.raise();
 }
 
 } // namespace phial

@@ -55,7 +55,7 @@ void CoreTheme::SetColour(ThemeSlot pSlot, phial::Colour pColour)
     }
     colour = pColour;
     ++changes_;
-    CHANGED.emit(pSlot);
+    CHANGED.raise(pSlot);
 }
 
 void CoreTheme::SetColour(ThemeSlot pSlot, StringView pHtml)
@@ -81,7 +81,7 @@ void CoreTheme::tellFrom(ColourSet before)
 {
     if (Colours() != before) {
         ++changes_;
-        COLOURSCHANGED.emit(Colours());
+        COLOURSCHANGED.raise(Colours());
     }
 }
 

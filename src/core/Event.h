@@ -45,9 +45,9 @@ private:
 
 /// An event: handlers run in the order in which they were connected.
 ///
-/// An emission survives whatever its handlers do: a handler that is disconnected meanwhile does not run any
-/// more, one connected meanwhile runs from the next emission on, and the emitter may be destroyed. A
-/// handler's exception ends the emission and passes to the emitter's caller.
+/// A raised event survives whatever its handlers do: a handler that is disconnected meanwhile does not run
+/// any more, one connected meanwhile runs from the next time on, and the event may be destroyed. A handler's
+/// exception ends the emission and passes to the emitter's caller.
 template <typename... Args>
 class Event
 {
@@ -62,15 +62,15 @@ public:
     {
         auto slot = std::make_shared<Slot>(Slot{std::move(handler)});
         slots_->push_back(slot);
-        return Connection([slots = std::weak_ptr<Slots>(slots_), slot] {
+        return Connection([list = std::weak_ptr<Slots>(slots_), slot] {
             slot->connected = false;
-            if (auto list = slots.lock()) {
-                std::erase(*list, slot);
+            if (const auto all = list.lock()) {
+                std::erase(*all, slot);
             }
         });
     }
 
-    void emit(Args... args) const
+    void raise(Args... args) const
     {
         Few few;
         Slots many;
@@ -91,7 +91,7 @@ private:
     using Slots = std::vector<std::shared_ptr<Slot>>;
     using Few = std::array<std::shared_ptr<Slot>, 4>;
 
-    /// The handlers of now, held for an emission; a few take no memory.
+    /// The handlers of now, held for a round; a few take no memory.
     std::span<const std::shared_ptr<Slot>> current(Few& few, Slots& many) const
     {
         if (slots_->size() > few.size()) {

@@ -14,7 +14,7 @@ MemoryKeys::MemoryKeys(DesignedForm& form, CalculatorDisplay& display)
 {
     keys_.adopt();
     keys_.connectEach([this](ctl_Button& key, std::int32_t memory) {
-        return key.CLICK.connect([this, memory] { RECALL.emit(memory); });
+        return key.CLICK.connect([this, memory] { RECALL.raise(memory); });
     });
     keys_.connectEach([this](ctl_Button& key, std::int32_t memory) {
         return key.MouseUp.connect([this, memory](const PointerEvent& event) {

@@ -103,7 +103,7 @@ void HelpPages::awaitCurrent()
     }
     if (!held_[Current].picture) {
         showBox(Current);
-        FAILED.emit();
+        FAILED.raise();
     }
 }
 

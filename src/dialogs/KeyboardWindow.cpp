@@ -236,7 +236,7 @@ void KeyboardWindow::scaleTo(double scale)
         each.control->frame().pixelRectangle(scaled(each.area, scale));
         sizeFont(*each.control, each.fontSize * scale);
     }
-    SCALED.emit();
+    SCALED.raise();
 }
 
 void KeyboardWindow::paintGround()
@@ -277,7 +277,7 @@ void KeyboardWindow::press(const Control& part, const PointerEvent& event)
 void KeyboardWindow::press(std::int32_t touch, std::optional<PixelPoint> at)
 {
     if (isDragged()) {
-        DRAGGED.emit();
+        DRAGGED.raise();
         return;
     }
     if (!at) {
@@ -331,7 +331,7 @@ void KeyboardWindow::followPointer()
     if (!isDragged() && place::isDrag(dragStart_, *at)) {
         dragStart_ = *at;
         cornerAtStart_ = cornerOf(*form_);
-        DRAGGED.emit();
+        DRAGGED.raise();
     }
     if (isDragged()) {
         const PixelPoint corner{at->x - dragStart_.x + cornerAtStart_->x,
@@ -361,7 +361,7 @@ void KeyboardWindow::fitToScreen()
 void KeyboardWindow::confirm()
 {
     if (!isEnding()) {
-        CONFIRMED.emit();
+        CONFIRMED.raise();
     }
 }
 

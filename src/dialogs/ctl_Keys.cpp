@@ -66,7 +66,7 @@ void ctl_Keys::pointerDown(const PointerEvent& event)
     }
     const auto self = weak_from_this().lock();
     isPressTaken_ = true;
-    PRESSED.emit(event);
+    PRESSED.raise(event);
     if (!isPressTaken_) {
         return;
     }
@@ -118,7 +118,7 @@ bool ctl_Keys::pressStrip(const PointerEvent& event)
 void ctl_Keys::pointerMove(const PointerEvent& event)
 {
     const auto self = weak_from_this().lock();
-    MOVED.emit(event);
+    MOVED.raise(event);
     if (!strip_ || stripFinger_ != event.Touch) {
         return;
     }
@@ -148,7 +148,7 @@ void ctl_Keys::pointerUp(const PointerEvent& event)
         waitForHold();
     }
     refresh();
-    RELEASED.emit(event.Touch);
+    RELEASED.raise(event.Touch);
     if (struck) {
         strike(*struck);
     }
@@ -167,7 +167,7 @@ void ctl_Keys::pointerUp(const PointerEvent& event)
 void ctl_Keys::strike(std::int32_t index)
 {
     const auto self = weak_from_this().lock();
-    CLICK.emit(index);
+    CLICK.raise(index);
     refresh();
 }
 
@@ -189,7 +189,7 @@ void ctl_Keys::hold()
     const auto held = hand_->held();
     if (held && repeats(board_->base(held->index))) {
         hand_->use();
-        RELEASED.emit(held->finger);
+        RELEASED.raise(held->finger);
         timer_.Interval(RepeatInterval);
         strike(held->index);
         return;
@@ -200,7 +200,7 @@ void ctl_Keys::hold()
     } else if (held && !held->isUsed && showVariants(held->index)) {
         hand_->use();
         stripFinger_ = held->finger;
-        RELEASED.emit(held->finger);
+        RELEASED.raise(held->finger);
     }
 }
 
@@ -247,7 +247,7 @@ void ctl_Keys::chooseVariant(std::size_t at)
     const auto self = weak_from_this().lock();
     const String text = strip_->variant(at).text;
     closeStrip();
-    VARIANT.emit(text);
+    VARIANT.raise(text);
     refresh();
 }
 
@@ -386,7 +386,7 @@ void ctl_Keys::holdSwitch()
     scan_->press();
     restartScan();
     if (finger) {
-        RELEASED.emit(*finger);
+        RELEASED.raise(*finger);
     }
 }
 

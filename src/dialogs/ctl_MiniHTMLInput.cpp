@@ -104,7 +104,7 @@ void ctl_MiniHTMLInput::makeItem(std::int32_t index)
     connections_ += field->KeyDown.connect([this, index](KeyEvent& event) { pressByKey(index, event); });
     connections_ += field->Change.connect([this, index] {
         if (multiLine_ == (index == 1)) {
-            CHANGED.emit();
+            CHANGED.raise();
         }
     });
 }
@@ -123,7 +123,7 @@ void ctl_MiniHTMLInput::linesChanged()
 {
     takeGivenHeight();
     layOut();
-    CHANGED.emit();
+    CHANGED.raise();
 }
 
 void ctl_MiniHTMLInput::readProperties(const PropertyBag& bag)

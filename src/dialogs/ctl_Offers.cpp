@@ -79,12 +79,12 @@ void ctl_Offers::pointerDown(const PointerEvent& event)
         press_ = Press{event.Touch, *at};
         surface_.invalidate();
     }
-    PRESSED.emit(event);
+    PRESSED.raise(event);
 }
 
 void ctl_Offers::pointerMove(const PointerEvent& event)
 {
-    MOVED.emit(event);
+    MOVED.raise(event);
 }
 
 void ctl_Offers::pointerUp(const PointerEvent& event)
@@ -93,14 +93,14 @@ void ctl_Offers::pointerUp(const PointerEvent& event)
         return;
     }
     const auto self = weak_from_this().lock();
-    RELEASED.emit(event.Touch);
+    RELEASED.raise(event.Touch);
     if (!press_ || press_->finger != event.Touch) {
         return;
     }
     const std::size_t at = press_->cell;
     cancelPress();
     if (!event.isCancelled && cellAt({event.X, event.Y}) == at) {
-        TAKEN.emit(at);
+        TAKEN.raise(at);
     }
 }
 
@@ -166,7 +166,7 @@ void ctl_Offers::previewKey(KeyEvent& event)
         isUsed = isChoice || event.is(Key::Escape);
         choose({});
         if (isChoice) {
-            TAKEN.emit(at);
+            TAKEN.raise(at);
         }
     }
     if (isUsed) {
@@ -229,7 +229,7 @@ std::vector<NamedPart> ctl_Offers::parts() const
 void ctl_Offers::activatePart(std::size_t part)
 {
     if (part < count()) {
-        TAKEN.emit(part);
+        TAKEN.raise(part);
     }
 }
 

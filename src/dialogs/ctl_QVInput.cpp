@@ -126,7 +126,7 @@ void ctl_QVInput::VALUE(const Variant& value)
     } else {
         input_->Text(text);
     }
-    PropertyChanged.emit(u"VALUE");
+    PropertyChanged.raise(u"VALUE");
 }
 
 void ctl_QVInput::modeChanged()
@@ -286,7 +286,7 @@ void ctl_QVInput::settle()
     UPDATE();
     if (input_->Text() != lastText_) {
         lastText_ = input_->Text();
-        CHANGED.emit(VALUE());
+        CHANGED.raise(VALUE());
     }
 }
 

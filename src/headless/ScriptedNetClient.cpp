@@ -19,7 +19,7 @@ bool ScriptedNetClient::receive(const String& text)
 {
     bool handled = false;
     if (receiving_) {
-        RECEIVED.emit(CoreNetMessage(text, u"127.0.0.1", 0), handled);
+        RECEIVED.raise(CoreNetMessage(text, u"127.0.0.1", 0), handled);
     }
     return handled;
 }

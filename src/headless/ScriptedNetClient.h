@@ -41,7 +41,7 @@ public:
     bool send(const String& text) const
     {
         bool handled = false;
-        messages_.emit(text, handled);
+        messages_.raise(text, handled);
         return handled;
     }
     /// Whether `OpenPort` raises an error from now on.

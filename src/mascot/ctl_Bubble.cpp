@@ -69,8 +69,8 @@ ctl_Bubble::ctl_Bubble() : frame_(*this), surface_(*this), label_(makeNamed<ctl_
     surface_.device().MaskColor(BalloonKey);
     label_->BreaksWords(true);
     surface_.children().add(label_);
-    connections_ += label_->Click.connect([this] { CLICK.emit(); });
-    connections_ += label_->DblClick.connect([this] { DBLCLICK.emit(); });
+    connections_ += label_->Click.connect([this] { CLICK.raise(); });
+    connections_ += label_->DblClick.connect([this] { DBLCLICK.raise(); });
     rows::start<Properties>(*this);
 }
 

@@ -95,8 +95,8 @@ public:
     void writeProperties(PropertyBag& bag) override;
     void paint() override;
     void resized() override;
-    void click() override { CLICK.emit(); }
-    void doubleClick() override { DBLCLICK.emit(); }
+    void click() override { CLICK.raise(); }
+    void doubleClick() override { DBLCLICK.raise(); }
 
 private:
     struct Properties;

@@ -520,7 +520,7 @@ void ctl_DrAtom::resized()
 void ctl_DrAtom::click()
 {
     BUBBLECANCEL = true;
-    CLICK.emit();
+    CLICK.raise();
 }
 
 } // namespace phial

@@ -138,10 +138,10 @@ public:
     void ended() override { animation_.Enabled(false); }
     void resized() override;
     void paint() override;
-    void pointerDown(const PointerEvent&) override { MouseDown.emit(); }
-    void pointerUp(const PointerEvent&) override { MouseUp.emit(); }
+    void pointerDown(const PointerEvent&) override { MouseDown.raise(); }
+    void pointerUp(const PointerEvent&) override { MouseUp.raise(); }
     void click() override;
-    void doubleClick() override { DBLCLICK.emit(); }
+    void doubleClick() override { DBLCLICK.raise(); }
 
 private:
     struct Properties;

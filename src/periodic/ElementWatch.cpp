@@ -110,7 +110,7 @@ PixelRectangle ElementWatch::bubbleArea() const
 void ElementWatch::tick()
 {
     const auto table = table_.control().weak_from_this().lock();
-    Ticking.emit();
+    Ticking.raise();
     if (!isWatching()) {
         ticks_ = 0;
         timer_.Enabled(false);

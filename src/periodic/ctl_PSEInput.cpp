@@ -64,7 +64,7 @@ void ctl_PSE::hold()
     const auto element = hover_;
     if (finger_ && element && !isPlacing()) {
         bool isUsed = false;
-        HELD.emit(element, isUsed);
+        HELD.raise(element, isUsed);
         isHoldUsed_ = isUsed;
     }
 }
@@ -186,7 +186,7 @@ void ctl_PSE::release()
     if (hover_) {
         choose(hover_);
     } else if (last_) {
-        CLICKOUTSIDE.emit();
+        CLICKOUTSIDE.raise();
     }
 }
 
@@ -194,11 +194,11 @@ void ctl_PSE::choose(std::shared_ptr<cls_DataElement> element)
 {
     const auto self = weak_from_this().lock();
     if (element == last_) {
-        CLICKAGAIN.emit(element);
+        CLICKAGAIN.raise(element);
         return;
     }
     QVAPP()->MEDIA()->CLICK();
-    CLICK.emit(element);
+    CLICK.raise(element);
     last_ = std::move(element);
 }
 
@@ -256,7 +256,7 @@ void ctl_PSE::finish(const TileHand::Act& act)
     REDRAW();
     frame_.announce(spokenAct(act, sheet_.tiles));
     if (act.deed == Dropped || act.deed == SentHome) {
-        DROPPED.emit(act.slot);
+        DROPPED.raise(act.slot);
     }
 }
 
@@ -385,7 +385,7 @@ bool ctl_PSE::holdCursor()
     if (stop && !isPlacing() && !std::exchange(isHoldTold_, true)) {
         const auto element = sheet_.cells()[stop->part].painted.element;
         bool isUsed = false;
-        HELD.emit(element, isUsed);
+        HELD.raise(element, isUsed);
     }
     return stop.has_value();
 }

@@ -24,13 +24,13 @@ void TrafficLog::add(Moment time, TrafficKind kind, StringView peer, StringView 
     if (lines_.size() > MaxLines) {
         lines_.pop_front();
     }
-    ADDED.emit(line);
+    ADDED.raise(line);
 }
 
 void TrafficLog::clear()
 {
     lines_.clear();
-    CLEARED.emit();
+    CLEARED.raise();
 }
 
 } // namespace phial

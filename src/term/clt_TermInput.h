@@ -102,8 +102,8 @@ public:
     void pointerDown(const PointerEvent& event) override;
     void pointerMove(const PointerEvent& event) override;
     void pointerUp(const PointerEvent& event) override;
-    void click() override { CLICK.emit(); }
-    void doubleClick() override { DBLCLICK.emit(); }
+    void click() override { CLICK.raise(); }
+    void doubleClick() override { DBLCLICK.raise(); }
     void keyDown(KeyEvent& event) override;
     void keyPress(KeyPressEvent& event) override;
     void keyUp(KeyEvent& event) override;

@@ -48,7 +48,7 @@ void clt_TermInput::pointerDown(const PointerEvent& event)
     if (event.Button == PointerButton::Left) {
         pressed_ = event;
     }
-    MouseDown.emit(event);
+    MouseDown.raise(event);
 }
 
 void clt_TermInput::pointerMove(const PointerEvent& event)
@@ -62,13 +62,13 @@ void clt_TermInput::pointerMove(const PointerEvent& event)
         pressed_.reset(); // one drag a press
         OLEDrag();
     }
-    MouseMove.emit(event);
+    MouseMove.raise(event);
 }
 
 void clt_TermInput::pointerUp(const PointerEvent& event)
 {
     pressed_.reset();
-    MouseUp.emit(event);
+    MouseUp.raise(event);
 }
 
 void clt_TermInput::OLEDrag()
@@ -199,9 +199,9 @@ void clt_TermInput::keyUp(KeyEvent& event)
     }
     if (event.is(Key::Return)) {
         ignoringErrors([this] { frame_.SetFocus(); });
-        ENTER.emit();
+        ENTER.raise();
     } else {
-        Cancel.emit();
+        Cancel.raise();
     }
 }
 
@@ -220,7 +220,7 @@ void clt_TermInput::changedBy(bool isChange)
     const auto self = shared_from_this();
     showCaret();
     refresh();
-    CHANGED.emit();
+    CHANGED.raise();
 }
 
 } // namespace phial

@@ -51,7 +51,7 @@ public:
     void shown() override { REDRAW(); }
     void resized() override;
     void paint() override { REDRAW(); }
-    void click() override { CLICK.emit(); }
+    void click() override { CLICK.raise(); }
 
 private:
     struct Properties;

@@ -71,7 +71,7 @@ void ComboBox::ListIndex(std::int32_t value)
     }
     text_ = value < 0 ? String() : items_.line(value);
     frame_.report(ControlAspect::Selection);
-    Click.emit();
+    Click.raise();
 }
 
 void ComboBox::Text(String value)
@@ -88,7 +88,7 @@ void ComboBox::Text(String value)
     if (change(text_, std::move(value))) {
         items_.choose(-1);
         frame_.report(ControlAspect::Text);
-        Change.emit();
+        Change.raise();
     }
 }
 
@@ -102,7 +102,7 @@ void ComboBox::inputText(const String& text)
 {
     if (change(text_, text)) {
         items_.choose(-1);
-        Change.emit();
+        Change.raise();
     }
 }
 
@@ -110,7 +110,7 @@ void ComboBox::inputChoice(std::int32_t index)
 {
     items_.choose(index);
     text_ = index < 0 ? String() : items_.line(index);
-    Click.emit();
+    Click.raise();
 }
 
 } // namespace phial

@@ -52,8 +52,8 @@ public:
     StringView typeName() const override { return u"ComboBox"; }
     MemberTable members() const override;
     ControlFrame& frame() override { return frame_; }
-    void gotFocus() override { GotFocus.emit(); }
-    void lostFocus() override { LostFocus.emit(); }
+    void gotFocus() override { GotFocus.raise(); }
+    void lostFocus() override { LostFocus.raise(); }
 
 private:
     struct Properties;

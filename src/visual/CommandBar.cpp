@@ -33,7 +33,7 @@ MemberTable CommandBarButton::members() const
 
 void CommandBarButton::tellChanged()
 {
-    changed_->emit();
+    changed_->raise();
 }
 
 // One line a setter.
@@ -61,7 +61,7 @@ void CommandBarBody::press(std::int32_t button, const ButtonEvent& event) const
 {
     const auto pressed = buttons_->Item(button);
     if (pressed->Enabled() && pressed->Visible()) {
-        event.emit(frame_.Index(), pressed->Key());
+        event.raise(frame_.Index(), pressed->Key());
     }
 }
 

@@ -15,7 +15,7 @@ void Font::change(Value& field, Value value)
         return;
     }
     field = std::move(value);
-    changed.emit();
+    changed.raise();
 }
 
 void Font::Name(String value)

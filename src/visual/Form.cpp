@@ -133,7 +133,7 @@ void Form::take(double left, double top, double width, double height)
     }
     if (place(left, top, width, height)) {
         report(FormAspect::Geometry);
-        Resize.emit();
+        Resize.raise();
     } else {
         report(FormAspect::Geometry);
     }
@@ -182,7 +182,7 @@ void Form::Zoom(double value)
     }
     zoom_ = value;
     report(FormAspect::Zoom);
-    Resize.emit();
+    Resize.raise();
 }
 
 void Form::leastSize(PixelSize value)
@@ -274,7 +274,7 @@ void Form::load()
     loaded_ = true;
     aborting_ = false;
     visualHost().forms().loaded(shared_from_this());
-    Load.emit();
+    Load.raise();
 }
 
 void Form::Show(FormShow how)
@@ -341,7 +341,7 @@ void Form::openWindow(FormShow how)
         centre();
     }
     peer_ = host.openWindow(*this, how == FormShow::Modal);
-    Resize.emit();
+    Resize.raise();
     tellSeen();
     inputActivate();
     focusFirst();
@@ -427,9 +427,9 @@ bool Form::Unload()
     const auto self = shared_from_this();
     closing_ = true;
     bool refused = false;
-    QueryUnload.emit(refused);
+    QueryUnload.raise(refused);
     if (!refused) {
-        Unloading.emit(refused);
+        Unloading.raise(refused);
     }
     if (!refused) {
         finishUnload();
@@ -460,7 +460,7 @@ void Form::finishUnload()
             timer->Enabled(false);
         }
     }
-    Unloaded.emit();
+    Unloaded.raise();
 }
 
 void Form::hostEnds()
@@ -505,7 +505,7 @@ Variant translate(Object& form, std::span<const Variant> /*arguments*/)
     if (!handlers.hasHandlers()) {
         throw RuntimeError(ErrorNumber::NoSuchMember);
     }
-    handlers.emit();
+    handlers.raise();
     return {};
 }
 

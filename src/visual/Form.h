@@ -229,11 +229,11 @@ public:
     bool inputKeyDown(KeyEvent& event);
     bool inputKeyPress(KeyPressEvent& event);
     bool inputKeyUp(KeyEvent& event);
-    void inputPointerDown(const PointerEvent& event) { MouseDown.emit(event); }
-    void inputPointerMove(const PointerEvent& event) { MouseMove.emit(event); }
-    void inputPointerUp(const PointerEvent& event) { MouseUp.emit(event); }
-    void inputClick() { Click.emit(); }
-    void inputDoubleClick() { DblClick.emit(); }
+    void inputPointerDown(const PointerEvent& event) { MouseDown.raise(event); }
+    void inputPointerMove(const PointerEvent& event) { MouseMove.raise(event); }
+    void inputPointerUp(const PointerEvent& event) { MouseUp.raise(event); }
+    void inputClick() { Click.raise(); }
+    void inputDoubleClick() { DblClick.raise(); }
 
     FormPeer* peer() const { return peer_.get(); }
 

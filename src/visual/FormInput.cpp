@@ -38,7 +38,7 @@ void Form::inputActivate()
     forms.activated(self);
     if (!activateTold_) {
         activateTold_ = true;
-        Activate.emit();
+        Activate.raise();
     }
 }
 
@@ -52,7 +52,7 @@ void Form::inputDeactivate()
     visualHost().forms().deactivated(*this);
     if (activateTold_ && !closing_ && !aborting_ && ownDialogs_ == 0) {
         activateTold_ = false;
-        Deactivate.emit();
+        Deactivate.raise();
     }
 }
 
@@ -60,7 +60,7 @@ void Form::inputGeometry(double left, double top, double width, double height)
 {
     hasPlace_ = hasPlace_ || left != left_ || top != top_;
     if (place(left, top, width, height)) {
-        Resize.emit();
+        Resize.raise();
     }
 }
 
@@ -105,7 +105,7 @@ bool Form::inputKeyDown(KeyEvent& event)
     }
     const auto self = shared_from_this();
     if (keyPreview_) {
-        KeyDown.emit(event);
+        KeyDown.raise(event);
     }
     const ControlPtr active = focus_.field();
     if (active && event.KeyCode != 0 && active->frame().Enabled()) {
@@ -147,7 +147,7 @@ bool Form::inputKeyPress(KeyPressEvent& event)
 {
     const auto self = shared_from_this();
     if (keyPreview_) {
-        KeyPress.emit(event);
+        KeyPress.raise(event);
     }
     const ControlPtr active = focus_.field();
     if (active && event.KeyAscii != 0 && active->frame().Enabled()) {
@@ -160,7 +160,7 @@ bool Form::inputKeyUp(KeyEvent& event)
 {
     const auto self = shared_from_this();
     if (keyPreview_) {
-        KeyUp.emit(event);
+        KeyUp.raise(event);
     }
     const ControlPtr active = focus_.field();
     if (active && event.KeyCode != 0 && active->frame().Enabled()) {

@@ -56,7 +56,7 @@ void ListBox::ListIndex(std::int32_t value)
 {
     if (items_.choose(value)) {
         frame_.report(ControlAspect::Selection);
-        Click.emit();
+        Click.raise();
     }
 }
 
@@ -74,7 +74,7 @@ void ListBox::BackColor(Colour value) { rows::set<Properties, u"BackColor">(*thi
 void ListBox::inputChoice(std::int32_t index)
 {
     items_.choose(index);
-    Click.emit();
+    Click.raise();
 }
 
 } // namespace phial

@@ -48,10 +48,10 @@ public:
     StringView typeName() const override { return u"ListBox"; }
     MemberTable members() const override;
     ControlFrame& frame() override { return frame_; }
-    void doubleClick() override { DblClick.emit(); }
-    void keyDown(KeyEvent& event) override { KeyDown.emit(event); }
-    void gotFocus() override { GotFocus.emit(); }
-    void lostFocus() override { LostFocus.emit(); }
+    void doubleClick() override { DblClick.raise(); }
+    void keyDown(KeyEvent& event) override { KeyDown.raise(event); }
+    void gotFocus() override { GotFocus.raise(); }
+    void lostFocus() override { LostFocus.raise(); }
 
 private:
     struct Properties;

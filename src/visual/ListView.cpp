@@ -36,7 +36,7 @@ MemberTable ListColumn::members() const
 
 void ListColumn::tellChanged()
 {
-    changed_->emit();
+    changed_->raise();
 }
 
 // One line a setter.
@@ -70,7 +70,7 @@ MemberTable ListRow::members() const
 
 void ListRow::tellChanged()
 {
-    changed_->emit();
+    changed_->raise();
 }
 
 // One line a setter.
@@ -109,7 +109,7 @@ void ListRow::Cell(std::int32_t column, String value)
     const auto at = static_cast<std::size_t>(column - 2);
     further_.resize(std::max(further_.size(), at + 1));
     further_[at] = std::move(value);
-    changed_->emit();
+    changed_->raise();
 }
 
 String ListRow::Spoken(std::int32_t column) const
@@ -125,7 +125,7 @@ void ListRow::Spoken(std::int32_t column, String value)
     const auto at = static_cast<std::size_t>(column - 1);
     spoken_.resize(std::max(spoken_.size(), at + 1));
     spoken_[at] = std::move(value);
-    changed_->emit();
+    changed_->raise();
 }
 
 struct ListView::Properties {
@@ -169,13 +169,13 @@ void ListView::ListIndex(std::int32_t value)
     }
     chosen_ = value == 0 ? nullptr : rows_->Item(value);
     frame_.report(ControlAspect::Selection);
-    Click.emit();
+    Click.raise();
 }
 
 void ListView::inputChoice(std::int32_t row)
 {
     chosen_ = rows_->Item(row);
-    Click.emit();
+    Click.raise();
 }
 
 // One line a setter.

@@ -123,15 +123,15 @@ public:
 
     /// The user has chosen a row (again: raises Click all the same) or pressed a header.
     void inputChoice(std::int32_t row);
-    void inputColumn(std::int32_t column) { ColumnClick.emit(column); }
+    void inputColumn(std::int32_t column) { ColumnClick.raise(column); }
 
     StringView typeName() const override { return u"ListView"; }
     MemberTable members() const override;
     ControlFrame& frame() override { return frame_; }
-    void doubleClick() override { DblClick.emit(); }
-    void keyDown(KeyEvent& event) override { KeyDown.emit(event); }
-    void gotFocus() override { GotFocus.emit(); }
-    void lostFocus() override { LostFocus.emit(); }
+    void doubleClick() override { DblClick.raise(); }
+    void keyDown(KeyEvent& event) override { KeyDown.raise(event); }
+    void gotFocus() override { GotFocus.raise(); }
+    void lostFocus() override { LostFocus.raise(); }
 
 private:
     struct Properties;

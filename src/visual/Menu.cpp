@@ -150,16 +150,16 @@ void Menu::inputClick()
         return;
     }
     const auto self = shared_from_this(); // a handler may take the entry away
-    Click.emit(index_);
+    Click.raise(index_);
     for (Menu* menu = above_; menu; menu = menu->above_) {
-        menu->Chosen.emit(*this);
+        menu->Chosen.raise(*this);
     }
 }
 
 void Menu::report()
 {
     for (Menu* menu = this; menu; menu = menu->above_) {
-        menu->changed.emit();
+        menu->changed.raise();
     }
 }
 

@@ -28,19 +28,19 @@ public:
     std::shared_ptr<Part> Add(Args&&... args)
     {
         parts_.push_back(std::make_shared<Part>(std::forward<Args>(args)..., changed_));
-        changed_->emit();
+        changed_->raise();
         return parts_.back();
     }
     /// Raises 9 outside.
     void RemoveAt(std::int32_t index)
     {
         parts_.erase(parts_.begin() + static_cast<std::ptrdiff_t>(checked(index)));
-        changed_->emit();
+        changed_->raise();
     }
     void Clear()
     {
         parts_.clear();
-        changed_->emit();
+        changed_->raise();
     }
     /// Raised when parts come, go or look different.
     Event<>& changed() { return *changed_; }

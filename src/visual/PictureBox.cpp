@@ -112,14 +112,14 @@ void PictureBox::paint()
 {
     layBackground();
     if (!AutoRedraw()) {
-        Paint.emit();
+        Paint.raise();
     }
 }
 
 void PictureBox::resized()
 {
     surface_.resized();
-    Resize.emit();
+    Resize.raise();
 }
 
 } // namespace phial

@@ -77,20 +77,20 @@ public:
     Container* container() override { return &surface_.children(); }
     void paint() override;
     void resized() override;
-    void pointerDown(const PointerEvent& event) override { MouseDown.emit(event); }
-    void pointerMove(const PointerEvent& event) override { MouseMove.emit(event); }
-    void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
-    void wheel(WheelEvent& event) override { MouseWheel.emit(event); }
-    void click() override { Click.emit(); }
-    void doubleClick() override { DblClick.emit(); }
-    void keyDown(KeyEvent& event) override { KeyDown.emit(event); }
-    void keyPress(KeyPressEvent& event) override { KeyPress.emit(event); }
-    void keyUp(KeyEvent& event) override { KeyUp.emit(event); }
-    void composing() override { Composing.emit(); }
-    void gotFocus() override { GotFocus.emit(); }
-    void lostFocus() override { LostFocus.emit(); }
-    void dragDrop(Control& source, double x, double y) override { DragDrop.emit(source, x, y); }
-    void textDropped(const String& text) override { TextDropped.emit(text); }
+    void pointerDown(const PointerEvent& event) override { MouseDown.raise(event); }
+    void pointerMove(const PointerEvent& event) override { MouseMove.raise(event); }
+    void pointerUp(const PointerEvent& event) override { MouseUp.raise(event); }
+    void wheel(WheelEvent& event) override { MouseWheel.raise(event); }
+    void click() override { Click.raise(); }
+    void doubleClick() override { DblClick.raise(); }
+    void keyDown(KeyEvent& event) override { KeyDown.raise(event); }
+    void keyPress(KeyPressEvent& event) override { KeyPress.raise(event); }
+    void keyUp(KeyEvent& event) override { KeyUp.raise(event); }
+    void composing() override { Composing.raise(); }
+    void gotFocus() override { GotFocus.raise(); }
+    void lostFocus() override { LostFocus.raise(); }
+    void dragDrop(Control& source, double x, double y) override { DragDrop.raise(source, x, y); }
+    void textDropped(const String& text) override { TextDropped.raise(text); }
 
 private:
     struct Properties;

@@ -129,7 +129,7 @@ void changed(OwnerOf<Properties>& object)
         self = object.weak_from_this().lock();
     }
     if constexpr (row.isTold && std::derived_from<Owner, UserControl>) {
-        object.PropertyChanged.emit(String(row.name));
+        object.PropertyChanged.raise(String(row.name));
     }
     takeEffect<Properties, At>(object);
     if constexpr (row.isSpoken) {

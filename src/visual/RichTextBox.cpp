@@ -39,7 +39,7 @@ void RichTextBox::Text(String value)
     selStart_ = 0;
     selLength_ = 0;
     frame_.report(ControlAspect::Text);
-    Change.emit();
+    Change.raise();
 }
 
 String RichTextBox::TextRTF() const
@@ -79,7 +79,7 @@ void RichTextBox::inputText(const String& text, std::int32_t selStart, std::int3
     selStart_ = selection.start;
     selLength_ = selection.length;
     if (differs) {
-        Change.emit();
+        Change.raise();
     }
 }
 

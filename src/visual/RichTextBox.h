@@ -48,12 +48,12 @@ public:
     MemberTable members() const override;
     ControlFrame& frame() override { return frame_; }
     bool wantsKey(Key key) const override { return key == Key::Return; }
-    void click() override { Click.emit(); }
-    void keyDown(KeyEvent& event) override { KeyDown.emit(event); }
-    void keyPress(KeyPressEvent& event) override { KeyPress.emit(event); }
-    void keyUp(KeyEvent& event) override { KeyUp.emit(event); }
-    void gotFocus() override { GotFocus.emit(); }
-    void lostFocus() override { LostFocus.emit(); }
+    void click() override { Click.raise(); }
+    void keyDown(KeyEvent& event) override { KeyDown.raise(event); }
+    void keyPress(KeyPressEvent& event) override { KeyPress.raise(event); }
+    void keyUp(KeyEvent& event) override { KeyUp.raise(event); }
+    void gotFocus() override { GotFocus.raise(); }
+    void lostFocus() override { LostFocus.raise(); }
 
 private:
     struct Properties;

@@ -63,7 +63,7 @@ void ScrollBar::Value(std::int32_t value)
     }
     if (change(value_, value)) {
         frame_.report(ControlAspect::Value);
-        Change.emit();
+        Change.raise();
     }
 }
 
@@ -76,14 +76,14 @@ void ScrollBar::LargeChange(std::int32_t value) { rows::set<Properties, u"LargeC
 void ScrollBar::inputScroll(std::int32_t value)
 {
     if (change(value_, limited(value))) {
-        Scroll.emit();
+        Scroll.raise();
     }
 }
 
 void ScrollBar::inputValue(std::int32_t value)
 {
     value_ = limited(value);
-    Change.emit();
+    Change.raise();
 }
 
 } // namespace phial

@@ -43,7 +43,7 @@ void TextBox::Text(String value)
     selStart_ = 0;
     selLength_ = 0;
     frame_.report(ControlAspect::Text);
-    Change.emit();
+    Change.raise();
 }
 
 void TextBox::SelStart(std::int32_t value)
@@ -84,7 +84,7 @@ void TextBox::SelText(StringView value)
     const bool differs = change(text_, std::move(text));
     frame_.report(differs ? ControlAspect::Text : ControlAspect::Selection);
     if (differs) {
-        Change.emit();
+        Change.raise();
     }
 }
 
@@ -108,7 +108,7 @@ void TextBox::inputText(const String& text, std::int32_t selStart, std::int32_t 
     selStart_ = selection.start;
     selLength_ = selection.length;
     if (differs) {
-        Change.emit();
+        Change.raise();
     }
 }
 

@@ -75,15 +75,15 @@ public:
     ControlFrame& frame() override { return frame_; }
     String accessibleText() const override { return {}; }
     bool wantsKey(Key key) const override { return multiLine_ && acceptsReturn_ && key == Key::Return; }
-    void pointerDown(const PointerEvent& event) override { MouseDown.emit(event); }
-    void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
-    void click() override { Click.emit(); }
-    void doubleClick() override { DblClick.emit(); }
-    void keyDown(KeyEvent& event) override { KeyDown.emit(event); }
-    void keyPress(KeyPressEvent& event) override { KeyPress.emit(event); }
-    void keyUp(KeyEvent& event) override { KeyUp.emit(event); }
-    void gotFocus() override { GotFocus.emit(); }
-    void lostFocus() override { LostFocus.emit(); }
+    void pointerDown(const PointerEvent& event) override { MouseDown.raise(event); }
+    void pointerUp(const PointerEvent& event) override { MouseUp.raise(event); }
+    void click() override { Click.raise(); }
+    void doubleClick() override { DblClick.raise(); }
+    void keyDown(KeyEvent& event) override { KeyDown.raise(event); }
+    void keyPress(KeyPressEvent& event) override { KeyPress.raise(event); }
+    void keyUp(KeyEvent& event) override { KeyUp.raise(event); }
+    void gotFocus() override { GotFocus.raise(); }
+    void lostFocus() override { LostFocus.raise(); }
 
 private:
     struct Properties;

@@ -44,7 +44,7 @@ void Timer::start()
 {
     running_.disconnect();
     if (interval_ > 0) {
-        running_ = SessionState::current().platform().pump->startTimer(interval_, [this] { Tick.emit(); });
+        running_ = SessionState::current().platform().pump->startTimer(interval_, [this] { Tick.raise(); });
     }
 }
 

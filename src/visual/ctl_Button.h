@@ -35,10 +35,10 @@ public:
     MemberTable members() const override;
     ControlFrame& frame() override { return frame_; }
     String accessibleText() const override { return caption_; }
-    void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
-    void click() override { CLICK.emit(); }
-    void gotFocus() override { GotFocus.emit(); }
-    void lostFocus() override { LostFocus.emit(); }
+    void pointerUp(const PointerEvent& event) override { MouseUp.raise(event); }
+    void click() override { CLICK.raise(); }
+    void gotFocus() override { GotFocus.raise(); }
+    void lostFocus() override { LostFocus.raise(); }
 
 private:
     struct Properties;

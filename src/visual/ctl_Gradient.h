@@ -32,7 +32,7 @@ public:
     void writeProperties(PropertyBag& bag) override;
     void paint() override;
     void resized() override { surface_.resized(); }
-    void click() override { CLICK.emit(); }
+    void click() override { CLICK.raise(); }
 
 private:
     struct Properties;

@@ -58,11 +58,11 @@ public:
     void writeProperties(PropertyBag& bag) override;
     void paint() override;
     void resized() override;
-    void pointerDown(const PointerEvent& event) override { MouseDown.emit(event); }
-    void pointerMove(const PointerEvent& event) override { MouseMove.emit(event); }
-    void pointerUp(const PointerEvent& event) override { MouseUp.emit(event); }
-    void click() override { Click.emit(); }
-    void doubleClick() override { DblClick.emit(); }
+    void pointerDown(const PointerEvent& event) override { MouseDown.raise(event); }
+    void pointerMove(const PointerEvent& event) override { MouseMove.raise(event); }
+    void pointerUp(const PointerEvent& event) override { MouseUp.raise(event); }
+    void click() override { Click.raise(); }
+    void doubleClick() override { DblClick.raise(); }
 
 private:
     struct Properties;

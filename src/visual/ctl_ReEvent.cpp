@@ -30,7 +30,7 @@ MemberTable ctl_ReEvent::members() const
 
 void ctl_ReEvent::REPEAT(const String& pName, const Variant::Array& pArguments)
 {
-    REPEATED.emit(pName, pArguments);
+    REPEATED.raise(pName, pArguments);
 }
 
 } // namespace phial

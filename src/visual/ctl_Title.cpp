@@ -73,7 +73,7 @@ std::vector<NamedPart> ctl_Title::parts() const
 void ctl_Title::activatePart(std::size_t part)
 {
     if (closable_ && part == 0) {
-        CLOSE.emit();
+        CLOSE.raise();
     }
 }
 
@@ -107,7 +107,7 @@ void ctl_Title::pointerUp(const PointerEvent& event)
 {
     const bool closing = std::exchange(pressed_, false) && closeArea().contains({event.X, event.Y});
     if (closing) {
-        CLOSE.emit();
+        CLOSE.raise();
     }
 }
 

@@ -16,7 +16,7 @@ TEST(EventTest, HandlersRunInTheOrderOfConnection)
     std::string order;
     const Connection first = event.connect([&](int value) { order += "a" + std::to_string(value); });
     const Connection second = event.connect([&](int value) { order += "b" + std::to_string(value); });
-    event.emit(1);
+    event.raise(1);
     EXPECT_EQ(order, "a1b1");
 }
 
@@ -26,9 +26,9 @@ TEST(EventTest, AConnectionEndsWithItsScope)
     int runs = 0;
     {
         const Connection connection = event.connect([&] { ++runs; });
-        event.emit();
+        event.raise();
     }
-    event.emit();
+    event.raise();
     EXPECT_EQ(runs, 1);
     EXPECT_FALSE(event.hasHandlers());
 }
@@ -40,7 +40,7 @@ TEST(EventTest, AHandlerDisconnectedMeanwhileDoesNotRun)
     Connection second;
     const Connection first = event.connect([&] { second.disconnect(); });
     second = event.connect([&] { ++runs; });
-    event.emit();
+    event.raise();
     EXPECT_EQ(runs, 0);
 }
 
@@ -50,9 +50,9 @@ TEST(EventTest, AHandlerConnectedMeanwhileRunsFromTheNextEmissionOn)
     int runs = 0;
     Connections inner;
     const Connection outer = event.connect([&] { inner += event.connect([&] { ++runs; }); });
-    event.emit();
+    event.raise();
     EXPECT_EQ(runs, 0);
-    event.emit();
+    event.raise();
     EXPECT_EQ(runs, 1);
 }
 
@@ -62,7 +62,7 @@ TEST(EventTest, AHandlerMayDestroyTheEmitter)
     int runs = 0;
     const Connection first = event->connect([&] { event.reset(); });
     const Connection second = event->connect([&] { ++runs; });
-    event->emit();
+    event->raise();
     EXPECT_EQ(event, nullptr);
     EXPECT_EQ(runs, 1);
 }
@@ -76,8 +76,8 @@ TEST(EventTest, AHandlerMayEndItsOwnConnection)
         ++runs;
         connection.disconnect();
     });
-    event.emit();
-    event.emit();
+    event.raise();
+    event.raise();
     EXPECT_EQ(runs, 1);
 }
 
@@ -87,7 +87,7 @@ TEST(EventTest, AnExceptionEndsTheEmission)
     int runs = 0;
     const Connection first = event.connect([] { throw std::runtime_error("handler"); });
     const Connection second = event.connect([&] { ++runs; });
-    EXPECT_THROW(event.emit(), std::runtime_error);
+    EXPECT_THROW(event.raise(), std::runtime_error);
     EXPECT_EQ(runs, 0);
 }
 

@@ -48,7 +48,7 @@ TEST_F(DialogHelpImages, BearsItsTitle)
 TEST_F(DialogHelpImages, IsClosedByItsHeader)
 {
     open();
-    form.control<ctl_Title>(u"bar_Header")->CLOSE.emit();
+    form.control<ctl_Title>(u"bar_Header")->CLOSE.raise();
     EXPECT_FALSE(form.Visible());
 }
 
@@ -128,7 +128,7 @@ TEST_F(DialogHelpImages, ReadsAPictureOnceForAsLongAsTheViewKeepsItsSize)
     put("01.gif", {2000, 400});
     open();
     const PicturePtr wide = page(1).Picture();
-    form.Resize.emit();
+    form.Resize.raise();
     EXPECT_EQ(page(1).Picture(), wide);
     form.innerSize({900, 560});
     EXPECT_EQ(page(1).Width(), 900);

@@ -380,7 +380,7 @@ TEST_F(DialogKeyboardPSE, ReturnAndLeavingItConfirm)
     frm_DialogKeyboardPSE left;
     left.TargetControl(target);
     left.form().Show();
-    left.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.emit(table_keys::Three);
+    left.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.raise(table_keys::Three);
     outside.runPending();
     left.form().inputDeactivate();
     EXPECT_TRUE(left.Accepted());

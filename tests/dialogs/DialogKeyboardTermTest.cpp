@@ -142,8 +142,8 @@ TEST_F(DialogKeyboardTerm, AProgramGivesFreeKeysAMeaning)
     const auto pad = own.form().control<ctl_Keys>(u"ctl_Keys");
     const auto term = own.form().control<clt_TermInput>(u"txt_Input");
     EXPECT_EQ(pad->board().face(term_key_layout::FirstFreeKey).text, u"→");
-    pad->CLICK.emit(term_key_layout::FirstFreeKey);
-    pad->CLICK.emit(term_key_layout::SecondFreeKey);
+    pad->CLICK.raise(term_key_layout::FirstFreeKey);
+    pad->CLICK.raise(term_key_layout::SecondFreeKey);
     outside.runPending();
     EXPECT_EQ(term->Term(), u"->()/()");
     EXPECT_EQ(term->CARET(), 3) << "in the numerator";
@@ -227,7 +227,7 @@ TEST_F(DialogKeyboardTerm, VariantsDoNothingToALockedTerm)
     target->LOCKED(true);
     open(target);
     field()->CARET(0);
-    keyPad()->VARIANT.emit(u"Na");
+    keyPad()->VARIANT.raise(u"Na");
     EXPECT_EQ(field()->Term(), u"H");
     EXPECT_EQ(field()->CARET(), 0);
 }
@@ -236,7 +236,7 @@ TEST_F(DialogKeyboardTerm, AVariantTakesShiftBack)
 {
     openWith(u"");
     tap(term_keys_of::Shift);
-    keyPad()->VARIANT.emit(u"Na");
+    keyPad()->VARIANT.raise(u"Na");
     EXPECT_EQ(keyPad()->board().state(Modifier::Shift), KeyState::Off);
     EXPECT_EQ(field()->Term(), u"Na");
 }
@@ -244,7 +244,7 @@ TEST_F(DialogKeyboardTerm, AVariantTakesShiftBack)
 TEST_F(DialogKeyboardTerm, VariantsAndClearingAreUndoneAtOnce)
 {
     openWith(u"H");
-    keyPad()->VARIANT.emit(u"Na");
+    keyPad()->VARIANT.raise(u"Na");
     type(u"^z");
     EXPECT_EQ(field()->Term(), u"H");
     type(u"^y");
@@ -537,7 +537,7 @@ TEST_F(DialogKeyboardTerm, CrossAndEscapeGiveUp)
         frm_DialogKeyboardTerm own;
         own.TargetControl(target);
         own.form().Show();
-        own.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.emit(term_keys_of::Two);
+        own.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.raise(term_keys_of::Two);
         outside.runPending();
         if (end == u"cross") {
             headless::click(*own.form().control<ctl_Button>(u"but_Close"));

@@ -147,7 +147,7 @@ TEST_F(DialogKeyboardTest, ALineHasToFitIntoTheGreatestLength)
 TEST_F(DialogKeyboardTest, AVariantIsTypedAsItIs)
 {
     open(target<TextBox>());
-    keyPad()->VARIANT.emit(u"à");
+    keyPad()->VARIANT.raise(u"à");
     outside.runPending();
     EXPECT_EQ(input()->Text(), u"à");
 }

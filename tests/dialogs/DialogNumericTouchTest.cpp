@@ -206,13 +206,13 @@ TEST_F(DialogNumericTouch, SignAndNumbersFollowTheLocale)
     EXPECT_EQ(field->Text(), u"2.75");
     EXPECT_EQ(board->board().face(pad_keys::Sign).text, u".");
     for (const std::int32_t key : {pad_keys::Five, pad_keys::Sign, pad_keys::Zero}) {
-        board->CLICK.emit(key);
+        board->CLICK.raise(key);
     }
     EXPECT_EQ(field->Text(), u"5.0");
-    board->CLICK.emit(pad_keys::Backspace);
+    board->CLICK.raise(pad_keys::Backspace);
     EXPECT_EQ(field->Text(), u"5");
     field->Text(u"1,5");
-    board->CLICK.emit(pad_keys::Ok);
+    board->CLICK.raise(pad_keys::Ok);
     EXPECT_EQ(target->Text(), u"1.5");
     outside.advance(0.11);
 }
@@ -333,9 +333,9 @@ TEST_F(DialogNumericTouch, ReadsWhatIsNoNumberYet)
         own.form().Show();
         const auto board = own.form().control<ctl_Keys>(u"ctl_Keys");
         for (const std::int32_t key : keys) {
-            board->CLICK.emit(key);
+            board->CLICK.raise(key);
         }
-        board->CLICK.emit(pad_keys::Ok);
+        board->CLICK.raise(pad_keys::Ok);
         outside.advance(0.11);
         EXPECT_TRUE(own.Accepted());
         return target->Text();
@@ -357,7 +357,7 @@ TEST_F(DialogNumericTouch, ReturnAndLeavingItConfirmToo)
     frm_DialogNumericTouch left;
     left.TargetControl(target);
     left.form().Show();
-    left.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.emit(pad_keys::Seven);
+    left.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.raise(pad_keys::Seven);
     left.form().inputDeactivate();
     EXPECT_EQ(target->Text(), u"7");
     EXPECT_TRUE(left.Accepted());
@@ -373,7 +373,7 @@ TEST_F(DialogNumericTouch, CrossAndEscapeGiveUp)
         frm_DialogNumericTouch own;
         own.TargetControl(target);
         own.form().Show();
-        own.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.emit(pad_keys::Seven);
+        own.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.raise(pad_keys::Seven);
         if (end == u"cross") {
             headless::click(*own.form().control<ctl_Button>(u"but_Close"));
         } else {
@@ -424,8 +424,8 @@ TEST_F(DialogNumericTouch, WritesToTermsCaptionsAndRichText)
         frm_DialogNumericTouch own;
         own.TargetControl(target);
         own.form().Show();
-        own.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.emit(pad_keys::Five);
-        own.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.emit(pad_keys::Ok);
+        own.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.raise(pad_keys::Five);
+        own.form().control<ctl_Keys>(u"ctl_Keys")->CLICK.raise(pad_keys::Ok);
         outside.advance(0.11);
     };
     const auto term = host->add<clt_TermInput>(u"term");

@@ -413,12 +413,12 @@ TEST_F(HighscoreWindow, UnderstandsItsCommandsInAnyCase)
 {
     for (const auto* key : {u"dialog.ok();", u"Dialog.Accept();", u"DIALOG.ACCEPT();"}) {
         show([&] {
-            bar()->BUTTON.emit(-1, key);
+            bar()->BUTTON.raise(-1, key);
             EXPECT_FALSE(window->isLoaded());
         });
     }
     show([&] {
-        bar()->BUTTON.emit(-1, u"DIALOG.OTHER();");
+        bar()->BUTTON.raise(-1, u"DIALOG.OTHER();");
         EXPECT_TRUE(window->isLoaded());
     });
 }
@@ -491,7 +491,7 @@ TEST_F(HighscoreWindow, RaisesWhatIsMissingOnThePageBefore)
     show([&] {
         press(*more());
         list.CLEAR();
-        EXPECT_RAISES(less()->CLICK.emit(), IndexOutOfBounds);
+        EXPECT_RAISES(less()->CLICK.raise(), IndexOutOfBounds);
     });
 }
 

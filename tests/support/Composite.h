@@ -31,9 +31,9 @@ public:
     PaintSurface& surface() override { return surface_; }
     Container* container() override { return &surface_.children(); }
     void paint() override {}
-    void ended() override { ENDED.emit(); }
-    void gotFocus() override { GotFocus.emit(); }
-    void lostFocus() override { LostFocus.emit(); }
+    void ended() override { ENDED.raise(); }
+    void gotFocus() override { GotFocus.raise(); }
+    void lostFocus() override { LostFocus.raise(); }
 
     Event<> GotFocus;
     Event<> LostFocus;

@@ -89,7 +89,7 @@ void InterComReceiver::read(QLocalSocket& socket)
     socket.disconnect(server_.get()); // a handler may run events; nothing is read twice
     socket.readAll();
     const auto guard = guard_; // a handler may end this receiver
-    guard->run([&] { RECEIVED.emit(message.number, message.text); });
+    guard->run([&] { RECEIVED.raise(message.number, message.text); });
 }
 
 } // namespace phial::qt

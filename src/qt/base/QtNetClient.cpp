@@ -234,7 +234,7 @@ void QtNetClient::Exchange::tell(const CoreNetMessage& message)
 {
     if (client_ != nullptr && receiving_) {
         bool handled = false;
-        guard_->run([&] { client_->RECEIVED.emit(message, handled); });
+        guard_->run([&] { client_->RECEIVED.raise(message, handled); });
     }
 }
 
