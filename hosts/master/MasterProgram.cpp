@@ -157,7 +157,7 @@ ExitStatus serve(const Options& options, Room& room, const StorePlace& place,
     }
     tellWhereItListens(server, address.address);
     tell(std::cout, u"Gespeichert wird in {1}", u"Everything is kept in {1}", {fromUtf8(place.shown())});
-    const EndSignals signals([] { QCoreApplication::quit(); });
+    const EndSignals ends([] { QCoreApplication::quit(); });
     if (!options.serve) {
         rDialogue.emplace(room.console(), guard);
     }
