@@ -52,8 +52,21 @@ TEST(FormulaComposition, AddsUpTheMass)
     EXPECT_NEAR(*mass(u"CuSO4*5H2O"), 249.677, 1e-9);
     EXPECT_NEAR(*mass(u"3H2O"), 18.015, 1e-9) << "of one formula";
     EXPECT_NEAR(*mass(u"D2O"), 2 * 2.0141 + 15.999, 1e-9);
+    EXPECT_NEAR(*mass(u"T2O"), 2 * 3.0160 + 15.999, 1e-9);
     EXPECT_NEAR(*mass(u"^18O"), 18, 1e-9);
+    EXPECT_NEAR(*mass(u"^3He"), 3, 1e-9) << "the mass number, where no exact mass is known";
     EXPECT_EQ(mass(u"NaCl"), std::nullopt) << "sodium is not in the table";
+}
+
+TEST(FormulaComposition, WritesHillsOrder)
+{
+    const auto hill = [](StringView text) {
+        const FormulaTree tree = formula(text);
+        return hillFormula(tree, tree.species.front());
+    };
+    EXPECT_EQ(hill(u"CHCl3"), u"CHCl3") << "hydrogen behind carbon";
+    EXPECT_EQ(hill(u"HCl"), u"ClH") << "by the alphabet without carbon";
+    EXPECT_EQ(hill(u"^1HCl"), u"Cl^1H");
 }
 
 TEST(FormulaComposition, TellsTheSharesOfTheMass)
