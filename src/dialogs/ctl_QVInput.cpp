@@ -9,6 +9,7 @@
 #include "core/Format.h"
 #include "dialogs/frm_DialogKeyboard.h"
 #include "dialogs/frm_DialogNumericTouch.h"
+#include "visual/OneLine.h"
 #include "visual/PropertyRows.h"
 
 #include <algorithm>
@@ -94,6 +95,11 @@ void ctl_QVInput::connect()
     connections_ += input_->LostFocus.connect([this] { settle(); });
     connections_ += input_->Click.connect([this] { pressed(); });
     connections_ += input_->KeyDown.connect([this](KeyEvent& event) { previewKey(event); });
+}
+
+PixelSize ctl_QVInput::contentSize(std::optional<double> /*width*/) const
+{
+    return fieldSize(Font()->traits());
 }
 
 MemberTable ctl_QVInput::members() const

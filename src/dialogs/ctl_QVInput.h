@@ -79,6 +79,7 @@ public:
 
     StringView typeName() const override { return u"ctl_QVInput"; }
     MemberTable members() const override;
+    PixelSize contentSize(std::optional<double> width = std::nullopt) const override;
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     Container* container() override { return &surface_.children(); }

@@ -133,6 +133,14 @@ ctl_PSE::ctl_PSE()
 
 ctl_PSE::~ctl_PSE() = default;
 
+PixelSize ctl_PSE::contentSize(std::optional<double> /*width*/) const
+{
+    constexpr double LeastCell = 24; // in which a symbol can be read
+    constexpr double Columns = 18;
+    constexpr double Rows = 10;
+    return {Columns * LeastCell, Rows * LeastCell};
+}
+
 MemberTable ctl_PSE::members() const
 {
     return rows::membersOf<Properties>();

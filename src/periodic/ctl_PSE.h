@@ -112,6 +112,7 @@ public:
 
     StringView typeName() const override { return u"ctl_PSE"; }
     MemberTable members() const override;
+    PixelSize contentSize(std::optional<double> width = std::nullopt) const override;
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::Table; }

@@ -6,8 +6,10 @@
 #include "term/TermBrackets.h"
 #include "term/TermSigns.h"
 #include "visual/DrawDevice.h"
+#include "visual/VisualHost.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <vector>
 
@@ -274,6 +276,17 @@ TermLayout layOutTerm(DrawDevice& device, StringView term, std::int32_t x, std::
     TermPainter(device, term, layout).draw(x, y, align);
     device.CurrentX(currentX);
     return layout;
+}
+
+PixelSize termSize(StringView term, const FontSpec& font)
+{
+    DrawDevice device(visualHost().createSurface({1, 1}, 1));
+    device.font(font);
+    const PixelRectangle extent =
+        layOutTerm(device, term, 0, 0, TEXTALIGN::MiddleLeft).extent(visualHost().metrics());
+    const double aboveOrBelow =
+        std::max(-extent.top, extent.bottom()); // a term is aligned by its line's middle
+    return {std::ceil(extent.right()), std::ceil(2 * aboveOrBelow)};
 }
 
 } // namespace phial

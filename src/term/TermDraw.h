@@ -56,4 +56,8 @@ std::int32_t TermDraw(DrawDevice& pDevice, StringView pText, std::int32_t pX = -
 /// Nothing is drawn, and the device is left as it was.
 TermLayout layOutTerm(DrawDevice& device, StringView term, std::int32_t x, std::int32_t y, TEXTALIGN align);
 
+/// How much room a term takes in that font, in pixels: from its first to behind its last sign, and from
+/// raised signs to lowered ones, or to the end of a fraction's denominator.
+PixelSize termSize(StringView term, const FontSpec& font);
+
 } // namespace phial

@@ -2,6 +2,7 @@
 
 #include "core/Arithmetic.h"
 #include "visual/DrawDevice.h"
+#include "visual/TextMetrics.h"
 
 #include <algorithm>
 
@@ -56,6 +57,18 @@ std::vector<TermCaretPlace> TermLayout::places() const
         places.push_back({place.index, toWhole(place.x)});
     }
     return places;
+}
+
+PixelRectangle TermLayout::extent(TextMetrics& metrics) const
+{
+    PixelRectangle all;
+    for (const Mark& mark : marks_) {
+        const double height =
+            mark.text.empty() ? mark.to.y - mark.from.y + 1 : metrics.face(mark.font)->height();
+        const PixelRectangle place{mark.from.x, mark.from.y, mark.to.x - mark.from.x, height};
+        all = all.isEmpty() ? place : all.united(place);
+    }
+    return all;
 }
 
 void TermLayout::draw(DrawDevice& device, std::int32_t distance, std::int32_t caret) const

@@ -12,6 +12,7 @@ namespace phial
 {
 
 class DrawDevice;
+class TextMetrics;
 
 /// A place at which TermDraw would draw the caret.
 struct TermCaretPlace {
@@ -30,6 +31,10 @@ class TermLayout
 public:
     /// By rising index.
     std::vector<TermCaretPlace> places() const;
+
+    /// The room that all of it takes, in the scale of a device with that metrics; empty where there is
+    /// nothing.
+    PixelRectangle extent(TextMetrics& metrics) const;
 
     /// Draws everything so far to the right of its place, with the caret at one of the places; -1: without.
     void draw(DrawDevice& device, std::int32_t distance, std::int32_t caret) const;

@@ -8,6 +8,7 @@
 #include "term/TermDraw.h"
 #include "term/TermSpeech.h"
 #include "visual/Form.h"
+#include "visual/OneLine.h"
 #include "visual/PropertyRows.h"
 #include "visual/VisualHost.h"
 
@@ -52,6 +53,12 @@ clt_TermInput::clt_TermInput() : frame_(*this), surface_(*this), cursor_(u"tmr_C
     ticking_ = cursor_.Tick.connect([this] { tick(); });
     rows::start<Properties>(*this);
     UserControl_Initialize();
+}
+
+PixelSize clt_TermInput::contentSize(std::optional<double> /*width*/) const
+{
+    const PixelSize field = fieldSize(font_->traits());
+    return {field.width + 2.0 * inset_, std::max(field.height, termSize(u"A2^2", font_->traits()).height)};
 }
 
 MemberTable clt_TermInput::members() const

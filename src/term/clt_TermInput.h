@@ -83,6 +83,7 @@ public:
 
     StringView typeName() const override { return u"clt_TermInput"; }
     MemberTable members() const override;
+    PixelSize contentSize(std::optional<double> width = std::nullopt) const override;
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::Editable; }

@@ -64,6 +64,11 @@ String ctl_TermLabel::accessibleText() const
     return spokenTerm(term_);
 }
 
+PixelSize ctl_TermLabel::contentSize(std::optional<double> /*width*/) const
+{
+    return termSize(term_, font_->traits());
+}
+
 void ctl_TermLabel::readProperties(const PropertyBag& bag)
 {
     rows::read<Properties>(*this, bag);

@@ -46,6 +46,8 @@ public:
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::StaticText; }
     String accessibleText() const override;
+    bool keepsOwnSize() const override { return autoSize_; }
+    PixelSize contentSize(std::optional<double> width = std::nullopt) const override;
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
     void shown() override { REDRAW(); }

@@ -78,6 +78,18 @@ String Label::accessibleText() const
     return singleLine_ ? oneLine(caption_) : plainMarkup(caption_);
 }
 
+PixelSize Label::contentSize(std::optional<double> width) const
+{
+    TextMetrics& metrics = visualHost().metrics();
+    if (singleLine_) {
+        const auto face = metrics.face(font_->traits());
+        return {std::ceil(face->width(oneLine(caption_))), std::ceil(face->height())};
+    }
+    const PixelSize text =
+        MarkupLayout(caption_, font_->traits(), metrics, wordWrap_ ? width : std::nullopt).size();
+    return {std::ceil(text.width), std::ceil(text.height)};
+}
+
 void Label::resized()
 {
     surface_.resized();

@@ -53,6 +53,8 @@ public:
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::StaticText; }
     String accessibleText() const override;
+    bool keepsOwnSize() const override { return autoSize_ && !wordWrap_ && !singleLine_; }
+    PixelSize contentSize(std::optional<double> width = std::nullopt) const override;
     std::vector<NamedPart> parts() const override;
     void activatePart(std::size_t part) override;
     void paint() override;

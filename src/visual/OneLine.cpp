@@ -1,8 +1,10 @@
 #include "visual/OneLine.h"
 
 #include "visual/DrawDevice.h"
+#include "visual/VisualHost.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace phial
 {
@@ -40,6 +42,13 @@ String fittedLine(DrawDevice& device, String text, double room)
         }
     }
     return text + u"\u2026";
+}
+
+PixelSize fieldSize(const FontSpec& font)
+{
+    constexpr double Space = 12; // of both sides together
+    const auto face = visualHost().metrics().face(font);
+    return {std::ceil(face->width(u"0000000000") + Space), std::ceil(face->height() + Space)};
 }
 
 } // namespace phial

@@ -60,6 +60,11 @@ void PictureBox::showPicture()
     surface_.invalidate();
 }
 
+PixelSize PictureBox::contentSize(std::optional<double> /*width*/) const
+{
+    return picture_ ? PixelSize{picture_->Width(), picture_->Height()} : PixelSize{};
+}
+
 void PictureBox::fitToPicture()
 {
     if (autoSize_ && picture_) {

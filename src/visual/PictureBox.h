@@ -72,6 +72,8 @@ public:
 
     StringView typeName() const override { return u"PictureBox"; }
     MemberTable members() const override;
+    /// That of the picture.
+    PixelSize contentSize(std::optional<double> width = std::nullopt) const override;
     ControlFrame& frame() override { return frame_; }
     PaintSurface& surface() override { return surface_; }
     Container* container() override { return &surface_.children(); }

@@ -52,6 +52,9 @@ public:
 
     /// Whether its size is its own, whatever it is given; a layout leaves it that size.
     virtual bool keepsOwnSize() const { return false; }
+    /// How much room its content needs, in pixels, for a layout that asks: in one piece, or in lines that are
+    /// no wider than that where it breaks into lines. Empty for a control that fills whatever it is given.
+    virtual PixelSize contentSize(std::optional<double> /*width*/ = std::nullopt) const { return {}; }
 
     /// The parts that can be named, in reading order. Empty: the control itself is the only part. They are
     /// asked for once a change; a change that the control does not report otherwise (picture, size, text) is

@@ -49,7 +49,7 @@ void ctl_Label::fitToText()
     frame_.pixelRectangle({place.left, place.top, fitted_.width, fitted_.height});
 }
 
-MarkupLayout ctl_Label::layOut(double width) const
+MarkupLayout ctl_Label::layOut(std::optional<double> width) const
 {
     const TextForm form = plain_ ? TextForm::Plain : breaksWords_ ? TextForm::FittedMarkup : TextForm::Markup;
     return {caption_, font_->traits(), visualHost().metrics(), width, form};
@@ -82,6 +82,12 @@ void ctl_Label::readProperties(const PropertyBag& bag)
 void ctl_Label::writeProperties(PropertyBag& bag)
 {
     rows::write<Properties>(*this, bag);
+}
+
+PixelSize ctl_Label::contentSize(std::optional<double> width) const
+{
+    const PixelSize text = layOut(width).size();
+    return {std::ceil(text.width), std::ceil(text.height)};
 }
 
 void ctl_Label::resized()

@@ -54,6 +54,7 @@ public:
     PaintSurface& surface() override { return surface_; }
     PartRole role() const override { return PartRole::StaticText; }
     String accessibleText() const override;
+    PixelSize contentSize(std::optional<double> width = std::nullopt) const override;
     void readProperties(const PropertyBag& bag) override;
     void writeProperties(PropertyBag& bag) override;
     void paint() override;
@@ -69,7 +70,7 @@ private:
 
     void refresh();
     void fitToText();
-    MarkupLayout layOut(double width) const;
+    MarkupLayout layOut(std::optional<double> width) const;
 
     ControlFrame frame_;
     PaintSurface surface_;
