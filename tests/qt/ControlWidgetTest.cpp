@@ -1,18 +1,26 @@
 #include "qt/desktop/ControlWidget.h"
 
 #include "DesktopSession.h"
+#include "dialogs/ctl_QVInput.h"
+#include "qt/base/QtText.h"
+#include "qt/desktop/ControlHolder.h"
 #include "qt/desktop/PartNavigation.h"
 #include "results/ctl_Mark.h"
+#include "term/clt_TermInput.h"
 #include "term/ctl_TermLabel.h"
 #include "visual/PaintHints.h"
 #include "visual/PaintSurface.h"
 #include "visual/PictureBox.h"
 #include "visual/TextBox.h"
 #include "visual/Typing.h"
+#include "visual/ctl_Gradient.h"
+#include "visual/ctl_Label.h"
 #include "visual/ctl_Title.h"
 
 #include <QAccessible>
+#include <QGridLayout>
 #include <QImage>
+#include <QLineEdit>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
@@ -56,7 +64,6 @@ TEST_F(ControlWidgetTest, StandsInALayoutOfPlainQt)
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
     const auto label = makeControl<ctl_TermLabel>();
-    label->frame().pixelRectangle({0, 0, 120, 30});
     label->Term(u"H2SO4");
     auto* widget = new ControlWidget(label);
     layout->addWidget(widget);
@@ -64,8 +71,8 @@ TEST_F(ControlWidgetTest, StandsInALayoutOfPlainQt)
     window.show();
     QApplication::processEvents();
 
-    EXPECT_EQ(widget->sizeHint(), widget->size()); // the control has followed the layout
     EXPECT_GT(widget->width(), 200);
+    EXPECT_EQ(label->frame().pixelRectangle().width, widget->width()) << "the control follows the layout";
     const QImage shown = grabbed(*widget, 1);
     EXPECT_NE(shown, QImage(shown.size(), shown.format()));
 }
@@ -436,6 +443,217 @@ TEST_F(ControlWidgetTest, AControlOfItsOwnSizeKeepsItInALayout)
     EXPECT_EQ(widget->size(), widget->sizeHint()) << "the layout leaves it its size";
     const PixelRectangle place = mark->frame().pixelRectangle();
     EXPECT_EQ(QPointF(place.left, place.top), widget->pos()) << "and tells it its place";
+}
+
+TEST_F(ControlWidgetTest, AsksALayoutForTheRoomThatItsContentNeeds)
+{
+    const auto label = makeControl<ctl_TermLabel>();
+    label->Term(u"H2SO4");
+    ControlWidget widget(label);
+    const QSize before = widget.sizeHint();
+    EXPECT_GT(before.width(), 20);
+    EXPECT_GT(before.height(), 10);
+    EXPECT_EQ(widget.minimumSizeHint(), before);
+    widget.resize(500, 300);
+    EXPECT_EQ(widget.sizeHint(), before) << "whatever size it has";
+    label->TEXTFONT()->Size(24);
+    EXPECT_GT(widget.sizeHint().width(), 2 * before.width());
+    label->Term(u"(1)/(2)");
+    EXPECT_GT(widget.sizeHint().height(), 2 * before.height()) << "a fraction stands on two lines";
+}
+
+TEST_F(ControlWidgetTest, ALayoutHearsThatItsContentHasChanged)
+{
+    QWidget window;
+    auto* layout = new QGridLayout(&window);
+    const auto label = makeControl<ctl_TermLabel>();
+    label->Term(u"H");
+    auto* widget = new ControlWidget(label);
+    layout->addWidget(widget, 0, 0);
+    layout->setColumnStretch(1, 1);
+    window.resize(400, 100);
+    window.show();
+    QApplication::processEvents();
+    const int before = widget->width();
+    label->Term(u"CH3COOH + C2H5OH -> CH3COOC2H5 + H2O");
+    QApplication::processEvents();
+    EXPECT_GT(widget->width(), 3 * before);
+    EXPECT_EQ(widget->width(), widget->sizeHint().width());
+}
+
+TEST_F(ControlWidgetTest, ATextThatBreaksIntoLinesIsHigherWhereItIsNarrow)
+{
+    const auto text = makeControl<ctl_Label>();
+    text->Caption(u"Wer Säure und Wasser mischt, gießt die Säure ins Wasser.");
+    ControlWidget widget(text);
+    EXPECT_TRUE(widget.sizePolicy().hasHeightForWidth());
+    const QSize line = widget.sizeHint();
+    EXPECT_EQ(widget.heightForWidth(line.width()), line.height());
+    EXPECT_GE(widget.heightForWidth(line.width() / 3), 3 * line.height());
+    EXPECT_LT(widget.minimumSizeHint().width(), line.width() / 3) << "its longest word";
+}
+
+TEST_F(ControlWidgetTest, AControlWithoutContentAsksForTheSizeThatItHad)
+{
+    const auto gradient = makeControl<ctl_Gradient>();
+    gradient->frame().pixelRectangle({0, 0, 120, 30});
+    ControlWidget widget(gradient);
+    EXPECT_EQ(widget.sizeHint(), QSize(120, 30));
+    EXPECT_EQ(widget.minimumSizeHint(), QSize()) << "it can be smaller";
+    widget.resize(300, 300);
+    EXPECT_EQ(widget.sizeHint(), QSize(120, 30));
+}
+
+TEST_F(ControlWidgetTest, AFieldAsksForALine)
+{
+    const auto field = makeControl<clt_TermInput>();
+    ControlWidget term(field);
+    const auto number = makeControl<ctl_QVInput>();
+    ControlWidget entry(number);
+    for (const ControlWidget* widget : {&term, &entry}) {
+        EXPECT_GE(widget->sizeHint().width(), 60);
+        EXPECT_GE(widget->sizeHint().height(), 20);
+        EXPECT_LE(widget->sizeHint().height(), 60);
+    }
+}
+
+TEST_F(ControlWidgetTest, WhatWasSetBeforeCounts)
+{
+    const auto label = makeNamed<ctl_TermLabel>(u"trm_Acid");
+    label->Term(u"H2SO4");
+    label->Enabled(false);
+    label->frame().ToolTipText(u"eine Säure");
+    const ControlWidget widget(label);
+    EXPECT_EQ(widget.objectName(), u"trm_Acid");
+    EXPECT_FALSE(widget.isEnabled());
+    EXPECT_EQ(widget.toolTip(), u"eine Säure");
+    EXPECT_FALSE(widget.accessibleName().isEmpty()) << "the formula in words";
+    EXPECT_EQ(
+        QAccessible::queryAccessibleInterface(const_cast<ControlWidget*>(&widget))->text(QAccessible::Name),
+        widget.accessibleName());
+}
+
+TEST_F(ControlWidgetTest, EnablingTheWidgetEnablesTheControl)
+{
+    QWidget window;
+    const auto label = makeControl<ctl_TermLabel>();
+    ControlWidget widget(label, &window);
+    widget.setEnabled(false);
+    EXPECT_FALSE(label->Enabled());
+    widget.setEnabled(true);
+    EXPECT_TRUE(label->Enabled());
+    window.setEnabled(false);
+    EXPECT_FALSE(label->Enabled()) << "what holds it is off";
+    window.setEnabled(true);
+    EXPECT_TRUE(label->Enabled()) << "and comes back with it";
+    label->Enabled(false);
+    EXPECT_FALSE(widget.isEnabled());
+    window.setEnabled(false);
+    window.setEnabled(true);
+    EXPECT_FALSE(label->Enabled()) << "the program's own choice stays";
+}
+
+TEST_F(ControlWidgetTest, AControlIsShownOnce)
+{
+    const auto label = makeControl<ctl_TermLabel>();
+    {
+        const ControlWidget first(label);
+        EXPECT_THROW(ControlWidget second(label), RuntimeError);
+        EXPECT_EQ(label->frame().peer() != nullptr, true) << "the first one goes on";
+    }
+    EXPECT_NO_THROW(ControlWidget again(label)) << "which has gone";
+    EXPECT_THROW(ControlWidget none(nullptr), RuntimeError);
+    const auto form = std::make_shared<Form>(u"frm_Test");
+    EXPECT_THROW(ControlWidget placed(form->add<ctl_TermLabel>(u"trm_Placed")), RuntimeError);
+    form->discard();
+}
+
+TEST_F(ControlWidgetTest, TheTabKeyGoesThroughThem)
+{
+    QWidget window;
+    auto* layout = new QGridLayout(&window);
+    const auto before = makeControl<clt_TermInput>();
+    const auto behind = makeControl<clt_TermInput>();
+    behind->Term(u"");
+    auto* first = new ControlWidget(before);
+    auto* between = new QLineEdit;
+    auto* last = new ControlWidget(behind);
+    layout->addWidget(first, 0, 0);
+    layout->addWidget(between, 1, 0);
+    layout->addWidget(last, 2, 0);
+    window.show();
+    window.activateWindow();
+    first->setFocus();
+    EXPECT_TRUE(eventually([&] { return first->hasFocus(); }));
+    QTest::keyClick(first, Qt::Key_Tab);
+    EXPECT_TRUE(between->hasFocus());
+    QTest::keyClick(between, Qt::Key_Tab);
+    EXPECT_TRUE(last->hasFocus());
+    QTest::keyClicks(last, QStringLiteral("NaCl"));
+    EXPECT_EQ(behind->Term(), u"NaCl");
+}
+
+TEST_F(ControlWidgetTest, AHolderThatDesignerMakesTakesItsControlLater)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* holder = new ControlHolder(&window); // as the generated code does
+    holder->setObjectName(QStringLiteral("trm_Acid"));
+    layout->addWidget(holder);
+    EXPECT_EQ(holder->widget(), nullptr);
+    const auto label = makeControl<ctl_TermLabel>();
+    label->Term(u"H2SO4");
+    holder->control(label);
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(label->NAME(), u"trm_Acid");
+    EXPECT_EQ(holder->widget()->size(), holder->size());
+    EXPECT_EQ(holder->sizeHint(), holder->widget()->sizeHint());
+    EXPECT_EQ(holder->focusProxy(), holder->widget());
+    holder->setObjectName(QStringLiteral("trm_Other"));
+    EXPECT_EQ(label->NAME(), u"trm_Other");
+    EXPECT_THROW(holder->control(label), RuntimeError) << "shown already";
+    EXPECT_NE(holder->widget(), nullptr);
+    const auto other = makeControl<ctl_Label>();
+    holder->control(other);
+    EXPECT_EQ(label->frame().peer(), nullptr);
+    EXPECT_EQ(&holder->widget()->control(), other.get());
+    holder->control(nullptr);
+    EXPECT_EQ(holder->widget(), nullptr);
+}
+
+TEST(EndedSession, LeavesABlankWidget)
+{
+    std::unique_ptr<ControlWidget> widget;
+    QStringList told;
+    {
+        test::TemporaryFolder folder;
+        headless::HeadlessPlatform outside(folder.path(), [](const String&) {});
+        Platform platform = outside.platform();
+        platform.visual = std::make_shared<QtVisualHost>(previewAndPrint);
+        const SessionState session(platform);
+        const auto label = makeControl<ctl_TermLabel>();
+        label->Term(u"H2SO4");
+        widget = std::make_unique<ControlWidget>(label);
+        widget->resize(200, 50);
+        widget->show();
+        EXPECT_NE(widget->grab().toImage(), QImage());
+        dispatchGuard()->setReporter([&](const String& text) { told.append(toQt(text)); });
+    }
+    QPixmap drawn(widget->size());
+    drawn.fill(Qt::white);
+    const QImage blank = drawn.toImage();
+    widget->render(&drawn, QPoint(), QRegion(), QWidget::DrawChildren);
+    EXPECT_EQ(drawn.toImage(), blank);
+    QTest::mouseClick(widget.get(), Qt::LeftButton);
+    QTest::keyClick(widget.get(), Qt::Key_Space);
+    widget->setEnabled(false);
+    widget->resize(100, 20);
+    EXPECT_EQ(widget->sizeHint(), widget->size());
+    widget->hide();
+    widget.reset();
+    EXPECT_TRUE(told.isEmpty()) << told.join(u'\n').toStdString();
+    dispatchGuard()->setReporter(DesktopSession::fail);
 }
 
 /// A control that decides on its size when it is told to, and notes what it lives through.

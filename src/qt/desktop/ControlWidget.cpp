@@ -1,5 +1,7 @@
 #include "qt/desktop/ControlWidget.h"
 
+#include "core/RuntimeError.h"
+#include "core/SessionState.h"
 #include "qt/base/QtText.h"
 #include "qt/desktop/Composing.h"
 #include "qt/desktop/ContainerWidgets.h"
@@ -53,6 +55,26 @@ private:
 
 } // namespace
 
+namespace
+{
+
+/// The control, which a window of plain Qt shows once.
+std::shared_ptr<UserControl> checked(std::shared_ptr<UserControl> control, ControlWidget::Placement placement)
+{
+    if (!control) {
+        throw RuntimeError(ErrorNumber::InvalidArgument, u"A ControlWidget needs a control.");
+    }
+    const ControlFrame& frame = control->frame();
+    if (placement != ControlWidget::Placement::OnForm && (frame.peer() || frame.form())) {
+        throw RuntimeError(ErrorNumber::InvalidArgument,
+                           u"A control is shown once: this " + String(control->typeName()) +
+                               u" stands on a form or in another ControlWidget.");
+    }
+    return control;
+}
+
+} // namespace
+
 /// The model's link to the widget, which goes when either does.
 class ControlWidget::Peer final : public ControlPeer
 {
@@ -79,8 +101,9 @@ private:
 };
 
 ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* parent, Placement placement)
-    : QWidget(parent), control_(std::move(control)), hints_(dynamic_cast<const PaintHints*>(control_.get())),
-      placement_(placement), inputMethod_(*this, *control_), touch_(*this, *control_)
+    : QWidget(parent), control_(checked(std::move(control), placement)), session_(&SessionState::current()),
+      hints_(dynamic_cast<const PaintHints*>(control_.get())), placement_(placement),
+      inputMethod_(*this, *control_), touch_(*this, *control_)
 {
     installPartAccessibility();
     showFocusByRing();
@@ -93,14 +116,18 @@ ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* pare
     connect(&ThemeNews::instance(), &ThemeNews::changed, this, [this] { update(); });
     holdChildren();
     if (placement_ == Placement::ByLayout) {
-        setFocusPolicy(control_->frame().canFocus() ? Qt::StrongFocus : Qt::NoFocus);
+        const PixelRectangle place = control_->frame().pixelRectangle();
+        sizeBefore_ = QSizeF(place.width, place.height).toSize();
+        applyLook(*this, *control_);
         takePolicy();
+        toldRoom_ = sizeHint();
     } else {
         applyFrame(*this, *control_);
     }
     if (!isForeign()) {
         return;
     }
+    setObjectName(toQt(control_->NAME()));
     connect(this, &QObject::objectNameChanged, this,
             [this](const QString& name) { control_->frame().NAME(fromQt(name)); });
     findParent();
@@ -109,15 +136,56 @@ ControlWidget::ControlWidget(std::shared_ptr<UserControl> control, QWidget* pare
 
 ControlWidget::~ControlWidget()
 {
-    if (isForeign() && peer_->isLinked()) {
+    if (isForeign() && peer_->isLinked() && isLive()) {
         dispatch([&] { control_->frame().tellEnded(); });
     }
 }
 
+bool ControlWidget::isLive() const
+{
+    return SessionState::isOpen() && &SessionState::current() == session_;
+}
+
 QSize ControlWidget::sizeHint() const
 {
-    const PixelSize size = control_->surface().size();
-    return QSizeF(size.width, size.height).toSize();
+    return roomFor(std::nullopt);
+}
+
+QSize ControlWidget::minimumSizeHint() const
+{
+    constexpr double Narrow = 1; // so that all lines break that can
+    const bool isOwn = isLive() && (control_->keepsOwnSize() || !control_->contentSize().isEmpty());
+    return isOwn ? roomFor(Narrow) : QSize();
+}
+
+int ControlWidget::heightForWidth(int width) const
+{
+    return roomFor(width).height();
+}
+
+// What a layout is asked for; of lines that break at that width, if any is given.
+QSize ControlWidget::roomFor(std::optional<double> width) const
+{
+    if (!isLive()) {
+        return size();
+    }
+    const PixelRectangle place = control_->frame().pixelRectangle();
+    const PixelSize own{place.width, place.height};
+    const PixelSize room = control_->keepsOwnSize() ? own : control_->contentSize(width);
+    return room.isEmpty() ? sizeBefore_ : QSizeF(room.width, room.height).toSize();
+}
+
+// The content may need another room than before.
+void ControlWidget::followContent()
+{
+    if (placement_ != Placement::ByLayout) {
+        return;
+    }
+    if (const QSize room = sizeHint(); room != toldRoom_) {
+        toldRoom_ = room;
+        takePolicy();
+        updateGeometry();
+    }
 }
 
 // The controls within this one have widgets, which are made when the first one comes.
@@ -164,6 +232,7 @@ void ControlWidget::modelChanged(ControlAspect aspect)
         if (control_->surface().MaskPicture()) {
             tellShape(*this);
         }
+        followContent();
         break;
     case ControlAspect::Children:
     case ControlAspect::ZOrder:
@@ -187,12 +256,18 @@ void ControlWidget::modelChanged(ControlAspect aspect)
     case ControlAspect::Accessibility:
         applyFrameAspect(*this, *control_, aspect);
         tellAccessibility(*this);
+        followContent();
         break;
     case ControlAspect::CurrentPart:
         followCurrentPart();
         break;
-    case ControlAspect::Visibility:
     case ControlAspect::Enabled:
+        if (following_) {
+            applyFocusPolicy(*this, control_->frame()); // the widget is on or off already
+            break;
+        }
+        [[fallthrough]];
+    case ControlAspect::Visibility:
     case ControlAspect::Focus:
     case ControlAspect::Pointer:
     case ControlAspect::ToolTip:
@@ -218,9 +293,12 @@ void ControlWidget::textChanged()
 
 bool ControlWidget::event(QEvent* event)
 {
-    const bool isLeft = peer_ && !peer_->isLinked();
+    // The control has left its window and this widget ends when its events are over, or the session has
+    // ended.
+    const bool isLeft = peer_ && (!peer_->isLinked() || !isLive());
     if (isLeft && event->type() != QEvent::DeferredDelete) {
-        event->ignore(); // the control has left its window; this widget ends when its events are over
+        setAttribute(Qt::WA_OpaquePaintEvent, false); // nothing is painted any more
+        event->ignore();
         return false;
     }
     switch (event->type()) {
@@ -236,6 +314,16 @@ bool ControlWidget::event(QEvent* event)
         return touched(static_cast<QTouchEvent&>(*event));
     default:
         return QWidget::event(event);
+    }
+}
+
+// In a window of plain Qt the control is as its widget is, which goes by what holds it, too.
+void ControlWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && placement_ == Placement::ByLayout) {
+        const QScopedValueRollback<bool> following(following_, true);
+        dispatch([&] { control_->Enabled(isEnabled()); });
     }
 }
 
@@ -319,9 +407,12 @@ void ControlWidget::takePlace()
 // A layout leaves a control its size where that is its own; otherwise the policy is the program's.
 void ControlWidget::takePolicy()
 {
+    QSizePolicy policy = sizePolicy();
     if (control_->keepsOwnSize()) {
-        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        policy = {QSizePolicy::Fixed, QSizePolicy::Fixed};
     }
+    policy.setHeightForWidth(control_->contentSize(1) != control_->contentSize());
+    setSizePolicy(policy);
 }
 
 // The widget's place has changed by the layout's or the program's hand.

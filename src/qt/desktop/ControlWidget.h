@@ -14,7 +14,8 @@
 namespace phial
 {
 class PaintHints;
-}
+class SessionState;
+} // namespace phial
 
 namespace phial::qt
 {
@@ -25,7 +26,7 @@ class ContainerWidgets;
 ///
 /// In a window of its own kind a program places it like any other widget and names it by its object name;
 /// controls that look for a sibling by name find the other control widgets of the window. The session must be
-/// open:
+/// open, and once it has ended the widget is blank:
 ///
 ///     auto label = phial::makeControl<phial::ctl_TermLabel>();
 ///     label->Term(u"H2SO4");
@@ -33,10 +34,12 @@ class ContainerWidgets;
 ///     widget->setObjectName("lab_Term");
 ///     layout->addWidget(widget);
 ///
-/// The control follows the size that the layout gives it, unless its size is its own; then the layout leaves
-/// it that size. A control that floats, such as a speech bubble, stands in no layout, takes its parent
-/// widget's pixels as places, and is where, as large, and shown or hidden as its frame says; the program may
-/// move, resize and hide the widget as well.
+/// What has been set before counts: name, tool tip, whether it is enabled. A layout is asked for the room
+/// that the content needs, and the control follows the size that it gets, unless its size is its own; then
+/// the layout leaves it that size. Enabling the widget or what holds it enables the control. A control that
+/// floats, such as a speech bubble, stands in no layout, takes its parent widget's pixels as places, and is
+/// where, as large, and shown or hidden as its frame says; the program may move, resize and hide the widget
+/// as well.
 ///
 /// The picture is painted at the screen's pixel ratio. A press where the control lets through what lies below
 /// goes there. The named parts of the control are shown to screen readers; the arrow keys go through those
@@ -52,14 +55,18 @@ public:
         OnForm,   ///< on one of the system's forms; the control decides
     };
 
+    /// Raises 5 without a control, and in a window of plain Qt for a control that is shown already.
     explicit ControlWidget(std::shared_ptr<UserControl> control, QWidget* parent = nullptr,
                            Placement placement = Placement::ByLayout);
     ~ControlWidget() override;
 
     UserControl& control() const { return *control_; }
 
-    /// The control's own size.
+    /// What the content needs (UserControl::contentSize), or the control's own size; for a control without
+    /// either the size that it had when it came.
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
@@ -79,6 +86,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -113,6 +121,10 @@ private:
     bool isForeign() const { return placement_ != Placement::OnForm; }
     /// The same for what stands within such a control.
     bool isInForeignWindow() const { return control_->frame().Parent() && !control_->frame().form(); }
+    /// Whether the session in which the control was made is still open.
+    bool isLive() const;
+    QSize roomFor(std::optional<double> width) const;
+    void followContent();
     void takePlace();
     void followWidget();
     void takePolicy();
@@ -130,6 +142,7 @@ private:
     void beginDrag();
 
     std::shared_ptr<UserControl> control_;
+    const SessionState* session_;
     const PaintHints* hints_; ///< null for a control that gives none
     Placement placement_;
     std::unique_ptr<Peer> peer_;
@@ -144,7 +157,9 @@ private:
     TextEntry toldText_; ///< as screen readers know it
     bool pressed_ = false;
     bool secondPress_ = false;
-    bool following_ = false; ///< the control's place is being set to the widget's
+    bool following_ = false; ///< the control is being made to follow the widget
+    QSize sizeBefore_;       ///< of the control when it came
+    QSize toldRoom_;         ///< for which the layout was last asked
 };
 
 } // namespace phial::qt

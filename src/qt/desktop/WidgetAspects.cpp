@@ -20,13 +20,6 @@ namespace phial::qt
 namespace
 {
 
-void applyFocusPolicy(QWidget& widget, const ControlFrame& frame)
-{
-    widget.setFocusPolicy(!frame.canFocus() ? Qt::NoFocus
-                          : frame.TabStop() ? Qt::StrongFocus
-                                            : Qt::ClickFocus);
-}
-
 String ownName(const Control& control)
 {
     const String given = control.frame().AccessibleName();
@@ -64,6 +57,13 @@ void applyPointer(QWidget& widget, const ControlFrame& frame)
 }
 
 } // namespace
+
+void applyFocusPolicy(QWidget& widget, const ControlFrame& frame)
+{
+    widget.setFocusPolicy(!frame.canFocus() ? Qt::NoFocus
+                          : frame.TabStop() ? Qt::StrongFocus
+                                            : Qt::ClickFocus);
+}
 
 double zoomOf(const Control& control)
 {
@@ -191,9 +191,15 @@ void tellShape(QWidget& widget)
 
 void applyFrame(QWidget& widget, Control& control)
 {
-    for (const ControlAspect aspect :
-         {ControlAspect::Geometry, ControlAspect::Enabled, ControlAspect::Pointer, ControlAspect::ToolTip,
-          ControlAspect::Accessibility, ControlAspect::Visibility}) {
+    applyFrameAspect(widget, control, ControlAspect::Geometry);
+    applyLook(widget, control);
+    applyFrameAspect(widget, control, ControlAspect::Visibility);
+}
+
+void applyLook(QWidget& widget, Control& control)
+{
+    for (const ControlAspect aspect : {ControlAspect::Enabled, ControlAspect::Pointer, ControlAspect::ToolTip,
+                                       ControlAspect::Accessibility}) {
         applyFrameAspect(widget, control, aspect);
     }
 }

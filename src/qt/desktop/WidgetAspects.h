@@ -22,6 +22,10 @@ void applyFrameAspect(QWidget& widget, Control& control, ControlAspect aspect);
 
 /// Place and all the rest, for a fresh widget.
 void applyFrame(QWidget& widget, Control& control);
+/// All the rest, for a fresh widget whose place and visibility are a layout's.
+void applyLook(QWidget& widget, Control& control);
+/// Whether the focus can come, and how.
+void applyFocusPolicy(QWidget& widget, const ControlFrame& frame);
 
 /// How many pixels of the window a pixel of the control takes.
 double zoomOf(const Control& control);
