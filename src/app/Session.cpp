@@ -3,6 +3,8 @@
 #include "app/InstallationTree.h"
 #include "app/cls_App.h"
 #include "app/cls_Language.h"
+#include "core/CorePathText.h"
+#include "core/NativePath.h"
 #include "core/RuntimeError.h"
 
 #include <utility>
@@ -70,6 +72,11 @@ void Session::goToTreeNearProgram()
     }
     if (const auto tree = installationTree::nearProgram(programFolder)) {
         state_.currentFolder().change(*tree);
+    } else if (const char* const installed = InstalledTree::folder()) {
+        const String folder = CorePathText::WithBackslash(systemPath(installed));
+        if (installationTree::isRoot(folder)) {
+            state_.currentFolder().change(folder);
+        }
     }
 }
 

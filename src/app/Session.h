@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/InstalledTree.h"
 #include "core/Platform.h"
 #include "core/SessionState.h"
 #include "core/String.h"
@@ -22,9 +23,9 @@ class cls_Language;
 class Session
 {
 public:
-    /// If an installation tree belongs to the place of the program's file (see InstallationTree.h), the
-    /// session begins with it as the current folder; otherwise with the current folder of the process. Raises
-    /// 5 when another session is open.
+    /// If an installation tree belongs to the place of the program's file (see InstallationTree.h), or else
+    /// one was installed with the library (InstalledTree.h), the session begins with it as the current
+    /// folder; otherwise with the current folder of the process. Raises 5 when another session is open.
     explicit Session(Platform platform);
     ~Session();
     Session(const Session&) = delete;

@@ -1,6 +1,7 @@
 #include "app/AppTest.h"
 #include "app/InstallationTree.h"
 #include "app/cls_Language.h"
+#include "core/NativePath.h"
 #include "support/Raises.h"
 
 namespace phial
@@ -60,6 +61,46 @@ TEST_F(SessionLife, BeginsInTheFolderOfTheProcessWithoutATree)
 {
     const String before = currentFolder();
     openFor(makeFolder(u"bin\\"));
+    EXPECT_EQ(currentFolder(), before);
+}
+
+/// Names a tree as the package does, as long as it lives.
+class NamedTree
+{
+public:
+    explicit NamedTree(const String& folder) : folder_(nativePath(folder, {}).string())
+    {
+        static_cast<void>(InstalledTree(folder_.c_str()));
+    }
+    ~NamedTree() { static_cast<void>(InstalledTree(nullptr)); }
+    NamedTree(const NamedTree&) = delete;
+    NamedTree& operator=(const NamedTree&) = delete;
+
+private:
+    std::string folder_;
+};
+
+TEST_F(SessionLife, BeginsInTheTreeThatWasInstalledWithTheLibrary)
+{
+    const String tree = makeTree(u"usr\\lib\\phial\\");
+    const NamedTree named(tree);
+    openFor(makeFolder(u"home\\program\\"));
+    EXPECT_EQ(currentFolder(), tree);
+}
+
+TEST_F(SessionLife, BeginsInItsOwnTreeThoughOneIsInstalledWithTheLibrary)
+{
+    const NamedTree named(makeTree(u"usr\\lib\\phial\\"));
+    const String own = makeTree(u"home\\tree\\");
+    openFor(makeFolder(u"home\\bin\\"));
+    EXPECT_EQ(currentFolder(), own);
+}
+
+TEST_F(SessionLife, PaysNoHeedToAnInstalledTreeThatHasGone)
+{
+    const String before = currentFolder();
+    const NamedTree named(path(u"usr\\lib\\phial\\"));
+    openFor(makeFolder(u"home\\program\\"));
     EXPECT_EQ(currentFolder(), before);
 }
 
