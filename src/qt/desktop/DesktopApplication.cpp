@@ -13,6 +13,10 @@
 
 #include <QApplication>
 
+#include <algorithm>
+#include <span>
+#include <string_view>
+
 namespace phial::qt
 {
 
@@ -28,14 +32,24 @@ void preferX11()
     }
 }
 
+constexpr auto ShotsOption = "--shots"; // followed by a folder
+
+/// Who draws pictures needs no display.
+void drawOffscreen(std::span<char* const> arguments)
+{
+    if (std::ranges::find(arguments, std::string_view(ShotsOption)) != arguments.end() &&
+        !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
 std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 {
+    drawOffscreen({argv, static_cast<std::size_t>(argc)});
     preferX11();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     return std::make_unique<QApplication>(argc, argv);
 }
-
-constexpr auto ShotsOption = "--shots"; // followed by a folder
 
 QStringList argumentsWithoutShots()
 {

@@ -22,7 +22,8 @@ namespace phial::qt
 ///     }
 ///
 /// Where the desktop is Wayland, which tells programs neither where their windows are nor where the pointer
-/// is, its X11 side is taken if there is one. A platform that the environment names stays.
+/// is, its X11 side is taken if there is one. With "--shots" on the command line no display is needed. A
+/// platform that the environment names stays.
 class DesktopApplication
 {
 public:
