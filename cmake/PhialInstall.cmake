@@ -19,6 +19,7 @@ function(phial_install_component component)
         list(GET pair 1 name)
         if(TARGET ${target})
             set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
+            phial_installs(${target})
             install(TARGETS ${target} EXPORT phial_${component} ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
             set(exported TRUE)
         endif()
@@ -51,5 +52,7 @@ configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/PhialConfig.cmake.in" "
     INSTALL_DESTINATION "${PHIAL_PACKAGE_DIR}" PATH_VARS PHIAL_TREE_INSTALL_DIR NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file("${CMAKE_BINARY_DIR}/PhialConfigVersion.cmake" COMPATIBILITY SameMajorVersion)
 install(FILES "${CMAKE_BINARY_DIR}/PhialConfig.cmake" "${CMAKE_BINARY_DIR}/PhialConfigVersion.cmake"
-    DESTINATION "${PHIAL_PACKAGE_DIR}")
-install(FILES "${CMAKE_SOURCE_DIR}/LICENSE" "${CMAKE_SOURCE_DIR}/README.md" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+    "${CMAKE_CURRENT_LIST_DIR}/PhialApp.cmake" DESTINATION "${PHIAL_PACKAGE_DIR}")
+install(FILES "${CMAKE_SOURCE_DIR}/LICENSE" "${CMAKE_SOURCE_DIR}/README.md" "${CMAKE_SOURCE_DIR}/DEVELOPERS.md"
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(DIRECTORY "${CMAKE_SOURCE_DIR}/docs" "${CMAKE_SOURCE_DIR}/examples" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
