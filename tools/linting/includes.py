@@ -72,4 +72,4 @@ def _may_know_qt(path):
     return (parts[:2] in (("src", "qt"), ("tests", "qt"), ("tests", "consumer"), ("hosts", "master"),
                           ("tests", "master"))
             or parts[0] == "bench"
-            or (parts[0] == "hosts" and path.name == "main.cpp"))
+            or (parts[0] in ("hosts", "examples") and path.name == "main.cpp"))
