@@ -94,6 +94,7 @@ TEST(FormulaSpeech, ReadsAFormulaAloud)
     EXPECT_EQ(spokenInGerman(formula(u"P^10+")), u"P, Ladung zehn plus");
     EXPECT_EQ(spokenInGerman(formula(u"CH3*")), u"C H drei, Radikal");
     EXPECT_EQ(spokenInGerman(formula(u"2e-")), u"zwei Elektron");
+    EXPECT_EQ(spokenInGerman(formula(u"n")), u"Neutron");
     EXPECT_EQ(
         spokenInEnglish(formula(u"NaXe[{N}](aq)")),
         u"N a X e open square bracket open curly bracket N close curly bracket close square bracket, in "

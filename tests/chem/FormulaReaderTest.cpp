@@ -105,6 +105,17 @@ TEST(FormulaReading, TellsBracketsApart)
     EXPECT_FALSE(readFormula(u"(CN)2").tree == readFormula(u"[CN]2").tree);
 }
 
+TEST(FormulaPrinting, ATermSaysWhereIndicesAndChargesBegin)
+{
+    const auto term = [](StringView text) { return formulaTerm(readFormula(text).tree); };
+    EXPECT_EQ(term(u"Fe(OH)2^+"), u"Fe(OH)#2^+") << "else the charge would go back over the bracket";
+    EXPECT_EQ(term(u"[Fe(CN)6]^4-"), u"[Fe(CN)#6]^4-");
+    EXPECT_EQ(term(u"Fe(OH)2"), u"Fe(OH)2");
+    EXPECT_EQ(term(u"{FeO}2^2-"), u"{FeO}2^2-");
+    EXPECT_EQ(term(u"^14C"), u"^1#^4C") << "each digit is raised by itself";
+    EXPECT_EQ(term(u"C^18O"), u"C#^1#^8O") << "and stands behind the carbon";
+}
+
 TEST(FormulaReading, ReadsDeepBracketsWithoutRecursion)
 {
     constexpr std::size_t Depth = 100'000;
