@@ -50,13 +50,13 @@ Variant getMember(Object& object, StringView name)
     if (auto value = tryGet(object, name)) {
         return *std::move(value);
     }
-    throw RuntimeError(ErrorNumber::NoSuchMember);
+    throw noSuchMember(name, object.typeName());
 }
 
 void setMember(Object& object, StringView name, const Variant& value)
 {
     if (!trySet(object, name, value)) {
-        throw RuntimeError(ErrorNumber::NoSuchMember);
+        throw noSuchMember(name, object.typeName());
     }
 }
 
@@ -65,7 +65,7 @@ Variant callMember(Object& object, StringView name, std::span<const Variant> arg
     if (auto result = tryCall(object, name, arguments)) {
         return *std::move(result);
     }
-    throw RuntimeError(ErrorNumber::NoSuchMember);
+    throw noSuchMember(name, object.typeName());
 }
 
 } // namespace phial

@@ -54,4 +54,14 @@ RuntimeError::RuntimeError(std::int32_t number, String description)
 {
 }
 
+RuntimeError noSuchMember(StringView member, StringView owner)
+{
+    return {ErrorNumber::NoSuchMember,
+            String(errorDescription(static_cast<std::int32_t>(ErrorNumber::NoSuchMember)))
+                .append(u": ")
+                .append(member)
+                .append(u" of ")
+                .append(owner)};
+}
+
 } // namespace phial

@@ -49,6 +49,9 @@ private:
     std::string utf8_;
 };
 
+/// Error 438, with the name that was asked for and where: "No such member: but_Ok of frm_Start".
+RuntimeError noSuchMember(StringView member, StringView owner);
+
 /// Runs one statement and drops what it raises: the visible form of "errors ignored". Gives whether it ran to
 /// its end.
 template <typename Statement>

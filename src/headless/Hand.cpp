@@ -171,7 +171,7 @@ void clickButton(Control& bar, StringView key)
             return;
         }
     }
-    throw RuntimeError(ErrorNumber::NoSuchMember);
+    throw noSuchMember(key, bar.NAME());
 }
 
 void press(Form& form, const KeyStroke& stroke, KeyDown down)

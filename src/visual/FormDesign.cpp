@@ -22,7 +22,7 @@ void setAny(Control& control, std::span<const StringView> members, const Variant
     const bool isSet =
         std::ranges::any_of(members, [&](StringView member) { return trySet(control, member, value); });
     if (!isSet) {
-        throw RuntimeError(ErrorNumber::NoSuchMember);
+        throw noSuchMember(members.front(), control.typeName());
     }
 }
 
@@ -58,7 +58,7 @@ Container& holderOf(Form& form, const ControlDesign& design)
     }
     Container* holder = form.control<Control>(design.holder)->container();
     if (!holder) {
-        throw RuntimeError(ErrorNumber::NoSuchMember);
+        throw noSuchMember(u"container", design.holder);
     }
     holder->ScaleMode(form.ScaleMode());
     return *holder;
@@ -68,7 +68,7 @@ void addButtons(Control& control, std::span<const ButtonDesign> buttons)
 {
     auto* bar = dynamic_cast<CommandBar*>(&control);
     if (!bar) {
-        throw RuntimeError(ErrorNumber::NoSuchMember);
+        throw noSuchMember(u"BUTTONS", control.typeName());
     }
     for (const ButtonDesign& button : buttons) {
         bar->BUTTONS()->Add(String(button.key), String(button.caption))->Default(button.isDefault);
