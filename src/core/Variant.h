@@ -7,11 +7,21 @@
 
 #include <concepts>
 #include <cstdint>
+#include <utility>
 #include <variant>
 #include <vector>
 
 namespace phial
 {
+
+template <typename Type>
+concept CharacterType = std::same_as<Type, char> || std::same_as<Type, wchar_t> ||
+    std::same_as<Type, char8_t> || std::same_as<Type, char16_t> || std::same_as<Type, char32_t>;
+
+/// What counts as a number, unlike Booleans and characters, and is none of 32 bits.
+template <typename Type>
+concept OtherInteger = std::integral<Type> && !std::same_as<Type, bool> &&
+                       !std::same_as<Type, std::int32_t> && !CharacterType<Type>;
 
 /// A tagged value: empty, Boolean, 32-bit whole number, double, moment, text, array of such values, or
 /// object.
@@ -31,7 +41,17 @@ public:
     Variant(Boolean value) : value_(value) // NOLINT(google-explicit-constructor): a value is a value
     {
     }
-    Variant(std::int32_t value) : value_(value) {}            // NOLINT(google-explicit-constructor)
+    Variant(std::int32_t value) : value_(value) {} // NOLINT(google-explicit-constructor)
+    /// Other integers, such as a std::size_t: whole where they have room in 32 bits, real beyond.
+    template <OtherInteger Integer>
+    Variant(Integer value) // NOLINT(google-explicit-constructor)
+        : value_(std::in_range<std::int32_t>(value) ? Content(static_cast<std::int32_t>(value))
+                                                    : Content(static_cast<double>(value)))
+    {
+    }
+    /// A character is no number, and a text only as a String.
+    template <CharacterType Character>
+    Variant(Character value) = delete;
     Variant(double value) : value_(value) {}                  // NOLINT(google-explicit-constructor)
     Variant(phial::Moment value) : value_(value) {}           // NOLINT(google-explicit-constructor)
     Variant(String value) : value_(std::move(value)) {}       // NOLINT(google-explicit-constructor)

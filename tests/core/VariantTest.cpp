@@ -23,6 +23,17 @@ TEST(VariantTest, KindFollowsTheExactType)
     EXPECT_EQ(Variant(ObjectPtr()).kind(), Variant::Kind::Object);
 }
 
+TEST(VariantTest, IntegersOfOtherSizesAreWholeWhileTheyFit)
+{
+    EXPECT_EQ(Variant(std::size_t{7}).kind(), Variant::Kind::Whole);
+    EXPECT_EQ(Variant(std::int64_t{-7}), Variant(-7));
+    EXPECT_EQ(Variant(std::uint8_t{255}), Variant(255));
+    EXPECT_EQ(Variant(2147483647L), Variant(2147483647));
+    EXPECT_EQ(Variant(2147483648L).kind(), Variant::Kind::Real);
+    EXPECT_EQ(Variant(2147483648L), Variant(2147483648.0));
+    static_assert(!std::is_constructible_v<Variant, char16_t>, "a character is no number");
+}
+
 TEST(VariantTest, ContentOfAnotherKindRaises)
 {
     EXPECT_RAISES(Variant(1).text(), TypeMismatch);
