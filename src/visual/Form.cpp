@@ -200,8 +200,13 @@ void Form::decoration(PixelSize value)
 
 void Form::place(const ControlPtr& control, phial::Container& into)
 {
+    if (control && objects_.find(control->NAME(), control->Index())) {
+        throw RuntimeError(ErrorNumber::InvalidArgument, NAME() + u" has a control already that is called " +
+                                                             control->NAME() +
+                                                             u"; an Index tells several apart.");
+    }
     into.add(control);
-    control->frame().Parent(shared_from_this());
+    control->frame().Parent(shared());
     objects_.add(control);
     control->frame().tellSeen();
 }
@@ -273,13 +278,24 @@ void Form::load()
     }
     loaded_ = true;
     aborting_ = false;
-    visualHost().forms().loaded(shared_from_this());
+    visualHost().forms().loaded(shared());
     Load.raise();
+}
+
+std::shared_ptr<Form> Form::shared()
+{
+    auto self = weak_from_this().lock();
+    if (!self) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet,
+                           u"A form is held by a shared pointer: std::make_shared<phial::Form>(u\"" + NAME() +
+                               u"\").");
+    }
+    return self;
 }
 
 void Form::Show(FormShow how)
 {
-    const auto self = shared_from_this();
+    const auto self = shared();
     if (how == FormShow::Modal && Visible()) {
         throw RuntimeError(400, u"Form already displayed; can't show modally");
     }
@@ -503,7 +519,7 @@ Variant translate(Object& form, std::span<const Variant> /*arguments*/)
 {
     const Event<>& handlers = static_cast<Form&>(form).TRANSLATE;
     if (!handlers.hasHandlers()) {
-        throw RuntimeError(ErrorNumber::NoSuchMember);
+        throw noSuchMember(u"TRANSLATE", form.typeName());
     }
     handlers.raise();
     return {};

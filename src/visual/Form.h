@@ -138,7 +138,7 @@ public:
     {
         auto found = std::dynamic_pointer_cast<Class>(find(name, index));
         if (!found) {
-            throw RuntimeError(ErrorNumber::NoSuchMember);
+            throw noSuchMember(name, NAME());
         }
         return found;
     }
@@ -251,6 +251,8 @@ private:
     /// `place` by the program: tells the window and raises Resize.
     void take(double left, double top, double width, double height);
     void takeZoomOf(const Form& opener);
+    /// This form; raises 91 where no shared pointer holds it.
+    std::shared_ptr<Form> shared();
     void centre();
     void place(const ControlPtr& control, phial::Container& into);
     void removeControl(Control& control);

@@ -266,7 +266,7 @@ TEST_F(DialogKeyboardTerm, OffersNothingWithoutLeaveOrWish)
     OfferLeave::current()->isGiven = true;
     wantOffers(false);
     frm_DialogKeyboardTerm unwanted;
-    unwanted.TargetControl(termTarget(u"H2S"));
+    unwanted.TargetControl(termTarget(u"H2S", u"second"));
     unwanted.form().Show();
     EXPECT_FALSE(unwanted.form().control<ctl_Offers>(u"ctl_Offers")->frame().Visible());
     unwanted.form().Unload();
@@ -280,7 +280,7 @@ TEST_F(DialogKeyboardTerm, OffersNothingForHiddenSignsOrALockedTerm)
     open(box);
     EXPECT_FALSE(offers()->frame().Visible());
     frm_DialogKeyboardTerm locked;
-    const auto term = termTarget(u"H2S");
+    const auto term = termTarget(u"H2S", u"second");
     term->LOCKED(true);
     locked.TargetControl(term);
     locked.form().Show();

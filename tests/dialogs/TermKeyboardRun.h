@@ -38,9 +38,9 @@ protected:
     using KeyboardRun<Dialog>::keyboard;
 
     std::shared_ptr<clt_TermInput> field() { return this->template get<clt_TermInput>(u"txt_Input"); }
-    std::shared_ptr<clt_TermInput> termTarget(StringView term)
+    std::shared_ptr<clt_TermInput> termTarget(StringView term, StringView name = u"target")
     {
-        const auto made = this->template target<clt_TermInput>();
+        const auto made = this->template target<clt_TermInput>(name);
         made->Term(String(term));
         return made;
     }

@@ -21,6 +21,18 @@ std::optional<std::int32_t> raisedBy(Statement&& statement)
     return std::nullopt;
 }
 
+/// How what the statement raises is described; empty when it raises none.
+template <typename Statement>
+String describedBy(Statement&& statement)
+{
+    try {
+        statement();
+    } catch (const RuntimeError& error) {
+        return error.Description();
+    }
+    return {};
+}
+
 } // namespace phial::test
 
 /// Expects that a statement raises the run-time error of that `ErrorNumber`.

@@ -33,7 +33,25 @@ TEST_F(FormControls, AreCountedFromZeroAndFoundByNameAndIndex)
     EXPECT_EQ(form->control<Label>(u"lab_Key", 1)->Left(), 720);
     EXPECT_EQ(form->find(u"lab_Key"), nullptr) << "elements of an array need their index";
     EXPECT_RAISES(form->control<TextBox>(u"lab_Key", 0), NoSuchMember);
+    EXPECT_EQ(describedBy([&] { form->control<TextBox>(u"txt_None"); }),
+              u"No such member: txt_None of frm_Test");
     EXPECT_RAISES(form->controlAt(4), IndexOutOfBounds);
+}
+
+TEST_F(FormControls, OfOneNameAreRefusedWithoutAnIndex)
+{
+    form->add<Label>(u"lab_Title");
+    EXPECT_RAISES(form->add<TextBox>(u"LAB_TITLE"), InvalidArgument);
+    EXPECT_EQ(form->controlCount(), 1U);
+    EXPECT_NE(describedBy([&] { form->add<Label>(u"lab_Title"); }).find(u"lab_Title"), String::npos);
+}
+
+TEST_F(FormControls, AFormThatNoPointerHoldsSaysHowItIsMade)
+{
+    Form onTheStack(u"frm_Stack");
+    EXPECT_RAISES(onTheStack.Show(), ObjectNotSet);
+    EXPECT_RAISES(onTheStack.add<Label>(u"lab_Title"), ObjectNotSet);
+    EXPECT_NE(describedBy([&] { onTheStack.Show(); }).find(u"make_shared"), String::npos);
 }
 
 TEST_F(FormControls, EntriesOfTheMenuBarFollowTheControls)
