@@ -19,9 +19,10 @@ using namespace phial::test;
 
 constexpr double ShortSeconds = 0.4;
 
-class HaltedServer : public testing::Test
+/// A program that sounds, and the server that it sounds through.
+class ServedProgram
 {
-protected:
+public:
     /// Gives an order to the program, with a sound of so many seconds.
     double ask(const char* order, double seconds) { return program_.ask(orderFor(order, seconds)); }
     QByteArray orderFor(const char* order, double seconds)
@@ -70,10 +71,15 @@ protected:
         EXPECT_EQ(program_.complaints(), "");
     }
 
+protected:
     SoundServer server_;
     TemporaryFolder folder_;
     SoundProgram program_{
         "sound_app", server_.environment(), {QString::fromStdString(folder_.native().string())}};
+};
+
+class HaltedServer : public testing::Test, protected ServedProgram
+{
 };
 
 TEST_F(HaltedServer, HoldsUpNoWindowBeforeTheFirstSound)
@@ -135,15 +141,31 @@ TEST_F(DeadServer, ClosesThePraiseWindowAndSaysNothing)
     expectTheProgramEnds();
 }
 
-TEST_F(DeadServer, IsHeardAgainWhenItIsBack)
+/// A server that dies under a program, and another that takes its place.
+class ReplacedServer : private ServedProgram
 {
-    ASSERT_TRUE(program_.hasTold("ready"));
-    EXPECT_TRUE(isHeard());
-    server_.kill();
-    QThread::msleep(500); // a sound that begins while the server dies is lost, and the device with it
-    EXPECT_GT(ask("play", ShortSeconds), 0);
-    server_.start();
-    EXPECT_TRUE(isHeard());
+public:
+    /// Whether the program is heard through the second server as it was through the first.
+    bool isHeardAgain()
+    {
+        EXPECT_TRUE(program_.hasTold("ready"));
+        EXPECT_TRUE(isHeard());
+        server_.kill();
+        QThread::msleep(500); // a sound that begins while the server dies is lost, and the device with it
+        EXPECT_GT(ask("play", ShortSeconds), 0);
+        server_.start();
+        return isHeard();
+    }
+};
+
+/// The toolkit looks for another server once, three seconds after the first one's end: on a computer that is
+/// too busy to start one by then, the program stays silent.
+TEST(ReplacedServer, IsHeardAgainWhenItIsBack)
+{
+    bool heard = false;
+    for (int attempt = 0; attempt < 5 && !heard; ++attempt)
+        heard = ReplacedServer().isHeardAgain();
+    EXPECT_TRUE(heard);
 }
 
 } // namespace
