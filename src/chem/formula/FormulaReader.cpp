@@ -94,6 +94,7 @@ public:
             readSpecies();
         }
         if (tree_.arrow == FormulaArrow::None) {
+            refuseCapitalPair();
             if (isEquation_) {
                 refuse(FormulaFault::ArrowMissing, 0, at_);
             }
@@ -152,6 +153,27 @@ private:
     {
         const SourceSpan span = spanOf(begin, end);
         throw Refused{{fault, span, String(text_.substr(span.start, span.length)), std::move(suggestions)}};
+    }
+
+    // What was read.
+
+    /// Two capitals and nothing else, such as CU or CU1.
+    void refuseCapitalPair() const
+    {
+        const auto& items = tree_.items;
+        if (items.size() != 2 || items[0].isGroup() || items[1].isGroup()) {
+            return;
+        }
+        const FormulaTree pair{
+            .items = {{.element = items[0].element, .end = 1}, {.element = items[1].element, .end = 2}},
+            .parts = {{.end = 2}},
+            .species = {{.end = 1}}};
+        const String capitals =
+            String(elementOf(items[0].element).symbol).append(elementOf(items[1].element).symbol);
+        if (std::ranges::find(CapitalPairs, capitals) != CapitalPairs.end() && tree_ == pair) {
+            refuse(FormulaFault::CapitalPair, 0, units_.size(),
+                   {String{capitals[0], lowerCase(capitals[1])}});
+        }
     }
 
     // Equations.
@@ -408,7 +430,6 @@ private:
             const std::size_t end = second == TextEnd ? at_ + 1 : at_ + 2;
             refuse(FormulaFault::UnknownSymbol, at_, end, suggestedFormulas(text_));
         }
-        refuseCapitalPair();
         at_ += length;
         FormulaItem& atom = appendItem();
         atom.element = static_cast<std::uint8_t>(element);
@@ -417,16 +438,6 @@ private:
         atom.span = spanOfUnits(begin, at_);
         if (endsSymbol(sign())) {
             refuse(FormulaFault::SmallLetter, at_, at_ + 1, suggestedFormulas(text_));
-        }
-    }
-
-    /// Two capitals alone, such as CU.
-    void refuseCapitalPair() const
-    {
-        constexpr std::size_t Pair = 2;
-        if (units_.size() == Pair && at_ == 0 &&
-            std::ranges::find(CapitalPairs, text_) != CapitalPairs.end()) {
-            refuse(FormulaFault::CapitalPair, 0, Pair, {String{units_[0].sign, lowerCase(units_[1].sign)}});
         }
     }
 
