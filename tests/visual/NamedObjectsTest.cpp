@@ -52,7 +52,8 @@ TEST_F(FormNames, AreFoundByTheirIndexWhenPutIntoAnArray)
 TEST_F(FormNames, TheFirstOfOneNameCounts)
 {
     const auto first = form->add<Label>(u"lab_Same");
-    const auto second = form->add<TextBox>(u"lab_Same");
+    const auto second = form->add<TextBox>(u"lab_Other");
+    second->frame().NAME(u"lab_Same");
     EXPECT_EQ(form->find(u"lab_Same"), first);
     form->remove(*first);
     EXPECT_EQ(form->find(u"lab_Same"), second);

@@ -25,7 +25,7 @@ protected:
     template <typename Class>
     std::shared_ptr<Class> placed(double widthInPixels, double heightInPixels)
     {
-        auto control = form->add<Class>(u"ctl_Test");
+        auto control = form->add<Class>(String(u"ctl_Test").append(form->controlCount(), u'_'));
         control->frame().pixelRectangle({0, 0, widthInPixels, heightInPixels});
         return control;
     }
